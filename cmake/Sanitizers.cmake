@@ -1,0 +1,11 @@
+option(MERIX_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+option(MERIX_COVERAGE "Build for coverage measurement" OFF)
+
+if(MERIX_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(MERIX_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

@@ -1,0 +1,3 @@
+#include "host/core/FBasicType.h"
+
+FClassData FBasicType::mClass("FBasicType", &FObject::mClass);

@@ -1,0 +1,3 @@
+#include "host/core/FBool.h"
+
+FClassData FBool::mClass("FBool", &FBasicType::mClass);

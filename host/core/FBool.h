@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/core/FBasicType.h"
+
+/** True or false. As a number 1 or 0. */
+class FBool : public FClass<FBool, FBasicType> {
+ public:
+    static FClassData mClass;
+
+    explicit FBool(bool value = false) : mValue(value) {}
+    FObject* clone() const override { return new FBool(mValue); }
+
+    bool getValue() const { return mValue; }
+    QString toString() const override { return mValue ? QStringLiteral("true") : QStringLiteral("false"); }
+    int toInt() const override { return mValue ? 1 : 0; }
+    double toDouble() const override { return mValue ? 1 : 0; }
+
+ private:
+    bool mValue;
+};

@@ -1,0 +1,33 @@
+#include "host/core/FClassData.h"
+
+#include "host/core/FStateField.h"
+
+struct FClassData::FieldCache {
+    std::vector<std::unique_ptr<FStateField>> own;
+    std::vector<const FStateField*> all;
+};
+
+bool FClassData::isSuperClassOf(const FClassData& other) const {
+    for (const FClassData* data = &other; data; data = data->mpSuper) {
+        if (data == this) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const std::vector<const FStateField*>& FClassData::getFields() const {
+    if (!mpFieldCache) {
+        mpFieldCache = new FieldCache;
+        if (mpSuper) {
+            mpFieldCache->all = mpSuper->getFields();
+        }
+        if (mFields) {
+            mpFieldCache->own = mFields();
+        }
+        for (const auto& field : mpFieldCache->own) {
+            mpFieldCache->all.push_back(field.get());
+        }
+    }
+    return mpFieldCache->all;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class FCmdTable;
+class FObject;
+class FStateField;
+
+/** The families of classes; each has a registrar and a flag of its own. */
+enum class FFamily { Object, Managed };
+
+/**
+ * What is known of one class: the one place for all that the class pattern keeps per class.
+ *
+ * Each class owns exactly one, a static member `mClass` defined in its source file. All members that a class states
+ * are constants, so that the object exists before any code runs; everything else is filled in later.
+ */
+class FClassData {
+ public:
+    using Commands = void (*)(FCmdTable&);
+    using Fields = std::vector<std::unique_ptr<FStateField>> (*)();
+
+    /**
+     * @param name      the class name, spelled exactly as the class
+     * @param super     the direct base; null for FObject alone
+     * @param commands  fills the table of the class's commands; null if it has none
+     * @param fields    the raw fields that the history keeps, without those of the base; null if there are none
+     */
+    constexpr FClassData(const char* name, FClassData* super, Commands commands = nullptr, Fields fields = nullptr,
+                         unsigned systemFlag = 0)
+        : mName(name), mpSuper(super), mCommands(commands), mFields(fields), mSystemFlag(systemFlag) {}
+    FClassData(const FClassData&) = delete;
+    FClassData& operator=(const FClassData&) = delete;
+
+    QString getName() const { return QString::fromLatin1(mName); }
+    FClassData* getSuper() const { return mpSuper; }
+    Commands getCommands() const { return mCommands; }
+
+    /** The raw fields of the class and of its bases, those of the base first. */
+    const std::vector<const FStateField*>& getFields() const;
+
+    /** True if `other` is this class or derived from it. */
+    bool isSuperClassOf(const FClassData& other) const;
+
+ private:
+    struct FieldCache;
+
+    const char* mName;
+    FClassData* mpSuper;
+    Commands mCommands;
+    Fields mFields;
+    mutable FieldCache* mpFieldCache = nullptr;  // built at first use, kept to the end of the program
+
+ public:
+    unsigned int mSystemFlag;
+    bool mCmdsInitialized = false;
+    bool mInitializing = false;
+    bool mTypeDocuInitialized = false;
+    const FObject* mpNull = nullptr;  //!< the prototype
+};

@@ -1,0 +1,16 @@
+#include "host/core/FBool.h"
+#include "host/core/FEnumBase.h"
+#include "host/core/FInitPrototype.h"
+#include "host/core/FNull.h"
+#include "host/core/FNumber.h"
+#include "host/core/FObjectList.h"
+#include "host/core/FScope.h"
+#include "host/core/FString.h"
+
+namespace {
+
+const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase,
+                      FObjectList, FManaged, FEntity, FScope>
+    types;
+
+}  // namespace

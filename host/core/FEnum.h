@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/core/FEnumBase.h"
+
+/**
+ * The script type of the C++ enumeration E. Its table and its class data are specialised beside E; a value made
+ * without an argument has the default.
+ */
+template <class E>
+class FEnum : public FClass<FEnum<E>, FEnumBase> {
+    using Base = FClass<FEnum<E>, FEnumBase>;
+
+ public:
+    static FClassData mClass;
+    static const FEnumTable& table();
+
+    FEnum() : Base(FObject::mInitPrototype ? 0U : table().getDefaultValue()) {}
+    FEnum(E value) : Base(static_cast<unsigned int>(value)) {}  // NOLINT(google-explicit-constructor)
+    explicit FEnum(const QString& text) : Base(getValueForString(text)) {}
+    FObject* clone() const override { return new FEnum(get()); }
+
+    E get() const { return static_cast<E>(this->getValue()); }
+    static unsigned int getValueForString(const QString& text) { return FEnumBase::numberOf(table(), text); }
+
+    bool operator==(const QString& text) const { return this->getValue() == getValueForString(text); }
+    bool operator!=(const QString& text) const { return !(*this == text); }
+    bool operator==(const FEnum& other) const { return this->getValue() == other.getValue(); }
+
+ protected:
+    const FEnumTable* getTable() const override { return &table(); }
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/core/FExprBase.h"
+
+/** A handle on an object of class T, or on an expression that gives one. */
+template <class T>
+class FExpr : public FExprBase {
+ public:
+    FExpr() = default;
+    FExpr(std::nullptr_t) {}                                      // NOLINT(google-explicit-constructor)
+    FExpr(const FObject* object) { convert(FExprBase(object)); }  // NOLINT(google-explicit-constructor)
+    FExpr(const T* object)                                        // NOLINT(google-explicit-constructor)
+        requires(!std::is_same_v<T, FObject>)
+        : FExprBase(static_cast<const FObject*>(object)) {}
+    FExpr(const FExpr&) = default;
+    FExpr(FExpr&&) noexcept = default;
+    FExpr(const FExprBase& other) { convert(other); }  // NOLINT(google-explicit-constructor)
+    ~FExpr() = default;
+
+    FExpr& operator=(const FExpr&) = default;
+    FExpr& operator=(FExpr&&) noexcept = default;
+    FExpr& operator=(const FExprBase& other) {
+        convert(other);
+        return *this;
+    }
+    FExpr& operator=(const FObject* object) {
+        convert(FExprBase(object));
+        return *this;
+    }
+    /** Binds an expression's text, as `resolve`. */
+    FExpr& operator=(const QString& text) {
+        FExprBase bound;
+        bound.resolve(text);
+        convert(bound);
+        return *this;
+    }
+
+    /** The object behind the handle, or null. */
+    T* ptr() const { return dynamic_cast<T*>(getObject()); }
+    T* operator->() const { return ptr(); }
+    bool operator!() const { return !static_cast<bool>(*this); }
+    explicit operator bool() const { return isCmd() ? isValid() : ptr() != nullptr; }
+
+    const FObject* getNativeType() const { return T::null(); }
+
+ private:
+    // What a name or a literal gives is known at once; an expression of a wider type is decided when it is evaluated.
+    void convert(const FExprBase& other) {
+        const FObject* type = other.getType();
+        const bool fits = !type || type->isTypeOf(T::null()) || (other.isCmd() && T::null()->isTypeOf(type)) ||
+                          dynamic_cast<const T*>(other.getStored());
+        FExprBase::operator=(fits ? other : FExprBase());
+    }
+};

@@ -1,0 +1,92 @@
+#include "host/core/FExprBase.h"
+
+#include "host/core/FScriptLanguage.h"
+
+#include <utility>
+
+FExprBase& FExprBase::operator=(const FExprBase& other) {
+    // The old object may own the handle that is assigned from, so the new one is taken first.
+    FExprBase copy(other);
+    std::swap(mpBlock, copy.mpBlock);
+    return *this;
+}
+
+FExprBase& FExprBase::operator=(FExprBase&& other) noexcept {
+    std::swap(mpBlock, other.mpBlock);
+    return *this;
+}
+
+void FExprBase::take(FObjectBlock* block) {
+    mpBlock = block;
+    if (block) {
+        ++block->handles;
+    }
+}
+
+void FExprBase::release() {
+    FObjectBlock* block = std::exchange(mpBlock, nullptr);
+    if (!block || --block->handles > 0) {
+        return;
+    }
+    if (!block->object) {
+        delete block;
+        return;
+    }
+    const bool ownedByHandles =
+        block->kind == FObjectBlock::Kind::Plain || (block->kind == FObjectBlock::Kind::Managed && block->outOfModel);
+    if (ownedByHandles) {
+        delete block->object;
+    }
+}
+
+bool FExprBase::isCmd() const {
+    const FObject* stored = getStored();
+    return stored && stored->isCmd();
+}
+
+FObject* FExprBase::getObject() const {
+    FObject* stored = getStored();
+    return stored ? stored->evaluate() : nullptr;
+}
+
+const FObject* FExprBase::getType() const {
+    const FObject* stored = getStored();
+    return stored ? stored->getResultType() : nullptr;
+}
+
+bool FExprBase::canSafelyBeUpdated(bool mayReadFiles) const {
+    const FObject* stored = getStored();
+    return !stored || stored->canSafelyBeUpdated(mayReadFiles);
+}
+
+QString FExprBase::toString(const FObject* scope) const {
+    Q_UNUSED(scope)
+    const FObject* stored = getStored();
+    return stored ? stored->toString() : QStringLiteral("NULL");
+}
+
+QString FExprBase::toHistoryString() const {
+    const FObject* stored = getStored();
+    return stored ? stored->toHistoryString() : QStringLiteral("NULL");
+}
+
+bool FExprBase::resolve(const QString& text) {
+    *this = FScriptLanguage::instance()->resolve(text, nullptr);
+    return !isEmpty();
+}
+
+bool FExprBase::registerClient(const FObject* client, bool immediate) const {
+    if (!mpBlock || !mpBlock->object) {
+        return true;
+    }
+    if (immediate) {
+        const_cast<FObject*>(client)->setUpdateOnDemand(false);
+    }
+    return client->addSupplier(mpBlock->object);
+}
+
+void FExprBase::unregisterClient(const FObject* client) const {
+    if (mpBlock && mpBlock->object) {
+        client->removeSupplier(mpBlock->object);
+    }
+}

@@ -1,0 +1,190 @@
+#include "host/core/FHistory.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <utility>
+
+FHistory* FHistory::instance() {
+    // Never destroyed: it holds objects whose destructors use other parts of the program.
+    static auto* history = new FHistory;
+    return history;
+}
+
+void FHistory::startTransaction(const QString& label) {
+    if (mDepth++ == 0) {
+        mOpen = Transaction();
+        mTouched.clear();
+        mOpen.label = label;
+    }
+}
+
+void FHistory::commit(int steps) {
+    if (mDepth == 0) {
+        return;
+    }
+    mDepth = std::max(0, mDepth - steps);
+    if (mDepth == 0) {
+        close();
+    }
+}
+
+void FHistory::close() {
+    Transaction step = std::exchange(mOpen, Transaction());
+    if (step.isEmpty()) {
+        return;
+    }
+    for (ObjectChange& change : step.objects) {
+        keepDifference(change, step.size);
+    }
+    step.size += step.model.size() * sizeof(ModelChange) + step.objects.size() * sizeof(ObjectChange);
+    mSize += step.size;
+    mDone.push_back(std::move(step));
+    for (const Transaction& undone : mUndone) {
+        mSize -= undone.size;
+    }
+    mUndone.clear();
+    trim();
+}
+
+void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {
+    FManaged& object = *change.managed;
+    FState now = FState::capture(object);
+    const auto& fields = object.getClassData().getFields();
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (!fields[i]->equal(change.before.values[i], now.values[i])) {
+            size += fields[i]->size(change.before.values[i]) + fields[i]->size(now.values[i]);
+            change.fields.push_back({i, std::move(change.before.values[i]), now.values[i]});
+        }
+    }
+    change.before.values.clear();
+    object.mpKnownState = std::make_unique<FState>(std::move(now));
+}
+
+void FHistory::rollback() {
+    if (mDepth == 0) {
+        return;
+    }
+    mDepth = 0;
+    Transaction step = std::exchange(mOpen, Transaction());
+    for (ObjectChange& change : step.objects) {
+        keepDifference(change, step.size);
+    }
+    replay(step, false);
+}
+
+void FHistory::addStep(const FManaged* object) {
+    if (!object || !object->isInModel() || !isRecording()) {
+        return;
+    }
+    if (mDepth == 0) {
+        startTransaction(object->getName());
+        touch(const_cast<FManaged*>(object));
+        commit(1);
+    } else {
+        touch(const_cast<FManaged*>(object));
+    }
+}
+
+void FHistory::touch(FManaged* object) {
+    if (!mTouched.contains(object) && object->mpKnownState) {
+        mTouched.insert(object);
+        mOpen.objects.push_back({FExprBase(object), object, *object->mpKnownState, {}});
+    }
+}
+
+void FHistory::recordCreation(FManaged* object) {
+    if (mDepth > 0 && isRecording()) {
+        mOpen.model.push_back({FExprBase(object), object, true});
+    }
+}
+
+void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& clients) {
+    if (mDepth == 0 || !isRecording()) {
+        return;
+    }
+    touch(object);
+    for (FObject* client : clients) {
+        auto* managed = dynamic_cast<FManaged*>(client);
+        if (managed && managed->isInModel()) {
+            touch(managed);
+        }
+    }
+    mOpen.model.push_back({FExprBase(object), object, false});
+}
+
+bool FHistory::undo() {
+    if (mDepth > 0 || mDone.empty()) {
+        return false;
+    }
+    Transaction step = std::move(mDone.back());
+    mDone.pop_back();
+    replay(step, false);
+    mUndone.push_back(std::move(step));
+    return true;
+}
+
+bool FHistory::redo() {
+    if (mDepth > 0 || mUndone.empty()) {
+        return false;
+    }
+    Transaction step = std::move(mUndone.back());
+    mUndone.pop_back();
+    replay(step, true);
+    mDone.push_back(std::move(step));
+    return true;
+}
+
+void FHistory::replay(const Transaction& step, bool forward) {
+    mReplaying = true;
+    const auto changeModel = [forward](const ModelChange& change) {
+        auto* object = change.managed;
+        if (change.created == forward) {
+            object->enter();
+        } else {
+            object->leave();
+        }
+    };
+    if (forward) {
+        std::for_each(step.model.begin(), step.model.end(), changeModel);
+    } else {
+        std::for_each(step.model.rbegin(), step.model.rend(), changeModel);
+    }
+    for (const ObjectChange& change : step.objects) {
+        const auto& fields = change.managed->getClassData().getFields();
+        for (const FieldChange& field : change.fields) {
+            fields[field.field]->write(*change.managed, forward ? field.after : field.before);
+        }
+        change.managed->mpKnownState = std::make_unique<FState>(FState::capture(*change.managed));
+    }
+    mReplaying = false;
+    for (const ObjectChange& change : step.objects) {
+        change.managed->setOutOfDate(true);
+    }
+}
+
+QStringList FHistory::getLabels() const {
+    QStringList labels;
+    for (const Transaction& step : mDone) {
+        labels.append(step.label);
+    }
+    return labels;
+}
+
+void FHistory::clear() {
+    mDone.clear();
+    mUndone.clear();
+    mSize = 0;
+}
+
+void FHistory::setLimit(std::size_t bytes) {
+    mLimit = bytes;
+    trim();
+}
+
+void FHistory::trim() {
+    while (mSize > mLimit && mDone.size() > 1) {
+        mSize -= mDone.front().size;
+        mDone.pop_front();
+    }
+}

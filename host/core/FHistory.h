@@ -1,0 +1,110 @@
+#pragma once
+
+#include "host/core/FManaged.h"
+
+#include <QSet>
+#include <QString>
+
+#include <deque>
+#include <vector>
+
+/**
+ * Undo and redo. A transaction is one undo step with a label; transactions nest, and the outermost one counts. An
+ * object may be added to it before or after its change: what is kept is the difference to its last known state, field
+ * by field.
+ */
+class FHistory {
+ public:
+    static FHistory* instance();
+
+    void startTransaction(const QString& label);
+    /** Ends a transaction; `steps` is the number of transactions to end, in general 1. */
+    void commit(int steps = 1);
+    /** Ends the outermost transaction and takes back what it did. */
+    void rollback();
+    /** The object belongs to the step. Without an open transaction it becomes a step of its own. */
+    void addStep(const FManaged* object);
+    bool inTransaction() const { return mDepth > 0; }
+
+    bool undo();
+    bool redo();
+    /** Labels of the steps that can be undone, the oldest first. */
+    QStringList getLabels() const;
+    bool canRedo() const { return !mUndone.empty(); }
+    void clear();
+
+    /** How much memory steps may hold, in bytes; the oldest steps are dropped first. */
+    void setLimit(std::size_t bytes);
+    std::size_t getSize() const { return mSize; }
+
+    /** True while undo or redo replays: nothing is recorded and nothing follows from a destruction. */
+    bool isReplaying() const { return mReplaying; }
+
+    // Only for FManaged.
+    void recordCreation(FManaged* object);
+    void recordDestruction(FManaged* object, const std::vector<FObject*>& clients);
+
+ private:
+    friend class FHistoryBlocker;
+
+    struct ModelChange {
+        FExprBase object;
+        FManaged* managed;
+        bool created;
+    };
+    struct FieldChange {
+        std::size_t field;
+        std::any before;
+        std::any after;
+    };
+    struct ObjectChange {
+        FExprBase object;
+        FManaged* managed;
+        FState before;  // all fields while the transaction is open
+        std::vector<FieldChange> fields;
+    };
+    struct Transaction {
+        QString label;
+        std::vector<ModelChange> model;
+        std::vector<ObjectChange> objects;
+        std::size_t size = 0;
+        bool isEmpty() const { return model.empty() && objects.empty(); }
+    };
+
+    bool isRecording() const { return !mReplaying && mBlockers == 0; }
+    void touch(FManaged* object);
+    void close();
+    static void keepDifference(ObjectChange& change, std::size_t& size);
+    void replay(const Transaction& step, bool forward);
+    void trim();
+
+    int mDepth = 0;
+    int mBlockers = 0;
+    bool mReplaying = false;
+    Transaction mOpen;
+    QSet<const FManaged*> mTouched;  // the objects of mOpen
+    std::deque<Transaction> mDone;
+    std::vector<Transaction> mUndone;
+    std::size_t mSize = 0;
+    std::size_t mLimit = std::size_t{256} << 20U;
+};
+
+/** A transaction for the life of the object. */
+class FHistoryTransaction {
+ public:
+    explicit FHistoryTransaction(const QString& label) { FHistory::instance()->startTransaction(label); }
+    ~FHistoryTransaction() { FHistory::instance()->commit(1); }
+    FHistoryTransaction(const FHistoryTransaction&) = delete;
+    FHistoryTransaction& operator=(const FHistoryTransaction&) = delete;
+
+    void addStep(const FManaged* object) { FHistory::instance()->addStep(object); }
+};
+
+/** While one exists, nothing is recorded. */
+class FHistoryBlocker {
+ public:
+    FHistoryBlocker() { ++FHistory::instance()->mBlockers; }
+    ~FHistoryBlocker() { --FHistory::instance()->mBlockers; }
+    FHistoryBlocker(const FHistoryBlocker&) = delete;
+    FHistoryBlocker& operator=(const FHistoryBlocker&) = delete;
+};

@@ -1,0 +1,26 @@
+#include "host/core/FIO.h"
+
+#include "host/core/FUserInterface.h"
+
+int FIO::question(void* parent, const QString& title, const QString& text, const QString& button0,
+                  const QString& button1, const QString& button2, int defaultButton, int escape, bool* flag,
+                  const QString& key) {
+    Q_UNUSED(parent)
+    Q_UNUSED(escape)
+    Q_UNUSED(flag)
+    Q_UNUSED(key)
+    QStringList buttons{button0, button1, button2};
+    buttons.removeAll(QString());
+    return FUserInterface::instance()->ask(title, text, buttons, defaultButton);
+}
+
+void FIO::information(void* parent, const QString& title, const QString& text, const QString& button0,
+                      const QString& button1, const QString& button2, int defaultButton, int escape) {
+    Q_UNUSED(parent)
+    Q_UNUSED(button0)
+    Q_UNUSED(button1)
+    Q_UNUSED(button2)
+    Q_UNUSED(defaultButton)
+    Q_UNUSED(escape)
+    FUserInterface::instance()->tell(title, text);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+/** While one exists, objects with immediate update wait; they are updated when the last one goes. */
+class FImmediateUpdateBlocker {
+ public:
+    FImmediateUpdateBlocker();
+    ~FImmediateUpdateBlocker();
+    FImmediateUpdateBlocker(const FImmediateUpdateBlocker&) = delete;
+    FImmediateUpdateBlocker& operator=(const FImmediateUpdateBlocker&) = delete;
+
+    static bool isBlocked();
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/core/FPrototypes.h"
+
+/**
+ * Registrars: one object a type, made while a library loads, hands the host the function that builds the type's
+ * prototype. `FInitPrototype` makes the fitting one.
+ */
+class FInitFObjectPrototype {
+ public:
+    explicit FInitFObjectPrototype(FPrototypes::Build build) { FPrototypes::remember(FFamily::Object, build); }
+    virtual ~FInitFObjectPrototype() = default;
+};
+
+class FInitFManagedPrototype {
+ public:
+    explicit FInitFManagedPrototype(FPrototypes::Build build) { FPrototypes::remember(FFamily::Managed, build); }
+    virtual ~FInitFManagedPrototype() = default;
+};
+
+/** Registers the types in the order of the list. */
+template <class... Types>
+class FInitPrototypes {
+ public:
+    FInitPrototypes() { (registerType<Types>(), ...); }
+
+ private:
+    template <class T>
+    static void registerType() {
+        if constexpr (FPrototypes::familyOf<T>() == FFamily::Managed) {
+            FInitFManagedPrototype registrar(&T::initPrototype);
+        } else {
+            FInitFObjectPrototype registrar(&T::initPrototype);
+        }
+    }
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+/** Messages of the program to its user. */
+class FLogMsg {
+ public:
+    enum class Kind { Info, Warning, Error };
+    enum class Stream { StandardOutput, StandardError };
+
+    Kind kind;
+    QString source;       //!< who says it
+    QString message;      //!< what happened, to which thing, where
+    QString consequence;  //!< what follows, or what can be done
+    Stream stream;        //!< the channel that it was sent to
+
+    /** One line: the source, the message and the consequence. */
+    QString toLine() const;
+
+    static void info(const QString& source, const QString& message, const QString& consequence,
+                     Stream stream = Stream::StandardOutput);
+    static void warning(const QString& source, const QString& message, const QString& consequence = QString());
+    static void error(const QString& source, const QString& message, const QString& consequence = QString());
+
+    using Sink = std::function<void(const FLogMsg&)>;
+    /** Where messages go; the standard error as long as nothing is set. Returns the sink before. */
+    static Sink setSink(Sink sink);
+};

@@ -1,0 +1,150 @@
+#include "host/core/FManaged.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FObjectName.h"
+#include "host/core/FScriptLanguage.h"
+
+FClassData FManaged::mClass("FManaged", &FObject::mClass, nullptr, &FManaged::fields);
+bool FManaged::mInitPrototype = false;
+
+namespace {
+
+std::vector<FExprBase>& parents() {
+    static std::vector<FExprBase> stack;
+    return stack;
+}
+
+/** FGenIntFile gives genIntFile. */
+QString defaultName(const QString& className) {
+    QString name = className.startsWith(QLatin1Char('F')) ? className.mid(1) : className;
+    name[0] = name[0].toLower();
+    return name;
+}
+
+}  // namespace
+
+FManaged::FManaged(const QString& name) : mName(legalName(name)) {
+    if (!isInitializingPrototype()) {
+        getBlock()->kind = FObjectBlock::Kind::Managed;
+    }
+}
+
+FManaged::FManaged(const FManaged& other) : FManaged(other.mName) {
+    mDocu = other.mDocu;
+}
+
+std::vector<std::unique_ptr<FStateField>> FManaged::fields() {
+    return FStateFields<FManaged>()
+        .member(&FManaged::mName, [](FManaged& object) { object.renamed(); })
+        .member(&FManaged::mInProject)
+        .member(&FManaged::mInUserConfig)
+        .member(&FManaged::mDefault)
+        .member(&FManaged::mConfigurationHandle)
+        .member(&FManaged::mDocu)
+        .take();
+}
+
+void FManaged::init(const FManaged* other) {
+    if (other) {
+        mDocu = other->mDocu;
+    }
+}
+
+FManaged* FManaged::setName(const QString& name) {
+    const QString legal = legalName(name);
+    if (legal != mName && !legal.isEmpty()) {
+        mName = mInModel ? FObjectManager::instance()->uniqueName(legal, this) : legal;
+        renamed();
+    }
+    return this;
+}
+
+void FManaged::renamed() {
+    if (mInModel) {
+        FObjectManager::instance()->rename(this, mKnownName, mName);
+        mKnownName = mName;
+    }
+}
+
+void FManaged::registerObject() {
+    if (mInModel || isInitializingPrototype()) {
+        return;
+    }
+    if (!mDbId) {
+        mDbId = FObjectManager::instance()->nextId();
+        mParent = currentParentReg();
+    }
+    if (mName.isEmpty()) {
+        mName = defaultName(getClass());
+    }
+    mName = FObjectManager::instance()->uniqueName(mName, this);
+    enter();
+    FHistory::instance()->recordCreation(this);
+}
+
+void FManaged::enter() {
+    getBlock()->outOfModel = false;
+    mInModel = true;
+    mKnownName = mName;
+    FObjectManager::instance()->enter(this);
+    mpKnownState = std::make_unique<FState>(FState::capture(*this));
+    enterModel();
+}
+
+void FManaged::leave() {
+    leaveModel();
+    FObjectManager::instance()->leave(this, mKnownName);
+    mInModel = false;
+    getBlock()->outOfModel = true;
+}
+
+bool FManaged::destroy(FManaged* object, bool tellClients) {
+    if (!object || !object->mInModel || FHistory::instance()->isReplaying()) {
+        return false;
+    }
+    const FExprBase keep(object);
+    const std::vector<FObject*> clients = object->getClients();
+    FHistory::instance()->recordDestruction(object, clients);
+    object->leave();
+    if (tellClients) {
+        for (const FObject* client : object->getClients()) {
+            client->setOutOfDate(true);
+        }
+    }
+    return true;
+}
+
+void FManaged::addDocu(const QString& text, unsigned int area) {
+    mDocu[area] += text;
+}
+
+void FManaged::saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const {
+    FScriptLanguage::instance()->saveObject(*this, stream, indent, inScope, flag);
+}
+
+void FManaged::saveAttributes(QTextStream& stream, const std::vector<const FObject*>& attributes, unsigned int indent,
+                              bool flag) const {
+    FScriptLanguage::instance()->saveAttributes(*this, stream, attributes, indent, flag);
+}
+
+void startParentReg(const FObject* parent) {
+    parents().emplace_back(parent);
+}
+
+void stopParentReg() {
+    if (!parents().empty()) {
+        parents().pop_back();
+    }
+}
+
+const FObject* currentParentReg() {
+    return parents().empty() ? nullptr : parents().back().getStored();
+}
+
+void destroyChildrenOf(const FObject* parent) {
+    const QList<FManaged*> children = FObjectManager::instance()->getChildrenOf(parent);
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        FManaged::destroy(*child, true);
+    }
+}

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "host/core/FClass.h"
+#include "host/core/FExpr.h"
+#include "host/core/FStateField.h"
+
+#include <QMap>
+#include <QString>
+
+class QTextStream;
+
+/**
+ * An object of the model: it has a name, takes part in undo, and is saved in the project.
+ *
+ * It is in the model from `registerObject` until `FManaged::destroy`. A destroyed object is kept by the history and by
+ * handles, and the same object comes back on undo, so destructors only free; what else has to happen when an object
+ * goes stands in `leaveModel`.
+ */
+class FManaged : public FClass<FManaged, FObject> {
+ public:
+    static FClassData mClass;
+    static bool mInitPrototype;  //!< true while the prototype of a managed class is built
+
+    explicit FManaged(const QString& name = QString());
+
+    const QString& getName() const { return mName; }
+    /** Renames; the name is made legal, and unique among the objects of the model. Returns the object. */
+    virtual FManaged* setName(const QString& name);
+    /** Number of the object, ascending in the order of creation; 0 before it is registered. */
+    int getDbId() const { return mDbId; }
+
+    /** Brings the object into the model. One without a name gets one made from its class. */
+    void registerObject();
+    /** Takes the object out of the model; `false` if it isn't there. The flag asks to tell its dependants. */
+    static bool destroy(FManaged* object, bool tellClients = true);
+    bool isInModel() const { return mInModel; }
+    /** The object during whose parent registration this one was registered; null if there was none. */
+    const FObject* getParent() const { return mParent.getStored(); }
+
+    /** Whether the object belongs to what a project saves. */
+    virtual void setInProject(bool inProject) { mInProject = inProject; }
+    bool isInProject() const { return mInProject; }
+    /** Whether the object belongs to the user's own configuration rather than to a project. */
+    virtual void setInUserConfig(bool inUserConfig) { mInUserConfig = inUserConfig; }
+    bool isInUserConfig() const { return mInUserConfig; }
+    /** A default object comes with the program and isn't the user's. */
+    bool isDefault() const { return mDefault; }
+    void setDefault(bool isDefault) { mDefault = isDefault; }
+    /** Whether the object lives in a configuration of its own rather than in the scope that is saved. */
+    bool hasConfiguration() const { return static_cast<bool>(mConfigurationHandle); }
+    void setConfigurationHandle(const FExpr<FManaged>& configuration) { mConfigurationHandle = configuration; }
+
+    /** Documentation that a user has written on the object, by area. */
+    void addDocu(const QString& text, unsigned int area);
+    const QMap<unsigned int, QString>& getDocu() const { return mDocu; }
+
+    /**
+     * Writes the object as the script text from which its creator restores it.
+     * @param indent   levels of indentation
+     * @param inScope  false if the text stands outside the object's scope: the creator of an object with a
+     *                 configuration of its own is then marked with "&"
+     */
+    virtual void saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const;
+    /** Writes a line for each attribute; the attributes are command prototypes, as the command manager gives them. */
+    void saveAttributes(QTextStream& stream, const std::vector<const FObject*>& attributes, unsigned int indent,
+                        bool flag) const;
+
+    /** Commands that a saved text holds beside the attributes, as `name(arguments)`. */
+    virtual QStringList furtherSavedCommands() const { return {}; }
+
+    QString toString() const override { return mName; }
+
+    FManaged& operator=(const FManaged& other) = delete;
+
+ protected:
+    FManaged(const FManaged& other);
+    /** Takes over what a copy shares with its source: the documentation. Name and place in the model stay. */
+    void init(const FManaged* other);
+    /** What goes with the object when it leaves: called while it is still whole, also by redo. */
+    virtual void leaveModel() {}
+    /** The mirror, called when it was registered and by undo. */
+    virtual void enterModel() {}
+
+    int mSystemLevel = 0;  //!< above 1: not listed among the objects that a user made
+
+ private:
+    friend class FHistory;
+
+    static std::vector<std::unique_ptr<FStateField>> fields();
+    void enter();
+    void leave();
+    void renamed();
+
+    QString mName;
+    QString mKnownName;  //!< the name under which the object manager knows the object
+    int mDbId = 0;
+    bool mInModel = false;
+    bool mInProject = true;
+    bool mInUserConfig = false;
+    bool mDefault = false;
+    FExpr<FManaged> mConfigurationHandle;
+    FExprBase mParent;
+    QMap<unsigned int, QString> mDocu;
+    std::unique_ptr<FState> mpKnownState;  //!< the state at the end of the last step
+};
+
+/** Objects made by a registration in between count as children of `parent`, until `stopParentReg`. */
+void startParentReg(const FObject* parent);
+void stopParentReg();
+/** Destroys the children, last first. */
+void destroyChildrenOf(const FObject* parent);
+/** The parent of the registration in progress, or null. */
+const FObject* currentParentReg();

@@ -1,0 +1,6 @@
+#include "host/core/FModel.h"
+
+FModel* FModel::instance() {
+    static FModel model;
+    return &model;
+}

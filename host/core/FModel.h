@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/core/FObjectManager.h"
+
+/** The entities of the project. */
+class FModel {
+ public:
+    static FModel* instance();
+
+    /** The entities of a class and of those derived from it, in the order of creation. */
+    QList<FManaged*> getEntities(const FObject* prototype) const {
+        return FObjectManager::instance()->getManaged(prototype);
+    }
+};

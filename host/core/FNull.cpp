@@ -1,0 +1,3 @@
+#include "host/core/FNull.h"
+
+FClassData FNull::mClass("FNull", &FBasicType::mClass);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "host/core/FBasicType.h"
+
+/** A number as a double. */
+class FDouble : public FClass<FDouble, FBasicType> {
+ public:
+    static FClassData mClass;
+
+    explicit FDouble(double value = 0) : mValue(value) {}
+    FObject* clone() const override { return new FDouble(mValue); }
+
+    QString toString() const override;
+    int toInt() const override;
+    double toDouble() const override { return mValue; }
+    void setPrimitiveValue(const FExpr<FObject>& value) override;
+
+ protected:
+    double mValue;
+};
+
+/** A whole number of at most 53 bits. */
+class FInteger : public FClass<FInteger, FDouble> {
+ public:
+    static FClassData mClass;
+
+    explicit FInteger(double value = 0) : FClass(value) {}
+    FObject* clone() const override { return new FInteger(mValue); }
+};
+
+/** A whole number from 0. */
+class FUnsigned : public FClass<FUnsigned, FInteger> {
+ public:
+    static FClassData mClass;
+
+    explicit FUnsigned(unsigned int value = 0) : FClass(static_cast<double>(value)) {}
+    FObject* clone() const override { return new FUnsigned(getValue()); }
+
+    unsigned int getValue() const { return static_cast<unsigned int>(mValue); }
+};

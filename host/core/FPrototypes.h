@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/core/FClassData.h"
+
+#include <QString>
+
+#include <functional>
+#include <type_traits>
+#include <vector>
+
+class FManaged;
+
+/**
+ * All prototypes by class name. Registrars remember the build functions while libraries load; the prototypes
+ * themselves are made at the first look-up, when every static object exists.
+ */
+class FPrototypes {
+ public:
+    using Build = const FObject* (*)();
+
+    /** Remembers how a class's prototype is built. */
+    static void remember(FFamily family, Build build);
+    /** Builds what was remembered since the last call and registers its commands. */
+    static void buildPending();
+
+    static void add(const FObject* prototype);
+    /** Null if there is none. */
+    static const FObject* find(const QString& className);
+    /** All prototypes in the order in which they were built. */
+    static const std::vector<const FObject*>& all();
+
+    /** Makes the prototype of one class unless it exists: trace, flag, object, entry. */
+    static const FObject* build(FClassData& data, FFamily family, const std::function<const FObject*()>& make);
+
+    template <class T>
+    static constexpr FFamily familyOf() {
+        if constexpr (std::is_base_of_v<FManaged, T>) {
+            return FFamily::Managed;
+        } else {
+            return FFamily::Object;
+        }
+    }
+};

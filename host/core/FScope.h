@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/core/FManaged.h"
+
+/** A managed object that can stand in a scope: what a model is made of. */
+class FEntity : public FClass<FEntity, FManaged> {
+ public:
+    static FClassData mClass;
+
+    explicit FEntity(const QString& name = QString()) : FClass(name) {}
+};
+
+/** A scope: the space in which names are unique. The working scope is the one of the whole project. */
+class FScope : public FClass<FScope, FEntity> {
+ public:
+    static FClassData mClass;
+
+    explicit FScope(const QString& name = QString()) : FClass(name) {}
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/core/FBasicType.h"
+
+/** A text. Bare in `toString`, quoted where it stands in a script. */
+class FString : public FClass<FString, FBasicType> {
+ public:
+    static FClassData mClass;
+
+    explicit FString(const QString& value = QString()) : mValue(value) {}
+    FObject* clone() const override { return new FString(mValue); }
+
+    const QString& getValue() const { return mValue; }
+    QString toString() const override { return mValue; }
+    QString toExpressionString() const override;
+    void setPrimitiveValue(const FExpr<FObject>& value) override { mValue = value.toString(); }
+
+ private:
+    QString mValue;
+};
+
+/** The name of a file. In a script a call, so that it comes back as what it was. */
+class FFileName : public FClass<FFileName, FString> {
+ public:
+    static FClassData mClass;
+
+    explicit FFileName(const QString& path = QString()) : FClass(path) {}
+    FObject* clone() const override { return new FFileName(getValue()); }
+
+    QString toExpressionString() const override;
+
+ protected:
+    /** The word of the script function that makes one. */
+    virtual QString creatorWord() const { return QStringLiteral("fileName"); }
+};

@@ -1,0 +1,171 @@
+#include "host/core/FUpdateGraph.h"
+
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FObject.h"
+#include "host/core/FUpdateLinks.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace {
+
+int blockers = 0;
+
+// Objects with immediate update that became out of date and haven't been updated since.
+std::vector<FObject*>& waiting() {
+    static std::vector<FObject*> objects;
+    return objects;
+}
+
+}  // namespace
+
+FImmediateUpdateBlocker::FImmediateUpdateBlocker() {
+    ++blockers;
+}
+
+FImmediateUpdateBlocker::~FImmediateUpdateBlocker() {
+    if (--blockers == 0) {
+        FUpdateGraph::updateWaiting();
+    }
+}
+
+bool FImmediateUpdateBlocker::isBlocked() {
+    return blockers > 0;
+}
+
+void FUpdateGraph::markOutOfDate(FObject* start) {
+    if (start->mUpdating) {
+        return;
+    }
+    std::vector<FObject*> todo{start};
+    std::unordered_set<FObject*> seen{start};
+    for (std::size_t i = 0; i < todo.size(); ++i) {
+        FObject* object = todo[i];
+        object->mOutOfDate = true;
+        object->becameOutOfDate();
+        if (object->mImmediateUpdate) {
+            waiting().push_back(object);
+        }
+        for (FObject* client : clientsOf(object)) {
+            if (!client->mUpdating && seen.insert(client).second) {
+                todo.push_back(client);
+            }
+        }
+    }
+    if (!FImmediateUpdateBlocker::isBlocked()) {
+        updateWaiting();
+    }
+}
+
+void FUpdateGraph::updateWaiting() {
+    // An update may mark further objects: they join the queue and are reached by the same loop.
+    while (!waiting().empty()) {
+        FObject* object = waiting().front();
+        waiting().erase(waiting().begin());
+        object->update();
+    }
+}
+
+bool FUpdateGraph::updateOne(FObject* object) {
+    object->mUpdating = true;
+    object->mOutOfDate = false;
+    const bool done = object->doUpdate();
+    object->mOutOfDate = false;
+    object->mUpdating = false;
+    return done;
+}
+
+bool FUpdateGraph::update(FObject* object) {
+    struct Step {
+        FObject* object;
+        bool suppliersDone;
+    };
+    std::vector<Step> stack{{object, false}};
+    bool done = true;
+    while (!stack.empty()) {
+        const Step step = stack.back();
+        if (!step.object->mOutOfDate || step.object->mUpdating) {
+            stack.pop_back();
+        } else if (step.suppliersDone || step.object->updatesSuppliersItself()) {
+            stack.pop_back();
+            done = updateOne(step.object);
+        } else {
+            stack.back().suppliersDone = true;
+            const std::vector<FObject*> suppliers = suppliersOf(step.object);
+            for (auto supplier = suppliers.rbegin(); supplier != suppliers.rend(); ++supplier) {
+                stack.push_back({*supplier, false});
+            }
+        }
+    }
+    return done;
+}
+
+bool FUpdateGraph::reaches(const FObject* from, const FObject* supplier) {
+    std::vector<const FObject*> todo{from};
+    std::unordered_set<const FObject*> seen{from};
+    for (std::size_t i = 0; i < todo.size(); ++i) {
+        if (todo[i] == supplier) {
+            return true;
+        }
+        for (const FObject* next : suppliersOf(todo[i])) {
+            if (seen.insert(next).second) {
+                todo.push_back(next);
+            }
+        }
+    }
+    return false;
+}
+
+void FUpdateGraph::link(FObject* client, FObject* supplier) {
+    for (FObject* object : {client, supplier}) {
+        if (!object->mpLinks) {
+            object->mpLinks = new FUpdateLinks;
+        }
+    }
+    FUpdateLinks::add(client->mpLinks->suppliers, supplier);
+    FUpdateLinks::add(supplier->mpLinks->clients, client);
+}
+
+void FUpdateGraph::unlink(FObject* client, FObject* supplier) {
+    if (client->mpLinks && supplier->mpLinks) {
+        FUpdateLinks::remove(client->mpLinks->suppliers, supplier);
+        FUpdateLinks::remove(supplier->mpLinks->clients, client);
+    }
+}
+
+void FUpdateGraph::forget(FObject* object) {
+    if (object->mImmediateUpdate) {
+        waiting().erase(std::remove(waiting().begin(), waiting().end(), object), waiting().end());
+    }
+    if (!object->mpLinks) {
+        return;
+    }
+    for (const FUpdateLinks::Link& link : object->mpLinks->suppliers) {
+        FUpdateLinks::remove(link.object->mpLinks->clients, object, true);
+    }
+    for (const FUpdateLinks::Link& link : object->mpLinks->clients) {
+        FUpdateLinks::remove(link.object->mpLinks->suppliers, object, true);
+    }
+    delete object->mpLinks;
+    object->mpLinks = nullptr;
+}
+
+std::vector<FObject*> FUpdateGraph::clientsOf(const FObject* object) {
+    std::vector<FObject*> found;
+    if (object->mpLinks) {
+        for (const FUpdateLinks::Link& link : object->mpLinks->clients) {
+            found.push_back(link.object);
+        }
+    }
+    return found;
+}
+
+std::vector<FObject*> FUpdateGraph::suppliersOf(const FObject* object) {
+    std::vector<FObject*> found;
+    if (object->mpLinks) {
+        for (const FUpdateLinks::Link& link : object->mpLinks->suppliers) {
+            found.push_back(link.object);
+        }
+    }
+    return found;
+}

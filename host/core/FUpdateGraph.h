@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+class FObject;
+
+/** The walks over the update graph. None of them recurses over links, so that no chain is too long. */
+class FUpdateGraph {
+ public:
+    /** Marks the object and all that depend on it, once each; objects with immediate update are updated afterwards. */
+    static void markOutOfDate(FObject* start);
+    /** Updates what the object depends on and is out of date, suppliers before clients; then the object itself. */
+    static bool update(FObject* object);
+    static bool reaches(const FObject* from, const FObject* supplier);
+
+    static void link(FObject* client, FObject* supplier);
+    static void unlink(FObject* client, FObject* supplier);
+    /** Takes an object that dies out of the graph. */
+    static void forget(FObject* object);
+
+    static std::vector<FObject*> clientsOf(const FObject* object);
+    static std::vector<FObject*> suppliersOf(const FObject* object);
+
+ private:
+    friend class FImmediateUpdateBlocker;
+
+    static void updateWaiting();
+    static bool updateOne(FObject* object);
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/core/FExpr.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/**
+ * What the program asks of a person. The one object is replaced when there are windows; without them it answers with
+ * the defaults and prints what it was asked.
+ */
+class FUserInterface {
+ public:
+    static FUserInterface* instance();
+    /** Returns the object before; null brings back the one without windows. */
+    static FUserInterface* replace(FUserInterface* userInterface);
+
+    virtual ~FUserInterface() = default;
+
+    virtual bool hasGui() const { return false; }
+    /** Asks, and returns the number of the button, the first being 0. */
+    virtual int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton);
+    virtual void tell(const QString& title, const QString& text);
+    virtual void highlight(const QList<FExprBase>& objects) { Q_UNUSED(objects) }
+};

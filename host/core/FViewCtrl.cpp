@@ -1,0 +1,6 @@
+#include "host/core/FViewCtrl.h"
+
+FViewCtrl* FViewCtrl::instance() {
+    static FViewCtrl control;
+    return &control;
+}

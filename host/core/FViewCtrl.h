@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/core/FUserInterface.h"
+
+/** Whether there are windows. */
+class FViewCtrl {
+ public:
+    static FViewCtrl* instance();
+
+    bool hasGui() const { return FUserInterface::instance()->hasGui(); }
+};
+
+/** The tree of all objects. */
+class FObjectTree {
+ public:
+    /** Shows the objects in the tree. */
+    static void highlight(const QList<FExprBase>& objects) { FUserInterface::instance()->highlight(objects); }
+};

@@ -1,0 +1,209 @@
+#include "host/script/FBinder.h"
+
+#include "host/core/FPrototypes.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FMemberCmd.h"
+#include "host/script/FOperatorCmd.h"
+
+#include <algorithm>
+
+namespace {
+
+/** Commands behind one another in a chain; each nests the one before. */
+constexpr std::size_t longestChain = 500;
+
+FExprBase literalObject(const FLiteral& literal) {
+    struct Maker {
+        FExprBase operator()(std::monostate) const { return FExprBase(FNull::null()); }
+        FExprBase operator()(bool flag) const { return FExprBase(new FBool(flag)); }
+        FExprBase operator()(qint64 number) const {
+            // Beyond 53 bits a whole number is no longer exact in the double that holds it.
+            constexpr qint64 most = qint64{1} << 53;
+            const auto value = static_cast<double>(number);
+            return number >= -most && number <= most ? FExprBase(new FInteger(value)) : FExprBase(new FDouble(value));
+        }
+        FExprBase operator()(double number) const { return FExprBase(new FDouble(number)); }
+        FExprBase operator()(const QString& text) const { return FExprBase(new FString(text)); }
+    };
+    return std::visit(Maker(), literal);
+}
+
+/** Whether objects of the type, or of a class derived from it, know the command. */
+bool isKnownBelow(const FObject* type, const QString& name) {
+    const auto rows = FCmdManager::instance()->findMembersOfAnyClass(name);
+    return std::any_of(rows.begin(), rows.end(),
+                       [type](const FCmdRow* row) { return type->getClassData().isSuperClassOf(*row->owner); });
+}
+
+}  // namespace
+
+FExprBase FBinder::fail(const FPlace& place, const QString& message) {
+    if (!mError) {
+        mError = FSyntaxError{place, message};
+    }
+    return {};
+}
+
+FExprBase FBinder::bind(const FSyntaxExpr& expression, Use use) {
+    switch (expression.kind) {
+        case FSyntaxExpr::Kind::Literal:
+            return literalObject(expression.literal);
+        case FSyntaxExpr::Kind::Name:
+            return bindName(expression);
+        case FSyntaxExpr::Kind::List:
+            return bindList(expression, use);
+        case FSyntaxExpr::Kind::Call:
+            return bindCall(expression, use);
+        case FSyntaxExpr::Kind::Chain:
+            return bindChain(expression, use);
+        case FSyntaxExpr::Kind::Unary:
+        case FSyntaxExpr::Kind::Row:
+            break;
+    }
+    return bindOperators(expression, use);
+}
+
+FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
+    if (FEnumTable::isWord(expression.name)) {
+        return FExprBase(new FString(expression.name));
+    }
+    FExprBase found = mNames.find(expression.name);
+    if (found.isEmpty()) {
+        return fail(expression.place, QStringLiteral("nothing is named \"%1\"%2")
+                                          .arg(expression.name, didYouMean(expression.name, mNames.getNames())));
+    }
+    return found;
+}
+
+std::vector<FExprBase> FBinder::bindAll(const std::vector<FSyntaxExpr>& expressions, Use use) {
+    std::vector<FExprBase> bound;
+    for (const FSyntaxExpr& expression : expressions) {
+        if (mError) {
+            break;
+        }
+        bound.push_back(bind(expression, use));
+    }
+    return bound;
+}
+
+FExprBase FBinder::finish(FCmd* command, const FSyntaxExpr& expression, Use use) {
+    FExprBase handle(command);
+    if (mError) {
+        return {};
+    }
+    command->setPlace(mFile, expression.place);
+    if (use == Use::Kept) {
+        command->setKept();
+    }
+    return handle;
+}
+
+FExprBase FBinder::bindOperators(const FSyntaxExpr& expression, Use use) {
+    std::vector<FOperator> operators;
+    for (const FSyntaxOperator& op : expression.operators) {
+        operators.push_back(op.kind);
+    }
+    return finish(new FOperatorCmd(operators, bindAll(expression.operands, use)), expression, use);
+}
+
+FExprBase FBinder::bindList(const FSyntaxExpr& expression, Use use) {
+    std::vector<FExprBase> elements = bindAll(expression.operands, use);
+    if (mError) {
+        return {};
+    }
+    const bool isConstant = std::none_of(elements.begin(), elements.end(), [](const auto& e) { return e.isCmd(); });
+    if (!isConstant) {
+        return finish(new FListCmd(std::move(elements)), expression, use);
+    }
+    auto* list = new FObjectList;
+    FExprBase handle(list);
+    for (const FExprBase& element : elements) {
+        list->add(FExpr<FObject>(element));
+    }
+    return handle;
+}
+
+bool FBinder::mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use) {
+    const bool asks = std::any_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->isQuery(); });
+    if (use == Use::Kept && !asks) {
+        fail(call.place,
+             QStringLiteral(
+                 "\"%1\" does something and can't stand in an expression that is kept; call it in a statement "
+                 "of its own")
+                 .arg(call.name));
+    }
+    return !mError;
+}
+
+std::vector<FExprBase> FBinder::bindArguments(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call,
+                                              Use use) {
+    std::vector<FExprBase> arguments;
+    for (std::size_t i = 0; i < call.operands.size() && !mError; ++i) {
+        const bool isKept = std::any_of(rows.begin(), rows.end(), [i](const FCmdRow* row) {
+            return i < row->arguments.size() && row->arguments[i].type.isKept;
+        });
+        arguments.push_back(bind(call.operands[i], isKept ? Use::Kept : use));
+    }
+    return arguments;
+}
+
+FExprBase FBinder::bindCall(const FSyntaxExpr& expression, Use use) {
+    const auto rows = FCmdManager::instance()->findGlobals(expression.name);
+    if (rows.empty()) {
+        const bool isCreator = !FCmdManager::instance()->findCreators(expression.name).empty();
+        return fail(expression.place,
+                    isCreator ? QStringLiteral("\"%1\" makes a named object: write \"%1 name(…)\"").arg(expression.name)
+                              : FCmdManager::instance()->unknownGlobal(expression.name));
+    }
+    if (!mayStand(rows, expression, use)) {
+        return {};
+    }
+    auto* command = new FCmd(*rows.front());
+    const FExprBase keep(command);
+    command->setArguments(bindArguments(rows, expression, use));
+    return finish(command, expression, use);
+}
+
+FExprBase FBinder::bindChain(const FSyntaxExpr& expression, Use use) {
+    if (expression.operands.size() > longestChain) {
+        return fail(expression.place,
+                    QStringLiteral("more than %1 commands behind one another; use a variable").arg(longestChain));
+    }
+    FExprBase receiver = bind(expression.operands.front(), use);
+    for (std::size_t i = 1; i < expression.operands.size() && !mError; ++i) {
+        receiver = bindMember(receiver, expression.operands[i], use);
+    }
+    return mError ? FExprBase() : receiver;
+}
+
+std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const FSyntaxExpr& call) {
+    const FObject* type = receiver.getType();
+    const bool isList = type && type->isTypeOf(FObjectList::null());
+    const bool isOpen = !type || type == FObject::null() || isList;
+    const auto rows = isOpen ? FCmdManager::instance()->findMembersOfAnyClass(call.name)
+                             : FCmdManager::instance()->findMembers(type->getClassData(), call.name);
+    if (!rows.empty()) {
+        return rows;
+    }
+    if (isOpen) {
+        fail(call.place, FCmdManager::instance()->unknownMemberOfAnyClass(call.name));
+    } else if (receiver.isCmd() && isKnownBelow(type, call.name)) {
+        return FCmdManager::instance()->findMembersOfAnyClass(call.name);
+    } else {
+        fail(call.place, FCmdManager::instance()->unknownMember(type->getClassData(), call.name));
+    }
+    return {};
+}
+
+FExprBase FBinder::bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use) {
+    const auto rows = memberRows(receiver, call);
+    if (mError || !mayStand(rows, call, use)) {
+        return {};
+    }
+    const FCmdRow& row = *rows.front();
+    auto* command = row.kind == FCmdRow::Kind::Attribute ? new FAttribCmd(row) : new FMemberCmd(row);
+    const FExprBase keep(command);
+    command->setReceiver(receiver);
+    command->setArguments(bindArguments(rows, call, use));
+    return finish(command, call, use);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "host/script/FCmd.h"
+#include "host/script/FScriptNames.h"
+#include "host/script/FSyntaxError.h"
+#include "host/script/FSyntaxExpr.h"
+
+#include <optional>
+
+/**
+ * Makes objects and commands of an expression as it is written: names become the objects that they stand for, variables
+ * their values. Nothing is evaluated.
+ */
+class FBinder {
+ public:
+    /** What the expression is for. */
+    enum class Use {
+        Once,  //!< carried out now, all commands are allowed
+        Kept,  //!< kept by an object: it may only ask
+    };
+
+    FBinder(const FScriptNames& names, const QString& file) : mNames(names), mFile(file) {}
+
+    /** An empty handle, with an error, for an unknown name or command. */
+    FExprBase bind(const FSyntaxExpr& expression, Use use);
+    /** A command on a receiver that is bound already. */
+    FExprBase bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use);
+    /** The arguments of a call, each as the rows want it. Stops at the first error. */
+    std::vector<FExprBase> bindArguments(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
+
+    const std::optional<FSyntaxError>& getError() const { return mError; }
+
+ private:
+    FExprBase bindName(const FSyntaxExpr& expression);
+    FExprBase bindCall(const FSyntaxExpr& expression, Use use);
+    FExprBase bindChain(const FSyntaxExpr& expression, Use use);
+    FExprBase bindOperators(const FSyntaxExpr& expression, Use use);
+    FExprBase bindList(const FSyntaxExpr& expression, Use use);
+    std::vector<FExprBase> bindAll(const std::vector<FSyntaxExpr>& expressions, Use use);
+    std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call);
+    bool mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
+    FExprBase finish(FCmd* command, const FSyntaxExpr& expression, Use use);
+    FExprBase fail(const FPlace& place, const QString& message);
+
+    const FScriptNames& mNames;
+    QString mFile;
+    std::optional<FSyntaxError> mError;
+};

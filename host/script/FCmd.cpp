@@ -1,0 +1,157 @@
+#include "host/script/FCmd.h"
+
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FManaged.h"
+#include "host/core/FTypeDocu.h"
+#include "host/script/FCmdManager.h"
+
+#include <algorithm>
+
+FClassData FCmd::mClass("FCmd", &FObject::mClass);
+
+FCmd::FCmd(const FCmdRow& row) : mpRow(&row), mName(row.name) {
+    setOutOfDate(true);
+}
+
+FObject* FCmd::clone() const {
+    return mpRow ? new FCmd(*mpRow) : new FCmd;
+}
+
+const FClassData& FCmd::classOfRow(const FClassData& family) const {
+    return mpRow && mpRow->commandClass ? *mpRow->commandClass : family;
+}
+
+void FCmd::setPlace(const QString& file, const FPlace& place) {
+    mFile = file;
+    mPlace = place;
+}
+
+void FCmd::setKept() {
+    mKept = true;
+    for (const FExprBase& argument : mArguments) {
+        argument.registerClient(this);
+    }
+}
+
+FExprBase FCmd::getValue() const {
+    update();
+    return mResult;
+}
+
+const FObject* FCmd::getResultType() const {
+    const FClassData* result = mpRow ? mpRow->returnType.cls : nullptr;
+    return result ? result->mpNull : FObject::null();
+}
+
+bool FCmd::canSafelyBeUpdated(bool mayReadFiles) const {
+    const FCmdRow::Effect effect = mpRow ? mpRow->effect : FCmdRow::Effect::Pure;
+    if (effect == FCmdRow::Effect::Acts || (effect == FCmdRow::Effect::ReadsFiles && !mayReadFiles)) {
+        return false;
+    }
+    return std::all_of(mArguments.begin(), mArguments.end(),
+                       [mayReadFiles](const FExprBase& argument) { return argument.canSafelyBeUpdated(mayReadFiles); });
+}
+
+QString FCmd::operandText(const FExprBase& operand) {
+    const FObject* stored = operand.getStored();
+    return stored ? stored->toExpressionString() : QStringLiteral("NULL");
+}
+
+QString FCmd::argumentText() const {
+    QStringList texts;
+    for (const FExprBase& argument : mArguments) {
+        texts.append(operandText(argument));
+    }
+    return QLatin1Char('(') + texts.join(QLatin1Char(',')) + QLatin1Char(')');
+}
+
+QString FCmd::toExpressionString() const {
+    return mName + argumentText();
+}
+
+bool FCmd::doUpdate() const {
+    const FImmediateUpdateBlocker blocker;
+    mResult = execute();
+    return FObject::doUpdate();
+}
+
+FExprBase FCmd::execute() const {
+    FCmdRow::Values values;
+    const FCmdRow* row = chooseRow(FCmdManager::instance()->findGlobals(mName), values);
+    // A global command of a class acts on the class's prototype.
+    FObject* receiver = row && row->owner ? const_cast<FObject*>(row->owner->mpNull) : nullptr;
+    return row ? callRow(*row, receiver, values) : FExprBase();
+}
+
+FExprBase FCmd::callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
+    if (!mUseParentReg) {
+        return row.call(receiver, values);
+    }
+    destroyChildrenOf(this);
+    startParentReg(this);
+    FExprBase result = row.call(receiver, values);
+    stopParentReg();
+    return result;
+}
+
+bool FCmd::convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString& reason) const {
+    values.clear();
+    std::size_t given = 0;
+    for (const FCmdArgument& argument : row.arguments) {
+        if (argument.type.takesRest) {
+            values.emplace_back(
+                std::vector<FExprBase>(mArguments.begin() + static_cast<std::ptrdiff_t>(given), mArguments.end()));
+            return true;
+        }
+        const bool isGiven = given < mArguments.size();
+        const FExprBase& handle = isGiven ? mArguments[given] : argument.byDefault;
+        ++given;
+        std::any value;
+        const bool acceptsNull = argument.type.isHandle &&
+                                 (row.kind == FCmdRow::Kind::Attribute || cmdtype::isScriptNull(argument.byDefault));
+        const bool fits = argument.type.convert(handle, value) || (acceptsNull && cmdtype::isScriptNull(handle));
+        if (!fits) {
+            reason = isGiven ? QStringLiteral("argument %1 (%2) must be of type %3, but is %4")
+                                   .arg(QString::number(given), argument.name, argument.type.script,
+                                        handle.getObject() ? handle.toString() : QStringLiteral("nothing"))
+                             : QStringLiteral("argument %1 (%2, of type %3) is missing")
+                                   .arg(QString::number(given), argument.name, argument.type.script);
+            return false;
+        }
+        values.push_back(std::move(value));
+    }
+    if (given < mArguments.size()) {
+        reason = QStringLiteral("%1 arguments given, %2 expected").arg(mArguments.size()).arg(row.arguments.size());
+        return false;
+    }
+    return true;
+}
+
+const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow::Values& values) const {
+    QStringList reasons;
+    for (const FCmdRow* row : rows) {
+        QString reason;
+        if (convertArguments(*row, values, reason)) {
+            return row;
+        }
+        reasons.append(reason);
+    }
+    warn(mName + QStringLiteral(": ") + reasons.join(QStringLiteral("; or: ")));
+    return nullptr;
+}
+
+void FCmd::warn(const QString& message) const {
+    FLogMsg::warning(mPlace.toString(mFile), message, QStringLiteral("result is NULL"));
+}
+
+void FCmd::initCmdDocu() const {
+    if (!mpRow) {
+        return;
+    }
+    for (const FDocuKey& key : FDocuKey::ofCommand(*mpRow)) {
+        if (key.argument < 0) {
+            addTypeDocu(FTypeDocu::translate(key.key, key.disambiguation), key.area);
+        }
+    }
+}

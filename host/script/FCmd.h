@@ -1,0 +1,82 @@
+#pragma once
+
+#include "host/script/FCmdRow.h"
+#include "host/script/FPlace.h"
+
+/**
+ * A command with its receiver and arguments: one node of an expression. It is a graph node like any other object, so
+ * that what is computed from others follows them.
+ *
+ * A global command is a plain FCmd. What a command is called, takes and does comes from its row.
+ */
+class FCmd : public FClass<FCmd, FObject> {
+ public:
+    static FClassData mClass;
+
+    FCmd() = default;
+    explicit FCmd(const FCmdRow& row);
+
+    const FClassData& getClassData() const override { return classOfRow(mClass); }
+    FObject* clone() const override;
+
+    const QString& getName() const { return mName; }
+    void setName(const QString& name) { mName = name; }
+    const FCmdRow* getRow() const { return mpRow; }
+
+    void setArguments(std::vector<FExprBase> arguments) { mArguments = std::move(arguments); }
+    const std::vector<FExprBase>& getArguments() const { return mArguments; }
+    /** Where the command stands, for messages. */
+    void setPlace(const QString& file, const FPlace& place);
+    /**
+     * Says that the expression is kept by an object and not just carried out once: the command then depends on its
+     * arguments, and objects on the command.
+     */
+    virtual void setKept();
+    bool isKept() const { return mKept; }
+    /** Whether objects made by an earlier execution go when the command is executed again. */
+    void setUseParentReg(bool use) { mUseParentReg = use; }
+    bool getUseParentReg() const { return mUseParentReg; }
+
+    /** The result, brought up to date. */
+    FExprBase getValue() const;
+
+    bool isCmd() const override { return true; }
+    FObject* evaluate() const override { return getValue().getObject(); }
+    const FObject* getResultType() const override;
+    bool canSafelyBeUpdated(bool mayReadFiles) const override;
+    QString toString() const override { return toExpressionString(); }
+    QString toExpressionString() const override;
+    bool doUpdate() const override;
+
+    /** Adds the command's texts under its documentation keys. */
+    void initCmdDocu() const;
+    QString getTsRoot() const { return mpRow ? mpRow->docuRoot() : QString(); }
+    void initTypeDocu() const override { setTypeDocuInitialized(); }
+
+ protected:
+    /** The class data of the row's command class; those of the C++ class for the prototype of the family. */
+    const FClassData& classOfRow(const FClassData& family) const;
+    bool updatesSuppliersItself() const override { return !mKept; }
+    /** Carries the command out. An empty handle is the null result. */
+    virtual FExprBase execute() const;
+
+    /** Reads the arguments as the row wants them; false, with the reason, if one doesn't fit. */
+    bool convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString& reason) const;
+    /** The first of the rows that the arguments fit; null, with one warning, if there is none. */
+    const FCmdRow* chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow::Values& values) const;
+    FExprBase callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    void warn(const QString& message) const;
+    QString argumentText() const;
+    static QString operandText(const FExprBase& operand);
+
+    mutable FExprBase mResult;
+
+ private:
+    const FCmdRow* mpRow = nullptr;
+    QString mName;
+    std::vector<FExprBase> mArguments;
+    QString mFile;
+    FPlace mPlace;
+    bool mKept = false;
+    bool mUseParentReg = false;
+};

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "host/script/FBinder.h"
+#include "host/script/FCmdParser.h"
+#include "host/script/FScriptParser.h"
+
+#include <QTextStream>
+
+/**
+ * Carries out script text.
+ *
+ * Each statement is a step of the history of its own. A script error (syntax, an unknown name or command) takes back
+ * what its statement did and ends the script; a command whose arguments don't fit gives NULL, with a warning, and the
+ * script goes on.
+ *
+ * Saved text is data: of it, only declarations and commands that a saved text may hold are carried out. Each error is
+ * reported with its place, and the rest is read.
+ */
+class FCmdInput : public FCmdParser {
+ public:
+    enum class Mode { Script, SavedText };
+
+    explicit FCmdInput(Mode mode = Mode::Script) : mMode(mode) {}
+
+    void setVariable(const QString& name, const FExprBase& value) { mNames.setVariable(name, value); }
+    const FScriptNames& getNames() const { return mNames; }
+
+    /** Takes the whole of the stream; `file` is the name that messages give. */
+    void readInputString(QTextStream& stream, const QString& file = QString());
+    /** Carries out what was read. False if an error ended it, or if there were errors in a saved text. */
+    bool exec();
+
+    /** Carries out a script file in between, with the same variables. Called by a running script. */
+    bool include(const QString& path);
+    /** Ends the running script after the present command. */
+    void requestExit(int code);
+    int getExitCode() const { return mExitCode; }
+    /** A path of the script's: relative to its file if such a file exists, else to the current folder. */
+    QString resolvePath(const QString& path) const;
+
+    void addObject(const FExpr<FManaged>& object) override { mCreated = object; }
+
+    /** The one at work; null if no script is being read. */
+    static FCmdInput* current();
+
+ private:
+    bool run(const QString& text, const QString& file);
+    bool runBody(const FSyntaxBody& body);
+    bool runStatement(const FSyntaxStatement& statement);
+    bool run(const FSyntaxExpr& expression);
+    bool run(const FSyntaxDeclaration& declaration);
+    bool run(const FSyntaxAssignment& assignment);
+    bool run(const FSyntaxIf& branches);
+    bool run(const FSyntaxWhile& loop);
+    bool run(const FSyntaxFor& loop);
+
+    FExprBase declare(const FSyntaxDeclaration& declaration);
+    bool runBlock(const FExprBase& object, const FSyntaxDeclaration& declaration);
+    bool isAllowed(const FSyntaxStatement& statement);
+    bool isDataCommand(const FSyntaxExpr& call, const FExprBase& receiver);
+    /** Binds and evaluates; nothing if that failed, with the error reported. */
+    std::optional<FExprBase> evaluate(const FSyntaxExpr& expression);
+    std::optional<bool> evaluateCondition(const FSyntaxExpr& expression);
+    bool report(const FPlace& place, const QString& message);
+    bool countStep(const FPlace& place);
+
+    /** One statement's place in the history. */
+    class Step;
+
+    Mode mMode;
+    QString mText;
+    QString mFile;
+    FScriptNames mNames;
+    FExpr<FManaged> mCreated;
+    int mErrors = 0;
+    int mIncludes = 0;
+    qint64 mSteps = 0;
+    int mExitCode = 0;
+    bool mExiting = false;
+};

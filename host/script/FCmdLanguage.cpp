@@ -1,0 +1,53 @@
+#include "host/core/FScriptLanguage.h"
+#include "host/script/FBinder.h"
+#include "host/script/FCmdInput.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FObjectSaver.h"
+#include "host/script/FScriptParser.h"
+
+namespace {
+
+/** The script layer as the core sees it. */
+class FCmdLanguage : public FScriptLanguage {
+ public:
+    void addCommandPrototypes(FClassData& data) override { FCmdManager::instance()->addTable(data); }
+    void registerCommands(FClassData& data) override { FCmdManager::instance()->registerTable(data); }
+
+    FExprBase resolve(const QString& text, QString* error) override {
+        const FParsedExpression parsed = parseExpression(text);
+        if (parsed.error) {
+            return fail(*parsed.error, error);
+        }
+        const FCmdInput* input = FCmdInput::current();
+        const FScriptNames noNames;
+        FBinder binder(input ? input->getNames() : noNames, QString());
+        FExprBase bound = binder.bind(parsed.expression, FBinder::Use::Kept);
+        return binder.getError() ? fail(*binder.getError(), error) : bound;
+    }
+
+    void saveObject(const FManaged& object, QTextStream& stream, unsigned int indent, bool inScope,
+                    bool flag) override {
+        FObjectSaver(stream).save(object, indent, inScope, flag);
+    }
+
+    void saveAttributes(const FManaged& object, QTextStream& stream, const std::vector<const FObject*>& attributes,
+                        unsigned int indent, bool flag) override {
+        Q_UNUSED(flag)
+        FObjectSaver(stream).saveAttributes(object, attributes, indent);
+    }
+
+ private:
+    static FExprBase fail(const FSyntaxError& reason, QString* error) {
+        if (error) {
+            *error = reason.toString(QString());
+        }
+        return {};
+    }
+};
+
+}  // namespace
+
+FScriptLanguage* FScriptLanguage::instance() {
+    static FCmdLanguage language;
+    return &language;
+}

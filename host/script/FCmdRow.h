@@ -1,0 +1,85 @@
+#pragma once
+
+#include "host/script/FCmdType.h"
+
+#include <QStringList>
+
+#include <vector>
+
+/** One argument of a command. */
+struct FCmdArgument {
+    FCmdType type;
+    QString name;         //!< documented name; with its default, if it has one, as in "row=0"
+    FExprBase byDefault;  //!< empty if the argument has to be given
+};
+
+/** How a command shows itself to a user; defaults stand for "nothing said". */
+struct FCmdPresentation {
+    QString attrName;         //!< label of the attribute
+    QString category;         //!< group of attributes
+    QString attrRequiredCmd;  //!< script text that says when the attribute is required
+    QString menuEntry;
+    int menuPlace = 0;
+    QString menuIcon;
+    unsigned int cmdFlags = 0;
+    unsigned int userLevel = 0;  //!< level from which the user sees it
+    unsigned int systemFlag = 0;
+    double weight = 0;  //!< place in the order of attributes
+    bool attrAsExpr = true;
+    bool needsGuiReinit = false;
+    bool readOnly = false;
+    bool hidden = false;
+};
+
+/**
+ * One command as data. From it come the command object and its prototype under its class name, the conversion of
+ * arguments, the action on selection sets, the current value and the saved form of an attribute, the documentation
+ * keys and the reference.
+ */
+class FCmdRow {
+ public:
+    enum class Kind { Create, CreateEntity, Attribute, Member, Global };
+    /** What carrying it out may do. Only the first two may stand in an expression that is kept. */
+    enum class Effect { Pure, ReadsFiles, Acts };
+    using Values = std::vector<std::any>;
+    using Call = std::function<FExprBase(FObject* receiver, const Values& values)>;
+    using Getter = std::function<FExprBase(const FObject* object)>;
+
+    Kind kind = Kind::Member;
+    Effect effect = Effect::Acts;
+    QString name;
+    QString method;               //!< the operation's name where it differs from the script name
+    FClassData* owner = nullptr;  //!< the receiver's class; for a global command null if it has no receiver
+    std::vector<FCmdArgument> arguments;
+    FCmdType returnType;
+    Call call;
+    Getter getter;                                            //!< for attributes: the current value
+    std::function<QString(const FObject*)> creatorArguments;  //!< for creators: the arguments of the saved form
+    FCmdPresentation presentation;
+    bool isData = false;       //!< may stand in a saved text
+    bool isUnwrapped = false;  //!< runs without a history transaction around it
+
+    /** Spelled from kind, class, name and argument types; also the key under which the command can be hidden. */
+    QString className() const;
+    /** The root of the documentation keys. */
+    QString docuRoot() const;
+    bool isQuery() const { return effect != Effect::Acts; }
+    bool hasResult() const { return returnType.cls != nullptr; }
+    bool isMember() const { return kind == Kind::Attribute || kind == Kind::Member; }
+    bool isCreator() const { return kind == Kind::Create || kind == Kind::CreateEntity; }
+    /** The word of the kind in the documentation keys and in the reference. */
+    QString kindWord() const;
+
+    /** Class data of the command class that this row stands for; made when the table is complete. */
+    FClassData* commandClass = nullptr;
+};
+
+/** A documentation key of a command, with its disambiguation, which may be empty. */
+struct FDocuKey {
+    int area;      //!< 1 description or argument, 2 example, 3 result
+    int argument;  //!< number of the argument, or -1
+    QString key;
+    QString disambiguation;
+
+    static std::vector<FDocuKey> ofCommand(const FCmdRow& row);
+};

@@ -1,0 +1,231 @@
+#pragma once
+
+#include "host/core/FBool.h"
+#include "host/core/FEnum.h"
+#include "host/core/FNull.h"
+#include "host/core/FNumber.h"
+#include "host/core/FObjectList.h"
+#include "host/core/FString.h"
+
+#include <any>
+#include <functional>
+#include <type_traits>
+
+/** An argument or result type of a command: how it is spelled, which class it is of, and how a handle becomes one. */
+struct FCmdType {
+    /** Fills `value` with what the operation takes; false if the handle can't be read as the type. */
+    using Convert = bool (*)(const FExprBase& handle, std::any& value);
+
+    QString script;                   //!< as it stands in the names of commands
+    QString docu;                     //!< as it stands in documentation keys
+    const FClassData* cls = nullptr;  //!< null for no result
+    Convert convert = nullptr;
+    bool isHandle = false;   //!< script `NULL` can stand for it
+    bool isKept = false;     //!< stays an expression and isn't evaluated
+    bool takesRest = false;  //!< takes all further arguments
+};
+
+/** An expression as it stands: the operation keeps it, so that it follows what it names. */
+struct FKeptExpression {
+    FExprBase expression;
+};
+
+/** The value that a handle stands for: a parameter's number rather than the parameter. */
+FObject* valueObject(const FExprBase& handle);
+
+/** C++ types as script types. Specialised for all that operations take and return. */
+template <class T>
+struct FCmdTypeOf;
+
+namespace cmdtype {
+
+/** A whole number in a double, or in an object that counts as one; false for 1.5 and for what isn't a number. */
+bool wholeNumber(const FExprBase& handle, double least, double most, double& number);
+bool isScriptNull(const FExprBase& handle);
+
+inline FCmdType plain(const char* script, const FClassData& cls, FCmdType::Convert convert) {
+    return {QString::fromLatin1(script), QString::fromLatin1(script), &cls, convert};
+}
+
+}  // namespace cmdtype
+
+template <>
+struct FCmdTypeOf<void> {
+    static FCmdType type() { return {QStringLiteral("void"), QStringLiteral("void")}; }
+};
+
+template <>
+struct FCmdTypeOf<QString> {
+    static FCmdType type() {
+        return cmdtype::plain("string", FString::mClass, [](const FExprBase& handle, std::any& value) {
+            const auto* text = dynamic_cast<const FString*>(valueObject(handle));
+            value = text ? text->getValue() : QString();
+            return text != nullptr;
+        });
+    }
+    static FExprBase handle(const QString& text) { return FExprBase(new FString(text)); }
+};
+
+template <>
+struct FCmdTypeOf<double> {
+    static FCmdType type() {
+        return cmdtype::plain("double", FDouble::mClass, [](const FExprBase& handle, std::any& value) {
+            const auto* number = dynamic_cast<const FDouble*>(valueObject(handle));
+            value = number ? number->toDouble() : 0.0;
+            return number != nullptr;
+        });
+    }
+    static FExprBase handle(double number) { return FExprBase(new FDouble(number)); }
+};
+
+template <>
+struct FCmdTypeOf<int> {
+    static FCmdType type() {
+        return cmdtype::plain("int", FInteger::mClass, [](const FExprBase& handle, std::any& value) {
+            double number = 0;
+            const bool whole = cmdtype::wholeNumber(handle, -2147483648.0, 2147483647.0, number);
+            value = static_cast<int>(number);
+            return whole;
+        });
+    }
+    static FExprBase handle(int number) { return FExprBase(new FInteger(number)); }
+};
+
+template <>
+struct FCmdTypeOf<unsigned int> {
+    static FCmdType type() {
+        return cmdtype::plain("unsigned", FUnsigned::mClass, [](const FExprBase& handle, std::any& value) {
+            double number = 0;
+            const bool whole = cmdtype::wholeNumber(handle, 0, 4294967295.0, number);
+            value = static_cast<unsigned int>(number);
+            return whole;
+        });
+    }
+    static FExprBase handle(unsigned int number) { return FExprBase(new FUnsigned(number)); }
+};
+
+template <>
+struct FCmdTypeOf<bool> {
+    static FCmdType type() {
+        return cmdtype::plain("bool", FBool::mClass, [](const FExprBase& handle, std::any& value) {
+            const auto* flag = dynamic_cast<const FBool*>(valueObject(handle));
+            value = flag && flag->getValue();
+            return flag != nullptr;
+        });
+    }
+    static FExprBase handle(bool flag) { return FExprBase(new FBool(flag)); }
+};
+
+template <>
+struct FCmdTypeOf<FExpr<FObject>> {
+    static FCmdType type() {
+        return {QStringLiteral("FObject"), QStringLiteral("FObject"), &FObject::mClass,
+                [](const FExprBase& handle, std::any& value) {
+                    value = FExpr<FObject>(handle.getObject());
+                    return handle.getObject() != nullptr;
+                },
+                true};
+    }
+    static FExprBase handle(const FExprBase& handle) { return handle; }
+};
+
+template <class T>
+struct FCmdTypeOf<FExpr<T>> {
+    static FCmdType type() {
+        const QString name = T::mClass.getName();
+        return {name, name, &T::mClass,
+                [](const FExprBase& handle, std::any& value) {
+                    auto* object = dynamic_cast<T*>(handle.getObject());
+                    value = FExpr<T>(static_cast<const FObject*>(object));
+                    return object != nullptr;
+                },
+                true};
+    }
+    static FExprBase handle(const FExprBase& handle) { return handle; }
+};
+
+template <class T>
+requires std::is_base_of_v<FObject, T>
+struct FCmdTypeOf<T*> : FCmdTypeOf<FExpr<T>> {
+    static FExprBase handle(const T* object) { return FExprBase(static_cast<const FObject*>(object)); }
+};
+
+/** A list of objects of one class. `NULL` elements are empty handles. */
+template <class T>
+struct FCmdTypeOf<QList<FExpr<T>>> {
+    static FCmdType type() {
+        return {
+            T::mClass.getName() + QStringLiteral("Container"), QStringLiteral("FCONTAINER"), &FObjectList::mClass,
+            [](const FExprBase& handle, std::any& value) {
+                QList<FExpr<T>> list;
+                FObject* object = handle.getObject();
+                const FObjectList* source = object ? object->castToObjectList() : nullptr;
+                bool fits = source != nullptr;
+                for (const FExpr<FObject>& element : source ? source->getObjects() : std::vector<FExpr<FObject>>()) {
+                    auto* typed = dynamic_cast<T*>(element.getObject());
+                    fits = fits && (typed || cmdtype::isScriptNull(element));
+                    list.append(FExpr<T>(static_cast<const FObject*>(typed)));
+                }
+                value = list;
+                return fits;
+            }};
+    }
+    static FExprBase handle(const QList<FExpr<T>>& list) {
+        auto* objects = new FObjectList(T::null());
+        for (const FExpr<T>& element : list) {
+            objects->add(element);
+        }
+        return FExprBase(objects);
+    }
+};
+
+template <>
+struct FCmdTypeOf<QStringList> {
+    static FCmdType type() {
+        return {
+            QStringLiteral("stringContainer"), QStringLiteral("FCONTAINER"), &FObjectList::mClass,
+            [](const FExprBase& handle, std::any& value) {
+                QStringList texts;
+                FObject* object = handle.getObject();
+                const FObjectList* source = object ? object->castToObjectList() : nullptr;
+                bool fits = source != nullptr;
+                for (const FExpr<FObject>& element : source ? source->getObjects() : std::vector<FExpr<FObject>>()) {
+                    const auto* basic = dynamic_cast<const FBasicType*>(valueObject(element));
+                    fits = fits && basic;
+                    texts.append(basic ? basic->toPlainString() : QString());
+                }
+                value = texts;
+                return fits;
+            }};
+    }
+    static FExprBase handle(const QStringList& texts) {
+        auto* objects = new FObjectList(FString::null());
+        for (const QString& text : texts) {
+            objects->add(FExpr<FObject>(new FString(text)));
+        }
+        return FExprBase(objects);
+    }
+};
+
+template <>
+struct FCmdTypeOf<FKeptExpression> {
+    static FCmdType type() {
+        FCmdType type{QStringLiteral("FObject"), QStringLiteral("expression"), &FObject::mClass,
+                      [](const FExprBase& handle, std::any& value) {
+                          value = FKeptExpression{handle};
+                          return handle.isValid();
+                      }};
+        type.isKept = true;
+        return type;
+    }
+};
+
+/** All further arguments, evaluated. */
+template <>
+struct FCmdTypeOf<std::vector<FExprBase>> {
+    static FCmdType type() {
+        FCmdType type{QStringLiteral("FObjects"), QStringLiteral("FObjects"), &FObject::mClass};
+        type.takesRest = true;
+        return type;
+    }
+};

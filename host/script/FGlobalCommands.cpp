@@ -1,0 +1,133 @@
+#include "host/script/FGlobalCommands.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FObjectManager.h"
+#include "host/script/FCmdInput.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FCmdTable.h"
+#include "host/script/FMemberCmd.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <iostream>
+
+namespace {
+
+QString plainText(const FExprBase& handle) {
+    const FObject* value = valueObject(handle);
+    const auto* basic = dynamic_cast<const FBasicType*>(value);
+    return basic ? basic->toPlainString() : value ? value->toString() : QStringLiteral("NULL");
+}
+
+void print(const std::vector<FExprBase>& values) {
+    QStringList texts;
+    for (const FExprBase& value : values) {
+        texts.append(plainText(value));
+    }
+    std::cout << texts.join(QLatin1Char(' ')).toStdString() << std::endl;
+}
+
+QString resolve(const QString& path) {
+    const FCmdInput* script = FCmdInput::current();
+    return script ? script->resolvePath(path) : path;
+}
+
+FExpr<FObject> readText(const QString& path) {
+    QFile file(resolve(path));
+    if (!file.open(QIODevice::ReadOnly)) {
+        FLogMsg::warning(QStringLiteral("readText"),
+                         QStringLiteral("can't read \"%1\": %2").arg(file.fileName(), file.errorString()),
+                         QStringLiteral("result is NULL"));
+        return {};
+    }
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    return FExpr<FObject>(new FString(stream.readAll()));
+}
+
+bool include(const QString& path) {
+    FCmdInput* script = FCmdInput::current();
+    return script && script->include(path);
+}
+
+void exitScript(int code) {
+    if (FCmdInput* script = FCmdInput::current()) {
+        script->requestExit(code);
+    }
+}
+
+FExpr<FObject> getAttribute(const FExpr<FObject>& object, const QString& name) {
+    const FObject* receiver = object.getObject();
+    for (const FObject* attribute : FCmdManager::instance()->getAttributesByReceiver(receiver)) {
+        const auto* prototype = dynamic_cast<const FAttribCmd*>(attribute);
+        if (prototype && prototype->getName() == name) {
+            FExprBase value;
+            auto* command = static_cast<FAttribCmd*>(prototype->clone());
+            const FExprBase keep(command);
+            command->setReceiver(object);
+            command->getAttrValue(value);
+            return FExpr<FObject>(value);
+        }
+    }
+    FLogMsg::warning(QStringLiteral("getAttribute"),
+                     FCmdManager::instance()->unknownMember(receiver->getClassData(), name),
+                     QStringLiteral("result is NULL"));
+    return {};
+}
+
+bool exists(const QString& name) {
+    return FObjectManager::instance()->find(name) != nullptr;
+}
+
+bool destroyObject(const FExpr<FManaged>& object) {
+    return FManaged::destroy(object.ptr(), true);
+}
+
+FExpr<FObject> getObjects(const QString& className) {
+    const FObject* prototype = FObject::getPrototype(className);
+    auto* list = new FObjectList(prototype);
+    FExpr<FObject> handle(list);
+    if (!prototype) {
+        FLogMsg::warning(QStringLiteral("getObjects"), QStringLiteral("there is no class \"%1\"").arg(className));
+        return handle;
+    }
+    for (FManaged* object : FObjectManager::instance()->getManaged(prototype)) {
+        list->add(FExpr<FObject>(object));
+    }
+    return handle;
+}
+
+FExpr<FObject> makeFileName(const QString& path) {
+    return FExpr<FObject>(new FFileName(path));
+}
+
+void commands(FCmdTable& table) {
+    table.global("print", &print, {"values"});
+    table.global("include", &include, {"file"}).unwrapped();
+    table.global("readText", &readText, {"file"}).returns(FCmdTypeOf<QString>::type()).readsFiles();
+    table.global("exit", &exitScript, {"code=0"});
+    table
+        .global(
+            "undo", +[] { return FHistory::instance()->undo(); })
+        .unwrapped();
+    table
+        .global(
+            "redo", +[] { return FHistory::instance()->redo(); })
+        .unwrapped();
+    table.global("exists", &exists, {"name"}).query();
+    table.global("destroy", &destroyObject, {"object"});
+    table.global("getObjects", &getObjects, {"class"}).returns(FCmdTypeOf<QList<FExpr<FObject>>>::type()).query();
+    table.global("getAttribute", &getAttribute, {"object", "attribute"}).query();
+    table.global("fileName", &makeFileName, {"path"}).returns(FCmdTypeOf<FExpr<FFileName>>::type()).query();
+}
+
+}  // namespace
+
+FClassData FGlobalCommands::mClass("FGlobalCommands", &FObject::mClass, &commands);
+
+void objectListCommands(FCmdTable& table) {
+    table.member<FObjectList>("count", &FObjectList::count).query();
+    table.member<FObjectList>("at", &FObjectList::at, {"index"}).query();
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "host/script/FCmd.h"
+
+/**
+ * A command on a receiver. On a list it is carried out for each element of its class, and gives the list of the
+ * results as a selection set; a list of one element behaves like the element.
+ */
+class FMemberCmd : public FClass<FMemberCmd, FCmd> {
+ public:
+    static FClassData mClass;
+
+    FMemberCmd() = default;
+    explicit FMemberCmd(const FCmdRow& row) : FClass(row) {}
+
+    const FClassData& getClassData() const override { return classOfRow(mClass); }
+    FObject* clone() const override;
+
+    void setReceiver(const FExprBase& receiver) { mReceiver = receiver; }
+    const FExprBase& getReceiver() const { return mReceiver; }
+    void setKept() override;
+
+    bool canSafelyBeUpdated(bool mayReadFiles) const override;
+    QString toExpressionString() const override;
+
+ protected:
+    FExprBase execute() const override;
+    /** Called with each object that the command has changed. */
+    virtual void acted(FObject* receiver) const { Q_UNUSED(receiver) }
+
+ private:
+    FExprBase act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    FExprBase actOnList(FObjectList& list) const;
+    void followReceiver(FObject* receiver) const;
+
+    FExprBase mReceiver;
+    mutable FExprBase mFollowed;  // what the receiver's expression gave, when it was linked
+};
+
+/** A command that sets an attribute, and tells its current value. */
+class FAttribCmd : public FClass<FAttribCmd, FMemberCmd> {
+ public:
+    static FClassData mClass;
+
+    FAttribCmd() = default;
+    explicit FAttribCmd(const FCmdRow& row) : FClass(row) {}
+
+    const FClassData& getClassData() const override { return classOfRow(mClass); }
+    FObject* clone() const override;
+
+    /**
+     * The attribute's present value on the receiver. On a selection set the common value; an empty handle if there is
+     * none, or if an element is of another class.
+     */
+    virtual void getAttrValue(FExprBase& value) const;
+
+ protected:
+    void acted(FObject* receiver) const override {
+        Q_UNUSED(receiver)
+        mCurrentValue = FExprBase();
+    }
+
+ private:
+    FExprBase valueOf(const FObject* receiver) const;
+
+    mutable FExprBase mCurrentValue;
+};

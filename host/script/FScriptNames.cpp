@@ -1,0 +1,21 @@
+#include "host/script/FScriptNames.h"
+
+#include "host/core/FManaged.h"
+#include "host/core/FObjectManager.h"
+
+FExprBase FScriptNames::find(const QString& name) const {
+    const auto variable = mVariables.find(name);
+    if (variable != mVariables.end()) {
+        return *variable;
+    }
+    const FExprBase declared = mDeclared.value(name);
+    return declared.isValid() ? declared : FExprBase(FObjectManager::instance()->find(name));
+}
+
+bool FScriptNames::isObject(const QString& name) const {
+    return mDeclared.value(name).isValid() || FObjectManager::instance()->find(name);
+}
+
+QStringList FScriptNames::getNames() const {
+    return QStringList(mVariables.keys()) + mDeclared.keys() + FObjectManager::instance()->getNames();
+}

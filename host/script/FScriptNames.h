@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/core/FExprBase.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+/**
+ * What names stand for in one script: its variables, and objects. An object that the script declared under a name that
+ * was taken has another name in the model; within the script the declared name means the new object.
+ */
+class FScriptNames {
+ public:
+    /** A variable's value, or an object; an empty handle if the name is unknown. */
+    FExprBase find(const QString& name) const;
+    bool isObject(const QString& name) const;
+    void setVariable(const QString& name, const FExprBase& value) { mVariables.insert(name, value); }
+    void setDeclared(const QString& name, const FExprBase& object) { mDeclared.insert(name, object); }
+    QStringList getNames() const;
+
+ private:
+    QHash<QString, FExprBase> mVariables;
+    QHash<QString, FExprBase> mDeclared;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/script/FPlace.h"
+
+/// What is wrong with the text of a script, and where.
+struct FSyntaxError {
+    FPlace place;
+    QString message;
+
+    /// As a user reads it: run.script:12:7: expected ")" after the arguments, found "}"
+    QString toString(const QString& file) const { return place.toString(file) + QLatin1String(": ") + message; }
+};

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <variant>
+#include <vector>
+
+#include "host/script/FSyntaxExpr.h"
+
+struct FSyntaxStatement;
+using FSyntaxBody = std::vector<FSyntaxStatement>;
+
+/// One line of a declaration's block: commands, each of them a Call, of which the first is for the declared object.
+using FSyntaxBlockLine = std::vector<FSyntaxExpr>;
+
+/// creator name(arguments) { .command(arguments) … }
+struct FSyntaxDeclaration {
+    bool isOutsideScope = false;  ///< a `&` stands before the creator
+    FSyntaxExpr creator;          ///< the Call creator(arguments)
+    QString name;
+    FPlace namePlace;
+    std::vector<FSyntaxBlockLine> block;
+};
+
+/// variable = value
+struct FSyntaxAssignment {
+    QString variable;
+    FSyntaxExpr value;
+};
+
+/// if (condition) body else if (condition) body … else otherwise
+struct FSyntaxIf {
+    struct Branch {
+        FSyntaxExpr condition;
+        FSyntaxBody body;
+    };
+    std::vector<Branch> branches;
+    FSyntaxBody otherwise;
+};
+
+/// while (condition) body
+struct FSyntaxWhile {
+    FSyntaxExpr condition;
+    FSyntaxBody body;
+};
+
+/// for (variable in list) body
+struct FSyntaxFor {
+    QString variable;
+    FPlace variablePlace;
+    FSyntaxExpr list;
+    FSyntaxBody body;
+};
+
+/// A statement as it is written; its place is that of its first character.
+struct FSyntaxStatement {
+    FPlace place;
+    std::variant<FSyntaxExpr, FSyntaxDeclaration, FSyntaxAssignment, FSyntaxIf, FSyntaxWhile, FSyntaxFor> content;
+};

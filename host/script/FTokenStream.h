@@ -1,0 +1,73 @@
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+
+#include "host/script/FLexer.h"
+#include "host/script/FSyntaxError.h"
+
+/// The tokens of a script as a parser wants them: one at a time, with questions about it, and with the first error.
+/// After an error the stream stands still and its token is of no kind, so that a parser runs to its end by itself and
+/// asks for the error only where it matters.
+class FTokenStream {
+ public:
+    static constexpr int deepestNesting = 200;
+
+    /// Where passing over a damaged statement may stop.
+    enum class FSkipTo {
+        Statement,        ///< where a statement begins a line, or behind a closing brace
+        NestedStatement,  ///< where a statement begins a line, or at a closing brace
+        BlockLine         ///< where a command or a declaration begins a line, or at a closing brace
+    };
+
+    /// One level of nesting as long as it lives; deeper than deepestNesting is an error.
+    class Level {
+     public:
+        explicit Level(FTokenStream& tokens);
+        ~Level() { --mTokens.mNesting; }
+        Level(const Level&) = delete;
+        Level& operator=(const Level&) = delete;
+
+     private:
+        FTokenStream& mTokens;
+    };
+
+    explicit FTokenStream(const FLexer& lexer) : mLexer(lexer), mCurrent(mLexer.next()) {}
+
+    const FToken& current() const { return mCurrent; }
+    FToken::Kind kind() const { return mError ? FToken::Kind::BadCharacter : mCurrent.kind; }
+    bool isAt(FToken::Kind kind) const { return !mError && mCurrent.kind == kind; }
+
+    /// Whether the present token and those behind it are of these kinds.
+    bool isAt(std::initializer_list<FToken::Kind> kinds) const;
+    bool isAtDeclaration() const;
+
+    void advance();
+    bool accept(FToken::Kind kind);
+
+    /// Passes over a token of this kind, or fails with `expected` in the message.
+    void expect(FToken::Kind kind, const char* expected);
+
+    void failExpected(const QString& expected);
+    void fail(const FPlace& place, const QString& message);
+    bool hasFailed() const { return mError.has_value(); }
+
+    /// The error; the stream goes on after that.
+    FSyntaxError takeError();
+
+    /// Goes on with the next line.
+    void skipLine();
+
+    /// After takeError: passes over the rest of the statement that begins at the position `begin`, its block included.
+    /// A quote or bracket missing in it costs nothing of what follows it.
+    void skipStatement(int begin, FSkipTo to);
+
+ private:
+    bool canGoOn(int begin, FSkipTo to) const;
+
+    FLexer mLexer;
+    FToken mCurrent;
+    FToken mPrevious;
+    std::optional<FSyntaxError> mError;
+    int mNesting = 0;
+};

@@ -1,3 +1,5 @@
-int main() {
-    return 0;
+#include "merix/FApplication.h"
+
+int main(int argc, char** argv) {
+    return FApplication().run(argc, argv);
 }

@@ -14,7 +14,7 @@ class FEnum : public FClass<FEnum<E>, FEnumBase> {
     static FClassData mClass;
     static const FEnumTable& table();
 
-    FEnum() : Base(FObject::mInitPrototype ? 0U : table().getDefaultValue()) {}
+    FEnum() : Base(table().getDefaultValue()) {}
     FEnum(E value) : Base(static_cast<unsigned int>(value)) {}  // NOLINT(google-explicit-constructor)
     explicit FEnum(const QString& text) : Base(getValueForString(text)) {}
     FObject* clone() const override { return new FEnum(get()); }

@@ -61,6 +61,12 @@ class FStateFields {
         mFields.push_back(std::make_unique<MemberField<V>>(member, std::move(after)));
         return *this;
     }
+    /** A handle, or a list of handles, on which this object depends: it is made their client anew when written back. */
+    template <class V>
+    FStateFields& linked(V C::*member, After after = nullptr) {
+        mFields.push_back(std::make_unique<LinkedField<V>>(member, std::move(after)));
+        return *this;
+    }
     /** A list of handles on objects that this one owns; their fields are kept with it. */
     template <class T>
     FStateFields& owned(QList<FExpr<T>> C::*member) {
@@ -112,6 +118,30 @@ class FStateFields {
      private:
         V C::*mMember;
         After mAfter;
+    };
+
+    template <class V>
+    class LinkedField : public MemberField<V> {
+     public:
+        LinkedField(V C::*member, After after) : MemberField<V>(member, std::move(after)), mMember(member) {}
+        void write(FObject& object, const std::any& value) const override {
+            for (const FExprBase& handle : handles(static_cast<const C&>(object).*mMember)) {
+                handle.unregisterClient(&object);
+            }
+            for (const FExprBase& handle : handles(std::any_cast<const V&>(value))) {
+                handle.registerClient(&object);
+            }
+            MemberField<V>::write(object, value);
+        }
+
+     private:
+        static std::vector<FExprBase> handles(const FExprBase& handle) { return {handle}; }
+        template <class T>
+        static std::vector<FExprBase> handles(const QList<FExpr<T>>& list) {
+            return {list.begin(), list.end()};
+        }
+
+        V C::*mMember;
     };
 
     class OwnedField : public FStateField {

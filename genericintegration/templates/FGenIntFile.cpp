@@ -1,0 +1,128 @@
+#include "genericintegration/templates/FGenIntFile.h"
+
+#include "genericintegration/templates/FTemplateOwner.h"
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FModel.h"
+#include "host/core/FTextDecoder.h"
+#include "host/script/FCmdTable.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QString& storedMark() {
+    static const QString mark = QStringLiteral("[B64]");
+    return mark;
+}
+
+void commands(FCmdTable& table) {
+    table.attribute<FGenIntFile>("setContent", &FGenIntFile::setContent, &FGenIntFile::getContent, {"content"})
+        .attrName("Content")
+        .hidden()
+        .systemFlag(2)
+        .data();
+    table.attribute<FGenIntFile>("setFileName", &FGenIntFile::setFileName, &FGenIntFile::getFileName, {"fileName"})
+        .attrName("File Name")
+        .hidden()
+        .systemFlag(2)
+        .data();
+    table
+        .attribute<FGenIntFile>("setForceWindowsLineEndings", &FGenIntFile::setForceWindowsLineEndings,
+                                &FGenIntFile::getForceWindowsLineEndings, {"forceWindowsLineEndings"})
+        .attrName("Force Windows Line Endings")
+        .data();
+}
+
+}  // namespace
+
+FClassData FGenIntFile::mClass("FGenIntFile", &FManaged::mClass, &commands, &FGenIntFile::fields);
+
+FGenIntFile::FGenIntFile(const QString& name) : FClass(name) {
+    mSystemLevel = 2;
+}
+
+std::vector<std::unique_ptr<FStateField>> FGenIntFile::fields() {
+    return FStateFields<FGenIntFile>()
+        .member(&FGenIntFile::mFileName)
+        .member(&FGenIntFile::mContent)
+        .member(&FGenIntFile::mForceWindowsLineEndings)
+        .take();
+}
+
+QString FGenIntFile::getContent() const {
+    return storedMark() + QString::fromLatin1(mContent.toUtf8().toBase64());
+}
+
+QString FGenIntFile::decode(const QString& stored) {
+    return QString::fromUtf8(QByteArray::fromBase64(stored.mid(storedMark().size()).toLatin1()));
+}
+
+void FGenIntFile::markOutOfDate() {
+    if (!mBlockOutOfDate) {
+        setOutOfDate(true);
+    }
+}
+
+FGenIntFile* FGenIntFile::setContent(const QString& content) {
+    if (content.startsWith(storedMark())) {
+        mContent = decode(content);
+    } else {
+        mContent = content;
+        // Old projects keep the text on one line.
+        if (FMerixCtrl::instance()->isLoadingProject()) {
+            mContent.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+        }
+    }
+    markOutOfDate();
+    mContentAltered = true;
+    FHistoryTransaction transaction(QStringLiteral("set content"));
+    transaction.addStep(this);
+    return this;
+}
+
+void FGenIntFile::initFromFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    const QByteArray bytes = file.readAll();
+    file.close();
+    const int badLine = FTextDecoder::firstInvalidLine(bytes);
+    if (badLine > 0) {
+        FLogMsg::warning(getClass(), QStringLiteral("\"%1\" isn't valid UTF-8 in line %2").arg(path).arg(badLine),
+                         QStringLiteral("what can't be read is replaced; save the file as UTF-8"));
+    }
+    setContent(FTextDecoder::decode(bytes));
+    const QString name = QFileInfo(path).fileName();
+    setFileName(name);
+    setName(name);
+}
+
+FGenIntFile* FGenIntFile::setFileName(const QString& fileName) {
+    if (fileName == mFileName) {
+        return this;
+    }
+    const QString oldName = mFileName;
+    mFileName = fileName;
+    markOutOfDate();
+    FHistoryTransaction transaction(QStringLiteral("set file name"));
+    transaction.addStep(this);
+    for (FManaged* entity :
+         FModel::instance()->getEntities(FObject::getPrototype(QStringLiteral("FDefinitionGenInt")))) {
+        auto* owner = dynamic_cast<FTemplateOwner*>(entity);
+        if (owner && owner->getFiles().contains(FExpr<FGenIntFile>(this))) {
+            owner->updateCommandFiles(oldName, fileName);
+            break;
+        }
+    }
+    return this;
+}
+
+void FGenIntFile::setForceWindowsLineEndings(bool force) {
+    mForceWindowsLineEndings = force;
+    FHistoryTransaction transaction(QStringLiteral("set force Windows line endings"));
+    transaction.addStep(this);
+}

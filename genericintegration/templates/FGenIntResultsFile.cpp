@@ -1,0 +1,201 @@
+#include "genericintegration/templates/FGenIntResultsFile.h"
+
+#include "host/core/FHistory.h"
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+/** The suffix that tells the n-th of a name from the others. */
+QString counted(const QString& name, int number) {
+    return name + (number < 10 ? QStringLiteral("_0") : QStringLiteral("_")) + QString::number(number);
+}
+
+void commands(FCmdTable& table) {
+    using F = FGenIntResultsFile;
+    table.creator(
+        "genericIntegrationResultsFile", +[](const FNewName& name) { return F::create(name.name); });
+    table.attribute<F>("setValues", &F::setValues, &F::getValues, {"values"})
+        .attrName("Values")
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table.attribute<F>("setNumberSeparator", &F::setNumberSeparator, &F::getNumberSeparator, {"checked"})
+        .attrName("Find Numbers")
+        .attrAsExpr(false)
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table
+        .attribute<F>("setSpacesAndTabsSeparator", &F::setSpacesAndTabsSeparator, &F::getSpacesAndTabsSeparator,
+                      {"checked"})
+        .attrName("Spaces and Tabs Separator")
+        .attrAsExpr(false)
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table.attribute<F>("setRegExprSeparator", &F::setRegExprSeparator, &F::getRegExprSeparator, {"regularExpression"})
+        .attrName("RegExp Separator")
+        .attrAsExpr(false)
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table.member<F>("setRegExpSeparator", &F::setRegExpSeparator, {"regularExpression"}).systemFlag(1).data();
+    table.member<F>("setSpaceSeparator", &F::setSpaceSeparator, {"checked"}).systemFlag(1).data();
+    // Files and scripts know the command under this spelling.
+    table.member<F>("setTabSeaparator", &F::setTabSeparator, {"checked"})
+        .method("setTabSeparator")
+        .systemFlag(1)
+        .data();
+    table.hideInherited("FAttribCmdFGenIntCommandFilesetForceWindowsLineEndingsbool");
+}
+
+}  // namespace
+
+FClassData FGenIntResultsFile::mClass("FGenIntResultsFile", &FGenIntFile::mClass, &commands,
+                                      &FGenIntResultsFile::fields);
+
+FGenIntResultsFile::FGenIntResultsFile(const QString& name) : FClass(name) {
+    if (!isInitializingPrototype()) {
+        mValues = FExpr<FObjectList>(new FObjectList);
+    }
+}
+
+std::vector<std::unique_ptr<FStateField>> FGenIntResultsFile::fields() {
+    using F = FGenIntResultsFile;
+    return FStateFields<F>()
+        .member(&F::mNumberSeparator)
+        .member(&F::mSpacesAndTabsSeparator)
+        .member(&F::mRegExprSeparator)
+        .owned(&F::mValues)
+        .member(&F::mCurValue)
+        .take();
+}
+
+FGenIntResultsFile* FGenIntResultsFile::create(const QString& name) {
+    auto* file = new FGenIntResultsFile(name);
+    file->registerObject();
+    return file;
+}
+
+FObject* FGenIntResultsFile::clone() const {
+    FGenIntResultsFile* copy = create(QString());
+    copy->init(this);
+    return copy;
+}
+
+void FGenIntResultsFile::init(const FGenIntResultsFile* other) {
+    if (other) {
+        FGenIntFile::init(other);
+        copySeparators(*other);
+        setValues(other->getValues());
+    }
+}
+
+void FGenIntResultsFile::copySeparators(const FGenIntResultsFile& other) {
+    mNumberSeparator = other.mNumberSeparator;
+    mSpacesAndTabsSeparator = other.mSpacesAndTabsSeparator;
+    mRegExprSeparator = other.mRegExprSeparator;
+}
+
+void FGenIntResultsFile::addValue(const QString& name, int line, int column, const QString& anchor,
+                                  const QString& occurrence, bool calcAverage, const FExpr<FUnsigned>& numAverageRows) {
+    const QString given = name.isEmpty() ? counted(QStringLiteral("ResultsValue"), mValues->count()) : name;
+    auto* value = new FGenIntResultsFileValue(given, line, column, anchor, occurrence, FDouble::null(), QString(),
+                                              calcAverage, numAverageRows);
+    mCurValue = FExpr<FGenIntResultsFileValue>(value);
+    mValues->add(mCurValue);
+    setOutOfDate(true);
+}
+
+FExpr<FGenIntResultsFileValue> FGenIntResultsFile::getValue(const QString& name) const {
+    for (const FExpr<FObject>& element : mValues->getObjects()) {
+        const FExpr<FGenIntResultsFileValue> value(element);
+        if (value && value->mName.compare(name, Qt::CaseInsensitive) == 0) {
+            return value;
+        }
+    }
+    return {};
+}
+
+void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
+    const FExpr<FObjectList> fresh(new FObjectList);
+    for (const FExpr<FObject>& element : values ? values->getObjects() : std::vector<FExpr<FObject>>()) {
+        const FExpr<FGenIntResultsFileValue> value(new FGenIntResultsFileValue);
+        value->setPrimitiveValue(element);
+        fresh->add(value);
+    }
+    mValues = fresh;
+    if (!mCurValue && mValues->count() > 0) {
+        mCurValue = mValues->at(0);
+    }
+}
+
+void FGenIntResultsFile::deleteCurrentValue() {
+    if (mCurValue) {
+        mValues->remove(mCurValue);
+    }
+}
+
+QString FGenIntResultsFile::setCurValueName(const QString& name) {
+    if (!mCurValue || mCurValue->mName == name) {
+        return name;
+    }
+    FHistoryTransaction transaction(QStringLiteral("Set results value name"));
+    QString candidate = name;
+    for (int number = 1; getValue(candidate); ++number) {
+        candidate = counted(name, number);
+    }
+    mCurValue->mName = candidate;
+    transaction.addStep(this);
+    return candidate;
+}
+
+int FGenIntResultsFile::getCurLine() const {
+    return mCurValue ? mCurValue->mLine : 0;
+}
+
+int FGenIntResultsFile::getCurColumn() const {
+    return mCurValue ? mCurValue->mColumn : 0;
+}
+
+bool FGenIntResultsFile::getCurCalcAverage() const {
+    return mCurValue && mCurValue->mCalcAverage;
+}
+
+FExpr<FUnsigned> FGenIntResultsFile::getCurNumAverageRows() const {
+    return mCurValue ? mCurValue->mNumAverageRows : FExpr<FUnsigned>();
+}
+
+QString FGenIntResultsFile::getCurrentAnchor() const {
+    return mCurValue ? mCurValue->mAnchor : QString();
+}
+
+void FGenIntResultsFile::setCurrentAnchor(const QString& anchor) {
+    if (mCurValue) {
+        mCurValue->mAnchor = anchor;
+    }
+}
+
+GenIntAnchorOccurrence FGenIntResultsFile::getCurrentOccurrence() const {
+    return mCurValue ? mCurValue->mOccurrence.get() : GenIntAnchorOccurrence::Last;
+}
+
+void FGenIntResultsFile::setCurrentOccurrence(GenIntAnchorOccurrence occurrence) {
+    if (mCurValue) {
+        mCurValue->mOccurrence = FEnum<GenIntAnchorOccurrence>(occurrence);
+    }
+}
+
+void FGenIntResultsFile::setRegExpSeparator(const QString& expression) {
+    mRegExprSeparator = expression;
+    mNumberSeparator = mNumberSeparator && expression.isEmpty();
+}
+
+void FGenIntResultsFile::setSpaceSeparator(bool space) {
+    mNumberSeparator = mNumberSeparator && !space;
+    mSpacesAndTabsSeparator = mSpacesAndTabsSeparator || space;
+}
+
+FGenIntFile* FGenIntResultsFile::setFileName(const QString& fileName) {
+    return FGenIntFile::setFileName(fileName);
+}

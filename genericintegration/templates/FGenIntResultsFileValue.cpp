@@ -1,0 +1,141 @@
+#include "genericintegration/templates/FGenIntResultsFileValue.h"
+
+#include "host/core/FBool.h"
+#include "host/core/FNull.h"
+#include "host/core/FObjectList.h"
+#include "host/core/FQuotedText.h"
+
+FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
+                                           &FGenIntResultsFileValue::fields);
+
+namespace {
+
+QString bareQuoted(const QString& text) {
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+/** The element of a list as a value; null if nothing stands there. */
+const FBasicType* valueOf(const FExpr<FObject>& element) {
+    FObject* object = element.getObject();
+    auto* basic = object ? dynamic_cast<const FBasicType*>(object->getValueObject()) : nullptr;
+    return basic == FNull::null() ? nullptr : basic;
+}
+
+void readText(const FExpr<FObject>& element, QString& text) {
+    if (const FBasicType* value = valueOf(element)) {
+        text = value->toString();
+    }
+}
+
+void readInt(const FExpr<FObject>& element, int& number) {
+    if (const FBasicType* value = valueOf(element)) {
+        number = value->toInt();
+    }
+}
+
+}  // namespace
+
+FGenIntResultsFileValue::FGenIntResultsFileValue(const QString& name, int line, int column, const QString& anchor,
+                                                 const QString& occurrence, const FObject* type,
+                                                 const QString& importType, bool calcAverage,
+                                                 const FExpr<FUnsigned>& numAverageRows)
+    : mName(name),
+      mLine(line),
+      mColumn(column),
+      mAnchor(anchor),
+      mType(type),
+      mImportType(importType),
+      mCalcAverage(calcAverage) {
+    mOccurrence.setValue(occurrence);
+    setNumAverageRows(numAverageRows);
+}
+
+FGenIntResultsFileValue::FGenIntResultsFileValue(const FGenIntResultsFileValue& other)
+    : FClass(other),
+      mName(other.mName),
+      mLine(other.mLine),
+      mColumn(other.mColumn),
+      mAnchor(other.mAnchor),
+      mOccurrence(other.mOccurrence),
+      mType(other.mType),
+      mImportType(other.mImportType),
+      mCalcAverage(other.mCalcAverage) {
+    setNumAverageRows(other.mNumAverageRows);
+}
+
+std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
+    using Self = FGenIntResultsFileValue;
+    return FStateFields<Self>()
+        .member(&Self::mName)
+        .member(&Self::mLine)
+        .member(&Self::mColumn)
+        .member(&Self::mAnchor)
+        .member(&Self::mOccurrence)
+        .member(&Self::mType)
+        .member(&Self::mImportType)
+        .member(&Self::mCalcAverage)
+        .linked(&Self::mNumAverageRows)
+        .take();
+}
+
+void FGenIntResultsFileValue::setNumAverageRows(const FExpr<FUnsigned>& rows) {
+    mNumAverageRows.unregisterClient(this);
+    mNumAverageRows = rows;
+    mNumAverageRows.registerClient(this);
+}
+
+void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {
+    constexpr std::size_t fieldsWithoutAverage = 7;
+    FObject* object = value.getObject();
+    const FObjectList* list = object ? object->castToObjectList() : nullptr;
+    if (!list || list->getObjects().size() < fieldsWithoutAverage) {
+        return;
+    }
+    const std::vector<FExpr<FObject>>& elements = list->getObjects();
+    readText(elements[0], mName);
+    readInt(elements[1], mLine);
+    readInt(elements[2], mColumn);
+    readText(elements[3], mAnchor);
+    QString occurrence;
+    readText(elements[4], occurrence);
+    mOccurrence.setValue(occurrence);
+    QString type;
+    readText(elements[5], type);
+    mType = type.isEmpty() ? mType : FObject::getPrototype(type);
+    readText(elements[6], mImportType);
+    if (elements.size() > fieldsWithoutAverage) {
+        setAverage(elements);
+    }
+}
+
+void FGenIntResultsFileValue::setAverage(const std::vector<FExpr<FObject>>& elements) {
+    if (const FBasicType* flag = valueOf(elements[7])) {
+        mCalcAverage = flag->toDouble() != 0;
+    }
+    const FBasicType* rows = elements.size() > 8 ? valueOf(elements[8]) : nullptr;
+    if (rows) {
+        auto* number = new FUnsigned(static_cast<unsigned int>(qMax(0, rows->toInt())));
+        setNumAverageRows(FExpr<FUnsigned>(static_cast<const FObject*>(number)));
+    }
+}
+
+QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const QString& occurrence) const {
+    const QStringList texts{textOf(mName),
+                            QString::number(mLine),
+                            QString::number(mColumn),
+                            textOf(mAnchor),
+                            occurrence,
+                            textOf(mType ? mType->getClass() : QString()),
+                            textOf(mImportType),
+                            mCalcAverage ? QStringLiteral("1") : QStringLiteral("0"),
+                            mNumAverageRows.toHistoryString()};
+    return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
+}
+
+QString FGenIntResultsFileValue::toString() const {
+    return record(&bareQuoted, mOccurrence.getStringValue());
+}
+
+QString FGenIntResultsFileValue::toHistoryString() const {
+    return record(&quoteText, quoteText(mOccurrence.getStringValue()));
+}

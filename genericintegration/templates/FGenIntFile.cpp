@@ -57,7 +57,9 @@ QString FGenIntFile::getContent() const {
 }
 
 QString FGenIntFile::decode(const QString& stored) {
-    return QString::fromUtf8(QByteArray::fromBase64(stored.mid(storedMark().size()).toLatin1()));
+    const QByteArray bytes = QByteArray::fromBase64(stored.mid(storedMark().size()).toLatin1());
+    // With its size, since a conversion without it ends at the first NUL.
+    return QString::fromUtf8(bytes.constData(), bytes.size());
 }
 
 void FGenIntFile::markOutOfDate() {

@@ -1,0 +1,104 @@
+#include "genericintegration/templates/FGenIntFile.h"
+
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "host/core/FHistory.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FObjectManager.h"
+#include "tests/support/FModelTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class FGenIntFileTest : public FModelTest {
+ protected:
+    FGenIntCommandFile* file = FGenIntCommandFile::create(QStringLiteral("in1"));
+};
+
+TEST_F(FGenIntFileTest, storedFormKeepsEveryText) {
+    EXPECT_EQ(file->getContent(), "[B64]");
+    EXPECT_EQ(file->setContent(file->getContent())->getPlainContent(), "");
+    const QStringList texts{"a <entry>x</entry>\r\nb\n", QString::fromUtf8("Größe \u20ac \\n"), QString(QLatin1String("nul\0l", 5)),
+                            "[B64", "\"quoted\" \\"};
+    for (const QString& text : texts) {
+        file->setContent(text);
+        const QString stored = file->getContent();
+        file->setContent(QStringLiteral("other"));
+        EXPECT_EQ(file->setContent(stored)->getPlainContent(), text);
+    }
+    // A plain text that begins with the mark can't be held, and damaged Base64 isn't refused.
+    EXPECT_EQ(file->setContent("[B64]YWJj")->getPlainContent(), "abc");
+    EXPECT_EQ(file->setContent("[B64]YW!Jj")->getPlainContent(), "abc");
+}
+
+TEST_F(FGenIntFileTest, lineFeedsOfOldProjectsAreReadOnlyWhileLoading) {
+    EXPECT_EQ(file->setContent("a\\nb")->getPlainContent(), "a\\nb");
+    const QString stored = file->getContent();
+    const FProjectLoading loading;
+    EXPECT_EQ(file->setContent("a\\nb")->getPlainContent(), "a\nb");
+    EXPECT_EQ(file->setContent(stored)->getPlainContent(), "a\\nb");
+}
+
+TEST_F(FGenIntFileTest, everySetContentIsAStepAndMarks) {
+    file->setContent("x");
+    file->setContentAltered(false);
+    file->setOutOfDate(false);
+    const int steps = FHistory::instance()->getLabels().size();
+    file->setContent("x");
+    EXPECT_EQ(FHistory::instance()->getLabels().mid(steps), QStringList{"set content"});
+    EXPECT_TRUE(file->wasContentAltered());
+    EXPECT_TRUE(file->isOutOfDate());
+
+    file->setOutOfDate(false);
+    file->blockOutOfDateState(true);
+    file->setContent("y");
+    file->setFileName("y.dat");
+    EXPECT_FALSE(file->isOutOfDate());
+}
+
+TEST_F(FGenIntFileTest, theSameFileNameIsNoStep) {
+    file->setFileName("a.dat");
+    const int steps = FHistory::instance()->getLabels().size();
+    file->setOutOfDate(false);
+    file->setFileName("a.dat");
+    EXPECT_EQ(FHistory::instance()->getLabels().size(), steps);
+    EXPECT_FALSE(file->isOutOfDate());
+}
+
+TEST_F(FGenIntFileTest, initFromFileTakesTextAndNames) {
+    const QTemporaryDir folder;
+    QFile sample(folder.filePath("beam.inp"));
+    ASSERT_TRUE(sample.open(QIODevice::WriteOnly));
+    sample.write("a\r\nb\nc \xff d\n");
+    sample.close();
+
+    file->initFromFile(folder.filePath("missing.inp"));
+    EXPECT_EQ(file->getFileName(), "");
+    file->initFromFile(sample.fileName());
+    EXPECT_EQ(file->getPlainContent(), QString::fromUtf8("a\r\nb\nc \ufffd d\n"));
+    EXPECT_EQ(file->getFileName(), "beam.inp");
+    EXPECT_EQ(file->getName(), "beam_inp");
+    EXPECT_TRUE(logHolds("isn't valid UTF-8 in line 3"));
+}
+
+TEST_F(FGenIntFileTest, commandsAreUndoable) {
+    expectUndoable({"in1.setContent(\"new \\\"text\\\"\")", "in1.setFileName(\"sub/b.dat\")",
+                    "in1.setForceWindowsLineEndings(true)", "destroy(in1)",
+                    "genericIntegrationCommandFile in2() {\n.setContent(\"z\")\n.setFileName(\"z.dat\")\n}"});
+}
+
+TEST_F(FGenIntFileTest, updateFileReachesWholeTagsOnly) {
+    file->setContent("<ENTRY>A</ENTRY> <entry>Exports|a</entry> <entry>a </entry>");
+    file->updateFile("a", "b");
+    EXPECT_EQ(file->getPlainContent(), "<entry>b</entry> <entry>Exports|a</entry> <entry>a </entry>");
+    const int steps = FHistory::instance()->getLabels().size();
+    file->updateFile("", "c");
+    file->updateFile("b", "b");
+    EXPECT_EQ(FHistory::instance()->getLabels().size(), steps);
+    file->updateFile("nowhere", "c");
+    EXPECT_EQ(FHistory::instance()->getLabels().size(), steps + 1);
+    EXPECT_EQ(file->getEntryNames(), (QStringList{"b", "Exports|a", "a "}));
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+#include "genericintegration/templates/FGenIntResultsFile.h"
+
+#include "host/core/FHistory.h"
+#include "tests/support/FModelTest.h"
+
+namespace {
+
+class FGenIntResultsFileTest : public FModelTest {
+ protected:
+    void add(const QString& name) { file->addValue(name, 0, 0, QString(), QStringLiteral("Last"), false, {}); }
+    QString history() const { return file->getValues().toHistoryString(); }
+
+    FGenIntResultsFile* file = FGenIntResultsFile::create(QStringLiteral("out1"));
+};
+
+TEST_F(FGenIntResultsFileTest, generatedNamesCountTheList) {
+    for (int i = 0; i < 11; ++i) {
+        add(QString());
+    }
+    EXPECT_EQ(file->getValue("resultsvalue_00")->mName, "ResultsValue_00");
+    EXPECT_EQ(file->getCurValue()->mName, "ResultsValue_10");
+    file->setCurValue(file->getValue("ResultsValue_00"));
+    file->deleteCurrentValue();
+    add(QString());
+    EXPECT_EQ(file->getCurValue()->mName, "ResultsValue_10");  // a second one of that name
+}
+
+TEST_F(FGenIntResultsFileTest, aTakenNameGetsASuffix) {
+    add("Cd");
+    add("Cl");
+    EXPECT_EQ(file->setCurValueName("cd"), "cd_01");
+    EXPECT_EQ(file->setCurValueName("cd_01"), "cd_01");
+    // Only the case differs: the value finds itself.
+    EXPECT_EQ(file->setCurValueName("CD_01"), "CD_01_01");
+    EXPECT_EQ(FHistory::instance()->getLabels().last(), "Set results value name");
+    FHistory::instance()->undo();
+    EXPECT_EQ(file->getCurValue()->mName, "cd_01");
+}
+
+TEST_F(FGenIntResultsFileTest, theCursorAnswersForARemovedValue) {
+    EXPECT_EQ(file->getCurLine(), 0);
+    EXPECT_EQ(file->getCurrentOccurrence(), GenIntAnchorOccurrence::Last);
+    file->setCurrentAnchor("ignored");
+    file->addValue("a", 4, 2, "x", "first", true, FExpr<FUnsigned>(new FUnsigned(3)));
+    file->deleteCurrentValue();
+    EXPECT_EQ(file->getValues()->count(), 0);
+    EXPECT_EQ(file->getCurLine(), 4);
+    EXPECT_EQ(file->getCurColumn(), 2);
+    EXPECT_EQ(file->getCurrentAnchor(), "x");
+    EXPECT_EQ(file->getCurrentOccurrence(), GenIntAnchorOccurrence::First);
+    EXPECT_EQ(file->getCurNumAverageRows()->getValue(), 3U);
+}
+
+TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
+    run("out1.setValues([[\"q\\\"\\\\\", -2, 3, \"a,b\", First, \"FFileName\", \"tecplot\", 1, 7], [\"v\", 0, 1, \"\", "
+        "\"last\", \"FNoSuchClass\", \"\"], [1, 2]])");
+    EXPECT_EQ(history(),
+              "[[\"q\\\"\\\\\",-2,3,\"a,b\",\"First\",\"FFileName\",\"tecplot\",1,7],"
+              "[\"v\",0,1,\"\",\"Last\",\"\",\"\",0,NULL],[\"\",0,0,\"\",\"Last\",\"FDouble\",\"\",0,NULL]]");
+    EXPECT_EQ(file->getValues()->at(0).toString(), "[\"q\"\\\",-2,3,\"a,b\",First,\"FFileName\",\"tecplot\",1,7]");
+    EXPECT_EQ(file->getCurValue()->mName, "q\"\\");
+
+    const QString saved = history();
+    ASSERT_TRUE(run("out1.setValues(" + saved + ")"));
+    EXPECT_EQ(
+        history().toStdString(),
+        QString(saved).replace("\"v\",0,1,\"\",\"Last\",\"\"", "\"v\",0,1,\"\",\"Last\",\"FDouble\"").toStdString());
+
+    file->setSpaceSeparator(true);
+    const auto* copy = dynamic_cast<FGenIntResultsFile*>(file->clone());
+    EXPECT_TRUE(copy->getSpacesAndTabsSeparator());
+    EXPECT_EQ(copy->getValues()->count(), 3);
+    EXPECT_EQ(FExpr<FGenIntResultsFileValue>(copy->getValues()->at(0))->mName, "");
+}
+
+TEST_F(FGenIntResultsFileTest, olderSeparatorNamesEndFindNumbersMode) {
+    run("out1.setSpaceSeparator(false)\nout1.setTabSeaparator(false)\nout1.setRegExpSeparator(\"\")");
+    EXPECT_TRUE(file->getNumberSeparator());
+    run("out1.setRegExprSeparator(\",\")");
+    EXPECT_TRUE(file->getNumberSeparator());
+    run("out1.setRegExpSeparator(\";\")");
+    EXPECT_FALSE(file->getNumberSeparator());
+    run("out1.setNumberSeparator(true)\nout1.setTabSeaparator(true)");
+    EXPECT_FALSE(file->getNumberSeparator());
+    EXPECT_TRUE(file->getSpacesAndTabsSeparator());
+}
+
+TEST_F(FGenIntResultsFileTest, commandsAreUndoable) {
+    run("out1.setValues([[\"a\",0,0,\"\",Last,\"FDouble\",\"\",0,NULL]])");
+    expectUndoable(
+        {"out1.setValues([[\"b\",0,0,\"\",Last,\"FDouble\",\"\",1,5],[\"c\",0,0,\"\",Last,\"FDouble\",\"\"]])",
+         "out1.setSpacesAndTabsSeparator(true)", "out1.setRegExprSeparator(\";\")", "out1.setNumberSeparator(false)",
+         "out1.setNumberSeparator(true)", "out1.setRegExpSeparator(\",\")", "out1.setValues([])", "destroy(out1)"});
+}
+
+TEST_F(FGenIntResultsFileTest, valuesEditedInPlaceComeBack) {
+    run("out1.setValues([[\"a\",0,0,\"\",Last,\"FDouble\",\"\",0,NULL]])");
+    const FExpr<FGenIntResultsFileValue> value = file->getValue("a");
+    {
+        FHistoryTransaction transaction("change anchor");
+        file->setCurrentAnchor("Force");
+        transaction.addStep(file);
+    }
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(value->mAnchor, "");
+    EXPECT_TRUE(FHistory::instance()->redo());
+    EXPECT_EQ(value->mAnchor, "Force");
+    EXPECT_EQ(file->getValue("a"), value);
+}
+
+TEST(GenIntAnchorOccurrenceTest, textsAndNumbers) {
+    using Occurrence = FEnum<GenIntAnchorOccurrence>;
+    EXPECT_EQ(Occurrence().get(), GenIntAnchorOccurrence::Last);
+    EXPECT_EQ(Occurrence().getStringValues(), (QStringList{"First", "Last"}));
+    Occurrence occurrence(QStringLiteral("first"));  // compared with regard to case: the default
+    EXPECT_EQ(occurrence.get(), GenIntAnchorOccurrence::Last);
+    EXPECT_TRUE(occurrence.setValue(QStringLiteral("FIRST")));
+    EXPECT_TRUE(occurrence == QStringLiteral("\"First\""));
+    EXPECT_FALSE(occurrence.setValue(QStringLiteral("middle")));
+    EXPECT_EQ(occurrence.get(), GenIntAnchorOccurrence::First);
+    occurrence.FEnumBase::setValue(7U);
+    EXPECT_EQ(occurrence.getStringValue(), "[KEY-OUT-OF-RANGE]");
+}
+
+}  // namespace

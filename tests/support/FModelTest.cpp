@@ -1,0 +1,81 @@
+#include "tests/support/FModelTest.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FManaged.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FPrototypes.h"
+#include "host/script/FCmdInput.h"
+
+#include <QTextStream>
+
+namespace {
+
+void clearModel() {
+    const FHistoryBlocker blocker;
+    const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
+    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
+        FManaged::destroy(*object, false);
+    }
+    FHistory::instance()->clear();
+}
+
+}  // namespace
+
+FModelTest::FModelTest() {
+    FPrototypes::buildPending();
+    clearModel();
+    FLogMsg::setSink([this](const FLogMsg& message) { mLog.append(message.toLine()); });
+}
+
+FModelTest::~FModelTest() {
+    clearModel();
+    FLogMsg::setSink(nullptr);
+}
+
+bool FModelTest::run(const QString& script) {
+    QString text = script;
+    QTextStream stream(&text);
+    FCmdInput input;
+    input.readInputString(stream, QStringLiteral("test"));
+    return input.exec();
+}
+
+FExprBase FModelTest::evaluate(const QString& expression) {
+    FExprBase bound;
+    bound.resolve(expression);
+    return FExprBase(bound.getObject());
+}
+
+QString FModelTest::textOf(const QString& expression) {
+    return evaluate(expression).toString();
+}
+
+QString FModelTest::savedModel() {
+    QString text;
+    QTextStream stream(&text);
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        object->saveScopeManner(stream, 0, false, false);
+    }
+    stream.flush();
+    return text;
+}
+
+bool FModelTest::logHolds(const QString& text) const {
+    return mLog.join(QLatin1Char('\n')).contains(text);
+}
+
+void FModelTest::expectUndoable(const QStringList& statements) {
+    for (const QString& statement : statements) {
+        const QString before = savedModel();
+        const int steps = FHistory::instance()->getLabels().size();
+        ASSERT_TRUE(run(statement)) << statement.toStdString() << "\n" << mLog.join('\n').toStdString();
+        const QString after = savedModel();
+        EXPECT_NE(before, after) << statement.toStdString() << " changes nothing";
+        ASSERT_EQ(FHistory::instance()->getLabels().size(), steps + 1) << statement.toStdString();
+        EXPECT_TRUE(FHistory::instance()->undo());
+        EXPECT_EQ(savedModel().toStdString(), before.toStdString()) << "undo of " << statement.toStdString();
+        EXPECT_TRUE(FHistory::instance()->redo());
+        EXPECT_EQ(savedModel().toStdString(), after.toStdString()) << "redo of " << statement.toStdString();
+    }
+}

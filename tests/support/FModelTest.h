@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/core/FExprBase.h"
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QStringList>
+
+/** Tests on the model: each starts with an empty model and history, and sees what was logged. */
+class FModelTest : public testing::Test {
+ public:
+    FModelTest();
+    ~FModelTest() override;
+
+    /** Carries out a script; false if an error ended it. */
+    bool run(const QString& script);
+    /** The value of an expression. */
+    static FExprBase evaluate(const QString& expression);
+    static QString textOf(const QString& expression);
+    /** All objects of the model as saved text. */
+    static QString savedModel();
+    /** Log lines since the start of the test. */
+    const QStringList& log() const { return mLog; }
+    bool logHolds(const QString& text) const;
+    /** For each statement: saves, does, undoes, saves, redoes, saves, and expects the same texts. */
+    void expectUndoable(const QStringList& statements);
+
+ private:
+    QStringList mLog;
+};

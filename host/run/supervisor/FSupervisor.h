@@ -1,0 +1,59 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <cstddef>
+
+/** How a program ended. */
+struct FProgramEnd {
+    const char* reason = "itself";  //!< or "limit", "stop": what ended it
+    bool exited = true;             //!< false if it died by a signal
+    int value = -1;                 //!< exit code, or number of the signal; -1 if it could not be ended
+    long long time = 0;             //!< of that, or of giving up; milliseconds since 1970
+    std::size_t remaining = 0;      //!< processes that could not be killed
+};
+
+/**
+ * Watches a started program until it and all its descendants are gone.
+ *
+ * They are asked to end (SIGTERM), and after the grace killed, when the time limit is reached, when the control pipe
+ * is closed, when a signal asks this process to end, and when the program has ended but left processes behind.
+ */
+class FSupervisor {
+ public:
+    using Milliseconds = std::chrono::milliseconds;
+
+    /** Adopts the orphans of the program to come and blocks the signals that it waits for. A limit of 0 is none. */
+    FSupervisor(int control, Milliseconds limit, Milliseconds grace);
+
+    /** Watches the leader of a process group, started after this object was made. To be called once. */
+    FProgramEnd watch(pid_t program);
+
+ private:
+    using Clock = std::chrono::steady_clock;
+    enum class Phase { Running, Asked, Killing, GivenUp };
+
+    bool reap();
+    void noteEnd(bool exited, int value);
+    void advance();
+    void beginEnding(const char* reason);
+    void killAll();
+    void waitForEvent();
+    bool hasEnded() const { return mEnd.time != 0; }
+    bool isDue() const { return Clock::now() >= mDeadline; }
+
+    int mControl;
+    int mSignals;
+    Milliseconds mLimit;
+    Milliseconds mGrace;
+    Clock::time_point mDeadline = Clock::time_point::max();
+    Clock::time_point mGiveUp = Clock::time_point::max();
+    Phase mPhase = Phase::Running;
+    bool mIsStopWanted = false;
+    pid_t mProgram = -1;
+    FProgramEnd mEnd;
+};
+
+/** The time of day in milliseconds since 1970. */
+long long wallTime();

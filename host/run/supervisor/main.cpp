@@ -1,0 +1,61 @@
+#include "host/run/supervisor/FLaunch.h"
+#include "host/run/supervisor/FSupervisor.h"
+
+#include <fcntl.h>
+#include <linux/close_range.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+// Runs one program to its end, with nothing of it left behind. Standard input is the control pipe: its end closing asks
+// to end the program. Standard output takes the report, a line an event:
+//   failed STEP ERRNO                             not started; STEP as in FLaunchResult
+//   started PID TIME                              milliseconds since 1970
+//   ended REASON exit|signal VALUE TIME REMAINING as in FProgramEnd
+
+namespace {
+
+enum Argument { Limit = 1, Grace, Folder, Input, Output, Error, Program };
+
+FSupervisor::Milliseconds duration(const char* text) {
+    constexpr long long year = 1000LL * 3600 * 24 * 365;
+    return FSupervisor::Milliseconds(std::clamp(std::atoll(text), 0LL, 100 * year));
+}
+
+// A session of its own keeps away the signals that a terminal sends to the group of whoever started this.
+void detachFromTerminal() {
+    setsid();
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGCHLD, SIG_DFL);
+}
+
+int supervise(char** argv, int control, int report) {
+    FSupervisor supervisor(control, duration(argv[Limit]), duration(argv[Grace]));
+    const FLaunchResult program = launch({argv[Folder], argv[Input], argv[Output], argv[Error], argv + Program});
+    if (program.failedStep != nullptr) {
+        dprintf(report, "failed %s %d\n", program.failedStep, program.errorNumber);
+        return 1;
+    }
+    dprintf(report, "started %d %lld\n", program.pid, wallTime());
+    const FProgramEnd end = supervisor.watch(program.pid);
+    dprintf(report, "ended %s %s %d %lld %zu\n", end.reason, end.exited ? "exit" : "signal", end.value, end.time,
+            end.remaining);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc <= Program) {
+        std::fputs("merix-supervisor: started by merix to run a program; not meant to be started by hand\n", stderr);
+        return 2;
+    }
+    detachFromTerminal();
+    close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
+    const int control = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3);
+    const int report = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+    return supervise(argv, control, report);
+}

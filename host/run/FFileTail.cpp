@@ -1,0 +1,48 @@
+#include "host/run/FFileTail.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 kMostBytes = 4096;
+
+void replaceControls(QString& text) {
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control && character != '\t' && character != '\n') {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+}
+
+// A carriage return alone is what progress bars write: each of their states is a line.
+QStringList splitLines(QString text) {
+    text.replace('\r', '\n');
+    replaceControls(text);
+    QStringList lines = text.split('\n');
+    const auto isBlank = [](const QString& line) { return line.trimmed().isEmpty(); };
+    lines.erase(std::remove_if(lines.begin(), lines.end(), isBlank), lines.end());
+    return lines;
+}
+
+}  // namespace
+
+QString fileTail(const QString& file, int lines) {
+    QFile source(file);
+    // Opening a named pipe would wait for its writer.
+    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly)) {
+        return QString();
+    }
+    const qint64 start = std::max<qint64>(source.size() - kMostBytes, 0);
+    source.seek(start);
+    const QByteArray bytes = source.read(kMostBytes);
+    // With its size, since the text ends at a null byte otherwise.
+    QStringList all = splitLines(QString::fromUtf8(bytes.constData(), bytes.size()));
+    if (start > 0 && all.size() > 1) {
+        all.removeFirst();  // most likely cut
+    }
+    return all.mid(std::max(0, static_cast<int>(all.size()) - lines)).join('\n');
+}

@@ -1,0 +1,139 @@
+#include "host/run/FProcessText.h"
+
+#include "host/run/FProcessOutcome.h"
+#include "host/run/FProcessSetup.h"
+
+#include <QDir>
+#include <QLocale>
+
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+QString absoluteFile(const FProcessSetup& setup, const QString& file) {
+    return QDir(setup.workingFolder).absoluteFilePath(file);
+}
+
+QString errorOutputHint(const FProcessSetup& setup) {
+    if (setup.standardErrorFile.isEmpty()) {
+        return QString();
+    }
+    return QStringLiteral(" Its error output is in '%1'.").arg(absoluteFile(setup, setup.standardErrorFile));
+}
+
+QString reasonOfSystem(int errorNumber) {
+    return QString::fromLocal8Bit(std::strerror(errorNumber));
+}
+
+QString executionFailure(const QString& program, int errorNumber) {
+    switch (errorNumber) {
+        case ENOENT:
+            return QStringLiteral(
+                       "The program '%1' can't be started: the interpreter that its first line names, or a "
+                       "library loader it needs, is missing. Install it, or correct the first line.")
+                .arg(program);
+        case ENOEXEC:
+            return QStringLiteral(
+                       "The program '%1' can't be started: it is no program of this machine, nor a script with a "
+                       "first line such as '#!/bin/sh'. Add that line, or give another program.")
+                .arg(program);
+        case E2BIG:
+            return QStringLiteral(
+                       "The program '%1' can't be started: its arguments and environment are too long for the "
+                       "system. Shorten them, or pass them in a file.")
+                .arg(program);
+        default:
+            return QStringLiteral("The program '%1' can't be started: %2.").arg(program, reasonOfSystem(errorNumber));
+    }
+}
+
+QString fileFailure(const FProcessSetup& setup, const QString& program, const QString& what, const QString& file,
+                    int errorNumber) {
+    return QStringLiteral("The program '%1' was not started: %2 '%3' can't be opened: %4. Check its path and rights.")
+        .arg(program, what, absoluteFile(setup, file), reasonOfSystem(errorNumber));
+}
+
+}  // namespace
+
+QString FProcessText::signalName(int signal) {
+    const char* const name = sigabbrev_np(signal);
+    const char* const words = sigdescr_np(signal);
+    if (name == nullptr || words == nullptr) {
+        return QStringLiteral("signal %1").arg(signal);
+    }
+    return QStringLiteral("%1 (SIG%2)").arg(QString::fromLatin1(words).toLower(), QLatin1String(name));
+}
+
+QString FProcessText::ending(const FProcessSetup& setup, const FProcessOutcome& outcome) {
+    const QString& place = setup.workingFolder;
+    switch (outcome.cause) {
+        case FProcessOutcome::Cause::TimeLimit: {
+            // The shortest text that is that number, never with an exponent.
+            const QString limit = QLocale::c().toString(setup.timeLimit, 'f', QLocale::FloatingPointShortest);
+            return QStringLiteral("'%1' in '%2' was ended by its time limit of %3 s. Give it more time if it needs it.")
+                       .arg(outcome.program, place, limit) +
+                   errorOutputHint(setup);
+        }
+        case FProcessOutcome::Cause::Signal:
+            return QStringLiteral("'%1' in '%2' was ended by a signal: %3.")
+                       .arg(outcome.program, place, signalName(outcome.signal)) +
+                   errorOutputHint(setup);
+        case FProcessOutcome::Cause::ExitCode:
+            return QStringLiteral("'%1' in '%2' failed with exit code %3.")
+                       .arg(outcome.program, place, QString::number(outcome.exitCode)) +
+                   errorOutputHint(setup);
+        case FProcessOutcome::Cause::Cancelled:
+            return QStringLiteral("'%1' in '%2' was cancelled.").arg(outcome.program, place);
+        default:
+            return QString();
+    }
+}
+
+QString FProcessText::startFailure(const FProcessSetup& setup, const QString& program, const QString& step,
+                                   int errorNumber) {
+    if (step == QLatin1String("folder")) {
+        return fileFailure(setup, program, QStringLiteral("its working folder"), setup.workingFolder, errorNumber);
+    }
+    if (step == QLatin1String("input")) {
+        return fileFailure(setup, program, QStringLiteral("the file of its standard input"), setup.standardInputFile,
+                           errorNumber);
+    }
+    if (step == QLatin1String("output")) {
+        return fileFailure(setup, program, QStringLiteral("the file of its standard output"), setup.standardOutputFile,
+                           errorNumber);
+    }
+    if (step == QLatin1String("error")) {
+        return fileFailure(setup, program, QStringLiteral("the file of its error output"), setup.standardErrorFile,
+                           errorNumber);
+    }
+    return executionFailure(program, errorNumber);
+}
+
+QString FProcessText::supervisorMissing(const QString& program, const QString& supervisor) {
+    return QStringLiteral(
+               "The program '%1' was not started: the supervisor '%2', which belongs to this application, is "
+               "missing or not executable. Install it again, or set MERIX_SUPERVISOR to its path.")
+        .arg(program, supervisor);
+}
+
+QString FProcessText::supervisorFailure(const QString& program, const QString& reason) {
+    return QStringLiteral(
+               "The program '%1' was not started: starting its supervisor failed (%2). Check the length of "
+               "its arguments and how many processes run.")
+        .arg(program, reason);
+}
+
+QString FProcessText::supervisorLost(const QString& program) {
+    return QStringLiteral(
+               "The supervisor of '%1' was killed, and the program with it. Look for processes that the "
+               "program may have left, then run it again.")
+        .arg(program);
+}
+
+QString FProcessText::remaining(const QString& program, int count) {
+    return QStringLiteral(
+               "Processes of '%1' are left that could not be killed (number: %2) and may still write files. End them "
+               "by hand.")
+        .arg(program, QString::number(count));
+}

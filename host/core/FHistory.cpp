@@ -34,6 +34,7 @@ void FHistory::close() {
     if (step.isEmpty()) {
         return;
     }
+    forgetChangesOfNew(step);
     for (ObjectChange& change : step.objects) {
         keepDifference(change, step.size);
     }
@@ -45,6 +46,20 @@ void FHistory::close() {
     }
     mUndone.clear();
     trim();
+}
+
+// What an object made by the step was before its end is of no interest: it comes and goes as a whole.
+void FHistory::forgetChangesOfNew(Transaction& step) {
+    QSet<const FManaged*> fresh;
+    for (const ModelChange& change : step.model) {
+        if (change.created) {
+            fresh.insert(change.managed);
+            change.managed->mpKnownState = std::make_unique<FState>(FState::capture(*change.managed));
+        }
+    }
+    step.objects.erase(std::remove_if(step.objects.begin(), step.objects.end(),
+                                      [&fresh](const ObjectChange& change) { return fresh.contains(change.managed); }),
+                       step.objects.end());
 }
 
 void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {

@@ -74,6 +74,7 @@ class FHistory {
     bool isRecording() const { return !mReplaying && mBlockers == 0; }
     void touch(FManaged* object);
     void close();
+    static void forgetChangesOfNew(Transaction& step);
     static void keepDifference(ObjectChange& change, std::size_t& size);
     void replay(const Transaction& step, bool forward);
     void trim();

@@ -100,13 +100,16 @@ void FManaged::leave() {
 }
 
 bool FManaged::destroy(FManaged* object, bool tellClients) {
-    if (!object || !object->mInModel || FHistory::instance()->isReplaying()) {
+    // An object that goes may take others along, which may want to take it along in turn.
+    if (!object || !object->mInModel || object->mLeaving || FHistory::instance()->isReplaying()) {
         return false;
     }
+    object->mLeaving = true;
     const FExprBase keep(object);
     const std::vector<FObject*> clients = object->getClients();
     FHistory::instance()->recordDestruction(object, clients);
     object->leave();
+    object->mLeaving = false;
     if (tellClients) {
         for (const FObject* client : object->getClients()) {
             client->setOutOfDate(true);

@@ -95,6 +95,7 @@ class FManaged : public FClass<FManaged, FObject> {
     QString mKnownName;  //!< the name under which the object manager knows the object
     int mDbId = 0;
     bool mInModel = false;
+    bool mLeaving = false;
     bool mInProject = true;
     bool mInUserConfig = false;
     bool mDefault = false;

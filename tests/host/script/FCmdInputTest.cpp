@@ -1,0 +1,90 @@
+#include "host/script/FCmdInput.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FObjectManager.h"
+#include "tests/host/core/FThing.h"
+#include "tests/support/FModelTest.h"
+
+namespace {
+
+class FCmdInputTest : public FModelTest {
+ protected:
+    bool read(const QString& text) {
+        QString copy = text;
+        QTextStream stream(&copy);
+        FCmdInput input(FCmdInput::Mode::SavedText);
+        input.readInputString(stream, "saved");
+        return input.exec();
+    }
+};
+
+TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
+    EXPECT_FALSE(run("thing span()\nspan.setNumbr(1)"));
+    EXPECT_TRUE(logHolds("test:2:6: FThing has no command \"setNumbr\" (did you mean \"setNumber\"?)"));
+    EXPECT_FALSE(run("spam.setNumber(1)"));
+    EXPECT_TRUE(logHolds("test:1:1: nothing is named \"spam\" (did you mean \"span\"?)"));
+    EXPECT_FALSE(run("thng x()"));
+    EXPECT_TRUE(logHolds("there is no creator \"thng\" (did you mean \"thing\"?)"));
+    EXPECT_FALSE(run("prnt(1)"));
+    EXPECT_TRUE(logHolds("there is no function \"prnt\" (did you mean \"print\"?)"));
+    EXPECT_FALSE(run("span = 1"));
+    EXPECT_TRUE(logHolds("is an object and can't be a variable"));
+    EXPECT_TRUE(run("span.setNumber(\"x\")"));
+    EXPECT_TRUE(logHolds("test:1:6: setNumber: argument 1 (number) must be of type double"));
+}
+
+TEST_F(FCmdInputTest, aFailedStatementLeavesNothingBehind) {
+    EXPECT_FALSE(run("thing a(1)\nthing b(2) {\n.setText(\"x\")\n.setNothing(1)\n}\nthing c()"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"a"});
+    EXPECT_EQ(FHistory::instance()->getLabels(), QStringList{"thing"});
+}
+
+TEST_F(FCmdInputTest, nothingRunsOfATextWithASyntaxError) {
+    EXPECT_FALSE(run("thing a(1)\nthing b(\n"));
+    EXPECT_TRUE(FObjectManager::instance()->getNames().isEmpty());
+}
+
+TEST_F(FCmdInputTest, aDeclaredNameMeansTheNewObject) {
+    run("thing a(1)");
+    EXPECT_TRUE(run("thing a(2)\nthing c(a.getNumber())"));
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
+    EXPECT_EQ(textOf("a_01.getNumber()"), "2");
+    EXPECT_EQ(textOf("c.getNumber()"), "2");
+}
+
+TEST_F(FCmdInputTest, controlFlowAndVariables) {
+    ASSERT_TRUE(
+        run("s = 0\nfor (i in [1,2,3]) {\n if (i == 2) { s = s + 10 } else { s = s + i }\n}\n"
+            "while (s < 20) { s = s + 1 }\nthing a(s)\nexit(3)\nthing never()"));
+    EXPECT_EQ(textOf("a.getNumber()"), "20");
+    EXPECT_FALSE(FObjectManager::instance()->find("never"));
+    // What isn't reached isn't evaluated.
+    ASSERT_TRUE(run("x = false && nothing\nif (true || destroy(a)) {}") == false);
+    ASSERT_TRUE(run("if (true || destroy(a)) {}"));
+    EXPECT_TRUE(FObjectManager::instance()->find("a"));
+}
+
+TEST_F(FCmdInputTest, savedTextIsData) {
+    EXPECT_FALSE(
+        read("thing a(1) {\n.setText(\"x\")\n.destroy(a)\n.setNumber(readText(\"/etc/passwd\").count())\n}\n"
+             "print(1)\ndestroy(a)\ninclude(\"x\")\nwhile (true) {}\nx = 1\n"
+             "thing b(exit(1))\nthing broken( {\n}\nthing c(3)\ncurFile : a\nlastFile : NULL\n"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), (QStringList{"a", "c"}));
+    EXPECT_EQ(textOf("c.getNumber()"), "3");
+    const int errors = log().size();
+    EXPECT_TRUE(read("thing d(4) {\n.setText(\"curFile : x\")\n}\ncurFile : d\nd.setFriend(c)\n"));
+    EXPECT_EQ(log().size(), errors);
+    EXPECT_EQ(textOf("d.getNumber()"), "4");
+}
+
+TEST_F(FCmdInputTest, longRowsAndDeepNestingDontUseUpTheStack) {
+    const QString row = QStringLiteral("1") + QStringLiteral("+1").repeated(9'000);
+    EXPECT_TRUE(run("thing a(" + row + ")"));
+    EXPECT_EQ(textOf("a.getNumber()"), "9001");
+    run("thing b(" + QString("(").repeated(100'000) + "1" + QString(")").repeated(100'000) + ")");
+    run("x = a" + QStringLiteral(".setNumber(1)").repeated(100'000));
+    run("thing c(" + QString("-").repeated(100'000) + "1)");
+    EXPECT_GE(log().size(), 3);
+}
+
+}  // namespace

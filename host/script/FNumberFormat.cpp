@@ -56,8 +56,7 @@ bool readConversion(const QRegularExpressionMatch& match, FConversion& conversio
                         .arg(quoteText(conversion.written)));
     if (!readSize(match.captured(2), conversion.width) || !readSize(match.captured(4), conversion.precision))
         return fail(error, QStringLiteral("the width or precision of %1 is larger than %2")
-                               .arg(quoteText(conversion.written))
-                               .arg(largestWidth));
+                               .arg(quoteText(conversion.written), QString::number(largestWidth)));
     if (match.captured(3).isEmpty())
         conversion.precision = -1;
     return true;

@@ -3,6 +3,15 @@
 using Kind = FToken::Kind;
 using FSkipTo = FTokenStream::FSkipTo;
 
+namespace {
+
+bool beginsNoStatement(Kind kind) {
+    return kind == Kind::Dot || kind == Kind::LeftBrace || kind == Kind::RightBrace || kind == Kind::Else ||
+           kind == Kind::Semicolon || kind == Kind::End;
+}
+
+}  // namespace
+
 FSyntaxBody FStatementParser::script() {
     return statements(FSkipTo::Statement);
 }
@@ -20,7 +29,7 @@ FSyntaxBody FStatementParser::statements(FSkipTo kind) {
     for (skipSeparators(); !isAtListEnd(kind); skipSeparators()) {
         if (skipIgnoredLine())
             continue;
-        const int begin = mTokens.current().begin;
+        const FToken begin = mTokens.current();
         FSyntaxStatement next = statement();
         if (!mTokens.hasFailed())
             body.push_back(std::move(next));
@@ -55,8 +64,7 @@ FSyntaxStatement FStatementParser::statement() {
         result.content = declaration();
     else if (mTokens.isAt({Kind::Name, Kind::Assign}))
         result.content = assignment();
-    else if (mTokens.isAt(Kind::Dot) || mTokens.isAt(Kind::LeftBrace) || mTokens.isAt(Kind::RightBrace) ||
-             mTokens.isAt(Kind::Else))
+    else if (beginsNoStatement(mTokens.kind()))
         mTokens.failExpected("a statement");
     else {
         result.content = mExpressions.expression();
@@ -92,7 +100,7 @@ void FStatementParser::block(FSyntaxDeclaration& declaration) {
             report();
             return;
         }
-        const int begin = mTokens.current().begin;
+        const FToken begin = mTokens.current();
         FSyntaxBlockLine line = blockLine();
         if (!mTokens.hasFailed())
             declaration.block.push_back(std::move(line));
@@ -207,16 +215,18 @@ void FStatementParser::skipSeparators() {
 bool FStatementParser::report() {
     if (!mMode.recovers)
         return false;
+    const bool isFollowUp = mTokens.isFollowUp();
+    FSyntaxError error = mTokens.takeError();
+    if (isFollowUp)
+        return true;
     if (mErrors.size() < mostErrors)
-        mErrors.push_back(mTokens.takeError());
-    else {
-        mTokens.takeError();
+        mErrors.push_back(std::move(error));
+    else
         ++mUntoldErrors;
-    }
     return true;
 }
 
-bool FStatementParser::recover(int begin, FSkipTo to) {
+bool FStatementParser::recover(const FToken& begin, FSkipTo to) {
     const bool goesOn = report();
     if (goesOn)
         mTokens.skipStatement(begin, to);

@@ -37,7 +37,7 @@ class FStatementParser {
     void skipLineEnds();
     void skipSeparators();
     bool report();
-    bool recover(int begin, FTokenStream::FSkipTo to);
+    bool recover(const FToken& begin, FTokenStream::FSkipTo to);
 
     FTokenStream mTokens;
     FExpressionParser mExpressions;

@@ -73,22 +73,32 @@ void FTokenStream::skipLine() {
     advance();
 }
 
-void FTokenStream::skipStatement(int begin, FSkipTo to) {
-    if (mCurrent.lacksQuote)
+/// Goes back to where the statement seems to have lost its end: to a quote, or, if an open bracket made it run on into
+/// further lines, to its first line. The latter is done once for each line, so that it costs linear time.
+void FTokenStream::beginSkipping(const FToken& begin) {
+    if (mCurrent.lacksQuote) {
         mLexer.beginSkipping(mCurrent, 1);
-    else if (mPrevious.lacksQuote && mPrevious.begin >= begin)
+    } else if (mPrevious.lacksQuote && mPrevious.begin >= begin.begin) {
         mLexer.beginSkipping(mPrevious, 1);
-    else
+    } else if (mCurrent.place.line > begin.place.line && begin.begin > mReadBefore) {
+        mReadBefore = mCurrent.begin;
+        mLexer.beginSkipping(begin, 0);
+    } else {
         mLexer.beginSkipping(mCurrent, 0);
+    }
+}
+
+void FTokenStream::skipStatement(const FToken& begin, FSkipTo to) {
+    beginSkipping(begin);
     int openBraces = 0;
-    for (mCurrent = mLexer.next(); openBraces > 0 || !canGoOn(begin, to); mCurrent = mLexer.next()) {
+    for (mCurrent = mLexer.next(); !canGoOn(begin, to, openBraces > 0); mCurrent = mLexer.next()) {
         const Kind kind = mCurrent.kind;
-        if (kind == Kind::LeftBrace)
+        if (kind == Kind::LeftBrace && to != FSkipTo::BlockLine)
             ++openBraces;
         else if (kind == Kind::RightBrace && openBraces > 0)
             --openBraces;
-        const bool endsHere = kind == Kind::Semicolon || kind == Kind::RightBrace;
-        if (kind == Kind::End || (endsHere && openBraces == 0)) {
+        const bool canEnd = openBraces == 0 && (kind == Kind::Semicolon || kind == Kind::RightBrace);
+        if (canEnd || kind == Kind::End) {
             mLexer.endSkipping();
             mCurrent = mLexer.next();
             return;
@@ -97,10 +107,13 @@ void FTokenStream::skipStatement(int begin, FSkipTo to) {
     mLexer.endSkipping();
 }
 
-bool FTokenStream::canGoOn(int begin, FSkipTo to) const {
+bool FTokenStream::canGoOn(const FToken& begin, FSkipTo to, bool isInBraces) const {
+    const bool beginsLine = mCurrent.isFirstOnLine && mCurrent.begin > begin.begin;
+    if (isInBraces)
+        return beginsLine && isAtDeclaration();
     if (mCurrent.kind == Kind::RightBrace)
         return to != FSkipTo::Statement;
-    if (!mCurrent.isFirstOnLine || mCurrent.begin <= begin)
+    if (!beginsLine)
         return false;
     if (to == FSkipTo::BlockLine)
         return mCurrent.kind == Kind::Dot || isAtDeclaration();

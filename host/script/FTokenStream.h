@@ -58,16 +58,22 @@ class FTokenStream {
     /// Goes on with the next line.
     void skipLine();
 
-    /// After takeError: passes over the rest of the statement that begins at the position `begin`, its block included.
-    /// A quote or bracket missing in it costs nothing of what follows it.
-    void skipStatement(int begin, FSkipTo to);
+    /// Whether the error stands where text that was read well before is read anew, and so only follows from an earlier
+    /// one.
+    bool isFollowUp() const { return mCurrent.begin <= mReadBefore; }
+
+    /// After takeError: passes over the rest of the statement that begins with `begin`, its block included.
+    /// A quote, bracket or brace missing or too much in it costs nothing of what follows it.
+    void skipStatement(const FToken& begin, FSkipTo to);
 
  private:
-    bool canGoOn(int begin, FSkipTo to) const;
+    void beginSkipping(const FToken& begin);
+    bool canGoOn(const FToken& begin, FSkipTo to, bool isInBraces) const;
 
     FLexer mLexer;
     FToken mCurrent;
     FToken mPrevious;
     std::optional<FSyntaxError> mError;
     int mNesting = 0;
+    int mReadBefore = -1;  ///< position of the last error from which reading went back by whole lines
 };

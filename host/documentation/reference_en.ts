@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>reference</name>
+    <message>
+        <source>!Global.sqrt(double,x)</source>
+        <translation>The square root.</translation>
+    </message>
+</context>
+</TS>

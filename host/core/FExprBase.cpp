@@ -51,7 +51,7 @@ FObject* FExprBase::getObject() const {
 
 const FObject* FExprBase::getType() const {
     const FObject* stored = getStored();
-    return stored ? stored->getResultType() : nullptr;
+    return stored ? stored->getEvaluatedType() : nullptr;
 }
 
 bool FExprBase::canSafelyBeUpdated(bool mayReadFiles) const {

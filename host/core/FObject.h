@@ -106,7 +106,7 @@ class FObject {
     /** The value that the object stands for in a calculation: for a parameter its number, else the object itself. */
     virtual FObject* getValueObject() const { return const_cast<FObject*>(this); }
     /** The type of what `evaluate` gives, as far as it is known without evaluating: a prototype, never null. */
-    virtual const FObject* getResultType() const { return getPrototype(); }
+    virtual const FObject* getEvaluatedType() const { return getPrototype(); }
     /** Whether evaluating is safe: no program runs and no dialog opens; files are read only with `mayReadFiles`. */
     virtual bool canSafelyBeUpdated(bool mayReadFiles) const;
 

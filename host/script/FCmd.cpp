@@ -39,7 +39,7 @@ FExprBase FCmd::getValue() const {
     return mResult;
 }
 
-const FObject* FCmd::getResultType() const {
+const FObject* FCmd::getEvaluatedType() const {
     const FClassData* result = mpRow ? mpRow->returnType.cls : nullptr;
     return result ? result->mpNull : FObject::null();
 }

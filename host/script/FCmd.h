@@ -42,7 +42,7 @@ class FCmd : public FClass<FCmd, FObject> {
 
     bool isCmd() const override { return true; }
     FObject* evaluate() const override { return getValue().getObject(); }
-    const FObject* getResultType() const override;
+    const FObject* getEvaluatedType() const override;
     bool canSafelyBeUpdated(bool mayReadFiles) const override;
     QString toString() const override { return toExpressionString(); }
     QString toExpressionString() const override;

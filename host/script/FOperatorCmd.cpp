@@ -128,7 +128,7 @@ FOperatorCmd::FOperatorCmd(std::vector<FOperator> operators, std::vector<FExprBa
     setOutOfDate(true);
 }
 
-const FObject* FOperatorCmd::getResultType() const {
+const FObject* FOperatorCmd::getEvaluatedType() const {
     const bool givesBool = isLazy() || isAny(FOperator::Not) || (!mOperators.empty() && isComparison(mOperators[0]));
     return givesBool ? static_cast<const FObject*>(FBool::null()) : FBasicType::null();
 }

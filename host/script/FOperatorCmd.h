@@ -16,7 +16,7 @@ class FOperatorCmd : public FClass<FOperatorCmd, FCmd> {
     FOperatorCmd(std::vector<FOperator> operators, std::vector<FExprBase> operands);
     FObject* clone() const override { return new FOperatorCmd(mOperators, getArguments()); }
 
-    const FObject* getResultType() const override;
+    const FObject* getEvaluatedType() const override;
     QString toExpressionString() const override;
 
  protected:
@@ -46,7 +46,7 @@ class FListCmd : public FClass<FListCmd, FCmd> {
     explicit FListCmd(std::vector<FExprBase> elements);
     FObject* clone() const override { return new FListCmd(getArguments()); }
 
-    const FObject* getResultType() const override { return FObjectList::null(); }
+    const FObject* getEvaluatedType() const override { return FObjectList::null(); }
     QString toExpressionString() const override;
 
  protected:

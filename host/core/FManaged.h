@@ -68,6 +68,9 @@ class FManaged : public FClass<FManaged, FObject> {
     /** Commands that a saved text holds beside the attributes, as `name(arguments)`. */
     virtual QStringList furtherSavedCommands() const { return {}; }
 
+    /** A double click on the object in a tree of objects; true if that was all, false for the usual editor. */
+    virtual bool doubleClickedInTree() { return false; }
+
     QString toString() const override { return mName; }
 
     FManaged& operator=(const FManaged& other) = delete;

@@ -20,6 +20,8 @@ class FObjectManager : public QObject {
     bool contains(const FObject* object) const { return mKnown.contains(object); }
     /** The object of that name; null if there is none. */
     FManaged* find(const QString& name) const;
+    /** The object of that number; null if there is none. */
+    FManaged* find(int id) const { return mById.value(id); }
     /** All names in alphabetical order. */
     QStringList getNames() const;
     /** The objects of a class and of those derived from it, in the order of creation. An empty name takes all. */

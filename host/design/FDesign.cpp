@@ -1,0 +1,3 @@
+#include "host/design/FDesign.h"
+
+FClassData FDesign::mClass("FDesign", &FEntity::mClass);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "host/core/FScope.h"
+
+/** A design of a study: what has a name and a folder of its own for its runs. */
+class FDesign : public FClass<FDesign, FEntity> {
+ public:
+    static FClassData mClass;
+
+    explicit FDesign(const QString& name = QString()) : FClass(name) {}
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/** Where a number was found in a file, and what was odd on the way; for those who show or check numbers. */
+struct FNumberOrigin {
+    QString text;          //!< as it stands in the file; for a mean, that of the last number in it
+    qint64 line = -1;      //!< from 1; -1 if there is no such line
+    qint64 column = -1;    //!< of the text's first character, from 1; -1 if nothing was found
+    qint64 length = -1;    //!< in characters; -1 if nothing was found
+    QStringList oddities;  //!< each in a few words, such as "anchor not found, counted from the top"
+
+    bool operator==(const FNumberOrigin&) const = default;
+};

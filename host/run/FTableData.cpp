@@ -1,0 +1,124 @@
+#include "host/run/FTableData.h"
+
+#include "host/script/FCmdTable.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+QHash<QString, int> firstOfEach(const QStringList& headers) {
+    QHash<QString, int> places;
+    for (int i = headers.size() - 1; i >= 0; --i) {
+        places.insert(headers[i], i);
+    }
+    return places;
+}
+
+void commands(FCmdTable& table) {
+    using F = FTableData;
+    const char* const name = "getElementAt";
+    table
+        .member<F>(name,
+                   +[](const F& data, unsigned int row, unsigned int column) {
+                       return data.getElementAt(static_cast<int>(row), static_cast<int>(column));
+                   },
+                   {"row", "column=0"})
+        .query();
+    table
+        .member<F>(name,
+                   +[](const F& data, const QString& row, unsigned int column) {
+                       return data.getElementAt(row, static_cast<int>(column));
+                   },
+                   {"row header", "column=0"})
+        .query();
+    table
+        .member<F>(name,
+                   +[](const F& data, double row, const QString& column) {
+                       return data.getElementAt(F::rowNumber(row), column);
+                   },
+                   {"row", "column header"})
+        .query();
+    table
+        .member<F>(
+            name,
+            +[](const F& data, const QString& row, const QString& column) { return data.getElementAt(row, column); },
+            {"row header", "column header"})
+        .query();
+    table.member<F>("getRowCount", &F::getRowCount).query();
+    table.member<F>("getColumnCount", &F::getColumnCount).query();
+    table.member<F>("getRowName", &F::getRowName, {"row"}).query();
+    table.member<F>("getRowNames", &F::getRowNames).query();
+}
+
+}  // namespace
+
+FClassData FTableData::mClass("FTableData", &FObject::mClass, &commands);
+
+FTableData::FTableData(const QString& name, unsigned int rows, unsigned int columns) : mName(name) {
+    setData(Rows(static_cast<int>(rows), QVector<double>(static_cast<int>(columns), notANumber)));
+}
+
+void FTableData::setData(const Rows& rows) {
+    mRows = rows;
+    mColumnCount = 0;
+    for (const QVector<double>& row : rows) {
+        mColumnCount = std::max(mColumnCount, row.size());
+    }
+}
+
+void FTableData::setAllVerticalHeaders(const QStringList& headers) {
+    mRowHeaders = headers;
+    mRowOfHeader = firstOfEach(headers);
+}
+
+void FTableData::setAllHorizontalHeaders(const QStringList& headers) {
+    mColumnOfHeader = firstOfEach(headers);
+}
+
+double FTableData::getElementAt(int row, int column, bool* found) const {
+    const bool exists = row >= 0 && row < mRows.size() && column >= 0 && column < mRows[row].size();
+    if (found) {
+        *found = exists;
+    }
+    return exists ? mRows[row][column] : notANumber;
+}
+
+double FTableData::getElementAt(const QString& rowHeader, int column) const {
+    return getElementAt(mRowOfHeader.value(rowHeader, -1), column);
+}
+
+double FTableData::getElementAt(int row, const QString& columnHeader) const {
+    return getElementAt(row, mColumnOfHeader.value(columnHeader, -1));
+}
+
+double FTableData::getElementAt(const QString& rowHeader, const QString& columnHeader) const {
+    return getElementAt(mRowOfHeader.value(rowHeader, -1), columnHeader);
+}
+
+double FTableData::getLastElementOfRow(int row) const {
+    return getElementAt(row, mRows.value(row).size() - 1);
+}
+
+double FTableData::getLastElementOfColumn(int column) const {
+    return getElementAt(mRows.size() - 1, column);
+}
+
+double FTableData::getAverageOfLastRows(int rows, int column) const {
+    const int used = std::min(rows, mRows.size());
+    if (used <= 0) {
+        return notANumber;
+    }
+    double sum = 0;
+    for (int row = mRows.size() - used; row < mRows.size(); ++row) {
+        sum += getElementAt(row, column);
+    }
+    return sum / used;
+}
+
+int FTableData::rowNumber(double row) {
+    const bool fits = row > -1 && row < std::numeric_limits<int>::max();
+    return fits ? static_cast<int>(row) : -1;
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "host/core/FClass.h"
+#include "host/run/FNumberOrigin.h"
+
+#include <QHash>
+#include <QStringList>
+#include <QVector>
+
+/**
+ * A table of numbers with a name, with headers for rows and columns that may be missing. Rows may differ in length.
+ *
+ * Whatever isn't there reads as the quiet NaN: a place outside the table, an unknown header. Of equal headers the first
+ * one counts; case matters. Every look-up costs the same, however large the table is.
+ */
+class FTableData : public FClass<FTableData, FObject> {
+ public:
+    static FClassData mClass;
+    using Rows = QVector<QVector<double>>;
+
+    /** The cells are NaN. */
+    explicit FTableData(const QString& name = QString(), unsigned int rows = 0, unsigned int columns = 0);
+
+    const QString& getName() const { return mName; }
+    QString toString() const override { return mName; }
+
+    // ---- filling; each call replaces what was there ----
+    void setData(const Rows& rows);
+    void setAllVerticalHeaders(const QStringList& headers);
+    void setAllVerticalHeadersTooltips(const QStringList& tooltips) { mRowTooltips = tooltips; }
+    void setAllHorizontalHeaders(const QStringList& headers);
+    /** Where each row's first number comes from. */
+    void setOrigins(const QVector<FNumberOrigin>& origins) { mOrigins = origins; }
+
+    // ---- numbers ----
+    /** @param found  if given, tells whether there is such a place */
+    double getElementAt(int row, int column, bool* found = nullptr) const;
+    double getElementAt(const QString& rowHeader, int column) const;
+    double getElementAt(int row, const QString& columnHeader) const;
+    double getElementAt(const QString& rowHeader, const QString& columnHeader) const;
+    /** The last number of a row, whatever its length. */
+    double getLastElementOfRow(int row) const;
+    /** The number of the last row in that column; NaN if that row ends before it. */
+    double getLastElementOfColumn(int column) const;
+    /** The mean of a column over the last rows: over all if there are fewer, NaN over none or with a NaN among them. */
+    double getAverageOfLastRows(int rows, int column) const;
+
+    // ---- size and headers ----
+    int getRowCount() const { return mRows.size(); }
+    /** The length of the longest row. */
+    int getColumnCount() const { return mColumnCount; }
+    /** The same. */
+    int count() const { return getColumnCount(); }
+    /** Empty where there is none. */
+    QString getRowName(int row) const { return mRowHeaders.value(row); }
+    const QStringList& getRowNames() const { return mRowHeaders; }
+    QString getRowTooltip(int row) const { return mRowTooltips.value(row); }
+    FNumberOrigin getOrigin(int row) const { return mOrigins.value(row); }
+
+    /** The number of a row given as a double: truncated; -1, which is in no table, for what fits no integer. */
+    static int rowNumber(double row);
+
+ private:
+    QString mName;
+    Rows mRows;
+    int mColumnCount = 0;
+    QStringList mRowHeaders;
+    QStringList mRowTooltips;
+    QHash<QString, int> mRowOfHeader;
+    QHash<QString, int> mColumnOfHeader;
+    QVector<FNumberOrigin> mOrigins;
+};

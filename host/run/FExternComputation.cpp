@@ -1,0 +1,355 @@
+#include "host/run/FExternComputation.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/run/FPathManager.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/run/FRun.h"
+#include "host/run/FRunFolder.h"
+#include "host/script/FCmdTable.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+
+using Cause = FRunRecord::Cause;
+
+namespace {
+
+const QString& outputFile() {
+    static const QString name = QStringLiteral("stdout.txt");
+    return name;
+}
+
+const QString& errorFile() {
+    static const QString name = QStringLiteral("stderr.txt");
+    return name;
+}
+
+void attributes(FCmdTable& table) {
+    using F = FExternComputation;
+    const char* const category = "Execution Settings";
+    table.attribute<F>("setExecutable", &F::setExecutable, &F::getExecutable, {"program"})
+        .attrName("Executable")
+        .category(category)
+        .attrRequiredCmd("true")
+        .data();
+    table.attribute<F>("setArguments", &F::setArguments, &F::getArguments, {"arguments"})
+        .attrName("Arguments")
+        .category(category)
+        .data();
+    table.attribute<F>("setTimeLimit", &F::setTimeLimit, &F::getTimeLimit, {"seconds"})
+        .attrName("Time Limit")
+        .category(category)
+        .data();
+    table.attribute<F>("setEnvironment", &F::setEnvironment, &F::getEnvironment, {"variables"})
+        .attrName("Environment")
+        .category(category)
+        .data();
+    table.attribute<F>("setStandardInput", &F::setStandardInput, &F::getStandardInput, {"fileName"})
+        .attrName("Standard Input")
+        .category(category)
+        .data();
+    table.attribute<F>("setConsoleFiles", &F::setConsoleFiles, &F::getConsoleFiles, {"checked"})
+        .attrName("Console Files")
+        .category(category)
+        .data();
+}
+
+void commands(FCmdTable& table) {
+    using F = FExternComputation;
+    attributes(table);
+    table
+        .member<F>(
+            "run", +[](F& computation) { return computation.run(); })
+        .unwrapped();
+    table.member<F>("rereadResults", &F::rereadResults).unwrapped();
+    table.member<F>("cancel", &F::cancel).unwrapped();
+    table.member<F>("getState", &F::getState).query();
+    table.member<F>("getExitCode", &F::getExitCode).query();
+    table.member<F>("getWorkingPath", &F::getWorkingPath).query();
+}
+
+}  // namespace
+
+FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &commands, &FExternComputation::fields);
+
+/** One run in progress. It keeps the computation, which may leave the model meanwhile. */
+struct FExternComputation::Attempt {
+    Attempt(FExternComputation* computation, const FProcessSetup& setup)
+        : keep(computation),
+          run(computation->getName(), setup, computation->getReadFiles()),
+          earlier(FPathManager::instance()->getEarlierDir(computation->getName(), {})),
+          folder(setup.workingFolder, earlier) {}
+
+    FExprBase keep;
+    FRun run;
+    QString earlier;
+    FRunFolder folder;
+    bool isStartTold = false;
+};
+
+FExternComputation::FExternComputation(const QString& name) : FClass(name) {}
+
+FExternComputation::~FExternComputation() = default;
+
+std::vector<std::unique_ptr<FStateField>> FExternComputation::fields() {
+    using F = FExternComputation;
+    return FStateFields<F>()
+        .member(&F::mExecutable)
+        .member(&F::mArguments)
+        .member(&F::mTimeLimit)
+        .member(&F::mEnvironment)
+        .member(&F::mStandardInput)
+        .member(&F::mConsoleFiles)
+        .take();
+}
+
+void FExternComputation::init(const FExternComputation* other) {
+    if (other) {
+        FManaged::init(other);
+        mExecutable = other->mExecutable;
+        mArguments = other->mArguments;
+        mTimeLimit = other->mTimeLimit;
+        mEnvironment = other->mEnvironment;
+        mStandardInput = other->mStandardInput;
+        mConsoleFiles = other->mConsoleFiles;
+    }
+}
+
+void FExternComputation::leaveModel() {
+    cancel();
+}
+
+// ---- settings ----
+
+template <class V>
+void FExternComputation::change(V& member, const V& value) {
+    member = value;
+    setOutOfDate(true);
+}
+
+void FExternComputation::setExecutable(const QString& program) {
+    change(mExecutable, program);
+}
+
+void FExternComputation::setArguments(const QStringList& arguments) {
+    change(mArguments, arguments);
+}
+
+void FExternComputation::setTimeLimit(double seconds) {
+    if (seconds >= 0) {
+        change(mTimeLimit, seconds);
+    } else {
+        FLogMsg::warning(getName(), QStringLiteral("The time limit can't be %1 s").arg(seconds),
+                         QStringLiteral("it stays as it was; 0 is no limit"));
+    }
+}
+
+void FExternComputation::setEnvironment(const QStringList& environment) {
+    change(mEnvironment, environment);
+}
+
+void FExternComputation::setStandardInput(const QString& fileName) {
+    change(mStandardInput, fileName);
+}
+
+void FExternComputation::setConsoleFiles(bool files) {
+    change(mConsoleFiles, files);
+}
+
+QString FExternComputation::checkSetup() const {
+    if (mExecutable.isEmpty()) {
+        return QStringLiteral("No program is given. Name it with setExecutable.");
+    }
+    if (FPathManager::leadsOut(mStandardInput)) {
+        return QStringLiteral(
+                   "The file of the standard input, '%1', lies outside the folder of the run. Give one that is "
+                   "written there.")
+            .arg(mStandardInput);
+    }
+    return {};
+}
+
+FProcessSetup FExternComputation::processSetup() const {
+    FProcessSetup setup;
+    const QString folder = FPathManager::instance()->getResultsDir(FExpr<FExternComputation>(this), {});
+    setup.workingFolder = folder;
+    // The program is started in the folder of its run, so a path is made independent of that before.
+    const bool isPath = mExecutable.contains(QLatin1Char('/'));
+    setup.program = isPath ? QFileInfo(mExecutable).absoluteFilePath() : mExecutable;
+    setup.arguments = mArguments;
+    setup.environment = mEnvironment;
+    setup.timeLimit = mTimeLimit;
+    if (!mStandardInput.isEmpty()) {
+        setup.standardInputFile = QDir::cleanPath(folder + QLatin1Char('/') + mStandardInput);
+    }
+    if (mConsoleFiles) {
+        setup.standardOutputFile = outputFile();
+        setup.standardErrorFile = errorFile();
+    }
+    return setup;
+}
+
+// ---- runs ----
+
+bool FExternComputation::run(bool wait) {
+    if (!canRun()) {
+        FLogMsg::warning(getName(), QStringLiteral("A run of it goes on, so that no other can be started"),
+                         QStringLiteral("wait for its end, or cancel it"));
+        return false;
+    }
+    mAttempt = std::make_shared<Attempt>(this, processSetup());
+    const std::shared_ptr<Attempt> attempt = mAttempt;
+    const FRunRecord& record = attempt->run.record();
+    QEventLoop loop;
+    connect(&attempt->run, &FRun::ended, this, [this] { finishRun(); });
+    connect(&attempt->run, &FRun::ended, &loop, &QEventLoop::quit);
+    startRun();
+    if (wait && !record.isOver()) {
+        loop.exec();
+    }
+    return wait ? record.isSuccess() : !record.isOver();
+}
+
+void FExternComputation::startRun() {
+    const std::shared_ptr<Attempt> attempt = mAttempt;
+    const FRunScope scope(attempt->run.record().folder);
+    FComputationResults::followFiles(attempt->run.record().folder, attempt->earlier + QLatin1Char('/'));
+    mRecord = attempt->run.sharedRecord();
+    makeResults();
+    attempt->run.startWriting();
+    setOutOfDate(true);
+    const QString problem = writeInput();
+    if (problem.isEmpty()) {
+        runExternalProcess();
+    } else {
+        attempt->run.fail(Cause::InputNotWritten, problem);
+    }
+}
+
+void FExternComputation::makeResults() {
+    const FHistoryBlocker blocker;
+    const auto* type = dynamic_cast<const FComputationResults*>(getResultType());
+    mResults = FExpr<FComputationResults>(type->createResults({}, FExpr<FExternComputation>(this)));
+    mResults->setRun(mRecord);
+}
+
+QString FExternComputation::writeInput() const {
+    const QString problem = prepareRun();
+    if (!problem.isEmpty()) {
+        // What couldn't be moved aside must not be read.
+        mResults->setResultPath(QString());
+        return problem;
+    }
+    if (!copyInputFiles(mAttempt->run.record().folder) || !doExports() || !writeOutputFile()) {
+        return QStringLiteral("The input files of the run could not be written; what was logged before tells why.");
+    }
+    return {};
+}
+
+void FExternComputation::runExternalProcess() {
+    const std::shared_ptr<Attempt> attempt = mAttempt;
+    const QString problem = checkSetup();
+    if (!problem.isEmpty()) {
+        attempt->run.fail(Cause::ProgramNotStarted, problem);
+        return;
+    }
+    attempt->isStartTold = true;
+    computationStarted();
+    attempt->run.start();
+}
+
+QString FExternComputation::prepareRun() const {
+    QStringList named = getReadFiles();
+    named << outputFile() << errorFile();
+    QString reason;
+    mAttempt->folder.moveAside(named, reason);
+    return reason;
+}
+
+bool FExternComputation::copyInputFiles(const QString& folder) const {
+    Q_UNUSED(folder)
+    return true;
+}
+
+void FExternComputation::finalizeRun() const {
+    mAttempt->folder.noteLeft();
+}
+
+void FExternComputation::finishRun() {
+    const std::shared_ptr<Attempt> attempt = mAttempt;
+    const FRunScope scope(attempt->run.record().folder);
+    if (attempt->isStartTold) {
+        computationFinished();
+    }
+    finalizeRun();
+    if (FComputationResults* results = mResults.ptr()) {
+        applyOutputHandles(results);
+    }
+    report();
+    mAttempt = nullptr;
+    setOutOfDate(true);
+    // The attempt is the sender of the signal at work, and may hold the last handle on this computation.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [attempt] {}, Qt::QueuedConnection);
+}
+
+void FExternComputation::report() const {
+    if (mRecord->cause == Cause::Cancelled) {
+        FLogMsg::info(getName(), QStringLiteral("The run was cancelled"), QString());
+    } else if (mRecord->cause != Cause::None) {
+        FLogMsg::error(getName(), mRecord->failureText());
+    } else if (!mRecord->message.isEmpty()) {
+        FLogMsg::warning(getName(), mRecord->message);
+    }
+}
+
+bool FExternComputation::cancel() {
+    if (mAttempt) {
+        mAttempt->run.cancel();
+    }
+    return mAttempt != nullptr;
+}
+
+bool FExternComputation::wasAborted() const {
+    return mRecord && mRecord->cause == Cause::Cancelled;
+}
+
+QString FExternComputation::getState() const {
+    return mRecord ? mRecord->stateName() : FRunRecord().stateName();
+}
+
+int FExternComputation::getExitCode() const {
+    return mRecord ? mRecord->exitCode : -1;
+}
+
+QString FExternComputation::getWorkingPath() const {
+    return mRecord ? mRecord->folder : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), {});
+}
+
+// ---- results ----
+
+const FObject* FExternComputation::getResultType() const {
+    return FResultsGeneric::null();
+}
+
+bool FExternComputation::canRereadResults() const {
+    return canRun() && (mResults || QDir(getWorkingPath()).exists());
+}
+
+bool FExternComputation::rereadResults() {
+    if (!canRereadResults()) {
+        FLogMsg::warning(getName(), QStringLiteral("There are no results that could be read again"),
+                         canRun() ? QStringLiteral("run it first") : QStringLiteral("wait for the end of the run"));
+        return false;
+    }
+    if (!mResults) {
+        const FRunScope scope(getWorkingPath());
+        makeResults();
+    }
+    processReread(mResults.ptr());
+    setOutOfDate(true);
+    return true;
+}

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "host/core/FManaged.h"
+#include "host/run/FComputationResults.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class FRun;
+struct FProcessSetup;
+
+/**
+ * A computation by an external program: the program's settings, and its runs.
+ *
+ * The steps of a run, in this order: what an earlier run left moves aside; input files are copied, exported and
+ * written; `computationStarted`; the program; `computationFinished`, once on every way out after the start; output
+ * handles. Each run has results of its own, also one that fails before its program starts. What goes into the files is
+ * the business of derived classes; for the time of their steps FPathManager knows the run's folder.
+ */
+class FExternComputation : public FClass<FExternComputation, QObject, FManaged> {
+ public:
+    static FClassData mClass;
+
+    explicit FExternComputation(const QString& name = QString());
+    ~FExternComputation() override;
+
+    // ---- settings of the program ----
+    /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
+    void setExecutable(const QString& program);
+    const QString& getExecutable() const { return mExecutable; }
+    void setArguments(const QStringList& arguments);
+    const QStringList& getArguments() const { return mArguments; }
+    /** Seconds from the start of the program; 0 is no limit. A number below 0 is refused with a message. */
+    void setTimeLimit(double seconds);
+    double getTimeLimit() const { return mTimeLimit; }
+    /** Texts "NAME=value", added to the environment or replacing what is there. */
+    void setEnvironment(const QStringList& environment);
+    const QStringList& getEnvironment() const { return mEnvironment; }
+    /** A file in the folder of the run; empty for none. */
+    void setStandardInput(const QString& fileName);
+    const QString& getStandardInput() const { return mStandardInput; }
+    /** Whether what the program prints goes to "stdout.txt" and "stderr.txt" in the folder of the run. */
+    void setConsoleFiles(bool files);
+    bool getConsoleFiles() const { return mConsoleFiles; }
+
+    // ---- runs ----
+    /** False while a run goes on. */
+    bool canRun() const { return !mAttempt; }
+    /** What keeps the program from being started, for the user; empty if nothing does. */
+    virtual QString checkSetup() const;
+    /**
+     * Runs the program. Refused, with a message, while a run goes on.
+     * @param wait  true: returns, after a local event loop, with whether the run succeeded. False: returns at once,
+     * with whether the program is being started.
+     */
+    bool run(bool wait = true);
+    /** Starts a run from a window, which doesn't wait for it. */
+    void guiRun() { run(false); }
+    /** Asks to end the run; false if there is none. */
+    bool cancel();
+    void cancelExternalProcess() { cancel(); }
+    bool wasAborted() const;
+    /** In words, see FRunRecord. */
+    QString getState() const;
+    /** Of the last run; -1 if there is none. */
+    int getExitCode() const;
+    /** Folder of the run in progress, else of the last one, else of the next; with a slash at its end. */
+    QString getWorkingPath() const;
+
+    // ---- results ----
+    /** Prototype of the results; each run makes its own from it. */
+    virtual const FObject* getResultType() const;
+    /** Results of the last run, or of the one in progress. Empty before the first. */
+    virtual FExpr<FComputationResults> getResults() const { return mResults; }
+    const FExpr<FComputationResults>& getCurrentResults() const { return mResults; }
+    bool canRereadResults() const;
+    /** Reads the present files again, with the present set-up; runs nothing. False, with a message, without files. */
+    bool rereadResults();
+    virtual bool isGeneric() const { return false; }
+
+ protected:
+    void init(const FExternComputation* other);
+    void leaveModel() override;
+
+    // ---- steps of a run, for derived classes ----
+    /** Before anything is written: makes room in the folder. Returns what went wrong, for the user. */
+    virtual QString prepareRun() const;
+    virtual bool copyInputFiles(const QString& folder) const;
+    virtual bool doExports() const { return true; }
+    /** Writes the input files. */
+    virtual bool writeOutputFile() const { return true; }
+    virtual void computationStarted() const {}
+    virtual void computationFinished() const {}
+    /** After the program: notes what it left. */
+    virtual void finalizeRun() const;
+    /** Gives the results what they are read with. */
+    virtual void applyOutputHandles(FComputationResults* results) const { Q_UNUSED(results) }
+    /** The same when results are read again without a run. */
+    virtual void processReread(FComputationResults* results) { results->setOutOfDate(true); }
+    /** Files in the folder, relative to it, that results are read from. */
+    virtual QStringList getReadFiles() const { return {}; }
+
+ private:
+    struct Attempt;
+
+    static std::vector<std::unique_ptr<FStateField>> fields();
+    template <class V>
+    void change(V& member, const V& value);
+    FProcessSetup processSetup() const;
+    void makeResults();
+    void startRun();
+    QString writeInput() const;
+    void runExternalProcess();
+    void finishRun();
+    void report() const;
+
+    QString mExecutable;
+    QStringList mArguments;
+    double mTimeLimit = 0;
+    QStringList mEnvironment;
+    QString mStandardInput;
+    bool mConsoleFiles = true;
+
+    std::shared_ptr<Attempt> mAttempt;  // null when no run goes on
+    std::shared_ptr<const FRunRecord> mRecord;
+    FExpr<FComputationResults> mResults;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/core/FManaged.h"
+#include "host/design/FDesign.h"
+
+/** What came out of a design: it lies in a folder. Results aren't part of the history. */
+class FResults : public FClass<FResults, FManaged> {
+ public:
+    static FClassData mClass;
+
+    explicit FResults(const QString& name = QString(), const FExpr<FDesign>& variant = {})
+        : FClass(name), mVariant(variant) {}
+
+    using FManaged::init;
+    /** Takes the folder of the run in progress, if there is one. Called when the object was registered. */
+    void init();
+
+    /** The design; empty for the current one. */
+    const FExpr<FDesign>& getVariant() const { return mVariant; }
+    /** Folder of the files that are read, with a slash at its end. Empty if there is none, so that nothing is read. */
+    virtual QString getResultPath() const { return mResultPath; }
+    void setResultPath(const QString& path) { mResultPath = path; }
+
+ protected:
+    void init(const FResults* other);
+
+ private:
+    FExpr<FDesign> mVariant;
+    QString mResultPath;
+};

@@ -1,0 +1,98 @@
+#include "host/run/FResultsGeneric.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/run/FExternComputation.h"
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+void commands(FCmdTable& table) {
+    using F = FResultsGeneric;
+    table.member<F>("getTable", &F::getData, {"name"}).readsFiles();
+    table.member<F>("getTableNames", &F::getTableNames).readsFiles();
+}
+
+}  // namespace
+
+FClassData FResultsGeneric::mClass("FResultsGeneric", &FComputationResults::mClass, &commands);
+
+FComputationResults* FResultsGeneric::createResults(const FExpr<FDesign>& variant,
+                                                    const FExpr<FExternComputation>& computation) const {
+    auto* results = new FResultsGeneric(QString(), variant, computation);
+    results->registerObject();
+    results->FResults::init();
+    return results;
+}
+
+void FResultsGeneric::init(const FResultsGeneric* other) {
+    FComputationResults::init(other);
+}
+
+bool FResultsGeneric::prepareResults() const {
+    if (mReading || !FComputationResults::prepareResults()) {
+        return false;
+    }
+    if (mFilesRead || mDetached) {
+        return true;
+    }
+    auto* self = const_cast<FResultsGeneric*>(this);
+    mReading = true;
+    destroyChildrenOf(this);
+    self->mTables.clear();
+    mImportedObjects.clear();
+    warnOfFailedRun();
+    readOutputFiles();
+    setOutOfDate(false);
+    mReading = false;
+    return true;
+}
+
+void FResultsGeneric::readOutputFiles() const {
+    mFilesRead = true;
+}
+
+void FResultsGeneric::warnOfFailedRun() const {
+    if (mWarned || !getRun() || getRun()->isSuccess()) {
+        return;
+    }
+    mWarned = true;
+    FLogMsg::warning(getRun()->computation,
+                     QStringLiteral("The results in %1 come from a run that didn't succeed (%2)")
+                         .arg(getResultPath(), getRun()->stateName()),
+                     QStringLiteral("what the run didn't write is NaN"));
+}
+
+void FResultsGeneric::detachFromFiles() {
+    prepareResults();
+    mDetached = true;
+}
+
+FTableData* FResultsGeneric::addTable(const QString& name, unsigned int rows, unsigned int columns) {
+    auto* table = new FTableData(name, rows, columns);
+    mTables.append(FExpr<FTableData>(table));
+    return table;
+}
+
+FExpr<FTableData> FResultsGeneric::getData(const QString& name) {
+    prepareResults();
+    for (const FExpr<FTableData>& table : qAsConst(mTables)) {
+        if (table->getName() == name) {
+            return table;
+        }
+    }
+    return {};
+}
+
+QStringList FResultsGeneric::getTableNames() const {
+    prepareResults();
+    QStringList names;
+    for (const FExpr<FTableData>& table : mTables) {
+        names.append(table->getName());
+    }
+    return names;
+}
+
+const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {
+    prepareResults();
+    return mImportedObjects;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/run/FComputationResults.h"
+#include "host/run/FTableData.h"
+
+#include <QHash>
+#include <QList>
+
+/**
+ * Results as tables of numbers. They are read from the files of the run when they are first asked for, and again when
+ * what they are read with has changed. Until then nothing is read, and each further question costs no file access.
+ */
+class FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
+ public:
+    static FClassData mClass;
+
+    FResultsGeneric() = default;
+    FResultsGeneric(const QString& name, const FExpr<FDesign>& variant, const FExpr<FExternComputation>& computation)
+        : FClass(name, variant, computation) {}
+    FResultsGeneric(const QString& name, const FExpr<FDesign>& variant, int computationId)
+        : FClass(name, variant, computationId) {}
+
+    FComputationResults* createResults(const FExpr<FDesign>& variant,
+                                       const FExpr<FExternComputation>& computation) const override;
+
+    /** Reads the files unless that has been done; says once in the log if they come from a run that failed. */
+    bool prepareResults() const override;
+    void detachFromFiles() override;
+
+    /** Adds a table of that size, filled with NaN; a second one of a name stands behind the first. */
+    FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
+    /** The first table of that name; an empty handle if there is none. */
+    virtual FExpr<FTableData> getData(const QString& name);
+    QStringList getTableNames() const;
+    /** What file imports have brought, by the name of the value. */
+    const QHash<QString, FExpr<FObject>>& getImportedObjects() const;
+
+ protected:
+    using FComputationResults::init;
+    void init(const FResultsGeneric* other);
+
+    /** Reads what there is; overrides end in the base's, which notes that it is done. */
+    virtual void readOutputFiles() const;
+    /** The next question reads the files again. */
+    void forgetReading() const { mFilesRead = false; }
+    void becameOutOfDate() const override { forgetReading(); }
+    const QList<FExpr<FTableData>>& tables() const { return mTables; }
+
+    mutable QHash<QString, FExpr<FObject>> mImportedObjects;
+
+ private:
+    void warnOfFailedRun() const;
+
+    QList<FExpr<FTableData>> mTables;
+    mutable bool mFilesRead = false;
+    mutable bool mReading = false;
+    mutable bool mWarned = false;
+    bool mDetached = false;
+};

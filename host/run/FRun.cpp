@@ -1,0 +1,116 @@
+#include "host/run/FRun.h"
+
+#include "host/run/FFileTail.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using Cause = FRunRecord::Cause;
+using State = FRunRecord::State;
+
+namespace {
+
+constexpr int errorLines = 5;
+
+Cause causeOf(FProcessOutcome::Cause cause) {
+    switch (cause) {
+        case FProcessOutcome::Cause::None:
+            return Cause::None;
+        case FProcessOutcome::Cause::ProgramNotStarted:
+            return Cause::ProgramNotStarted;
+        case FProcessOutcome::Cause::TimeLimit:
+            return Cause::TimeLimit;
+        case FProcessOutcome::Cause::Signal:
+            return Cause::Signal;
+        case FProcessOutcome::Cause::ExitCode:
+            return Cause::ExitCode;
+        case FProcessOutcome::Cause::Cancelled:
+            break;
+    }
+    return Cause::Cancelled;
+}
+
+State stateOf(Cause cause) {
+    switch (cause) {
+        case Cause::None:
+            return State::Finished;
+        case Cause::TimeLimit:
+            return State::TimedOut;
+        case Cause::Cancelled:
+            return State::Cancelled;
+        default:
+            return State::Failed;
+    }
+}
+
+}  // namespace
+
+FRun::FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles)
+    : mRecord(std::make_shared<FRunRecord>()), mReadFiles(readFiles), mProcess(setup) {
+    mRecord->computation = computation;
+    mRecord->folder = mProcess.setup().workingFolder + QLatin1Char('/');
+    mRecord->program = setup.program;
+    mRecord->arguments = setup.arguments;
+    mRecord->environment = setup.environment;
+    mRecord->timeLimit = setup.timeLimit;
+    connect(&mProcess, &FProcess::started, this, [this] { mRecord->start = mProcess.outcome().start; });
+    connect(&mProcess, &FProcess::finished, this, &FRun::takeOutcome);
+}
+
+void FRun::fail(Cause cause, const QString& message) {
+    mRecord->cause = cause;
+    mRecord->message = message;
+    conclude();
+}
+
+void FRun::start() {
+    mRecord->state = State::Running;
+    if (mIsCancelled) {
+        const auto end = [this] { fail(Cause::Cancelled, QStringLiteral("The run was cancelled before it began.")); };
+        QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
+    } else {
+        mProcess.start();
+    }
+}
+
+void FRun::cancel() {
+    mIsCancelled = true;
+    mProcess.cancel();
+}
+
+void FRun::takeOutcome(const FProcessOutcome& outcome) {
+    mRecord->program = outcome.program;
+    mRecord->cause = causeOf(outcome.cause);
+    mRecord->start = outcome.start;
+    mRecord->end = outcome.end;
+    mRecord->exitCode = outcome.exitCode;
+    mRecord->signal = outcome.signal;
+    mRecord->message = outcome.message;
+    const QString& errorFile = mProcess.setup().standardErrorFile;
+    if (!errorFile.isEmpty() && outcome.start.isValid()) {
+        mRecord->errorOutput = fileTail(QDir(mRecord->folder).filePath(errorFile), errorLines);
+    }
+    findMissingFiles();
+    conclude();
+}
+
+void FRun::findMissingFiles() {
+    QStringList missing;
+    for (const QString& file : qAsConst(mReadFiles)) {
+        if (!QFileInfo::exists(mRecord->folder + file)) {
+            missing.append(QLatin1Char('\'') + file + QLatin1Char('\''));
+        }
+    }
+    if (mRecord->cause == Cause::None && !missing.isEmpty()) {
+        mRecord->cause = Cause::FileMissing;
+        mRecord->message = QStringLiteral(
+                               "'%1' ended well, but didn't write %2. Check the file name of the result "
+                               "template, and what the program says.")
+                               .arg(mRecord->program, missing.join(QStringLiteral(", ")));
+    }
+}
+
+void FRun::conclude() {
+    mRecord->state = stateOf(mRecord->cause);
+    emit ended();
+}

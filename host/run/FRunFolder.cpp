@@ -1,0 +1,119 @@
+#include "host/run/FRunFolder.h"
+
+#include "host/run/FPathManager.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+// File names hold any character but this one.
+constexpr char separator = '\0';
+
+bool isFolder(const QFileInfo& entry) {
+    return entry.isDir() && !entry.isSymLink();
+}
+
+bool isThere(const QFileInfo& entry) {
+    return entry.exists() || entry.isSymLink();
+}
+
+}  // namespace
+
+FRunFolder::FRunFolder(const QString& folder, const QString& earlier)
+    : mFolder(QDir::cleanPath(folder) + QLatin1Char('/')), mEarlier(QDir::cleanPath(earlier) + QLatin1Char('/')) {}
+
+QHash<QString, FRunFolder::Stamp> FRunFolder::list() const {
+    QHash<QString, Stamp> entries;
+    QDirIterator walk(mFolder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString name = walk.next().mid(mFolder.size());
+        const QFileInfo entry = walk.fileInfo();
+        // A folder changes with what is in it; what counts is that it is there.
+        entries.insert(name, isFolder(entry) ? Stamp{-1, {}} : Stamp{entry.size(), entry.lastModified()});
+    }
+    return entries;
+}
+
+QStringList FRunFolder::readNotes() const {
+    QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
+    if (!notes.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QStringList names;
+    for (const QByteArray& name : notes.readAll().split(separator)) {
+        names.append(QString::fromUtf8(name));
+    }
+    return names;
+}
+
+bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
+    QDir(mEarlier).removeRecursively();
+    if (!QDir().mkpath(mFolder)) {
+        reason =
+            QStringLiteral("The folder '%1' can't be made. Check the rights of the folders above it.").arg(mFolder);
+        return false;
+    }
+    QStringList folders;
+    for (const QString& name : named + readNotes()) {
+        const QFileInfo entry(mFolder + name);
+        if (name.isEmpty() || FPathManager::leadsOut(name) || !isThere(entry)) {
+            continue;
+        }
+        if (isFolder(entry)) {
+            folders.append(name);
+        } else if (!moveFile(name, reason)) {
+            return false;
+        }
+    }
+    removeEmptyFolders(folders);
+    mBefore = list();
+    return true;
+}
+
+bool FRunFolder::moveFile(const QString& name, QString& reason) const {
+    const QString target = mEarlier + name;
+    QFile file(mFolder + name);
+    if (QDir().mkpath(QFileInfo(target).path()) && file.rename(target)) {
+        return true;
+    }
+    reason = QStringLiteral(
+                 "'%1' is left of an earlier run and can't be moved to '%2' (%3). Close the program that has "
+                 "it open, or remove it.")
+                 .arg(mFolder + name, target, file.errorString());
+    return false;
+}
+
+void FRunFolder::removeEmptyFolders(QStringList folders) const {
+    // Deepest first; one that isn't empty stays.
+    std::sort(folders.begin(), folders.end(), std::greater<>());
+    for (const QString& folder : qAsConst(folders)) {
+        QDir().rmdir(mFolder + folder);
+    }
+}
+
+void FRunFolder::noteLeft() const {
+    if (!mBefore) {
+        return;
+    }
+    QByteArrayList names;
+    const QHash<QString, Stamp> now = list();
+    for (auto entry = now.begin(); entry != now.end(); ++entry) {
+        const auto before = mBefore->find(entry.key());
+        if (before == mBefore->end() || !(*before == *entry)) {
+            names.append(entry.key().toUtf8());
+        }
+    }
+    QSaveFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
+    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && notes.open(QIODevice::WriteOnly)) {
+        notes.write(names.join(separator));
+        notes.commit();
+    }
+}

@@ -1,0 +1,65 @@
+#include "host/run/FPathManager.h"
+
+#include "host/core/FMerixCtrl.h"
+#include "host/design/FDesign.h"
+#include "host/run/FExternComputation.h"
+#include "tests/support/FModelTest.h"
+
+#include <QFileInfo>
+
+namespace {
+
+class FPathManagerTest : public FModelTest {
+ protected:
+    ~FPathManagerTest() override { FMerixCtrl::instance()->setProjectFile({}); }
+
+    FPathManager* mPaths = FPathManager::instance();
+};
+
+}  // namespace
+
+TEST_F(FPathManagerTest, keepsRunsBesideTheProject) {
+    FMerixCtrl::instance()->setProjectFile("/home/anna/wing study/wing.v2.mrx");
+    const QString root = "/home/anna/wing study/wing.v2.results";
+    auto* computation = new FExternComputation("solver");
+    computation->registerObject();
+    auto* design = new FDesign("d7");
+    design->registerObject();
+    const FExpr<FExternComputation> solver(computation);
+    const FExpr<FDesign> d7(design);
+
+    EXPECT_EQ(mPaths->getDesignDir({}), root + "/baseline");
+    EXPECT_EQ(mPaths->getResultsDir({}, {}), root + "/baseline");
+    EXPECT_EQ(mPaths->getResultsDir(solver, d7), root + "/d7/solver");
+    EXPECT_EQ(mPaths->getInputDir(solver, {}), root + "/baseline/solver/");
+    EXPECT_EQ(mPaths->getResultPath(solver, d7), root + "/d7/solver/");
+    EXPECT_EQ(mPaths->getEarlierDir("solver", {}), root + "/baseline/.earlier/solver");
+
+    EXPECT_EQ(mPaths->getInputDir({}, {}), root + "/baseline/") << "no run is in progress";
+    {
+        const FRunScope outer("/runs/a/");
+        {
+            const FRunScope inner("/runs/b/");
+            EXPECT_EQ(mPaths->getInputDir({}, {}), "/runs/b/");
+        }
+        EXPECT_EQ(mPaths->getInputDir({}, {}), "/runs/a/");
+        EXPECT_EQ(mPaths->getInputDir(solver, {}), root + "/baseline/solver/");
+    }
+    EXPECT_EQ(mPaths->getInputDir({}, {}), root + "/baseline/");
+}
+
+TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
+    const QString folder = mPaths->getDesignDir({});
+    EXPECT_TRUE(QFileInfo(QFileInfo(folder).path()).isDir()) << folder.toStdString();
+    EXPECT_EQ(mPaths->getDesignDir({}), folder);
+    EXPECT_LE(log().size(), 1) << "told once";
+}
+
+TEST_F(FPathManagerTest, knowsNamesThatLeadOutOfAFolder) {
+    for (const char* name : {"..", "../a", "a/../../b", "..\\a", "a\\..\\..\\b", "./../a"}) {
+        EXPECT_TRUE(FPathManager::leadsOut(name)) << name;
+    }
+    for (const char* name : {"", "a", "a/b", "a/../b", "..a", "/a", "...", "a/.."}) {
+        EXPECT_FALSE(FPathManager::leadsOut(name)) << name;
+    }
+}

@@ -1,0 +1,81 @@
+#include "host/run/FRunFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class FRunFolderTest : public testing::Test {
+ protected:
+    QString path(const QString& name) const { return mRoot.path() + QLatin1Char('/') + name; }
+    void write(const QString& name, const QByteArray& bytes) const {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray read(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    }
+    bool exists(const QString& name) const { return QFileInfo(path(name)).exists(); }
+    bool moveAside(FRunFolder& folder, const QStringList& named) {
+        mReason.clear();
+        return folder.moveAside(named, mReason);
+    }
+    FRunFolder folder() const { return FRunFolder(path("run"), path(".earlier/run")); }
+
+    QTemporaryDir mRoot;
+    QString mReason;
+};
+
+}  // namespace
+
+TEST_F(FRunFolderTest, movesWhatRunsLeftAndNothingElse) {
+    write("run/mesh.grd", "the user's");
+    write("run/out.dat", "from another time");
+    write("outside", "untouched");
+    FRunFolder first = folder();
+    ASSERT_TRUE(moveAside(first, {"out.dat", "missing", "../outside", ""}));
+    EXPECT_FALSE(exists("run/out.dat"));
+    EXPECT_EQ(read(".earlier/run/out.dat"), "from another time");
+
+    write("run/out.dat", "first");
+    write("run/deep/er/field.plt", "first");
+    write(QString::fromUtf8("run/ä \n \".dat"), "first");
+    QFile::link("nowhere", path("run/dead link"));
+    first.noteLeft();
+
+    write("run/by hand.txt", "between the runs");
+    FRunFolder second = folder();
+    ASSERT_TRUE(moveAside(second, {"out.dat"})) << mReason.toStdString();
+    EXPECT_EQ(QDir(path("run")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+              QStringList({"by hand.txt", "mesh.grd"}));
+    EXPECT_EQ(read(".earlier/run/out.dat"), "first");
+    EXPECT_EQ(read(".earlier/run/deep/er/field.plt"), "first");
+    EXPECT_EQ(read(QString::fromUtf8(".earlier/run/ä \n \".dat")), "first");
+
+    second.noteLeft();
+    FRunFolder third = folder();
+    ASSERT_TRUE(moveAside(third, {"out.dat"}));
+    EXPECT_FALSE(exists(".earlier/run/out.dat")) << "one run back, not two";
+    EXPECT_EQ(read("outside"), "untouched");
+    EXPECT_EQ(read("run/mesh.grd"), "the user's");
+}
+
+TEST_F(FRunFolderTest, saysWhatCanNotBeMoved) {
+    write("run/out.dat", "old");
+    write(".earlier", "a file where a folder is needed");
+    FRunFolder blocked = folder();
+    EXPECT_FALSE(moveAside(blocked, {"out.dat"}));
+    EXPECT_TRUE(mReason.contains(path("run/out.dat"))) << mReason.toStdString();
+    EXPECT_EQ(read("run/out.dat"), "old");
+
+    write("file", "");
+    FRunFolder impossible(path("file/run"), path("file/.earlier"));
+    EXPECT_FALSE(moveAside(impossible, {}));
+    EXPECT_TRUE(mReason.contains(path("file/run"))) << mReason.toStdString();
+}

@@ -237,7 +237,7 @@ void FExternComputation::makeResults() {
 }
 
 QString FExternComputation::writeInput() const {
-    const QString problem = prepareRun();
+    QString problem = prepareRun();
     if (!problem.isEmpty()) {
         // What couldn't be moved aside must not be read.
         mResults->setResultPath(QString());

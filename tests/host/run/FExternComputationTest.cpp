@@ -99,7 +99,7 @@ const QStringList& allSteps() {
 }
 
 class FExternComputationTest : public FModelTest {
- protected:
+ public:
     FExternComputationTest() {
         QDir(mRoot.path()).mkpath(mFolder);
         FMerixCtrl::instance()->setProjectFile(mRoot.filePath(mFolder + "/wing.mrx"));
@@ -107,6 +107,7 @@ class FExternComputationTest : public FModelTest {
     }
     ~FExternComputationTest() override { FMerixCtrl::instance()->setProjectFile({}); }
 
+ protected:
     QString logText() const { return log().join('\n'); }
     void waitForEnd() const {
         QElapsedTimer timer;

@@ -10,9 +10,10 @@
 namespace {
 
 class FPathManagerTest : public FModelTest {
- protected:
+ public:
     ~FPathManagerTest() override { FMerixCtrl::instance()->setProjectFile({}); }
 
+ protected:
     FPathManager* mPaths = FPathManager::instance();
 };
 

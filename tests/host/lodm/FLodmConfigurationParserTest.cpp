@@ -1,0 +1,56 @@
+#include "host/lodm/FLodmConfigurationParser.h"
+
+#include "host/run/FTableData.h"
+#include "tests/support/FModelTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+namespace {
+
+class FLodmConfigurationParserTest : public FModelTest {
+ protected:
+    void write(const QByteArray& bytes) const {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QString path() const { return mFolder.filePath("curve.txt"); }
+
+    QTemporaryDir mFolder;
+    FLodmConfigurationParser mParser{QString()};
+};
+
+}  // namespace
+
+TEST_F(FLodmConfigurationParserTest, importsTextsAndTables) {
+    write("\n  x\ty \r\n1 2e3\n\n-.5 three 7\nno numbers\n4\n");
+    EXPECT_TRUE(mParser.doImport("table", path(), "curve"));
+    const FExpr<FTableData> table(mParser.getObjects().value("curve"));
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->getRowCount(), 3);
+    EXPECT_EQ(table->getElementAt(0, "y"), 2000);
+    EXPECT_EQ(table->getElementAt(1, "x"), -0.5);
+    EXPECT_TRUE(std::isnan(table->getElementAt(1, 1)));
+    EXPECT_EQ(table->getElementAt(1, 2), 7);
+    EXPECT_EQ(table->getElementAt(2, 0), 4);
+
+    write(QByteArray("caf\xC3\xA9 \xFF\r\n"));
+    EXPECT_TRUE(mParser.doImport("text", path(), "note"));
+    EXPECT_EQ(mParser.getObjects().keys(), QStringList({"note"})) << "a new import replaces the last one";
+    EXPECT_EQ(mParser.getObjects().value("note").toString(), QString::fromUtf8("café \uFFFD\r\n"));
+    EXPECT_TRUE(log().isEmpty());
+}
+
+TEST_F(FLodmConfigurationParserTest, reportsWhatItCanNotImport) {
+    write("1");
+    EXPECT_TRUE(mParser.doImport("text", path(), "note"));
+    EXPECT_TRUE(mParser.doImport("tecplot", path(), "field"));
+    EXPECT_TRUE(mParser.getObjects().isEmpty());
+    EXPECT_TRUE(logHolds("\"tecplot\"") && logHolds(path()));
+    EXPECT_TRUE(mParser.doImport("table", path() + ".missing", "curve"));
+    EXPECT_TRUE(mParser.getObjects().isEmpty());
+    EXPECT_TRUE(logHolds(path() + ".missing"));
+}

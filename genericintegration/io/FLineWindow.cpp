@@ -1,0 +1,37 @@
+#include "genericintegration/io/FLineWindow.h"
+
+#include "genericintegration/io/FResultText.h"
+
+qint64 FLineWindow::count() const {
+    if (mPart.size() == 0)
+        return 0;
+    return mText.index().lineAt(mPart.end - 1) - mText.index().lineAt(mPart.begin) + 1;
+}
+
+std::optional<FByteRange> FLineWindow::line(qint64 number) const {
+    const FTextIndex& index = mText.index();
+    const qint64 line = index.lineAt(mPart.begin) + number;
+    const qint64 begin = number == 0 ? mPart.begin : index.lineStart(line);
+    if (begin < 0 || begin >= mPart.end)
+        return {};
+    const qint64 next = index.lineStart(line + 1);
+    return withoutEnd(begin, next < 0 || next > mPart.end ? mPart.end : next - 1);
+}
+
+FByteRange FLineWindow::lineFrom(qint64& offset) const {
+    const qint64 begin = offset;
+    // Files with millions of empty lines exist; a search for each end would cost more than they do.
+    if (mText.text()[static_cast<size_t>(begin)] == '\n') {
+        ++offset;
+        return {begin, begin};
+    }
+    const size_t lineFeed = mPart.of(mText.text()).find('\n', static_cast<size_t>(begin - mPart.begin));
+    const qint64 end = lineFeed == std::string_view::npos ? mPart.end : mPart.begin + static_cast<qint64>(lineFeed);
+    offset = end < mPart.end ? end + 1 : end;
+    return withoutEnd(begin, end);
+}
+
+FByteRange FLineWindow::withoutEnd(qint64 begin, qint64 end) const {
+    const bool carriageReturn = end > begin && mText.text()[static_cast<size_t>(end - 1)] == '\r';
+    return {begin, carriageReturn ? end - 1 : end};
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <string_view>
+#include <vector>
+
+#include "genericintegration/io/FTextIndex.h"
+
+/// The text in which values are searched: that of an output file, or a sample.
+///
+/// It is held in the encoding of FUtf8; the bytes of a file that is UTF-8 are used as they stand, any other bytes are
+/// decoded as a text stream does and never fail. Making it takes time linear in the text. It can be moved, not copied.
+class FResultText {
+ public:
+    static FResultText fromFile(const QByteArray& bytes);
+    static FResultText fromString(const QString& text);
+    FResultText(FResultText&&) = default;
+    FResultText& operator=(FResultText&&) = default;
+    ~FResultText() = default;
+    Q_DISABLE_COPY(FResultText)
+
+    bool isEmpty() const { return mText.empty(); }
+    std::string_view text() const { return mText; }
+    qint64 size() const { return static_cast<qint64>(mText.size()); }
+
+    /// Size of the text without the white space at its end.
+    qint64 trimmedSize() const { return mTrimmedSize; }
+    const FTextIndex& index() const { return mIndex; }
+
+ private:
+    FResultText(const QByteArray& file, std::string_view text, FTextIndex index);
+    explicit FResultText(std::vector<char> decoded);
+
+    QByteArray mFile;
+    std::vector<char> mDecoded;
+    std::string_view mText;
+    qint64 mTrimmedSize;
+    FTextIndex mIndex;
+};

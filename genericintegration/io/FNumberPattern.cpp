@@ -1,0 +1,84 @@
+#include "genericintegration/io/FNumberPattern.h"
+
+#include <QRegExp>
+
+#include "genericintegration/io/FUtf8.h"
+
+namespace FNumberPattern {
+namespace {
+
+/// Reads a number in a line.
+class FNumberScan {
+ public:
+    explicit FNumberScan(std::string_view line) : mLine(line) {}
+
+    bool mayBeginWith(char c) const { return isDigit(c) || c == '.' || c == '-' || c == '+' || !FUtf8::isAscii(c); }
+
+    /// End of the number that begins at an offset; the offset for none.
+    qint64 numberEnd(qint64 begin) const {
+        const qint64 whole = behindSign(begin);
+        qint64 end = digitsEnd(whole);
+        const bool hasWhole = end > whole;
+        const qint64 fraction = at(end) == '.' ? digitsEnd(end + 1) : end;
+        if (fraction > end + 1)
+            end = fraction;
+        else if (!hasWhole)
+            return begin;
+        return exponentEnd(end);
+    }
+
+ private:
+    static bool isDigit(char c) { return c >= '0' && c <= '9'; }
+    char at(qint64 offset) const {
+        return offset < static_cast<qint64>(mLine.size()) ? mLine[static_cast<size_t>(offset)] : '\0';
+    }
+    qint64 behindSign(qint64 offset) const { return offset + (at(offset) == '-' || at(offset) == '+'); }
+
+    qint64 digitsEnd(qint64 offset) const {
+        for (;;) {
+            const char c = at(offset);
+            if (isDigit(c)) {
+                ++offset;
+            } else if (FUtf8::isAscii(c)) {
+                return offset;
+            } else {
+                qint64 behind = offset;
+                const char32_t digit = FUtf8::next(mLine, behind);
+                if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit))
+                    return offset;
+                offset = behind;
+            }
+        }
+    }
+
+    qint64 exponentEnd(qint64 end) const {
+        if (at(end) != 'e' && at(end) != 'E')
+            return end;
+        const qint64 digits = behindSign(end + 1);
+        const qint64 behind = digitsEnd(digits);
+        return behind > digits ? behind : end;
+    }
+
+    std::string_view mLine;
+};
+
+}  // namespace
+
+const QRegExp& pattern() {
+    static const QRegExp number(QStringLiteral("[-+]?(\\.\\d+|\\d+(\\.\\d+)?)([Ee][-+]?\\d+)?"));
+    return number;
+}
+
+FByteRange next(std::string_view line, qint64 offset) {
+    const FNumberScan scan(line);
+    for (; offset < static_cast<qint64>(line.size()); ++offset) {
+        if (!scan.mayBeginWith(line[static_cast<size_t>(offset)]))
+            continue;
+        const qint64 end = scan.numberEnd(offset);
+        if (end > offset)
+            return {offset, end};
+    }
+    return {-1, -1};
+}
+
+}  // namespace FNumberPattern

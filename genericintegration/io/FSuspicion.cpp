@@ -1,0 +1,131 @@
+#include "genericintegration/io/FSuspicion.h"
+
+#include <algorithm>
+
+#include "genericintegration/io/FNumberPattern.h"
+
+namespace FSuspicion {
+namespace {
+
+// No number is printed with more characters; what is longer is of no use for a guess.
+constexpr qint64 Longest = 64;
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isSign(char c) {
+    return c == '+' || c == '-';
+}
+char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
+bool isLetter(char c) {
+    return (lower(c) >= 'a' && lower(c) <= 'z') || c == '_';
+}
+
+/// The neighbourhood of a number.
+class FSurroundings {
+ public:
+    FSurroundings(std::string_view text, FByteRange number)
+        : mText(text), mNumber(number), mDigits(number.of(text).substr(0, Longest)) {}
+
+    FFoundFlags flags() const {
+        FFoundFlags flags;
+        flags.setFlag(FFoundFlag::CutExponent, hasCutExponent());
+        flags.setFlag(FFoundFlag::DecimalComma, hasCommaBehind() || hasCommaBefore());
+        flags.setFlag(FFoundFlag::TouchesText, !hasCutExponent() && (touchesBefore() || touchesBehind()));
+        flags.setFlag(FFoundFlag::Stars, at(mNumber.end) == '*' && at(mNumber.end + 1) == '*');
+        return flags;
+    }
+
+ private:
+    char at(qint64 offset) const {
+        return offset >= 0 && offset < static_cast<qint64>(mText.size()) ? mText[static_cast<size_t>(offset)] : ' ';
+    }
+    bool isWhole() const { return mDigits.find_first_of(".eE") == std::string_view::npos; }
+    bool hasExponent() const { return mDigits.find_first_of("eE") != std::string_view::npos; }
+
+    qint64 digitsEnd(qint64 offset) const {
+        const qint64 limit = offset + Longest;
+        while (offset < limit && isDigit(at(offset)))
+            ++offset;
+        return offset;
+    }
+
+    bool hasCutExponent() const {
+        if (hasExponent())
+            return false;
+        const qint64 behind = mNumber.end;
+        if (lower(at(behind)) == 'd')
+            return isDigit(at(behind + 1)) || (isSign(at(behind + 1)) && isDigit(at(behind + 2)));
+        return !isWhole() && isSign(at(behind)) && isDigit(at(behind + 1)) && at(digitsEnd(behind + 1)) != '.';
+    }
+
+    bool touchesBefore() const {
+        const char before = at(mNumber.begin - 1);
+        return isLetter(before) || isDigit(before) || (before == '.' && isDigit(at(mNumber.begin - 2)));
+    }
+
+    bool touchesBehind() const {
+        const char behind = at(mNumber.end);
+        return (isSign(behind) || behind == '.') && isDigit(at(mNumber.end + 1));
+    }
+
+    // With a further comma or a point next to them, the commas stand between numbers.
+    bool hasCommaBehind() const {
+        if (!isWhole() || at(mNumber.begin - 1) == ',' || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1)))
+            return false;
+        const char behind = at(digitsEnd(mNumber.end + 1));
+        return behind != ',' && behind != '.';
+    }
+
+    bool hasCommaBefore() const {
+        if (!isWhole() || at(mNumber.end) == ',' || at(mNumber.begin - 1) != ',')
+            return false;
+        qint64 begin = mNumber.begin - 1;
+        while (mNumber.begin - begin < Longest && isDigit(at(begin - 1)))
+            --begin;
+        return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
+    }
+
+    std::string_view mText;
+    FByteRange mNumber;
+    std::string_view mDigits;
+};
+
+bool isNanOrInf(std::string_view word) {
+    constexpr std::string_view words[] = {"nan", "inf", "infinity"};
+    const auto same = [](char left, char right) { return lower(left) == right; };
+    return std::any_of(std::begin(words), std::end(words), [&](std::string_view candidate) {
+        return std::equal(word.begin(), word.end(), candidate.begin(), candidate.end(), same);
+    });
+}
+
+}  // namespace
+
+FFoundFlags ofNumber(std::string_view text, FByteRange number) {
+    return FSurroundings(text, number).flags();
+}
+
+FFoundFlags ofText(std::string_view text) {
+    FFoundFlags flags;
+    flags.setFlag(FFoundFlag::Stars, text.find("**") != std::string_view::npos);
+    const auto inWord = [](char c) { return isLetter(c) || isDigit(c); };
+    for (auto begin = text.begin(); begin != text.end();) {
+        begin = std::find_if(begin, text.end(), isLetter);
+        const auto end = std::find_if_not(begin, text.end(), inWord);
+        if (isNanOrInf(std::string_view(begin, end)))
+            flags |= FFoundFlag::NanOrInf;
+        begin = end;
+    }
+    return flags;
+}
+
+FFoundFlags ofColumn(const QString& text) {
+    const QByteArray bytes = text.left(static_cast<int>(Longest)).toUtf8();
+    const std::string_view view(bytes.constData(), static_cast<size_t>(bytes.size()));
+    const FByteRange number = FNumberPattern::next(view, 0);
+    return number.begin < 0 ? ofText(view) : ofText(view) | ofNumber(view, number);
+}
+
+}  // namespace FSuspicion

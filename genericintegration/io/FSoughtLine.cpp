@@ -1,0 +1,49 @@
+#include "genericintegration/io/FSoughtLine.h"
+
+#include <algorithm>
+
+#include "genericintegration/io/FLineWindow.h"
+#include "genericintegration/io/FResultText.h"
+
+namespace {
+
+// The first line is never counted: the second one is the furthest, whatever is wished.
+FSoughtLine upward(const FLineWindow& window, qint64 line) {
+    FSoughtLine sought;
+    const qint64 last = window.count() - 1;
+    if (last > 0)
+        sought.range = window.line(std::max<qint64>(last + line, 0) + 1);
+    sought.flags.setFlag(FFoundFlag::LineBeyondEnd, last + line < 0);
+    return sought;
+}
+
+FSoughtLine downward(const FLineWindow& window, qint64 line) {
+    FSoughtLine sought;
+    sought.range = window.line(line);
+    sought.flags.setFlag(FFoundFlag::LineBeyondEnd, !sought.range);
+    return sought;
+}
+
+/// The last line feed at a place or before it, or the text's end if there is none.
+qint64 lineFeedBefore(const FResultText& text, qint64 offset) {
+    if (text.text()[static_cast<size_t>(offset)] == '\n')
+        return offset;
+    const qint64 line = text.index().lineAt(offset);
+    return line > 0 ? text.index().lineStart(line) - 1 : text.size();
+}
+
+}  // namespace
+
+FSoughtLine FSoughtLine::inText(const FResultText& text, int line) {
+    const FLineWindow window(text, {0, text.trimmedSize()});
+    return line < 0 ? upward(window, line) : downward(window, line);
+}
+
+FSoughtLine FSoughtLine::fromAnchor(const FResultText& text, FByteRange anchor, int line) {
+    if (line < 0)
+        return upward(FLineWindow(text, {0, lineFeedBefore(text, anchor.begin)}), line);
+    // Where the text ends with the anchor, the rest of its line is empty, but it is there.
+    if (line == 0 && anchor.end == text.size())
+        return {FByteRange{anchor.end, anchor.end}, {}};
+    return downward(FLineWindow(text, {anchor.end, text.size()}), line);
+}

@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+#include <cstring>
+
+#include "FLiteralReader.h"
+#include "FReaderCases.h"
+#include "genericintegration/io/FResultText.h"
+#include "genericintegration/io/FUtf8.h"
+#include "genericintegration/io/FValueSearch.h"
+#include "genericintegration/io/findValue.h"
+
+namespace {
+
+/// More of them can be asked for, to look for what is rarer.
+quint32 caseCount() {
+    bool isSet = false;
+    const int count = qEnvironmentVariableIntValue("MERIX_RANDOM_CASES", &isSet);
+    return isSet ? static_cast<quint32>(count) : 2000;
+}
+
+quint64 bitsOf(double number) {
+    quint64 bits;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+/// What stands in the content where a value is said to have been found.
+QString textAt(const QString& content, const FFoundValue& value) {
+    const QString line = content.section('\n', static_cast<int>(value.line - 1), static_cast<int>(value.line - 1));
+    return line.mid(static_cast<int>(value.column - 1), static_cast<int>(value.length));
+}
+
+void expectAsModel(const QString& content, const FResultText& text, FReaderCases& cases) {
+    ASSERT_EQ(content, FUtf8::decode(text.text()));
+    const FSeparatorSettings separators = cases.separators();
+    const std::vector<FValueDescription> values = cases.values(content);
+    const FFoundValues found = FValueSearch(values, separators).find(text);
+    EXPECT_EQ(FLiteralReader::order(content, values), found.order);
+    for (size_t i = 0; i < values.size(); ++i) {
+        const FLiteralReader::Found wanted = FLiteralReader::find(content, values[i], separators);
+        const FFoundValue& value = found.values[i];
+        const QString about = QString("anchor '%1' %2 line %3 column %4 average %5 rows %6 separator %7")
+                                  .arg(values[i].anchor.text)
+                                  .arg(values[i].anchor.occurrence == FAnchorOccurrence::First ? "first" : "last")
+                                  .arg(values[i].line)
+                                  .arg(values[i].column)
+                                  .arg(values[i].average)
+                                  .arg(values[i].averageRows)
+                                  .arg(separators.pattern().pattern());
+        EXPECT_EQ(wanted.text, value.text) << about.toStdString();
+        const quint64 bits = wanted.number != wanted.number ? 0x7FF8000000000000 : bitsOf(wanted.number);
+        EXPECT_EQ(bits, bitsOf(value.number)) << about.toStdString();
+        if (value.length >= 0)
+            EXPECT_EQ(value.text, textAt(content, value)) << about.toStdString();
+        else
+            EXPECT_TRUE(value.text.isEmpty() && value.flags != 0) << about.toStdString();
+    }
+}
+
+}  // namespace
+
+TEST(FValueSearchModelTest, samplesAreReadAsToldStepByStep) {
+    for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        FReaderCases cases(seed);
+        const QString content = cases.text(seed % 4 == 0);
+        expectAsModel(content, FResultText::fromString(content), cases);
+    }
+}
+
+TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsToldStepByStep) {
+    for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        FReaderCases cases(seed);
+        const QByteArray file = cases.file(cases.text(false));
+        expectAsModel(FLiteralReader::decode(file), FResultText::fromFile(file), cases);
+    }
+}
+
+TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
+    for (quint32 seed = 0; seed < caseCount(); ++seed) {
+        SCOPED_TRACE(seed);
+        FReaderCases cases(seed);
+        const QString text = cases.text(true);
+        const FSeparatorSettings separators = cases.separators();
+        const FValueDescription value = cases.values(text).front();
+        QRegExp ours = separators.pattern();
+        QRegExp models = separators.pattern();
+        int start[2];
+        int length[2];
+        const int result = findValue(start[0], length[0], ours, value.line, value.anchor.text, text, value.column,
+                                     separators.findNumbers);
+        EXPECT_EQ(FLiteralReader::findValue(start[1], length[1], models, value.line, value.anchor.text, text,
+                                            value.column, separators.findNumbers),
+                  result);
+        EXPECT_EQ(start[1], start[0]);
+        EXPECT_EQ(length[1], length[0]);
+        EXPECT_EQ(models.pattern(), ours.pattern());
+    }
+}

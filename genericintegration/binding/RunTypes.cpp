@@ -1,13 +1,14 @@
 // What a run needs, in load order.
 
+#include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FInitPrototype.h"
 
 namespace {
 
-const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntCommandFile, FGenIntFile,
-                      FGenIntResultsFile>
+const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntReader, FGenIntCommandFile,
+                      FGenIntFile, FGenIntResultsFile>
     types;
 
 }  // namespace

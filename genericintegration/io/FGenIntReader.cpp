@@ -1,0 +1,214 @@
+#include "genericintegration/io/FGenIntReader.h"
+
+#include "genericintegration/io/FResultText.h"
+#include "genericintegration/io/FValueSearch.h"
+#include "genericintegration/io/findValue.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FString.h"
+#include "host/lodm/FLodmConfigurationParser.h"
+#include "host/run/FPathManager.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/run/FTableData.h"
+
+#include <QFile>
+
+FClassData FGenIntReader::mClass("FGenIntReader", &FObject::mClass);
+
+namespace {
+
+using Values = std::vector<const FGenIntResultsFileValue*>;
+
+Values valuesOf(const std::vector<FExpr<FObject>>& elements) {
+    Values values;
+    for (const FExpr<FObject>& element : elements) {
+        if (const auto* value = dynamic_cast<const FGenIntResultsFileValue*>(element.getObject())) {
+            values.push_back(value);
+        }
+    }
+    return values;
+}
+
+FAnchor anchorOf(const FGenIntResultsFileValue& value) {
+    const bool isFirst = value.mOccurrence.get() == GenIntAnchorOccurrence::First;
+    return {value.mAnchor, isFirst ? FAnchorOccurrence::First : FAnchorOccurrence::Last};
+}
+
+FValueDescription describe(const FGenIntResultsFileValue& value) {
+    FValueDescription description;
+    description.name = value.mName;
+    description.line = value.mLine;
+    description.column = value.mColumn;
+    description.anchor = anchorOf(value);
+    description.average = value.mCalcAverage;
+    const FUnsigned* rows = value.mNumAverageRows.ptr();
+    description.averageRows = rows ? rows->getValue() : 0;
+    return description;
+}
+
+std::vector<FValueDescription> describe(const Values& values) {
+    std::vector<FValueDescription> descriptions;
+    for (const FGenIntResultsFileValue* value : values) {
+        descriptions.push_back(describe(*value));
+    }
+    return descriptions;
+}
+
+FSeparatorSettings separatorsOf(const FGenIntResultsFile& file) {
+    return {file.getNumberSeparator(), file.getSpacesAndTabsSeparator(), file.getRegExprSeparator()};
+}
+
+const FObject* typeOf(const FGenIntResultsFileValue& value) {
+    return value.mType ? value.mType : FDouble::null();
+}
+
+QStringList oddities(const FFoundValue& found) {
+    static const std::pair<FFoundFlag, const char*> words[] = {
+        {FFoundFlag::AnchorMissing, "anchor not found, counted from the top or the bottom of the file"},
+        {FFoundFlag::LineBeyondEnd, "line beyond the end"},
+        {FFoundFlag::ColumnMissing, "column missing"},
+        {FFoundFlag::NotANumber, "not a number"},
+        {FFoundFlag::FewerRows, "fewer rows than wished"},
+        {FFoundFlag::CutExponent, "number cut before its exponent"},
+        {FFoundFlag::Stars, "asterisks in place of a number"},
+        {FFoundFlag::NanOrInf, "NaN or Inf in the file"},
+        {FFoundFlag::DecimalComma, "decimal comma"},
+        {FFoundFlag::TouchesText, "number touches a letter or another number"}};
+    QStringList texts;
+    for (const auto& [flag, text] : words) {
+        if (found.flags.testFlag(flag)) {
+            texts.append(QString::fromLatin1(text));
+        }
+    }
+    return texts;
+}
+
+FNumberOrigin originOf(const FFoundValue& found) {
+    return {found.text, found.line, found.column, found.length, oddities(found)};
+}
+
+}  // namespace
+
+FGenIntReader* FGenIntReader::instance() {
+    static auto* reader = new FGenIntReader;
+    return reader;
+}
+
+void FGenIntReader::readResults(const FExpr<FGenIntResultsFile>& file, const FExpr<FResultsGeneric>& results,
+                                const QString& directory) {
+    if (file && results) {
+        parseFile(file, results->addTable(file->getFileName(), 0, 0), directory);
+    }
+}
+
+bool FGenIntReader::readText(const FGenIntResultsFile& file, const QString& directory, FResultText& text) const {
+    const QString consequence = QStringLiteral("parsing process aborted");
+    if (directory.isEmpty()) {
+        text = FResultText::fromString(file.getPlainContent());
+    } else {
+        QFile device(directory + QLatin1Char('/') + file.getFileName());
+        const bool leadsOut = FPathManager::leadsOut(file.getFileName());
+        if (leadsOut) {
+            FLogMsg::info(getClass(),
+                          QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
+                          QStringLiteral("give the template a file name below it"));
+        }
+        if (leadsOut || !device.open(QIODevice::ReadOnly)) {
+            FLogMsg::info(getClass(),
+                          QStringLiteral("Could not open file ") + device.fileName() + QStringLiteral(" for reading"),
+                          consequence);
+            return false;
+        }
+        text = FResultText::fromFile(device.readAll());
+    }
+    if (text.isEmpty()) {
+        FLogMsg::info(getClass(), QStringLiteral("Empty content, nothing to parse"), consequence);
+    }
+    return !text.isEmpty();
+}
+
+bool FGenIntReader::import(const FGenIntResultsFileValue& value, const QString& directory, const QString& found) {
+    if (FPathManager::leadsOut(found)) {
+        FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(found),
+                      QStringLiteral("not imported"));
+        mImportedObjects.clear();
+        return true;
+    }
+    FLodmConfigurationParser parser{QString()};
+    const bool imported = parser.doImport(value.mImportType, directory + found, value.mName);
+    if (imported) {
+        mImportedObjects = parser.getObjects();
+    }
+    return imported;
+}
+
+void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData* table, const QString& directory) {
+    if (!file || !table) {
+        return;
+    }
+    mImportedObjects.clear();
+    FResultText text = FResultText::fromString(QString());
+    if (!readText(*file.ptr(), directory, text)) {
+        return;
+    }
+    const Values values = valuesOf(file->getValues()->getObjects());
+    const FValueSearch search(describe(values), separatorsOf(*file.ptr()));
+    if (!search.patternError().isEmpty()) {
+        FLogMsg::warning(getClass(),
+                         QStringLiteral("the separator \"%1\" of %2 isn't a valid regular expression: %3")
+                             .arg(file->getRegExprSeparator(), file->getName(), search.patternError()),
+                         QStringLiteral("it separates nothing"));
+    }
+    const FFoundValues found = search.find(text);
+    QStringList headers;
+    QStringList tooltips;
+    FTableData::Rows rows;
+    QVector<FNumberOrigin> origins;
+    for (const int number : found.order) {
+        const FGenIntResultsFileValue& value = *values[static_cast<std::size_t>(number)];
+        const FFoundValue& result = found.values[static_cast<std::size_t>(number)];
+        headers.append(value.mName);
+        QString tooltip = typeOf(value)->getClass();
+        if (!typeOf(value)->isTypeOf(FDouble::null())) {
+            tooltip += QLatin1Char('|') + result.text;
+        }
+        // A failed import leaves the name without a row; from here on the names run ahead of the numbers.
+        const bool isFile = typeOf(value) == FFileName::null() && !directory.isEmpty();
+        if (isFile && !import(value, directory, result.text)) {
+            continue;
+        }
+        tooltips.append(tooltip);
+        rows.append(QVector<double>{result.number});
+        origins.append(originOf(result));
+    }
+    table->setData(rows);
+    table->setAllVerticalHeaders(headers);
+    table->setAllVerticalHeadersTooltips(tooltips);
+    table->setOrigins(origins);
+}
+
+void FGenIntReader::sortValues(std::vector<FExpr<FObject>>& values, const QString& text) {
+    if (text.isEmpty()) {
+        return;
+    }
+    std::vector<FExpr<FObject>> described;
+    for (const FExpr<FObject>& value : values) {
+        if (dynamic_cast<const FGenIntResultsFileValue*>(value.getObject())) {
+            described.push_back(value);
+        }
+    }
+    const FValueSearch search(describe(valuesOf(described)), FSeparatorSettings());
+    values.clear();
+    for (const int number : search.order(FResultText::fromString(text))) {
+        values.push_back(described[static_cast<std::size_t>(number)]);
+    }
+}
+
+int FGenIntReader::findValue(int& start, int& length, QRegExp& separator, int line, const QString& anchor,
+                             const QString& text, int column, bool findNumbers) {
+    return ::findValue(start, length, separator, line, anchor, text, column, findNumbers);
+}
+
+int FGenIntReader::getAnchorPosition(const FGenIntResultsFileValue& value, const QString& text) const {
+    return ::getAnchorPosition(anchorOf(value), text);
+}

@@ -1,0 +1,110 @@
+#include "genericintegration/io/FGenIntReader.h"
+
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/run/FTableData.h"
+#include "tests/support/FModelTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+namespace {
+
+class FGenIntReaderTest : public FModelTest {
+ protected:
+    void setValues(const QString& values) { ASSERT_TRUE(run("out1.setValues(" + values + ")")); }
+    void writeFile(const QString& name, const QByteArray& content) const {
+        QFile device(folder.filePath(name));
+        ASSERT_TRUE(device.open(QIODevice::WriteOnly));
+        device.write(content);
+    }
+    void parse(const QString& directory) const { FGenIntReader::instance()->parseFile(file, table.ptr(), directory); }
+
+    QTemporaryDir folder;
+    FExpr<FGenIntResultsFile> file{FGenIntResultsFile::create("out1")};
+    FExpr<FTableData> table{new FTableData("out.dat")};
+};
+
+TEST_F(FGenIntReaderTest, theTableHoldsNamesNumbersAndTypesInTheOrderOfTheFile) {
+    setValues(
+        "[[\"late\",0,0,\"beta\",Last,\"FDouble\",\"\"],[\"none\",0,5,\"beta\",Last,\"FDouble\",\"\"],"
+        "[\"first\",0,1,\"ALPHA\",First,\"FNoClass\",\"\"],[\"word\",0,0,\"alpha\",First,\"FString\",\"\"]]");
+    file->setContent("alpha 1 2\nbeta 3\n");
+    parse(QString());
+    EXPECT_EQ(table->getRowNames(), (QStringList{"word", "first", "late", "none"}));
+    EXPECT_EQ(table->getElementAt("first", 0), 2);
+    EXPECT_EQ(table->getElementAt("late", 0), 3);
+    EXPECT_TRUE(std::isnan(table->getElementAt("none", 0)));
+    EXPECT_EQ(table->getRowTooltip(0), "FString|1");
+    EXPECT_EQ(table->getRowTooltip(1), "FDouble");
+    EXPECT_EQ(table->getOrigin(1).line, 1);
+    EXPECT_EQ(table->getOrigin(1).column, 9);
+    EXPECT_EQ(table->getOrigin(1).text, "2");
+    EXPECT_FALSE(table->getOrigin(3).oddities.isEmpty());
+    // The template's own list keeps its order.
+    EXPECT_EQ(FExpr<FGenIntResultsFileValue>(file->getValues()->at(0))->mName, "late");
+}
+
+TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
+    setValues("[[\"a\",0,0,\"\",Last,\"FDouble\",\"\"]]");
+    file->setFileName("out.dat");
+    file->setContent("7");
+    parse(QString());
+    parse(folder.path());
+    EXPECT_TRUE(logHolds("FGenIntReader: Could not open file " + folder.filePath("out.dat") +
+                         " for reading (parsing process aborted)"));
+    writeFile("out.dat", "");
+    parse(folder.path());
+    EXPECT_TRUE(logHolds("FGenIntReader: Empty content, nothing to parse (parsing process aborted)"));
+    file->setFileName("../out.dat");
+    parse(folder.path() + "/");
+    EXPECT_TRUE(logHolds("leads out of the result directory"));
+    EXPECT_EQ(table->getElementAt("a", 0), 7);
+    file->setFileName("out.dat");
+    writeFile("out.dat", " \n\n");
+    parse(folder.path());
+    EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
+}
+
+TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsToldOnce) {
+    setValues("[[\"a\",0,1,\"\",Last,\"FDouble\",\"\"],[\"b\",0,0,\"\",Last,\"FDouble\",\"\"]]");
+    run("out1.setRegExpSeparator(\"(\")");
+    file->setContent("1(2");
+    parse(QString());
+    EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
+    EXPECT_EQ(log().size(), 1);
+    EXPECT_TRUE(logHolds("isn't a valid regular expression"));
+}
+
+TEST_F(FGenIntReaderTest, filesAreImportedFromTheDirectoryOnly) {
+    setValues("[[\"mesh\",0,0,\"mesh\",Last,\"FFileName\",\"text\",0,NULL]]");
+    run("out1.setSpaceSeparator(true)");
+    file->setFileName("out.dat");
+    file->setContent("mesh grid.txt\n");
+    parse(QString());
+    EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
+    EXPECT_EQ(table->getRowTooltip(0), "FFileName|grid.txt");
+
+    writeFile("out.dat", "mesh grid.txt\n");
+    writeFile("grid.txt", "1 2");
+    parse(folder.path() + "/");
+    EXPECT_EQ(FGenIntReader::instance()->getImportedObjects().value("mesh").toString(), "1 2");
+    writeFile("out.dat", "mesh ../x\n");
+    parse(folder.path() + "/");
+    EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
+    EXPECT_EQ(table->getRowCount(), 1);
+}
+
+TEST_F(FGenIntReaderTest, sortValuesDropsOtherElements) {
+    setValues("[[\"b\",0,0,\"x\",Last,\"FDouble\",\"\"],[\"a\",0,0,\"x\",First,\"FDouble\",\"\"]]");
+    std::vector<FExpr<FObject>> values = file->getValues()->getObjects();
+    values.push_back(FExpr<FObject>(new FDouble(1)));
+    FGenIntReader::instance()->sortValues(values, "");
+    EXPECT_EQ(values.size(), 3U);
+    FGenIntReader::instance()->sortValues(values, "x 1\nx 2");
+    ASSERT_EQ(values.size(), 2U);
+    EXPECT_EQ(FExpr<FGenIntResultsFileValue>(values[0])->mName, "a");
+}
+
+}  // namespace

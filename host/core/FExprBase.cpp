@@ -1,8 +1,43 @@
 #include "host/core/FExprBase.h"
 
 #include "host/core/FScriptLanguage.h"
+#include "host/core/FUpdateGraph.h"
 
 #include <utility>
+#include <vector>
+
+namespace {
+
+// Objects that hold one another in a long chain: from a depth on they die after one another, to spare the stack.
+constexpr int deepestDeath = 100;
+int deaths = 0;
+
+std::vector<FObject*>& doomed() {
+    static std::vector<FObject*> objects;
+    return objects;
+}
+
+void destroyObject(FObject* object) {
+    ++deaths;
+    delete object;
+    --deaths;
+}
+
+void endObject(FObject* object) {
+    if (deaths >= deepestDeath) {
+        object->getBlock()->kind = FObjectBlock::Kind::Elsewhere;  // out of the reach of handles
+        doomed().push_back(object);
+        return;
+    }
+    destroyObject(object);
+    while (deaths == 0 && !doomed().empty()) {
+        FObject* next = doomed().back();
+        doomed().pop_back();
+        destroyObject(next);
+    }
+}
+
+}  // namespace
 
 FExprBase& FExprBase::operator=(const FExprBase& other) {
     // The old object may own the handle that is assigned from, so the new one is taken first.
@@ -35,7 +70,7 @@ void FExprBase::release() {
     const bool ownedByHandles =
         block->kind == FObjectBlock::Kind::Plain || (block->kind == FObjectBlock::Kind::Managed && block->outOfModel);
     if (ownedByHandles) {
-        delete block->object;
+        endObject(block->object);
     }
 }
 
@@ -83,6 +118,12 @@ bool FExprBase::registerClient(const FObject* client, bool immediate) const {
         const_cast<FObject*>(client)->setUpdateOnDemand(false);
     }
     return client->addSupplier(mpBlock->object);
+}
+
+void FExprBase::restoreClient(const FObject* client) const {
+    if (mpBlock && mpBlock->object) {
+        FUpdateGraph::link(const_cast<FObject*>(client), mpBlock->object);
+    }
 }
 
 void FExprBase::unregisterClient(const FObject* client) const {

@@ -53,6 +53,8 @@ class FExprBase {
     /** Makes `client` depend on what the handle holds. False where that would close a cycle. */
     bool registerClient(const FObject* client, bool immediate = false) const;
     void unregisterClient(const FObject* client) const;
+    /** As `registerClient` for a link that stood before: without the look for a cycle, which half a step may show. */
+    void restoreClient(const FObject* client) const;
 
     /** Identity of the object put in, as the most-derived object; that of a destroyed object stays. */
     const void* identity() const { return mpBlock; }

@@ -6,6 +6,9 @@
 #include "host/core/FScriptLanguage.h"
 #include "host/core/FTypeDocu.h"
 #include "host/core/FUpdateGraph.h"
+#include "host/core/FUpdateLinks.h"
+
+#include <unordered_set>
 
 FClassData FObject::mClass("FObject", nullptr);
 bool FObject::mInitPrototype = false;
@@ -102,8 +105,29 @@ bool FObject::exists(const FObject* object) {
 }
 
 bool FObject::canSafelyBeUpdated(bool mayReadFiles) const {
+    std::vector<const FObject*> todo{this};
+    std::unordered_set<const FObject*> seen{this};
+    for (std::size_t i = 0; i < todo.size(); ++i) {
+        if (!todo[i]->isSafeAlone(mayReadFiles)) {
+            return false;
+        }
+        for (const FExprBase& operand : todo[i]->getOperands()) {
+            const FObject* stored = operand.getStored();
+            if (stored && seen.insert(stored).second) {
+                todo.push_back(stored);
+            }
+        }
+    }
+    return true;
+}
+
+bool FObject::isSafeAlone(bool mayReadFiles) const {
     Q_UNUSED(mayReadFiles)
     return true;
+}
+
+std::vector<FExprBase> FObject::getOperands() const {
+    return {};
 }
 
 void FObject::setOutOfDate(bool outOfDate) const {
@@ -119,8 +143,8 @@ bool FObject::update() const {
 }
 
 bool FObject::addSupplier(const FObject* supplier) const {
-    // Nothing that depends on nobody's word can close a cycle, so the walk is spared in most cases.
-    if (supplier == this || (mpLinks && supplier->dependsOn(this))) {
+    // Nobody depends on an object without clients, so it can't close a cycle and the walk is spared.
+    if (supplier == this || (mpLinks && !mpLinks->clients.empty() && supplier->dependsOn(this))) {
         return false;
     }
     FUpdateGraph::link(const_cast<FObject*>(this), const_cast<FObject*>(supplier));

@@ -107,8 +107,11 @@ class FObject {
     virtual FObject* getValueObject() const { return const_cast<FObject*>(this); }
     /** The type of what `evaluate` gives, as far as it is known without evaluating: a prototype, never null. */
     virtual const FObject* getEvaluatedType() const { return getPrototype(); }
-    /** Whether evaluating is safe: no program runs and no dialog opens; files are read only with `mayReadFiles`. */
-    virtual bool canSafelyBeUpdated(bool mayReadFiles) const;
+    /**
+     * Whether evaluating is safe: no program runs and no dialog opens; files are read only with `mayReadFiles`. Asks
+     * everything that would be evaluated, once each, without recursion.
+     */
+    bool canSafelyBeUpdated(bool mayReadFiles) const;
 
     // ---- update graph ----
     /** True: marks this object and all that depend on it, once each. False: clears the mark. */
@@ -137,6 +140,12 @@ class FObject {
     static bool isInitializingPrototype();
     /** Takes the object out of the reach of handles: neither kept nor deleted by them from now on. */
     void setOwnedElsewhere();
+    /** `canSafelyBeUpdated` of this object alone, without what it evaluates. */
+    virtual bool isSafeAlone(bool mayReadFiles) const;
+    /** What evaluating this object evaluates. */
+    virtual std::vector<FExprBase> getOperands() const;
+    /** The object that this one is a part of: it goes out of date with its parts, without depending on them. */
+    virtual FObject* getWhole() const { return nullptr; }
     /** Called once for each object that becomes out of date. */
     virtual void becameOutOfDate() const {}
     /** True if `doUpdate` decides itself which suppliers it needs. */

@@ -60,9 +60,3 @@ QString FObjectList::toExpressionString() const {
 QString FObjectList::toHistoryString() const {
     return listText(mObjects, [](const FExpr<FObject>& object) { return object.toHistoryString(); });
 }
-
-bool FObjectList::canSafelyBeUpdated(bool mayReadFiles) const {
-    return std::all_of(mObjects.begin(), mObjects.end(), [mayReadFiles](const FExpr<FObject>& object) {
-        return object.canSafelyBeUpdated(mayReadFiles);
-    });
-}

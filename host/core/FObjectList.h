@@ -34,7 +34,9 @@ class FObjectList : public FClass<FObjectList, FObject> {
     QString toExpressionString() const override;
     QString toHistoryString() const override;
     FObjectList* castToObjectList() override { return this; }
-    bool canSafelyBeUpdated(bool mayReadFiles) const override;
+
+ protected:
+    std::vector<FExprBase> getOperands() const override { return {mObjects.begin(), mObjects.end()}; }
 
  private:
     const FObject* mpElementType;

@@ -5,6 +5,7 @@
 #include "host/core/FUpdateLinks.h"
 
 #include <algorithm>
+#include <deque>
 #include <unordered_set>
 
 namespace {
@@ -12,8 +13,8 @@ namespace {
 int blockers = 0;
 
 // Objects with immediate update that became out of date and haven't been updated since.
-std::vector<FObject*>& waiting() {
-    static std::vector<FObject*> objects;
+std::deque<FObject*>& waiting() {
+    static std::deque<FObject*> objects;
     return objects;
 }
 
@@ -46,9 +47,13 @@ void FUpdateGraph::markOutOfDate(FObject* start) {
         if (object->mImmediateUpdate) {
             waiting().push_back(object);
         }
-        for (FObject* client : clientsOf(object)) {
-            if (!client->mUpdating && seen.insert(client).second) {
-                todo.push_back(client);
+        std::vector<FObject*> reached = clientsOf(object);
+        if (FObject* whole = object->getWhole()) {
+            reached.push_back(whole);
+        }
+        for (FObject* next : reached) {
+            if (!next->mUpdating && seen.insert(next).second) {
+                todo.push_back(next);
             }
         }
     }
@@ -61,7 +66,7 @@ void FUpdateGraph::updateWaiting() {
     // An update may mark further objects: they join the queue and are reached by the same loop.
     while (!waiting().empty()) {
         FObject* object = waiting().front();
-        waiting().erase(waiting().begin());
+        waiting().pop_front();
         object->update();
     }
 }

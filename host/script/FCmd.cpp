@@ -6,8 +6,6 @@
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
 
-#include <algorithm>
-
 FClassData FCmd::mClass("FCmd", &FObject::mClass);
 
 FCmd::FCmd(const FCmdRow& row) : mpRow(&row), mName(row.name) {
@@ -44,13 +42,9 @@ const FObject* FCmd::getEvaluatedType() const {
     return result ? result->mpNull : FObject::null();
 }
 
-bool FCmd::canSafelyBeUpdated(bool mayReadFiles) const {
+bool FCmd::isSafeAlone(bool mayReadFiles) const {
     const FCmdRow::Effect effect = mpRow ? mpRow->effect : FCmdRow::Effect::Pure;
-    if (effect == FCmdRow::Effect::Acts || (effect == FCmdRow::Effect::ReadsFiles && !mayReadFiles)) {
-        return false;
-    }
-    return std::all_of(mArguments.begin(), mArguments.end(),
-                       [mayReadFiles](const FExprBase& argument) { return argument.canSafelyBeUpdated(mayReadFiles); });
+    return effect == FCmdRow::Effect::Pure || (effect == FCmdRow::Effect::ReadsFiles && mayReadFiles);
 }
 
 QString FCmd::operandText(const FExprBase& operand) {

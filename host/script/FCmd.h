@@ -43,7 +43,6 @@ class FCmd : public FClass<FCmd, FObject> {
     bool isCmd() const override { return true; }
     FObject* evaluate() const override { return getValue().getObject(); }
     const FObject* getEvaluatedType() const override;
-    bool canSafelyBeUpdated(bool mayReadFiles) const override;
     QString toString() const override { return toExpressionString(); }
     QString toExpressionString() const override;
     bool doUpdate() const override;
@@ -57,6 +56,8 @@ class FCmd : public FClass<FCmd, FObject> {
     /** The class data of the row's command class; those of the C++ class for the prototype of the family. */
     const FClassData& classOfRow(const FClassData& family) const;
     bool updatesSuppliersItself() const override { return !mKept; }
+    bool isSafeAlone(bool mayReadFiles) const override;
+    std::vector<FExprBase> getOperands() const override { return mArguments; }
     /** Carries the command out. An empty handle is the null result. */
     virtual FExprBase execute() const;
 

@@ -19,8 +19,10 @@ void FMemberCmd::setKept() {
     mReceiver.registerClient(this);
 }
 
-bool FMemberCmd::canSafelyBeUpdated(bool mayReadFiles) const {
-    return mReceiver.canSafelyBeUpdated(mayReadFiles) && FCmd::canSafelyBeUpdated(mayReadFiles);
+std::vector<FExprBase> FMemberCmd::getOperands() const {
+    std::vector<FExprBase> operands = FCmd::getOperands();
+    operands.push_back(mReceiver);
+    return operands;
 }
 
 QString FMemberCmd::toExpressionString() const {

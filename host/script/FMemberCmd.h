@@ -20,10 +20,10 @@ class FMemberCmd : public FClass<FMemberCmd, FCmd> {
     const FExprBase& getReceiver() const { return mReceiver; }
     void setKept() override;
 
-    bool canSafelyBeUpdated(bool mayReadFiles) const override;
     QString toExpressionString() const override;
 
  protected:
+    std::vector<FExprBase> getOperands() const override;
     FExprBase execute() const override;
     /** Called with each object that the command has changed. */
     virtual void acted(FObject* receiver) const { Q_UNUSED(receiver) }

@@ -2,6 +2,7 @@
 
 #include "host/core/FNumberText.h"
 
+#include <cmath>
 #include <limits>
 
 FClassData FDouble::mClass("FDouble", &FBasicType::mClass);
@@ -10,6 +11,10 @@ FClassData FUnsigned::mClass("FUnsigned", &FInteger::mClass);
 
 QString FDouble::toString() const {
     return numberText(mValue);
+}
+
+QString FDouble::toExpressionString() const {
+    return std::isfinite(mValue) ? toString() : QStringLiteral("number(\"%1\")").arg(numberText(mValue).toLower());
 }
 
 int FDouble::toInt() const {

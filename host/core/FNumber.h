@@ -11,6 +11,8 @@ class FDouble : public FClass<FDouble, FBasicType> {
     FObject* clone() const override { return new FDouble(mValue); }
 
     QString toString() const override;
+    /** What isn't finite has no literal and is written as a call of `number`. */
+    QString toExpressionString() const override;
     int toInt() const override;
     double toDouble() const override { return mValue; }
     void setPrimitiveValue(const FExpr<FObject>& value) override;

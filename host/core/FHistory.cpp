@@ -50,20 +50,20 @@ void FHistory::close() {
 
 // What an object made by the step was before its end is of no interest: it comes and goes as a whole.
 void FHistory::forgetChangesOfNew(Transaction& step) {
-    QSet<const FManaged*> fresh;
+    QSet<const FRecorded*> fresh;
     for (const ModelChange& change : step.model) {
         if (change.created) {
             fresh.insert(change.managed);
-            change.managed->mpKnownState = std::make_unique<FState>(FState::capture(*change.managed));
+            change.managed->rememberState();
         }
     }
     step.objects.erase(std::remove_if(step.objects.begin(), step.objects.end(),
-                                      [&fresh](const ObjectChange& change) { return fresh.contains(change.managed); }),
+                                      [&fresh](const ObjectChange& change) { return fresh.contains(change.recorded); }),
                        step.objects.end());
 }
 
 void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {
-    FManaged& object = *change.managed;
+    FRecorded& object = *change.recorded;
     FState now = FState::capture(object);
     const auto& fields = object.getClassData().getFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -88,20 +88,20 @@ void FHistory::rollback() {
     replay(step, false);
 }
 
-void FHistory::addStep(const FManaged* object) {
-    if (!object || !object->isInModel() || !isRecording()) {
+void FHistory::addStep(const FRecorded* object) {
+    if (!object || !object->isRecorded() || !isRecording()) {
         return;
     }
     if (mDepth == 0) {
-        startTransaction(object->getName());
-        touch(const_cast<FManaged*>(object));
+        startTransaction(object->toString());
+        touch(const_cast<FRecorded*>(object));
         commit(1);
     } else {
-        touch(const_cast<FManaged*>(object));
+        touch(const_cast<FRecorded*>(object));
     }
 }
 
-void FHistory::touch(FManaged* object) {
+void FHistory::touch(FRecorded* object) {
     if (!mTouched.contains(object) && object->mpKnownState) {
         mTouched.insert(object);
         mOpen.objects.push_back({FExprBase(object), object, *object->mpKnownState, {}});
@@ -120,9 +120,9 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
     }
     touch(object);
     for (FObject* client : clients) {
-        auto* managed = dynamic_cast<FManaged*>(client);
-        if (managed && managed->isInModel()) {
-            touch(managed);
+        auto* recorded = dynamic_cast<FRecorded*>(client);
+        if (recorded && recorded->isRecorded()) {
+            touch(recorded);
         }
     }
     mOpen.model.push_back({FExprBase(object), object, false});
@@ -166,15 +166,15 @@ void FHistory::replay(const Transaction& step, bool forward) {
         std::for_each(step.model.rbegin(), step.model.rend(), changeModel);
     }
     for (const ObjectChange& change : step.objects) {
-        const auto& fields = change.managed->getClassData().getFields();
+        const auto& fields = change.recorded->getClassData().getFields();
         for (const FieldChange& field : change.fields) {
-            fields[field.field]->write(*change.managed, forward ? field.after : field.before);
+            fields[field.field]->write(*change.recorded, forward ? field.after : field.before);
         }
-        change.managed->mpKnownState = std::make_unique<FState>(FState::capture(*change.managed));
+        change.recorded->rememberState();
     }
     mReplaying = false;
     for (const ObjectChange& change : step.objects) {
-        change.managed->setOutOfDate(true);
+        change.recorded->setOutOfDate(true);
     }
 }
 

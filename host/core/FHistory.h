@@ -23,7 +23,7 @@ class FHistory {
     /** Ends the outermost transaction and takes back what it did. */
     void rollback();
     /** The object belongs to the step. Without an open transaction it becomes a step of its own. */
-    void addStep(const FManaged* object);
+    void addStep(const FRecorded* object);
     bool inTransaction() const { return mDepth > 0; }
 
     bool undo();
@@ -59,7 +59,7 @@ class FHistory {
     };
     struct ObjectChange {
         FExprBase object;
-        FManaged* managed;
+        FRecorded* recorded;
         FState before;  // all fields while the transaction is open
         std::vector<FieldChange> fields;
     };
@@ -72,7 +72,7 @@ class FHistory {
     };
 
     bool isRecording() const { return !mReplaying && mBlockers == 0; }
-    void touch(FManaged* object);
+    void touch(FRecorded* object);
     void close();
     static void forgetChangesOfNew(Transaction& step);
     static void keepDifference(ObjectChange& change, std::size_t& size);
@@ -83,7 +83,7 @@ class FHistory {
     int mBlockers = 0;
     bool mReplaying = false;
     Transaction mOpen;
-    QSet<const FManaged*> mTouched;  // the objects of mOpen
+    QSet<const FRecorded*> mTouched;  // the objects of mOpen
     std::deque<Transaction> mDone;
     std::vector<Transaction> mUndone;
     std::size_t mSize = 0;
@@ -98,7 +98,7 @@ class FHistoryTransaction {
     FHistoryTransaction(const FHistoryTransaction&) = delete;
     FHistoryTransaction& operator=(const FHistoryTransaction&) = delete;
 
-    void addStep(const FManaged* object) { FHistory::instance()->addStep(object); }
+    void addStep(const FRecorded* object) { FHistory::instance()->addStep(object); }
 };
 
 /** While one exists, nothing is recorded. */

@@ -88,7 +88,7 @@ void FManaged::enter() {
     mInModel = true;
     mKnownName = mName;
     FObjectManager::instance()->enter(this);
-    mpKnownState = std::make_unique<FState>(FState::capture(*this));
+    rememberState();
     enterModel();
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/core/FClass.h"
 #include "host/core/FExpr.h"
+#include "host/core/FRecorded.h"
 #include "host/core/FStateField.h"
 
 #include <QMap>
@@ -16,7 +17,7 @@ class QTextStream;
  * handles, and the same object comes back on undo, so destructors only free; what else has to happen when an object
  * goes stands in `leaveModel`.
  */
-class FManaged : public FClass<FManaged, FObject> {
+class FManaged : public FClass<FManaged, FRecorded> {
  public:
     static FClassData mClass;
     static bool mInitPrototype;  //!< true while the prototype of a managed class is built
@@ -34,6 +35,7 @@ class FManaged : public FClass<FManaged, FObject> {
     /** Takes the object out of the model; `false` if it isn't there. The flag asks to tell its dependants. */
     static bool destroy(FManaged* object, bool tellClients = true);
     bool isInModel() const { return mInModel; }
+    bool isRecorded() const override { return mInModel; }
     /** The object during whose parent registration this one was registered; null if there was none. */
     const FObject* getParent() const { return mParent.getStored(); }
 
@@ -105,7 +107,6 @@ class FManaged : public FClass<FManaged, FObject> {
     FExpr<FManaged> mConfigurationHandle;
     FExprBase mParent;
     QMap<unsigned int, QString> mDocu;
-    std::unique_ptr<FState> mpKnownState;  //!< the state at the end of the last step
 };
 
 /** Objects made by a registration in between count as children of `parent`, until `stopParentReg`. */

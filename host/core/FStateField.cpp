@@ -41,7 +41,9 @@ FOwnedState FOwnedState::capture(std::vector<FExprBase> objects) {
     owned.states.reserve(objects.size());
     for (const FExprBase& object : objects) {
         const FObject* stored = object.getStored();
-        owned.states.push_back(stored ? FState::capture(*stored) : FState());
+        // A managed object has a history of its own.
+        const bool isOwned = stored && stored->getBlock()->kind == FObjectBlock::Kind::Plain;
+        owned.states.push_back(isOwned ? FState::capture(*stored) : FState());
     }
     owned.objects = std::move(objects);
     return owned;

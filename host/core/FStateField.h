@@ -67,6 +67,12 @@ class FStateFields {
         mFields.push_back(std::make_unique<LinkedField<V>>(member, std::move(after)));
         return *this;
     }
+    /** A handle on a value that this object owns and depends on: linked, and the value's own fields are kept with it.
+     */
+    FStateFields& owned(FExprBase C::*member) {
+        mFields.push_back(std::make_unique<OwnedValueField>(member));
+        return *this;
+    }
     /** A list of handles on objects that this one owns; their fields are kept with it. */
     template <class T>
     FStateFields& owned(QList<FExpr<T>> C::*member) {
@@ -129,7 +135,7 @@ class FStateFields {
                 handle.unregisterClient(&object);
             }
             for (const FExprBase& handle : handles(std::any_cast<const V&>(value))) {
-                handle.registerClient(&object);
+                handle.restoreClient(&object);
             }
             MemberField<V>::write(object, value);
         }
@@ -157,6 +163,24 @@ class FStateFields {
             return std::shared_ptr<const FOwnedState>(
                 std::make_shared<FOwnedState>(FOwnedState::capture(std::move(objects))));
         }
+    };
+
+    class OwnedValueField : public OwnedField {
+     public:
+        explicit OwnedValueField(FExprBase C::*member) : mMember(member) {}
+        std::any read(const FObject& object) const override {
+            return OwnedField::keep({static_cast<const C&>(object).*mMember});
+        }
+        void write(FObject& object, const std::any& value) const override {
+            FExprBase& handle = static_cast<C&>(object).*mMember;
+            handle.unregisterClient(&object);
+            handle = OwnedField::owned(value).objects.front();
+            handle.restoreClient(&object);
+            OwnedField::owned(value).restoreElements();
+        }
+
+     private:
+        FExprBase C::*mMember;
     };
 
     template <class T>

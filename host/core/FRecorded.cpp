@@ -1,0 +1,11 @@
+#include "host/core/FRecorded.h"
+
+#include "host/core/FStateField.h"
+
+FRecorded::FRecorded() = default;
+FRecorded::FRecorded(const FRecorded& other) : FObject(other) {}
+FRecorded::~FRecorded() = default;
+
+void FRecorded::rememberState() {
+    mpKnownState = std::make_unique<FState>(FState::capture(*this));
+}

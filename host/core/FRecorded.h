@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/core/FObject.h"
+
+#include <memory>
+
+class FState;
+
+/**
+ * What the history keeps the state of, one by one: managed objects, and those of their parts that are too many to be
+ * kept with the whole.
+ */
+class FRecorded : public FObject {
+ public:
+    FRecorded();
+    ~FRecorded() override;
+
+    /** True while the object belongs to the model; outside it nothing is kept. */
+    virtual bool isRecorded() const = 0;
+
+ protected:
+    FRecorded(const FRecorded& other);
+    FRecorded& operator=(const FRecorded& other) = delete;
+    /** The present state becomes the one that the next step is compared with. */
+    void rememberState();
+    bool hasKnownState() const { return mpKnownState != nullptr; }
+
+ private:
+    friend class FHistory;
+
+    std::unique_ptr<FState> mpKnownState;  //!< the state at the end of the last step
+};

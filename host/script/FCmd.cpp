@@ -6,7 +6,16 @@
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
 
+#include <utility>
+
 FClassData FCmd::mClass("FCmd", &FObject::mClass);
+
+namespace {
+
+/** The command whose operation is at work, the innermost one. */
+const FCmd* running = nullptr;
+
+}  // namespace
 
 FCmd::FCmd(const FCmdRow& row) : mpRow(&row), mName(row.name) {
     setOutOfDate(true);
@@ -80,13 +89,28 @@ FExprBase FCmd::execute() const {
 
 FExprBase FCmd::callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     if (!mUseParentReg) {
-        return row.call(receiver, values);
+        return callWatched(row, receiver, values);
     }
     destroyChildrenOf(this);
     startParentReg(this);
-    FExprBase result = row.call(receiver, values);
+    FExprBase result = callWatched(row, receiver, values);
     stopParentReg();
     return result;
+}
+
+FExprBase FCmd::callWatched(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
+    const FCmd* outer = std::exchange(running, this);
+    FExprBase result = row.call(receiver, values);
+    running = outer;
+    return result;
+}
+
+void FCmd::warnNow(const QString& source, const QString& message) {
+    if (running) {
+        running->warn(message);
+    } else {
+        FLogMsg::warning(source, message);
+    }
 }
 
 bool FCmd::convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString& reason) const {

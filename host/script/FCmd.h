@@ -47,6 +47,9 @@ class FCmd : public FClass<FCmd, FObject> {
     QString toExpressionString() const override;
     bool doUpdate() const override;
 
+    /** Warns as the command that is being carried out, with its place; as `source` when there is none. */
+    static void warnNow(const QString& source, const QString& message);
+
     /** Adds the command's texts under its documentation keys. */
     void initCmdDocu() const;
     QString getTsRoot() const { return mpRow ? mpRow->docuRoot() : QString(); }
@@ -73,6 +76,8 @@ class FCmd : public FClass<FCmd, FObject> {
     mutable FExprBase mResult;
 
  private:
+    FExprBase callWatched(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+
     const FCmdRow* mpRow = nullptr;
     QString mName;
     std::vector<FExprBase> mArguments;

@@ -53,6 +53,7 @@ class FCmdRow {
     std::vector<FCmdArgument> arguments;
     FCmdType returnType;
     Call call;
+    Call source;                                              //!< what of the receiver the result is read from
     Getter getter;                                            //!< for attributes: the current value
     std::function<QString(const FObject*)> creatorArguments;  //!< for creators: the arguments of the saved form
     FCmdPresentation presentation;

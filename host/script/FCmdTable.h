@@ -127,6 +127,18 @@ class FCmdTable {
     FCmdTable& readsFiles() { return effect(FCmdRow::Effect::ReadsFiles); }
     FCmdTable& data() { return last().isData = true, *this; }
     FCmdTable& unwrapped() { return last().isUnwrapped = true, *this; }
+    /**
+     * The result is read from the part of the receiver that `find` gives for the same arguments. Kept, the command then
+     * depends on that part; what else changes in the receiver closes no cycle with it.
+     */
+    template <class C, class F>
+    FCmdTable& readFrom(F find) {
+        using S = cmdtable::Signature<F>;
+        last().source = [find](FObject* receiver, const FCmdRow::Values& values) mutable {
+            return cmdtable::call<typename S::Result, typename S::Arguments>(find, values, dynamic_cast<C&>(*receiver));
+        };
+        return *this;
+    }
     FCmdTable& method(const char* name) { return last().method = QString::fromLatin1(name), *this; }
     /** The global command acts on the prototype of the table's class. */
     FCmdTable& onPrototype() { return last().owner = mpOwner, *this; }

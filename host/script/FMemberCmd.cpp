@@ -3,6 +3,8 @@
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdParser.h"
 
+#include <algorithm>
+
 FClassData FMemberCmd::mClass("FMemberCmd", &FCmd::mClass);
 FClassData FAttribCmd::mClass("FAttribCmd", &FMemberCmd::mClass);
 
@@ -17,11 +19,13 @@ FObject* FAttribCmd::clone() const {
 void FMemberCmd::setKept() {
     FCmd::setKept();
     mReceiver.registerClient(this);
+    followConstantSource();
 }
 
 std::vector<FExprBase> FMemberCmd::getOperands() const {
     std::vector<FExprBase> operands = FCmd::getOperands();
     operands.push_back(mReceiver);
+    operands.push_back(mSource);
     return operands;
 }
 
@@ -36,6 +40,44 @@ void FMemberCmd::followReceiver(FObject* receiver) const {
     mFollowed.unregisterClient(this);
     mFollowed = FExprBase(receiver);
     mFollowed.registerClient(this);
+}
+
+// Where nothing has to be evaluated for it, a cycle is noticed already when the expression is set.
+void FMemberCmd::followConstantSource() const {
+    FObject* receiver = mReceiver.getStored();
+    const auto& arguments = getArguments();
+    const bool isConstant = std::all_of(arguments.begin(), arguments.end(), [](const FExprBase& argument) {
+        return dynamic_cast<const FBasicType*>(argument.getStored());
+    });
+    if (!receiver || receiver->isCmd() || !isConstant) {
+        return;
+    }
+    for (const FCmdRow* row : FCmdManager::instance()->findMembers(receiver->getClassData(), getName())) {
+        FCmdRow::Values values;
+        QString reason;
+        if (row->source && convertArguments(*row, values, reason)) {
+            followSource(*row, receiver, values);
+            return;
+        }
+    }
+}
+
+bool FMemberCmd::followSource(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
+    if (!isKept() || !row.source) {
+        return true;
+    }
+    const FExprBase source = row.source(receiver, values);
+    if (source == mSource) {
+        return true;
+    }
+    mSource.unregisterClient(this);
+    mSource = source;
+    if (mSource.registerClient(this)) {
+        return true;
+    }
+    mSource = FExprBase();
+    warn(getName() + QStringLiteral(": what it asks for depends on the result itself"));
+    return false;
 }
 
 FExprBase FMemberCmd::execute() const {
@@ -61,6 +103,9 @@ FExprBase FMemberCmd::execute() const {
 FExprBase FMemberCmd::act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     if (!row.isQuery()) {
         FCmdParser::willAct(receiver);
+    }
+    if (!followSource(row, receiver, values)) {
+        return {};
     }
     FExprBase result = callRow(row, receiver, values);
     acted(receiver);

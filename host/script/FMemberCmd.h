@@ -32,9 +32,12 @@ class FMemberCmd : public FClass<FMemberCmd, FCmd> {
     FExprBase act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
     FExprBase actOnList(FObjectList& list) const;
     void followReceiver(FObject* receiver) const;
+    void followConstantSource() const;
+    bool followSource(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
 
     FExprBase mReceiver;
     mutable FExprBase mFollowed;  // what the receiver's expression gave, when it was linked
+    mutable FExprBase mSource;    // the part of the receiver that the result is read from
 };
 
 /** A command that sets an attribute, and tells its current value. */

@@ -63,12 +63,18 @@ void FUpdateGraph::markOutOfDate(FObject* start) {
 }
 
 void FUpdateGraph::updateWaiting() {
+    static bool isAtWork = false;
+    if (isAtWork) {
+        return;
+    }
     // An update may mark further objects: they join the queue and are reached by the same loop.
+    isAtWork = true;
     while (!waiting().empty()) {
         FObject* object = waiting().front();
         waiting().pop_front();
         object->update();
     }
+    isAtWork = false;
 }
 
 bool FUpdateGraph::updateOne(FObject* object) {

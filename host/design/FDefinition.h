@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/design/FDefinitionBase.h"
+
+#include <QStringList>
+
+class FConfiguration;
+class FEntryDef;
+
+/** Files in the run directory that a definition speaks of, relative to it. */
+struct FRunFiles {
+    QStringList written;
+    QStringList read;
+};
+
+/** Which entries there are. Configurations hold their values; several of them can share one definition. */
+class FDefinition : public FClass<FDefinition, FDefinitionBase> {
+ public:
+    static FClassData mClass;
+
+    explicit FDefinition(const QString& name = QString()) : FClass(name) {}
+
+    /** Adds an entry definition; the configurations get it. */
+    void addEntry(const FExpr<FEntryBase>& entry) override;
+    /** Has all configurations of this definition follow its entries, see FConfiguration::reinit. */
+    virtual void reinitConfigurations(bool reset);
+    /** A name in tags has changed: texts that name it follow. */
+    virtual void updateCommandFiles(const QString& oldName, const QString& newName);
+    /** The files that are written before a run and read after it. */
+    virtual FRunFiles getRunFiles() const { return {}; }
+
+    /** The configurations of the model that have this definition. */
+    QList<FConfiguration*> getConfigurations() const;
+    /** An entry has a new name. */
+    void entryRenamed(const FEntryDef* entry, const QStringList& oldLeafPaths);
+
+    QStringList furtherSavedCommands() const override;
+};

@@ -1,0 +1,65 @@
+#include "host/design/FDefinitionBase.h"
+
+#include "host/script/FCmd.h"
+#include "host/script/FCmdManager.h"
+
+#include <algorithm>
+
+FClassData FDefinitionBase::mClass("FDefinitionBase", &FEntity::mClass, nullptr, &FDefinitionBase::fields);
+
+namespace {
+
+void collect(const FEntryHolder& holder, const QString& front, QMap<QString, FExpr<FEntryBase>>& map) {
+    for (const FExpr<FEntryBase>& entry : holder.getEntries()) {
+        const QString path = front + entry->getPathPart();
+        if (entry->isGroup()) {
+            collect(*entry.ptr(), path + QLatin1Char('|'), map);
+        } else if (!map.contains(path)) {
+            map.insert(path, entry);
+        }
+    }
+}
+
+FEntryBase* entryOfPart(const FEntryHolder& holder, const QString& part) {
+    const auto& entries = holder.getEntries();
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&part](const FExpr<FEntryBase>& entry) { return entry->getPathPart() == part; });
+    return found == entries.end() ? nullptr : found->ptr();
+}
+
+}  // namespace
+
+std::vector<std::unique_ptr<FStateField>> FDefinitionBase::fields() {
+    using Entries = QList<FExpr<FEntryBase>> FDefinitionBase::*;
+    return FStateFields<FDefinitionBase>()
+        .member(static_cast<Entries>(&FDefinitionBase::mEntries), [](FDefinitionBase& base) { base.linkEntries(); })
+        .take();
+}
+
+const QMap<QString, FExpr<FEntryBase>>& FDefinitionBase::getEntryMap() const {
+    if (mMapVersion != getStructureVersion()) {
+        mEntryMap.clear();
+        collect(*this, QString(), mEntryMap);
+        mMapVersion = getStructureVersion();
+    }
+    return mEntryMap;
+}
+
+FEntryBase* FDefinitionBase::getEntryOfScope(const QString& path) const {
+    const auto leaf = getEntryMap().constFind(path);
+    if (leaf != getEntryMap().constEnd()) {
+        return leaf->ptr();
+    }
+    const FEntryHolder* holder = this;
+    FEntryBase* group = nullptr;
+    for (const QString& part : path.split(QLatin1Char('|'))) {
+        group = holder ? entryOfPart(*holder, part) : nullptr;
+        holder = group;
+    }
+    return group;
+}
+
+void FDefinitionBase::warnUnknownEntry(const QString& path) const {
+    const QString hint = didYouMean(path, QStringList(getEntryMap().keys()));
+    FCmd::warnNow(getClass(), QStringLiteral("%1 has no entry \"%2\"%3").arg(getName(), path, hint));
+}

@@ -1,0 +1,132 @@
+#include "host/design/FEntry.h"
+
+#include "host/core/FHistory.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FEntryTree.h"
+#include "host/design/FEntryValue.h"
+#include "host/script/FCmd.h"
+
+#include <algorithm>
+
+FClassData FEntry::mClass("FEntry", &FEntryBase::mClass, nullptr, &FEntry::fields);
+
+FEntry::FEntry(const FExpr<FEntryDef>& definition, int index)
+    : FClass(definition->getName()), mDefinition(definition), mIndex(index) {}
+
+std::vector<std::unique_ptr<FStateField>> FEntry::fields() {
+    return FStateFields<FEntry>()
+        .member(&FEntry::mDefinition, [](FEntry&) { structureChanged(); })
+        .member(&FEntry::mIndex, [](FEntry&) { structureChanged(); })
+        .owned(&FEntry::mValue)
+        .take();
+}
+
+FEntry* FEntry::create(const QString& name, FEntryHolder* parent, bool initialize) {
+    const FEntryHolder* definitions = FEntryTree::definitionsOf(*parent);
+    const auto* definition = definitions ? static_cast<FEntryDef*>(definitions->findEntry(name)) : nullptr;
+    FHistoryTransaction transaction(QStringLiteral("create entry"));
+    auto* entry = definition ? new FEntry(FExpr<FEntryDef>(definition), FEntryTree::countOf(*parent, definition))
+                             : new FEntry(parent->freeEntryName(name, nullptr));
+    const FExpr<FEntryBase> handle(entry);
+    if (initialize && definition) {
+        FEntryTree().fill(*entry);
+    }
+    parent->addEntry(handle);
+    return entry;
+}
+
+void FEntry::setDefinition(const FExpr<FEntryDef>& definition) {
+    mDefinition = definition;
+    structureChanged();
+    setOutOfDate(true);
+    FHistory::instance()->addStep(this);
+}
+
+bool FEntry::isGroup() const {
+    return hasNestedEntries() || (mDefinition && mDefinition->isGroup());
+}
+
+QString FEntry::getPathPart() const {
+    const bool isIndexed = mDefinition && mDefinition->getMaxOccurrences() > 1;
+    return isIndexed ? getName() + QLatin1Char('[') + QString::number(mIndex) + QLatin1Char(']') : getName();
+}
+
+bool FEntry::setValue(const FExprBase& value) {
+    const FExprBase taken = entryValue(value);
+    mValue.unregisterClient(this);
+    if (!taken.registerClient(this)) {
+        mValue.restoreClient(this);
+        FCmd::warnNow(getClass(),
+                      QStringLiteral("entry \"%1\" would depend on itself if it were %2; its value stays %3")
+                          .arg(getFullName(), taken.toString(), mValue.toString()));
+        return false;
+    }
+    mValue = taken;
+    FHistory::instance()->addStep(this);
+    setOutOfDate(true);
+    return true;
+}
+
+void FEntry::setDefaultValue() {
+    setValue(mDefinition ? copyOfValue(mDefinition->getDefaultValue()) : FExprBase());
+}
+
+bool FEntry::hasDefaultValue() const {
+    return mValue.toHistoryString() == (mDefinition ? mDefinition->getDefaultValue() : FExprBase()).toHistoryString();
+}
+
+FObject* FEntry::getValueObject() const {
+    update();
+    return mResult.getObject();
+}
+
+bool FEntry::doUpdate() const {
+    mResult = entryValue(FExprBase(valueObject(mValue)));
+    return FEntryBase::doUpdate();
+}
+
+void FEntry::reassignEntryDefs() {
+    if (mDefinition) {
+        reassign(getEntries(), mDefinition->getEntries());
+    }
+}
+
+void FEntry::reassign(const QList<FExpr<FEntryBase>>& entries, const QList<FExpr<FEntryBase>>& definitions) {
+    for (const FExpr<FEntryBase>& handle : entries) {
+        auto* entry = static_cast<FEntry*>(handle.ptr());
+        if (!definitions.contains(FExpr<FEntryBase>(entry->getDefinition()))) {
+            const auto named = std::find_if(
+                definitions.begin(), definitions.end(),
+                [entry](const FExpr<FEntryBase>& definition) { return definition->getName() == entry->getName(); });
+            if (named == definitions.end()) {
+                continue;
+            }
+            entry->setDefinition(FExpr<FEntryDef>(*named));
+        }
+        if (entry->hasNestedEntries()) {
+            entry->reassignEntryDefs();
+        }
+    }
+}
+
+void FEntry::followName(const FEntryDef* definition) {
+    if (mDefinition.ptr() == definition && getName() != definition->getName()) {
+        rename(definition->getName());
+    }
+    for (const FExpr<FEntryBase>& entry : getEntries()) {
+        static_cast<FEntry*>(entry.ptr())->followName(definition);
+    }
+}
+
+FExpr<FEntryBase> FEntry::copy() const {
+    auto* entry = new FEntry(getName());
+    const FExpr<FEntryBase> handle(entry);
+    entry->mDefinition = mDefinition;
+    entry->mIndex = mIndex;
+    entry->setValue(copyOfValue(mValue));
+    for (const FExpr<FEntryBase>& nested : getEntries()) {
+        entry->addEntry(static_cast<const FEntry*>(nested.ptr())->copy());
+    }
+    return handle;
+}

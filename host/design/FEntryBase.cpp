@@ -1,0 +1,45 @@
+#include "host/design/FEntryBase.h"
+
+#include "host/core/FHistory.h"
+#include "host/design/FDefinitionBase.h"
+
+FClassData FEntryBase::mClass("FEntryBase", &FObject::mClass, nullptr, &FEntryBase::fields);
+
+std::vector<std::unique_ptr<FStateField>> FEntryBase::fields() {
+    using Entries = QList<FExpr<FEntryBase>> FEntryBase::*;
+    return FStateFields<FEntryBase>()
+        .member(&FEntryBase::mName, [](FEntryBase&) { structureChanged(); })
+        .member(static_cast<Entries>(&FEntryBase::mEntries), [](FEntryBase& group) { group.linkEntries(); })
+        .take();
+}
+
+QString FEntryBase::getFullName() const {
+    QString path = getPathPart();
+    for (const FEntryBase* group = getParent(); group; group = group->getParent()) {
+        path.prepend(group->getPathPart() + QLatin1Char('|'));
+    }
+    return path;
+}
+
+bool FEntryBase::isRecorded() const {
+    const FDefinitionBase* root = getRoot();
+    return root && root->isInModel();
+}
+
+FObject* FEntryBase::getWhole() const {
+    return getRoot();
+}
+
+void FEntryBase::rename(const QString& name) {
+    mName = name;
+    structureChanged();
+    setOutOfDate(true);
+    FHistory::instance()->addStep(this);
+}
+
+void FEntryBase::attach(FEntryHolder* holder) {
+    mpHolder = holder;
+    if (!hasKnownState()) {
+        rememberState();
+    }
+}

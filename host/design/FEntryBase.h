@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/core/FRecorded.h"
+#include "host/core/FStateField.h"
+#include "host/design/FEntryHolder.h"
+
+/**
+ * An entry: a named value, or a group of entries. In a definition it says what there is, in a configuration what it is
+ * worth. The history keeps each entry by itself, so that a step costs what it changes, however many there are.
+ */
+class FEntryBase : public FClass<FEntryBase, FRecorded>, public FEntryHolder {
+ public:
+    static FClassData mClass;
+
+    explicit FEntryBase(const QString& name = QString()) : mName(name) {}
+
+    const QString& getName() const { return mName; }
+    virtual QString getDisplayName() const { return mName; }
+    /** The entry's level of a path: its name, with an index where more than one occurrence is allowed. */
+    virtual QString getPathPart() const { return mName; }
+    /** The path of the entry: the levels from the outermost group on, joined by "|". */
+    QString getFullName() const;
+    virtual bool isGroup() const { return !getEntries().isEmpty(); }
+
+    /** What the entry stands in; null if it stands nowhere. */
+    FEntryHolder* getHolder() const { return mpHolder; }
+    /** The group that the entry stands in; null outside of groups. */
+    FEntryBase* getParent() const { return dynamic_cast<FEntryBase*>(mpHolder); }
+    FDefinitionBase* getRoot() const override { return mpHolder ? mpHolder->getRoot() : nullptr; }
+    int getLevel() const override { return mpHolder ? mpHolder->getLevel() + 1 : 1; }
+
+    bool isRecorded() const override;
+    QString toString() const override { return getFullName(); }
+
+ protected:
+    FObject* getWhole() const override;
+    /** Gives the name as it stands; its legality and uniqueness are the caller's matter. */
+    void rename(const QString& name);
+
+ private:
+    friend class FEntryHolder;
+
+    static std::vector<std::unique_ptr<FStateField>> fields();
+    const FRecorded* asRecorded() const override { return this; }
+    void attach(FEntryHolder* holder);
+
+    QString mName;
+    FEntryHolder* mpHolder = nullptr;
+};

@@ -1,0 +1,48 @@
+#include "host/design/FEntryValue.h"
+
+#include "host/core/FEnumBase.h"
+#include "host/core/FNull.h"
+#include "host/design/FParameter.h"
+#include "host/script/FCmd.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isInteger(const FObject* value) {
+    return dynamic_cast<const FInteger*>(value) && !dynamic_cast<const FEnumBase*>(value);
+}
+
+bool makesValue(const FObject* object) {
+    const auto* command = dynamic_cast<const FCmd*>(object);
+    const FCmdRow* row = command ? command->getRow() : nullptr;
+    return row && row->kind == FCmdRow::Kind::Global && row->isQuery() && !row->arguments.empty() &&
+           std::all_of(row->arguments.begin(), row->arguments.end(),
+                       [](const FCmdArgument& argument) { return argument.type.isKept; });
+}
+
+}  // namespace
+
+FExprBase entryValue(const FExprBase& given) {
+    const FExprBase value = makesValue(given.getStored()) ? FExprBase(given.getObject()) : given;
+    const FObject* stored = value.getStored();
+    if (stored == FNull::null()) {
+        return {};
+    }
+    return isInteger(stored) ? FExprBase(new FDouble(static_cast<const FInteger*>(stored)->toDouble())) : value;
+}
+
+FExprBase copyOfValue(const FExprBase& value) {
+    const FObject* stored = value.getStored();
+    const bool isPlain = stored && !stored->isCmd() && stored->getBlock()->kind == FObjectBlock::Kind::Plain;
+    const FExprBase copy(isPlain ? stored->clone() : nullptr);
+    return copy.isEmpty() ? value : copy;
+}
+
+const FObject* typeOfValue(const FExprBase& value) {
+    FExprBase source = value;
+    while (const auto* parameter = dynamic_cast<const FParameter*>(source.getStored())) {
+        source = parameter->getValue();
+    }
+    return source.getType();
+}

@@ -1,0 +1,106 @@
+#include "host/design/FGeometryExport.h"
+
+#include "host/core/FQuotedText.h"
+#include "host/script/FCmd.h"
+#include "host/script/FCmdTable.h"
+
+#include <QStringList>
+
+namespace {
+
+FExpr<FGeometryExport> makeExport(const FKeptExpression& fileName, const FKeptExpression& kind,
+                                  const FKeptExpression& source) {
+    const auto* name = dynamic_cast<const FString*>(valueObject(fileName.expression));
+    const auto* number = dynamic_cast<const FDouble*>(valueObject(kind.expression));
+    if (!name || !number || number->toInt() < 0 || number->toInt() > 2) {
+        FCmd::warnNow(FGeometryExport::mClass.getName(),
+                      QStringLiteral("an export has a file name, a kind from 0 to 2 and what it exports"));
+        return {};
+    }
+    const FExpr<FGeometryExport> made(
+        new FGeometryExport(name->getValue(), static_cast<FGeometryExport::Kind>(number->toInt())));
+    FObject* object = source.expression.getObject();
+    FObjectList* list = object ? object->castToObjectList() : nullptr;
+    if (list) {
+        made->setGeometryObjects(FExpr<FObjectList>(list));
+    } else if (object != FNull::null()) {
+        made->setFeatureDefinition(FExpr<FObject>(object));
+    }
+    return made;
+}
+
+void commands(FCmdTable& table) {
+    table.global("geometryExport", &makeExport, {"fileName", "kind=0", "source=NULL"}).query();
+}
+
+}  // namespace
+
+FClassData FGeometryExport::mClass("FGeometryExport", &FObject::mClass, &commands, &FGeometryExport::fields);
+
+FGeometryExport::FGeometryExport(const QString& fileName, Kind kind) : mFileName(fileName), mKind(kind) {}
+
+FGeometryExport::FGeometryExport(const FGeometryExport& other)
+    : FClass(other), mFileName(other.mFileName), mKind(other.mKind) {
+    for (const FExpr<FObject>& object : other.mObjects) {
+        mObjects.append(object);
+        object.registerClient(this);
+    }
+    setFeatureDefinition(other.mSource);
+}
+
+std::vector<std::unique_ptr<FStateField>> FGeometryExport::fields() {
+    return FStateFields<FGeometryExport>()
+        .member(&FGeometryExport::mFileName)
+        .member(&FGeometryExport::mKind)
+        .linked(&FGeometryExport::mObjects)
+        .linked(&FGeometryExport::mSource)
+        .take();
+}
+
+void FGeometryExport::setFileName(const QString& fileName) {
+    mFileName = fileName;
+    setOutOfDate(true);
+}
+
+void FGeometryExport::setKind(Kind kind) {
+    mKind = kind;
+    setOutOfDate(true);
+}
+
+void FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
+    for (const FExpr<FObject>& object : mObjects) {
+        object.unregisterClient(this);
+    }
+    mObjects.clear();
+    addGeometryObjects(objects);
+}
+
+void FGeometryExport::addGeometryObjects(const FExpr<FObjectList>& objects) {
+    for (const FExpr<FObject>& object : objects ? objects->getObjects() : std::vector<FExpr<FObject>>()) {
+        if (object && !mObjects.contains(object) && object.registerClient(this)) {
+            mObjects.append(object);
+        }
+    }
+    setOutOfDate(true);
+}
+
+void FGeometryExport::setFeatureDefinition(const FExpr<FObject>& feature) {
+    mSource.unregisterClient(this);
+    mSource = feature.registerClient(this) ? feature : FExpr<FObject>();
+    setOutOfDate(true);
+}
+
+QList<FExpr<FObject>> FGeometryExport::getExportedObjects() const {
+    return mKind == Kind::Geometry ? mObjects : QList<FExpr<FObject>>{mSource};
+}
+
+QString FGeometryExport::toExpressionString() const {
+    QStringList names;
+    for (const FExpr<FObject>& object : mObjects) {
+        names.append(object.toHistoryString());
+    }
+    const QString list = QLatin1Char('[') + names.join(QLatin1Char(',')) + QLatin1Char(']');
+    const QString source = mKind == Kind::Geometry ? list : mSource.toHistoryString();
+    return QStringLiteral("geometryExport(%1,%2,%3)")
+        .arg(quoteText(mFileName), QString::number(static_cast<int>(mKind)), source);
+}

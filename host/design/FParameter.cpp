@@ -1,0 +1,80 @@
+#include "host/design/FParameter.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/script/FCmd.h"
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+FExprBase givenValue(const FKeptExpression& given) {
+    return given.expression.getStored() == FNull::null() ? FExprBase() : given.expression;
+}
+
+void commands(FCmdTable& table) {
+    table.entityCreator("parameter",
+                        +[](const FNewName& name, const FKeptExpression& value) {
+                            return FParameter::create(name.scope, name.name, givenValue(value));
+                        },
+                        {"value=NULL"});
+    table
+        .attribute<FParameter>(
+            "setValue",
+            +[](FParameter& parameter, const FKeptExpression& value) {
+                return FExpr<FParameter>(parameter.setValue(givenValue(value)) ? &parameter : nullptr);
+            },
+            +[](const FParameter& parameter) { return FExpr<FObject>(parameter.getValue()); }, {"value"})
+        .attrName("Value")
+        .data();
+    table
+        .member<FParameter>(
+            "getValue", +[](const FParameter& parameter) { return FExpr<FObject>(parameter.getValueObject()); })
+        .query();
+}
+
+}  // namespace
+
+FClassData FParameter::mClass("FParameter", &FEntity::mClass, &commands, &FParameter::fields);
+
+FParameter::FParameter(const QString& name) : FClass(name) {
+    if (!isInitializingPrototype()) {
+        setUpdateOnDemand(false);
+    }
+}
+
+std::vector<std::unique_ptr<FStateField>> FParameter::fields() {
+    return FStateFields<FParameter>().linked(&FParameter::mValue).take();
+}
+
+FParameter* FParameter::create(const FExpr<FScope>& scope, const QString& name, const FExprBase& value) {
+    Q_UNUSED(scope)
+    auto* parameter = new FParameter(name);
+    parameter->registerObject();
+    parameter->setValue(value);
+    return parameter;
+}
+
+bool FParameter::setValue(const FExprBase& value) {
+    mValue.unregisterClient(this);
+    if (!value.registerClient(this)) {
+        mValue.restoreClient(this);
+        FCmd::warnNow(getClass(), QStringLiteral("%1 would depend on itself if it were %2; its value stays %3")
+                                      .arg(getName(), value.toString(), mValue.toString()));
+        return false;
+    }
+    mValue = value;
+    FHistory::instance()->addStep(this);
+    setOutOfDate(true);
+    return true;
+}
+
+FObject* FParameter::getValueObject() const {
+    update();
+    return mResult.getObject();
+}
+
+bool FParameter::doUpdate() const {
+    const FObject* object = mValue.getObject();
+    mResult = FExprBase(object ? object->getValueObject() : nullptr);
+    return FEntity::doUpdate();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/design/FFileReference.h"
+
+/** What kind of file a result file is. */
+enum class ResultsFileType : unsigned int {
+    Any = 0,
+    Text = 3,  //!< pure text
+};
+
+/** A file that a run leaves in the run directory. */
+class FResultsFileName : public FClass<FResultsFileName, FFileReference> {
+ public:
+    static FClassData mClass;
+
+    explicit FResultsFileName(const FExprBase& fileName = {}, ResultsFileType type = ResultsFileType::Any)
+        : FClass(fileName), mType(type) {}
+    FResultsFileName(const FResultsFileName& other) : FResultsFileName(other.getFileName(), other.mType) {}
+    FResultsFileName& operator=(const FResultsFileName&) = delete;
+    FObject* clone() const override { return new FResultsFileName(*this); }
+
+    ResultsFileType getType() const { return mType; }
+    void setType(ResultsFileType type) { mType = type; }
+
+    QString toExpressionString() const override;
+
+ private:
+    static std::vector<std::unique_ptr<FStateField>> fields();
+
+    ResultsFileType mType;
+};

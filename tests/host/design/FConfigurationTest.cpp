@@ -1,0 +1,199 @@
+#include "host/core/FHistory.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FInputFile.h"
+#include "host/design/FParameter.h"
+#include "tests/host/design/FEntryFixture.h"
+
+namespace {
+
+class FConfigurationTest : public FEntryFixture {};
+
+TEST_F(FConfigurationTest, valuesFollowTheirExpressions) {
+    ASSERT_TRUE(run("parameter p(3)\nconf.setEntryValue(\"Geometry|span\", 2*p)\nconf.setEntryValue(\"height\", p)"));
+    EXPECT_EQ(values(), (QStringList{"6", "3"}));
+    run("p.setValue(0.5)");
+    EXPECT_EQ(values(), (QStringList{"1", "0.5"}));
+    EXPECT_EQ(textOf("conf.getEntryValue(\"height\")*4"), "2");
+    run("conf.setEntryValue(\"height\", 7).setEntryValue(\"Geometry|span\", \"10m\")");
+    EXPECT_EQ(values(), (QStringList{"10m", "7"}));
+    EXPECT_EQ(evaluate("conf.getEntryValue(\"height\")").getObject()->getClass(), "FDouble");
+    run("conf.setEntryValue(\"height\", floor(7.5))");
+    EXPECT_EQ(evaluate("conf.getEntryValue(\"height\")").getObject()->getClass(), "FDouble");
+    run("conf.setEntryValue(\"height\", NULL)");
+    EXPECT_FALSE(evaluate("conf.getEntryValue(\"height\")").isValid());
+    EXPECT_EQ(log(), QStringList());
+}
+
+TEST_F(FConfigurationTest, anUnknownPathIsToldWithTheNearestOne) {
+    ASSERT_TRUE(
+        run("r = conf.setEntryValue(\"Geometry|spam\", 1)\nif (r != NULL) { exit(1) }\n"
+            "s = conf.getEntryValue(\"Height\")\nif (s != NULL) { exit(1) }"));
+    EXPECT_EQ(log(), (QStringList{"warning: test:1:10: conf has no entry \"Geometry|spam\" (did you mean "
+                                  "\"Geometry|span\"?) (result is NULL)",
+                                  "warning: test:3:10: conf has no entry \"Height\" (did you mean \"height\"?) "
+                                  "(result is NULL)"}));
+}
+
+TEST_F(FConfigurationTest, entriesCanDependOnTheirNeighbours) {
+    ASSERT_TRUE(
+        run("conf.setEntryValue(\"height\", 2*conf.getEntryValue(\"Geometry|span\"))\n"
+            "parameter p(conf.getEntryValue(\"height\")+1)\ndef.addEntry(\"third\", 0)\n"
+            "conf.setEntryValue(\"third\", p)"));
+    EXPECT_EQ(values(), (QStringList{"10", "20", "21"}));
+    run("conf.setEntryValue(\"Geometry|span\", 4)");
+    EXPECT_EQ(values(), (QStringList{"4", "8", "9"}));
+    // Each of these would close a cycle.
+    for (const char* expression : {"conf.getEntryValue(\"third\")", "p", "conf.getEntryValue(\"Geometry|span\")"}) {
+        ASSERT_TRUE(run(QStringLiteral("r = conf.setEntryValue(\"Geometry|span\", 1+%1)\nif (r != NULL) { exit(1) }")
+                            .arg(QString::fromLatin1(expression))));
+        EXPECT_TRUE(log().last().contains("entry \"Geometry|span\" would depend on itself")) << expression;
+    }
+    EXPECT_EQ(values(), (QStringList{"4", "8", "9"}));
+    // A path that is itself an expression is seen through only when it is evaluated.
+    run("parameter which(\"third\")\nconf.setEntryValue(\"Geometry|span\", conf.getEntryValue(which))");
+    EXPECT_EQ(values().front(), "nothing");
+    EXPECT_TRUE(logHolds("depends on the result itself"));
+    run("which.setValue(\"height\")\nconf.setEntryValue(\"height\", 5)");
+    EXPECT_EQ(values(), (QStringList{"5", "5", "6"}));
+}
+
+TEST_F(FConfigurationTest, aKeptQuestionFollowsTheStructure) {
+    run("parameter p(conf.getEntryValue(\"new\"))");
+    run("def.addEntry(\"new\", 8)");
+    EXPECT_EQ(textOf("p.getValue()"), "8");
+    run("def.renameEntry(\"new\", \"old\")");
+    EXPECT_FALSE(evaluate("p.getValue()").isValid());
+    run("undo()");
+    EXPECT_EQ(textOf("p.getValue()"), "8");
+    run("conf.setEntryValue(\"new\", 9)");
+    EXPECT_EQ(textOf("p.getValue()"), "9");
+    EXPECT_TRUE(evaluate("p").canSafelyBeUpdated(false));
+    run("conf.setEntryValue(\"new\", readText(\"nothing.txt\"))");
+    EXPECT_FALSE(evaluate("p").canSafelyBeUpdated(false));
+    EXPECT_TRUE(evaluate("p").canSafelyBeUpdated(true));
+}
+
+TEST_F(FConfigurationTest, aChangedEntryMarksTheConfiguration) {
+    configuration().setOutOfDate(false);
+    run("parameter p(1)");
+    EXPECT_FALSE(configuration().isOutOfDate());
+    run("conf.setEntryValue(\"height\", p)");
+    EXPECT_TRUE(configuration().isOutOfDate());
+    configuration().update();
+    run("p.setValue(2)");
+    EXPECT_TRUE(configuration().isOutOfDate());
+    configuration().update();
+    definition().setOutOfDate(true);
+    EXPECT_TRUE(configuration().isOutOfDate());
+}
+
+TEST_F(FConfigurationTest, reinitKeepsValuesUnlessItResets) {
+    run("conf.setEntryValue(\"height\", 41)\nconf.setEntryValue(\"Geometry|span\", 11)");
+    const QString before = savedModel();
+    configuration().reinit(false);
+    EXPECT_EQ(savedModel(), before);
+    run("def.addEntry(\"Geometry|new\", 1)\ndef.removeEntry(\"height\")");
+    EXPECT_EQ(values(), (QStringList{"1", "11"}));
+    FHistory::instance()->clear();
+    configuration().reinit(true);
+    EXPECT_EQ(values(), (QStringList{"1", "10"}));
+    run("undo()");
+    EXPECT_EQ(values(), (QStringList{"1", "11"}));
+    configuration().setDefinition({});
+    EXPECT_TRUE(paths().isEmpty());
+    configuration().setDefinition(FExpr<FDefinition>(&definition()));
+    EXPECT_EQ(values(), (QStringList{"1", "10"}));
+}
+
+TEST_F(FConfigurationTest, indicesStandOnlyWhereMoreThanOneIsAllowed) {
+    run("def.addEntry(\"Layer\", NULL, 3, 1)\ndef.addEntry(\"Layer|t\", 0.1, 2)");
+    EXPECT_EQ(paths(), (QStringList{"Geometry|span", "Layer[0]|t[0]", "Layer[0]|t[1]", "height"}));
+    // An occurrence that may exist is made when it gets a value.
+    run("conf.setEntryValue(\"Layer[2]|t[1]\", 0.5)");
+    EXPECT_EQ(paths().size(), 8);
+    EXPECT_EQ(values(), (QStringList{"10", "0.1", "0.1", "0.1", "0.1", "0.1", "0.5", "40"}));
+    for (const char* path : {"Layer[3]|t[0]", "Layer[-1]|t[0]", "Layer|t", "Layer[0]|t", "Layer[0]|t[2]", "Layer[0]",
+                             "Layer[1]|x", "height[0]"}) {
+        run(QStringLiteral("conf.setEntryValue(\"%1\", 1)").arg(QString::fromLatin1(path)));
+        EXPECT_TRUE(log().last().contains("has no entry")) << path;
+    }
+    EXPECT_EQ(paths().size(), 8);
+    configuration().reinit(false);
+    EXPECT_EQ(paths().size(), 8);
+    const QString saved = savedModel();
+    reload();
+    EXPECT_EQ(savedModel().toStdString(), saved.toStdString());
+    EXPECT_EQ(paths().size(), 8);
+    configuration().reinit(true);
+    EXPECT_EQ(paths().size(), 4);
+}
+
+TEST_F(FConfigurationTest, countsCannotFillTheMemory) {
+    run("def.addEntry(\"a\", NULL, 1000)\ndef.addEntry(\"a|b\", NULL, 1000)\ndef.addEntry(\"a|b|c\", 1, 1000)");
+    EXPECT_TRUE(logHolds("would make more than 100000 entries"));
+    EXPECT_LE(paths().size(), 100'002);
+}
+
+TEST_F(FConfigurationTest, aValueChangedInPlaceIsUndone) {
+    run("def.addEntry(\"mesh\", inputFile(\"a.dat\"))");
+    FEntry* entry = configuration().getValueEntry("mesh");
+    FHistory::instance()->clear();
+    const QString before = savedModel();
+    dynamic_cast<FInputFile*>(entry->getValueObject())->setSaveDirectory(FExprBase(new FString("sub")));
+    FHistory::instance()->addStep(entry);
+    EXPECT_TRUE(savedModel().contains(".setEntryValue(\"mesh\",inputFile(\"a.dat\",\"sub\"));"));
+    EXPECT_FALSE(definition().furtherSavedCommands().join(' ').contains("sub"));
+    run("undo()");
+    EXPECT_EQ(savedModel(), before);
+    // Two entries never share a value that can be changed.
+    run("def.addEntry(\"mesh2\", NULL, 1, 1, false, \"\", \"FInputFile\")\n"
+        "conf.setEntryValue(\"mesh2\", conf.getEntryValue(\"mesh\"))\nv = conf.getEntryValue(\"mesh\")\n"
+        "conf.setEntryValue(\"mesh2\", v)");
+    EXPECT_NE(configuration().getValueEntry("mesh2")->getValueObject(), entry->getValueObject());
+}
+
+TEST_F(FConfigurationTest, aFileNameFollowsItsExpression) {
+    run("parameter dir(\"runs\")\nparameter name(\"m.dat\")\ndef.addEntry(\"mesh\", inputFile(\"a/b.dat\"))\n"
+        "conf.setEntryValue(\"mesh\", inputFile(dir+\"/\"+name, dir))");
+    const FEntry* entry = configuration().getValueEntry("mesh");
+    const auto* file = dynamic_cast<FInputFile*>(entry->getValue().getStored());
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->getFileNameText(), "runs/m.dat");
+    EXPECT_EQ(file->toPlainString(), "runs/m.dat");
+    EXPECT_EQ(file->toString(), "dir+\"/\"+name");
+    run("name.setValue(\"x\\y.dat\")\ndir.setValue(\"s/\")");
+    EXPECT_EQ(file->toPlainString(), "s/y.dat");
+    auto* dir = dynamic_cast<FParameter*>(evaluate("dir").getObject());
+    EXPECT_TRUE(entry->dependsOn(dir));
+    EXPECT_FALSE(dir->setValue(FExprBase(entry)));
+    EXPECT_EQ(configuration().getEntry(FInputFile::null(), true).size(), 1);
+    run("conf.setEntryValue(\"mesh\", inputFile(readText(\"x\")))");
+    EXPECT_FALSE(configuration().getValueEntry("mesh")->getValue().canSafelyBeUpdated(false));
+}
+
+TEST_F(FConfigurationTest, aCopyHasValuesOfItsOwn) {
+    run("parameter p(3)\ndef.addEntry(\"Layer\", NULL, 2)\ndef.addEntry(\"Layer|t\", 1)\n"
+        "conf.setEntryValue(\"height\", 2*p)\nconf.setEntryValue(\"Layer[1]|t\", 5)");
+    FNotingConfiguration copy("copy");
+    copy.init(&configuration());
+    EXPECT_EQ(copy.furtherSavedCommands(), configuration().furtherSavedCommands());
+    EXPECT_EQ(copy.getEntryMap().keys(), paths());
+    copy.setEntryValue("Layer[1]|t", FExprBase(new FDouble(6)));
+    EXPECT_EQ(values(), (QStringList{"10", "1", "5", "6"}));
+    run("p.setValue(4)");
+    EXPECT_EQ(copy.getValueEntry("height")->getValueObject()->toString(), "8");
+}
+
+TEST_F(FConfigurationTest, anEntryCanBeCreatedByName) {
+    run("def.addEntry(\"Layer\", NULL, 3, 1)\ndef.addEntry(\"Layer|t\", 7)");
+    FEntry* layer = FEntry::create("Layer", &configuration(), true);
+    EXPECT_EQ(layer->getFullName(), "Layer[1]");
+    EXPECT_EQ(values(), (QStringList{"10", "7", "7", "40"}));
+    FEntry* unknown = FEntry::create("height", layer, true);
+    EXPECT_EQ(unknown->getFullName(), "Layer[1]|height");
+    EXPECT_FALSE(unknown->getDefinition());
+    configuration().reinit(false);
+    EXPECT_EQ(values(), (QStringList{"10", "7", "7", "40"}));
+}
+
+}  // namespace

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/core/FNumber.h"
+#include "host/core/FString.h"
+#include "host/design/FConfiguration.h"
+#include "tests/support/FModelTest.h"
+
+/** A definition that notes which names in tags it was told of, as "old -> new". */
+class FNotingDefinition : public FClass<FNotingDefinition, FDefinition> {
+ public:
+    static FClassData mClass;
+
+    explicit FNotingDefinition(const QString& name = QString()) : FClass(name) {}
+    void updateCommandFiles(const QString& oldName, const QString& newName) override;
+
+    QStringList mRenames;
+};
+
+class FNotingConfiguration : public FClass<FNotingConfiguration, FConfiguration> {
+ public:
+    static FClassData mClass;
+
+    explicit FNotingConfiguration(const QString& name = QString()) : FClass(name) {}
+    using FConfiguration::init;
+};
+
+/** A definition `def` with the entries `height` (40) and `Geometry|span` (10), and a configuration `conf` of it. */
+class FEntryFixture : public FModelTest {
+ public:
+    FEntryFixture();
+
+    FNotingDefinition& definition() const;
+    FNotingConfiguration& configuration() const;
+    QStringList paths() const { return configuration().getEntryMap().keys(); }
+    /** The values of all entries in the order of their paths. */
+    QStringList values() const;
+    /** Saves the model, clears it, and reads it again. */
+    void reload();
+};

@@ -1,0 +1,72 @@
+#include "host/lodm/FConfigurationCustomBase.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/design/FGeometryExport.h"
+#include "host/design/FInputFile.h"
+#include "host/lodm/FRunFolderFile.h"
+#include "host/run/FPathManager.h"
+
+#include <QTextStream>
+
+FClassData FConfigurationCustomBase::mClass("FConfigurationCustomBase", &FConfiguration::mClass);
+
+namespace {
+
+/** What an entry brings into the run directory failed. */
+bool report(const FConfiguration& configuration, const FEntry& entry, const QString& reason) {
+    FLogMsg::error(configuration.getName(), QStringLiteral("entry \"%1\": %2").arg(entry.getFullName(), reason),
+                   QStringLiteral("the input of the run isn't complete"));
+    return false;
+}
+
+QByteArray savedText(const FGeometryExport& geometry) {
+    QString text;
+    QTextStream stream(&text);
+    for (const FExpr<FObject>& object : geometry.getExportedObjects()) {
+        if (const auto* managed = dynamic_cast<const FManaged*>(object.getObject())) {
+            managed->saveScopeManner(stream, 0, false, false);
+        }
+    }
+    stream.flush();
+    return text.toUtf8();
+}
+
+/** Carries `bring` out for each entry with a value of class T, up to the first that gives a reason for failing. */
+template <class T, class Bring>
+bool bringAll(const FConfiguration& configuration, Bring bring) {
+    for (const FExpr<FEntryBase>& handle : configuration.getEntryMap()) {
+        const auto* entry = static_cast<const FEntry*>(handle.ptr());
+        const auto* value = dynamic_cast<const T*>(entry->getValueObject());
+        const QString reason = value ? bring(*value) : QString();
+        if (!reason.isEmpty()) {
+            return report(configuration, *entry, reason);
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+QList<FExpr<FResultsFileName>> FConfigurationCustomBase::getResultsFileNames() const {
+    QList<FExpr<FResultsFileName>> names;
+    for (const FExpr<FEntry>& entry : getEntry(FResultsFileName::null(), true)) {
+        const FExpr<FResultsFileName> name(entry->getValueObject());
+        if (name) {
+            names.append(name);
+        }
+    }
+    return names;
+}
+
+bool FConfigurationCustomBase::copyInputFiles(const QString& folder) const {
+    return bringAll<FInputFile>(*this, [&folder](const FInputFile& file) {
+        return FRunFolderFile(folder, file.toPlainString()).copyFrom(file.getFileNameText());
+    });
+}
+
+bool FConfigurationCustomBase::doExports() const {
+    const QString folder = FPathManager::instance()->getInputDir({}, {});
+    return bringAll<FGeometryExport>(*this, [&folder](const FGeometryExport& geometry) {
+        return FRunFolderFile(folder, geometry.getFileName()).write(savedText(geometry));
+    });
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "host/design/FConfiguration.h"
+#include "host/design/FResultsFileName.h"
+
+/** A configuration whose entries can name files of a run. */
+class FConfigurationCustomBase : public FClass<FConfigurationCustomBase, FConfiguration> {
+ public:
+    static FClassData mClass;
+
+    explicit FConfigurationCustomBase(const QString& name = QString()) : FClass(name) {}
+
+    /** The values of the entries that name files which a run leaves. */
+    QList<FExpr<FResultsFileName>> getResultsFileNames() const;
+    /**
+     * Copies the files of the entries that are input files into a folder, each in one step. A relative name is one
+     * relative to the project's file, or to the current folder if there is none. Stops, with false and a message, at
+     * the first file that has no name, can't be read, or would lie outside the folder.
+     */
+    bool copyInputFiles(const QString& folder) const;
+    /**
+     * Writes what the entries export into the folder of the run in progress, as script text. False, with a message, at
+     * the first one that can't be written.
+     */
+    bool doExports() const;
+
+ protected:
+    using FConfiguration::init;
+};

@@ -1,0 +1,3 @@
+#include "host/lodm/FDefinitionCustom.h"
+
+FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/**
+ * A file that is put into the folder of a run: beside its place first, then in one step, with the folders that it
+ * needs. Operations return what went wrong, for the user; empty if nothing did.
+ */
+class FRunFolderFile {
+ public:
+    /** The name is relative to the folder; one that leads out of it is refused. */
+    FRunFolderFile(const QString& folder, const QString& name);
+
+    /** Copies a file, with its permissions. A relative name is relative to the project's file. */
+    QString copyFrom(const QString& source) const;
+    QString write(const QByteArray& bytes) const;
+
+ private:
+    QString prepare() const;
+
+    QString mName;
+    QString mPath;
+};

@@ -1,14 +1,15 @@
 // What a run needs, in load order.
 
 #include "genericintegration/io/FGenIntReader.h"
+#include "genericintegration/io/FGenIntWriter.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FInitPrototype.h"
 
 namespace {
 
-const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntReader, FGenIntCommandFile,
-                      FGenIntFile, FGenIntResultsFile>
+const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntReader, FGenIntWriter,
+                      FGenIntCommandFile, FGenIntFile, FGenIntResultsFile>
     types;
 
 }  // namespace

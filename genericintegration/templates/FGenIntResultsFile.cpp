@@ -1,6 +1,11 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
 
 #include "host/core/FHistory.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FQuotedText.h"
+#include "host/core/FViewCtrl.h"
+#include "host/design/FConnectorInterface.h"
+#include "host/design/FParameter.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -197,5 +202,33 @@ void FGenIntResultsFile::setSpaceSeparator(bool space) {
 }
 
 FGenIntFile* FGenIntResultsFile::setFileName(const QString& fileName) {
-    return FGenIntFile::setFileName(fileName);
+    FGenIntFile::setFileName(fileName);
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(QStringLiteral("FSoftwareConnector"))) {
+        connector->refreshEditors(this);
+    }
+    return this;
+}
+
+FExpr<FParameter> FGenIntResultsFile::createParam(const QString& valueName, const QString& ownerName,
+                                                  bool highlight) const {
+    if (!getValue(valueName)) {
+        return {};
+    }
+    FExpr<FObject> number;
+    number.resolve(ownerName + QStringLiteral(".getResults().getTable(") + quoteText(getFileName()) +
+                   QStringLiteral(").getElementAt(") + quoteText(valueName) + QStringLiteral(")"));
+    if (number.isEmpty()) {
+        return {};
+    }
+    const QString name = QStringLiteral("eval_") + valueName;
+    FHistory::instance()->startTransaction(QStringLiteral("create evaluation: ") + name);
+    const FExpr<FParameter> parameter(
+        FParameter::create(FObjectManager::instance()->getWorkingScope(), name, FExprBase()));
+    parameter->setUpdateOnDemand(true);
+    parameter->setValue(number);
+    FHistory::instance()->commit(1);
+    if (highlight) {
+        FObjectTree::highlight({parameter});
+    }
+    return parameter;
 }

@@ -1,0 +1,147 @@
+#include "genericintegration/io/FGenIntWriter.h"
+
+#include "genericintegration/io/FTemplateSubstitution.h"
+#include "genericintegration/io/FUtf8Output.h"
+#include "genericintegration/io/FValueTable.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FTemplateOwner.h"
+#include "genericintegration/templates/FTemplateTags.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FString.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FDefinition.h"
+#include "host/design/FEntry.h"
+#include "host/run/FPathManager.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegExp>
+
+FClassData FGenIntWriter::mClass("FGenIntWriter", &FObject::mClass);
+
+namespace {
+
+QString source() {
+    return QStringLiteral("Generic Integration Writer");
+}
+
+int lastSeparator(const QString& path) {
+    return path.lastIndexOf(QRegExp(QStringLiteral("/|\\\\")));
+}
+
+bool openForWriting(QFile& file, const QString& name) {
+    if (FPathManager::leadsOut(name)) {
+        FLogMsg::info(source(), QStringLiteral("\"%1\" leads out of the run directory").arg(name),
+                      QStringLiteral("give the template a file name below it"));
+        return false;
+    }
+    QDir().mkpath(file.fileName().left(lastSeparator(file.fileName())));
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+}
+
+/** Files that values name reach the disk now. */
+void updateFileNames(const FConfiguration& configuration) {
+    for (const auto& row : configuration.getEntryMap()) {
+        const auto* entry = dynamic_cast<const FEntry*>(row.getObject());
+        const FObject* value = entry ? entry->getValue().getObject() : nullptr;
+        if (value && value->getPrototype() == FFileName::null()) {
+            value->update();
+        }
+    }
+}
+
+}  // namespace
+
+FGenIntWriter* FGenIntWriter::instance() {
+    static auto* writer = new FGenIntWriter;
+    return writer;
+}
+
+FTemplateOwner* FGenIntWriter::definitionOf(const FExpr<FConfiguration>& configuration) const {
+    const QString consequence = QStringLiteral("Exporting command files aborted");
+    if (!configuration) {
+        FLogMsg::info(getClass(), QStringLiteral("No configuration found"), consequence);
+        return nullptr;
+    }
+    auto* definition = dynamic_cast<FTemplateOwner*>(configuration->getDefinition().getObject());
+    if (!definition) {
+        FLogMsg::info(getClass(), QStringLiteral("No definition found"), consequence);
+    }
+    return definition;
+}
+
+bool FGenIntWriter::exportCommandFiles(const FExpr<FConfiguration>& configuration, const QString& directory) {
+    const FTemplateOwner* definition = definitionOf(configuration);
+    if (!definition) {
+        return false;
+    }
+    configuration->update();
+    const FValueTable table(*configuration.ptr(), *definition, FValueTable::Use::Export);
+    const QList<FExpr<FGenIntFile>> files = definition->getFiles();
+    for (const FExpr<FGenIntFile>& file : files) {
+        const bool isInput = dynamic_cast<const FGenIntCommandFile*>(file.ptr()) != nullptr;
+        if (isInput && !exportFile(*file.ptr(), directory, table, configuration)) {
+            return false;
+        }
+    }
+    updateFileNames(*configuration.ptr());
+    return true;
+}
+
+bool FGenIntWriter::exportFile(const FGenIntFile& file, const QString& directory, const FValueTable& table,
+                               const FExpr<FConfiguration>& configuration) const {
+    QFile device(directory + file.getFileName());
+    bool written = openForWriting(device, file.getFileName());
+    if (written) {
+        FUtf8Output output(device);
+        writeTemplate([&output](QStringView piece) { output.write(piece); }, file.getPlainContent(), table,
+                      configuration, file.getForceWindowsLineEndings());
+        written = output.finish();
+    }
+    if (!written) {
+        FLogMsg::info(source(),
+                      QStringLiteral("Could not open file ") + device.fileName() + QStringLiteral(" for writing."),
+                      QStringLiteral("Writing process aborted."));
+    }
+    return written;
+}
+
+bool FGenIntWriter::previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts) {
+    const FTemplateOwner* definition = definitionOf(configuration);
+    if (!definition) {
+        return false;
+    }
+    const FValueTable table(*configuration.ptr(), *definition, FValueTable::Use::Preview);
+    const QList<FExpr<FGenIntFile>> files = definition->getFiles();
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (const auto* input = dynamic_cast<const FGenIntCommandFile*>(file.ptr())) {
+            QString text;
+            writeTemplate([&text](QStringView piece) { text.append(piece); }, input->getPlainContent(), table,
+                          configuration, false);
+            texts.insert(input->getFileName(), text);
+        }
+    }
+    return true;
+}
+
+void FGenIntWriter::getTagNames(const FExpr<FGenIntFile>& file, QStringList& names) {
+    if (file) {
+        names += FTemplateTags::tagNames(file->getPlainContent());
+    }
+}
+
+void FGenIntWriter::writeTemplate(const Output& output, const QString& text, const FValueTable& table,
+                                  const FExpr<FConfiguration>& configuration, bool forceWindowsLineEndings) const {
+    FTemplateSubstitution substitution(
+        table.getKeys(), [&table](int row) { return table.textOf(row); }, output);
+    substitution.setForceWindowsLineEndings(forceWindowsLineEndings);
+    substitution.setObserver([&configuration](const FTagReport& report) {
+        if (report.outcome == FTagOutcome::Unknown) {
+            FLogMsg::info(source(),
+                          QStringLiteral("Entry ") + report.name + QStringLiteral(" is not part of configuration ") +
+                              configuration->getName(),
+                          QStringLiteral("Entry skipped"));
+        }
+    });
+    substitution.run(text);
+}

@@ -1,0 +1,159 @@
+#include "genericintegration/io/FGenIntWriter.h"
+
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "genericintegration/templates/FTemplateOwner.h"
+#include "host/core/FInitPrototype.h"
+#include "host/core/FObjectManager.h"
+#include "host/lodm/FConfigurationCustom.h"
+#include "host/lodm/FDefinitionCustom.h"
+#include "tests/support/FModelTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+/** A definition that holds templates and nothing else. */
+class FTemplateDefinition : public FClass<FTemplateDefinition, FDefinitionCustom>, public FTemplateOwner {
+ public:
+    static FClassData mClass;
+    explicit FTemplateDefinition(const QString& name = QString()) : FClass(name) {}
+    const QList<FExpr<FGenIntFile>>& getFiles() const override { return mFiles; }
+    int getOutputPrecision() const override { return 6; }
+    void updateCommandFiles(const QString&, const QString&) override {}
+    QList<FExpr<FGenIntFile>> mFiles;
+};
+
+FClassData FTemplateDefinition::mClass("FTemplateDefinition", &FDefinitionCustom::mClass);
+const FInitPrototypes<FTemplateDefinition> types;
+
+class FGenIntWriterTest : public FModelTest {
+ protected:
+    FGenIntWriterTest() {
+        definition->registerObject();
+        configuration->registerObject();
+        configuration->setDefinition(FExpr<FDefinition>(definition));
+    }
+    FGenIntCommandFile* add(const QString& fileName, const QString& content) {
+        FGenIntCommandFile* file = FGenIntCommandFile::create(QString());
+        file->setFileName(fileName);
+        file->setContent(content);
+        definition->mFiles.append(FExpr<FGenIntFile>(file));
+        return file;
+    }
+    bool write() const {
+        return FGenIntWriter::instance()->exportCommandFiles(FExpr<FConfiguration>(configuration), folder.path() + "/");
+    }
+    QByteArray written(const QString& name) const {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+    QMap<QString, QString> preview() const {
+        QMap<QString, QString> texts;
+        EXPECT_TRUE(FGenIntWriter::instance()->previewCommandFiles(FExpr<FConfiguration>(configuration), texts));
+        return texts;
+    }
+
+    QTemporaryDir folder;
+    FTemplateDefinition* definition = new FTemplateDefinition("def");
+    FConfigurationCustom* configuration = new FConfigurationCustom("conf");
+};
+
+TEST_F(FGenIntWriterTest, valuesReplaceTagsWhateverTheirKind) {
+    run("parameter p(4)\ndef.addEntry(\"Wing|span\", 10)\ndef.addEntry(\"name\", \"a \\\\ <entry>name</entry>\")\n"
+        "def.addEntry(\"on\", true)\nconf.setEntryValue(\"Wing|span\", 2*p+0.5)");
+    add("sub/in.dat", "s=<ENTRY>wing|SPAN</Entry>\r\nn=<entry>name</entry> o=<entry>on</entry> x=<entry>none</entry>.");
+    add("tail.dat", "a<entry>b");
+    ASSERT_TRUE(write()) << log().join('\n').toStdString();
+    EXPECT_EQ(written("sub/in.dat"), "s=8.5\r\nn=a \\ <entry>name</entry> o=true x=.");
+    EXPECT_EQ(written("tail.dat"), "a");
+    EXPECT_EQ(log(),
+              QStringList{"Generic Integration Writer: Entry none is not part of configuration conf (Entry skipped)"});
+    run("p.setValue(6)");
+    ASSERT_TRUE(write());
+    EXPECT_TRUE(written("sub/in.dat").startsWith("s=12.5\r\n"));
+}
+
+TEST_F(FGenIntWriterTest, filesAreNamedDifferentlyInExportAndPreview) {
+    add("run.dat", "");
+    add("out[1].txt", "<entry>Exports|run.dat</entry>,<entry>run.dat</entry>,<entry>exports|OUT</entry>");
+    ASSERT_TRUE(write());
+    EXPECT_EQ(written("out[1].txt"), "run.dat,,out[1].txt");
+    // Without its first eight characters, the name of the file is empty.
+    EXPECT_EQ(preview().value("out[1].txt"), ",,");
+    EXPECT_EQ(preview().keys(), (QStringList{"out[1].txt", "run.dat"}));
+}
+
+TEST_F(FGenIntWriterTest, forcedLineEndsConcernTheTemplateInExportsOnly) {
+    run("def.addEntry(\"lines\", \"1\n2\")");
+    add("in.dat", "a\n<entry>lines</entry>\r\n")->setForceWindowsLineEndings(true);
+    ASSERT_TRUE(write());
+    EXPECT_EQ(written("in.dat"), "a\r\n1\n2\r\r\n");
+    EXPECT_EQ(preview().value("in.dat"), "a\n1\n2\r\n");
+}
+
+TEST_F(FGenIntWriterTest, aPreviewShowsWhatCantBeEvaluatedNowAsItsExpression) {
+    run("def.addEntry(\"text\", \"\")\nconf.setEntryValue(\"text\", readText(\"C:\\temp\"))");
+    add("in.dat", "<entry>text</entry>");
+    EXPECT_EQ(preview().value("in.dat"), "readText(\"C://temp\")");
+}
+
+TEST_F(FGenIntWriterTest, textEndsAtItsFirstNulAndIsUtf8) {
+    add("in.dat", QString::fromUtf8("äöü€𝄞") + QChar(0) + "lost");
+    ASSERT_TRUE(write());
+    EXPECT_EQ(written("in.dat"), "äöü€𝄞");
+}
+
+TEST_F(FGenIntWriterTest, aFileThatCantBeOpenedEndsTheExport) {
+    add("first.dat", "1");
+    QDir(folder.path()).mkpath("blocked.dat");
+    add("blocked.dat", "2");
+    add("last.dat", "3");
+    EXPECT_FALSE(write());
+    EXPECT_EQ(log(), QStringList{"Generic Integration Writer: Could not open file " + folder.filePath("blocked.dat") +
+                                 " for writing. (Writing process aborted.)"});
+    EXPECT_EQ(written("first.dat"), "1");
+    EXPECT_FALSE(QFile::exists(folder.filePath("last.dat")));
+}
+
+TEST_F(FGenIntWriterTest, nothingIsWrittenOutsideTheDirectory) {
+    for (const char* name : {"../out.dat", "a/../../out.dat", "a\\..\\..\\out.dat"}) {
+        definition->mFiles.clear();
+        add(name, "x");
+        EXPECT_FALSE(write()) << name;
+        EXPECT_TRUE(logHolds("leads out of the run directory")) << name;
+        EXPECT_FALSE(QFile::exists(folder.path() + "/../out.dat"));
+    }
+    definition->mFiles.clear();
+    add("a/../in.dat", "x");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(written("in.dat"), "x");
+}
+
+TEST_F(FGenIntWriterTest, missingObjectsAreTold) {
+    QMap<QString, QString> texts;
+    EXPECT_FALSE(FGenIntWriter::instance()->exportCommandFiles({}, folder.path() + "/"));
+    EXPECT_TRUE(logHolds("FGenIntWriter: No configuration found (Exporting command files aborted)"));
+    configuration->setDefinition({});
+    EXPECT_FALSE(FGenIntWriter::instance()->previewCommandFiles(FExpr<FConfiguration>(configuration), texts));
+    EXPECT_TRUE(logHolds("FGenIntWriter: No definition found (Exporting command files aborted)"));
+}
+
+TEST_F(FGenIntWriterTest, resultTemplatesAndEmptyHandlesArentWritten) {
+    FGenIntResultsFile* results = FGenIntResultsFile::create("res");
+    results->setFileName("res.dat");
+    results->setContent("sample");
+    definition->mFiles = {FExpr<FGenIntFile>(), FExpr<FGenIntFile>(results)};
+    add("in.dat", "<entry>Exports|res.dat</entry>");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(written("in.dat"), "res.dat");
+    EXPECT_FALSE(QFile::exists(folder.filePath("res.dat")));
+    QStringList names;
+    FGenIntWriter::instance()->getTagNames(definition->mFiles.last(), names);
+    EXPECT_EQ(names, QStringList{"Exports|res.dat"});
+}
+
+}  // namespace

@@ -79,6 +79,11 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     /** Reads the present files again, with the present set-up; runs nothing. False, with a message, without files. */
     bool rereadResults();
     virtual bool isGeneric() const { return false; }
+    /** Name of the result file that an entry of that path holds; empty if there is none. */
+    virtual QString getResultFile(const QString& entry) const {
+        Q_UNUSED(entry)
+        return {};
+    }
 
  protected:
     void init(const FExternComputation* other);

@@ -1,7 +1,9 @@
 #include "host/run/FResultsGeneric.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FPathManager.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -10,6 +12,7 @@ void commands(FCmdTable& table) {
     using F = FResultsGeneric;
     table.member<F>("getTable", &F::getData, {"name"}).readsFiles();
     table.member<F>("getTableNames", &F::getTableNames).readsFiles();
+    table.member<F>("getResultFileName", &F::getResultFileName, {"entry"}).query();
 }
 
 }  // namespace
@@ -35,6 +38,7 @@ bool FResultsGeneric::prepareResults() const {
     if (mFilesRead || mDetached) {
         return true;
     }
+    const FHistoryBlocker blocker;
     auto* self = const_cast<FResultsGeneric*>(this);
     mReading = true;
     destroyChildrenOf(this);
@@ -90,6 +94,17 @@ QStringList FResultsGeneric::getTableNames() const {
         names.append(table->getName());
     }
     return names;
+}
+
+QString FResultsGeneric::getResultFileName(const QString& entry) const {
+    const FExpr<FExternComputation> computation = getComputation();
+    QString name = computation ? computation->getResultFile(entry) : QString();
+    for (const FExpr<FResultsFileName>& file : mResultFiles) {
+        if (name.isEmpty() && file && file->getFileNameText() == entry) {
+            name = entry;
+        }
+    }
+    return name.isEmpty() || FPathManager::leadsOut(name) ? QString() : getResultPath() + name;
 }
 
 const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {

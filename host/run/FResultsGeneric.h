@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/design/FResultsFileName.h"
 #include "host/run/FComputationResults.h"
 #include "host/run/FTableData.h"
 
@@ -32,6 +33,12 @@ class FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
     /** The first table of that name; an empty handle if there is none. */
     virtual FExpr<FTableData> getData(const QString& name);
     QStringList getTableNames() const;
+
+    /** The files that entries of the configuration name as results. */
+    void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
+    const QList<FExpr<FResultsFileName>>& getResultFiles() const { return mResultFiles; }
+    /** Path of one of these files, given by its entry's path or its name; empty if there is none. */
+    QString getResultFileName(const QString& entry) const;
     /** What file imports have brought, by the name of the value. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const;
 
@@ -52,6 +59,7 @@ class FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
     void warnOfFailedRun() const;
 
     QList<FExpr<FTableData>> mTables;
+    QList<FExpr<FResultsFileName>> mResultFiles;
     mutable bool mFilesRead = false;
     mutable bool mReading = false;
     mutable bool mWarned = false;

@@ -10,7 +10,7 @@ using State = FRunRecord::State;
 
 namespace {
 
-constexpr int errorLines = 5;
+constexpr int mostLines = 5;
 
 Cause causeOf(FProcessOutcome::Cause cause) {
     switch (cause) {
@@ -86,12 +86,21 @@ void FRun::takeOutcome(const FProcessOutcome& outcome) {
     mRecord->exitCode = outcome.exitCode;
     mRecord->signal = outcome.signal;
     mRecord->message = outcome.message;
-    const QString& errorFile = mProcess.setup().standardErrorFile;
-    if (!errorFile.isEmpty() && outcome.start.isValid()) {
-        mRecord->errorOutput = fileTail(QDir(mRecord->folder).filePath(errorFile), errorLines);
-    }
     findMissingFiles();
+    if (mRecord->cause != Cause::None && outcome.start.isValid()) {
+        keepLastLines();
+    }
     conclude();
+}
+
+// Not every program uses its error output for errors.
+void FRun::keepLastLines() {
+    for (const QString& file : {mProcess.setup().standardErrorFile, mProcess.setup().standardOutputFile}) {
+        if (mRecord->lastLines.isEmpty() && !file.isEmpty()) {
+            mRecord->lastLines = fileTail(QDir(mRecord->folder).filePath(file), mostLines);
+            mRecord->lastLinesFile = file;
+        }
+    }
 }
 
 void FRun::findMissingFiles() {

@@ -38,6 +38,7 @@ class FRun : public QObject {
  private:
     void takeOutcome(const FProcessOutcome& outcome);
     void findMissingFiles();
+    void keepLastLines();
     void conclude();
 
     std::shared_ptr<FRunRecord> mRecord;

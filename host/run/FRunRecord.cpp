@@ -25,10 +25,10 @@ QString FRunRecord::failureText() const {
         return {};
     }
     QString text = message;
-    if (!errorOutput.isEmpty()) {
-        QString lines = errorOutput;
+    if (!lastLines.isEmpty()) {
+        QString lines = lastLines;
         lines.replace(QLatin1Char('\n'), QStringLiteral("\n    "));
-        text += QStringLiteral("\nThe last lines of its error output:\n    ") + lines;
+        text += QStringLiteral("\nThe last lines of %1:\n    ").arg(lastLinesFile) + lines;
     }
     return text + QStringLiteral("\nFolder of the run: ") + folder;
 }

@@ -37,8 +37,9 @@ struct FRunRecord {
     double timeLimit = 0;  //!< seconds; 0 is none
     QDateTime start;       //!< of the program; invalid if it wasn't started
     QDateTime end;
-    int exitCode = -1;    //!< -1 if there is none
-    int signal = 0;       //!< 0 if no signal ended the program
-    QString message;      //!< what happened, where, what to do
-    QString errorOutput;  //!< the last lines of it
+    int exitCode = -1;      //!< -1 if there is none
+    int signal = 0;         //!< 0 if no signal ended the program
+    QString message;        //!< what happened, where, what to do
+    QString lastLines;      //!< the last lines of what the program printed, if it went wrong
+    QString lastLinesFile;  //!< the file that they stand in
 };

@@ -1,8 +1,10 @@
 #include "host/core/FInitPrototype.h"
-#include "host/lodm/FConfigurationCustom.h"
+#include "host/lodm/FCustomComputation.h"
 
 namespace {
 
-const FInitPrototypes<FDefinitionCustomBase, FDefinitionCustom, FConfigurationCustomBase, FConfigurationCustom> types;
+const FInitPrototypes<FDefinitionCustomBase, FDefinitionCustom, FConfigurationCustomBase, FConfigurationCustom,
+                      FCustomComputation>
+    types;
 
 }  // namespace

@@ -1,0 +1,100 @@
+#include "host/lodm/FCustomComputation.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/lodm/FRunFolderFile.h"
+#include "host/run/FPathManager.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+void commands(FCmdTable& table) {
+    using F = FCustomComputation;
+    table.member<F>("getResults", &F::getResults).query();
+    table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
+        .attrName("Configuration")
+        .data();
+    table.attribute<F>("setCmdFile", &F::setCmdFile, &F::getCmdFile, {"fileName"}).attrName("Command File").data();
+}
+
+}  // namespace
+
+FClassData FCustomComputation::mClass("FCustomComputation", &FExternComputation::mClass, &commands,
+                                      &FCustomComputation::fields);
+
+std::vector<std::unique_ptr<FStateField>> FCustomComputation::fields() {
+    return FStateFields<FCustomComputation>()
+        .linked(&FCustomComputation::mConfiguration)
+        .member(&FCustomComputation::mCmdFile)
+        .take();
+}
+
+void FCustomComputation::init(const FCustomComputation* other) {
+    if (other) {
+        FExternComputation::init(other);
+        setConfiguration(other->mConfiguration);
+        mCmdFile = other->mCmdFile;
+    }
+}
+
+void FCustomComputation::setConfiguration(const FExpr<FConfigurationCustom>& configuration) {
+    mConfiguration.unregisterClient(this);
+    mConfiguration = configuration;
+    mConfiguration.registerClient(this, false);
+    setOutOfDate(true);
+}
+
+void FCustomComputation::setCmdFile(const QString& fileName) {
+    mCmdFile = fileName;
+    setOutOfDate(true);
+}
+
+QString FCustomComputation::getResultFile(const QString& path) const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    const FEntry* entry = configuration ? configuration->getValueEntry(path) : nullptr;
+    const auto* file = dynamic_cast<const FResultsFileName*>(entry ? entry->getValueObject() : nullptr);
+    return file ? file->getFileNameText() : QString();
+}
+
+bool FCustomComputation::copyInputFiles(const QString& folder) const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    return !configuration || configuration->copyInputFiles(folder);
+}
+
+bool FCustomComputation::doExports() const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    return !configuration || configuration->doExports();
+}
+
+bool FCustomComputation::writeOutputFile() const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    if (!configuration || mCmdFile.isEmpty()) {
+        return true;
+    }
+    QString text;
+    const QMap<QString, FExpr<FEntryBase>>& entries = configuration->getEntryMap();
+    for (auto row = entries.begin(); row != entries.end(); ++row) {
+        const auto* value = dynamic_cast<const FBasicType*>(row.value()->getValueObject());
+        text += row.key() + QStringLiteral(" = ") + (value ? value->toPlainString() : QString()) + QLatin1Char('\n');
+    }
+    const QString reason = FRunFolderFile(FPathManager::instance()->getInputDir({}, {}), mCmdFile).write(text.toUtf8());
+    if (!reason.isEmpty()) {
+        FLogMsg::error(getName(), QStringLiteral("The command file can't be written: ") + reason);
+    }
+    return reason.isEmpty();
+}
+
+void FCustomComputation::finalizeRun() const {
+    FExternComputation::finalizeRun();
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    auto* results = dynamic_cast<FResultsGeneric*>(getCurrentResults().ptr());
+    if (configuration && results) {
+        results->setResultFiles(configuration->getResultsFileNames());
+    }
+}
+
+QStringList FCustomComputation::getReadFiles() const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
+    return definition ? definition->getRunFiles().read : QStringList();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/lodm/FConfigurationCustom.h"
+#include "host/run/FExternComputation.h"
+
+/** A computation whose input comes from a configuration: base of those that plug-ins bring. */
+class FCustomComputation : public FClass<FCustomComputation, FExternComputation> {
+ public:
+    static FClassData mClass;
+
+    explicit FCustomComputation(const QString& name = QString()) : FClass(name) {}
+
+    const FExpr<FConfigurationCustom>& getConfiguration() const { return mConfiguration; }
+    /** The computation depends on it from now on. */
+    void setConfiguration(const FExpr<FConfigurationCustom>& configuration);
+    /** A file in the folder of the run that gets a line "path = value" for each entry; empty for none. */
+    const QString& getCmdFile() const { return mCmdFile; }
+    void setCmdFile(const QString& fileName);
+
+    QString getResultFile(const QString& entry) const override;
+
+ protected:
+    using FExternComputation::init;
+    void init(const FCustomComputation* other);
+
+    bool copyInputFiles(const QString& folder) const override;
+    bool doExports() const override;
+    bool writeOutputFile() const override;
+    void finalizeRun() const override;
+    QStringList getReadFiles() const override;
+
+    FExpr<FConfigurationCustom> mConfiguration;
+
+ private:
+    static std::vector<std::unique_ptr<FStateField>> fields();
+
+    QString mCmdFile;
+};

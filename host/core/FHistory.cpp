@@ -1,5 +1,6 @@
 #include "host/core/FHistory.h"
 
+#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
@@ -67,7 +68,7 @@ void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {
     FState now = FState::capture(object);
     const auto& fields = object.getClassData().getFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (!fields[i]->equal(change.before.values[i], now.values[i])) {
+        if (change.whole || !fields[i]->equal(change.before.values[i], now.values[i])) {
             size += fields[i]->size(change.before.values[i]) + fields[i]->size(now.values[i]);
             change.fields.push_back({i, std::move(change.before.values[i]), now.values[i]});
         }
@@ -101,10 +102,13 @@ void FHistory::addStep(const FRecorded* object) {
     }
 }
 
-void FHistory::touch(FRecorded* object) {
+void FHistory::touch(FRecorded* object, bool whole) {
     if (!mTouched.contains(object) && object->mpKnownState) {
-        mTouched.insert(object);
+        mTouched.insert(object, mOpen.objects.size());
         mOpen.objects.push_back({FExprBase(object), object, *object->mpKnownState, {}});
+    }
+    if (whole && mTouched.contains(object)) {
+        mOpen.objects[mTouched.value(object)].whole = true;
     }
 }
 
@@ -122,7 +126,8 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
     for (FObject* client : clients) {
         auto* recorded = dynamic_cast<FRecorded*>(client);
         if (recorded && recorded->isRecorded()) {
-            touch(recorded);
+            // It may drop its dead handle only after the step, and has to get it back all the same.
+            touch(recorded, true);
         }
     }
     mOpen.model.push_back({FExprBase(object), object, false});

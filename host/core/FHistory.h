@@ -2,7 +2,7 @@
 
 #include "host/core/FManaged.h"
 
-#include <QSet>
+#include <QHash>
 #include <QString>
 
 #include <deque>
@@ -62,6 +62,7 @@ class FHistory {
         FRecorded* recorded;
         FState before;  // all fields while the transaction is open
         std::vector<FieldChange> fields;
+        bool whole = false;  // fields that are the same at the end are restored, too
     };
     struct Transaction {
         QString label;
@@ -72,7 +73,7 @@ class FHistory {
     };
 
     bool isRecording() const { return !mReplaying && mBlockers == 0; }
-    void touch(FRecorded* object);
+    void touch(FRecorded* object, bool whole = false);
     void close();
     static void forgetChangesOfNew(Transaction& step);
     static void keepDifference(ObjectChange& change, std::size_t& size);
@@ -83,7 +84,7 @@ class FHistory {
     int mBlockers = 0;
     bool mReplaying = false;
     Transaction mOpen;
-    QSet<const FRecorded*> mTouched;  // the objects of mOpen
+    QHash<const FRecorded*, std::size_t> mTouched;  // the objects of mOpen, by their places
     std::deque<Transaction> mDone;
     std::vector<Transaction> mUndone;
     std::size_t mSize = 0;

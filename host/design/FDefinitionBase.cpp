@@ -11,9 +11,10 @@ namespace {
 
 void collect(const FEntryHolder& holder, const QString& front, QMap<QString, FExpr<FEntryBase>>& map) {
     for (const FExpr<FEntryBase>& entry : holder.getEntries()) {
-        const QString path = front + entry->getPathPart();
-        if (entry->isGroup()) {
-            collect(*entry.ptr(), path + QLatin1Char('|'), map);
+        const FEntryBase& object = *FEntryBase::of(entry);
+        const QString path = front + object.getPathPart();
+        if (object.isGroup()) {
+            collect(object, path + QLatin1Char('|'), map);
         } else if (!map.contains(path)) {
             map.insert(path, entry);
         }
@@ -22,9 +23,10 @@ void collect(const FEntryHolder& holder, const QString& front, QMap<QString, FEx
 
 FEntryBase* entryOfPart(const FEntryHolder& holder, const QString& part) {
     const auto& entries = holder.getEntries();
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&part](const FExpr<FEntryBase>& entry) { return entry->getPathPart() == part; });
-    return found == entries.end() ? nullptr : found->ptr();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&part](const FExpr<FEntryBase>& entry) {
+        return FEntryBase::of(entry)->getPathPart() == part;
+    });
+    return found == entries.end() ? nullptr : FEntryBase::of(*found);
 }
 
 }  // namespace
@@ -46,10 +48,6 @@ const QMap<QString, FExpr<FEntryBase>>& FDefinitionBase::getEntryMap() const {
 }
 
 FEntryBase* FDefinitionBase::getEntryOfScope(const QString& path) const {
-    const auto leaf = getEntryMap().constFind(path);
-    if (leaf != getEntryMap().constEnd()) {
-        return leaf->ptr();
-    }
     const FEntryHolder* holder = this;
     FEntryBase* group = nullptr;
     for (const QString& part : path.split(QLatin1Char('|'))) {

@@ -44,11 +44,13 @@ void FEntry::setDefinition(const FExpr<FEntryDef>& definition) {
 }
 
 bool FEntry::isGroup() const {
-    return hasNestedEntries() || (mDefinition && mDefinition->isGroup());
+    const FEntryDef* definition = mDefinition.ptr();
+    return hasNestedEntries() || (definition && definition->isGroup());
 }
 
 QString FEntry::getPathPart() const {
-    const bool isIndexed = mDefinition && mDefinition->getMaxOccurrences() > 1;
+    const FEntryDef* definition = mDefinition.ptr();
+    const bool isIndexed = definition && definition->getMaxOccurrences() > 1;
     return isIndexed ? getName() + QLatin1Char('[') + QString::number(mIndex) + QLatin1Char(']') : getName();
 }
 

@@ -22,6 +22,9 @@ class FEntryBase : public FClass<FEntryBase, FRecorded>, public FEntryHolder {
     QString getFullName() const;
     virtual bool isGroup() const { return !getEntries().isEmpty(); }
 
+    /** The entry of a handle in a holder's list, which is always there: without the checks of a handle. */
+    static FEntryBase* of(const FExpr<FEntryBase>& handle) { return static_cast<FEntryBase*>(handle.getStored()); }
+
     /** What the entry stands in; null if it stands nowhere. */
     FEntryHolder* getHolder() const { return mpHolder; }
     /** The group that the entry stands in; null outside of groups. */

@@ -17,15 +17,16 @@ FEntryHolder::~FEntryHolder() {
 }
 
 FEntryBase* FEntryHolder::findEntry(const QString& name) const {
-    const auto found = std::find_if(mEntries.begin(), mEntries.end(),
-                                    [&name](const FExpr<FEntryBase>& entry) { return entry->getName() == name; });
-    return found == mEntries.end() ? nullptr : found->ptr();
+    const auto found = std::find_if(mEntries.begin(), mEntries.end(), [&name](const FExpr<FEntryBase>& entry) {
+        return FEntryBase::of(entry)->getName() == name;
+    });
+    return found == mEntries.end() ? nullptr : FEntryBase::of(*found);
 }
 
 QString FEntryHolder::freeEntryName(const QString& name, const FEntryBase* self) const {
     return uniqueName(legalEntryName(name), [this, self](const QString& candidate) {
         return std::any_of(mEntries.begin(), mEntries.end(), [&](const FExpr<FEntryBase>& entry) {
-            return entry.ptr() != self && entry->getName() == candidate;
+            return FEntryBase::of(entry) != self && FEntryBase::of(entry)->getName() == candidate;
         });
     });
 }

@@ -13,11 +13,11 @@
 namespace {
 
 FEntry* asEntry(const FExpr<FEntryBase>& entry) {
-    return static_cast<FEntry*>(entry.ptr());
+    return static_cast<FEntry*>(FEntryBase::of(entry));
 }
 
 FEntryDef* asDefinition(const FExpr<FEntryBase>& entry) {
-    return static_cast<FEntryDef*>(entry.ptr());
+    return static_cast<FEntryDef*>(FEntryBase::of(entry));
 }
 
 /** An optional entry is there, too: what isn't wanted can be left without a value. */

@@ -60,7 +60,7 @@ TEST_F(FDefinitionTest, whatCannotBeAddedIsRefusedWithItsPlaceAndChangesNothing)
 }
 
 TEST_F(FDefinitionTest, everyCommandIsUndoable) {
-    run("notingConfiguration other() { .setDefinition(def) .setEntryValue(\"Geometry|span\", 11) }\nparameter p(2)");
+    run("notingConfiguration other() { .setDefinition(def); .setEntryValue(\"Geometry|span\", 11) }\nparameter p(2)");
     expectUndoable(
         {"def.addEntry(\"x\", 1)", "def.addEntry(\"A|B|c\", \"text\", 3)", "conf.setEntryValue(\"A|B|c[1]\", p+1)",
          "def.addEntry(\"A|B|d\", NULL, 1, 0, true, \"a \\\"b\\\"\", \"FString\")", "def.addEntry(\"Layer\", NULL, 2)",

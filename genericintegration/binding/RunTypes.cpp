@@ -2,6 +2,8 @@
 
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FGenIntWriter.h"
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FInitPrototype.h"
@@ -9,7 +11,7 @@
 namespace {
 
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntReader, FGenIntWriter,
-                      FGenIntCommandFile, FGenIntFile, FGenIntResultsFile>
+                      FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FConfigurationGenInt, FDefinitionGenInt>
     types;
 
 }  // namespace

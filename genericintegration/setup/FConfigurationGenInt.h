@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/lodm/FConfigurationCustom.h"
+
+class FDefinitionGenInt;
+
+/** The current values of the entries of one integration. */
+class FConfigurationGenInt : public FClass<FConfigurationGenInt, FConfigurationCustom> {
+ public:
+    static FClassData mClass;
+
+    /** The definition may be null. @param initialize  whether the entries are made at once */
+    static FConfigurationGenInt* create(const FExpr<FScope>& scope, const QString& name, bool initialize,
+                                        const FDefinitionGenInt* definition);
+    /** A copy with values of its own; the caller brings it into the model. */
+    FObject* clone() const override;
+
+    void init() override {}
+    virtual void init(const FConfigurationGenInt* other);
+    bool isGenInt() const override { return true; }
+    QMap<QString, QString> getPreview() override;
+
+    /**
+     * After the entry definitions were rebuilt: an entry whose own is gone takes the first of the same name, or keeps
+     * the old one.
+     */
+    void reassignEntryDefs();
+
+ protected:
+    explicit FConfigurationGenInt(const QString& name = QString(), const FDefinitionGenInt* definition = nullptr);
+
+ private:
+    friend class FClass<FConfigurationGenInt, FConfigurationCustom>;
+};

@@ -1,0 +1,343 @@
+#include "genericintegration/setup/FDefinitionGenInt.h"
+
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FTemplateTags.h"
+#include "host/core/FHistory.h"
+#include "host/core/FIO.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FModel.h"
+#include "host/design/FConnectorInterface.h"
+#include "host/design/FEntryDef.h"
+#include "host/script/FCmdTable.h"
+
+#include <algorithm>
+
+namespace {
+
+using Files = QList<FExpr<FGenIntFile>>;
+
+/** Files that are gone can't be saved. */
+Files liveFiles(const FDefinitionGenInt& definition) {
+    Files live = definition.getFiles();
+    live.erase(std::remove_if(live.begin(), live.end(), [](const FExpr<FGenIntFile>& file) { return !file; }),
+               live.end());
+    return live;
+}
+
+void commands(FCmdTable& table) {
+    using F = FDefinitionGenInt;
+    table.entityCreator(
+        "genericIntegrationDefinition", +[](const FNewName& name) { return F::create(name.scope, name.name, {}); });
+    table.attribute<F>("setFiles", &F::setFiles, &liveFiles, {"files"})
+        .attrName("Template Files")
+        .readOnly()
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table.attribute<F>("setCurFile", &F::setCurFile, &F::getCurFile, {"currentFile"})
+        .attrName("Current File")
+        .readOnly()
+        .systemFlag(2)
+        .hidden()
+        .data();
+    table.attribute<F>("setLastFile", &F::setLastFile, &F::getLastFile, {"lastFile"})
+        .attrName("Last File")
+        .readOnly()
+        .systemFlag(2)
+        .hidden()
+        .data();
+}
+
+constexpr unsigned int shownInDefinitions = 1;
+
+bool isCommandFile(const FExpr<FGenIntFile>& file) {
+    const FGenIntFile* object = file.ptr();
+    return object && object->isTypeOf(FGenIntCommandFile::null());
+}
+
+QStringList fileNames(const Files& files) {
+    QStringList names;
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (file) {
+            names.append(file->getFileName());
+        }
+    }
+    return names;
+}
+
+/** Removes all handles on the first object of the list that is gone; returns how many. */
+template <class IsGone>
+int dropFirstGone(Files& files, FExpr<FGenIntFile>& gone, IsGone isGone) {
+    const auto found = std::find_if(files.begin(), files.end(), isGone);
+    if (found == files.end()) {
+        return 0;
+    }
+    gone = *found;
+    return files.removeAll(gone);
+}
+
+}  // namespace
+
+FClassData FDefinitionGenInt::mClass("FDefinitionGenInt", &FDefinitionCustom::mClass, &commands,
+                                     &FDefinitionGenInt::fields, shownInDefinitions);
+
+std::vector<std::unique_ptr<FStateField>> FDefinitionGenInt::fields() {
+    using F = FDefinitionGenInt;
+    return FStateFields<F>()
+        .member(&F::mOutputPrecision)
+        .linked(&F::mFiles)
+        .member(&F::mCurFile)
+        .member(&F::mLastFile)
+        .member(&F::mCommandFiles)
+        .member(&F::mResultsFiles)
+        .take();
+}
+
+FDefinitionGenInt* FDefinitionGenInt::create(const FExpr<FScope>& scope, const QString& name,
+                                             const FExpr<FParser>& parser) {
+    Q_UNUSED(scope)
+    Q_UNUSED(parser)
+    auto* definition = new FDefinitionGenInt(name);
+    definition->registerObject();
+    return definition;
+}
+
+FObject* FDefinitionGenInt::clone() const {
+    FDefinitionGenInt* copy = create({}, getName(), {});
+    copy->init(this);
+    return copy;
+}
+
+void FDefinitionGenInt::init(const FDefinitionGenInt* other) {
+    if (other) {
+        FDefinitionCustom::init(other);
+    }
+}
+
+void FDefinitionGenInt::filesChanged() {
+    setOutOfDate(true);
+    FHistory::instance()->addStep(this);
+}
+
+void FDefinitionGenInt::addFile(const FExpr<FGenIntFile>& file) {
+    if (!file) {
+        return;
+    }
+    mFiles.append(file);
+    mFiles.last().registerClient(this, false);
+    (isCommandFile(file) ? mCommandFiles : mResultsFiles).append(file);
+    filesChanged();
+}
+
+void FDefinitionGenInt::removeFile(const FExpr<FGenIntFile>& file) {
+    for (int count = mFiles.removeAll(file); count > 0; --count) {
+        file.unregisterClient(this);
+    }
+    mCommandFiles.removeAll(file);
+    mResultsFiles.removeAll(file);
+    filesChanged();
+}
+
+void FDefinitionGenInt::deleteFile(FExpr<FGenIntFile> file) {
+    if (!file) {
+        return;
+    }
+    const int answer =
+        FIO::question(nullptr, FMerixCtrl::getApplicationTitle(),
+                      QStringLiteral("Delete template file ") + file->getName() + QStringLiteral(" permanently?"),
+                      QStringLiteral("Yes"), QStringLiteral("Cancel"), QString(), 0, -1, nullptr, QString());
+    if (answer != 0) {
+        return;
+    }
+    FHistoryTransaction transaction(QStringLiteral("delete template file"));
+    removeFile(file);
+    FManaged::destroy(file.ptr(), true);
+}
+
+void FDefinitionGenInt::setFiles(const Files& files) {
+    for (const FExpr<FGenIntFile>& file : mFiles) {
+        file.unregisterClient(this);
+    }
+    mFiles.clear();
+    mCommandFiles.clear();
+    mResultsFiles.clear();
+    for (const FExpr<FGenIntFile>& file : files) {
+        addFile(file);
+    }
+    filesChanged();
+}
+
+FExpr<FGenIntFile> FDefinitionGenInt::getFile(const QString& fileName) const {
+    const auto found = std::find_if(mFiles.begin(), mFiles.end(), [&fileName](const FExpr<FGenIntFile>& file) {
+        return file && file->getFileName() == fileName;
+    });
+    return fileName.isEmpty() || found == mFiles.end() ? FExpr<FGenIntFile>() : *found;
+}
+
+const Files& FDefinitionGenInt::getFiles() const {
+    clearFileStorages();
+    return mFiles;
+}
+
+const Files& FDefinitionGenInt::getFiles(unsigned int kind) const {
+    clearFileStorages();
+    return kind == 0 ? mCommandFiles : mResultsFiles;
+}
+
+// Each list is walked to its first hit only, so several files that went away go one at a time.
+void FDefinitionGenInt::clearFileStorages() const {
+    const auto isDead = [](const FExpr<FGenIntFile>& file) { return !file.ptr(); };
+    FExpr<FGenIntFile> gone;
+    int count =
+        dropFirstGone(mFiles, gone, [](const FExpr<FGenIntFile>& file) { return !FObject::exists(file.ptr()); });
+    for (; count > 0; --count) {
+        gone.unregisterClient(this);
+    }
+    dropFirstGone(mCommandFiles, gone, isDead);
+    dropFirstGone(mResultsFiles, gone, isDead);
+}
+
+FRunFiles FDefinitionGenInt::getRunFiles() const {
+    return {fileNames(mCommandFiles), fileNames(mResultsFiles)};
+}
+
+void FDefinitionGenInt::setCurFile(const FExpr<FGenIntFile>& file) {
+    mCurFile = file;
+    FHistory::instance()->addStep(this);
+}
+
+void FDefinitionGenInt::setLastFile(const FExpr<FGenIntFile>& file) {
+    mLastFile = file;
+    FHistory::instance()->addStep(this);
+}
+
+bool FDefinitionGenInt::isCurCommandFile() const {
+    return isCommandFile(mCurFile);
+}
+
+void FDefinitionGenInt::addEntry(const FExpr<FEntryBase>& entry) {
+    if (!entry || getEntries().contains(entry)) {
+        return;
+    }
+    FDefinitionBase::addEntry(entry);
+    reinitConfigurations(false);
+}
+
+bool FDefinitionGenInt::removeEntry(const FExpr<FEntryBase>& entry) {
+    if (!entry || !FDefinitionCustom::removeEntry(entry)) {
+        return false;
+    }
+    if (!FMerixCtrl::instance()->isLoadingProject()) {
+        removeEntryFromCommandFiles(entry);
+    }
+    return true;
+}
+
+bool FDefinitionGenInt::findAndRemoveEntry(const FExpr<FEntryBase>& entry) {
+    if (removeEntry(entry)) {
+        return true;
+    }
+    // Taken before, since an entry that stands nowhere has a path of its name alone.
+    const QString path = entry ? entry->getFullName() : QString();
+    const QList<FExpr<FEntryBase>> groups = getEntries();
+    const bool found = std::any_of(groups.begin(), groups.end(), [&entry](const FExpr<FEntryBase>& group) {
+        return group->findAndRemoveEntry(entry);
+    });
+    if (found) {
+        putInPlaceOfTags(path, entry);
+        reinitConfigurations(false);
+    }
+    return found;
+}
+
+QList<FConfigurationGenInt*> FDefinitionGenInt::ownConfigurations() const {
+    QList<FConfigurationGenInt*> own;
+    for (FManaged* entity : FModel::instance()->getEntities(FConfigurationGenInt::null())) {
+        auto* configuration = static_cast<FConfigurationGenInt*>(entity);
+        if (configuration->getDefinition().ptr() == this) {
+            own.append(configuration);
+        }
+    }
+    return own;
+}
+
+void FDefinitionGenInt::reinitConfigurations(bool reset) {
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return;
+    }
+    for (FConfigurationGenInt* configuration : ownConfigurations()) {
+        configuration->reinit(reset);
+    }
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return;
+    }
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(this)) {
+        connector->asManaged()->setOutOfDate(true);
+    }
+}
+
+void FDefinitionGenInt::updateCommandFiles(const QString& oldName, const QString& newName) {
+    const QList<FConnectorInterface*> connectors = FConnectorInterface::getConnectors(this);
+    const Files files = mCommandFiles;
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (auto* commandFile = dynamic_cast<FGenIntCommandFile*>(file.ptr())) {
+            commandFile->updateFile(oldName, newName);
+        }
+    }
+    for (FConnectorInterface* connector : connectors) {
+        connector->refreshCommandFileEditors();
+    }
+}
+
+bool FDefinitionGenInt::commandFileReferencesEntry(const FExpr<FEntryBase>& entry) const {
+    const auto* definition = dynamic_cast<const FEntryDef*>(entry.ptr());
+    return definition && std::any_of(mCommandFiles.begin(), mCommandFiles.end(), [&](const FExpr<FGenIntFile>& file) {
+               return file && FTemplateTags::containsTag(file->getPlainContent(), definition->getFullName());
+           });
+}
+
+void FDefinitionGenInt::removeEntryFromCommandFiles(const FExpr<FEntryBase>& entry) {
+    if (entry) {
+        putInPlaceOfTags(entry->getFullName(), entry);
+    }
+}
+
+void FDefinitionGenInt::putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry) {
+    const auto* definition = dynamic_cast<const FEntryDef*>(entry.ptr());
+    const FExpr<FBasicType> value(definition ? definition->getDefaultValue() : FExprBase());
+    if (!value) {
+        return;
+    }
+    const QString text = value->toString();
+    const Files files = mCommandFiles;
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (file) {
+            file->setContent(FTemplateTags::replaceTag(file->getPlainContent(), path, text));
+        }
+    }
+}
+
+void FDefinitionGenInt::reassignEntryDefs() {
+    for (FConfigurationGenInt* configuration : ownConfigurations()) {
+        configuration->reassignEntryDefs();
+    }
+}
+
+void FDefinitionGenInt::setInProject(bool inProject) {
+    FManaged::setInProject(inProject);
+    for (const FExpr<FGenIntFile>& file : mFiles) {
+        if (file) {
+            file->setInProject(inProject);
+        }
+    }
+}
+
+void FDefinitionGenInt::setInUserConfig(bool inUserConfig) {
+    FManaged::setInUserConfig(inUserConfig);
+    for (const FExpr<FGenIntFile>& file : isDefault() ? Files() : mFiles) {
+        if (file) {
+            file->setInUserConfig(inUserConfig);
+        }
+    }
+}

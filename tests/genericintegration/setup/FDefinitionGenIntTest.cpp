@@ -1,0 +1,247 @@
+#include "genericintegration/setup/FDefinitionGenInt.h"
+
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FHistory.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FUserInterface.h"
+#include "host/design/FEntryDef.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FMemberCmd.h"
+#include "tests/genericintegration/setup/FFakeConnector.h"
+#include "tests/support/FModelTest.h"
+
+namespace {
+
+using File = FExpr<FGenIntFile>;
+
+class FDefinitionGenIntTest : public FModelTest {
+ protected:
+    FDefinitionGenIntTest() {
+        in->setFileName("in.dat");
+        out->setFileName("out.dat");
+        definition->setFiles({File(in), File(out)});
+        FHistory::instance()->clear();
+    }
+    FExpr<FEntryBase> entry(const QString& path) const { return FExpr<FEntryBase>(definition->getEntryOfScope(path)); }
+    QStringList names(const QList<File>& files) const {
+        QStringList texts;
+        for (const File& file : files) {
+            texts.append(file.toString());
+        }
+        return texts;
+    }
+
+    FDefinitionGenInt* definition = FDefinitionGenInt::create({}, "d", {});
+    FGenIntCommandFile* in = FGenIntCommandFile::create("in");
+    FGenIntResultsFile* out = FGenIntResultsFile::create("out");
+};
+
+TEST_F(FDefinitionGenIntTest, listsAreTypedAndKeepTheOrderOfAdding) {
+    auto* more = FGenIntCommandFile::create("more");
+    more->setFileName("in.dat");
+    definition->addFile(File(more));
+    definition->addFile(File(in));
+    definition->addFile({});
+    EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out", "more", "in"}));
+    EXPECT_EQ(names(definition->getFiles(0)), (QStringList{"in", "more", "in"}));
+    EXPECT_EQ(names(definition->getFiles(5)), QStringList{"out"});
+    EXPECT_EQ(definition->getFile("in.dat"), File(in));
+    EXPECT_FALSE(definition->getFile("IN.dat"));
+    in->setFileName("");
+    EXPECT_FALSE(definition->getFile(""));
+    EXPECT_EQ(definition->getRunFiles().written, (QStringList{"", "in.dat", ""}));
+    EXPECT_EQ(definition->getRunFiles().read, QStringList{"out.dat"});
+    definition->removeFile(File(in));
+    EXPECT_EQ(names(definition->getFiles()), (QStringList{"out", "more"}));
+    EXPECT_EQ(names(definition->getCommandFiles()), QStringList{"more"});
+    EXPECT_FALSE(definition->dependsOn(in));
+    EXPECT_FALSE(definition->isCurCommandFile());
+    definition->setCurFile(File(more));
+    EXPECT_TRUE(definition->isCurCommandFile());
+    EXPECT_EQ(definition->getOutputPrecision(), 6);
+}
+
+TEST_F(FDefinitionGenIntTest, itHearsOfEachOfItsFiles) {
+    for (FGenIntFile* file : {static_cast<FGenIntFile*>(in), static_cast<FGenIntFile*>(out)}) {
+        definition->setOutOfDate(false);
+        file->setContent("x");
+        EXPECT_TRUE(definition->isOutOfDate());
+    }
+    definition->setFiles({File(out)});
+    definition->setOutOfDate(false);
+    in->setContent("y");
+    EXPECT_FALSE(definition->isOutOfDate());
+    // The links follow the list that undo brings back.
+    run("d.setFiles([in])\nundo()");
+    definition->setOutOfDate(false);
+    in->setContent("y");
+    EXPECT_FALSE(definition->isOutOfDate());
+    out->setContent("y");
+    EXPECT_TRUE(definition->isOutOfDate());
+}
+
+TEST_F(FDefinitionGenIntTest, destroyedFilesLeaveTheListsOneAReading) {
+    auto* more = FGenIntResultsFile::create("more");
+    definition->addFile(File(more));
+    FManaged::destroy(in);
+    FManaged::destroy(more);
+    EXPECT_EQ(definition->getFiles().size(), 2);
+    EXPECT_EQ(definition->getCommandFiles().size(), 0);
+    EXPECT_EQ(definition->getResultsFiles().size(), 1);
+    EXPECT_EQ(names(definition->getFiles()), QStringList{"out"});
+}
+
+TEST_F(FDefinitionGenIntTest, deletingAFileAsksFirst) {
+    struct Answer : FUserInterface {
+        int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override {
+            asked = QStringList{title, text} + buttons + QStringList{QString::number(defaultButton)};
+            return answer;
+        }
+        QStringList asked;
+        int answer = 1;
+    } userInterface;
+    FUserInterface::replace(&userInterface);
+    definition->deleteFile(File(in));
+    EXPECT_EQ(userInterface.asked,
+              (QStringList{"merix", "Delete template file in permanently?", "Yes", "Cancel", "0"}));
+    EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out"}));
+    const QString before = savedModel();
+    userInterface.answer = 0;
+    definition->deleteFile(File(in));
+    FUserInterface::replace(nullptr);
+    EXPECT_EQ(names(definition->getFiles()), QStringList{"out"});
+    EXPECT_FALSE(FObject::exists(in));
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    EXPECT_FALSE(FHistory::instance()->undo());
+}
+
+TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
+    run("d.addEntry(\"x\", 1.5)\nd.addEntry(\"G|x\", 2)\nd.addEntry(\"G|H|t\", \"text\")\nd.addEntry(\"none\", NULL, "
+        "1, 1, "
+        "false, \"\", \"FDouble\")\ngenericIntegrationConfiguration c() { .setDefinition(d) }");
+    in->setContent(
+        "<entry>X</entry> <ENTRY>x</ENTRY> <entry>x1</entry> <entry>g|X</entry> <entry>G|H|t</entry> "
+        "<entry>none</entry>");
+    out->setContent("<entry>x</entry>");
+    EXPECT_TRUE(definition->commandFileReferencesEntry(entry("x")));
+    EXPECT_TRUE(definition->commandFileReferencesEntry(entry("G|x")));
+    EXPECT_FALSE(definition->commandFileReferencesEntry(entry("G")));
+    EXPECT_FALSE(definition->commandFileReferencesEntry({}));
+    EXPECT_FALSE(definition->removeEntry({}));
+    EXPECT_FALSE(definition->removeEntry(entry("G|x")));
+    run("d.removeEntry(\"x\")");
+    EXPECT_EQ(in->getPlainContent(),
+              "1.5 1.5 <entry>x1</entry> <entry>g|X</entry> <entry>G|H|t</entry> <entry>none</entry>");
+    run("d.removeEntry(\"G|x\")\nd.removeEntry(\"G|H|t\")\nd.removeEntry(\"none\")");
+    EXPECT_EQ(in->getPlainContent(), "1.5 1.5 <entry>x1</entry> 2 text <entry>none</entry>");
+    EXPECT_EQ(out->getPlainContent(), "<entry>x</entry>");
+    EXPECT_EQ(textOf("d.getEntryNames()"), "[]");
+    // While a project is read nothing follows.
+    run("d.addEntry(\"x1\", 7)");
+    const FProjectLoading loading;
+    EXPECT_TRUE(definition->findAndRemoveEntry(entry("x1")));
+    EXPECT_TRUE(in->getPlainContent().contains("<entry>x1</entry>"));
+    EXPECT_FALSE(definition->findAndRemoveEntry({}));
+}
+
+TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition) {
+    auto* own = new FFakeConnector(definition);
+    own->registerObject();
+    auto* other = new FFakeConnector;
+    other->registerObject();
+    run("d.addEntry(\"G|x\", 2)\nd.addEntry(\"G|y\", 2)");
+    in->setContent("<entry>g|X</entry><entry>G|y</entry>");
+    out->setContent("<entry>G|x</entry>");
+    own->mRefreshed = 0;
+    run("d.renameEntry(\"G\", \"Wing\")");
+    EXPECT_EQ(in->getPlainContent(), "<entry>Wing|x</entry><entry>Wing|y</entry>");
+    EXPECT_EQ(out->getPlainContent(), "<entry>G|x</entry>");
+    EXPECT_EQ(own->mRefreshed, 2);
+    EXPECT_EQ(other->mRefreshed, 0);
+    in->setContent("<entry>out.dat</entry>");
+    out->setFileName("new.dat");
+    EXPECT_EQ(in->getPlainContent(), "<entry>new.dat</entry>");
+
+    own->setOutOfDate(false);
+    other->setOutOfDate(false);
+    definition->reinitConfigurations(false);
+    EXPECT_TRUE(own->isOutOfDate());
+    EXPECT_FALSE(other->isOutOfDate());
+    own->setOutOfDate(false);
+    const FProjectLoading loading;
+    definition->reinitConfigurations(false);
+    EXPECT_FALSE(own->isOutOfDate());
+    EXPECT_TRUE(FConnectorInterface::create("FSoftwareConnector", "made", {}));
+    EXPECT_FALSE(FConnectorInterface::create("FNoConnector", "made", {}));
+    EXPECT_EQ(FConnectorInterface::getConnectors(QString("FSoftwareConnector")).size(), 3);
+}
+
+TEST_F(FDefinitionGenIntTest, entriesComeOnceAndConfigurationsFollow) {
+    FConfigurationGenInt* conf = FConfigurationGenInt::create({}, "c", true, definition);
+    const FExpr<FEntryBase> added(FEntryDef::create("x", definition, 1, 1, false, true, "", new FDouble(3)));
+    definition->addEntry(added);
+    definition->addEntry({});
+    EXPECT_EQ(definition->getEntries().size(), 1);
+    EXPECT_EQ(conf->getEntryMap().keys(), QStringList{"x"});
+    conf->setEntryValue("x", FExprBase(new FDouble(4)));
+    EXPECT_TRUE(definition->removeEntry(added));
+    EXPECT_EQ(conf->getEntryMap().keys(), QStringList{"x"});
+    definition->reinitConfigurations(false);
+    EXPECT_TRUE(conf->getEntryMap().isEmpty());
+}
+
+TEST_F(FDefinitionGenIntTest, theFilesGoWhereTheDefinitionGoes) {
+    definition->setInProject(false);
+    EXPECT_FALSE(in->isInProject() || out->isInProject());
+    definition->setInUserConfig(true);
+    EXPECT_TRUE(in->isInUserConfig() && out->isInUserConfig());
+    definition->setDefault(true);
+    definition->setInUserConfig(false);
+    EXPECT_FALSE(definition->isInUserConfig());
+    EXPECT_TRUE(in->isInUserConfig());
+    definition->setInProject(true);
+    EXPECT_TRUE(in->isInProject());
+}
+
+TEST_F(FDefinitionGenIntTest, aCloneHasEntriesAndNoFiles) {
+    run("d.addEntry(\"G|x\", 2, 3)\nd.setCurFile(in)");
+    definition->setOutputPrecision(3);
+    auto* copy = dynamic_cast<FDefinitionGenInt*>(definition->clone());
+    EXPECT_TRUE(copy->isInModel());
+    EXPECT_EQ(copy->furtherSavedCommands(), definition->furtherSavedCommands());
+    EXPECT_NE(copy->getEntryOfScope("G|x"), definition->getEntryOfScope("G|x"));
+    EXPECT_TRUE(copy->getFiles().isEmpty());
+    EXPECT_FALSE(copy->getCurFile());
+    EXPECT_EQ(copy->getOutputPrecision(), 6);
+}
+
+TEST_F(FDefinitionGenIntTest, everyCommandIsUndoable) {
+    in->setContent("<entry>x</entry><entry>G|y</entry>");
+    run("genericIntegrationResultsFile more()\ngenericIntegrationConfiguration c() { .setDefinition(d) }");
+    expectUndoable({"genericIntegrationDefinition e() { .addEntry(\"a\", 1) .setFiles([out]) }",
+                    "d.addEntry(\"x\", 1.5)", "d.addEntry(\"G|y\", 2)", "d.setFiles([more, in])", "d.setCurFile(in)",
+                    "d.setLastFile(more)", "d.setLastFile(NULL)", "c.setEntryValue(\"G|y\", 3)",
+                    "d.renameEntry(\"G\", \"H\")", "in.setFileName(\"new.dat\")", "d.removeEntry(\"H|y\")",
+                    "d.removeEntry(\"x\")", "destroy(in)", "d.setFiles([])", "c.setDefinition(e)", "destroy(d)"});
+}
+
+TEST_F(FDefinitionGenIntTest, wrongArgumentsGiveNull) {
+    run("d.setFiles([in, d])\nd.setFiles(in)\nd.setCurFile(d)");
+    EXPECT_EQ(log().size(), 3);
+    EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out"}));
+    // Users never see these three; projects need them.
+    for (const char* command :
+         {"FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer", "FAttribCmdFDefinitionGenIntsetCurFileFGenIntFile",
+          "FAttribCmdFDefinitionGenIntsetLastFileFGenIntFile"}) {
+        const auto* prototype = dynamic_cast<const FAttribCmd*>(FObject::getPrototype(QString::fromLatin1(command)));
+        ASSERT_TRUE(prototype) << command;
+        const FCmdPresentation& look = prototype->getRow()->presentation;
+        EXPECT_TRUE(look.hidden && look.readOnly && look.systemFlag == 2) << command;
+    }
+    EXPECT_EQ(FDefinitionGenInt::null()->getSystemFlag(), 1U);
+}
+
+}  // namespace

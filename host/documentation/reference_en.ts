@@ -4,8 +4,1294 @@
 <context>
     <name>reference</name>
     <message>
+        <source>!FExternComputation</source>
+        <translation>A computation by an external program: which program is started with what, and its runs. The program is started without a shell, in a folder of its own: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; beside the project file, or in a temporary folder as long as the project isn't saved. When the program of this session ends, in whichever way, so does a program that it has started, with all its children.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments)</source>
+        <translation>Sets the arguments of the program. Each text of the list reaches the program as one argument, exactly as it stands: no shell sees it, so that blanks and quotes need no care, and $ and * mean nothing special. Numbers are taken as their texts. The program runs in the folder of the run, so that input files need no path.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments):argument0</source>
+        <translation>The list of arguments, in order; [] for none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setArguments(["-i", "cantilever"])</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setConsoleFiles(bool,checked)</source>
+        <translation>Whether what the program prints is kept, as stdout.txt and stderr.txt in the folder of the run. Result templates can read these files like any other. Without them, a failed run can't show the last lines that the program printed.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setConsoleFiles(bool,checked):argument0</source>
+        <translation>True, the state of a new computation, to keep it; false to throw it away.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setConsoleFiles(bool,checked):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setConsoleFiles(false)</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables)</source>
+        <translation>Sets environment variables for the program, beside those of merix itself; one that exists is replaced. The list replaces the one that was set before.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables):argument0</source>
+        <translation>Texts of the form "NAME=value"; [] for none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setEnvironment(["OMP_NUM_THREADS=4", "LICENSE_FILE=27000@server"])</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setExecutable(string,program)</source>
+        <translation>Sets the program. A bare name is searched in the folders of PATH, those of setEnvironment included. A name with a slash is a path; if it is relative, it starts at the folder in which merix was started. Whether the program is there is found out at the run: a message then tells where it was searched.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setExecutable(string,program):argument0</source>
+        <translation>The name or path. It holds no arguments; blanks in it are part of the name.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setExecutable(string,program):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setExecutable("ccx")</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setStandardInput(string,fileName)</source>
+        <translation>Sets the file that the program reads as its standard input. It lies in the folder of the run, in general as the file of an input template. Without one the program reads an empty input. A name that leads out of the folder, or a file that isn't there when the program starts, fails the run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setStandardInput(string,fileName):argument0</source>
+        <translation>The name, relative to the folder of the run; "" for none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setStandardInput(string,fileName):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setStandardInput("commands.txt")</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setTimeLimit(double,seconds)</source>
+        <translation>Sets after how long the program is ended. The time counts from its start. The program and its children are asked to end first and killed five seconds later; the state is then "timed out", and what was written so far can be read. A number below 0 is refused with a message.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setTimeLimit(double,seconds):argument0</source>
+        <translation>The limit in seconds; 0, the state of a new computation, is none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setTimeLimit(double,seconds):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setTimeLimit(300)</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.cancel()</source>
+        <translation>Ends the run that goes on: the program and its children are asked to end, and killed five seconds later. The state is then "cancelled". In a script it makes sense only for runs that were started from a window, since run() waits for the end.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.cancel():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+print(solver.cancel())</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.cancel():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False if no run goes on.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getExitCode()</source>
+        <translation>The exit code of the program in the last run; by custom 0 is success. A program that wasn't started or was ended by a signal has none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getExitCode():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("false"); .setArguments([]) }
+solver.run()
+print(solver.getExitCode())</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getExitCode():returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The code, or -1 if there is none.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getState()</source>
+        <translation>The state of the last run, or of the one that goes on: "ready" before the first run, "writing" while the input is written, "running", then "finished" after success, "failed", "cancelled" or "timed out".</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getState():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("false"); .setArguments([]) }
+solver.run()
+print(solver.getState())</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getState():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The state in one of these words.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getWorkingPath()</source>
+        <translation>The folder of the run that goes on, else of the last one, else the one of the next. The input files, the output files and what the program printed lie there.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getWorkingPath():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getWorkingPath():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The absolute path, with a slash at its end.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.rereadResults()</source>
+        <translation>Has the results read again from the files that lie there, with the result templates as they are now; no program runs. For templates that were changed after a run. Without files, or while a run goes on, it is refused with a message.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.rereadResults():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+out1.setValues([["CL", 0, 0, "", Last, "FDouble", ""]])
+print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.rereadResults():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if there is something to read.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.run()</source>
+        <translation>Runs the program and waits for its end. Before, the files of an earlier run move aside to .earlier, so that nothing old is read as new; then files are copied, exports and input templates written. A run fails if the input can't be written, the program isn't found, ends by a signal or with an exit code other than 0, or doesn't write a file that results are read from. The message then names the cause, the last lines that the program printed and the folder; the script goes on. While a run goes on, a second one is refused.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.run():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+if (!solver.run()) { print("the run ended as:", solver.getState()) }</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.run():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if the run succeeded.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation:example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+if (!solver.run()) { exit(1) }
+print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFile</source>
+        <translation>An input template: a sample input file in which tags stand where values go in. A tag is &lt;entry&gt;path&lt;/entry&gt;, where the path names an entry of the definition, groups first, as in Geometry|span; case and indices don't matter. A tag &lt;entry&gt;Exports|wing.dat&lt;/entry&gt; becomes the file name of another template of the same definition. Everything else is written as it stands. A tag that names nothing is left out, with a message. After an &lt;entry&gt; without its &lt;/entry&gt; the rest of the file is lost.</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFile.creator.genericIntegrationCommandFile()</source>
+        <translation>Makes an empty input template. It is written before each run of a computation whose definition lists it, see setFiles.</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFile.creator.genericIntegrationCommandFile():example</source>
+        <translation>genericIntegrationCommandFile in1() {
+    .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;")
+    .setFileName("wing.inp")
+}</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFile.creator.genericIntegrationCommandFile():returnValue</source>
+        <comment>return type: FGenIntCommandFile</comment>
+        <translation>The template.</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFile:example</source>
+        <translation>genericIntegrationCommandFile in1() {
+    .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt; m")
+    .setFileName("wing.inp")
+}</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile</source>
+        <translation>A template: a sample of one input or output file of the external program, and the name that the real file has in the folder of a run. It is the common part of genericIntegrationCommandFile (a file that is written) and genericIntegrationResultsFile (a file that is read).</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setContent(string,content)</source>
+        <translation>Sets the text of the template, in general that of a sample file. In an input template the changing numbers are replaced by tags such as &lt;entry&gt;Geometry|span&lt;/entry&gt;; line ends stay as they are. Results read before go out of date. A text that begins with [B64] is taken as the stored form, Base64 of UTF-8, in which a project keeps it, and is decoded; getAttribute gives that form. Each call is a step that undo takes back, also with the same text.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setContent(string,content):argument0</source>
+        <translation>The text, or its stored form.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setContent(string,content):example</source>
+        <translation>genericIntegrationCommandFile in1()
+in1.setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;")</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setContent(string,content):returnValue</source>
+        <comment>return type: FGenIntFile</comment>
+        <translation>The template.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setFileName(string,fileName)</source>
+        <translation>Sets the name of the file in the folder of a run; it can begin with subfolders, which are made where they are missing. A name that leads out of that folder is refused when the file is written or read. Tags that are the old name as a whole get the new one in the input templates of the same definition; a reference such as &lt;entry&gt;Exports|old.dat&lt;/entry&gt; isn't changed.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setFileName(string,fileName):argument0</source>
+        <translation>The name, relative to the folder of the run.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setFileName(string,fileName):example</source>
+        <translation>genericIntegrationCommandFile in1()
+in1.setFileName("mesh/wing.inp")</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setFileName(string,fileName):returnValue</source>
+        <comment>return type: FGenIntFile</comment>
+        <translation>The template.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setForceWindowsLineEndings(bool,forceWindowsLineEndings)</source>
+        <translation>Whether each line feed of the template is written as carriage return and line feed, for programs that want it. For templates with plain line feeds only: a line that ends in both already gets the carriage return twice. Line ends inside of values, and previews, stay as they are. It has no effect on files that are read.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setForceWindowsLineEndings(bool,forceWindowsLineEndings):argument0</source>
+        <translation>True to write Windows line ends; false, the state of a new template, to write them as they are.</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile.attribute.setForceWindowsLineEndings(bool,forceWindowsLineEndings):example</source>
+        <translation>genericIntegrationCommandFile in1()
+in1.setForceWindowsLineEndings(true)</translation>
+    </message>
+    <message>
+        <source>!FGenIntFile:example</source>
+        <translation>genericIntegrationCommandFile in1() {
+    .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;")
+    .setFileName("wing.inp")
+}</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile</source>
+        <translation>A result template: a sample of one output file, how its lines are cut into columns, and the list of named values to read from it. After a run each value is a row of the table that has the file's name. A value whose place isn't found is NaN, and the others are read all the same.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setNumberSeparator(bool,checked)</source>
+        <translation>Whether a column is a number of the line, whatever stands between the numbers: column 0 is the first number, column 1 the second. It is so for a new template, and the other separators are ignored meanwhile. Exponents with D aren't part of a number, and digits in a label count as numbers of their own. With false, the other separators tell what a column is, and no column is found until one of them is set.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setNumberSeparator(bool,checked):argument0</source>
+        <translation>True to find numbers, false to cut at separators.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setNumberSeparator(bool,checked):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setNumberSeparator(false)
+out1.setSpacesAndTabsSeparator(true)</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setRegExprSeparator(string,regularExpression)</source>
+        <translation>Sets a regular expression that separates columns; "" for none. It takes effect only after setNumberSeparator(false), which this command doesn't do by itself. Two separators in a row have an empty column between them, which is NaN. An expression that isn't valid separates nothing, with a warning when the file is read.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setRegExprSeparator(string,regularExpression):argument0</source>
+        <translation>The expression; case matters.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setRegExprSeparator(string,regularExpression):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setNumberSeparator(false)
+out1.setRegExprSeparator("[,;]")</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setSpacesAndTabsSeparator(bool,checked)</source>
+        <translation>Whether blanks and tabs separate columns; any number of them is one separator, and those at the begin of a line don't count. It takes effect only after setNumberSeparator(false). Together with a regular expression either of the two separates.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setSpacesAndTabsSeparator(bool,checked):argument0</source>
+        <translation>True if they separate columns.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setSpacesAndTabsSeparator(bool,checked):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setNumberSeparator(false)
+out1.setSpacesAndTabsSeparator(true)</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setValues(FObjectList,values)</source>
+        <translation>Sets the list of values to read. Each value is a list of nine elements:
+
+name: the name of the row in the table of results
+line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text
+column: from 0; in which way columns are told apart, setNumberSeparator tells
+anchor: a text that stands in the file, in any case; "" for none
+occurrence: First or Last, if the anchor stands there more than once
+type: "FDouble" for a number, "FFileName" for the name of a further file to import
+import type: for such a file its kind, "text" or "table"; else ""
+average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
+rows: over how many rows with a number; NULL without an average
+
+The last two can be left out together. An element that is a shorter list, or no list, gives a blank value. The list is replaced as a whole.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setValues(FObjectList,values):argument0</source>
+        <translation>The values, each a list.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.attribute.setValues(FObjectList,values):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("out.dat") }
+out1.setValues([["CL", 0, 0, "Force", Last, "FDouble", "", 0, NULL], ["mean CL", 0, 1, "", Last, "FDouble", "", 1, 50]])</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.creator.genericIntegrationResultsFile()</source>
+        <translation>Makes an empty result template, which finds numbers in lines and has no values yet. It is read after each run of a computation whose definition lists it, see setFiles.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.creator.genericIntegrationResultsFile():example</source>
+        <translation>genericIntegrationResultsFile out1() {
+    .setContent("Force  0.52  0.031")
+    .setFileName("out.dat")
+    .setValues([["CL", 0, 0, "Force", Last, "FDouble", ""], ["CD", 0, 1, "Force", Last, "FDouble", ""]])
+}</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.creator.genericIntegrationResultsFile():returnValue</source>
+        <comment>return type: FGenIntResultsFile</comment>
+        <translation>The template.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setRegExpSeparator(string,regularExpression)</source>
+        <translation>The older form of setRegExprSeparator. With an expression that isn't empty it also does setNumberSeparator(false); with "" it takes the expression away and leaves the rest as it is.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setRegExpSeparator(string,regularExpression):argument0</source>
+        <translation>The expression; case matters.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setRegExpSeparator(string,regularExpression):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setRegExpSeparator("[,;]")</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setSpaceSeparator(bool,checked)</source>
+        <translation>The older form of setSpacesAndTabsSeparator. With true, blanks and tabs separate columns from now on, and numbers are no longer searched; with false nothing changes.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setSpaceSeparator(bool,checked):argument0</source>
+        <translation>True to set it; false has no effect.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setSpaceSeparator(bool,checked):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setSpaceSeparator(true)</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setTabSeaparator(bool,checked)</source>
+        <translation>The same as setSpaceSeparator, under the name, spelled this way, that older scripts and projects use: blanks count like tabs.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setTabSeaparator(bool,checked):argument0</source>
+        <translation>True to set it; false has no effect.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile.member.setTabSeaparator(bool,checked):example</source>
+        <translation>genericIntegrationResultsFile out1()
+out1.setTabSeaparator(true)</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFile:example</source>
+        <translation>genericIntegrationResultsFile out1() {
+    .setContent("Force  0.52  0.031")
+    .setFileName("out.dat")
+    .setValues([["CL", 0, 0, "Force", Last, "FDouble", ""], ["CD", 0, 1, "Force", Last, "FDouble", ""]])
+}</translation>
+    </message>
+    <message>
+        <source>!FObjectList</source>
+        <translation>A list of values or objects, written [a, b, c]; it can hold other lists. A command that lists don't have is carried out by each element that has it, and the results come back as a list: one result for a list of one, an empty list for an empty one. Lists don't change; a new one is written instead.</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.at(int,index)</source>
+        <translation>The element at a place, counted from 0. A place outside of the list gives NULL.</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.at(int,index):argument0</source>
+        <translation>The place, from 0 to the number of elements less 1.</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.at(int,index):example</source>
+        <translation>heights = [20, 30, 40]
+print(heights.at(0), heights.at(heights.count() - 1))</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.at(int,index):returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The element, or NULL.</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.count()</source>
+        <translation>The number of elements.</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.count():example</source>
+        <translation>print(["wing", "tail"].count())</translation>
+    </message>
+    <message>
+        <source>!FObjectList.member.count():returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The number, from 0.</translation>
+    </message>
+    <message>
+        <source>!FObjectList:example</source>
+        <translation>heights = [20, 30, 40]
+for (height in heights) { print(height) }</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric</source>
+        <translation>The results of one run, as tables of numbers. The files are read when a result is first asked for, and again only after a change of what they are read with. Results of a run that failed can be read, with one warning; what the program didn't write is NaN. While the run goes on there are no results.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTable(string,name)</source>
+        <translation>The table of a result file, by the name of the file or, with any case, by the name of its result template. The first of several tables with the name counts. Without such a table the result is NULL.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTable(string,name):argument0</source>
+        <translation>The file name as the template has it, or the name of the template.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTable(string,name):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getElementAt("CL"))</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTable(string,name):returnValue</source>
+        <comment>return type: FTableData</comment>
+        <translation>The table, or NULL.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableNames()</source>
+        <translation>The names of all tables, in the order of the result templates: the names of their files.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableNames():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+for (name in solver.getResults().getTableNames()) { print(name) }</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableNames():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The names; an empty list if nothing can be read.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric:example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTableNames())</translation>
+    </message>
+    <message>
+        <source>!FTableData</source>
+        <translation>A table of numbers with a name; its rows, and sometimes its columns, have names, too. The table of a result template has one row for each value, with the value's name, and one column. The rows stand in the order in which the values' anchors stand in the file. Whatever isn't in the table reads as NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumnCount()</source>
+        <translation>The number of columns: the length of the longest row.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumnCount():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getColumnCount())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumnCount():returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The number, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(double,row,string,column header)</source>
+        <translation>The number in a row and the column of a name. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(double,row,string,column header):argument0</source>
+        <translation>The row, from 0; what stands behind the decimal point is dropped.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(double,row,string,column header):argument1</source>
+        <translation>The name of the column; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(double,row,string,column header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getElementAt(0, "x"))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(double,row,string,column header):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,string,column header)</source>
+        <translation>The number in the row and the column of these names. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,string,column header):argument0</source>
+        <translation>The name of the row; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,string,column header):argument1</source>
+        <translation>The name of the column; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,string,column header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getElementAt("CL", "x"))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,string,column header):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0)</source>
+        <translation>The number in the row of a name: of a result file, the value of that name. Of several rows with the name the first counts. A name that isn't there gives NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):argument0</source>
+        <translation>The name of the row; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):argument1</source>
+        <translation>The column, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getElementAt("CL"))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0)</source>
+        <translation>The number in a row and a column. Outside of the table it is NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0):argument1</source>
+        <translation>The column, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getElementAt(0))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowCount()</source>
+        <translation>The number of rows; of a result file that could be read, the number of its values.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowCount():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getRowCount())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowCount():returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The number, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowName(int,row)</source>
+        <translation>The name of a row; empty for a row without a name or outside of the table.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowName(int,row):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowName(int,row):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getRowName(0))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowName(int,row):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The name, or "".</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowNames()</source>
+        <translation>The names of all rows, in order.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowNames():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getRowNames())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getRowNames():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The names.</translation>
+    </message>
+    <message>
+        <source>!FTableData:example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+table = solver.getResults().getTable("stdout.txt")
+for (name in table.getRowNames()) { print(name, "=", table.getElementAt(name)) }</translation>
+    </message>
+    <message>
+        <source>!Global.abs(double,x)</source>
+        <translation>The number without its sign.</translation>
+    </message>
+    <message>
+        <source>!Global.abs(double,x):argument0</source>
+        <translation>Any number.</translation>
+    </message>
+    <message>
+        <source>!Global.abs(double,x):example</source>
+        <translation>change = 0.98 - 1
+if (abs(change) &lt; 0.05) { print("converged") }</translation>
+    </message>
+    <message>
+        <source>!Global.abs(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>A number of 0 or more.</translation>
+    </message>
+    <message>
+        <source>!Global.acos(double,x)</source>
+        <translation>The angle whose cosine is the number. Outside of -1 to 1 it is NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.acos(double,x):argument0</source>
+        <translation>A number from -1 to 1.</translation>
+    </message>
+    <message>
+        <source>!Global.acos(double,x):example</source>
+        <translation>print(acos(0.5) * 180 / pi(), "degrees")</translation>
+    </message>
+    <message>
+        <source>!Global.acos(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The angle in radians, from 0 to pi.</translation>
+    </message>
+    <message>
+        <source>!Global.asin(double,x)</source>
+        <translation>The angle whose sine is the number. Outside of -1 to 1 it is NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.asin(double,x):argument0</source>
+        <translation>A number from -1 to 1.</translation>
+    </message>
+    <message>
+        <source>!Global.asin(double,x):example</source>
+        <translation>print(asin(0.5) * 180 / pi(), "degrees")</translation>
+    </message>
+    <message>
+        <source>!Global.asin(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The angle in radians, from -pi/2 to pi/2.</translation>
+    </message>
+    <message>
+        <source>!Global.atan(double,x)</source>
+        <translation>The angle whose tangent is the number. Where a direction in all four quadrants is meant, atan2 is the better choice.</translation>
+    </message>
+    <message>
+        <source>!Global.atan(double,x):argument0</source>
+        <translation>Any number.</translation>
+    </message>
+    <message>
+        <source>!Global.atan(double,x):example</source>
+        <translation>print(atan(0.1) * 180 / pi(), "degrees")</translation>
+    </message>
+    <message>
+        <source>!Global.atan(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The angle in radians, from -pi/2 to pi/2.</translation>
+    </message>
+    <message>
+        <source>!Global.atan2(double,y,double,x)</source>
+        <translation>The angle from the x axis to the point (x, y), counted anticlockwise. The signs of both numbers decide the quadrant; the order is y first. The angle of (0, 0) is 0.</translation>
+    </message>
+    <message>
+        <source>!Global.atan2(double,y,double,x):argument0</source>
+        <translation>The y coordinate.</translation>
+    </message>
+    <message>
+        <source>!Global.atan2(double,y,double,x):argument1</source>
+        <translation>The x coordinate.</translation>
+    </message>
+    <message>
+        <source>!Global.atan2(double,y,double,x):example</source>
+        <translation>lift = 0.5
+drag = -0.5
+print(atan2(lift, drag) * 180 / pi(), "degrees")</translation>
+    </message>
+    <message>
+        <source>!Global.atan2(double,y,double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The angle in radians, from -pi to pi.</translation>
+    </message>
+    <message>
+        <source>!Global.ceil(double,x)</source>
+        <translation>The least whole number that isn't below the number; of -1.5 it is -1. The result counts as an integer, so that it can be given where one is expected; beyond 2^53 the number stays as it is.</translation>
+    </message>
+    <message>
+        <source>!Global.ceil(double,x):argument0</source>
+        <translation>Any number.</translation>
+    </message>
+    <message>
+        <source>!Global.ceil(double,x):example</source>
+        <translation>length = 12.7
+print(ceil(length / 2.5), "panels are needed")</translation>
+    </message>
+    <message>
+        <source>!Global.ceil(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The whole number.</translation>
+    </message>
+    <message>
+        <source>!Global.cos(double,x)</source>
+        <translation>The cosine of an angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.cos(double,x):argument0</source>
+        <translation>The angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.cos(double,x):example</source>
+        <translation>degrees = 60
+print(cos(degrees * pi() / 180))</translation>
+    </message>
+    <message>
+        <source>!Global.cos(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>A number from -1 to 1.</translation>
+    </message>
+    <message>
+        <source>!Global.destroy(FManaged,object)</source>
+        <translation>Removes an object. What refers to it then refers to nothing: such a parameter or entry has no value, and a list of template files drops it. The name is free again. undo brings the object back.</translation>
+    </message>
+    <message>
+        <source>!Global.destroy(FManaged,object):argument0</source>
+        <translation>The object; a value, such as a number, can't be destroyed.</translation>
+    </message>
+    <message>
+        <source>!Global.destroy(FManaged,object):example</source>
+        <translation>parameter span(12.5)
+destroy(span)
+print(exists("span"))</translation>
+    </message>
+    <message>
+        <source>!Global.destroy(FManaged,object):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if it was removed.</translation>
+    </message>
+    <message>
+        <source>!Global.exists(string,name)</source>
+        <translation>Whether there is an object of that name. Case matters. Variables of the script and destroyed objects don't count.</translation>
+    </message>
+    <message>
+        <source>!Global.exists(string,name):argument0</source>
+        <translation>The name of an object.</translation>
+    </message>
+    <message>
+        <source>!Global.exists(string,name):example</source>
+        <translation>if (!exists("span")) { parameter span(12.5) }
+print(exists("span"))</translation>
+    </message>
+    <message>
+        <source>!Global.exists(string,name):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if there is one.</translation>
+    </message>
+    <message>
+        <source>!Global.exit(int,code=0)</source>
+        <translation>Ends the script after this command, also from within a loop or an included file; "merix script" then ends with the given code. By custom 0 means success. Without it, a script ends with 0, also when a run in it has failed, and with 1 after a script error.</translation>
+    </message>
+    <message>
+        <source>!Global.exit(int,code=0):argument0</source>
+        <translation>The exit code, 0 to 255.</translation>
+    </message>
+    <message>
+        <source>!Global.exit(int,code=0):example</source>
+        <translation>converged = false
+if (!converged) { exit(1) }</translation>
+    </message>
+    <message>
+        <source>!Global.exp(double,x)</source>
+        <translation>The exponential function, e to the power of the number. Above about 709.78 the result is Inf.</translation>
+    </message>
+    <message>
+        <source>!Global.exp(double,x):argument0</source>
+        <translation>The exponent.</translation>
+    </message>
+    <message>
+        <source>!Global.exp(double,x):example</source>
+        <translation>print(exp(1), exp(-0.5 * 1.2^2))</translation>
+    </message>
+    <message>
+        <source>!Global.exp(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>A number above 0, or 0 where it gets too small.</translation>
+    </message>
+    <message>
+        <source>!Global.fileName(string,path)</source>
+        <translation>A text that is marked as the name of a file. As the value of an entry it is written into the input files as it stands; nothing is copied, and the file needn't exist. To bring a file into the folder of a run, use inputFile.</translation>
+    </message>
+    <message>
+        <source>!Global.fileName(string,path):argument0</source>
+        <translation>The name; a path stays as it is given.</translation>
+    </message>
+    <message>
+        <source>!Global.fileName(string,path):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("airfoil", fileName("naca2412.dat")) }</translation>
+    </message>
+    <message>
+        <source>!Global.fileName(string,path):returnValue</source>
+        <comment>return type: FFileName</comment>
+        <translation>The file name.</translation>
+    </message>
+    <message>
+        <source>!Global.floor(double,x)</source>
+        <translation>The greatest whole number that isn't above the number; of -1.5 it is -2. The result counts as an integer, so that it can be given where one is expected; beyond 2^53 the number stays as it is.</translation>
+    </message>
+    <message>
+        <source>!Global.floor(double,x):argument0</source>
+        <translation>Any number.</translation>
+    </message>
+    <message>
+        <source>!Global.floor(double,x):example</source>
+        <translation>length = 12.7
+print(floor(length / 2.5), "panels fit")</translation>
+    </message>
+    <message>
+        <source>!Global.floor(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The whole number.</translation>
+    </message>
+    <message>
+        <source>!Global.format(FObject,value,string,pattern)</source>
+        <translation>A value as text in a given format, for input files with columns of fixed width and for tables. The format is that of printf with exactly one conversion: d i e E f F g G x X o for a number, s for a text; with the flags - + blank # 0, width and precision up to 1000, and %% for a percent sign. The decimal sign is always a point. d i x X o need a whole number. A text that is longer than the width isn't cut. If the format and the value don't fit, the result is NULL, with a warning that tells why.</translation>
+    </message>
+    <message>
+        <source>!Global.format(FObject,value,string,pattern):argument0</source>
+        <translation>A number or a text.</translation>
+    </message>
+    <message>
+        <source>!Global.format(FObject,value,string,pattern):argument1</source>
+        <translation>The format, such as "%10.4f".</translation>
+    </message>
+    <message>
+        <source>!Global.format(FObject,value,string,pattern):example</source>
+        <translation>print(format(2.5, "%10.4f") + format(-1234567.0, "%14.6E"))
+print(format(7, "%03d") + ".dat", format("wing", "%-8s|"))</translation>
+    </message>
+    <message>
+        <source>!Global.format(FObject,value,string,pattern):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The formatted text.</translation>
+    </message>
+    <message>
+        <source>!Global.getAttribute(FObject,object,string,attribute)</source>
+        <translation>The present value of an attribute, the one that its command has set. For a list of objects it is the value that all of them share, and NULL if they differ. A command that isn't an attribute of the object gives NULL, with a warning that suggests the nearest name.</translation>
+    </message>
+    <message>
+        <source>!Global.getAttribute(FObject,object,string,attribute):argument0</source>
+        <translation>An object, or a list of objects.</translation>
+    </message>
+    <message>
+        <source>!Global.getAttribute(FObject,object,string,attribute):argument1</source>
+        <translation>The name of the attribute's command, such as "setFileName".</translation>
+    </message>
+    <message>
+        <source>!Global.getAttribute(FObject,object,string,attribute):example</source>
+        <translation>genericIntegrationCommandFile in1() { .setFileName("wing.inp") }
+print(getAttribute(in1, "setFileName"))</translation>
+    </message>
+    <message>
+        <source>!Global.getAttribute(FObject,object,string,attribute):returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The value.</translation>
+    </message>
+    <message>
+        <source>!Global.getObjects(string,class)</source>
+        <translation>All objects of a class and of the classes derived from it, in the order of their creation. Commands can be applied to the whole list: each object carries them out. An unknown class gives an empty list, with a warning.</translation>
+    </message>
+    <message>
+        <source>!Global.getObjects(string,class):argument0</source>
+        <translation>The name of a class as it stands in this reference, such as "FGenIntCommandFile".</translation>
+    </message>
+    <message>
+        <source>!Global.getObjects(string,class):example</source>
+        <translation>genericIntegrationCommandFile in1()
+genericIntegrationCommandFile in2()
+getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
+    </message>
+    <message>
+        <source>!Global.getObjects(string,class):returnValue</source>
+        <comment>return type: FObjectContainer</comment>
+        <translation>The objects, as a list.</translation>
+    </message>
+    <message>
+        <source>!Global.include(string,file)</source>
+        <translation>Carries out another script at this place, as if its lines stood here: it sees and sets the same variables. The name is relative to the folder of the script that includes it if the file lies there, otherwise to the current folder. A file that can't be read or an error in it ends the whole script with exit code 1; more than 50 files within one another are refused.</translation>
+    </message>
+    <message>
+        <source>!Global.include(string,file):argument0</source>
+        <translation>The script file.</translation>
+    </message>
+    <message>
+        <source>!Global.include(string,file):example</source>
+        <translation>include("cantilever.merix")</translation>
+    </message>
+    <message>
+        <source>!Global.include(string,file):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True; what fails ends the script.</translation>
+    </message>
+    <message>
+        <source>!Global.isNaN(double,x)</source>
+        <translation>Whether the number is NaN, "not a number": what a result is when the program didn't write it, or when its place in the output file wasn't found. A comparison with a NaN is never true, so this is the way to notice one.</translation>
+    </message>
+    <message>
+        <source>!Global.isNaN(double,x):argument0</source>
+        <translation>A number, such as a result.</translation>
+    </message>
+    <message>
+        <source>!Global.isNaN(double,x):example</source>
+        <translation>drag = number("not converged")
+if (isNaN(drag)) { print("no drag in the output") }</translation>
+    </message>
+    <message>
+        <source>!Global.isNaN(double,x):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True for NaN, false for every other number, also for Inf.</translation>
+    </message>
+    <message>
+        <source>!Global.log(double,x)</source>
+        <translation>The natural logarithm. Of 0 it is -Inf, of a number below 0 NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.log(double,x):argument0</source>
+        <translation>A number above 0.</translation>
+    </message>
+    <message>
+        <source>!Global.log(double,x):example</source>
+        <translation>print(log(10), log(8) / log(2))</translation>
+    </message>
+    <message>
+        <source>!Global.log(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The logarithm to the base e.</translation>
+    </message>
+    <message>
+        <source>!Global.log10(double,x)</source>
+        <translation>The logarithm to the base 10. Of 0 it is -Inf, of a number below 0 NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.log10(double,x):argument0</source>
+        <translation>A number above 0.</translation>
+    </message>
+    <message>
+        <source>!Global.log10(double,x):example</source>
+        <translation>ratio = 0.5
+print(20 * log10(ratio), "dB")</translation>
+    </message>
+    <message>
+        <source>!Global.log10(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The logarithm to the base 10.</translation>
+    </message>
+    <message>
+        <source>!Global.max(FObjects,numbers)</source>
+        <translation>The greatest of the numbers. A whole number stays whole. A NaN counts only as the first argument, where it is the result; elsewhere it is passed over. Without arguments, or with one that isn't a number (a list isn't one), the result is NULL.</translation>
+    </message>
+    <message>
+        <source>!Global.max(FObjects,numbers):argument0</source>
+        <translation>Any count of numbers, each as an argument of its own.</translation>
+    </message>
+    <message>
+        <source>!Global.max(FObjects,numbers):example</source>
+        <translation>force = -250
+print(max(abs(force), 100))</translation>
+    </message>
+    <message>
+        <source>!Global.max(FObjects,numbers):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The greatest number.</translation>
+    </message>
+    <message>
+        <source>!Global.min(FObjects,numbers)</source>
+        <translation>The least of the numbers. A whole number stays whole. A NaN counts only as the first argument, where it is the result; elsewhere it is passed over. Without arguments, or with one that isn't a number (a list isn't one), the result is NULL.</translation>
+    </message>
+    <message>
+        <source>!Global.min(FObjects,numbers):argument0</source>
+        <translation>Any count of numbers, each as an argument of its own.</translation>
+    </message>
+    <message>
+        <source>!Global.min(FObjects,numbers):example</source>
+        <translation>height = 40.0
+width = 20.0
+print(min(height, width, 25))</translation>
+    </message>
+    <message>
+        <source>!Global.min(FObjects,numbers):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The least number.</translation>
+    </message>
+    <message>
+        <source>!Global.number(string,text)</source>
+        <translation>The number that a text is, with a decimal point and, if wanted, an exponent as in 1.5e3; blanks around it don't matter. A text that isn't a number as a whole gives NaN; so does a decimal comma.</translation>
+    </message>
+    <message>
+        <source>!Global.number(string,text):argument0</source>
+        <translation>The text.</translation>
+    </message>
+    <message>
+        <source>!Global.number(string,text):example</source>
+        <translation>print(number("1.5e3") / 2, isNaN(number("1,5")))</translation>
+    </message>
+    <message>
+        <source>!Global.number(string,text):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.pi()</source>
+        <translation>The number pi, 3.141592653589793.</translation>
+    </message>
+    <message>
+        <source>!Global.pi():example</source>
+        <translation>radius = 0.25
+print(pi() * radius^2)</translation>
+    </message>
+    <message>
+        <source>!Global.pi():returnValue</source>
+        <comment>return type: double</comment>
+        <translation>Pi, as exact as a double can be.</translation>
+    </message>
+    <message>
+        <source>!Global.pow(double,base,double,exponent)</source>
+        <translation>The base raised to the exponent; the same as base ^ exponent. A base below 0 with an exponent that isn't whole gives NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.pow(double,base,double,exponent):argument0</source>
+        <translation>The base.</translation>
+    </message>
+    <message>
+        <source>!Global.pow(double,base,double,exponent):argument1</source>
+        <translation>The exponent; it needn't be whole.</translation>
+    </message>
+    <message>
+        <source>!Global.pow(double,base,double,exponent):example</source>
+        <translation>speed = 340
+print(0.5 * 1.225 * pow(speed, 2))</translation>
+    </message>
+    <message>
+        <source>!Global.pow(double,base,double,exponent):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The power.</translation>
+    </message>
+    <message>
+        <source>!Global.print(FObjects,values)</source>
+        <translation>Writes the plain text of each argument to the standard output, with a blank between two of them and a line end behind the last. Texts stand without quotes, numbers in the shortest form that reads back to the same number, and a value that isn't there as NULL. Without arguments it writes an empty line. Messages go to the standard error instead, so that the output can be piped on.</translation>
+    </message>
+    <message>
+        <source>!Global.print(FObjects,values):argument0</source>
+        <translation>Any count of values.</translation>
+    </message>
+    <message>
+        <source>!Global.print(FObjects,values):example</source>
+        <translation>span = 12.5
+print("span:", span, "m, area:", span * 1.2, "m2")</translation>
+    </message>
+    <message>
+        <source>!Global.readText(string,file)</source>
+        <translation>The whole text of a file, with its line ends as they are. It is read as UTF-8, or as a byte order mark says. The name is relative to the folder of the script if the file lies there, otherwise to the current folder. If the file can't be read, the result is NULL, with a warning. Used to fill a template from a sample file.</translation>
+    </message>
+    <message>
+        <source>!Global.readText(string,file):argument0</source>
+        <translation>The file.</translation>
+    </message>
+    <message>
+        <source>!Global.readText(string,file):example</source>
+        <translation>text = readText("filter.cir")
+if (text != NULL) { print(text) }</translation>
+    </message>
+    <message>
+        <source>!Global.readText(string,file):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The text, or NULL.</translation>
+    </message>
+    <message>
+        <source>!Global.redo()</source>
+        <translation>Does again what undo has taken back. A new change after an undo forgets what could have been done again.</translation>
+    </message>
+    <message>
+        <source>!Global.redo():example</source>
+        <translation>parameter span(12.5)
+span.setValue(14)
+undo()
+redo()
+print(span.getValue())</translation>
+    </message>
+    <message>
+        <source>!Global.redo():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False if nothing was taken back.</translation>
+    </message>
+    <message>
+        <source>!Global.round(double,x)</source>
+        <translation>The nearest whole number; halves go away from 0, so that 2.5 becomes 3 and -2.5 becomes -3. The result counts as an integer, so that it can be given where one is expected; beyond 2^53 the number stays as it is. To round to decimals, use format.</translation>
+    </message>
+    <message>
+        <source>!Global.round(double,x):argument0</source>
+        <translation>Any number.</translation>
+    </message>
+    <message>
+        <source>!Global.round(double,x):example</source>
+        <translation>length = 12.7
+print(round(length), round(length * 10) / 10.0)</translation>
+    </message>
+    <message>
+        <source>!Global.round(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The whole number.</translation>
+    </message>
+    <message>
+        <source>!Global.sin(double,x)</source>
+        <translation>The sine of an angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.sin(double,x):argument0</source>
+        <translation>The angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.sin(double,x):example</source>
+        <translation>degrees = 30
+print(sin(degrees * pi() / 180))</translation>
+    </message>
+    <message>
+        <source>!Global.sin(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>A number from -1 to 1.</translation>
+    </message>
+    <message>
         <source>!Global.sqrt(double,x)</source>
-        <translation>The square root.</translation>
+        <translation>The square root. Of a number below 0 it is NaN.</translation>
+    </message>
+    <message>
+        <source>!Global.sqrt(double,x):argument0</source>
+        <translation>A number, 0 or more.</translation>
+    </message>
+    <message>
+        <source>!Global.sqrt(double,x):example</source>
+        <translation>span = 12.5
+print(sqrt(span^2 + 4))</translation>
+    </message>
+    <message>
+        <source>!Global.sqrt(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The root, 0 or more.</translation>
+    </message>
+    <message>
+        <source>!Global.tan(double,x)</source>
+        <translation>The tangent of an angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.tan(double,x):argument0</source>
+        <translation>The angle in radians.</translation>
+    </message>
+    <message>
+        <source>!Global.tan(double,x):example</source>
+        <translation>sweep = 25
+print(tan(sweep * pi() / 180))</translation>
+    </message>
+    <message>
+        <source>!Global.tan(double,x):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The tangent; very large near odd multiples of pi/2.</translation>
+    </message>
+    <message>
+        <source>!Global.undo()</source>
+        <translation>Takes back the last step. In a script each statement that changed something is one step; in a window each action of the user. What was destroyed comes back as the very same object. Runs, their files and their results aren't taken back.</translation>
+    </message>
+    <message>
+        <source>!Global.undo():example</source>
+        <translation>parameter span(12.5)
+span.setValue(14)
+undo()
+print(span.getValue())</translation>
+    </message>
+    <message>
+        <source>!Global.undo():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False if there is nothing to take back.</translation>
     </message>
 </context>
 </TS>

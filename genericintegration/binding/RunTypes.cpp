@@ -2,16 +2,20 @@
 
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FGenIntWriter.h"
+#include "genericintegration/setup/FAttribCmdSetAverageRows.h"
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/setup/FResultsGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FInitPrototype.h"
 
 namespace {
 
-const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FGenIntReader, FGenIntWriter,
-                      FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FConfigurationGenInt, FDefinitionGenInt>
+const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
+                      FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FResultsGenInt,
+                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation>
     types;
 
 }  // namespace

@@ -2,19 +2,20 @@
 
 #include "host/core/FInitPrototype.h"
 
-FClassData FFakeConnector::mClass("FSoftwareConnector", &FManaged::mClass);
+FClassData FFakeConnectorBase::mClass("FSoftConBase", &FManaged::mClass);
+FClassData FFakeConnector::mClass("FSoftwareConnector", &FFakeConnectorBase::mClass);
 
 namespace {
 
-const FInitPrototypes<FFakeConnector> types;
+const FInitPrototypes<FFakeConnectorBase, FFakeConnector> types;
 
 }  // namespace
 
 FConnectorInterface* FFakeConnector::createConnector(const QString& name,
                                                      const FExpr<FExternComputation>& computation) const {
-    Q_UNUSED(computation)
     auto* connector = new FFakeConnector;
     connector->setName(name);
+    connector->setComputation(computation);
     connector->registerObject();
     return connector;
 }

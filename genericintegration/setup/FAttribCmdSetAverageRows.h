@@ -1,0 +1,26 @@
+#pragma once
+
+#include "genericintegration/setup/FAverageRowsEditor.h"
+#include "host/script/FMemberCmd.h"
+
+/**
+ * Sets over how many rows a result value is averaged. It belongs to one editor, as the command behind one of its
+ * fields, and not to a class. Its one argument has no name; the rows, or NULL.
+ */
+class FAttribCmdSetAverageRows : public FClass<FAttribCmdSetAverageRows, FAttribCmd> {
+ public:
+    static FClassData mClass;
+
+    /** @param editor  may be null: the command then does nothing; else it outlives the command */
+    explicit FAttribCmdSetAverageRows(FAverageRowsEditor* editor = nullptr) : mpEditor(editor) {}
+    FObject* clone() const override { return new FAttribCmdSetAverageRows(mpEditor); }
+
+    /** The number of rows of the editor's value; 0 without an editor or template. */
+    void getAttrValue(FExprBase& value) const override;
+
+ protected:
+    FExprBase execute() const override;
+
+ private:
+    FAverageRowsEditor* mpEditor;
+};

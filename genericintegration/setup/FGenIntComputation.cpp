@@ -1,0 +1,174 @@
+#include "genericintegration/setup/FGenIntComputation.h"
+
+#include "genericintegration/io/FGenIntWriter.h"
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntCompSignalRapper.h"
+#include "genericintegration/setup/FResultsGenInt.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FViewCtrl.h"
+#include "host/design/FConnectorInterface.h"
+#include "host/run/FPathManager.h"
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+FGenIntComputation* setConfiguration(FGenIntComputation& computation,
+                                     const FExpr<FConfigurationGenInt>& configuration) {
+    computation.setConfiguration(configuration);
+    return &computation;
+}
+
+void commands(FCmdTable& table) {
+    using F = FGenIntComputation;
+    table.creator(
+        "genericIntegrationComputation", +[](const FNewName& name) { return F::create(name.name); });
+    table.attribute<F>("setConfiguration", &setConfiguration, &F::getConfiguration, {"custom configuration"})
+        .cmdFlags(16)
+        .attrName("Configuration")
+        .category("Execution Settings")
+        .attrAsExpr(false)
+        .attrRequiredCmd("true")
+        .userLevel(1)
+        .weight(5.0)
+        .data();
+    table.member<F>("getResults", &F::getResults).returns(FCmdTypeOf<FExpr<FResultsGenInt>>::type()).query();
+    table.member<F>("openSoftwareConnector", &F::openSoftwareConnector)
+        .systemFlag(1)
+        .menuEntry("Open Software Connector", 1)
+        .menuIcon(":/softConIcon");
+    table.hideInherited("FMemberCmdFCustomComputationgetResults");
+    table.hideInherited("FAttribCmdFCustomComputationsetConfigurationFConfigurationCustom");
+    table.hideInherited("FAttribCmdFCustomComputationsetCmdFilestring");
+}
+
+}  // namespace
+
+FClassData FGenIntComputation::mClass("FGenIntComputation", &FCustomComputation::mClass, &commands);
+
+FGenIntComputation::FGenIntComputation(const QString& name)
+    : FClass(name), mpSignalRapper(std::make_unique<FGenIntCompSignalRapper>(this)) {
+    if (!isInitializingPrototype()) {
+        mConfiguration.registerClient(this, false);
+    }
+}
+
+FGenIntComputation::~FGenIntComputation() = default;
+
+FGenIntComputation* FGenIntComputation::create(const QString& name) {
+    auto* computation = new FGenIntComputation(name);
+    computation->registerObject();
+    return computation;
+}
+
+FObject* FGenIntComputation::clone() const {
+    auto* copy = new FGenIntComputation(getName());
+    copy->registerObject();
+    copy->init(this);
+    return copy;
+}
+
+void FGenIntComputation::init(const FGenIntComputation* other) {
+    // Past FCustomComputation on purpose: a copy starts without a configuration.
+    FExternComputation::init(other);
+}
+
+void FGenIntComputation::leaveModel() {
+    emit mpSignalRapper->genIntCompDestroyed();
+    FCustomComputation::leaveModel();
+}
+
+FManaged* FGenIntComputation::setName(const QString& name) {
+    static bool isRenaming = false;
+    if (isRenaming) {
+        return FExternComputation::setName(name);
+    }
+    isRenaming = true;
+    FExternComputation::setName(name);
+    if (!FMerixCtrl::instance()->isLoadingProject()) {
+        FObjectManager::instance()->emitNameChanged(getPrototype(), getName(), getDbId());
+    }
+    isRenaming = false;
+    return this;
+}
+
+// ---- steps of a run ----
+
+bool FGenIntComputation::writeOutputFile() const {
+    const FExpr<FDesign> design;
+    const FExpr<FExternComputation> computation;
+    const FExpr<FConfigurationGenInt> configuration(getConfiguration());
+    return FGenIntWriter::instance()->exportCommandFiles(configuration,
+                                                         FPathManager::instance()->getInputDir(computation, design));
+}
+
+void FGenIntComputation::computationStarted() const {
+    enableSoftCons(false);
+    emit mpSignalRapper->genIntRunStarted();
+}
+
+void FGenIntComputation::computationFinished() const {
+    enableSoftCons(true);
+    emit mpSignalRapper->genIntRunEnded(true);
+}
+
+FDefinitionGenInt* FGenIntComputation::definition() const {
+    const FConfigurationCustom* configuration = getConfiguration().ptr();
+    return configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
+}
+
+void FGenIntComputation::applyOutputHandles(FComputationResults* results) const {
+    auto* ofIntegration = dynamic_cast<FResultsGenInt*>(results);
+    FDefinitionGenInt* described = definition();
+    if (described && ofIntegration) {
+        ofIntegration->setOutputHandles(described->getFiles(1));
+    }
+}
+
+void FGenIntComputation::processReread(FComputationResults* results) {
+    auto* ofIntegration = dynamic_cast<FResultsGenInt*>(results);
+    if (!ofIntegration || !getConfiguration()) {
+        return;
+    }
+    ofIntegration->setResultFiles(getConfiguration()->getResultsFileNames());
+    applyOutputHandles(results);
+}
+
+const FObject* FGenIntComputation::getResultType() const {
+    return FResultsGenInt::null();
+}
+
+// ---- connectors ----
+
+void FGenIntComputation::enableSoftCons(bool enable) const {
+    if (!FViewCtrl::instance()->hasGui()) {
+        return;
+    }
+    const FExpr<FExternComputation> self(this);
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(QStringLiteral("FSoftConBase"))) {
+        if (connector->containsComputation(self)) {
+            connector->disableGui(!enable);
+        }
+    }
+}
+
+void FGenIntComputation::openSoftwareConnector() const {
+    const QString className = QStringLiteral("FSoftwareConnector");
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(className)) {
+        if (connector->getComputation().ptr() == this) {
+            connector->show();
+            return;
+        }
+    }
+    FConnectorInterface* made = FConnectorInterface::create(className, getName() + QStringLiteral("_connector"),
+                                                            FExpr<FExternComputation>(this));
+    if (made) {
+        made->show();
+    }
+}
+
+bool FGenIntComputation::doubleClickedInTree() {
+    openSoftwareConnector();
+    return true;
+}

@@ -1,0 +1,187 @@
+#include "genericintegration/setup/FResultsGenInt.h"
+
+#include "genericintegration/io/FGenIntReader.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/script/FCmdTable.h"
+
+#include <limits>
+
+namespace {
+
+QString savedArguments(const FObject* object) {
+    const auto& results = dynamic_cast<const FResultsGenInt&>(*object);
+    return results.getVariant().toString() + QLatin1Char(',') + QString::number(results.getComputationId());
+}
+
+void dataCommands(FCmdTable& table) {
+    using F = FResultsGenInt;
+    const char* const name = "getDataAt";
+    table.member<F>(name, qConstOverload<unsigned int, unsigned int>(&F::getDataAt), {"row", "column"}).readsFiles();
+    table.member<F>(name, qConstOverload<const QString&, unsigned int>(&F::getDataAt), {"row header", "column"})
+        .readsFiles();
+    table.member<F>(name, qConstOverload<double, const QString&>(&F::getDataAt), {"row", "column header"}).readsFiles();
+    table
+        .member<F>(name, qConstOverload<const QString&, const QString&>(&F::getDataAt), {"row header", "column header"})
+        .readsFiles();
+    table.member<F>("getLastDataOfRow", &F::getLastDataOfRow, {"row=0"}).readsFiles();
+    table.member<F>("getLastDataOfColumn", &F::getLastDataOfColumn, {"column=0"}).readsFiles();
+    table.member<F>("getAverageOfLastRows", &F::getAverageOfLastRows, {"numberOfRows", "column=0"}).readsFiles();
+}
+
+void commands(FCmdTable& table) {
+    using F = FResultsGenInt;
+    table
+        .creator("genericIntegrationResults",
+                 +[](const FNewName& name, const FExpr<FDesign>& variant, int computationId) {
+                     return F::create(name.name, variant, computationId);
+                 },
+                 {"variant=NULL", "computationId=0"})
+        .savedArguments(&savedArguments);
+    table.attribute<F>("setOutputHandles", &F::setOutputHandles, &F::getOutputHandles, {"files"})
+        .attrName("Output Handles")
+        .readOnly()
+        .data();
+    dataCommands(table);
+    table.member<F>("getResultTemplateName", &F::getResultTemplateName, {"fileName"}).query();
+}
+
+}  // namespace
+
+FClassData FResultsGenInt::mClass("FResultsGenInt", &FResultsGeneric::mClass, &commands, nullptr, 2);
+
+FResultsGenInt* FResultsGenInt::create(const QString& name, const FExpr<FDesign>& variant, int computationId) {
+    return (new FResultsGenInt(name, variant, computationId))->enter();
+}
+
+FComputationResults* FResultsGenInt::createResults(const FExpr<FDesign>& variant,
+                                                   const FExpr<FExternComputation>& computation) const {
+    return (new FResultsGenInt(QString(), variant, computation))->enter();
+}
+
+FResultsGenInt* FResultsGenInt::enter() {
+    registerObject();
+    FResults::init();
+    return this;
+}
+
+void FResultsGenInt::init(const FResultsGenInt* other) {
+    if (other) {
+        FResultsGeneric::init(other);
+        setOutputHandles(other->getOutputHandles());
+    }
+}
+
+void FResultsGenInt::setOutputHandles(const QList<FExpr<FGenIntFile>>& files) {
+    for (const FExpr<FGenIntFile>& file : qAsConst(mOutputHandles)) {
+        file.unregisterClient(this);
+    }
+    mOutputHandles = files;
+    for (const FExpr<FGenIntFile>& file : qAsConst(mOutputHandles)) {
+        file.registerClient(this, false);
+    }
+    forgetReading();
+    setOutOfDate(true);
+}
+
+void FResultsGenInt::readOutputFiles() const {
+    startParentReg(this);
+    for (const FExpr<FGenIntFile>& file : mOutputHandles) {
+        const auto* resultsFile = dynamic_cast<const FGenIntResultsFile*>(file.ptr());
+        if (!resultsFile) {
+            continue;
+        }
+        FGenIntReader* reader = FGenIntReader::instance();
+        reader->readResults(FExpr<FGenIntResultsFile>(resultsFile), FExpr<FResultsGeneric>(this), getResultPath());
+        const auto& imported = reader->getImportedObjects();
+        for (auto object = imported.begin(); object != imported.end(); ++object) {
+            mImportedObjects.insert(object.key(), object.value());
+        }
+    }
+    stopParentReg();
+    FResultsGeneric::readOutputFiles();
+}
+
+// ---- numbers ----
+
+template <class Ask>
+double FResultsGenInt::ask(Ask question) const {
+    const bool mayRead = prepareResults();
+    const FTableData* table = mayRead && !tables().isEmpty() ? tables().first().ptr() : nullptr;
+    return table ? question(*table) : std::numeric_limits<double>::quiet_NaN();
+}
+
+double FResultsGenInt::getDataAt(unsigned int row, unsigned int column) const {
+    return ask([=](const FTableData& table) {
+        return table.getElementAt(static_cast<int>(row), static_cast<int>(column), nullptr);
+    });
+}
+
+double FResultsGenInt::getDataAt(const QString& rowHeader, unsigned int column) const {
+    return ask([&](const FTableData& table) { return table.getElementAt(rowHeader, static_cast<int>(column)); });
+}
+
+double FResultsGenInt::getDataAt(double row, const QString& columnHeader) const {
+    return ask([&](const FTableData& table) { return table.getElementAt(FTableData::rowNumber(row), columnHeader); });
+}
+
+double FResultsGenInt::getDataAt(const QString& rowHeader, const QString& columnHeader) const {
+    return ask([&](const FTableData& table) { return table.getElementAt(rowHeader, columnHeader); });
+}
+
+double FResultsGenInt::getLastDataOfRow(int row) const {
+    return ask([row](const FTableData& table) { return table.getLastElementOfRow(row); });
+}
+
+double FResultsGenInt::getLastDataOfColumn(int column) const {
+    return ask([column](const FTableData& table) { return table.getLastElementOfColumn(column); });
+}
+
+double FResultsGenInt::getAverageOfLastRows(int numberOfRows, int column) const {
+    return ask([=](const FTableData& table) { return table.getAverageOfLastRows(numberOfRows, column); });
+}
+
+// ---- files and tables ----
+
+FExpr<FTableData> FResultsGenInt::getData(const QString& name) {
+    prepareResults();
+    FExpr<FTableData> found = FResultsGeneric::getData(name);
+    if (found) {
+        return found;
+    }
+    for (const FExpr<FGenIntFile>& handle : qAsConst(mOutputHandles)) {
+        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
+        if (!file || file->getName().compare(name, Qt::CaseInsensitive) != 0) {
+            continue;
+        }
+        for (const FExpr<FTableData>& table : tables()) {
+            if (table->getName().compare(file->getFileName(), Qt::CaseInsensitive) == 0) {
+                return table;
+            }
+        }
+    }
+    return {};
+}
+
+QString FResultsGenInt::getResultTemplateName(const QString& fileName) const {
+    const auto* computation = dynamic_cast<const FGenIntComputation*>(getComputation().ptr());
+    const FConfigurationCustom* configuration = computation ? computation->getConfiguration().ptr() : nullptr;
+    auto* definition = configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
+    if (!definition) {
+        return {};
+    }
+    const QList<FExpr<FGenIntFile>> files = definition->getFiles(1);
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (file && file->getFileName() == fileName) {
+            return getResultPath() + fileName;
+        }
+    }
+    return {};
+}
+
+void FResultsGenInt::saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const {
+    if (getVariant()) {
+        FResultsGeneric::saveScopeManner(stream, indent, inScope, flag);
+    }
+}

@@ -1,0 +1,172 @@
+#include "genericintegration/setup/FGenIntCompSignalRapper.h"
+#include "host/core/FHistory.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FUserInterface.h"
+#include "tests/genericintegration/setup/FFakeConnector.h"
+#include "tests/genericintegration/setup/FIntegrationTest.h"
+
+#include <cmath>
+
+namespace {
+
+class FGenIntComputationTest : public FIntegrationTest {
+ public:
+    FGenIntComputationTest() {
+        const FGenIntCompSignalRapper* rapper = computation()->getSignalRapper();
+        QObject::connect(rapper, &FGenIntCompSignalRapper::genIntRunStarted, &mContext,
+                         [this] { mSignals << "started"; });
+        QObject::connect(rapper, &FGenIntCompSignalRapper::genIntRunEnded, &mContext,
+                         [this](bool scan) { mSignals << (scan ? "ended" : "ended with false"); });
+        QObject::connect(rapper, &FGenIntCompSignalRapper::genIntCompDestroyed, &mContext,
+                         [this] { mSignals << "destroyed " + computation()->getName(); });
+    }
+
+ protected:
+    QStringList mSignals;
+    QObject mContext;
+};
+
+class FWindows : public FUserInterface {
+ public:
+    bool hasGui() const override { return true; }
+};
+
+QList<FFakeConnector*> connectors() {
+    QList<FFakeConnector*> found;
+    for (FManaged* object : FObjectManager::instance()->getManaged(FFakeConnector::null())) {
+        found << dynamic_cast<FFakeConnector*>(object);
+    }
+    return found;
+}
+
+}  // namespace
+
+TEST_F(FGenIntComputationTest, runsFromEntriesToNumbers) {
+    FExprBase number;
+    ASSERT_TRUE(run("ok = comp.run()")) << logText().toStdString();
+    ASSERT_TRUE(number.resolve("comp.getResults().getTable(\"Out.txt\").getElementAt(\"f\")"));
+    EXPECT_EQ(FExprBase(number.getObject()).toString(), "4") << logText().toStdString();
+    EXPECT_EQ(mSignals, QStringList({"started", "ended"}));
+
+    ASSERT_TRUE(run("conf.setEntryValue(\"x\", 5); ok = comp.run()"));
+    EXPECT_EQ(FExprBase(number.getObject()).toString(), "25") << "what is kept follows the run";
+    EXPECT_EQ(textOf("comp.getResults().getTable(\"stdout.txt\").getElementAt(\"s\")"), "5");
+    EXPECT_EQ(textOf("comp.getResults().getTableNames()"), "[Out.txt,stdout.txt]");
+
+    ASSERT_TRUE(run("comp.setArguments([\"-c\", \"exit 3\"]); ok = comp.run()"));
+    EXPECT_EQ(FExprBase(number.getObject()).toString(), "NaN") << "not the number of the run before";
+    EXPECT_EQ(mSignals.count("ended"), 3) << "also after a failure";
+    EXPECT_EQ(textOf("comp.getExitCode()"), "3");
+}
+
+TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {
+    ASSERT_TRUE(run("ok = comp.run(); comp.setConfiguration(NULL); again = comp.run()"));
+    EXPECT_TRUE(logHolds("No configuration found")) << logText().toStdString();
+    EXPECT_EQ(mSignals, QStringList({"started", "ended"})) << "the second one never started";
+    EXPECT_EQ(computation()->getState(), "failed");
+    EXPECT_TRUE(std::isnan(results()->getLastDataOfRow(0)));
+    EXPECT_TRUE(results()->getOutputHandles().isEmpty());
+    ASSERT_TRUE(run("comp.setConfiguration(comp)"));
+    EXPECT_FALSE(computation()->getConfiguration());
+    EXPECT_TRUE(logHolds("FConfigurationGenInt"));
+}
+
+TEST_F(FGenIntComputationTest, offersTypedCommandsOnly) {
+    run("comp.setCmdFile(\"a\")");
+    EXPECT_TRUE(logHolds("setCmdFile"));
+    EXPECT_FALSE(savedModel().contains("setCmdFile"));
+    EXPECT_EQ(savedModel().count("setConfiguration"), 1);
+    ASSERT_TRUE(run("genericIntegrationComputation second() { .setConfiguration(conf) }"));
+    EXPECT_TRUE(computation()->isGeneric() && FGenIntComputation::null()->isGeneric());
+    EXPECT_EQ(computation()->getResultType(), FResultsGenInt::null());
+
+    ASSERT_TRUE(run("ok = comp.run()"));
+    const FExprBase two = evaluate("[comp, second].getResults()");
+    const auto* list = dynamic_cast<const FObjectList*>(two.getObject());
+    ASSERT_TRUE(list && list->isSelectionSet());
+    EXPECT_EQ(list->count(), 2);
+    EXPECT_EQ(evaluate("[comp].getResults()").getObject(), results());
+}
+
+TEST_F(FGenIntComputationTest, undoesItsSettings) {
+    expectUndoable({"comp.setExecutable(\"/usr/bin/awk\")", "comp.setArguments([\"a b\", \"\\\"\", \"\\\\\"])",
+                    "comp.setTimeLimit(1.5)", "comp.setEnvironment([\"A=1\"])", "comp.setStandardInput(\"in.txt\")",
+                    "comp.setConsoleFiles(false)", "comp.setConfiguration(NULL)", "comp.setConfiguration(conf)",
+                    "genericIntegrationComputation second() { .setConfiguration(conf) }", "destroy(conf)"});
+}
+
+TEST_F(FGenIntComputationTest, copiesTheSettingsOfTheProgramAlone) {
+    auto* copy = dynamic_cast<FGenIntComputation*>(computation()->clone());
+    EXPECT_TRUE(copy->isInModel());
+    EXPECT_EQ(copy->getExecutable(), "sh");
+    EXPECT_EQ(copy->getArguments(), computation()->getArguments());
+    EXPECT_FALSE(copy->getConfiguration());
+    EXPECT_NE(copy->getSignalRapper(), computation()->getSignalRapper());
+}
+
+TEST_F(FGenIntComputationTest, tellsItsNewName) {
+    QStringList names;
+    const auto connection = QObject::connect(FObjectManager::instance(), &FObjectManager::nameChanged,
+                                             [&names](const FObject* prototype, const QString& name, int) {
+                                                 EXPECT_EQ(prototype, FGenIntComputation::null());
+                                                 names << name;
+                                                 if (FGenIntComputation* renamed = computation(name)) {
+                                                     renamed->setName("from_the_slot");
+                                                 }
+                                             });
+    EXPECT_EQ(computation()->setName("solver")->getName(), "from_the_slot");
+    EXPECT_EQ(names, QStringList({"solver"}));
+    {
+        const FProjectLoading loading;
+        computation("from_the_slot")->setName("quiet");
+    }
+    EXPECT_TRUE(computation("quiet"));
+    EXPECT_EQ(names.size(), 1);
+    QObject::disconnect(connection);
+}
+
+TEST_F(FGenIntComputationTest, saysThatItGoesWhileItIsWhole) {
+    ASSERT_TRUE(run("destroy(comp)"));
+    EXPECT_EQ(mSignals, QStringList({"destroyed comp"}));
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_TRUE(computation()->canRun());
+    EXPECT_TRUE(FHistory::instance()->redo());
+    EXPECT_EQ(mSignals, QStringList({"destroyed comp", "destroyed comp"}));
+}
+
+TEST_F(FGenIntComputationTest, locksItsConnectorsForARun) {
+    ASSERT_TRUE(run("genericIntegrationComputation second() { .setConfiguration(conf) }"));
+    computation()->openSoftwareConnector();
+    EXPECT_TRUE(computation()->doubleClickedInTree());
+    computation("second")->openSoftwareConnector();
+    ASSERT_EQ(connectors().size(), 2);
+    EXPECT_EQ(connectors()[0]->getName(), "comp_connector");
+    EXPECT_EQ(connectors()[0]->mCalls, QStringList({"show", "show"}));
+
+    ASSERT_TRUE(run("ok = comp.run()"));
+    EXPECT_EQ(connectors()[0]->mCalls.size(), 2) << "nothing to lock without windows";
+    FWindows windows;
+    FUserInterface* before = FUserInterface::replace(&windows);
+    ASSERT_TRUE(run("ok = comp.run()"));
+    FUserInterface::replace(before);
+    EXPECT_EQ(connectors()[0]->mCalls.mid(2), QStringList({"lock", "unlock"}));
+    EXPECT_EQ(connectors()[1]->mCalls, QStringList({"show"}));
+    EXPECT_EQ(mSignals, QStringList({"started", "ended", "started", "ended"}));
+}
+
+TEST_F(FGenIntComputationTest, readsAgainWithTheMarksOfToday) {
+    ASSERT_TRUE(run("ok = comp.run()"));
+    EXPECT_EQ(results()->getDataAt("f", 0), 4);
+    write("Out.txt", "f 7 8\n");
+    EXPECT_EQ(results()->getDataAt("f", 0), 4);
+    ASSERT_TRUE(run("ok = comp.rereadResults()"));
+    EXPECT_EQ(results()->getDataAt("f", 0), 7);
+    ASSERT_TRUE(
+        run("square.setValues([[\"f\", 0, 1, \"f \", First, \"FDouble\", \"\", 0, NULL]])\n"
+            "def.setFiles([input, square])\n"
+            "ok = comp.rereadResults()"));
+    EXPECT_EQ(results()->getDataAt("f", 0), 8);
+    EXPECT_EQ(results()->getOutputHandles().size(), 1);
+    EXPECT_EQ(mSignals, QStringList({"started", "ended"}));
+}

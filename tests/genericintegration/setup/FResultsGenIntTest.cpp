@@ -1,0 +1,147 @@
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FObjectManager.h"
+#include "tests/genericintegration/setup/FIntegrationTest.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+quint64 bitsOf(double number) {
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+class FResultsGenIntTest : public FIntegrationTest {
+ public:
+    FResultsGenIntTest() { EXPECT_TRUE(run("ok = comp.run()")) << logText().toStdString(); }
+
+ protected:
+    static FExpr<FGenIntFile> file(const QString& name) {
+        return FExpr<FGenIntFile>(static_cast<const FObject*>(FObjectManager::instance()->find(name)));
+    }
+    static QString saved(const FManaged* object) {
+        QString text;
+        QTextStream stream(&text);
+        object->saveScopeManner(stream, 1, false, false);
+        stream.flush();
+        return text;
+    }
+};
+
+}  // namespace
+
+TEST_F(FResultsGenIntTest, readsNumbersOfTheFirstTable) {
+    write("Out.txt", "f 4 9\n");
+    EXPECT_EQ(results()->getDataAt(0U, 0U), 4);
+    EXPECT_EQ(results()->getDataAt("g", 0U), 9);
+    EXPECT_EQ(results()->getLastDataOfRow(1), 9);
+    EXPECT_EQ(results()->getLastDataOfColumn(0), 9);
+    EXPECT_EQ(results()->getAverageOfLastRows(2, 0), 6.5);
+    results()->getData("Out.txt")->setAllHorizontalHeaders({"x"});
+    EXPECT_EQ(results()->getDataAt(1.9, "x"), 9);
+    EXPECT_EQ(results()->getDataAt("f", QString("x")), 4);
+    for (const QString call : {"getDataAt(1,0)", "getDataAt(\"g\",0)", "getDataAt(1.9,\"x\")", "getDataAt(\"g\",\"x\")",
+                               "getLastDataOfRow(1)", "getLastDataOfColumn()"}) {
+        EXPECT_EQ(textOf("comp.getResults()." + call), "9") << call.toStdString();
+    }
+    EXPECT_EQ(textOf("comp.getResults().getAverageOfLastRows(1)"), "9");
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(5,0)"), "NaN");
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(\"s\",0)"), "NaN") << "it stands in the second table";
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(comp,0)"), "NULL");
+}
+
+TEST_F(FResultsGenIntTest, isNanWithoutTemplates) {
+    results()->setOutputHandles({});
+    for (const double number :
+         {results()->getDataAt(0U, 0U), results()->getDataAt("f", 0U), results()->getDataAt(0.0, "x"),
+          results()->getDataAt("f", QString("x")), results()->getLastDataOfRow(0), results()->getLastDataOfColumn(0),
+          results()->getAverageOfLastRows(1, 0)}) {
+        EXPECT_EQ(bitsOf(number), Q_UINT64_C(0x7FF8000000000000));
+    }
+    EXPECT_FALSE(results()->getData("Out.txt"));
+    results()->setOutputHandles({file("input"), file("console"), nullptr});
+    EXPECT_EQ(results()->getDataAt("s", 0U), 2) << "what is no result template is passed over";
+}
+
+TEST_F(FResultsGenIntTest, findsTablesByFileAndByTemplate) {
+    EXPECT_EQ(results()->getData("Out.txt")->getName(), "Out.txt");
+    EXPECT_FALSE(results()->getData("out.txt")) << "a file's name has its case";
+    EXPECT_EQ(results()->getData("SQUARE")->getName(), "Out.txt");
+    EXPECT_EQ(results()->getData("Console")->getName(), "stdout.txt");
+    EXPECT_FALSE(results()->getData("input"));
+
+    EXPECT_EQ(results()->getResultTemplateName("Out.txt"), computation()->getWorkingPath() + "Out.txt");
+    EXPECT_EQ(results()->getResultTemplateName("out.txt"), "");
+    EXPECT_EQ(results()->getResultTemplateName("sub/in.txt"), "");
+    FResultsGenInt* kept = results();
+    const FExprBase keep(kept);
+    ASSERT_TRUE(run("destroy(comp)"));
+    EXPECT_EQ(kept->getResultTemplateName("Out.txt"), "");
+}
+
+TEST_F(FResultsGenIntTest, readsOnceUntilSomethingChanges) {
+    EXPECT_EQ(results()->getDataAt("f", 0U), 4);
+    write("Out.txt", "f 5\n");
+    EXPECT_EQ(results()->getDataAt("f", 0U), 4);
+    results()->setOutputHandles(results()->getOutputHandles());
+    EXPECT_TRUE(results()->isOutOfDate());
+    EXPECT_EQ(results()->getDataAt("f", 0U), 5);
+    EXPECT_EQ(results()->getTableNames().size(), 2) << "tables of the reading before are gone";
+    write("Out.txt", "f 6\n");
+    ASSERT_TRUE(run("square.setContent(\"f 1\")"));
+    EXPECT_EQ(results()->getDataAt("f", 0U), 6) << "a changed template has the file read again";
+
+    write("Out.txt", "");
+    results()->setOutputHandles(results()->getOutputHandles());
+    EXPECT_TRUE(std::isnan(results()->getDataAt("f", 0U)));
+    EXPECT_TRUE(results()->getData("Out.txt"));
+}
+
+TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
+    const QString value = "[[\"field\", 0, 0, \"\", First, \"FFileName\", \"%1\", 0, NULL]]";
+    ASSERT_TRUE(
+        run("square.setNumberSeparator(false); square.setRegExprSeparator(\";\")\n"
+            "console.setNumberSeparator(false); console.setRegExprSeparator(\";\")\n"
+            "square.setValues(" +
+            value.arg("table") + ")\nconsole.setValues(" + value.arg("text") + ")"));
+    write("Out.txt", "curve.txt;");
+    write("stdout.txt", "note.txt;");
+    write("curve.txt", "1 2\n3 4\n");
+    write("note.txt", "seen");
+    results()->setOutputHandles({file("square")});
+    const FExpr<FTableData> curve(results()->getImportedObjects().value("field"));
+    ASSERT_TRUE(curve) << logText().toStdString();
+    EXPECT_EQ(curve->getElementAt(1, 0), 3);
+    results()->setOutputHandles({file("square"), file("console")});
+    EXPECT_EQ(results()->getImportedObjects().value("field").toString(), "seen") << "the later template wins";
+}
+
+TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
+    EXPECT_EQ(saved(results()), "");
+    auto* design = new FDesign("d7");
+    design->registerObject();
+    const int id = computation()->getDbId();
+    FResultsGenInt* made = FResultsGenInt::create("r", FExpr<FDesign>(design), id);
+    EXPECT_EQ(made->getComputation().ptr(), computation());
+    made->setOutputHandles({file("square"), file("console")});
+    made->addDocu("a \"good\" one", 1);
+    const QString text = saved(made);
+    EXPECT_EQ(text, QString("\n    genericIntegrationResults r(d7,%1) {\n"
+                            "        .addDocu(\"a \\\"good\\\" one\",1);\n"
+                            "        .setOutputHandles([square,console]);\n    }\n")
+                        .arg(id));
+    EXPECT_TRUE(made->getResultPath().endsWith("/d7/comp/")) << made->getResultPath().toStdString();
+    ASSERT_TRUE(run("genericIntegrationResults lost(d7, 4711) {}"));
+    auto* lost = dynamic_cast<FResultsGenInt*>(FObjectManager::instance()->find("lost"));
+    EXPECT_EQ(lost->getResultTemplateName("Out.txt"), "");
+    EXPECT_EQ(lost->getResultPath(), "");
+    lost->setOutputHandles({file("square")});
+    EXPECT_TRUE(std::isnan(lost->getDataAt("f", 0U))) << "not the number of the sample text";
+    ASSERT_TRUE(run("genericIntegrationResults bad(comp) {}"));
+    EXPECT_FALSE(FObjectManager::instance()->find("bad"));
+}

@@ -4,6 +4,274 @@
 <context>
     <name>reference</name>
     <message>
+        <source>!FConfiguration</source>
+        <translation>Values for the entries of a definition. Several configurations can share one definition. When entries are added, removed or renamed there, the configuration follows and keeps the values of those that remain.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.getEntryValue(string,path)</source>
+        <translation>The present value of an entry, with its expression evaluated. Numbers are always numbers with decimals.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.getEntryValue(string,path):argument0</source>
+        <translation>The path; case matters. With an index where the entry may occur several times.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.getEntryValue(string,path):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+print(cruise.getEntryValue("Geometry|span") / 2)</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.getEntryValue(string,path):returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The value; NULL if it has none, or with a warning if there is no such entry.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.setEntryValue(string,path,expression,value)</source>
+        <translation>Sets the value of an entry. It stays an expression and follows the parameters, entries and results that it names; variables of the script are replaced by their present value. It is evaluated when the input files are written; the results of another computation are read then, but that computation isn't run. Only functions and commands that change nothing may stand in it. An entry without a value is written as SHOULD_BE_EXPORTED. An unknown path, or a value that would depend on itself, is refused with a warning.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.setEntryValue(string,path,expression,value):argument0</source>
+        <translation>The path; case matters. Where an entry may occur several times, with an index from 0, as in flap|angle[1]; a missing occurrence is made.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.setEntryValue(string,path,expression,value):argument1</source>
+        <translation>The value or expression; NULL takes the value away.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.setEntryValue(string,path,expression,value):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+parameter span(14)
+cruise.setEntryValue("Geometry|span", format(span / 2, "%8.3f"))
+span.setValue(16)
+print(cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
+        <source>!FConfiguration.member.setEntryValue(string,path,expression,value):returnValue</source>
+        <comment>return type: FConfiguration</comment>
+        <translation>The configuration; NULL if the value was refused.</translation>
+    </message>
+    <message>
+        <source>!FConfiguration:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+cruise.setEntryValue("Geometry|span", 14)
+print(cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom</source>
+        <translation>A configuration from which input files are written. Entries can name files: inputFile, resultsFileName and geometryExport tell what is done with them.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.attribute.setDefinition(FDefinitionCustom,definition)</source>
+        <translation>Sets the definition whose entries the configuration gives values to. Entries with a default start with it. Generic configurations have a command of the same name that takes generic definitions only.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.attribute.setDefinition(FDefinitionCustom,definition):argument0</source>
+        <translation>The definition; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.attribute.setDefinition(FDefinitionCustom,definition):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise()
+cruise.setDefinition(wing)</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.member.getPreviewText(string,fileName)</source>
+        <translation>The text of an input file as a run would write it now. No file is touched. A value that can be had only by reading files, such as the result of another computation, stands there as its expression. Forced Windows line ends aren't shown, and a tag that names a file through Exports is left out, with a message. A file that the configuration doesn't write gives NULL, with a warning.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.member.getPreviewText(string,fileName):argument0</source>
+        <translation>The file name as the template has it; case matters.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.member.getPreviewText(string,fileName):example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5); .setFiles([in1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+print(cruise.getPreviewText("wing.inp"))</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom.member.getPreviewText(string,fileName):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The text, or NULL.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationCustom:example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5); .setFiles([in1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+print(cruise.getPreviewText("wing.inp"))</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation</source>
+        <translation>A computation whose input comes from a configuration. Before the program starts, the files that entries name are copied or exported into the folder of the run.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setCmdFile(string,fileName)</source>
+        <translation>Sets the file that gets a line "path = value" for each entry before the program starts, in the order of the paths. Generic computations write their input templates instead, and don't offer this command.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setCmdFile(string,fileName):argument0</source>
+        <translation>The name, relative to the folder of the run; "" for none.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setCmdFile(string,fileName):example</source>
+        <translation>genericIntegrationComputation solver()
+if (false) { solver.setCmdFile("input.txt") }</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setConfiguration(FConfigurationCustom,configuration)</source>
+        <translation>Sets the configuration that gives the input of the runs. One that depends on the results of this very computation is refused with a message.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setConfiguration(FConfigurationCustom,configuration):argument0</source>
+        <translation>The configuration; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.attribute.setConfiguration(FConfigurationCustom,configuration):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver()
+solver.setConfiguration(cruise)</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.getResults()</source>
+        <translation>The results of the last run, or of the one that goes on. After a new run the earlier object keeps its numbers.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.getResults():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTableNames())</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.getResults():returnValue</source>
+        <comment>return type: FComputationResults</comment>
+        <translation>The results; NULL before the first run.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation:example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getState())</translation>
+    </message>
+    <message>
+        <source>!FDefinition</source>
+        <translation>Which entries there are: the inputs of an integration, each with a default value. An entry is named by its path, groups first, as in Geometry|span. Names may hold anything but | [ ] &lt; &gt; and line ends. Configurations hold values for the entries and follow each change of the definition.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type="")</source>
+        <translation>Adds an entry, and the groups of its path that are missing. The configurations of the definition get it at once, with its default. A number counts as one with decimals, also a whole one. An entry without default and type is a group. A path that exists, or that leads through an entry with a value, is refused with a warning.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument0</source>
+        <translation>The path, groups first; at most 50 levels, with "|" between them.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument1</source>
+        <translation>The default value: a number, a text, a truth value or a file such as inputFile("mesh.dat"); NULL for none. An expression is evaluated once.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument2</source>
+        <translation>How often the entry may occur, 1 to 10000. Above 1, its occurrences are flap|angle[0], flap|angle[1] and so on; a tag has no index and gets the value of the first one.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument3</source>
+        <translation>How often it occurs from the start, 0 to count; -1 for count. Further occurrences are made when setEntryValue names them; one is always there.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument4</source>
+        <translation>Whether windows hide it.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument5</source>
+        <translation>A text for the user.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument6</source>
+        <translation>Without a default: the class that values have, such as "FDouble" or "FString"; "" makes a group.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):example</source>
+        <translation>genericIntegrationDefinition wing()
+wing.addEntry("Geometry|span", 12.5).addEntry("airfoil", "naca2412").addEntry("flap|angle", 5, 3)
+print(wing.getEntryNames())</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):returnValue</source>
+        <comment>return type: FDefinition</comment>
+        <translation>The definition; NULL if the entry was refused.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.getEntryNames()</source>
+        <translation>The paths of all entries that hold values, in the order of the definition. Groups aren't among them, and an entry that may occur several times is there once, without index.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.getEntryNames():example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+for (path in wing.getEntryNames()) { print(path) }</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.getEntryNames():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The paths.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.removeEntry(string,path)</source>
+        <translation>Removes an entry, or a group with all below it. The configurations lose its values. In the input templates its default value takes the place of its tags, so that the files stay whole; without a default the tags stay.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.removeEntry(string,path):argument0</source>
+        <translation>The path; case matters.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.removeEntry(string,path):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+wing.removeEntry("Geometry|span")
+print(wing.getEntryNames())</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.removeEntry(string,path):returnValue</source>
+        <comment>return type: FDefinition</comment>
+        <translation>The definition; NULL if there is no such entry.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.renameEntry(string,path,string,newName)</source>
+        <translation>Renames an entry or a group. The values in the configurations stay; the tags in the input templates get the new path, also those of all entries below a group. A name that the group has already is refused with a warning.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.renameEntry(string,path,string,newName):argument0</source>
+        <translation>The present path; case matters.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.renameEntry(string,path,string,newName):argument1</source>
+        <translation>The new name of its last level, without the groups.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.renameEntry(string,path,string,newName):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+wing.renameEntry("Geometry|span", "wing span")
+print(wing.getEntryNames())</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.renameEntry(string,path,string,newName):returnValue</source>
+        <comment>return type: FDefinition</comment>
+        <translation>The definition; NULL if nothing was renamed.</translation>
+    </message>
+    <message>
+        <source>!FDefinition:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+print(wing.getEntryNames(), cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
         <source>!FExternComputation</source>
         <translation>A computation by an external program: which program is started with what, and its runs. The program is started without a shell, in a folder of its own: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; beside the project file, or in a temporary folder as long as the project isn't saved. When the program of this session ends, in whichever way, so does a program that it has started, with all its children.</translation>
     </message>
@@ -458,8 +726,95 @@ print(heights.at(0), heights.at(heights.count() - 1))</translation>
 for (height in heights) { print(height) }</translation>
     </message>
     <message>
+        <source>!FParameter</source>
+        <translation>A named value that expressions can use by its name. It holds an expression rather than a number: when something in the expression changes, the parameter follows, and so does everything that uses it.</translation>
+    </message>
+    <message>
+        <source>!FParameter.attribute.setValue(expression,value)</source>
+        <translation>Sets the value, which stays an expression and follows what it names. If the parameter would depend on itself, it keeps its value, with a warning.</translation>
+    </message>
+    <message>
+        <source>!FParameter.attribute.setValue(expression,value):argument0</source>
+        <translation>The value or expression; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FParameter.attribute.setValue(expression,value):example</source>
+        <translation>parameter span(12.5)
+parameter area(0)
+area.setValue(span * 1.2)
+print(area.getValue(), getAttribute(area, "setValue"))</translation>
+    </message>
+    <message>
+        <source>!FParameter.attribute.setValue(expression,value):returnValue</source>
+        <comment>return type: FParameter</comment>
+        <translation>The parameter; NULL if the value was refused.</translation>
+    </message>
+    <message>
+        <source>!FParameter.creator.parameter(expression,value=NULL)</source>
+        <translation>Makes a parameter. Its value stays an expression and follows what it names; variables of the script are replaced by their present value. Only functions and commands that change nothing may stand in it.</translation>
+    </message>
+    <message>
+        <source>!FParameter.creator.parameter(expression,value=NULL):argument0</source>
+        <translation>The value or expression; NULL for none yet.</translation>
+    </message>
+    <message>
+        <source>!FParameter.creator.parameter(expression,value=NULL):example</source>
+        <translation>parameter span(12.5)
+parameter halfSpan(span / 2)
+print(halfSpan.getValue())</translation>
+    </message>
+    <message>
+        <source>!FParameter.creator.parameter(expression,value=NULL):returnValue</source>
+        <comment>return type: FParameter</comment>
+        <translation>The parameter.</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.getValue()</source>
+        <translation>The present value. In an expression the name of the parameter alone means the same.</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.getValue():example</source>
+        <translation>parameter span(12.5)
+print(span.getValue(), span + 1)</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.getValue():returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The value; NULL if there is none.</translation>
+    </message>
+    <message>
+        <source>!FParameter:example</source>
+        <translation>parameter span(12.5)
+parameter area(span * 1.2)
+span.setValue(14)
+print(area.getValue())</translation>
+    </message>
+    <message>
         <source>!FResultsGeneric</source>
         <translation>The results of one run, as tables of numbers. The files are read when a result is first asked for, and again only after a change of what they are read with. Results of a run that failed can be read, with one warning; what the program didn't write is NaN. While the run goes on there are no results.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getResultFileName(string,entry)</source>
+        <translation>The path of a result file of the run: one that an entry of the configuration names with resultsFileName. The file needn't be there. As the name of an inputFile it links another computation to this one.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getResultFileName(string,entry):argument0</source>
+        <translation>The path of the entry, or the name of the file.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getResultFileName(string,entry):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+wing.addEntry("log", resultsFileName("stdout.txt"))
+solver.run()
+print(readText(solver.getResults().getResultFileName("log")))</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getResultFileName(string,entry):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The path; "" if there is no such file or it lies outside of the folder.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getTable(string,name)</source>
@@ -957,6 +1312,35 @@ print(format(7, "%03d") + ".dat", format("wing", "%-8s|"))</translation>
         <translation>The formatted text.</translation>
     </message>
     <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL)</source>
+        <translation>Objects of the project that are written as script text into the folder of a run before the program starts, as the value of an entry. A run fails if the file can't be written or would lie outside of the folder.</translation>
+    </message>
+    <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument0</source>
+        <translation>The name of the written file, relative to the folder of the run.</translation>
+    </message>
+    <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument1</source>
+        <translation>0 for a list of objects, 1 for what a feature definition makes, 2 for what an import has brought.</translation>
+    </message>
+    <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument2</source>
+        <translation>The list of objects for kind 0, else the one object; NULL for none yet.</translation>
+    </message>
+    <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+parameter span(12.5)
+wing.addEntry("shape", geometryExport("shape.txt", 0, [span]))
+print(cruise.getEntryValue("shape"))</translation>
+    </message>
+    <message>
+        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):returnValue</source>
+        <comment>return type: FGeometryExport</comment>
+        <translation>The export, as a value.</translation>
+    </message>
+    <message>
         <source>!Global.getAttribute(FObject,object,string,attribute)</source>
         <translation>The present value of an attribute, the one that its command has set. For a list of objects it is the value that all of them share, and NULL if they differ. A command that isn't an attribute of the object gives NULL, with a warning that suggests the nearest name.</translation>
     </message>
@@ -1013,6 +1397,30 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
         <source>!Global.include(string,file):returnValue</source>
         <comment>return type: bool</comment>
         <translation>True; what fails ends the script.</translation>
+    </message>
+    <message>
+        <source>!Global.inputFile(expression,fileName,expression,saveDirectory=NULL)</source>
+        <translation>A file that is copied into the folder of a run before the program starts, as the value of an entry. The tag of the entry becomes the file's name there. The name can be an expression on the results of another computation, which links the two. A file that can't be read, or that would lie outside of the folder, fails the run.</translation>
+    </message>
+    <message>
+        <source>!Global.inputFile(expression,fileName,expression,saveDirectory=NULL):argument0</source>
+        <translation>The file. A relative name starts at the project file's folder, or at the current folder if the project isn't saved.</translation>
+    </message>
+    <message>
+        <source>!Global.inputFile(expression,fileName,expression,saveDirectory=NULL):argument1</source>
+        <translation>A folder in the folder of the run; NULL for that folder itself.</translation>
+    </message>
+    <message>
+        <source>!Global.inputFile(expression,fileName,expression,saveDirectory=NULL):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+wing.addEntry("mesh", inputFile("samples/wing.msh", "meshes"))
+print(cruise.getEntryValue("mesh"))</translation>
+    </message>
+    <message>
+        <source>!Global.inputFile(expression,fileName,expression,saveDirectory=NULL):returnValue</source>
+        <comment>return type: FInputFile</comment>
+        <translation>The file, as a value.</translation>
     </message>
     <message>
         <source>!Global.isNaN(double,x)</source>
@@ -1204,6 +1612,30 @@ print(span.getValue())</translation>
         <source>!Global.redo():returnValue</source>
         <comment>return type: bool</comment>
         <translation>False if nothing was taken back.</translation>
+    </message>
+    <message>
+        <source>!Global.resultsFileName(expression,fileName,expression,type=0)</source>
+        <translation>A file that the program leaves in the folder of a run, as the value of an entry. The tag of the entry becomes the name. After the run, getResultFileName gives the path of the file.</translation>
+    </message>
+    <message>
+        <source>!Global.resultsFileName(expression,fileName,expression,type=0):argument0</source>
+        <translation>The name, relative to the folder of the run.</translation>
+    </message>
+    <message>
+        <source>!Global.resultsFileName(expression,fileName,expression,type=0):argument1</source>
+        <translation>3 for pure text, 0 for any kind.</translation>
+    </message>
+    <message>
+        <source>!Global.resultsFileName(expression,fileName,expression,type=0):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+wing.addEntry("pressures", resultsFileName("cp.dat", 3))
+print(cruise.getEntryValue("pressures"))</translation>
+    </message>
+    <message>
+        <source>!Global.resultsFileName(expression,fileName,expression,type=0):returnValue</source>
+        <comment>return type: FResultsFileName</comment>
+        <translation>The file, as a value.</translation>
     </message>
     <message>
         <source>!Global.round(double,x)</source>

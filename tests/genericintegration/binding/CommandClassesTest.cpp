@@ -1,0 +1,84 @@
+#include "host/core/FPrototypes.h"
+#include "host/script/FCmdManager.h"
+#include "tests/support/FModelTest.h"
+
+namespace {
+
+// Under these names commands are hidden, looked up and documented; a change of one breaks scripts and other plug-ins.
+const QStringList commandClasses{
+    "FCreateCmdFGenIntCommandFilegenericIntegrationCommandFile",
+    "FAttribCmdFGenIntFilesetContentstring",
+    "FAttribCmdFGenIntFilesetFileNamestring",
+    "FAttribCmdFGenIntFilesetForceWindowsLineEndingsbool",
+    "FCreateCmdFGenIntResultsFilegenericIntegrationResultsFile",
+    "FAttribCmdFGenIntResultsFilesetValuesFObjectList",
+    "FAttribCmdFGenIntResultsFilesetNumberSeparatorbool",
+    "FAttribCmdFGenIntResultsFilesetSpacesAndTabsSeparatorbool",
+    "FAttribCmdFGenIntResultsFilesetRegExprSeparatorstring",
+    "FMemberCmdFGenIntResultsFilesetRegExpSeparatorstring",
+    "FMemberCmdFGenIntResultsFilesetSpaceSeparatorbool",
+    "FMemberCmdFGenIntResultsFilesetTabSeaparatorbool",
+    "FCreateCmdFResultsGenIntgenericIntegrationResultsFDesignint",
+    "FAttribCmdFResultsGenIntsetOutputHandlesFGenIntFileContainer",
+    "FMemberCmdFResultsGenIntgetDataAtunsignedunsigned",
+    "FMemberCmdFResultsGenIntgetDataAtstringunsigned",
+    "FMemberCmdFResultsGenIntgetDataAtdoublestring",
+    "FMemberCmdFResultsGenIntgetDataAtstringstring",
+    "FMemberCmdFResultsGenIntgetLastDataOfRowint",
+    "FMemberCmdFResultsGenIntgetLastDataOfColumnint",
+    "FMemberCmdFResultsGenIntgetAverageOfLastRowsintint",
+    "FMemberCmdFResultsGenIntgetResultTemplateNamestring",
+    "FCreateCmdFConfigurationGenIntgenericIntegrationConfigurationbool",
+    "FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt",
+    "FCreateCmdFDefinitionGenIntgenericIntegrationDefinition",
+    "FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer",
+    "FAttribCmdFDefinitionGenIntsetCurFileFGenIntFile",
+    "FAttribCmdFDefinitionGenIntsetLastFileFGenIntFile",
+    "FCreateCmdFGenIntComputationgenericIntegrationComputation",
+    "FAttribCmdFGenIntComputationsetConfigurationFConfigurationGenInt",
+    "FMemberCmdFGenIntComputationgetResults",
+    "FMemberCmdFGenIntComputationopenSoftwareConnector",
+    // Commands of the host that the plug-in hides by name.
+    "FMemberCmdFCustomComputationgetResults",
+    "FAttribCmdFCustomComputationsetConfigurationFConfigurationCustom",
+    "FAttribCmdFCustomComputationsetCmdFilestring",
+    "FAttribCmdFConfigurationCustomsetDefinitionFDefinitionCustom",
+};
+
+class CommandClassesTest : public FModelTest {};
+
+TEST_F(CommandClassesTest, areKnownUnderTheirExactNames) {
+    QStringList known;
+    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
+        known.append(row->className());
+    }
+    for (const QString& name : commandClasses) {
+        EXPECT_EQ(known.count(name), 1) << name.toStdString();
+        const FObject* prototype = FObject::getPrototype(name);
+        ASSERT_NE(prototype, nullptr) << name.toStdString();
+        EXPECT_EQ(prototype->getClass(), name);
+    }
+    EXPECT_NE(FObject::getPrototype("FAttribCmdSetAverageRows"), nullptr);
+}
+
+TEST_F(CommandClassesTest, typedCommandsHideThoseOfTheHost) {
+    const auto offered = [](const QString& className, const QString& name) {
+        QStringList classes;
+        for (const FCmdRow* row :
+             FCmdManager::instance()->findMembers(FObject::getPrototype(className)->getClassData(), name)) {
+            classes.append(row->className());
+        }
+        return classes;
+    };
+    EXPECT_EQ(offered("FGenIntComputation", "getResults"), QStringList{"FMemberCmdFGenIntComputationgetResults"});
+    EXPECT_EQ(offered("FGenIntComputation", "setConfiguration"),
+              QStringList{"FAttribCmdFGenIntComputationsetConfigurationFConfigurationGenInt"});
+    EXPECT_EQ(offered("FGenIntComputation", "setCmdFile"), QStringList{});
+    EXPECT_EQ(offered("FConfigurationGenInt", "setDefinition"),
+              QStringList{"FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt"});
+    // The name that result templates ask to hide is that of no command, so this one stays.
+    EXPECT_EQ(offered("FGenIntResultsFile", "setForceWindowsLineEndings"),
+              QStringList{"FAttribCmdFGenIntFilesetForceWindowsLineEndingsbool"});
+}
+
+}  // namespace

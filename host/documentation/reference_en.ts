@@ -105,6 +105,50 @@ genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 print(cruise.getPreviewText("wing.inp"))</translation>
     </message>
     <message>
+        <source>!FConfigurationGenInt</source>
+        <translation>The values that one design has for the entries of an integration. Several configurations can share a definition, each for a computation of its own.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.attribute.setDefinition(FDefinitionGenInt,definition)</source>
+        <translation>Sets the definition whose entries the configuration gives values to. The entries start with their default values. Those of a definition set before go, with their values. A definition of another kind gives NULL, with a warning.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.attribute.setDefinition(FDefinitionGenInt,definition):argument0</source>
+        <translation>The definition; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.attribute.setDefinition(FDefinitionGenInt,definition):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise()
+cruise.setDefinition(wing)
+print(cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.creator.genericIntegrationConfiguration(bool,initializeConfiguration=false)</source>
+        <translation>Makes a configuration; setDefinition gives it its entries.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.creator.genericIntegrationConfiguration(bool,initializeConfiguration=false):argument0</source>
+        <translation>Whether all entries are made at once; since setDefinition makes them, it need not be given.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.creator.genericIntegrationConfiguration(bool,initializeConfiguration=false):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt.creator.genericIntegrationConfiguration(bool,initializeConfiguration=false):returnValue</source>
+        <comment>return type: FConfigurationGenInt</comment>
+        <translation>The configuration.</translation>
+    </message>
+    <message>
+        <source>!FConfigurationGenInt:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationConfiguration landing() { .setDefinition(wing); .setEntryValue("Geometry|span", 14) }
+print(cruise.getEntryValue("Geometry|span"), landing.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
         <source>!FCustomComputation</source>
         <translation>A computation whose input comes from a configuration. Before the program starts, the files that entries name are copied or exported into the folder of the run.</translation>
     </message>
@@ -270,6 +314,75 @@ print(wing.getEntryNames())</translation>
         <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 print(wing.getEntryNames(), cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt</source>
+        <translation>The description of one integration of an external program: its entries, and the templates of the files that the program reads and writes. A tag in an input template names an entry by its path.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setCurFile(FGenIntFile,currentFile)</source>
+        <translation>Remembers which template the window of the integration shows. Projects use it; it has no effect on a run.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setCurFile(FGenIntFile,currentFile):argument0</source>
+        <translation>A template of the definition; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setCurFile(FGenIntFile,currentFile):example</source>
+        <translation>genericIntegrationCommandFile in1()
+genericIntegrationDefinition wing() { .setFiles([in1]) }
+wing.setCurFile(in1)</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setFiles(FCONTAINER,files)</source>
+        <translation>Sets the template files, input templates and result templates in one list. The input templates are written before each run, the others are read after it, in this order. The list is replaced as a whole; a file that isn't in it any more lives on. A file that is listed twice is written or read twice.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setFiles(FCONTAINER,files):argument0</source>
+        <translation>The templates; [] for none.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setFiles(FCONTAINER,files):example</source>
+        <translation>genericIntegrationCommandFile in1() { .setFileName("wing.inp") }
+genericIntegrationDefinition wing()
+wing.setFiles([in1])
+print(getAttribute(wing, "setFiles"))</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setLastFile(FGenIntFile,lastFile)</source>
+        <translation>Remembers which template the window of the integration showed before the present one. Projects use it; it has no effect on a run.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setLastFile(FGenIntFile,lastFile):argument0</source>
+        <translation>A template of the definition; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.attribute.setLastFile(FGenIntFile,lastFile):example</source>
+        <translation>genericIntegrationCommandFile in1()
+genericIntegrationDefinition wing() { .setFiles([in1]) }
+wing.setLastFile(in1)</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.creator.genericIntegrationDefinition()</source>
+        <translation>Makes a definition without entries and files; addEntry and setFiles fill it.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.creator.genericIntegrationDefinition():example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["span", 0, 0, "span", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5); .setFiles([in1, out1]) }</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt.creator.genericIntegrationDefinition():returnValue</source>
+        <comment>return type: FDefinitionGenInt</comment>
+        <translation>The definition.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionGenInt:example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["span", 0, 0, "span", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5); .setFiles([in1, out1]) }
+print(wing.getEntryNames())</translation>
     </message>
     <message>
         <source>!FExternComputation</source>
@@ -1342,11 +1455,11 @@ print(cruise.getEntryValue("shape"))</translation>
     </message>
     <message>
         <source>!Global.getAttribute(FObject,object,string,attribute)</source>
-        <translation>The present value of an attribute, the one that its command has set. For a list of objects it is the value that all of them share, and NULL if they differ. A command that isn't an attribute of the object gives NULL, with a warning that suggests the nearest name.</translation>
+        <translation>The present value of an attribute, the one that its command has set. A command that isn't an attribute of the object gives NULL, with a warning that suggests the nearest name.</translation>
     </message>
     <message>
         <source>!Global.getAttribute(FObject,object,string,attribute):argument0</source>
-        <translation>An object, or a list of objects.</translation>
+        <translation>An object; a list has no attributes.</translation>
     </message>
     <message>
         <source>!Global.getAttribute(FObject,object,string,attribute):argument1</source>

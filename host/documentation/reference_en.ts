@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>!FConfiguration.member.getEntryValue(string,path)</source>
-        <translation>The present value of an entry, with its expression evaluated. Numbers are always numbers with decimals.</translation>
+        <translation>The present value of an entry, with its expression evaluated. A number is always a floating point number.</translation>
     </message>
     <message>
         <source>!FConfiguration.member.getEntryValue(string,path):argument0</source>
@@ -162,8 +162,7 @@ print(cruise.getEntryValue("Geometry|span"), landing.getEntryValue("Geometry|spa
     </message>
     <message>
         <source>!FCustomComputation.attribute.setCmdFile(string,fileName):example</source>
-        <translation>genericIntegrationComputation solver()
-if (false) { solver.setCmdFile("input.txt") }</translation>
+        <translation>getObjects("FCustomComputation").setCmdFile("input.txt")</translation>
     </message>
     <message>
         <source>!FCustomComputation.attribute.setConfiguration(FConfigurationCustom,configuration)</source>
@@ -212,7 +211,7 @@ print(solver.getState())</translation>
     </message>
     <message>
         <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type="")</source>
-        <translation>Adds an entry, and the groups of its path that are missing. The configurations of the definition get it at once, with its default. A number counts as one with decimals, also a whole one. An entry without default and type is a group. A path that exists, or that leads through an entry with a value, is refused with a warning.</translation>
+        <translation>Adds an entry, and the groups of its path that are missing. The configurations of the definition get it at once, with its default. A number is kept as a floating point number, also a whole one. An entry without default and type is a group. A path that exists, or that leads through an entry with a value, is refused with a warning.</translation>
     </message>
     <message>
         <source>!FDefinition.member.addEntry(string,path,FObject,default,int,count=1,int,leastCount=-1,bool,hidden=false,string,description="",string,type=""):argument0</source>
@@ -269,7 +268,7 @@ for (path in wing.getEntryNames()) { print(path) }</translation>
     </message>
     <message>
         <source>!FDefinition.member.removeEntry(string,path)</source>
-        <translation>Removes an entry, or a group with all below it. The configurations lose its values. In the input templates its default value takes the place of its tags, so that the files stay whole; without a default the tags stay.</translation>
+        <translation>Removes an entry, or a group with all below it. The configurations lose its values, and expressions that ask for them give NULL, with a warning. In the input templates its default value takes the place of its tags, so that the files stay whole; without a default the tags stay.</translation>
     </message>
     <message>
         <source>!FDefinition.member.removeEntry(string,path):argument0</source>
@@ -288,7 +287,7 @@ print(wing.getEntryNames())</translation>
     </message>
     <message>
         <source>!FDefinition.member.renameEntry(string,path,string,newName)</source>
-        <translation>Renames an entry or a group. The values in the configurations stay; the tags in the input templates get the new path, also those of all entries below a group. A name that the group has already is refused with a warning.</translation>
+        <translation>Renames an entry or a group. The values in the configurations stay; the tags in the input templates get the new path, also those of all entries below a group. Expressions that ask for the old path with getEntryValue don't follow: they give NULL, with a warning, until they are set anew. A name that the group has already is refused with a warning.</translation>
     </message>
     <message>
         <source>!FDefinition.member.renameEntry(string,path,string,newName):argument0</source>
@@ -386,7 +385,7 @@ print(wing.getEntryNames())</translation>
     </message>
     <message>
         <source>!FExternComputation</source>
-        <translation>A computation by an external program: which program is started with what, and its runs. The program is started without a shell, in a folder of its own: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; beside the project file, or in a temporary folder as long as the project isn't saved. When the program of this session ends, in whichever way, so does a program that it has started, with all its children.</translation>
+        <translation>A computation by an external program: which program is started with what, and its runs. The program is started without a shell, in a folder of its own: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; beside the project file, or in a temporary folder as long as the project isn't saved. When merix ends, in whichever way, so does a program that it has started, with all its children.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments)</source>
@@ -416,7 +415,7 @@ solver.setConsoleFiles(false)</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables)</source>
-        <translation>Sets environment variables for the program, beside those of merix itself; one that exists is replaced. The list replaces the one that was set before.</translation>
+        <translation>Sets environment variables for the program, beside those of merix itself; one that exists is replaced. The list replaces the one that was set before. A text without "=" fails the run.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables):argument0</source>
@@ -604,6 +603,85 @@ print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
 }</translation>
     </message>
     <message>
+        <source>!FGenIntComputation</source>
+        <translation>Runs an external program with the input files that its configuration's templates give, and reads the numbers that the result templates describe from the files that it writes.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.attribute.setConfiguration(FConfigurationGenInt,custom configuration)</source>
+        <translation>Sets the configuration that gives the input of the runs. One that depends on the results of this very computation is refused with a message. Without a configuration, a run fails because its input can't be written.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.attribute.setConfiguration(FConfigurationGenInt,custom configuration):argument0</source>
+        <translation>The configuration; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.attribute.setConfiguration(FConfigurationGenInt,custom configuration):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver()
+solver.setConfiguration(cruise)</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.attribute.setConfiguration(FConfigurationGenInt,custom configuration):returnValue</source>
+        <comment>return type: FGenIntComputation</comment>
+        <translation>The computation.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.creator.genericIntegrationComputation()</source>
+        <translation>Makes a computation; before it can run, it needs at least setConfiguration and setExecutable. Its name is that of the folder of its runs.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.creator.genericIntegrationComputation():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+print(solver.run())</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.creator.genericIntegrationComputation():returnValue</source>
+        <comment>return type: FGenIntComputation</comment>
+        <translation>The computation.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.member.getResults()</source>
+        <translation>The results of the last run, or of the one that goes on. Each run has an object of its own: one that is kept in a variable keeps its numbers when the computation runs again.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.member.getResults():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getDataAt("CL", 0))</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.member.getResults():returnValue</source>
+        <comment>return type: FResultsGenInt</comment>
+        <translation>The results; NULL before the first run.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.member.openSoftwareConnector()</source>
+        <translation>Shows the window in which the templates of the computation are edited, and makes it at the first time. It belongs to one computation and is locked while that runs. Without windows, as in "merix script", nothing happens.</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation.member.openSoftwareConnector():example</source>
+        <translation>genericIntegrationComputation solver()
+solver.openSoftwareConnector()</translation>
+    </message>
+    <message>
+        <source>!FGenIntComputation:example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span &lt;entry&gt;Geometry|span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["span", 0, 0, "span", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5); .setFiles([in1, out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("cat"); .setArguments(["wing.inp"]) }
+for (span in [10, 12, 14]) {
+    cruise.setEntryValue("Geometry|span", span)
+    if (solver.run()) { print(span, solver.getResults().getDataAt("span", 0)) }
+}</translation>
+    </message>
+    <message>
         <source>!FGenIntFile</source>
         <translation>A template: a sample of one input or output file of the external program, and the name that the real file has in the folder of a run. It is the common part of genericIntegrationCommandFile (a file that is written) and genericIntegrationResultsFile (a file that is read).</translation>
     </message>
@@ -721,7 +799,7 @@ occurrence: First or Last, if the anchor stands there more than once
 type: "FDouble" for a number, "FFileName" for the name of a further file to import
 import type: for such a file its kind, "text" or "table"; else ""
 average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
-rows: over how many rows with a number; NULL without an average
+rows: how many lines from the end; lines without a number don't count in the mean; NULL without an average
 
 The last two can be left out together. An element that is a shorter list, or no list, gives a blank value. The list is replaced as a whole.</translation>
     </message>
@@ -901,6 +979,255 @@ print(span.getValue(), span + 1)</translation>
 parameter area(span * 1.2)
 span.setValue(14)
 print(area.getValue())</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt</source>
+        <translation>The results of one run of a generic computation: a table for each result template. The commands that name no table read the first one; the others are reached by getTable. What can't be found is NaN rather than an error.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.attribute.setOutputHandles(FCONTAINER,files)</source>
+        <translation>Sets the result templates that the files are read with. Each run sets those of its definition; rereadResults does so again. The tables are made anew when a number is next asked for, also if the list is the same.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.attribute.setOutputHandles(FCONTAINER,files):argument0</source>
+        <translation>The result templates; [] for none. Other templates in the list are passed over.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.attribute.setOutputHandles(FCONTAINER,files):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+solver.getResults().setOutputHandles([out1])</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.creator.genericIntegrationResults(FDesign,variant=NULL,int,computationId=0)</source>
+        <translation>Brings results back when a project is loaded. A script gets results from a run instead, by getResults. Results without a design aren't saved.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.creator.genericIntegrationResults(FDesign,variant=NULL,int,computationId=0):argument0</source>
+        <translation>The design that the run was made for; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.creator.genericIntegrationResults(FDesign,variant=NULL,int,computationId=0):argument1</source>
+        <translation>The number of the computation; 0 if it is unknown.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.creator.genericIntegrationResults(FDesign,variant=NULL,int,computationId=0):example</source>
+        <translation>genericIntegrationResults results()
+print(results.getTableNames())</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.creator.genericIntegrationResults(FDesign,variant=NULL,int,computationId=0):returnValue</source>
+        <comment>return type: FResultsGenInt</comment>
+        <translation>The results.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getAverageOfLastRows(int,numberOfRows,int,column=0)</source>
+        <translation>The mean of a column over the last rows of the first table: that of the first result template; over all rows if there are fewer. A NaN among them makes it NaN, and so does a number of rows below 1. To average over lines of the output file, use the average of setValues.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getAverageOfLastRows(int,numberOfRows,int,column=0):argument0</source>
+        <translation>Over how many rows.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getAverageOfLastRows(int,numberOfRows,int,column=0):argument1</source>
+        <translation>The column, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getAverageOfLastRows(int,numberOfRows,int,column=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getAverageOfLastRows(2))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getAverageOfLastRows(int,numberOfRows,int,column=0):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The mean, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(double,row,string,column header)</source>
+        <translation>The number in a row and the column of a name of the first table: that of the first result template. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):argument0</source>
+        <translation>The row, from 0; what stands behind the decimal point is dropped.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):argument1</source>
+        <translation>The name of the column; case matters.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getDataAt(0, "x"))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header)</source>
+        <translation>The number in the row and the column of these names of the first table: that of the first result template. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header):argument0</source>
+        <translation>The name of the value; case matters.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header):argument1</source>
+        <translation>The name of the column; case matters.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getDataAt("CL", "x"))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,unsigned,column)</source>
+        <translation>The value of a name of the first table: that of the first result template. A name that isn't there gives NaN; of several with the name the first counts.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,unsigned,column):argument0</source>
+        <translation>The name of the value; case matters.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,unsigned,column):argument1</source>
+        <translation>The column, from 0; a result file has only column 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,unsigned,column):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getDataAt("CL", 0))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(string,row header,unsigned,column):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column)</source>
+        <translation>The number in a row and a column of the first table: that of the first result template. Outside of the table it is NaN. The rows stand in the order in which the values stand in the file.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column):argument1</source>
+        <translation>The column, from 0; a result file has only column 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getDataAt(0, 0))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0)</source>
+        <translation>The number in the last row and a column of the first table: that of the first result template: of a result file, the value that stands last in it.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0):argument0</source>
+        <translation>The column, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getLastDataOfColumn())</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfRow(int,row=0)</source>
+        <translation>The last number of a row of the first table: that of the first result template. Outside of the table it is NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfRow(int,row=0):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfRow(int,row=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getLastDataOfRow(1))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getLastDataOfRow(int,row=0):returnValue</source>
+        <comment>return type: double</comment>
+        <translation>The number, or NaN.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getResultTemplateName(string,fileName)</source>
+        <translation>The path of a result file: that of this name in the folder of the run. The file needn't be there. If no result template of the computation's definition has the name, or the computation is gone, it is empty.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getResultTemplateName(string,fileName):argument0</source>
+        <translation>The file name as the template has it; case matters.</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getResultTemplateName(string,fileName):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(readText(solver.getResults().getResultTemplateName("stdout.txt")))</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt.member.getResultTemplateName(string,fileName):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The path, or "".</translation>
+    </message>
+    <message>
+        <source>!FResultsGenInt:example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+results = solver.getResults()
+print(results.getDataAt("CL", 0), results.getTable("stdout.txt").getElementAt("CD"))</translation>
     </message>
     <message>
         <source>!FResultsGeneric</source>

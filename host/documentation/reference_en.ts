@@ -1831,7 +1831,9 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
     </message>
     <message>
         <source>!Global.include(string,file):example</source>
-        <translation>include("cantilever.merix")</translation>
+        <translation>// in the folder examples/cantilever
+include("cantilever.merix")
+print(table.getElementAt("deflection"))</translation>
     </message>
     <message>
         <source>!Global.include(string,file):returnValue</source>
@@ -2028,7 +2030,8 @@ print("span:", span, "m, area:", span * 1.2, "m2")</translation>
     </message>
     <message>
         <source>!Global.readText(string,file):example</source>
-        <translation>text = readText("filter.cir")
+        <translation>// in the folder examples/bandpass
+text = readText("filter.cir")
 if (text != NULL) { print(text) }</translation>
     </message>
     <message>

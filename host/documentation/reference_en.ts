@@ -1786,7 +1786,7 @@ print(cruise.getEntryValue("shape"))</translation>
     </message>
     <message>
         <source>!Global.getAttribute(FObject,object,string,attribute):argument0</source>
-        <translation>An object; a list has no attributes.</translation>
+        <translation>An object, or a list of objects: then the value that all of them share, and NULL if they differ.</translation>
     </message>
     <message>
         <source>!Global.getAttribute(FObject,object,string,attribute):argument1</source>

@@ -58,6 +58,12 @@ QString indented(const QString& text, const QString& prefix) {
     return prefix + QString(text).replace(QLatin1Char('\n'), QLatin1Char('\n') + prefix) + QLatin1Char('\n');
 }
 
+QString classText(const QString& className) {
+    const QString key = QLatin1Char('!') + className;
+    return FTypeDocu::translate(key) + QLatin1Char('\n') +
+           indented(FTypeDocu::translate(key + QStringLiteral(":example")), QStringLiteral("    "));
+}
+
 QJsonObject toObject(const FCmdRow& row) {
     const Texts texts(row);
     QJsonArray arguments;
@@ -118,6 +124,7 @@ QString FCmdReference::toText() const {
             heading = owner;
             text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + heading + QLatin1Char('\n') +
                     QString(heading.size(), QLatin1Char('=')) + QLatin1Char('\n');
+            text += row->kind == FCmdRow::Kind::Global ? QString() : classText(heading);
         }
         const Texts texts(*row);
         text += QLatin1Char('\n') + signature(*row) + QStringLiteral("   [") + row->kindWord() +

@@ -59,8 +59,10 @@ void exitScript(int code) {
 }
 
 FExpr<FObject> getAttribute(const FExpr<FObject>& object, const QString& name) {
-    const FObject* receiver = object.getObject();
-    for (const FObject* attribute : FCmdManager::instance()->getAttributesByReceiver(receiver)) {
+    FObject* receiver = object.getObject();
+    const FObjectList* list = receiver->castToObjectList();
+    const FObject* type = list ? list->getElementType() : receiver;
+    for (const FObject* attribute : FCmdManager::instance()->getAttributesByReceiver(type)) {
         const auto* prototype = dynamic_cast<const FAttribCmd*>(attribute);
         if (prototype && prototype->getName() == name) {
             FExprBase value;
@@ -71,8 +73,7 @@ FExpr<FObject> getAttribute(const FExpr<FObject>& object, const QString& name) {
             return FExpr<FObject>(value);
         }
     }
-    FLogMsg::warning(QStringLiteral("getAttribute"),
-                     FCmdManager::instance()->unknownMember(receiver->getClassData(), name),
+    FLogMsg::warning(QStringLiteral("getAttribute"), FCmdManager::instance()->unknownMember(type->getClassData(), name),
                      QStringLiteral("result is NULL"));
     return {};
 }

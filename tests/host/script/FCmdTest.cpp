@@ -86,7 +86,7 @@ TEST_F(FCmdTest, aListActsOnItsElements) {
 }
 
 TEST_F(FCmdTest, theCurrentValueOfASelectionIsTheCommonOne) {
-    EXPECT_EQ(textOf("getAttribute([a,b], \"setNumber\")"), "NULL");  // a list has no such attribute of its own
+    EXPECT_EQ(textOf("getAttribute([a,b], \"setNumber\")"), "0");
     const auto value = [](const QString& receiver) {
         const auto* prototype =
             dynamic_cast<const FAttribCmd*>(FObject::getPrototype("FAttribCmdFThingsetNumberdouble"));

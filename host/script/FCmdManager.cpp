@@ -4,8 +4,6 @@
 #include "host/script/FCreateCmd.h"
 #include "host/script/FMemberCmd.h"
 
-#include <QByteArray>
-
 #include <algorithm>
 
 namespace {
@@ -63,9 +61,9 @@ void FCmdManager::addTable(FClassData& data) {
 
 void FCmdManager::addPrototype(FCmdRow& row) {
     const Family family = familyOf(row.kind);
-    // Lives to the end of the program, like the name that it keeps.
-    const auto* name = new QByteArray(row.className().toLatin1());
-    row.commandClass = new FClassData(name->constData(), family.data);
+    mClassNames.push_back(row.className().toLatin1());
+    // Lives to the end of the program.
+    row.commandClass = new FClassData(mClassNames.back().constData(), family.data);
     FPrototypes::build(*row.commandClass, FFamily::Object, [&] { return family.make(row); });
 }
 

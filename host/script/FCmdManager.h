@@ -2,8 +2,11 @@
 
 #include "host/script/FCmdTable.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QSet>
+
+#include <deque>
 
 /** All commands: which there are, which are hidden for a class, and which a name stands for. */
 class FCmdManager {
@@ -55,6 +58,7 @@ class FCmdManager {
     QHash<QString, std::vector<const FCmdRow*>> mCreators;
     QHash<QString, std::vector<const FCmdRow*>> mMembers;
     std::vector<const FCmdRow*> mRows;
+    std::deque<QByteArray> mClassNames;  // of the command classes, which keep pointers to them
 };
 
 /** ` (did you mean "name"?)`, or nothing if no known name is near. */

@@ -5,7 +5,9 @@
 #include "host/run/FExternComputation.h"
 #include "tests/support/FModelTest.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -50,7 +52,12 @@ TEST_F(FPathManagerTest, keepsRunsBesideTheProject) {
 }
 
 TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
+    // The folder stays, but not that of a test.
+    const QTemporaryDir place;
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(place.path()));
     const QString folder = mPaths->getDesignDir({});
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
     EXPECT_TRUE(QFileInfo(QFileInfo(folder).path()).isDir()) << folder.toStdString();
     EXPECT_EQ(mPaths->getDesignDir({}), folder);
     EXPECT_LE(log().size(), 1) << "told once";

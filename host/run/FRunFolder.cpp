@@ -6,7 +6,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <functional>
@@ -111,9 +110,9 @@ void FRunFolder::noteLeft() const {
             names.append(entry.key().toUtf8());
         }
     }
-    QSaveFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
+    // Not through QSaveFile, which waits for the disk: that takes longer than many a run, and half a list harms nobody.
+    QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
     if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && notes.open(QIODevice::WriteOnly)) {
         notes.write(names.join(separator));
-        notes.commit();
     }
 }

@@ -49,10 +49,10 @@ void FComputationResults::followFiles(const QString& from, const QString& to) {
         const QString path = results->getResultPath();
         if (path == from) {
             results->setResultPath(to);
-        } else if (path == to && results->getBlock()->handles > 0) {
-            results->detachFromFiles();
-        } else if (path == to) {
+        } else if (path == to && results->getRun() && results->getBlock()->handles == 0) {
             FManaged::destroy(results);
+        } else if (path == to) {
+            results->detachFromFiles();
         }
     }
 }

@@ -41,7 +41,8 @@ class FComputationResults : public FClass<FComputationResults, FResults> {
 
     /**
      * The files in a folder are about to be moved to another one, where all is replaced: results that are read from
-     * the one follow; those of the other one are detached if somebody has a handle on them, and destroyed if not.
+     * the one follow. Those of the other one are detached; they are destroyed if a run made them and nobody has a
+     * handle on them.
      */
     static void followFiles(const QString& from, const QString& to);
 

@@ -190,10 +190,15 @@ TEST_F(FExternComputationTest, neverShowsANumberOfAnEarlierRun) {
     EXPECT_EQ(FObjectManager::instance()->getManaged(FProbeResults::null()).size(), 3);
 
     mProbe->mCanWrite = true;
-    EXPECT_TRUE(mProbe->runScript("echo 6 > out.dat"));
-    EXPECT_EQ(mProbe->number(), 6);
-    EXPECT_EQ(FObjectManager::instance()->getManaged(FProbeResults::null()).size(), 3)
-        << "results that nobody refers to go with their files";
+    auto* declared = new FProbeResults(FExpr<FExternComputation>(mProbe));
+    declared->registerObject();
+    for (int number = 6; number < 9; ++number) {
+        EXPECT_TRUE(mProbe->runScript(QString("echo %1 > out.dat").arg(number)));
+        EXPECT_EQ(mProbe->number(), number);
+    }
+    EXPECT_EQ(FObjectManager::instance()->getManaged(FProbeResults::null()).size(), 4)
+        << "the first ones, the declared ones, and those of the last two runs";
+    EXPECT_TRUE(declared->isInModel());
 }
 
 TEST_F(FExternComputationTest, failsWhenOldFilesCanNotBeMovedAside) {

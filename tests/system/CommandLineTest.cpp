@@ -5,9 +5,8 @@ namespace {
 class CommandLineTest : public FProgramTest {};
 
 TEST_F(CommandLineTest, wrongCallsAreToldWithCode2) {
-    for (const QStringList& arguments :
-         {QStringList{}, QStringList{"scrpt"}, QStringList{"script"}, QStringList{"--no-such-option"},
-          QStringList{"commands", "FThng"}}) {
+    for (const QStringList& arguments : {QStringList{}, QStringList{"scrpt"}, QStringList{"script"},
+                                         QStringList{"--no-such-option"}, QStringList{"commands", "FThng"}}) {
         const Outcome outcome = merix(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(outcome.output, "");

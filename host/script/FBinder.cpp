@@ -2,6 +2,7 @@
 
 #include "host/core/FPrototypes.h"
 #include "host/script/FCmdManager.h"
+#include "host/script/FListLimits.h"
 #include "host/script/FMemberCmd.h"
 #include "host/script/FOperatorCmd.h"
 
@@ -68,6 +69,11 @@ FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
         return FExprBase(new FString(expression.name));
     }
     FExprBase found = mNames.find(expression.name);
+    if (found.isEmpty() && mNames.isGone(expression.name)) {
+        return fail(
+            expression.place,
+            QStringLiteral("the object \"%1\" has been destroyed, or its creation undone").arg(expression.name));
+    }
     if (found.isEmpty()) {
         return fail(expression.place, QStringLiteral("nothing is named \"%1\"%2")
                                           .arg(expression.name, didYouMean(expression.name, mNames.getNames())));
@@ -120,7 +126,8 @@ FExprBase FBinder::bindList(const FSyntaxExpr& expression, Use use) {
     for (const FExprBase& element : elements) {
         list->add(FExpr<FObject>(element));
     }
-    return handle;
+    const QString fault = listFault(*list);
+    return fault.isEmpty() ? handle : fail(expression.place, fault);
 }
 
 bool FBinder::mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use) {

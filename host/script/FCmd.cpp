@@ -3,6 +3,7 @@
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
+#include "host/core/FQuotedText.h"
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
 
@@ -14,6 +15,15 @@ namespace {
 
 /** The command whose operation is at work, the innermost one. */
 const FCmd* running = nullptr;
+
+/** A value in a message: texts in quotes, and long ones cut. */
+QString shown(const FExprBase& handle) {
+    constexpr int longest = 60;
+    const FObject* object = handle.getObject();
+    const auto* text = dynamic_cast<const FString*>(object);
+    const QString whole = !object ? QStringLiteral("nothing") : text ? quoteText(text->getValue()) : handle.toString();
+    return whole.size() > longest ? whole.left(longest) + QStringLiteral("…") : whole;
+}
 
 }  // namespace
 
@@ -131,8 +141,7 @@ bool FCmd::convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString
         const bool fits = argument.type.convert(handle, value) || (acceptsNull && cmdtype::isScriptNull(handle));
         if (!fits) {
             reason = isGiven ? QStringLiteral("argument %1 (%2) must be of type %3, but is %4")
-                                   .arg(QString::number(given), argument.name, argument.type.script,
-                                        handle.getObject() ? handle.toString() : QStringLiteral("nothing"))
+                                   .arg(QString::number(given), argument.name, argument.type.script, shown(handle))
                              : QStringLiteral("argument %1 (%2, of type %3) is missing")
                                    .arg(QString::number(given), argument.name, argument.type.script);
             return false;

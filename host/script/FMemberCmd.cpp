@@ -2,6 +2,7 @@
 
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdParser.h"
+#include "host/script/FListLimits.h"
 
 #include <algorithm>
 
@@ -139,6 +140,11 @@ FExprBase FMemberCmd::actOnList(FObjectList& list) const {
     }
     if (!isKnown) {
         warn(FCmdManager::instance()->unknownMember(list.getElementType()->getClassData(), getName()));
+        return {};
+    }
+    const QString fault = listFault(*results);
+    if (!fault.isEmpty()) {
+        warn(fault);
         return {};
     }
     return keep;

@@ -1,5 +1,7 @@
 #include "host/script/FOperatorCmd.h"
 
+#include "host/script/FListLimits.h"
+
 #include <cmath>
 #include <optional>
 
@@ -10,6 +12,9 @@ namespace {
 
 /** Whole numbers beyond this aren't exact in a double. */
 constexpr double mostWhole = 9007199254740992.0;
+
+/** A loop that doubles a text would soon ask for more memory than there is. */
+constexpr int longestText = 100'000'000;
 
 struct OperatorText {
     const char* text;
@@ -212,6 +217,14 @@ FExprBase FOperatorCmd::decide() const {
     return FExprBase(new FBool(!deciding));
 }
 
+FExprBase FOperatorCmd::join(const QString& left, const QString& right) const {
+    if (left.size() > longestText - right.size()) {
+        warn(QStringLiteral("the text would be longer than %1 characters").arg(longestText));
+        return {};
+    }
+    return FExprBase(new FString(left + right));
+}
+
 FExprBase FOperatorCmd::combine(FOperator op, const FExprBase& left, const FExprBase& right) const {
     const FObject* a = valueObject(left);
     const FObject* b = valueObject(right);
@@ -231,7 +244,7 @@ FExprBase FOperatorCmd::combine(FOperator op, const FExprBase& left, const FExpr
     const auto* basicA = dynamic_cast<const FBasicType*>(a);
     const auto* basicB = dynamic_cast<const FBasicType*>(b);
     if (op == FOperator::Add && (text || other) && basicA && basicB) {
-        return FExprBase(new FString(basicA->toPlainString() + basicB->toPlainString()));
+        return join(basicA->toPlainString(), basicB->toPlainString());
     }
     if (op == FOperator::Equal || op == FOperator::NotEqual) {
         const std::optional<bool> p = asBool(left);
@@ -259,6 +272,11 @@ FExprBase FListCmd::execute() const {
     FExprBase result(list);
     for (const FExprBase& element : getArguments()) {
         list->add(FExpr<FObject>(element.getObject()));
+    }
+    const QString fault = listFault(*list);
+    if (!fault.isEmpty()) {
+        warn(fault);
+        return {};
     }
     return result;
 }

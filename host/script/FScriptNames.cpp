@@ -16,6 +16,16 @@ bool FScriptNames::isObject(const QString& name) const {
     return mDeclared.value(name).isValid() || FObjectManager::instance()->find(name);
 }
 
+bool FScriptNames::isGone(const QString& name) const {
+    return mDeclared.contains(name) && !isObject(name);
+}
+
 QStringList FScriptNames::getNames() const {
-    return QStringList(mVariables.keys()) + mDeclared.keys() + FObjectManager::instance()->getNames();
+    QStringList names = QStringList(mVariables.keys()) + FObjectManager::instance()->getNames();
+    for (auto declared = mDeclared.begin(); declared != mDeclared.end(); ++declared) {
+        if (declared->isValid()) {
+            names.append(declared.key());
+        }
+    }
+    return names;
 }

@@ -15,6 +15,8 @@ class FScriptNames {
     /** A variable's value, or an object; an empty handle if the name is unknown. */
     FExprBase find(const QString& name) const;
     bool isObject(const QString& name) const;
+    /** Whether the script declared an object of that name which isn't there any more. */
+    bool isGone(const QString& name) const;
     void setVariable(const QString& name, const FExprBase& value) { mVariables.insert(name, value); }
     void setDeclared(const QString& name, const FExprBase& object) { mDeclared.insert(name, object); }
     QStringList getNames() const;

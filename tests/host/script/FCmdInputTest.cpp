@@ -33,6 +33,13 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
     EXPECT_TRUE(logHolds("test:1:6: setNumber: argument 1 (number) must be of type double"));
 }
 
+TEST_F(FCmdInputTest, aDestroyedObjectIsCalledSo) {
+    EXPECT_FALSE(run("thing a()\ndestroy(a)\nprint(a)"));
+    EXPECT_TRUE(logHolds("test:3:7: the object \"a\" has been destroyed"));
+    EXPECT_TRUE(run("thing a()\ndestroy(a)\nundo()\na.setNumber(\"1\")"));
+    EXPECT_TRUE(logHolds("must be of type double, but is \"1\""));
+}
+
 TEST_F(FCmdInputTest, aFailedStatementLeavesNothingBehind) {
     EXPECT_FALSE(run("thing a(1)\nthing b(2) {\n.setText(\"x\")\n.setNothing(1)\n}\nthing c()"));
     EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"a"});
@@ -85,6 +92,16 @@ TEST_F(FCmdInputTest, longRowsAndDeepNestingDontUseUpTheStack) {
     run("x = a" + QStringLiteral(".setNumber(1)").repeated(100'000));
     run("thing c(" + QString("-").repeated(100'000) + "1)");
     EXPECT_GE(log().size(), 3);
+}
+
+TEST_F(FCmdInputTest, listsAndTextsThatGrowWithoutEndAreRefused) {
+    EXPECT_FALSE(run("x = [1]\nwhile (true) { x = [x] }"));
+    EXPECT_TRUE(logHolds("levels deep"));
+    EXPECT_FALSE(run("x = [1]\nwhile (true) { x = [x,x] }"));
+    EXPECT_TRUE(logHolds("1000000 elements"));
+    EXPECT_TRUE(run("x = [1]\ni = 0\nwhile (i < 300) { x = [x,i+1]\n i = i+1 }\nprint(x)"));
+    EXPECT_TRUE(run("x = \"0123456789\"\nwhile (x != NULL) { x = x+x }"));
+    EXPECT_TRUE(logHolds("100000000 characters"));
 }
 
 }  // namespace

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+class FObjectList;
+
+/**
+ * Lists of a script hold lists; what would use up the stack or never come to an end when it is walked over is refused.
+ * Gives the reason, or an empty text for a list within the limits.
+ */
+QString listFault(const FObjectList& list);

@@ -5,6 +5,8 @@
 #include "host/core/FObjectList.h"
 #include "host/core/FQuotedText.h"
 
+#include <limits>
+
 FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
                                            &FGenIntResultsFileValue::fields);
 
@@ -114,7 +116,9 @@ void FGenIntResultsFileValue::setAverage(const std::vector<FExpr<FObject>>& elem
     }
     const FBasicType* rows = elements.size() > 8 ? valueOf(elements[8]) : nullptr;
     if (rows) {
-        auto* number = new FUnsigned(static_cast<unsigned int>(qMax(0, rows->toInt())));
+        constexpr double most = std::numeric_limits<unsigned int>::max();
+        const double given = rows->toDouble();
+        auto* number = new FUnsigned(given > 0 ? static_cast<unsigned int>(qMin(given, most)) : 0);
         setNumAverageRows(FExpr<FUnsigned>(static_cast<const FObject*>(number)));
     }
 }

@@ -66,6 +66,11 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
         history().toStdString(),
         QString(saved).replace("\"v\",0,1,\"\",\"Last\",\"\"", "\"v\",0,1,\"\",\"Last\",\"FDouble\"").toStdString());
 
+    const QString allRows = "[[\"v\",0,0,\"\",\"Last\",\"FDouble\",\"\",1,4294967295]]";
+    run("out1.setValues(" + allRows + ")");
+    EXPECT_EQ(history(), allRows);
+    run("out1.setValues(" + saved + ")");
+
     file->setSpaceSeparator(true);
     const auto* copy = dynamic_cast<FGenIntResultsFile*>(file->clone());
     EXPECT_TRUE(copy->getSpacesAndTabsSeparator());

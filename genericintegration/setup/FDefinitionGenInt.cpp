@@ -131,11 +131,13 @@ void FDefinitionGenInt::addFile(const FExpr<FGenIntFile>& file) {
 }
 
 void FDefinitionGenInt::removeFile(const FExpr<FGenIntFile>& file) {
-    for (int count = mFiles.removeAll(file); count > 0; --count) {
-        file.unregisterClient(this);
+    // The handle given may be one of the lists' own.
+    const FExpr<FGenIntFile> removed = file;
+    for (int count = mFiles.removeAll(removed); count > 0; --count) {
+        removed.unregisterClient(this);
     }
-    mCommandFiles.removeAll(file);
-    mResultsFiles.removeAll(file);
+    mCommandFiles.removeAll(removed);
+    mResultsFiles.removeAll(removed);
     filesChanged();
 }
 
@@ -156,13 +158,15 @@ void FDefinitionGenInt::deleteFile(FExpr<FGenIntFile> file) {
 }
 
 void FDefinitionGenInt::setFiles(const Files& files) {
+    // The list given may be one of the definition's own.
+    const Files wanted = files;
     for (const FExpr<FGenIntFile>& file : mFiles) {
         file.unregisterClient(this);
     }
     mFiles.clear();
     mCommandFiles.clear();
     mResultsFiles.clear();
-    for (const FExpr<FGenIntFile>& file : files) {
+    for (const FExpr<FGenIntFile>& file : wanted) {
         addFile(file);
     }
     filesChanged();

@@ -57,6 +57,11 @@ TEST_F(FDefinitionGenIntTest, listsAreTypedAndKeepTheOrderOfAdding) {
     EXPECT_EQ(names(definition->getFiles()), (QStringList{"out", "more"}));
     EXPECT_EQ(names(definition->getCommandFiles()), QStringList{"more"});
     EXPECT_FALSE(definition->dependsOn(in));
+    definition->setFiles(definition->getFiles());
+    EXPECT_EQ(names(definition->getFiles()), (QStringList{"out", "more"})) << "given its own list";
+    definition->removeFile(definition->getFiles().first());
+    EXPECT_EQ(names(definition->getFiles()), QStringList{"more"});
+    EXPECT_FALSE(definition->dependsOn(out)) << "given a handle of its own list";
     EXPECT_FALSE(definition->isCurCommandFile());
     definition->setCurFile(File(more));
     EXPECT_TRUE(definition->isCurCommandFile());

@@ -219,6 +219,9 @@ void FExternComputation::runExternalProcess() {
 }
 
 QString FExternComputation::prepareRun() const {
+    if (!mAttempt) {
+        return {};
+    }
     QStringList named = getReadFiles();
     named << outputFile() << errorFile();
     QString reason;
@@ -232,7 +235,9 @@ bool FExternComputation::copyInputFiles(const QString& folder) const {
 }
 
 void FExternComputation::finalizeRun() const {
-    mAttempt->folder.noteLeft();
+    if (mAttempt) {
+        mAttempt->folder.noteLeft();
+    }
 }
 
 void FExternComputation::finishRun() {

@@ -90,7 +90,8 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     void leaveModel() override;
 
     // ---- steps of a run, for derived classes ----
-    /** Before anything is written: makes room in the folder. Returns what went wrong, for the user. */
+    /** Before anything is written: makes room in the folder. Returns what went wrong, for the user. Idle without a run.
+     */
     virtual QString prepareRun() const;
     virtual bool copyInputFiles(const QString& folder) const;
     virtual bool doExports() const { return true; }
@@ -98,7 +99,7 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     virtual bool writeOutputFile() const { return true; }
     virtual void computationStarted() const {}
     virtual void computationFinished() const {}
-    /** After the program: notes what it left. */
+    /** After the program: notes what it left. Idle without a run. */
     virtual void finalizeRun() const;
     /** Gives the results what they are read with. */
     virtual void applyOutputHandles(FComputationResults* results) const { Q_UNUSED(results) }

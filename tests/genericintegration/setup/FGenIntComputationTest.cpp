@@ -6,6 +6,8 @@
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace {
@@ -25,6 +27,7 @@ class FGenIntComputationTest : public FIntegrationTest {
  protected:
     QStringList mSignals;
     QObject mContext;
+    QString mSaved = savedModel();
 };
 
 class FWindows : public FUserInterface {
@@ -87,6 +90,36 @@ TEST_F(FGenIntComputationTest, offersTypedCommandsOnly) {
     ASSERT_TRUE(list && list->isSelectionSet());
     EXPECT_EQ(list->count(), 2);
     EXPECT_EQ(evaluate("[comp].getResults()").getObject(), results());
+}
+
+TEST_F(FGenIntComputationTest, outlivesWhatHappensInTheMiddleOfARun) {
+    for (const QString event : {"destroy(def)", "destroy(conf)", "destroy(comp)", "destroy(square)",
+                                "comp.setConfiguration(NULL)", "destroy(comp.getResults())"}) {
+        ASSERT_TRUE(run("ok = comp.run()")) << event.toStdString() << logText().toStdString();
+        ASSERT_EQ(textOf("comp.getResults().getDataAt(\"f\",0)"), "4") << event.toStdString();
+        mSignals.clear();
+        ASSERT_TRUE(run("comp.setArguments([\"-c\", \"sleep 0.2; echo f 7 > Out.txt\"])"));
+        FGenIntComputation* running = computation();
+        const FExprBase keep(running);
+        const FExpr<FComputationResults> before = running->getResults();
+        ASSERT_TRUE(computation()->run(false));
+        ASSERT_TRUE(run(event)) << logText().toStdString();
+        while (!running->canRun()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        EXPECT_EQ(mSignals.filter("ended").size(), 1) << event.toStdString();
+        ASSERT_TRUE(FHistory::instance()->undo());
+        ASSERT_TRUE(FHistory::instance()->undo());
+        EXPECT_EQ(savedModel(), mSaved) << event.toStdString();
+        EXPECT_EQ(dynamic_cast<FResultsGenInt*>(before.ptr())->getDataAt("f", 0), 4) << event.toStdString();
+    }
+}
+
+TEST_F(FGenIntComputationTest, hasStepsThatAreIdleWithoutARun) {
+    ASSERT_TRUE(run("ok = comp.run()"));
+    EXPECT_EQ(computation()->prepareRun(), "");
+    computation()->finalizeRun();
+    EXPECT_EQ(results()->getDataAt("f", 0), 4) << "nothing was moved aside";
 }
 
 TEST_F(FGenIntComputationTest, undoesItsSettings) {

@@ -6,6 +6,17 @@
 #include <algorithm>
 #include <utility>
 
+FHistory::ModelChange::ModelChange(FManaged* changed, bool isCreated)
+    : object(changed), managed(changed), created(isCreated) {
+    managed->holdByStep(true);
+}
+
+FHistory::ModelChange::~ModelChange() {
+    if (!object.isEmpty()) {
+        managed->holdByStep(false);
+    }
+}
+
 FHistory* FHistory::instance() {
     // Never destroyed: it holds objects whose destructors use other parts of the program.
     static auto* history = new FHistory;
@@ -114,7 +125,7 @@ void FHistory::touch(FRecorded* object, bool whole) {
 
 void FHistory::recordCreation(FManaged* object) {
     if (mDepth > 0 && isRecording()) {
-        mOpen.model.push_back({FExprBase(object), object, true});
+        mOpen.model.emplace_back(object, true);
     }
 }
 
@@ -130,7 +141,7 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
             touch(recorded, true);
         }
     }
-    mOpen.model.push_back({FExprBase(object), object, false});
+    mOpen.model.emplace_back(object, false);
 }
 
 bool FHistory::undo() {

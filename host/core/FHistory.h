@@ -47,7 +47,13 @@ class FHistory {
  private:
     friend class FHistoryBlocker;
 
+    /** Keeps the object as long as it can bring it back. */
     struct ModelChange {
+        ModelChange(FManaged* changed, bool isCreated);
+        ~ModelChange();
+        ModelChange(ModelChange&&) noexcept = default;
+        ModelChange& operator=(ModelChange&&) = delete;
+
         FExprBase object;
         FManaged* managed;
         bool created;

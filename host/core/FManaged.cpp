@@ -111,11 +111,30 @@ bool FManaged::destroy(FManaged* object, bool tellClients) {
     object->leave();
     object->mLeaving = false;
     if (tellClients) {
-        for (const FObject* client : object->getClients()) {
-            client->setOutOfDate(true);
-        }
+        object->tellGone();
+    }
+    if (object->mHeldBySteps == 0) {
+        object->end();
     }
     return true;
+}
+
+void FManaged::tellGone() const {
+    for (const FObject* client : getClients()) {
+        client->setOutOfDate(true);
+    }
+}
+
+void FManaged::holdByStep(bool hold) {
+    mHeldBySteps += hold ? 1 : -1;
+    if (mHeldBySteps == 0 && !mInModel) {
+        end();
+    }
+}
+
+void FManaged::end() {
+    letGo();
+    forgetState();
 }
 
 void FManaged::addDocu(const QString& text, unsigned int area) {

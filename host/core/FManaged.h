@@ -85,6 +85,10 @@ class FManaged : public FClass<FManaged, FRecorded> {
     virtual void leaveModel() {}
     /** The mirror, called when it was registered and by undo. */
     virtual void enterModel() {}
+    /** Tells those who depend on the object that it has gone. */
+    virtual void tellGone() const;
+    /** The object will not come back: gives up what may, in a ring, keep it in turn. */
+    virtual void letGo() {}
 
     int mSystemLevel = 0;  //!< above 1: not listed among the objects that a user made
 
@@ -94,6 +98,8 @@ class FManaged : public FClass<FManaged, FRecorded> {
     static std::vector<std::unique_ptr<FStateField>> fields();
     void enter();
     void leave();
+    void holdByStep(bool hold);
+    void end();
     void renamed();
 
     QString mName;
@@ -101,6 +107,7 @@ class FManaged : public FClass<FManaged, FRecorded> {
     int mDbId = 0;
     bool mInModel = false;
     bool mLeaving = false;
+    int mHeldBySteps = 0;  //!< steps of the history that can bring the object back
     bool mInProject = true;
     bool mInUserConfig = false;
     bool mDefault = false;

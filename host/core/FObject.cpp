@@ -143,8 +143,7 @@ bool FObject::update() const {
 }
 
 bool FObject::addSupplier(const FObject* supplier) const {
-    // Nobody depends on an object without clients, so it can't close a cycle and the walk is spared.
-    if (supplier == this || (mpLinks && !mpLinks->clients.empty() && supplier->dependsOn(this))) {
+    if (supplier == this || supplier->dependsOn(this)) {
         return false;
     }
     FUpdateGraph::link(const_cast<FObject*>(this), const_cast<FObject*>(supplier));

@@ -128,6 +128,7 @@ class FObject {
      */
     bool addSupplier(const FObject* supplier) const;
     void removeSupplier(const FObject* supplier) const;
+    /** Whether a mark of `supplier` reaches this object. */
     bool dependsOn(const FObject* supplier) const;
     /** The objects that depend on this one directly, in the order in which they were linked. */
     std::vector<FObject*> getClients() const;
@@ -144,7 +145,7 @@ class FObject {
     virtual bool isSafeAlone(bool mayReadFiles) const;
     /** What evaluating this object evaluates. */
     virtual std::vector<FExprBase> getOperands() const;
-    /** The object that this one is a part of: it goes out of date with its parts, without depending on them. */
+    /** The object that this one is a part of: it goes out of date with each of its parts, without being linked. */
     virtual FObject* getWhole() const { return nullptr; }
     /** Called once for each object that becomes out of date. */
     virtual void becameOutOfDate() const {}

@@ -6,6 +6,10 @@ FRecorded::FRecorded() = default;
 FRecorded::FRecorded(const FRecorded& other) : FObject(other) {}
 FRecorded::~FRecorded() = default;
 
+void FRecorded::forgetState() {
+    mpKnownState.reset();
+}
+
 void FRecorded::rememberState() {
     mpKnownState = std::make_unique<FState>(FState::capture(*this));
 }

@@ -23,6 +23,7 @@ class FRecorded : public FObject {
     FRecorded& operator=(const FRecorded& other) = delete;
     /** The present state becomes the one that the next step is compared with. */
     void rememberState();
+    void forgetState();
     bool hasKnownState() const { return mpKnownState != nullptr; }
 
  private:

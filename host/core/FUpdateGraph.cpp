@@ -47,11 +47,7 @@ void FUpdateGraph::markOutOfDate(FObject* start) {
         if (object->mImmediateUpdate) {
             waiting().push_back(object);
         }
-        std::vector<FObject*> reached = clientsOf(object);
-        if (FObject* whole = object->getWhole()) {
-            reached.push_back(whole);
-        }
-        for (FObject* next : reached) {
+        for (FObject* next : reachedBy(object)) {
             if (!next->mUpdating && seen.insert(next).second) {
                 todo.push_back(next);
             }
@@ -111,20 +107,29 @@ bool FUpdateGraph::update(FObject* object) {
     return done;
 }
 
+// The way that marks take, so that what a mark would come back to counts as a cycle.
 bool FUpdateGraph::reaches(const FObject* from, const FObject* supplier) {
-    std::vector<const FObject*> todo{from};
-    std::unordered_set<const FObject*> seen{from};
+    std::vector<const FObject*> todo{supplier};
+    std::unordered_set<const FObject*> seen{supplier};
     for (std::size_t i = 0; i < todo.size(); ++i) {
-        if (todo[i] == supplier) {
+        if (todo[i] == from) {
             return true;
         }
-        for (const FObject* next : suppliersOf(todo[i])) {
+        for (const FObject* next : reachedBy(todo[i])) {
             if (seen.insert(next).second) {
                 todo.push_back(next);
             }
         }
     }
     return false;
+}
+
+std::vector<FObject*> FUpdateGraph::reachedBy(const FObject* object) {
+    std::vector<FObject*> reached = clientsOf(object);
+    if (FObject* whole = object->getWhole()) {
+        reached.push_back(whole);
+    }
+    return reached;
 }
 
 void FUpdateGraph::link(FObject* client, FObject* supplier) {

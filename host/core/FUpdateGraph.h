@@ -25,6 +25,8 @@ class FUpdateGraph {
  private:
     friend class FImmediateUpdateBlocker;
 
+    /** What goes out of date with an object: its clients, and the whole that it is a part of. */
+    static std::vector<FObject*> reachedBy(const FObject* object);
     static void updateWaiting();
     static bool updateOne(FObject* object);
 };

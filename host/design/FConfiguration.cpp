@@ -30,7 +30,7 @@ void commands(FCmdTable& table) {
     table.member<FConfiguration>("setEntryValue", &setEntryValue, {"path", "value"}).data();
     table.member<FConfiguration>("getEntryValue", &getEntryValue, {"path"})
         .query()
-        .readFrom<FConfiguration>(&FConfiguration::getValueEntry);
+        .readFrom<FConfiguration>(&FConfiguration::getSources);
 }
 
 /** Whether an entry is there beyond the least number of its definition, so that a saved text has to bring it. */
@@ -107,6 +107,10 @@ QList<FExpr<FEntry>> FConfiguration::getEntry(const FObject* prototype, bool byV
 FEntry* FConfiguration::getValueEntry(const QString& path) const {
     const auto found = getEntryMap().constFind(path);
     return found == getEntryMap().constEnd() ? nullptr : asEntry(*found);
+}
+
+std::vector<FExprBase> FConfiguration::getSources(const QString& path) const {
+    return {FExprBase(getValueEntry(path)), getStructure()};
 }
 
 bool FConfiguration::setEntryValue(const QString& path, const FExprBase& value) {

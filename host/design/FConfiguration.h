@@ -25,6 +25,8 @@ class FConfiguration : public FClass<FConfiguration, FDefinitionBase> {
     QList<FExpr<FEntry>> getEntry(const FObject* prototype, bool byValue) const;
     /** The entry of that path that holds a value; null if there is none. */
     FEntry* getValueEntry(const QString& path) const;
+    /** What the value of an entry is read from. */
+    std::vector<FExprBase> getSources(const QString& path) const;
     /**
      * Sets the value of an entry, which follows the expression. An occurrence that may exist, but doesn't yet, is made.
      * False, with a message, if there is no such entry, or if it would depend on itself.

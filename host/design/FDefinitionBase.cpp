@@ -38,6 +38,31 @@ std::vector<std::unique_ptr<FStateField>> FDefinitionBase::fields() {
         .take();
 }
 
+FDefinitionBase::FDefinitionBase(const QString& name) : FClass(name) {
+    if (!isInitializingPrototype()) {
+        mStructure = FExprBase(new FObject);
+    }
+}
+
+void FDefinitionBase::setOutOfDate(bool outOfDate) const {
+    FEntity::setOutOfDate(outOfDate);
+    if (const FObject* structure = mStructure.getStored()) {
+        structure->setOutOfDate(outOfDate);
+    }
+}
+
+void FDefinitionBase::tellGone() const {
+    FEntity::tellGone();
+    mStructure.getStored()->setOutOfDate(true);
+}
+
+// The values may name this object, and so keep what keeps them.
+void FDefinitionBase::letGo() {
+    mEntries.clear();
+    linkEntries();
+    mEntryMap.clear();
+}
+
 const QMap<QString, FExpr<FEntryBase>>& FDefinitionBase::getEntryMap() const {
     if (mMapVersion != getStructureVersion()) {
         mEntryMap.clear();

@@ -10,7 +10,7 @@ class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHo
  public:
     static FClassData mClass;
 
-    explicit FDefinitionBase(const QString& name = QString()) : FClass(name) {}
+    explicit FDefinitionBase(const QString& name = QString());
 
     /**
      * The entries that hold values, by their paths; groups have no row. Of two with the same path the first counts.
@@ -20,16 +20,29 @@ class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHo
     /** The entry or group of that path; null if there is none. */
     FEntryBase* getEntryOfScope(const QString& path) const;
 
+    /**
+     * What to depend on to hear of changes of the structure, and not of values: so that an entry can depend on its
+     * neighbours.
+     */
+    const FExprBase& getStructure() const { return mStructure; }
+    /** Marks what depends on the structure, too; a change of a value marks the definition without this operation. */
+    void setOutOfDate(bool outOfDate) const override;
+
     /** A message that there is no such entry, with the nearest one that there is. */
     void warnUnknownEntry(const QString& path) const;
 
     FDefinitionBase* getRoot() const override { return const_cast<FDefinitionBase*>(this); }
     bool doUpdate() const override { return FEntity::doUpdate(); }
 
+ protected:
+    void tellGone() const override;
+    void letGo() override;
+
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
     const FRecorded* asRecorded() const override { return this; }
 
+    FExprBase mStructure;
     mutable QMap<QString, FExpr<FEntryBase>> mEntryMap;
     mutable quint64 mMapVersion = 0;
 };

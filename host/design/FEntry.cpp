@@ -66,7 +66,7 @@ bool FEntry::setValue(const FExprBase& value) {
     }
     mValue = taken;
     FHistory::instance()->addStep(this);
-    setOutOfDate(true);
+    FRecorded::setOutOfDate(true);
     return true;
 }
 

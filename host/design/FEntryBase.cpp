@@ -26,6 +26,14 @@ bool FEntryBase::isRecorded() const {
     return root && root->isInModel();
 }
 
+void FEntryBase::setOutOfDate(bool outOfDate) const {
+    FRecorded::setOutOfDate(outOfDate);
+    const FDefinitionBase* root = outOfDate ? getRoot() : nullptr;
+    if (root) {
+        root->getStructure().getStored()->setOutOfDate(true);
+    }
+}
+
 FObject* FEntryBase::getWhole() const {
     return getRoot();
 }

@@ -44,6 +44,7 @@ class FCmdRow {
     using Values = std::vector<std::any>;
     using Call = std::function<FExprBase(FObject* receiver, const Values& values)>;
     using Getter = std::function<FExprBase(const FObject* object)>;
+    using Sources = std::function<std::vector<FExprBase>(FObject* receiver, const Values& values)>;
 
     Kind kind = Kind::Member;
     Effect effect = Effect::Acts;
@@ -53,8 +54,8 @@ class FCmdRow {
     std::vector<FCmdArgument> arguments;
     FCmdType returnType;
     Call call;
-    Call source;                                              //!< what of the receiver the result is read from
-    Getter getter;                                            //!< for attributes: the current value
+    Sources sources;  //!< the parts of the receiver that the result is read from; null: the receiver as a whole
+    Getter getter;    //!< for attributes: the current value
     std::function<QString(const FObject*)> creatorArguments;  //!< for creators: the arguments of the saved form
     FCmdPresentation presentation;
     bool isData = false;       //!< may stand in a saved text

@@ -48,22 +48,28 @@ struct Types<std::tuple<A...>> {
     static std::vector<FCmdType> list() { return {FCmdTypeOf<A>::type()...}; }
 };
 
-/** Calls `f(first..., values...)` and makes a handle of what it returns. */
-template <class R, class... A, std::size_t... I, class F, class... First>
-FExprBase invoke(F& f, const FCmdRow::Values& values, std::tuple<A...>*, std::index_sequence<I...>, First&&... first) {
-    if constexpr (std::is_void_v<R>) {
-        std::invoke(f, std::forward<First>(first)..., std::any_cast<const A&>(values[I])...);
-        return FExprBase();
-    } else {
-        return FCmdTypeOf<std::decay_t<R>>::handle(
-            std::invoke(f, std::forward<First>(first)..., std::any_cast<const A&>(values[I])...));
-    }
+template <class... A, std::size_t... I, class F, class... First>
+decltype(auto) apply(F& f, const FCmdRow::Values& values, std::tuple<A...>*, std::index_sequence<I...>,
+                     First&&... first) {
+    return std::invoke(f, std::forward<First>(first)..., std::any_cast<const A&>(values[I])...);
 }
 
+/** Calls `f(first..., values...)`. */
+template <class Arguments, class F, class... First>
+decltype(auto) apply(F& f, const FCmdRow::Values& values, First&&... first) {
+    return apply(f, values, static_cast<Arguments*>(nullptr), std::make_index_sequence<std::tuple_size_v<Arguments>>(),
+                 std::forward<First>(first)...);
+}
+
+/** The same, and makes a handle of what it returns. */
 template <class Result, class Arguments, class F, class... First>
 FExprBase call(F& f, const FCmdRow::Values& values, First&&... first) {
-    return invoke<Result>(f, values, static_cast<Arguments*>(nullptr),
-                          std::make_index_sequence<std::tuple_size_v<Arguments>>(), std::forward<First>(first)...);
+    if constexpr (std::is_void_v<Result>) {
+        apply<Arguments>(f, values, std::forward<First>(first)...);
+        return FExprBase();
+    } else {
+        return FCmdTypeOf<std::decay_t<Result>>::handle(apply<Arguments>(f, values, std::forward<First>(first)...));
+    }
 }
 
 }  // namespace cmdtable
@@ -128,14 +134,15 @@ class FCmdTable {
     FCmdTable& data() { return last().isData = true, *this; }
     FCmdTable& unwrapped() { return last().isUnwrapped = true, *this; }
     /**
-     * The result is read from the part of the receiver that `find` gives for the same arguments. Kept, the command then
-     * depends on that part; what else changes in the receiver closes no cycle with it.
+     * The result is read from the parts of the receiver that `find` gives, as handles, for the same arguments. Kept,
+     * the command depends on those instead of the receiver, so that what else there is in the receiver can depend on
+     * it.
      */
     template <class C, class F>
     FCmdTable& readFrom(F find) {
-        using S = cmdtable::Signature<F>;
-        last().source = [find](FObject* receiver, const FCmdRow::Values& values) mutable {
-            return cmdtable::call<typename S::Result, typename S::Arguments>(find, values, dynamic_cast<C&>(*receiver));
+        using Arguments = typename cmdtable::Signature<F>::Arguments;
+        last().sources = [find](FObject* receiver, const FCmdRow::Values& values) mutable {
+            return cmdtable::apply<Arguments>(find, values, dynamic_cast<C&>(*receiver));
         };
         return *this;
     }

@@ -19,14 +19,18 @@ FObject* FAttribCmd::clone() const {
 
 void FMemberCmd::setKept() {
     FCmd::setKept();
-    mReceiver.registerClient(this);
-    followConstantSource();
+    FObject* receiver = mReceiver.getStored();
+    if (receiver && !receiver->isCmd() && readsFromParts(*receiver)) {
+        followKnownParts(receiver);
+    } else {
+        mReceiver.registerClient(this);
+    }
 }
 
 std::vector<FExprBase> FMemberCmd::getOperands() const {
     std::vector<FExprBase> operands = FCmd::getOperands();
     operands.push_back(mReceiver);
-    operands.push_back(mSource);
+    operands.insert(operands.end(), mFollowed.begin(), mFollowed.end());
     return operands;
 }
 
@@ -34,51 +38,48 @@ QString FMemberCmd::toExpressionString() const {
     return operandText(mReceiver) + QLatin1Char('.') + getName() + argumentText();
 }
 
-void FMemberCmd::followReceiver(FObject* receiver) const {
-    if (!isKept() || !mReceiver.isCmd() || mFollowed.getStored() == receiver) {
-        return;
-    }
-    mFollowed.unregisterClient(this);
-    mFollowed = FExprBase(receiver);
-    mFollowed.registerClient(this);
+bool FMemberCmd::readsFromParts(const FObject& receiver) const {
+    const auto rows = FCmdManager::instance()->findMembers(receiver.getClassData(), getName());
+    return std::any_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->sources != nullptr; });
 }
 
 // Where nothing has to be evaluated for it, a cycle is noticed already when the expression is set.
-void FMemberCmd::followConstantSource() const {
-    FObject* receiver = mReceiver.getStored();
+void FMemberCmd::followKnownParts(FObject* receiver) const {
     const auto& arguments = getArguments();
     const bool isConstant = std::all_of(arguments.begin(), arguments.end(), [](const FExprBase& argument) {
         return dynamic_cast<const FBasicType*>(argument.getStored());
     });
-    if (!receiver || receiver->isCmd() || !isConstant) {
-        return;
-    }
     for (const FCmdRow* row : FCmdManager::instance()->findMembers(receiver->getClassData(), getName())) {
         FCmdRow::Values values;
         QString reason;
-        if (row->source && convertArguments(*row, values, reason)) {
-            followSource(*row, receiver, values);
+        if (isConstant && convertArguments(*row, values, reason)) {
+            follow(*row, receiver, values);
             return;
         }
     }
 }
 
-bool FMemberCmd::followSource(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
-    if (!isKept() || !row.source) {
+bool FMemberCmd::follow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
+    if (!isKept() || (!row.sources && !mReceiver.isCmd())) {
         return true;
     }
-    const FExprBase source = row.source(receiver, values);
-    if (source == mSource) {
+    std::vector<FExprBase> sources = row.sources ? row.sources(receiver, values) : std::vector{FExprBase(receiver)};
+    if (sources == mFollowed) {
         return true;
     }
-    mSource.unregisterClient(this);
-    mSource = source;
-    if (mSource.registerClient(this)) {
-        return true;
+    for (const FExprBase& before : mFollowed) {
+        before.unregisterClient(this);
     }
-    mSource = FExprBase();
-    warn(getName() + QStringLiteral(": what it asks for depends on the result itself"));
-    return false;
+    mFollowed.clear();
+    for (const FExprBase& source : sources) {
+        if (source.registerClient(this)) {
+            mFollowed.push_back(source);
+        }
+    }
+    if (mFollowed.size() < sources.size()) {
+        warn(getName() + QStringLiteral(": what it asks for depends on the result itself"));
+    }
+    return mFollowed.size() == sources.size();
 }
 
 FExprBase FMemberCmd::execute() const {
@@ -87,7 +88,6 @@ FExprBase FMemberCmd::execute() const {
         warn(getName() + QStringLiteral(": there is no object to apply it to"));
         return {};
     }
-    followReceiver(receiver);
     const auto rows = FCmdManager::instance()->findMembers(receiver->getClassData(), getName());
     if (rows.empty()) {
         if (FObjectList* list = receiver->castToObjectList()) {
@@ -98,15 +98,12 @@ FExprBase FMemberCmd::execute() const {
     }
     FCmdRow::Values values;
     const FCmdRow* row = chooseRow(rows, values);
-    return row ? act(*row, receiver, values) : FExprBase();
+    return row && follow(*row, receiver, values) ? act(*row, receiver, values) : FExprBase();
 }
 
 FExprBase FMemberCmd::act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     if (!row.isQuery()) {
         FCmdParser::willAct(receiver);
-    }
-    if (!followSource(row, receiver, values)) {
-        return {};
     }
     FExprBase result = callRow(row, receiver, values);
     acted(receiver);

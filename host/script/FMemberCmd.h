@@ -31,13 +31,13 @@ class FMemberCmd : public FClass<FMemberCmd, FCmd> {
  private:
     FExprBase act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
     FExprBase actOnList(FObjectList& list) const;
-    void followReceiver(FObject* receiver) const;
-    void followConstantSource() const;
-    bool followSource(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    bool readsFromParts(const FObject& receiver) const;
+    void followKnownParts(FObject* receiver) const;
+    bool follow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
 
     FExprBase mReceiver;
-    mutable FExprBase mFollowed;  // what the receiver's expression gave, when it was linked
-    mutable FExprBase mSource;    // the part of the receiver that the result is read from
+    // What the result was read from, when it was linked: parts of the receiver, or what the receiver's expression gave.
+    mutable std::vector<FExprBase> mFollowed;
 };
 
 /** A command that sets an attribute, and tells its current value. */

@@ -23,6 +23,7 @@ class FThing : public FClass<FThing, FManaged> {
  protected:
     explicit FThing(const QString& name = QString()) : FClass(name) {}
     void leaveModel() override;
+    void letGo() override { setFriend({}); }
 
  private:
     friend class FClass<FThing, FManaged>;

@@ -53,7 +53,7 @@ TEST_F(FConfigurationTest, entriesCanDependOnTheirNeighbours) {
     run("parameter which(\"third\")\nconf.setEntryValue(\"Geometry|span\", conf.getEntryValue(which))");
     EXPECT_EQ(values().front(), "nothing");
     EXPECT_TRUE(logHolds("depends on the result itself"));
-    run("which.setValue(\"height\")\nconf.setEntryValue(\"height\", 5)");
+    run("conf.setEntryValue(\"height\", 5)\nwhich.setValue(\"height\")");
     EXPECT_EQ(values(), (QStringList{"5", "5", "6"}));
 }
 
@@ -85,6 +85,22 @@ TEST_F(FConfigurationTest, aChangedEntryMarksTheConfiguration) {
     configuration().update();
     definition().setOutOfDate(true);
     EXPECT_TRUE(configuration().isOutOfDate());
+}
+
+TEST_F(FConfigurationTest, whatDependsOnTheWholeCannotBeItsValue) {
+    run("def.addEntry(\"mesh\", inputFile(\"a\"))");
+    // As a computation does.
+    FParameter* result = FParameter::create({}, "result", {});
+    result->setUpdateOnDemand(true);
+    ASSERT_TRUE(FExprBase(&configuration()).registerClient(result));
+    for (const char* value : {"2*result", "result", "inputFile(result+\".dat\")"}) {
+        run(QStringLiteral("conf.setEntryValue(\"mesh\", %1)").arg(QString::fromLatin1(value)));
+        EXPECT_TRUE(log().last().contains("would depend on itself")) << value;
+    }
+    auto* file = dynamic_cast<FInputFile*>(configuration().getValueEntry("mesh")->getValueObject());
+    EXPECT_FALSE(file->setFileName(FExprBase(result)));
+    EXPECT_EQ(file->getFileNameText(), "a");
+    EXPECT_TRUE(result->dependsOn(file));
 }
 
 TEST_F(FConfigurationTest, reinitKeepsValuesUnlessItResets) {

@@ -21,6 +21,9 @@ FClassData FGenIntWriter::mClass("FGenIntWriter", &FObject::mClass);
 
 namespace {
 
+/** Files may be larger than a text can be; what is looked at on a screen needn't be. */
+constexpr int longestPreview = 200'000'000;
+
 QString source() {
     return QStringLiteral("Generic Integration Writer");
 }
@@ -106,6 +109,26 @@ bool FGenIntWriter::exportFile(const FGenIntFile& file, const QString& directory
     return written;
 }
 
+QString FGenIntWriter::previewText(const FGenIntFile& file, const FValueTable& table,
+                                   const FExpr<FConfiguration>& configuration) const {
+    QString text;
+    bool cut = false;
+    const auto append = [&text, &cut](QStringView piece) {
+        cut = cut || piece.size() > longestPreview - text.size();
+        if (!cut) {
+            text.append(piece);
+        }
+    };
+    writeTemplate(append, file.getPlainContent(), table, configuration, false);
+    if (cut) {
+        FLogMsg::info(source(),
+                      QStringLiteral("The preview of %1 is longer than %2 characters")
+                          .arg(file.getFileName(), QString::number(longestPreview)),
+                      QStringLiteral("the rest isn't shown"));
+    }
+    return text;
+}
+
 bool FGenIntWriter::previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts) {
     const FTemplateOwner* definition = definitionOf(configuration);
     if (!definition) {
@@ -115,10 +138,7 @@ bool FGenIntWriter::previewCommandFiles(const FExpr<FConfiguration>& configurati
     const QList<FExpr<FGenIntFile>> files = definition->getFiles();
     for (const FExpr<FGenIntFile>& file : files) {
         if (const auto* input = dynamic_cast<const FGenIntCommandFile*>(file.ptr())) {
-            QString text;
-            writeTemplate([&text](QStringView piece) { text.append(piece); }, input->getPlainContent(), table,
-                          configuration, false);
-            texts.insert(input->getFileName(), text);
+            texts.insert(input->getFileName(), previewText(*input, table, configuration));
         }
     }
     return true;

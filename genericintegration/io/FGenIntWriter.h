@@ -42,4 +42,6 @@ class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
     FTemplateOwner* definitionOf(const FExpr<FConfiguration>& configuration) const;
     bool exportFile(const FGenIntFile& file, const QString& directory, const FValueTable& table,
                     const FExpr<FConfiguration>& configuration) const;
+    QString previewText(const FGenIntFile& file, const FValueTable& table,
+                        const FExpr<FConfiguration>& configuration) const;
 };

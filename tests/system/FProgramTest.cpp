@@ -1,21 +1,24 @@
 #include "tests/system/FProgramTest.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QProcessEnvironment>
 
-FProgramTest::Outcome FProgramTest::merix(const QStringList& arguments, const QString& input,
-                                          const QStringList& environment) const {
-    QProcess program;
+void FProgramTest::start(QProcess& program, const QStringList& arguments, const QStringList& environment) const {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(QStringLiteral("TMPDIR"), mFolder.path());
     for (const QString& variable : environment) {
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
     }
     program.setProcessEnvironment(variables);
     program.setWorkingDirectory(mFolder.path());
     program.start(QStringLiteral(MERIX_PROGRAM), arguments);
+}
+
+FProgramTest::Outcome FProgramTest::merix(const QStringList& arguments, const QString& input,
+                                          const QStringList& environment) const {
+    QProcess program;
+    start(program, arguments, environment);
     program.write(input.toUtf8());
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished(120'000)) << program.errorString().toStdString();
@@ -42,4 +45,10 @@ QByteArray FProgramTest::read(const QString& name) const {
     QFile file(path(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     return file.readAll();
+}
+
+QString FProgramTest::runFile(const QString& name) const {
+    const QStringList roots = QDir(mFolder.path()).entryList({QStringLiteral("merix-*")}, QDir::Dirs);
+    EXPECT_EQ(roots.size(), 1);
+    return roots.value(0) + QStringLiteral("/baseline/comp/") + name;
 }

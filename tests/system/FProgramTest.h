@@ -2,11 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
-/** Tests of the program as a program: a folder of its own, and what it says and returns. */
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << '"' << text.toStdString() << '"';
+}
+
+/**
+ * Tests of the program as a program: what it says and returns. All that it writes, temporary folders too, lies below a
+ * folder of the test, whose name has blanks, quotes and an umlaut.
+ */
 class FProgramTest : public testing::Test {
  protected:
     struct Outcome {
@@ -15,6 +26,8 @@ class FProgramTest : public testing::Test {
         QString errors;
     };
 
+    /** Starts merix as the next one does, without waiting. */
+    void start(QProcess& program, const QStringList& arguments, const QStringList& environment = {}) const;
     /** Runs merix in the test's folder; the environment variables are set besides those of the test. */
     Outcome merix(const QStringList& arguments, const QString& input = QString(),
                   const QStringList& environment = {}) const;
@@ -23,6 +36,8 @@ class FProgramTest : public testing::Test {
     QString path(const QString& name) const { return mFolder.filePath(name); }
     void write(const QString& name, const QByteArray& content) const;
     QByteArray read(const QString& name) const;
+    /** The name of a file in the folder of the runs of "comp", for tests that run it in one merix only. */
+    QString runFile(const QString& name) const;
 
-    QTemporaryDir mFolder;
+    QTemporaryDir mFolder{QDir::tempPath() + "/läuft \"hier\" 'gut' $HOME-XXXXXX"};
 };

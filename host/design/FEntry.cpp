@@ -61,7 +61,7 @@ bool FEntry::setValue(const FExprBase& value) {
         mValue.restoreClient(this);
         FCmd::warnNow(getClass(),
                       QStringLiteral("entry \"%1\" would depend on itself if it were %2; its value stays %3")
-                          .arg(getFullName(), taken.toString(), mValue.toString()));
+                          .arg(getFullName(), taken.toHistoryString(), mValue.toHistoryString()));
         return false;
     }
     mValue = taken;

@@ -4,6 +4,7 @@
 #include "host/core/FNull.h"
 #include "host/design/FParameter.h"
 #include "host/script/FCmd.h"
+#include "host/script/FCmdType.h"
 
 #include <algorithm>
 
@@ -44,5 +45,8 @@ const FObject* typeOfValue(const FExprBase& value) {
     while (const auto* parameter = dynamic_cast<const FParameter*>(source.getStored())) {
         source = parameter->getValue();
     }
-    return source.getType();
+    const FObject* type = source.getType();
+    const bool isOpen = type == FObject::null() && source.canSafelyBeUpdated(false);
+    const FObject* given = isOpen ? valueObject(source) : nullptr;
+    return given ? given->getPrototype() : type;
 }

@@ -12,5 +12,6 @@ FExprBase entryValue(const FExprBase& given);
 /// what can't be copied are shared.
 FExprBase copyOfValue(const FExprBase& value);
 
-/// The type of what a value gives, as far as it is known without evaluating; a parameter counts as what it holds.
+/// The type of what a value gives; a parameter counts as what it holds. An expression that tells nothing of its type is
+/// evaluated if that is safe without reading files.
 const FObject* typeOfValue(const FExprBase& value);

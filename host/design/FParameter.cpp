@@ -59,7 +59,7 @@ bool FParameter::setValue(const FExprBase& value) {
     if (!value.registerClient(this)) {
         mValue.restoreClient(this);
         FCmd::warnNow(getClass(), QStringLiteral("%1 would depend on itself if it were %2; its value stays %3")
-                                      .arg(getName(), value.toString(), mValue.toString()));
+                                      .arg(getName(), value.toHistoryString(), mValue.toHistoryString()));
         return false;
     }
     mValue = value;

@@ -182,7 +182,9 @@ TEST_F(FConfigurationTest, aFileNameFollowsItsExpression) {
     auto* dir = dynamic_cast<FParameter*>(evaluate("dir").getObject());
     EXPECT_TRUE(entry->dependsOn(dir));
     EXPECT_FALSE(dir->setValue(FExprBase(entry)));
-    EXPECT_EQ(configuration().getEntry(FInputFile::null(), true).size(), 1);
+    run("def.addEntry(\"same\", 1)\nconf.setEntryValue(\"same\", conf.getEntryValue(\"mesh\"))");
+    EXPECT_EQ(configuration().getEntry(FInputFile::null(), true).size(), 2);
+    EXPECT_EQ(configuration().getEntry(FInputFile::null(), false).size(), 1);
     run("conf.setEntryValue(\"mesh\", inputFile(readText(\"x\")))");
     EXPECT_FALSE(configuration().getValueEntry("mesh")->getValue().canSafelyBeUpdated(false));
 }

@@ -49,6 +49,8 @@ TEST_F(FConfigurationGenIntTest, itIsMadeWithOrWithoutEntries) {
     copy->registerObject();
     EXPECT_EQ(copy->getDefinition().ptr(), &def());
     EXPECT_EQ(copy->furtherSavedCommands(), conf().furtherSavedCommands());
+    copy->setEntryValue("height", FExprBase(new FDouble(6)));
+    EXPECT_EQ(textOf("c.getEntryValue(\"height\")"), "41");
 }
 
 TEST_F(FConfigurationGenIntTest, onlyTheTypedDefinitionIsOffered) {

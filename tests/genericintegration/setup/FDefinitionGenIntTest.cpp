@@ -184,20 +184,6 @@ TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition
     EXPECT_EQ(FConnectorInterface::getConnectors(QString("FSoftwareConnector")).size(), 3);
 }
 
-TEST_F(FDefinitionGenIntTest, entriesComeOnceAndConfigurationsFollow) {
-    FConfigurationGenInt* conf = FConfigurationGenInt::create({}, "c", true, definition);
-    const FExpr<FEntryBase> added(FEntryDef::create("x", definition, 1, 1, false, true, "", new FDouble(3)));
-    definition->addEntry(added);
-    definition->addEntry({});
-    EXPECT_EQ(definition->getEntries().size(), 1);
-    EXPECT_EQ(conf->getEntryMap().keys(), QStringList{"x"});
-    conf->setEntryValue("x", FExprBase(new FDouble(4)));
-    EXPECT_TRUE(definition->removeEntry(added));
-    EXPECT_EQ(conf->getEntryMap().keys(), QStringList{"x"});
-    definition->reinitConfigurations(false);
-    EXPECT_TRUE(conf->getEntryMap().isEmpty());
-}
-
 TEST_F(FDefinitionGenIntTest, theFilesGoWhereTheDefinitionGoes) {
     definition->setInProject(false);
     EXPECT_FALSE(in->isInProject() || out->isInProject());

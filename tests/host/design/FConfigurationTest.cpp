@@ -189,19 +189,6 @@ TEST_F(FConfigurationTest, aFileNameFollowsItsExpression) {
     EXPECT_FALSE(configuration().getValueEntry("mesh")->getValue().canSafelyBeUpdated(false));
 }
 
-TEST_F(FConfigurationTest, aCopyHasValuesOfItsOwn) {
-    run("parameter p(3)\ndef.addEntry(\"Layer\", NULL, 2)\ndef.addEntry(\"Layer|t\", 1)\n"
-        "conf.setEntryValue(\"height\", 2*p)\nconf.setEntryValue(\"Layer[1]|t\", 5)");
-    FNotingConfiguration copy("copy");
-    copy.init(&configuration());
-    EXPECT_EQ(copy.furtherSavedCommands(), configuration().furtherSavedCommands());
-    EXPECT_EQ(copy.getEntryMap().keys(), paths());
-    copy.setEntryValue("Layer[1]|t", FExprBase(new FDouble(6)));
-    EXPECT_EQ(values(), (QStringList{"10", "1", "5", "6"}));
-    run("p.setValue(4)");
-    EXPECT_EQ(copy.getValueEntry("height")->getValueObject()->toString(), "8");
-}
-
 TEST_F(FConfigurationTest, anEntryCanBeCreatedByName) {
     run("def.addEntry(\"Layer\", NULL, 3, 1)\ndef.addEntry(\"Layer|t\", 7)");
     FEntry* layer = FEntry::create("Layer", &configuration(), true);

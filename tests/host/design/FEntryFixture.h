@@ -21,7 +21,6 @@ class FNotingConfiguration : public FClass<FNotingConfiguration, FConfiguration>
     static FClassData mClass;
 
     explicit FNotingConfiguration(const QString& name = QString()) : FClass(name) {}
-    using FConfiguration::init;
 };
 
 /** A definition `def` with the entries `height` (40) and `Geometry|span` (10), and a configuration `conf` of it. */

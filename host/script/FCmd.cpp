@@ -21,7 +21,7 @@ QString shown(const FExprBase& handle) {
     constexpr int longest = 60;
     const FObject* object = handle.getObject();
     const auto* text = dynamic_cast<const FString*>(object);
-    const QString whole = !object ? QStringLiteral("nothing") : text ? quoteText(text->getValue()) : handle.toString();
+    const QString whole = !object ? QStringLiteral("NULL") : text ? quoteText(text->getValue()) : handle.toString();
     return whole.size() > longest ? whole.left(longest) + QStringLiteral("…") : whole;
 }
 

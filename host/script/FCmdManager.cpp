@@ -1,6 +1,7 @@
 #include "host/script/FCmdManager.h"
 
 #include "host/core/FNearestName.h"
+#include "host/core/FNull.h"
 #include "host/script/FCreateCmd.h"
 #include "host/script/FMemberCmd.h"
 
@@ -166,6 +167,9 @@ QString didYouMean(const QString& name, const QStringList& known) {
 }
 
 QString FCmdManager::unknownMember(const FClassData& data, const QString& name) const {
+    if (&data == &FNull::mClass) {
+        return QStringLiteral("%1: there is no object to apply it to, what stands before it is NULL").arg(name);
+    }
     return QStringLiteral("%1 has no command \"%2\"%3").arg(data.getName(), name, didYouMean(name, memberNames(data)));
 }
 

@@ -37,9 +37,8 @@ QString resolve(const QString& path) {
 FExpr<FObject> readText(const QString& path) {
     QFile file(resolve(path));
     if (!file.open(QIODevice::ReadOnly)) {
-        FLogMsg::warning(QStringLiteral("readText"),
-                         QStringLiteral("can't read \"%1\": %2").arg(file.fileName(), file.errorString()),
-                         QStringLiteral("result is NULL"));
+        FCmd::warnNow(QStringLiteral("readText"),
+                      QStringLiteral("readText: can't read \"%1\": %2").arg(file.fileName(), file.errorString()));
         return {};
     }
     QTextStream stream(&file);
@@ -73,8 +72,9 @@ FExpr<FObject> getAttribute(const FExpr<FObject>& object, const QString& name) {
             return FExpr<FObject>(value);
         }
     }
-    FLogMsg::warning(QStringLiteral("getAttribute"), FCmdManager::instance()->unknownMember(type->getClassData(), name),
-                     QStringLiteral("result is NULL"));
+    FCmd::warnNow(
+        QStringLiteral("getAttribute"),
+        QStringLiteral("getAttribute: ") + FCmdManager::instance()->unknownMember(type->getClassData(), name));
     return {};
 }
 

@@ -1,4 +1,4 @@
-#include "host/core/FLogMsg.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 #include "host/script/FGlobalCommands.h"
 #include "host/script/FNumberFormat.h"
@@ -19,8 +19,8 @@ FExpr<FObject> best(const Numbers& values, const char* name, Better isBetter) {
     for (const FExprBase& value : values) {
         auto* number = dynamic_cast<FDouble*>(valueObject(value));
         if (!number) {
-            FLogMsg::warning(QString::fromLatin1(name), QStringLiteral("%1 is not a number").arg(value.toString()),
-                             QStringLiteral("result is NULL"));
+            FCmd::warnNow(QString::fromLatin1(name),
+                          QStringLiteral("%1: %2 is not a number").arg(QString::fromLatin1(name), value.toString()));
             return {};
         }
         const auto* bestSoFar = dynamic_cast<const FDouble*>(found);
@@ -57,7 +57,7 @@ FExpr<FObject> format(const FExpr<FObject>& value, const QString& pattern) {
     QString error;
     const std::optional<QString> text = formatNumber(pattern, formatted, error);
     if (!text) {
-        FLogMsg::warning(QStringLiteral("format"), error, QStringLiteral("result is NULL"));
+        FCmd::warnNow(QStringLiteral("format"), QStringLiteral("format: ") + error);
         return {};
     }
     return FExpr<FObject>(new FString(*text));

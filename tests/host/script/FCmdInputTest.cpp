@@ -30,7 +30,13 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
     EXPECT_FALSE(run("span = 1"));
     EXPECT_TRUE(logHolds("is an object and can't be a variable"));
     EXPECT_TRUE(run("span.setNumber(\"x\")"));
-    EXPECT_TRUE(logHolds("test:1:6: setNumber: argument 1 (number) must be of type double"));
+    EXPECT_TRUE(logHolds("test:1:6: setNumber: argument 1 (number) must be of type double, but is \"x\""));
+    EXPECT_TRUE(run("span.setNumber(NULL)"));
+    EXPECT_TRUE(logHolds("must be of type double, but is NULL"));
+    EXPECT_TRUE(run("text = readText(\"missing.inp\")"));
+    EXPECT_TRUE(logHolds("test:1:8: readText: can't read \"missing.inp\""));
+    EXPECT_FALSE(run("x = NULL\nx.setNumber(1)"));
+    EXPECT_TRUE(logHolds("test:2:3: setNumber: there is no object to apply it to"));
 }
 
 TEST_F(FCmdInputTest, aDestroyedObjectIsCalledSo) {

@@ -17,6 +17,10 @@ int FApplication::run(int argc, char** argv) {
     app.set_version_flag("--version", std::string("merix ") + FVersion::text);
     app.require_subcommand(1);
     app.footer("Exit codes: 0 done, 1 the work failed, 2 the call was wrong, 3 a file can't be read or written.");
+    app.failure_message([](const CLI::App*, const CLI::Error& error) {
+        return std::string("error: merix: ") + error.what() +
+               "\nA script is carried out by \"merix script FILE\"; \"merix --help\" tells what else there is.\n";
+    });
     FScriptSubcommand script(app);
     FCommandsSubcommand commands(app);
     try {

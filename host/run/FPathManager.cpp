@@ -29,7 +29,7 @@ QString FPathManager::resultsRoot() {
         mTemporaryRoot = folder.path();
         FLogMsg::info(QStringLiteral("merix"),
                       QStringLiteral("The project has no file yet; its runs are kept in %1").arg(mTemporaryRoot),
-                      QStringLiteral("save the project to keep them beside it"));
+                      QStringLiteral("they stay there; remove the folder when you no longer need it"));
     }
     return mTemporaryRoot;
 }

@@ -53,7 +53,8 @@ bool include(const QString& path) {
 
 void exitScript(int code) {
     if (FCmdInput* script = FCmdInput::current()) {
-        script->requestExit(code);
+        // The system keeps eight bits of it: without the check, 256 would say that all went well.
+        script->requestExit(code >= 0 && code <= 255 ? code : 1);
     }
 }
 

@@ -114,7 +114,7 @@ FExprBase FMemberCmd::actOnList(FObjectList& list) const {
     auto* results = new FObjectList(FObject::null());
     FExprBase keep(results);
     results->setAsSelectionSet(true);
-    bool isKnown = list.count() == 0;
+    bool isKnown = false;
     const std::vector<FExpr<FObject>> elements = list.getObjects();
     for (const FExpr<FObject>& element : elements) {
         FObject* object = element.getObject();
@@ -135,7 +135,7 @@ FExprBase FMemberCmd::actOnList(FObjectList& list) const {
         }
         results->add(FExpr<FObject>(result));
     }
-    if (!isKnown) {
+    if (!isKnown && elements.size() == 1) {
         warn(FCmdManager::instance()->unknownMember(list.getElementType()->getClassData(), getName()));
         return {};
     }

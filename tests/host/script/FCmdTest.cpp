@@ -79,6 +79,8 @@ TEST_F(FCmdTest, aListActsOnItsElements) {
     EXPECT_TRUE(evaluate("[a,b].getNumber()").getObject()->castToObjectList()->isSelectionSet());
     EXPECT_EQ(textOf("[a].getNumber()"), "1");
     EXPECT_EQ(textOf("[].getNumber()"), "[]");
+    EXPECT_EQ(textOf("[7,8].getNumber()"), "[]");
+    EXPECT_EQ(textOf("[7].getNumber()"), "NULL");
     EXPECT_EQ(textOf("[a,7,b].getNumber()"), "[1,2]");
     EXPECT_EQ(textOf("[a,b].count()"), "2");
     EXPECT_TRUE(run("[a,b].setNumber(9)"));

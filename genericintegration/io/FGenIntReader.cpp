@@ -13,6 +13,8 @@
 
 #include <QFile>
 
+#include <cmath>
+
 FClassData FGenIntReader::mClass("FGenIntReader", &FObject::mClass);
 
 namespace {
@@ -85,6 +87,20 @@ QStringList oddities(const FFoundValue& found) {
 
 FNumberOrigin originOf(const FFoundValue& found) {
     return {found.text, found.line, found.column, found.length, oddities(found)};
+}
+
+// Such a number looks as good as any other, but most likely is another one than that which was marked.
+void warnOfMissingAnchor(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value,
+                         const FFoundValue& found) {
+    if (found.flags.testFlag(FFoundFlag::AnchorMissing) && !std::isnan(found.number)) {
+        FLogMsg::warning(
+            file.getName(),
+            QStringLiteral("the anchor \"%1\" of the value \"%2\" isn't in %3; %4 was read from line %5, counted from "
+                           "the %6 of the file")
+                .arg(value.mAnchor, value.mName, file.getFileName(), found.text, QString::number(found.line),
+                     value.mLine < 0 ? QStringLiteral("bottom") : QStringLiteral("top")),
+            QStringLiteral("look at the file of the run and correct the anchor"));
+    }
 }
 
 }  // namespace
@@ -168,6 +184,9 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
         const FGenIntResultsFileValue& value = *values[static_cast<std::size_t>(number)];
         const FFoundValue& result = found.values[static_cast<std::size_t>(number)];
         headers.append(value.mName);
+        if (!directory.isEmpty()) {
+            warnOfMissingAnchor(*file.ptr(), value, result);
+        }
         QString tooltip = typeOf(value)->getClass();
         if (!typeOf(value)->isTypeOf(FDouble::null())) {
             tooltip += QLatin1Char('|') + result.text;

@@ -792,7 +792,7 @@ out1.setSpacesAndTabsSeparator(true)</translation>
         <translation>Sets the list of values to read. Each value is a list of nine elements:
 
 name: the name of the row in the table of results
-line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text. A line below 0 never reaches the first line of the file: it gives the second one or, if the anchor stands in that, NaN
+line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text; a number found so without its anchor is told of by a warning. A line below 0 never reaches the first line of the file: it gives the second one or, if the anchor stands in that, NaN
 column: from 0; in which way columns are told apart, setNumberSeparator tells
 anchor: a text that stands in the file, in any case; "" for none
 occurrence: First or Last, if the anchor stands there more than once

@@ -46,6 +46,21 @@ TEST_F(FGenIntReaderTest, theTableHoldsNamesNumbersAndTypesInTheOrderOfTheFile) 
     EXPECT_EQ(FExpr<FGenIntResultsFileValue>(file->getValues()->at(0))->mName, "late");
 }
 
+TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsToldOf) {
+    setValues(
+        "[[\"drag\",1,0,\"Drag\",Last,\"FDouble\",\"\"],[\"none\",0,0,\"Drag\",Last,\"FDouble\",\"\"],"
+        "[\"lift\",0,0,\"Lift\",Last,\"FDouble\",\"\"]]");
+    file->setFileName("out.dat");
+    writeFile("out.dat", "title\nLift 3\n");
+    parse(folder.path());
+    EXPECT_EQ(table->getElementAt("drag", 0), 3);
+    EXPECT_EQ(
+        log(),
+        QStringList{"warning: out1: the anchor \"Drag\" of the value \"drag\" isn't in out.dat; 3 was read from line "
+                    "2, counted from the top of the file (look at the file of the run and correct the "
+                    "anchor)"});
+}
+
 TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     setValues("[[\"a\",0,0,\"\",Last,\"FDouble\",\"\"]]");
     file->setFileName("out.dat");

@@ -21,7 +21,7 @@ FObject::FObject()
 FObject::FObject(const FObject&) : FObject() {}
 
 // Identity, links and state of update stay with the object; only what it holds is assigned.
-FObject& FObject::operator=(const FObject&) {
+FObject& FObject::operator=(const FObject&) {  // NOLINT(bugprone-unhandled-self-assignment): nothing is assigned
     return *this;
 }
 

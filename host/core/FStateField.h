@@ -101,7 +101,7 @@ class FStateFields {
     }
     template <class V>
     static std::size_t sizeOf(const V&) {
-        return sizeof(V);
+        return sizeof(V);  // NOLINT(bugprone-sizeof-expression): a pointer is kept as such
     }
 
     template <class V>

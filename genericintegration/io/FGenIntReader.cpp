@@ -106,7 +106,11 @@ void warnOfMissingAnchor(const FGenIntResultsFile& file, const FGenIntResultsFil
 }  // namespace
 
 FGenIntReader* FGenIntReader::instance() {
-    static auto* reader = new FGenIntReader;
+    static FGenIntReader* reader = [] {
+        auto* fresh = new FGenIntReader;
+        fresh->setOwnedElsewhere();  // a handle that ends must not take it along
+        return fresh;
+    }();
     return reader;
 }
 

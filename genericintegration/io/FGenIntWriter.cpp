@@ -56,7 +56,11 @@ void updateFileNames(const FConfiguration& configuration) {
 }  // namespace
 
 FGenIntWriter* FGenIntWriter::instance() {
-    static auto* writer = new FGenIntWriter;
+    static FGenIntWriter* writer = [] {
+        auto* fresh = new FGenIntWriter;
+        fresh->setOwnedElsewhere();  // a handle that ends must not take it along
+        return fresh;
+    }();
     return writer;
 }
 

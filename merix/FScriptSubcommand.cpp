@@ -3,6 +3,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FPrototypes.h"
 #include "host/script/FCmdInput.h"
+#include "host/script/FProject.h"
 #include "merix/FExitCode.h"
 
 #include <CLI/CLI.hpp>
@@ -50,5 +51,6 @@ int FScriptSubcommand::run() const {
     input.setVariable(QStringLiteral("arguments"), textList(mArguments));
     input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
     const bool done = input.exec();
+    FProject::instance()->close();
     return done ? input.getExitCode() : FExitCode::failed;
 }

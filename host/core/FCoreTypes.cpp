@@ -1,4 +1,5 @@
 #include "host/core/FBool.h"
+#include "host/core/FDocuArea.h"
 #include "host/core/FEnumBase.h"
 #include "host/core/FInitPrototype.h"
 #include "host/core/FNull.h"
@@ -9,7 +10,7 @@
 
 namespace {
 
-const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase,
+const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase, FEnum<FDocuArea>,
                       FObjectList, FManaged, FEntity, FScope>
     types;
 

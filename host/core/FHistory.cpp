@@ -58,6 +58,7 @@ void FHistory::close() {
     }
     mUndone.clear();
     trim();
+    mObserver();
 }
 
 // What an object made by the step was before its end is of no interest: it comes and goes as a whole.
@@ -152,6 +153,7 @@ bool FHistory::undo() {
     mDone.pop_back();
     replay(step, false);
     mUndone.push_back(std::move(step));
+    mObserver();
     return true;
 }
 
@@ -163,6 +165,7 @@ bool FHistory::redo() {
     mUndone.pop_back();
     replay(step, true);
     mDone.push_back(std::move(step));
+    mObserver();
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 /**
@@ -32,6 +33,9 @@ class FHistory {
     QStringList getLabels() const;
     bool canRedo() const { return !mUndone.empty(); }
     void clear();
+
+    /** Called whenever the model may have changed: at the end of each step, and after undo and redo. */
+    void setObserver(std::function<void()> observer) { mObserver = std::move(observer); }
 
     /** How much memory steps may hold, in bytes; the oldest steps are dropped first. */
     void setLimit(std::size_t bytes);
@@ -93,6 +97,7 @@ class FHistory {
     QHash<const FRecorded*, std::size_t> mTouched;  // the objects of mOpen, by their places
     std::deque<Transaction> mDone;
     std::vector<Transaction> mUndone;
+    std::function<void()> mObserver = [] {};
     std::size_t mSize = 0;
     std::size_t mLimit = std::size_t{256} << 20U;
 };

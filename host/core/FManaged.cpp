@@ -1,11 +1,14 @@
 #include "host/core/FManaged.h"
 
 #include "host/core/FHistory.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FScriptLanguage.h"
 
-FClassData FManaged::mClass("FManaged", &FObject::mClass, nullptr, &FManaged::fields);
+void managedCommands(FCmdTable& table);
+
+FClassData FManaged::mClass("FManaged", &FObject::mClass, &managedCommands, &FManaged::fields);
 bool FManaged::mInitPrototype = false;
 
 namespace {
@@ -83,6 +86,20 @@ void FManaged::registerObject() {
     FHistory::instance()->recordCreation(this);
 }
 
+bool FManaged::restoreDbId(int id) {
+    if (!mInModel || id <= 0 || !FMerixCtrl::instance()->isLoadingProject()) {
+        return false;
+    }
+    // Whoever has the number got it while the project was being read; its own may come with one of the next lines.
+    if (FManaged* other = FObjectManager::instance()->find(id); other && other != this) {
+        FObjectManager::instance()->renumber(other, other->mDbId, FObjectManager::instance()->nextId());
+        other->mDbId = FObjectManager::instance()->lastId();
+    }
+    FObjectManager::instance()->renumber(this, mDbId, id);
+    mDbId = id;
+    return true;
+}
+
 void FManaged::enter() {
     getBlock()->outOfModel = false;
     mInModel = true;
@@ -139,6 +156,7 @@ void FManaged::end() {
 
 void FManaged::addDocu(const QString& text, unsigned int area) {
     mDocu[area] += text;
+    FHistory::instance()->addStep(this);
 }
 
 void FManaged::saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const {

@@ -29,6 +29,8 @@ class FManaged : public FClass<FManaged, FRecorded> {
     virtual FManaged* setName(const QString& name);
     /** Number of the object, ascending in the order of creation; 0 before it is registered. */
     int getDbId() const { return mDbId; }
+    /** Gives the object, read from a project, the number that it was saved with; at any other time nothing happens. */
+    bool restoreDbId(int id);
 
     /** Brings the object into the model. One without a name gets one made from its class. */
     void registerObject();
@@ -61,6 +63,7 @@ class FManaged : public FClass<FManaged, FRecorded> {
      * @param indent   levels of indentation
      * @param inScope  false if the text stands outside the object's scope: the creator of an object with a
      *                 configuration of its own is then marked with "&"
+     * @param flag     whether the text keeps the object's number, as a project does
      */
     virtual void saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const;
     /** Writes a line for each attribute; the attributes are command prototypes, as the command manager gives them. */

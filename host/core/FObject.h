@@ -152,6 +152,8 @@ class FObject {
     /** True if `doUpdate` decides itself which suppliers it needs. */
     virtual bool updatesSuppliersItself() const { return false; }
 
+    bool mImmediateUpdate = false;  //!< a class may keep it in the history
+
  private:
     friend class FUpdateGraph;
 
@@ -159,5 +161,4 @@ class FObject {
     mutable FUpdateLinks* mpLinks = nullptr;
     mutable bool mOutOfDate = false;
     mutable bool mUpdating = false;
-    bool mImmediateUpdate = false;
 };

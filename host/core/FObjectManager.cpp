@@ -70,3 +70,9 @@ void FObjectManager::rename(FManaged* object, const QString& from, const QString
     mByName.remove(from, object);
     mByName.insert(to, object);
 }
+
+void FObjectManager::renumber(FManaged* object, int from, int to) {
+    mById.remove(from);
+    mById.insert(to, object);
+    mLastId = std::max(mLastId, to);
+}

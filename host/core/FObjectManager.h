@@ -38,6 +38,10 @@ class FObjectManager : public QObject {
 
     // Only for FManaged.
     int nextId() { return ++mLastId; }
+    int lastId() const { return mLastId; }
+    void renumber(FManaged* object, int from, int to);
+    /** Numbers start anew behind those of the objects that are there. */
+    void restartIds() { mLastId = mById.isEmpty() ? 0 : mById.lastKey(); }
     void enter(FManaged* object);
     void leave(FManaged* object, const QString& name);
     void rename(FManaged* object, const QString& from, const QString& to);

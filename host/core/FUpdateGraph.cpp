@@ -73,6 +73,12 @@ void FUpdateGraph::updateWaiting() {
     isAtWork = false;
 }
 
+void FUpdateGraph::forgetWaitingThatReadFiles() {
+    waiting().erase(std::remove_if(waiting().begin(), waiting().end(),
+                                   [](const FObject* object) { return !object->canSafelyBeUpdated(false); }),
+                    waiting().end());
+}
+
 bool FUpdateGraph::updateOne(FObject* object) {
     object->mUpdating = true;
     object->mOutOfDate = false;

@@ -12,6 +12,8 @@ class FUpdateGraph {
     static void markOutOfDate(FObject* start);
     /** Updates what the object depends on and is out of date, suppliers before clients; then the object itself. */
     static bool update(FObject* object);
+    /** What waits for a blocker to go stays out of date if updating it would read files; asking for it updates it. */
+    static void forgetWaitingThatReadFiles();
     static bool reaches(const FObject* from, const FObject* supplier);
 
     static void link(FObject* client, FObject* supplier);

@@ -27,6 +27,14 @@ void commands(FCmdTable& table) {
         .attrName("Value")
         .data();
     table
+        .member<FParameter>("setUpdateOnDemand",
+                            +[](FParameter& parameter, bool onDemand) {
+                                parameter.setUpdateOnDemand(onDemand);
+                                FHistory::instance()->addStep(&parameter);
+                            },
+                            {"onDemand"})
+        .data();
+    table
         .member<FParameter>(
             "getValue", +[](const FParameter& parameter) { return FExpr<FObject>(parameter.getValueObject()); })
         .query();
@@ -43,7 +51,10 @@ FParameter::FParameter(const QString& name) : FClass(name) {
 }
 
 std::vector<std::unique_ptr<FStateField>> FParameter::fields() {
-    return FStateFields<FParameter>().linked(&FParameter::mValue).take();
+    return FStateFields<FParameter>()
+        .linked(&FParameter::mValue)
+        .member(static_cast<bool FParameter::*>(&FParameter::mImmediateUpdate))
+        .take();
 }
 
 FParameter* FParameter::create(const FExpr<FScope>& scope, const QString& name, const FExprBase& value) {
@@ -77,4 +88,8 @@ bool FParameter::doUpdate() const {
     const FObject* object = mValue.getObject();
     mResult = FExprBase(object ? object->getValueObject() : nullptr);
     return FEntity::doUpdate();
+}
+
+QStringList FParameter::furtherSavedCommands() const {
+    return isUpdateOnDemand() ? QStringList{QStringLiteral("setUpdateOnDemand(true)")} : QStringList();
 }

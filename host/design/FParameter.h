@@ -22,6 +22,7 @@ class FParameter : public FClass<FParameter, FEntity> {
     /** The value's object; null if there is none. */
     FObject* getValueObject() const override;
     bool doUpdate() const override;
+    QStringList furtherSavedCommands() const override;
 
  protected:
     explicit FParameter(const QString& name = QString());

@@ -2168,5 +2168,123 @@ print(span.getValue())</translation>
         <comment>return type: bool</comment>
         <translation>False if there is nothing to take back.</translation>
     </message>
+    <message>
+        <source>!FManaged.member.addDocu(string,text,string,area)</source>
+        <translation>Adds a text to the documentation that a user keeps with the object. It is saved with the project; texts of one area are joined.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.addDocu(string,text,string,area):argument0</source>
+        <translation>The text.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.addDocu(string,text,string,area):argument1</source>
+        <translation>What the text is: DocuName, DocuDescription, DocuExample or DocuResult.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.addDocu(string,text,string,area):example</source>
+        <translation>parameter span(12.5) {
+    .addDocu("Span of the wing in metres", DocuDescription)
+}</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.addDocu(string,text,string,area):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False, with a message, for an area that doesn't exist.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.setDbId(int,id)</source>
+        <translation>Gives the object the number that it was saved with. It stands in projects and acts only while one is read.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.setDbId(int,id):argument0</source>
+        <translation>The number, above 0.</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.setDbId(int,id):example</source>
+        <translation>// in a project
+parameter span() {
+    .setDbId(7);
+    .setValue(12.5);
+}</translation>
+    </message>
+    <message>
+        <source>!FManaged.member.setDbId(int,id):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if the object has the number now.</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.setUpdateOnDemand(bool,onDemand)</source>
+        <translation>Whether the parameter is computed only when somebody asks for it, rather than at once after each change of what it depends on. Of use for values that are read from files.</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.setUpdateOnDemand(bool,onDemand):argument0</source>
+        <translation>True: when it is asked for. False: at once.</translation>
+    </message>
+    <message>
+        <source>!FParameter.member.setUpdateOnDemand(bool,onDemand):example</source>
+        <translation>parameter drag(comp.getResults().getTable("out.dat").getElementAt("CD"))
+drag.setUpdateOnDemand(true)</translation>
+    </message>
+    <message>
+        <source>!Global.newProject()</source>
+        <translation>Begins an empty project, which has no file yet. The present one goes with all its objects and its history; save it before. Objects of the user's own configuration stay.</translation>
+    </message>
+    <message>
+        <source>!Global.newProject():example</source>
+        <translation>saveProject("wing.mrx")
+newProject()</translation>
+    </message>
+    <message>
+        <source>!Global.newProject():returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False, with a message, in the middle of a step that can be undone.</translation>
+    </message>
+    <message>
+        <source>!Global.openProject(string,file,bool,recover=false)</source>
+        <translation>Opens a project in place of the present one. A project is data: opening one runs nothing and reads no other file. A damaged line, an unknown command or a value that doesn't fit is reported with its place, and the rest is opened; the first save then keeps the file as it was as NAME.mrx.damaged. A file that can't be read, or that a newer version of the program has written, is refused, and the present project stays. If another process has the project open, or unsaved work of a session that broke off is there, a message says so.</translation>
+    </message>
+    <message>
+        <source>!Global.openProject(string,file,bool,recover=false):argument0</source>
+        <translation>The project; without a suffix, .mrx is added. The name is relative to the folder of the script if the file lies there, otherwise to the current folder.</translation>
+    </message>
+    <message>
+        <source>!Global.openProject(string,file,bool,recover=false):argument1</source>
+        <translation>True takes the unsaved work from NAME.mrx.autosave, if it is newer than the project.</translation>
+    </message>
+    <message>
+        <source>!Global.openProject(string,file,bool,recover=false):example</source>
+        <translation>if (!openProject("wing.mrx")) { exit(1) }</translation>
+    </message>
+    <message>
+        <source>!Global.openProject(string,file,bool,recover=false):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if all of it could be read.</translation>
+    </message>
+    <message>
+        <source>!Global.saveProject(string,file="")</source>
+        <translation>Saves the project. The version before stays as NAME.mrx~; a crash while saving leaves the old file or the new one, never half. A project that hasn't changed is left as it is. A project that another process has open isn't saved over.</translation>
+    </message>
+    <message>
+        <source>!Global.saveProject(string,file=""):argument0</source>
+        <translation>The file; without a suffix, .mrx is added. The project has this name from then on. By default the present name.</translation>
+    </message>
+    <message>
+        <source>!Global.saveProject(string,file=""):example</source>
+        <translation>saveProject("wing.mrx")</translation>
+    </message>
+    <message>
+        <source>!Global.saveProject(string,file=""):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False, with a message, if it couldn't be saved.</translation>
+    </message>
+    <message>
+        <source>!FManaged</source>
+        <translation>An object of the model: it has a name, takes part in undo, and is saved in the project.</translation>
+    </message>
+    <message>
+        <source>!FManaged:example</source>
+        <translation>parameter span(12.5)
+print(exists("span"))</translation>
+    </message>
 </context>
 </TS>

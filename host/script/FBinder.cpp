@@ -132,14 +132,25 @@ FExprBase FBinder::bindList(const FSyntaxExpr& expression, Use use) {
 
 bool FBinder::mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use) {
     const bool asks = std::any_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->isQuery(); });
+    const bool isData = std::all_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->isData; });
     if (use == Use::Kept && !asks) {
         fail(call.place,
              QStringLiteral(
                  "\"%1\" does something and can't stand in an expression that is kept; call it in a statement "
                  "of its own")
                  .arg(call.name));
+    } else if (use == Use::Saved && !isData) {
+        fail(call.place, QStringLiteral("\"%1\" can't stand in a saved text; passed over").arg(call.name));
     }
     return !mError;
+}
+
+FExprBase FBinder::bindEvaluated(const FSyntaxExpr& expression) {
+    FExprBase bound = bind(expression, Use::Kept);
+    if (mError || bound.canSafelyBeUpdated(false)) {
+        return bound;
+    }
+    return fail(expression.place, QStringLiteral("this reads files, which a saved text can't do while it is read"));
 }
 
 std::vector<FExprBase> FBinder::bindArguments(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call,
@@ -149,7 +160,9 @@ std::vector<FExprBase> FBinder::bindArguments(const std::vector<const FCmdRow*>&
         const bool isKept = std::any_of(rows.begin(), rows.end(), [i](const FCmdRow* row) {
             return i < row->arguments.size() && row->arguments[i].type.isKept;
         });
-        arguments.push_back(bind(call.operands[i], isKept ? Use::Kept : use));
+        const bool isEvaluated = use == Use::Saved && !isKept;
+        arguments.push_back(isEvaluated ? bindEvaluated(call.operands[i])
+                                        : bind(call.operands[i], isKept ? Use::Kept : use));
     }
     return arguments;
 }

@@ -15,8 +15,9 @@ class FBinder {
  public:
     /** What the expression is for. */
     enum class Use {
-        Once,  //!< carried out now, all commands are allowed
-        Kept,  //!< kept by an object: it may only ask
+        Once,   //!< carried out now, all commands are allowed
+        Kept,   //!< kept by an object: it may only ask
+        Saved,  //!< a command of a saved text: one that such a text may hold, whose arguments ask and read no file
     };
 
     FBinder(const FScriptNames& names, const QString& file) : mNames(names), mFile(file) {}
@@ -39,6 +40,8 @@ class FBinder {
     std::vector<FExprBase> bindAll(const std::vector<FSyntaxExpr>& expressions, Use use);
     std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call);
     bool mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
+    /** What a saved text has evaluated at once. */
+    FExprBase bindEvaluated(const FSyntaxExpr& expression);
     FExprBase finish(FCmd* command, const FSyntaxExpr& expression, Use use);
     FExprBase fail(const FPlace& place, const QString& message);
 

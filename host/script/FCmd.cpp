@@ -169,6 +169,7 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
 }
 
 void FCmd::warn(const QString& message) const {
+    mHasWarned = true;
     FLogMsg::warning(mPlace.toString(mFile), message, QStringLiteral("result is NULL"));
 }
 

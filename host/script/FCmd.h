@@ -37,6 +37,9 @@ class FCmd : public FClass<FCmd, FObject> {
     void setUseParentReg(bool use) { mUseParentReg = use; }
     bool getUseParentReg() const { return mUseParentReg; }
 
+    /** Whether it has warned that something of it couldn't be carried out. */
+    bool hasWarned() const { return mHasWarned; }
+
     /** The result, brought up to date. */
     FExprBase getValue() const;
 
@@ -85,4 +88,5 @@ class FCmd : public FClass<FCmd, FObject> {
     FPlace mPlace;
     bool mKept = false;
     bool mUseParentReg = false;
+    mutable bool mHasWarned = false;
 };

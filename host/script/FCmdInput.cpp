@@ -4,7 +4,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "host/script/FCmdManager.h"
-#include "host/script/FCreateCmd.h"
+#include "host/script/FSavedTextReader.h"
 
 #include <QDir>
 #include <QFile>
@@ -83,7 +83,11 @@ bool FCmdInput::run(const QString& text, const QString& file) {
     for (const FSyntaxError& error : script.errors) {
         report(error.place, error.message);
     }
-    return (isSaved || script.errors.empty()) && runBody(script.statements);
+    if (isSaved) {
+        mErrors += FSavedTextReader(mNames, file).read(script.statements);
+        return true;
+    }
+    return script.errors.empty() && runBody(script.statements);
 }
 
 bool FCmdInput::include(const QString& path) {
@@ -139,8 +143,7 @@ bool FCmdInput::runBody(const FSyntaxBody& body) {
         if (mExiting) {
             return true;
         }
-        // A saved text is read to its end, whatever of it couldn't be.
-        if (!done && mMode == Mode::Script) {
+        if (!done) {
             return false;
         }
     }
@@ -148,38 +151,13 @@ bool FCmdInput::runBody(const FSyntaxBody& body) {
 }
 
 bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
-    if (!countStep(statement.place) || !isAllowed(statement)) {
-        return false;
-    }
-    return std::visit([this](const auto& content) { return run(content); }, statement.content);
-}
-
-bool FCmdInput::isAllowed(const FSyntaxStatement& statement) {
-    if (mMode == Mode::Script || std::holds_alternative<FSyntaxDeclaration>(statement.content)) {
-        return true;
-    }
-    const auto* expression = std::get_if<FSyntaxExpr>(&statement.content);
-    const bool isCommand = expression && expression->kind == FSyntaxExpr::Kind::Chain &&
-                           expression->operands.size() == 2 &&
-                           expression->operands.front().kind == FSyntaxExpr::Kind::Name;
-    if (isCommand && isDataCommand(expression->operands.back(), mNames.find(expression->operands.front().name))) {
-        return true;
-    }
-    return report(statement.place,
-                  QStringLiteral("a saved text may hold declarations and attributes only; passed over"));
-}
-
-bool FCmdInput::isDataCommand(const FSyntaxExpr& call, const FExprBase& receiver) {
-    const FObject* object = receiver.getStored();
-    const auto rows = object ? FCmdManager::instance()->findMembers(object->getClassData(), call.name)
-                             : std::vector<const FCmdRow*>();
-    return rows.empty() || std::all_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->isData; });
+    return countStep(statement.place) &&
+           std::visit([this](const auto& content) { return run(content); }, statement.content);
 }
 
 std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
     FBinder binder(mNames, mFile);
-    const auto use = mMode == Mode::SavedText ? FBinder::Use::Kept : FBinder::Use::Once;
-    const FExprBase bound = binder.bind(expression, use);
+    const FExprBase bound = binder.bind(expression, FBinder::Use::Once);
     if (binder.getError()) {
         report(binder.getError()->place, binder.getError()->message);
         return {};
@@ -193,86 +171,22 @@ std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
 bool FCmdInput::run(const FSyntaxExpr& expression) {
     const FSyntaxExpr* call = topCall(expression);
     Step step(call ? call->name : QString(), !isUnwrapped(expression));
-    if (mMode == Mode::Script) {
-        return step.done(evaluate(expression).has_value());
-    }
-    FBinder binder(mNames, mFile);
-    const FExprBase receiver = binder.bind(expression.operands.front(), FBinder::Use::Kept);
-    const FExprBase bound = binder.bindMember(receiver, expression.operands.back(), FBinder::Use::Once);
-    if (binder.getError()) {
-        return step.done(report(binder.getError()->place, binder.getError()->message));
-    }
-    bound.getObject();
-    return step.done(true);
+    return step.done(evaluate(expression).has_value());
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {
+    using Outcome = FDeclarer::Outcome;
     Step step(declaration.creator.name, true);
-    const FExprBase object = declare(declaration);
-    if (object.isEmpty()) {
-        // A creator whose arguments don't fit has warned, and gives NULL.
-        return step.done(mErrors == 0 || mMode == Mode::SavedText);
+    FDeclarer declarer(mNames, mFile, FBinder::Use::Once);
+    FExprBase object;
+    Outcome outcome = declarer.create(declaration, object);
+    if (outcome == Outcome::Null) {
+        return step.done(true);
     }
-    return step.done(runBlock(object, declaration) || mMode == Mode::SavedText);
-}
-
-FExprBase FCmdInput::declare(const FSyntaxDeclaration& declaration) {
-    const FSyntaxExpr& call = declaration.creator;
-    const auto rows = FCmdManager::instance()->findCreators(call.name);
-    if (rows.empty()) {
-        report(call.place, FCmdManager::instance()->unknownCreator(call.name));
-        return {};
+    for (std::size_t i = 0; i < declaration.block.size() && outcome != Outcome::Failed; ++i) {
+        outcome = declarer.command(object, declaration.block[i]);
     }
-    FBinder binder(mNames, mFile);
-    const bool isEntity = rows.front()->kind == FCmdRow::Kind::CreateEntity;
-    auto* command = isEntity ? new FCreateEntityCmd(*rows.front()) : new FCreateCmd(*rows.front());
-    const FExprBase keep(command);
-    const auto use = mMode == Mode::SavedText ? FBinder::Use::Kept : FBinder::Use::Once;
-    command->setArguments(binder.bindArguments(rows, call, use));
-    if (binder.getError()) {
-        report(binder.getError()->place, binder.getError()->message);
-        return {};
-    }
-    command->setPlace(mFile, call.place);
-    command->setTargetName(declaration.name);
-    mCreated = FExpr<FManaged>();
-    command->update();
-    const FExprBase object = mCreated;
-    const FManaged* made = mCreated.ptr();
-    if (made) {
-        mNames.setDeclared(declaration.name, object);
-        if (made->getName() != declaration.name) {
-            FLogMsg::warning(declaration.namePlace.toString(mFile),
-                             QStringLiteral("the name \"%1\" is taken; the new object is \"%2\"")
-                                 .arg(declaration.name, made->getName()));
-        }
-    }
-    return object;
-}
-
-bool FCmdInput::runBlock(const FExprBase& object, const FSyntaxDeclaration& declaration) {
-    bool good = true;
-    for (const FSyntaxBlockLine& line : declaration.block) {
-        FBinder binder(mNames, mFile);
-        FExprBase receiver = object;
-        for (const FSyntaxExpr& call : line) {
-            if (mMode == Mode::SavedText && !isDataCommand(call, receiver)) {
-                report(call.place, QStringLiteral("\"%1\" can't stand in a saved text; passed over").arg(call.name));
-                good = false;
-                break;
-            }
-            receiver = binder.getError() ? receiver : binder.bindMember(receiver, call, FBinder::Use::Once);
-        }
-        if (binder.getError()) {
-            good = report(binder.getError()->place, binder.getError()->message);
-        } else {
-            receiver.getObject();
-        }
-        if (!good && mMode == Mode::Script) {
-            return false;
-        }
-    }
-    return good;
+    return step.done(outcome != Outcome::Failed || report(declarer.getError().place, declarer.getError().message));
 }
 
 bool FCmdInput::run(const FSyntaxAssignment& assignment) {

@@ -13,8 +13,7 @@
  * what its statement did and ends the script; a command whose arguments don't fit gives NULL, with a warning, and the
  * script goes on.
  *
- * Saved text is data: of it, only declarations and commands that a saved text may hold are carried out. Each error is
- * reported with its place, and the rest is read.
+ * Saved text is data, see FSavedTextReader. Each error in it is reported with its place, and the rest is read.
  */
 class FCmdInput : public FCmdParser {
  public:
@@ -38,8 +37,6 @@ class FCmdInput : public FCmdParser {
     /** A path of the script's: relative to its file if such a file exists, else to the current folder. */
     QString resolvePath(const QString& path) const;
 
-    void addObject(const FExpr<FManaged>& object) override { mCreated = object; }
-
     /** The one at work; null if no script is being read. */
     static FCmdInput* current();
 
@@ -54,10 +51,6 @@ class FCmdInput : public FCmdParser {
     bool run(const FSyntaxWhile& loop);
     bool run(const FSyntaxFor& loop);
 
-    FExprBase declare(const FSyntaxDeclaration& declaration);
-    bool runBlock(const FExprBase& object, const FSyntaxDeclaration& declaration);
-    bool isAllowed(const FSyntaxStatement& statement);
-    bool isDataCommand(const FSyntaxExpr& call, const FExprBase& receiver);
     /** Binds and evaluates; nothing if that failed, with the error reported. */
     std::optional<FExprBase> evaluate(const FSyntaxExpr& expression);
     std::optional<bool> evaluateCondition(const FSyntaxExpr& expression);
@@ -71,7 +64,6 @@ class FCmdInput : public FCmdParser {
     QString mText;
     QString mFile;
     FScriptNames mNames;
-    FExpr<FManaged> mCreated;
     int mErrors = 0;
     int mIncludes = 0;
     qint64 mSteps = 0;

@@ -32,8 +32,7 @@ class FCmdLanguage : public FScriptLanguage {
 
     void saveAttributes(const FManaged& object, QTextStream& stream, const std::vector<const FObject*>& attributes,
                         unsigned int indent, bool flag) override {
-        Q_UNUSED(flag)
-        FObjectSaver(stream).saveAttributes(object, attributes, indent);
+        FObjectSaver(stream).saveAttributes(object, attributes, indent, flag);
     }
 
  private:

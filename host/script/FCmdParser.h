@@ -11,7 +11,7 @@ class FCmdParser {
     virtual ~FCmdParser() = default;
 
     /** A creator has made an object. */
-    virtual void addObject(const FExpr<FManaged>& object) = 0;
+    virtual void addObject(const FExpr<FManaged>& object) { Q_UNUSED(object) }
 
     /** An object is about to be changed by a command of the script: it becomes part of the step. */
     static void willAct(FObject* receiver);

@@ -7,6 +7,7 @@
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 #include "host/script/FMemberCmd.h"
+#include "host/script/FProject.h"
 
 #include <QFile>
 #include <QStringList>
@@ -105,6 +106,24 @@ FExpr<FObject> makeFileName(const QString& path) {
     return FExpr<FObject>(new FFileName(path));
 }
 
+bool newProject() {
+    return FProject::instance()->create();
+}
+
+bool openProject(const QString& path, bool recover) {
+    return FProject::instance()->open(resolve(path), recover);
+}
+
+bool saveProject(const QString& path) {
+    return FProject::instance()->save(path);
+}
+
+void projectCommands(FCmdTable& table) {
+    table.global("newProject", &newProject).unwrapped();
+    table.global("openProject", &openProject, {"file", "recover=false"}).unwrapped();
+    table.global("saveProject", &saveProject, {"file=\"\""}).unwrapped();
+}
+
 void commands(FCmdTable& table) {
     table.global("print", &print, {"values"});
     table.global("include", &include, {"file"}).unwrapped();
@@ -122,6 +141,7 @@ void commands(FCmdTable& table) {
     table.global("destroy", &destroyObject, {"object"});
     table.global("getObjects", &getObjects, {"class"}).returns(FCmdTypeOf<QList<FExpr<FObject>>>::type()).query();
     table.global("getAttribute", &getAttribute, {"object", "attribute"}).query();
+    projectCommands(table);
     table.global("fileName", &makeFileName, {"path"}).returns(FCmdTypeOf<FExpr<FFileName>>::type()).query();
 }
 

@@ -18,6 +18,9 @@ class FLexer {
     /// Goes on with the line end behind the present place, whatever stands before that.
     void skipLine();
 
+    /// Goes on at the end.
+    void skipAll() { mPosition = mText.size(); }
+
     /// Begins to pass over a damaged statement: goes on `offset` characters behind the begin of `token`. From now on a
     /// text that lacks its closing quote is taken for its opening quote alone.
     void beginSkipping(const FToken& token, int offset);

@@ -103,6 +103,12 @@ FExprBase FMemberCmd::execute() const {
 
 FExprBase FMemberCmd::act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     if (!row.isQuery()) {
+        // Of which class the receiver is may show only now.
+        if (isKept()) {
+            warn(QStringLiteral("%1.%2 does something and can't stand in an expression that is kept")
+                     .arg(receiver->getClass(), getName()));
+            return {};
+        }
         FCmdParser::willAct(receiver);
     }
     FExprBase result = callRow(row, receiver, values);

@@ -1,5 +1,6 @@
 #include "host/script/FObjectSaver.h"
 
+#include "host/core/FDocuArea.h"
 #include "host/core/FQuotedText.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FMemberCmd.h"
@@ -20,14 +21,15 @@ void FObjectSaver::save(const FManaged& object, unsigned int indent, bool inScop
             << '(' << arguments << ')';
     const auto attributes = FCmdManager::instance()->getAttributesByReceiver(&object);
     const QStringList further = object.furtherSavedCommands();
-    if (attributes.empty() && further.isEmpty() && object.getDocu().isEmpty()) {
+    if (attributes.empty() && further.isEmpty() && object.getDocu().isEmpty() && !flag) {
         mStream << " {}\n";
         return;
     }
     mStream << " {\n";
     const QMap<unsigned int, QString>& docu = object.getDocu();
     for (auto area = docu.begin(); area != docu.end(); ++area) {
-        line(indent + 1, QStringLiteral("addDocu(%1,%2)").arg(quoteText(area.value())).arg(area.key()));
+        const FEnum<FDocuArea> name(static_cast<FDocuArea>(area.key()));
+        line(indent + 1, QStringLiteral("addDocu(%1,%2)").arg(quoteText(area.value()), name.getStringValue()));
     }
     object.saveAttributes(mStream, attributes, indent + 1, flag);
     for (const QString& command : further) {
@@ -37,7 +39,10 @@ void FObjectSaver::save(const FManaged& object, unsigned int indent, bool inScop
 }
 
 void FObjectSaver::saveAttributes(const FManaged& object, const std::vector<const FObject*>& attributes,
-                                  unsigned int indent) {
+                                  unsigned int indent, bool flag) {
+    if (flag) {
+        line(indent, QStringLiteral("setDbId(%1)").arg(object.getDbId()));
+    }
     for (const FObject* attribute : attributes) {
         const auto* command = dynamic_cast<const FAttribCmd*>(attribute);
         const FCmdRow* row = command ? command->getRow() : nullptr;

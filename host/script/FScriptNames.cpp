@@ -8,6 +8,9 @@ FExprBase FScriptNames::find(const QString& name) const {
     if (variable != mVariables.end()) {
         return *variable;
     }
+    if (mAnnounced.contains(name)) {
+        return {};
+    }
     const FExprBase declared = mDeclared.value(name);
     return declared.isValid() ? declared : FExprBase(FObjectManager::instance()->find(name));
 }

@@ -3,6 +3,7 @@
 #include "host/core/FExprBase.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -18,10 +19,19 @@ class FScriptNames {
     /** Whether the script declared an object of that name which isn't there any more. */
     bool isGone(const QString& name) const;
     void setVariable(const QString& name, const FExprBase& value) { mVariables.insert(name, value); }
-    void setDeclared(const QString& name, const FExprBase& object) { mDeclared.insert(name, object); }
+    void setDeclared(const QString& name, const FExprBase& object) {
+        mDeclared.insert(name, object);
+        mAnnounced.remove(name);
+    }
+    /**
+     * The script declares an object of that name further on: until it does, the name stands for nothing, also if the
+     * model has such an object.
+     */
+    void announce(const QString& name) { mAnnounced.insert(name); }
     QStringList getNames() const;
 
  private:
     QHash<QString, FExprBase> mVariables;
     QHash<QString, FExprBase> mDeclared;
+    QSet<QString> mAnnounced;
 };

@@ -30,6 +30,11 @@ void FTokenStream::advance() {
     if (mError)
         return;
     mPrevious = mCurrent;
+    if (++mTokenCount > mostTokens) {
+        fail(mCurrent.place, QStringLiteral("more than %1 words, numbers, texts and signs: what follows isn't read")
+                                 .arg(mostTokens));
+        mLexer.skipAll();
+    }
     mCurrent = mLexer.next();
 }
 

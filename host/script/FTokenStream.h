@@ -12,6 +12,8 @@
 class FTokenStream {
  public:
     static constexpr int deepestNesting = 200;
+    /// Bounds the memory that the syntax of a script takes; what stands behind is an error and not read.
+    static constexpr int mostTokens = 8'000'000;
 
     /// Where passing over a damaged statement may stop.
     enum class FSkipTo {
@@ -75,5 +77,6 @@ class FTokenStream {
     FToken mPrevious;
     std::optional<FSyntaxError> mError;
     int mNesting = 0;
+    int mTokenCount = 0;
     int mReadBefore = -1;  ///< position of the last error from which reading went back by whole lines
 };

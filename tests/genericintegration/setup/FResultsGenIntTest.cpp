@@ -132,7 +132,7 @@ TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
     made->addDocu("a \"good\" one", 1);
     const QString text = saved(made);
     EXPECT_EQ(text, QString("\n    genericIntegrationResults r(d7,%1) {\n"
-                            "        .addDocu(\"a \\\"good\\\" one\",1);\n"
+                            "        .addDocu(\"a \\\"good\\\" one\",DocuDescription);\n"
                             "        .setOutputHandles([square,console]);\n    }\n")
                         .arg(id));
     EXPECT_TRUE(made->getResultPath().endsWith("/d7/comp/")) << made->getResultPath().toStdString();

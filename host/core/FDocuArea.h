@@ -1,0 +1,11 @@
+#pragma once
+
+#include "host/core/FEnum.h"
+
+/** Which part of an object's or command's documentation a text is. */
+enum class FDocuArea { Name = 0, Description = 1, Example = 2, Result = 3 };
+
+template <>
+FClassData FEnum<FDocuArea>::mClass;
+template <>
+const FEnumTable& FEnum<FDocuArea>::table();

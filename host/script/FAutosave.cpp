@@ -1,0 +1,87 @@
+#include "host/script/FAutosave.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FSavedFile.h"
+#include "host/script/FProjectText.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 shortestPause = 3000;
+/** Saving takes at most this part of the time. */
+constexpr qint64 share = 20;
+
+}  // namespace
+
+FAutosave::FAutosave() {
+    mTimer.setSingleShot(true);
+    QObject::connect(&mTimer, &QTimer::timeout, this, [this] { saveSoon(); });
+    FHistory::instance()->setObserver([this] { changed(); });
+}
+
+bool FAutosave::isNewer(const QString& project) {
+    const QFileInfo autosave(pathOf(project));
+    return autosave.exists() && autosave.lastModified() >= QFileInfo(project).lastModified();
+}
+
+void FAutosave::start(const QString& project, bool hasUnsaved) {
+    mProject = project;
+    mIsOwn = hasUnsaved;
+    mHasFailed = false;
+    mPause = 0;
+    if (hasUnsaved) {
+        save();
+    }
+}
+
+void FAutosave::stop() {
+    mTimer.stop();
+    if (mIsOwn) {
+        QFile::remove(pathOf(mProject));
+    }
+    mProject.clear();
+}
+
+void FAutosave::changed() {
+    if (!mProject.isEmpty()) {
+        saveSoon();
+    }
+}
+
+void FAutosave::saveSoon() {
+    const qint64 wait = mPause > 0 ? mPause - mSinceSave.elapsed() : 0;
+    if (wait <= 0 && !FHistory::instance()->inTransaction()) {
+        save();
+    } else if (!mTimer.isActive()) {
+        mTimer.start(static_cast<int>(std::max(wait, qint64{100})));
+    }
+}
+
+void FAutosave::save() {
+    moveForeignAside();
+    QElapsedTimer duration;
+    duration.start();
+    const QString fault = FSavedFile::write(pathOf(mProject), FProjectText::write());
+    if (!fault.isEmpty() && !mHasFailed) {
+        FLogMsg::warning(pathOf(mProject), QStringLiteral("can't keep unsaved work: %1").arg(fault),
+                         QStringLiteral("save the project yourself, under another name if need be"));
+    }
+    mHasFailed = !fault.isEmpty();
+    mIsOwn = mIsOwn || fault.isEmpty();
+    mPause = std::max(shortestPause, share * duration.elapsed());
+    mSinceSave.start();
+}
+
+void FAutosave::moveForeignAside() {
+    const QString path = pathOf(mProject);
+    if (!mProject.isEmpty() && !mIsOwn && QFile::exists(path)) {
+        QFile::remove(path + QLatin1Char('~'));
+        QFile::rename(path, path + QLatin1Char('~'));
+    }
+}

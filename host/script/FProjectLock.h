@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLockFile>
+#include <QString>
+
+#include <memory>
+
+/** Tells other processes that a project is open here, by a file `NAME.mrx.lock` beside it. */
+class FProjectLock {
+ public:
+    enum class State {
+        Held,       //!< by this process
+        Elsewhere,  //!< another process has the project open
+        None,       //!< there can't be a lock, as in a folder that can't be written to
+    };
+
+    /** Gives up the lock held so far, unless it is on the same project. */
+    State acquire(const QString& project);
+    void release();
+    bool isHeldOn(const QString& project) const { return mFile && mProject == project; }
+    /** Who has it, for a message. */
+    const QString& getHolder() const { return mHolder; }
+
+ private:
+    std::unique_ptr<QLockFile> mFile;
+    QString mProject;
+    QString mHolder;
+};

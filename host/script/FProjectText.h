@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/**
+ * The text of a project: a header line that holds the version of the format, then a declaration for each object, in an
+ * order in which a name stands before its use. docs/formats/project.md tells the whole.
+ */
+class FProjectText {
+ public:
+    static constexpr int version = 1;
+    /** Largest file, in bytes, that is read. */
+    static constexpr qint64 largestFile = qint64{512} << 20U;
+
+    /** All objects of the model that belong to the project. The same model gives the same bytes. */
+    static QByteArray write();
+
+    /**
+     * Reads a file without touching the model. False, with a message, if it can't be read, is too large, or was written
+     * in a newer format.
+     */
+    bool load(const QString& path);
+    /** Makes the objects that the loaded text declares; returns how many errors were reported. Nothing is run. */
+    int restore() const;
+
+ private:
+    bool checkHeader();
+
+    QString mPath;
+    QString mText;
+    int mWarnings = 0;
+};

@@ -1,0 +1,153 @@
+#include "host/script/FSavedTextReader.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FUpdateGraph.h"
+
+int FSavedTextReader::read(const FSyntaxBody& statements) {
+    const FImmediateUpdateBlocker blocker;
+    const FHistoryTransaction step(QStringLiteral("read saved text"));
+    announce(statements);
+    for (std::size_t i = 0; i < mStatements.size(); ++i) {
+        goOn(i);
+    }
+    workOffReady();
+    // What is left waits in a ring: the first one is carried out as it stands, and tells what it misses.
+    for (std::size_t i = 0; i < mStatements.size(); ++i) {
+        if (!mStatements[i].isEnded) {
+            mStatements[i].need = mStatements[i].needs.size();
+            goOn(i);
+            workOffReady();
+        }
+    }
+    FUpdateGraph::forgetWaitingThatReadFiles();
+    if (mErrors > mostErrors) {
+        FLogMsg::error(mFile, QStringLiteral("%1 more errors").arg(mErrors - mostErrors));
+    }
+    return mErrors;
+}
+
+void FSavedTextReader::announce(const FSyntaxBody& statements) {
+    for (const FSyntaxStatement& statement : statements) {
+        take(statement);
+    }
+    for (Statement& statement : mStatements) {
+        findNeeds(statement);
+    }
+}
+
+void FSavedTextReader::take(const FSyntaxStatement& statement) {
+    Statement taken;
+    taken.declaration = std::get_if<FSyntaxDeclaration>(&statement.content);
+    taken.command = std::get_if<FSyntaxExpr>(&statement.content);
+    const bool isCommand = taken.command && taken.command->kind == FSyntaxExpr::Kind::Chain &&
+                           taken.command->operands.front().kind == FSyntaxExpr::Kind::Name;
+    if (!taken.declaration && !isCommand) {
+        report(
+            {statement.place, QStringLiteral("a saved text may hold declarations and attributes only; passed over")});
+        return;
+    }
+    if (taken.declaration) {
+        mNames.announce(taken.declaration->name);
+        mAwaited.insert(taken.declaration->name, {});
+    }
+    mStatements.push_back(std::move(taken));
+}
+
+void FSavedTextReader::workOffReady() {
+    while (!mReady.empty()) {
+        const std::size_t number = mReady.front();
+        mReady.pop_front();
+        goOn(number);
+    }
+}
+
+void FSavedTextReader::goOn(std::size_t number) {
+    while (!mStatements[number].isEnded && !mustWait(number)) {
+        Statement& statement = mStatements[number];
+        if (statement.command) {
+            carryOutCommand(statement);
+        } else if (statement.object.isEmpty()) {
+            create(statement);
+        } else {
+            carryOutLine(statement);
+        }
+        findNeeds(statement);
+    }
+}
+
+bool FSavedTextReader::mustWait(std::size_t number) {
+    Statement& statement = mStatements[number];
+    for (; statement.need < statement.needs.size(); ++statement.need) {
+        const auto awaited = mAwaited.find(statement.needs[statement.need]);
+        if (awaited != mAwaited.end()) {
+            awaited->push_back(number);
+            return true;
+        }
+    }
+    return false;
+}
+
+void FSavedTextReader::findNeeds(Statement& statement) const {
+    statement.needs.clear();
+    statement.need = 0;
+    if (statement.isEnded) {
+        return;
+    }
+    if (statement.command) {
+        collectNames(*statement.command, statement.needs);
+    } else if (statement.object.isEmpty()) {
+        collectNames(statement.declaration->creator, statement.needs);
+    } else {
+        for (const FSyntaxExpr& call : statement.declaration->block[statement.line]) {
+            collectNames(call, statement.needs);
+        }
+    }
+}
+
+void FSavedTextReader::collectNames(const FSyntaxExpr& expression, QStringList& names) const {
+    if (expression.kind == FSyntaxExpr::Kind::Name && mAwaited.contains(expression.name)) {
+        names.append(expression.name);
+    }
+    for (const FSyntaxExpr& operand : expression.operands) {
+        collectNames(operand, names);
+    }
+}
+
+void FSavedTextReader::create(Statement& statement) {
+    const FDeclarer::Outcome outcome = mDeclarer.create(*statement.declaration, statement.object);
+    note(outcome);
+    statement.isEnded = outcome != FDeclarer::Outcome::Done || statement.declaration->block.empty();
+    settle(statement.declaration->name);
+}
+
+void FSavedTextReader::carryOutLine(Statement& statement) {
+    const auto& block = statement.declaration->block;
+    note(mDeclarer.command(statement.object, block[statement.line]));
+    statement.isEnded = ++statement.line == block.size();
+}
+
+void FSavedTextReader::carryOutCommand(Statement& statement) {
+    note(mDeclarer.command(*statement.command));
+    statement.isEnded = true;
+}
+
+void FSavedTextReader::settle(const QString& name) {
+    const std::vector<std::size_t> waiting = mAwaited.take(name);
+    mReady.insert(mReady.end(), waiting.begin(), waiting.end());
+}
+
+void FSavedTextReader::note(FDeclarer::Outcome outcome) {
+    if (outcome == FDeclarer::Outcome::Failed) {
+        report(mDeclarer.getError());
+    } else if (outcome == FDeclarer::Outcome::Null) {
+        ++mErrors;
+    }
+}
+
+void FSavedTextReader::report(const FSyntaxError& error) {
+    if (++mErrors <= mostErrors) {
+        FLogMsg::error(error.place.toString(mFile), error.message);
+    }
+}

@@ -25,6 +25,22 @@ TEST_P(ExamplesTest, agreesWithItsFormulas) {
         << outcome.output.toStdString() << outcome.errors.toStdString();
 }
 
+TEST_P(ExamplesTest, givesTheSameNumbersWhenReopened) {
+    if (QStandardPaths::findExecutable(GetParam().program).isEmpty()) {
+        GTEST_SKIP() << "The program " << GetParam().program << " isn't installed.";
+    }
+    const QString numbers =
+        "for (c in getObjects(\"FGenIntComputation\")) {\n  print(\"ran\", c.run())\n"
+        "  for (name in c.getResults().getTableNames()) {\n    t = c.getResults().getTable(name)\n"
+        "    for (row in t.getRowNames()) { print(row, t.getElementAt(row)) }\n  }\n}\n";
+    const QString example = QString(MERIX_EXAMPLES "/") + GetParam().script;
+    const Outcome first = script("include(\"" + example + "\")\n" + numbers + "saveProject(\"example.mrx\")\n");
+    const Outcome again = script("print(openProject(\"example.mrx\"))\n" + numbers);
+    const QString wanted = first.output.mid(first.output.indexOf("ran true"));
+    EXPECT_GT(wanted.count('\n'), 3) << first.errors.toStdString();
+    EXPECT_EQ(again.output, "true\n" + wanted) << again.errors.toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(, ExamplesTest,
                          testing::Values(Example{"cantilever", "cantilever/designs.merix", "ccx",
                                                  "All numbers are within 0.25 % of the theory."},

@@ -1,0 +1,250 @@
+#include "host/script/FProject.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FManaged.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FQuotedText.h"
+#include "host/script/FProjectText.h"
+#include "tests/support/FModelTest.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class FProjectTest : public FModelTest {
+ protected:
+    ~FProjectTest() override { FProject::instance()->close(); }
+
+    QString path(const QString& name) const { return mFolder.filePath(name); }
+    bool has(const QString& name) const { return QFile::exists(path(name)); }
+    QString read(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    void write(const QString& name, const QString& text) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    bool save(const QString& name) { return FProject::instance()->save(name.isEmpty() ? name : path(name)); }
+    bool open(const QString& name, bool recover = false) { return FProject::instance()->open(path(name), recover); }
+    /** Saves, opens and saves again, and expects the same bytes. */
+    void expectToSurvive() {
+        ASSERT_TRUE(save("p.mrx"));
+        const QString first = read("p.mrx");
+        ASSERT_TRUE(open("p.mrx")) << log().join('\n').toStdString() << first.toStdString();
+        EXPECT_EQ(QString::fromUtf8(FProjectText::write()).toStdString(), first.toStdString());
+    }
+
+    QTemporaryDir mFolder;
+};
+
+TEST_F(FProjectTest, whatIsSavedComesBack) {
+    ASSERT_TRUE(run(R"(
+thing a(1) { .setText("first") }
+parameter span(12.5) { .addDocu("in \"metres\" \ and so", DocuExample) }
+thing b(2) { .setFriend(a) }
+parameter twice(2 * span)
+destroy(a)
+undo()
+parameter asked(twice + 1) { .setUpdateOnDemand(true) }
+span.setValue(asked.getValue() * 0 + 3)
+twice.setValue(2)
+asked.setValue(span)
+destroy(b)
+parameter last(3)
+twice.setValue(2 * last)
+)"));
+    const int id = FObjectManager::instance()->find("last")->getDbId();
+    expectToSurvive();
+    EXPECT_EQ(textOf("twice.getValue()"), "6");
+    EXPECT_EQ(FObjectManager::instance()->find("last")->getDbId(), id);
+    EXPECT_EQ(FHistory::instance()->getLabels(), QStringList());
+    ASSERT_TRUE(run("parameter next(1)\nlast.setValue(5)\nundo()"));
+    EXPECT_GT(FObjectManager::instance()->find("next")->getDbId(), id);
+    EXPECT_EQ(textOf("twice.getValue()"), "6");
+    EXPECT_LT(read("p.mrx").indexOf("parameter last"), read("p.mrx").indexOf("parameter twice"));
+}
+
+TEST_F(FProjectTest, namesInARingComeBack) {
+    auto* a = FObjectManager::instance();
+    ASSERT_TRUE(run("thing a(1)\nthing b(2)\nthing c(3) { .setFriend(a) }\nthing d(4)"));
+    // A ring of handles that the update graph doesn't see.
+    write("ring.mrx",
+          "// merix project, format 1\nthing b(2) {\n.setDbId(9)\n.setFriend(c)\n.setText(\"b\")\n}\n"
+          "thing c(3) {\n.setDbId(2)\n.setFriend(d)\n}\nthing d(4) {\n.setFriend(a)\n}\nthing a(e.getNumber())\n"
+          "d.setText(\"later\")\nthing e(7)\n");
+    ASSERT_TRUE(open("ring.mrx")) << log().join('\n').toStdString();
+    EXPECT_EQ(textOf("[b.getNumber(),getAttribute(b, \"setFriend\"),getAttribute(d, \"setFriend\"),a.getNumber()]"),
+              "[2,c,a,7]");
+    EXPECT_EQ(a->find("b")->getDbId(), 9);
+    EXPECT_EQ(a->find(2)->getName(), "c");
+    // What is really missing is told, and costs no more than what needs it.
+    write("ring.mrx",
+          "// merix project, format 1\nthing a(b.getNumber())\nthing b(a.getNumber())\nthing c(1) {\n"
+          ".setFriend(nobody)\n.setText(\"c\")\n.setFriend(a)\n.setNumber(5)\n}\n");
+    EXPECT_FALSE(open("ring.mrx"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"c"});
+    EXPECT_EQ(textOf("c.getNumber()"), "5");
+    EXPECT_TRUE(logHolds("ring.mrx:5:12: nothing is named \"nobody\""));
+    EXPECT_TRUE(logHolds("ring.mrx:2:9: nothing is named \"b\""));
+}
+
+TEST_F(FProjectTest, anyTextSurvives) {
+    const QStringList texts{R"(ends in a quote ")",
+                            R"("\")",
+                            R"(C:\new\)",
+                            "\\\\",
+                            "a\nb\r\nc\rd",
+                            "[B64]QUJD",
+                            QString::fromUtf8("größe 長さ \xF0\x9F\x98\x80"),
+                            "// no comment",
+                            "}\n\nthing x() {",
+                            "word : rest",
+                            QString("null") + QChar(0) + "byte",
+                            "\t",
+                            "\uFEFF"};
+    ASSERT_TRUE(run(QString::fromUtf8("thing größe長さ(1)\nthing Δ()")));
+    for (int i = 0; i < texts.size(); ++i) {
+        ASSERT_TRUE(
+            run(QString("thing t%1() {\n.setText(%2)\n.addDocu(%2,DocuResult)\n}").arg(i).arg(quoteText(texts[i]))));
+    }
+    expectToSurvive();
+    for (int i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(textOf(QString("getAttribute(t%1, \"setText\")").arg(i)), texts[i]);
+    }
+    EXPECT_EQ(textOf(QString::fromUtf8("größe長さ.getNumber()")), "1");
+}
+
+TEST_F(FProjectTest, theVersionBeforeIsKept) {
+    ASSERT_TRUE(run("thing a(1)"));
+    EXPECT_FALSE(save(""));
+    EXPECT_TRUE(logHolds("the project has no file yet (give a file name)"));
+    ASSERT_TRUE(save("p"));
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(save(""));
+    EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
+    EXPECT_TRUE(read("p.mrx~").contains("thing a(1)")) << "an unchanged project isn't a version";
+    ASSERT_TRUE(QFile::remove(path("p.mrx")));
+    EXPECT_FALSE(save("no/such/folder/p.mrx"));
+    EXPECT_TRUE(logHolds("not saved: "));
+    EXPECT_EQ(FMerixCtrl::instance()->getProjectFile(), path("p.mrx"));
+}
+
+TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
+    write("p.mrx",
+          "// merix projeXt, format 1\nthing a(1) {\n.setText(\"x\")\n.setNumbr(2)\n.setNumber(\"3\")\n}\nthng b()\n"
+          "thing c(3) {\n.setFriend(a)\n.setText(\"no end)\n}\nthing d(4)\n");
+    EXPECT_FALSE(open("p.mrx"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), (QStringList{"a", "c", "d"}));
+    for (const char* told : {"p.mrx:1: a project begins with the line \"// merix project, format 1\", but here stands",
+                             "p.mrx:4:2: FThing has no command \"setNumbr\"", "p.mrx:5:2: setNumber: argument 1",
+                             "p.mrx:7:1: there is no creator \"thng\"", "p.mrx:10:", "5 errors; what they are about"}) {
+        EXPECT_TRUE(logHolds(told)) << told << "\n" << log().join('\n').toStdString();
+    }
+    const QString damaged = read("p.mrx");
+    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(run("a.setNumber(9)"));
+    ASSERT_TRUE(save(""));
+    EXPECT_EQ(read("p.mrx.damaged"), damaged);
+}
+
+TEST_F(FProjectTest, whatCantBeOpenedLeavesThePresentProject) {
+    ASSERT_TRUE(run("thing a(1)"));
+    write("newer.mrx", "// merix project, format 2\nthing b()\n");
+    write("huge.mrx", "");
+    ASSERT_TRUE(QFile::resize(path("huge.mrx"), qint64{1} << 30U));
+    for (const char* name : {"newer.mrx", "huge.mrx", "missing.mrx", "."}) {
+        EXPECT_FALSE(open(name)) << name;
+    }
+    EXPECT_TRUE(logHolds("written in format 2; this program reads formats up to 1"));
+    EXPECT_TRUE(logHolds("more than a project can have"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"a"});
+    EXPECT_TRUE(FHistory::instance()->undo());
+}
+
+TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p.mrx"));
+    ASSERT_TRUE(has("p.mrx.lock"));
+    FProject::instance()->create();
+    EXPECT_FALSE(has("p.mrx.lock"));
+    QLockFile other(path("p.mrx.lock"));
+    ASSERT_TRUE(other.lock());
+    EXPECT_TRUE(open("p.mrx"));
+    EXPECT_TRUE(logHolds("the project is open elsewhere"));
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    EXPECT_FALSE(has("p.mrx.autosave"));
+    EXPECT_FALSE(save(""));
+    EXPECT_TRUE(read("p.mrx").contains("thing a(1)"));
+    EXPECT_TRUE(save("q.mrx"));
+}
+
+TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p.mrx"));
+    EXPECT_FALSE(has("p.mrx.autosave"));
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    const QString unsaved = read("p.mrx.autosave");
+    EXPECT_TRUE(unsaved.contains("thing a(2)"));
+    FProject::instance()->close();
+    EXPECT_FALSE(has("p.mrx.autosave")) << "an orderly end";
+
+    write("p.mrx.autosave", unsaved);
+    ASSERT_TRUE(open("p.mrx"));
+    EXPECT_TRUE(logHolds("there is unsaved work of "));
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
+    ASSERT_TRUE(open("p.mrx", true));
+    EXPECT_TRUE(logHolds("recovered the unsaved work of "));
+    EXPECT_EQ(textOf("a.getNumber()"), "2");
+    EXPECT_TRUE(has("p.mrx.autosave")) << "it isn't saved yet";
+    ASSERT_TRUE(save(""));
+    EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
+    EXPECT_FALSE(has("p.mrx.autosave"));
+
+    // What nobody took isn't lost by further work.
+    write("p.mrx.autosave", unsaved + "thing taken()\n");
+    ASSERT_TRUE(open("p.mrx"));
+    ASSERT_TRUE(run("a.setNumber(3)"));
+    EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(3)"));
+    EXPECT_TRUE(read("p.mrx.autosave~").contains("taken"));
+    ASSERT_TRUE(open("p.mrx", true));
+    EXPECT_EQ(textOf("a.getNumber()"), "3") << "one's own unsaved work counts as well";
+    write("p.mrx.autosave", unsaved);
+    QFile autosave(path("p.mrx.autosave"));
+    ASSERT_TRUE(autosave.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(autosave.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
+    autosave.close();
+    ASSERT_TRUE(open("p.mrx", true));
+    EXPECT_TRUE(logHolds("there is no unsaved work to recover"));
+}
+
+TEST_F(FProjectTest, aProjectIsDataAndDoesNothing) {
+    write("secret.txt", "12");
+    const QString secret = quoteText(path("secret.txt"));
+    write("p.mrx", "// merix project, format 1\nthing a(1)\nthing b(readText(" + secret +
+                       "))\nthing c(2) {\n.setText(readText(" + secret +
+                       "))\n.setNumber(3).destroy(a)\n.setText(\"kept\").add(1)\n.add(1,exit(2))\n}\n" +
+                       "parameter p(readText(" + secret + "))\nparameter q(destroy(a))\nparameter r(include(" + secret +
+                       "))\nparameter s() {\n.setValue(saveProject(" + quoteText(path("written.mrx")) +
+                       "))\n}\ndestroy(a)\nprint(1)\nwhile (true) {}\nx = exit(3)\na.destroy()\nreadText(" + secret +
+                       ").at(0)\n");
+    EXPECT_FALSE(open("p.mrx"));
+    EXPECT_EQ(FObjectManager::instance()->getNames(), (QStringList{"a", "c", "p", "s"}));
+    EXPECT_EQ(textOf("getAttribute(c, \"setText\")"), "");
+    EXPECT_EQ(textOf("c.getNumber()"), "2");
+    EXPECT_FALSE(has("written.mrx"));
+    for (int line : {3, 5, 6, 7, 8, 11, 12, 14, 16, 17, 18, 19, 20, 21}) {
+        EXPECT_TRUE(logHolds(QString("p.mrx:%1:").arg(line))) << line << "\n" << log().join('\n').toStdString();
+    }
+    // An expression that reads files may be kept; it is evaluated when somebody asks.
+    const auto* parameter = FObjectManager::instance()->find("p");
+    EXPECT_TRUE(parameter->isOutOfDate());
+    EXPECT_EQ(textOf("p.getValue()"), "12");
+}
+
+}  // namespace

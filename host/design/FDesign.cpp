@@ -1,3 +1,20 @@
 #include "host/design/FDesign.h"
 
-FClassData FDesign::mClass("FDesign", &FEntity::mClass);
+#include "host/script/FCmdTable.h"
+
+namespace {
+
+void commands(FCmdTable& table) {
+    table.entityCreator(
+        "design", +[](const FNewName& name) { return FDesign::create(name.name); });
+}
+
+}  // namespace
+
+FClassData FDesign::mClass("FDesign", &FEntity::mClass, &commands);
+
+FDesign* FDesign::create(const QString& name) {
+    auto* design = new FDesign(name);
+    design->registerObject();
+    return design;
+}

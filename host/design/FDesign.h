@@ -8,4 +8,5 @@ class FDesign : public FClass<FDesign, FEntity> {
     static FClassData mClass;
 
     explicit FDesign(const QString& name = QString()) : FClass(name) {}
+    static FDesign* create(const QString& name);
 };

@@ -2286,5 +2286,27 @@ newProject()</translation>
         <translation>parameter span(12.5)
 print(exists("span"))</translation>
     </message>
+    <message>
+        <source>!FDesign.creator.design()</source>
+        <translation>A design: it has a name, and a folder of its own for its runs.</translation>
+    </message>
+    <message>
+        <source>!FDesign.creator.design():example</source>
+        <translation>design slender()
+print(exists("slender"))</translation>
+    </message>
+    <message>
+        <source>!FDesign.creator.design():returnValue</source>
+        <comment>return type: FDesign</comment>
+        <translation>The new design.</translation>
+    </message>
+    <message>
+        <source>!FDesign</source>
+        <translation>A design of a study: what has a name and a folder of its own for its runs.</translation>
+    </message>
+    <message>
+        <source>!FDesign:example</source>
+        <translation>design slender()</translation>
+    </message>
 </context>
 </TS>

@@ -24,3 +24,8 @@ void FIO::information(void* parent, const QString& title, const QString& text, c
     Q_UNUSED(escape)
     FUserInterface::instance()->tell(title, text);
 }
+
+QString FIO::openFileName(void* parent, const QString& caption, const QString& startPath, const QString& filter) {
+    Q_UNUSED(parent)
+    return FUserInterface::instance()->askOpenFile(caption, startPath, filter);
+}

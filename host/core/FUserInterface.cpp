@@ -34,3 +34,10 @@ int FUserInterface::ask(const QString& title, const QString& text, const QString
 void FUserInterface::tell(const QString& title, const QString& text) {
     FLogMsg::info(title, text, QString());
 }
+
+QString FUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
+    Q_UNUSED(filter)
+    FLogMsg::info(caption, QStringLiteral("no window can ask for a file in %1").arg(startPath),
+                  QStringLiteral("nothing is opened; give its name"));
+    return {};
+}

@@ -22,5 +22,9 @@ class FUserInterface {
     /** Asks, and returns the number of the button, the first being 0. */
     virtual int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton);
     virtual void tell(const QString& title, const QString& text);
+    /** Asks for a file to open, starting at a path; the answer is empty if there is none. */
+    virtual QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter);
+    /** A dialog that blocks the other windows opens, or has closed. */
+    virtual void setModalDialog(bool open) { Q_UNUSED(open) }
     virtual void highlight(const QList<FExprBase>& objects) { Q_UNUSED(objects) }
 };

@@ -8,6 +8,9 @@ class FViewCtrl {
     static FViewCtrl* instance();
 
     bool hasGui() const { return FUserInterface::instance()->hasGui(); }
+    /** The two stand around a dialog that blocks the other windows. */
+    static void prepareModalDialog(void* parent);
+    static void finalizeModalDialog();
 };
 
 /** The tree of all objects. */

@@ -1,0 +1,33 @@
+#include "host/core/FFile.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+namespace {
+
+/** The value of the variable that a match names; the match itself if there is none. */
+QString valueOf(const QRegularExpressionMatch& match) {
+    const QByteArray variable = match.captured(match.lastCapturedIndex()).toLocal8Bit();
+    return qEnvironmentVariableIsSet(variable.constData()) ? qEnvironmentVariable(variable.constData())
+                                                           : match.captured();
+}
+
+bool startsAtHome(const QString& name) {
+    return name == QLatin1String("~") || name.startsWith(QLatin1String("~/"));
+}
+
+}  // namespace
+
+QString FFile::resolveEnv(const QString& name) {
+    static const QRegularExpression reference(
+        QStringLiteral("\\$\\{([A-Za-z_]\\w*)\\}|\\$([A-Za-z_]\\w*)|%([A-Za-z_]\\w*)%"));
+    const bool isAtHome = startsAtHome(name);
+    QString resolved = isAtHome ? QDir::homePath() : QString();
+    int from = isAtHome ? 1 : 0;
+    for (auto found = reference.globalMatch(name, from); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        resolved += name.mid(from, match.capturedStart() - from) + valueOf(match);
+        from = match.capturedEnd();
+    }
+    return resolved + name.mid(from);
+}

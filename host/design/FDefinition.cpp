@@ -1,10 +1,15 @@
 #include "host/design/FDefinition.h"
 
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FModel.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinitionCommands.h"
 #include "host/design/FEntryDef.h"
+#include "host/script/FCmdInput.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FScriptParser.h"
 
 FClassData FDefinition::mClass("FDefinition", &FDefinitionBase::mClass, &definitionCommands);
 
@@ -18,6 +23,28 @@ void collectCommands(const FEntryHolder& holder, QStringList& commands) {
         }
         collectCommands(*entry.ptr(), commands);
     }
+}
+
+/** Copies of the entries that the text gives to a definition of its own, which doesn't stay. */
+bool readEntries(const QString& creator, const QString& text, QList<FExpr<FEntryBase>>& entries) {
+    const QString name = QStringLiteral("entries");
+    QString saved = creator + QLatin1Char(' ') + name + QStringLiteral("() {\n") + text + QStringLiteral("\n}\n");
+    QTextStream stream(&saved);
+    if (parseScript(saved, name).statements.size() > 1) {
+        FLogMsg::error(name, QStringLiteral("the text holds more than the entries of one definition"),
+                       QStringLiteral("the entries stay as they were"));
+        return false;
+    }
+    const FHistoryBlocker blocker;
+    FCmdInput input(FCmdInput::Mode::SavedText);
+    input.readInputString(stream, name);
+    const bool isRead = input.exec();
+    const FExpr<FDefinition> scratch(input.getNames().find(name));
+    for (const FExpr<FEntryBase>& entry : scratch ? scratch->getEntries() : QList<FExpr<FEntryBase>>()) {
+        entries.append(static_cast<const FEntryDef*>(entry.ptr())->copy());
+    }
+    FManaged::destroy(scratch.ptr(), true);
+    return isRead && scratch.identity();
 }
 
 }  // namespace
@@ -34,6 +61,26 @@ void FDefinition::reinitConfigurations(bool reset) {
     for (FConfiguration* configuration : getConfigurations()) {
         configuration->reinit(reset);
     }
+}
+
+void FDefinition::replaceEntries(const QList<FExpr<FEntryBase>>& entries) {
+    const FHistoryTransaction transaction(QStringLiteral("replace entries"));
+    setEntries(entries);
+    for (FConfiguration* configuration : getConfigurations()) {
+        FEntry::reassign(configuration->getEntries(), getEntries());
+    }
+    reinitConfigurations(false);
+}
+
+// Read into a definition of the same class, so that a text with errors leaves this one as it was.
+bool FDefinition::setEntryDefsFromDB(const QString& text) {
+    const FCmdRow* creator = FCmdManager::instance()->creatorOf(getClassData());
+    QList<FExpr<FEntryBase>> entries;
+    if (!creator || !readEntries(creator->name, text, entries)) {
+        return false;
+    }
+    replaceEntries(entries);
+    return true;
 }
 
 void FDefinition::updateCommandFiles(const QString& oldName, const QString& newName) {

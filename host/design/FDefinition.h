@@ -24,6 +24,16 @@ class FDefinition : public FClass<FDefinition, FDefinitionBase> {
     void addEntry(const FExpr<FEntryBase>& entry) override;
     /** Has all configurations of this definition follow its entries, see FConfiguration::reinit. */
     virtual void reinitConfigurations(bool reset);
+    /**
+     * Replaces all entry definitions. Entries of configurations belong to the new one of the same name, so that they
+     * keep their values.
+     */
+    void replaceEntries(const QList<FExpr<FEntryBase>>& entries);
+    /**
+     * Rebuilds the entry definitions from the text that saved definitions hold for them: the lines of
+     * `furtherSavedCommands`. False, with the errors reported and the entries as they were, if it can't be read.
+     */
+    virtual bool setEntryDefsFromDB(const QString& text);
     /** A name in tags has changed: texts that name it follow. */
     virtual void updateCommandFiles(const QString& oldName, const QString& newName);
     /** The files that are written before a run and read after it. */

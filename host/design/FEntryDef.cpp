@@ -30,8 +30,19 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
         return nullptr;
     }
     FHistoryTransaction transaction(QStringLiteral("create entry"));
-    auto* entry = new FEntryDef(parent->freeEntryName(name, nullptr));
-    const FExpr<FEntryBase> handle(entry);
+    const FExpr<FEntryBase> handle =
+        make(parent->freeEntryName(name, nullptr), least, most, hidden, hasDefault, description, valueOrType);
+    parent->addEntry(handle);
+    if (parent != parent->getRoot()) {
+        static_cast<FDefinition*>(parent->getRoot())->reinitConfigurations(false);
+    }
+    return static_cast<FEntryDef*>(handle.ptr());
+}
+
+FExpr<FEntryBase> FEntryDef::make(const QString& name, int least, int most, bool hidden, bool hasDefault,
+                                  const QString& description, const FExprBase& valueOrType) {
+    auto* entry = new FEntryDef(name);
+    FExpr<FEntryBase> handle(entry);
     entry->mMost = std::clamp(most, 1, mostOccurrences);
     entry->mLeast = std::clamp(least, 0, entry->mMost);
     entry->mHidden = hidden;
@@ -39,11 +50,7 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
     entry->mDefault = hasDefault ? entryValue(FExprBase(valueObject(valueOrType))) : FExprBase();
     const FObject* value = hasDefault ? entry->mDefault.getStored() : valueOrType.getStored();
     entry->mpType = value ? value->getPrototype() : nullptr;
-    parent->addEntry(handle);
-    if (parent != parent->getRoot()) {
-        static_cast<FDefinition*>(parent->getRoot())->reinitConfigurations(false);
-    }
-    return entry;
+    return handle;
 }
 
 void FEntryDef::setName(const QString& name) {

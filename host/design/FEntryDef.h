@@ -26,6 +26,10 @@ class FEntryDef : public FClass<FEntryDef, FEntryBase> {
     static FEntryDef* create(const QString& name, FEntryHolder* parent, int least, int most, bool hidden,
                              bool hasDefault, const QString& description, const FExprBase& valueOrType);
 
+    /** An entry as `create` makes it, which stands nowhere. Whoever builds a tree of such sees to the names. */
+    static FExpr<FEntryBase> make(const QString& name, int least, int most, bool hidden, bool hasDefault,
+                                  const QString& description, const FExprBase& valueOrType);
+
     int getMinOccurrences() const { return mLeast; }
     int getMaxOccurrences() const { return mMost; }
     bool isHidden() const { return mHidden; }

@@ -2,9 +2,21 @@
 
 #include "genericintegration/io/FGenIntWriter.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntDefinitionParser.h"
+#include "host/core/FFile.h"
+#include "host/script/FCmdInput.h"
 #include "host/script/FCmdTable.h"
 
+#include <QFile>
+
 namespace {
+
+FDefinitionGenInt* importGenIntDefinition(const QString& fileName) {
+    const FCmdInput* script = FCmdInput::current();
+    const bool isInScript = script && !fileName.isEmpty();
+    return FConfigurationGenInt::null()->importGenIntDefinition(
+        isInScript ? script->resolvePath(FFile::resolveEnv(fileName)) : fileName);
+}
 
 FExpr<FDefinitionGenInt> definitionOf(const FConfigurationGenInt& configuration) {
     return FExpr<FDefinitionGenInt>(configuration.getDefinition());
@@ -26,6 +38,9 @@ void commands(FCmdTable& table) {
         .needsGuiReinit(true)
         .userLevel(1)
         .data();
+    table.global("importGenIntDefinition", &importGenIntDefinition, {"fileName=\"\""})
+        .method("importGenIntDefinition")
+        .onPrototype();
     table.hideInherited("FAttribCmdFConfigurationCustomsetDefinitionFDefinitionCustom");
 }
 
@@ -68,4 +83,15 @@ void FConfigurationGenInt::reassignEntryDefs() {
     if (const FDefinition* definition = getDefinition().ptr()) {
         FEntry::reassign(getEntries(), definition->getEntries());
     }
+}
+
+FDefinitionCustom* FConfigurationGenInt::parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const {
+    FGenIntDefinitionParser parser(definition);
+    parser.read(file);
+    return parser.getDefinition().ptr();
+}
+
+FDefinitionGenInt* FConfigurationGenInt::importGenIntDefinition(const QString& fileName) const {
+    return dynamic_cast<FDefinitionGenInt*>(
+        importLodmDefinition(FExpr<FDefinitionCustom>(FDefinitionGenInt::null()), fileName));
 }

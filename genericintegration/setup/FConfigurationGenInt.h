@@ -19,6 +19,10 @@ class FConfigurationGenInt : public FClass<FConfigurationGenInt, FConfigurationC
     virtual void init(const FConfigurationGenInt* other);
     bool isGenInt() const override { return true; }
     QMap<QString, QString> getPreview() override;
+    void setSyntaxHighlighter(QTextDocument* document) override { Q_UNUSED(document) }
+    FDefinitionCustom* parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const override;
+    /** Makes a definition of an exchange file, see FConfigurationCustom::importLodmDefinition. */
+    virtual FDefinitionGenInt* importGenIntDefinition(const QString& fileName) const;
 
     /**
      * After the entry definitions were rebuilt: an entry whose own is gone takes the first of the same name, or keeps

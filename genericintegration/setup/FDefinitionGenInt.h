@@ -66,8 +66,16 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     bool commandFileReferencesEntry(const FExpr<FEntryBase>& entry) const;
     /** Puts the entry's default value in place of its tags; without one they stay. */
     void removeEntryFromCommandFiles(const FExpr<FEntryBase>& entry);
+    bool setEntryDefsFromDB(const QString& text) override;
     /** The entries of all configurations belong to the present entry definitions again. */
     void reassignEntryDefs();
+
+    /**
+     * Writes the exchange file: the entries, then the files, the further objects, and the source objects of geometry
+     * exports of kind 1, as script text. See FDefinitionCustom::save.
+     */
+    bool save() const override;
+    bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const override;
 
     /** Files go where their definition goes; those of a default definition stay out of the user's configuration. */
     void setInProject(bool inProject) override;
@@ -80,6 +88,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     friend class FClass<FDefinitionGenInt, FDefinitionCustom>;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
+    void writeObjectArea(QSet<FExpr<FManaged>> objects, QFile& file) const;
     void filesChanged();
     void clearFileStorages() const;
     void putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry);

@@ -315,6 +315,35 @@ genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 print(wing.getEntryNames(), cruise.getEntryValue("Geometry|span"))</translation>
     </message>
     <message>
+        <source>!FDefinitionCustom</source>
+        <translation>A definition that can be kept in a file of its own and moved between projects: base of the definitions that plug-ins bring.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionCustom.member.save(string,fileName="")</source>
+        <translation>Writes the definition to an exchange file: its entries, and what belongs to it, such as the templates of an integration. Values of configurations are not in it. A file of that name is replaced in one step, or stays as it is if the new one can't be written. The name is remembered as long as the program runs.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionCustom.member.save(string,fileName=""):argument0</source>
+        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it the file of the last time is written.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionCustom.member.save(string,fileName=""):example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span = &lt;entry&gt;span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationDefinition wing() { .addEntry("span", 12.5); .setFiles([in1]) }
+print(wing.save("wing.lodm"))</translation>
+    </message>
+    <message>
+        <source>!FDefinitionCustom.member.save(string,fileName=""):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False, with a message, if the file can't be written or there is none yet.</translation>
+    </message>
+    <message>
+        <source>!FDefinitionCustom:example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span = &lt;entry&gt;span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationDefinition wing() { .addEntry("span", 12.5); .setFiles([in1]) }
+print(wing.save("wing.lodm"))</translation>
+    </message>
+    <message>
         <source>!FDefinitionGenInt</source>
         <translation>The description of one integration of an external program: its entries, and the templates of the files that the program reads and writes. A tag in an input template names an entry by its path.</translation>
     </message>
@@ -1820,6 +1849,27 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
         <source>!Global.getObjects(string,class):returnValue</source>
         <comment>return type: FObjectContainer</comment>
         <translation>The objects, as a list.</translation>
+    </message>
+    <message>
+        <source>!Global.importGenIntDefinition(string,fileName="")</source>
+        <translation>Makes a definition of an exchange file that save has written: its entries, and its templates. Objects of names that are taken get others. The file is data: nothing in it is run. What is wrong with it is told with its place; faults of the first half of the file keep all of it from being read, of others only what they stand in.</translation>
+    </message>
+    <message>
+        <source>!Global.importGenIntDefinition(string,fileName=""):argument0</source>
+        <translation>The file, relative to the folder of the script if it lies there, otherwise to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
+    </message>
+    <message>
+        <source>!Global.importGenIntDefinition(string,fileName=""):example</source>
+        <translation>genericIntegrationCommandFile in1() { .setContent("span = &lt;entry&gt;span&lt;/entry&gt;"); .setFileName("wing.inp") }
+genericIntegrationDefinition wing() { .addEntry("span", 12.5); .setFiles([in1]) }
+wing.save("wing.lodm")
+copy = importGenIntDefinition("wing.lodm")
+print(copy.getEntryNames())</translation>
+    </message>
+    <message>
+        <source>!Global.importGenIntDefinition(string,fileName=""):returnValue</source>
+        <comment>return type: FDefinitionGenInt</comment>
+        <translation>The definition; NULL if the file can't be read.</translation>
     </message>
     <message>
         <source>!Global.include(string,file)</source>

@@ -1,10 +1,41 @@
 #include "host/lodm/FConfigurationCustom.h"
 
+#include "host/core/FFile.h"
+#include "host/core/FIO.h"
+#include "host/core/FIni.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FViewCtrl.h"
+#include "host/lodm/FLodmDefinitionParser.h"
+#include "host/run/FPathManager.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 
+#include <QCoreApplication>
+#include <QFile>
+
 namespace {
+
+const QString& importPathKey() {
+    static const QString key = QStringLiteral("LODM/import/path");
+    return key;
+}
+
+QString askForFile() {
+    const QVariant last = FIni().value(importPathKey(), QVariant());
+    const QString start = last.isValid() ? last.toString() : FPathManager::instance()->getSamplesDir();
+    FViewCtrl::prepareModalDialog(nullptr);
+    const QString answer = FIO::openFileName(nullptr, QStringLiteral("Open LODM File"), start,
+                                             QStringLiteral("LODM Files (*.lodm *.xml)"));
+    FViewCtrl::finalizeModalDialog();
+    return answer;
+}
+
+void tellUnreadable(const QFile& file) {
+    const QString text = QCoreApplication::translate("FConfigurationCustom", "Cannot read file %1:\n%2.")
+                             .arg(file.fileName(), file.errorString());
+    FIO::information(nullptr, FMerixCtrl::getApplicationTitle(), text, QString(), QString(), QString(), 0, -1);
+}
 
 FExpr<FObject> previewText(FConfigurationCustom& configuration, const QString& fileName) {
     const QMap<QString, QString> preview = configuration.getPreview();
@@ -49,4 +80,25 @@ FConfigurationCustom::FConfigurationCustom(const QString& name, const FExpr<FDef
 
 QMap<QString, QString> FConfigurationCustom::getPreview() {
     return {};
+}
+
+FDefinitionCustom* FConfigurationCustom::parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const {
+    FLodmDefinitionParser parser(definition);
+    parser.read(file);
+    return parser.getDefinition().ptr();
+}
+
+FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefinitionCustom>& definition,
+                                                              const QString& fileName) const {
+    const QString path = fileName.isEmpty() ? askForFile() : FFile::resolveEnv(fileName);
+    if (path.isEmpty()) {
+        return nullptr;
+    }
+    FIni().setValue(importPathKey(), path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        tellUnreadable(file);
+        return nullptr;
+    }
+    return parseFile(&file, definition);
 }

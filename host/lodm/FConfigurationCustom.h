@@ -5,6 +5,7 @@
 
 #include <QMap>
 
+class QFile;
 class QTextDocument;
 
 /** A configuration of a definition that a user has made. */
@@ -22,6 +23,15 @@ class FConfigurationCustom : public FClass<FConfigurationCustom, FConfigurationC
     virtual QMap<QString, QString> getPreview();
     /** Gives a preview its colours. */
     virtual void setSyntaxHighlighter(QTextDocument* document) { Q_UNUSED(document) }
+    /** Reads an exchange file, see FLodmDefinitionParser; null, with a message, if it can't be. */
+    virtual FDefinitionCustom* parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const;
+    /**
+     * Opens an exchange file and reads it with `parseFile`. Environment variables in the name are expanded; for an
+     * empty name the user is asked. The name is remembered in the settings, where the next question starts.
+     * @param definition  what to read into, or the prototype of the class of which a definition is to be made
+     * @return null if the user cancelled, or if the file can't be read, with a message then
+     */
+    FDefinitionCustom* importLodmDefinition(const FExpr<FDefinitionCustom>& definition, const QString& fileName) const;
 
  protected:
     using FConfigurationCustomBase::init;

@@ -1,3 +1,91 @@
 #include "host/lodm/FDefinitionCustom.h"
 
-FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass);
+#include "host/core/FFile.h"
+#include "host/core/FLogMsg.h"
+#include "host/lodm/FLodmDefinitionParser.h"
+#include "host/script/FCmdTable.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+namespace {
+
+bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
+    if (!fileName.isEmpty()) {
+        definition.setSaveFileName(FFile::resolveEnv(fileName));
+    }
+    return definition.save();
+}
+
+void commands(FCmdTable& table) {
+    table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""}).unwrapped();
+}
+
+/** The file itself where the name is that of a link to it. */
+QString realPath(const QString& name) {
+    const QString path = QFileInfo(name).canonicalFilePath();
+    return path.isEmpty() ? QFileInfo(name).absoluteFilePath() : path;
+}
+
+QString moveOver(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(std::filesystem::path(from.toStdU16String()), std::filesystem::path(to.toStdU16String()),
+                            error);
+    return error ? QString::fromStdString(error.message()) : QString();
+}
+
+bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
+    FLogMsg::error(
+        definition.getName(),
+        QStringLiteral("the definition can't be saved in \"%1\": %2").arg(definition.getSaveFileName(), reason),
+        QStringLiteral("a file that was there is unchanged"));
+    return false;
+}
+
+}  // namespace
+
+FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass, &commands);
+
+bool FDefinitionCustom::openSaveFile(QFile& file) const {
+    if (mSaveFileName.isEmpty()) {
+        FLogMsg::error(getName(), QStringLiteral("the definition has no file to be saved in"),
+                       QStringLiteral("name one: save(\"%1.lodm\")").arg(getName()));
+        return false;
+    }
+    file.setFileName(realPath(mSaveFileName) + QStringLiteral(".part"));
+    return file.open(QIODevice::WriteOnly) || cantSave(*this, file.errorString());
+}
+
+bool FDefinitionCustom::closeSaveFile(QFile& file) const {
+    const QString path = realPath(mSaveFileName);
+    file.close();
+    QString reason = file.error() == QFileDevice::NoError ? QString() : file.errorString();
+    if (reason.isEmpty()) {
+        if (QFileInfo::exists(path)) {
+            file.setPermissions(QFile::permissions(path));
+        }
+        reason = moveOver(file.fileName(), path);
+    }
+    if (reason.isEmpty()) {
+        return true;
+    }
+    file.remove();
+    return cantSave(*this, reason);
+}
+
+bool FDefinitionCustom::save() const {
+    QFile file;
+    return save({}, file);
+}
+
+bool FDefinitionCustom::save(const QSet<FExpr<FManaged>>& objects, QFile& file) const {
+    Q_UNUSED(objects)
+    const bool opens = !file.isOpen();
+    if (opens && !openSaveFile(file)) {
+        return false;
+    }
+    const bool isWritten = FLodmDefinitionParser().write(&file, this);
+    return opens ? closeSaveFile(file) && isWritten : isWritten;
+}

@@ -2,6 +2,10 @@
 
 #include "host/lodm/FDefinitionCustomBase.h"
 
+#include <QSet>
+
+class QFile;
+
 /** A definition that can be exchanged as a file. */
 class FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase> {
  public:
@@ -9,6 +13,25 @@ class FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase
 
     explicit FDefinitionCustom(const QString& name = QString()) : FClass(name) {}
 
+    /** The exchange file, kept as long as the program runs; a project doesn't hold it. Empty if there is none yet. */
+    const QString& getSaveFileName() const { return mSaveFileName; }
+    void setSaveFileName(const QString& fileName) { mSaveFileName = fileName; }
+
+    /** Writes the exchange file. False, with a message, if there is none, or if it can't be written. */
+    virtual bool save() const;
+    /**
+     * The same, with further objects for which the class has a place. A file that is open is written to as it is, and
+     * stays open.
+     */
+    virtual bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const;
+
  protected:
     using FDefinitionCustomBase::init;
+    /** Opens a file beside the definition's own, with ".part" behind its name; false, with a message, if it can't. */
+    bool openSaveFile(QFile& file) const;
+    /** Closes it and puts it in the place of the definition's file, in one step; that one stays if it can't. */
+    bool closeSaveFile(QFile& file) const;
+
+ private:
+    QString mSaveFileName;
 };

@@ -30,6 +30,7 @@ const QStringList commandClasses{
     "FMemberCmdFResultsGenIntgetResultTemplateNamestring",
     "FCreateCmdFConfigurationGenIntgenericIntegrationConfigurationbool",
     "FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt",
+    "FCmdimportGenIntDefinitionFConfigurationGenIntFDefinitionGenIntimportGenIntDefinitionstring",
     "FCreateCmdFDefinitionGenIntgenericIntegrationDefinition",
     "FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer",
     "FAttribCmdFDefinitionGenIntsetCurFileFGenIntFile",

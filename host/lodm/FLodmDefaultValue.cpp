@@ -1,0 +1,92 @@
+#include "host/lodm/FLodmDefaultValue.h"
+
+#include "host/core/FBool.h"
+#include "host/core/FNumber.h"
+#include "host/core/FNumberText.h"
+#include "host/core/FString.h"
+#include "host/design/FEntryValue.h"
+#include "host/script/FBinder.h"
+#include "host/script/FScriptParser.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using Kind = FLodmEntry::Default;
+
+bool holdsName(const FSyntaxExpr& expression) {
+    return expression.kind == FSyntaxExpr::Kind::Name ||
+           std::any_of(expression.operands.begin(), expression.operands.end(), holdsName);
+}
+
+bool isTruth(const QString& text) {
+    return text == QLatin1String(lodm::trueWord) || text == QLatin1String(lodm::falseWord);
+}
+
+bool isNumber(const QString& text) {
+    const std::optional<double> number = numberFromText(text);
+    return number && std::isfinite(*number);
+}
+
+bool isPlain(const FExprBase& value) {
+    const FObject* object = value.getStored();
+    return object && object->getBlock()->kind == FObjectBlock::Kind::Plain && !object->isCmd();
+}
+
+}  // namespace
+
+QString FLodmDefaultValue::fault() const {
+    if (mEntry.kind == Kind::Number && !isNumber(mEntry.value)) {
+        return QStringLiteral("expected a number such as 12.5, found \"%1\"").arg(mEntry.value);
+    }
+    if (mEntry.kind == Kind::Truth && !isTruth(mEntry.value)) {
+        return QStringLiteral("expected \"true\" or \"false\", found \"%1\"").arg(mEntry.value);
+    }
+    if (mEntry.kind == Kind::Script) {
+        const FParsedExpression parsed = parseExpression(mEntry.value);
+        return parsed.error ? QStringLiteral("the script text of a default is wrong: ") + parsed.error->message
+                            : QString();
+    }
+    return {};
+}
+
+bool FLodmDefaultValue::hasNames() const {
+    return mEntry.kind == Kind::Script && holdsName(parseExpression(mEntry.value).expression);
+}
+
+FExprBase FLodmDefaultValue::evaluate(const FScriptNames& names, QString& reason) const {
+    switch (mEntry.kind) {
+        case Kind::Number:
+            return FExprBase(new FDouble(numberFromText(mEntry.value).value_or(0)));
+        case Kind::Text:
+            return FExprBase(new FString(mEntry.value));
+        case Kind::Truth:
+            return FExprBase(new FBool(mEntry.value == QLatin1String(lodm::trueWord)));
+        case Kind::Script:
+            return evaluateScript(names, reason);
+        case Kind::None:
+            break;
+    }
+    return {};
+}
+
+FExprBase FLodmDefaultValue::evaluateScript(const FScriptNames& names, QString& reason) const {
+    const FParsedExpression parsed = parseExpression(mEntry.value);
+    FBinder binder(names, QString());
+    const FExprBase bound = binder.bind(parsed.expression, FBinder::Use::Kept);
+    if (binder.getError()) {
+        reason = binder.getError()->message;
+        return {};
+    }
+    if (!bound.canSafelyBeUpdated(false)) {
+        reason = QStringLiteral("\"%1\" would read files").arg(mEntry.value);
+        return {};
+    }
+    const FExprBase value = entryValue(FExprBase(valueObject(bound)));
+    if (!isPlain(value)) {
+        reason = QStringLiteral("\"%1\" gives no number, text, truth value or file").arg(mEntry.value);
+        return {};
+    }
+    return copyOfValue(value);
+}

@@ -1,0 +1,386 @@
+#include "host/lodm/FLodmDefinitionParser.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FPrototypes.h"
+#include "host/core/FTextDecoder.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FEntryName.h"
+#include "host/design/FEntryTree.h"
+#include "host/lodm/FLodmDefaultValue.h"
+#include "host/lodm/FLodmEntryWriter.h"
+#include "host/lodm/FLodmText.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FCmdTable.h"
+
+#include <QFileDevice>
+#include <QSet>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <iterator>
+
+const QString FLodmDefinitionParser::smObjectArea = QStringLiteral("<<<object area>>>");
+
+namespace {
+
+using lodm::word;
+using Nodes = std::vector<FLodmEntry>;
+
+constexpr char xmlHeader[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>";
+
+FPlace placeOf(const QXmlStreamReader& xml) {
+    return {static_cast<int>(xml.lineNumber()), static_cast<int>(xml.columnNumber()) + 1};
+}
+
+QString tagOf(const QXmlStreamReader& xml) {
+    return QLatin1Char('<') + xml.qualifiedName().toString() + QLatin1Char('>');
+}
+
+bool isElement(const QXmlStreamReader& xml, const char* name) {
+    return xml.qualifiedName() == QLatin1String(name);
+}
+
+/** The first fault counts. */
+void raise(QXmlStreamReader& xml, const QString& message) {
+    if (!xml.hasError()) {
+        xml.raiseError(message);
+    }
+}
+
+/** Goes to the next element inside the one at hand; false at its end, and if there is anything else in it. */
+bool nextChild(QXmlStreamReader& xml) {
+    while (!xml.atEnd()) {
+        const auto token = xml.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            return true;
+        }
+        if (token == QXmlStreamReader::EndElement) {
+            return false;
+        }
+        if (token == QXmlStreamReader::Characters && !xml.isWhitespace()) {
+            raise(xml, QStringLiteral("expected an element, found the text \"%1\"")
+                           .arg(xml.text().toString().simplified().left(40)));
+        }
+    }
+    return false;
+}
+
+QString readPlainText(QXmlStreamReader& xml) {
+    return FLodmText::fromXml(xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement));
+}
+
+int wholeNumber(QXmlStreamReader& xml, const char* attribute, const QString& text) {
+    bool isWhole = false;
+    const int number = text.toInt(&isWhole);
+    if (!isWhole) {
+        raise(xml, QStringLiteral("expected a whole number as \"%1\" of %2, found \"%3\"")
+                       .arg(word(attribute), tagOf(xml), text));
+    }
+    return number;
+}
+
+FLodmEntry::Default kindOfWord(const QString& text) {
+    const auto found = std::find(std::begin(lodm::kindWords), std::end(lodm::kindWords), text);
+    return found == std::end(lodm::kindWords)
+               ? FLodmEntry::Default::None
+               : static_cast<FLodmEntry::Default>(std::distance(std::begin(lodm::kindWords), found) + 1);
+}
+
+/** A name that two of the entries have; empty if there is none. */
+QString doubleName(const Nodes& nodes) {
+    QSet<QString> names;
+    for (const FLodmEntry& node : nodes) {
+        if (names.contains(node.name)) {
+            return node.name;
+        }
+        names.insert(node.name);
+    }
+    return {};
+}
+
+/** Two entries of one holder can't have one name. */
+void checkNames(QXmlStreamReader& xml, const Nodes& nodes) {
+    const QString name = doubleName(nodes);
+    if (!name.isEmpty()) {
+        raise(xml, QStringLiteral("two entries in %1 have the name \"%2\"; rename one").arg(tagOf(xml), name));
+    }
+}
+
+}  // namespace
+
+bool FLodmDefinitionParser::read(QIODevice* device) {
+    const auto* file = dynamic_cast<QFileDevice*>(device);
+    mSource = file ? file->fileName() : QString();
+    if (!device || !device->isReadable()) {
+        error({}, QStringLiteral("it isn't open for reading"));
+        return false;
+    }
+    // Line ends inside of quoted texts of the object area belong to those.
+    const bool isText = device->isTextModeEnabled();
+    device->setTextModeEnabled(false);
+    const QByteArray bytes = device->read(longestFile + 1);
+    device->setTextModeEnabled(isText);
+    if (bytes.size() > longestFile) {
+        error({}, QStringLiteral("it is longer than %1 MiB").arg(longestFile >> 20U));
+        return false;
+    }
+    const int badLine = FTextDecoder::firstInvalidLine(bytes);
+    if (badLine > 0) {
+        error({badLine, 1}, QStringLiteral("the line isn't UTF-8"));
+        return false;
+    }
+    return readText(FTextDecoder::decode(bytes));
+}
+
+bool FLodmDefinitionParser::read(const QString& text) {
+    mSource.clear();
+    return readText(text);
+}
+
+bool FLodmDefinitionParser::readText(const QString& text) {
+    const int marker = text.indexOf(smObjectArea);
+    Nodes nodes;
+    if (!parse(marker < 0 ? text : text.left(marker), nodes)) {
+        return false;
+    }
+    const FHistoryTransaction transaction(QStringLiteral("read definition"));
+    if (!makeDefinition()) {
+        return false;
+    }
+    FDefinitionCustom& definition = *mDefinition.ptr();
+    definition.replaceEntries(buildNodes(nodes));
+    mObjectAreaLines = marker < 0 ? 0 : text.leftRef(marker).count(QLatin1Char('\n'));
+    importObjectsFromString(marker < 0 ? QString() : text.mid(marker + smObjectArea.size()));
+    mHasObjects = true;
+    if (mHasLate) {
+        definition.replaceEntries(buildNodes(nodes));
+    }
+    return true;
+}
+
+// All of it, before anything of the model is touched.
+bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
+    QXmlStreamReader xml(text);
+    readStructure(xml, nodes);
+    if (xml.hasError()) {
+        error(placeOf(xml), xml.errorString());
+    }
+    return !xml.hasError();
+}
+
+void FLodmDefinitionParser::readStructure(QXmlStreamReader& xml, Nodes& nodes) {
+    while (!xml.atEnd()) {
+        const auto token = xml.readNext();
+        if (token == QXmlStreamReader::DTD) {
+            raise(xml, QStringLiteral("a document type declaration isn't allowed; remove it"));
+        } else if (token == QXmlStreamReader::StartElement) {
+            readRoot(xml, nodes);
+        }
+    }
+}
+
+void FLodmDefinitionParser::readRoot(QXmlStreamReader& xml, Nodes& nodes) {
+    if (!isElement(xml, lodm::definitionElement)) {
+        raise(xml, QStringLiteral("expected <%1>, found %2; is this the file of a definition?")
+                       .arg(word(lodm::definitionElement), tagOf(xml)));
+        return;
+    }
+    checkAttr(xml, {word(lodm::versionAttr), word(lodm::nameAttr)});
+    const int version = wholeNumber(xml, lodm::versionAttr, getAttr(xml, lodm::versionAttr));
+    if (version < 1 || version > lodm::formatVersion) {
+        raise(xml, QStringLiteral("the file has version %1 of the format, and this program reads version %2; a "
+                                  "newer release of the program may read it")
+                       .arg(version)
+                       .arg(lodm::formatVersion));
+        return;
+    }
+    mName = getAttr(xml, lodm::nameAttr);
+    while (nextChild(xml)) {
+        readEntry(xml, nodes, 1);
+    }
+    checkNames(xml, nodes);
+}
+
+void FLodmDefinitionParser::readEntry(QXmlStreamReader& xml, Nodes& nodes, int level) {
+    FLodmEntry entry;
+    entry.isGroup = isElement(xml, lodm::groupElement);
+    if (!entry.isGroup && !isElement(xml, lodm::entryElement)) {
+        raise(xml, QStringLiteral("expected <%1> or <%2>, found %3")
+                       .arg(word(lodm::groupElement), word(lodm::entryElement), tagOf(xml)));
+        return;
+    }
+    if (level > mostEntryLevels) {
+        raise(xml, QStringLiteral("entries stand in one another on more than %1 levels").arg(mostEntryLevels));
+        return;
+    }
+    if (++mCount > FEntryTree::mostEntries) {
+        raise(xml, QStringLiteral("there are more than %1 entries").arg(FEntryTree::mostEntries));
+        return;
+    }
+    readFrame(xml, entry);
+    entry.isGroup ? readGroup(xml, entry, level) : readValues(xml, entry);
+    nodes.push_back(std::move(entry));
+}
+
+void FLodmDefinitionParser::readFrame(QXmlStreamReader& xml, FLodmEntry& entry) {
+    QStringList known{word(lodm::nameAttr), word(lodm::leastAttr), word(lodm::mostAttr), word(lodm::hiddenAttr)};
+    if (!entry.isGroup) {
+        known.append(word(lodm::typeAttr));
+    }
+    checkAttr(xml, known);
+    entry.name = getAttr(xml, lodm::nameAttr);
+    if (!isEntryName(entry.name)) {
+        raise(xml, QStringLiteral("expected a name without | [ ] < > and line ends as \"name\" of %1, found \"%2\"")
+                       .arg(tagOf(xml), entry.name));
+    }
+    entry.least = wholeNumber(xml, lodm::leastAttr, getAttr(xml, lodm::leastAttr, QStringLiteral("1")));
+    entry.most = wholeNumber(xml, lodm::mostAttr, getAttr(xml, lodm::mostAttr, QStringLiteral("1")));
+    if (entry.least < 0 || entry.most < std::max(1, entry.least) || entry.most > FEntryDef::mostOccurrences) {
+        raise(xml, QStringLiteral("expected 0 ≤ least ≤ most ≤ %1 and 1 ≤ most, found least %2 and most %3")
+                       .arg(FEntryDef::mostOccurrences)
+                       .arg(entry.least)
+                       .arg(entry.most));
+    }
+    const QString hidden = getAttr(xml, lodm::hiddenAttr, word(lodm::falseWord));
+    entry.hidden = hidden == QLatin1String(lodm::trueWord);
+    if (!entry.hidden && hidden != QLatin1String(lodm::falseWord)) {
+        raise(
+            xml,
+            QStringLiteral("expected \"true\" or \"false\" as \"hidden\" of %1, found \"%2\"").arg(tagOf(xml), hidden));
+    }
+    entry.type = getAttr(xml, lodm::typeAttr);
+    if (!entry.type.isEmpty() && !FPrototypes::find(entry.type)) {
+        raise(xml, QStringLiteral("the class \"%1\" of entry \"%2\" isn't known; is a plug-in missing?")
+                       .arg(entry.type, entry.name));
+    }
+}
+
+void FLodmDefinitionParser::readGroup(QXmlStreamReader& xml, FLodmEntry& group, int level) {
+    while (nextChild(xml)) {
+        if (isElement(xml, lodm::descriptionElement)) {
+            checkAttr(xml, {});
+            group.description = readPlainText(xml);
+        } else {
+            readEntry(xml, group.children, level + 1);
+        }
+    }
+    checkNames(xml, group.children);
+}
+
+void FLodmDefinitionParser::readValues(QXmlStreamReader& xml, FLodmEntry& entry) {
+    while (nextChild(xml)) {
+        if (isElement(xml, lodm::descriptionElement)) {
+            checkAttr(xml, {});
+            entry.description = readPlainText(xml);
+        } else if (isElement(xml, lodm::defaultElement)) {
+            readDefault(xml, entry);
+        } else {
+            raise(xml, QStringLiteral("expected <%1> or <%2>, found %3")
+                           .arg(word(lodm::defaultElement), word(lodm::descriptionElement), tagOf(xml)));
+        }
+    }
+    const bool isTold = entry.kind != FLodmEntry::Default::None && entry.kind != FLodmEntry::Default::Script;
+    if (entry.type.isEmpty() && !isTold) {
+        raise(xml, QStringLiteral("the type of entry \"%1\" isn't told; give it \"%2\", or a default that isn't a "
+                                  "script text")
+                       .arg(entry.name, word(lodm::typeAttr)));
+    }
+}
+
+void FLodmDefinitionParser::readDefault(QXmlStreamReader& xml, FLodmEntry& entry) {
+    if (entry.kind != FLodmEntry::Default::None) {
+        raise(xml, QStringLiteral("entry \"%1\" has two defaults; remove one").arg(entry.name));
+    }
+    checkAttr(xml, {word(lodm::kindAttr)});
+    const QString kind = getAttr(xml, lodm::kindAttr);
+    entry.kind = kindOfWord(kind);
+    entry.valuePlace = placeOf(xml);
+    if (entry.kind == FLodmEntry::Default::None) {
+        raise(xml, QStringLiteral("expected number, text, truth or script as \"kind\" of %1, found \"%2\"")
+                       .arg(tagOf(xml), kind));
+        return;
+    }
+    entry.value = readPlainText(xml);
+    const QString fault = xml.hasError() ? QString() : FLodmDefaultValue(entry).fault();
+    if (!fault.isEmpty()) {
+        raise(xml, fault);
+    }
+}
+
+QString FLodmDefinitionParser::getAttr(const QXmlStreamReader& xml, const char* name, const QString& byDefault) {
+    const QXmlStreamAttributes attributes = xml.attributes();
+    const QLatin1String key(name);
+    return attributes.hasAttribute(key) ? FLodmText::fromXml(attributes.value(key).toString()) : byDefault;
+}
+
+void FLodmDefinitionParser::checkAttr(QXmlStreamReader& xml, const QStringList& known) {
+    for (const QXmlStreamAttribute& attribute : xml.attributes()) {
+        const QString name = attribute.qualifiedName().toString();
+        if (!known.contains(name)) {
+            raise(xml, QStringLiteral("%1 has no attribute \"%2\"%3").arg(tagOf(xml), name, didYouMean(name, known)));
+        }
+    }
+}
+
+void FLodmDefinitionParser::error(const FPlace& place, const QString& message) {
+    mDefinition = {};
+    FLogMsg::error(place.toString(mSource.isEmpty() ? QStringLiteral("definition") : mSource),
+                   QStringLiteral("the definition can't be read: ") + message,
+                   QStringLiteral("nothing was read; correct the file, or save the definition again"));
+}
+
+// A class makes objects through its creator, as a script would.
+bool FLodmDefinitionParser::makeDefinition() {
+    const FDefinitionCustom* given = mDefinition.ptr();
+    if (given && given != given->getPrototype()) {
+        return true;
+    }
+    const FCmdRow* creator = given ? FCmdManager::instance()->creatorOf(given->getClassData()) : nullptr;
+    if (!creator || !creator->arguments.empty()) {
+        error({}, QStringLiteral("definitions of the class %1 can't be made")
+                      .arg(given ? given->getClass() : QStringLiteral("NULL")));
+        return false;
+    }
+    mDefinition = creator->call(nullptr, {FNewName{mName, FObjectManager::instance()->getWorkingScope()}});
+    return static_cast<bool>(mDefinition);
+}
+
+QList<FExpr<FEntryBase>> FLodmDefinitionParser::buildNodes(const Nodes& nodes) {
+    QList<FExpr<FEntryBase>> entries;
+    for (const FLodmEntry& node : nodes) {
+        const FExprBase value = valueOf(node);
+        const bool hasDefault = value.isValid();
+        const FObject* type = node.type.isEmpty() ? nullptr : FPrototypes::find(node.type);
+        const FExpr<FEntryBase> entry = FEntryDef::make(node.name, node.least, node.most, node.hidden, hasDefault,
+                                                        node.description, hasDefault ? value : FExprBase(type));
+        for (const FExpr<FEntryBase>& child : buildNodes(node.children)) {
+            entry->addEntry(child);
+        }
+        entries.append(entry);
+    }
+    return entries;
+}
+
+FExprBase FLodmDefinitionParser::valueOf(const FLodmEntry& entry) {
+    const FLodmDefaultValue value(entry);
+    const bool isLate = value.hasNames();
+    mHasLate = mHasLate || isLate;
+    if (isLate && !mHasObjects) {
+        return {};
+    }
+    QString reason;
+    const FExprBase result = value.evaluate(mNames, reason);
+    if (!reason.isEmpty() && isLate == mHasObjects) {
+        FLogMsg::warning(entry.valuePlace.toString(mSource),
+                         QStringLiteral("the default of entry \"%1\" can't be taken over: %2").arg(entry.name, reason),
+                         QStringLiteral("the entry has none now; give it one"));
+    }
+    return result;
+}
+
+bool FLodmDefinitionParser::write(QIODevice* device, const FDefinitionCustom* definition) {
+    return device && definition && device->write(xmlHeader) == qint64{sizeof(xmlHeader)} - 1 &&
+           FLodmEntryWriter(device).write(*definition);
+}

@@ -1,0 +1,86 @@
+#include "host/lodm/FLodmEntryWriter.h"
+
+#include "host/core/FBool.h"
+#include "host/core/FNumber.h"
+#include "host/core/FString.h"
+#include "host/design/FDefinition.h"
+#include "host/design/FEntryDef.h"
+#include "host/lodm/FLodmEntry.h"
+#include "host/lodm/FLodmText.h"
+
+#include <cmath>
+
+namespace {
+
+using lodm::word;
+
+FLodmEntry::Default kindOf(const FObject& value) {
+    const FObject* type = value.getPrototype();
+    if (type == FString::null()) {
+        return FLodmEntry::Default::Text;
+    }
+    if (type == FBool::null()) {
+        return FLodmEntry::Default::Truth;
+    }
+    const bool isNumber = type == FDouble::null() && std::isfinite(static_cast<const FDouble&>(value).toDouble());
+    return isNumber ? FLodmEntry::Default::Number : FLodmEntry::Default::Script;
+}
+
+}  // namespace
+
+bool FLodmEntryWriter::write(const FDefinition& definition) {
+    mXml.setAutoFormatting(true);
+    mXml.writeStartElement(word(lodm::definitionElement));
+    attribute(lodm::versionAttr, QString::number(lodm::formatVersion));
+    attribute(lodm::nameAttr, definition.getName());
+    writeEntries(definition);
+    mXml.writeEndDocument();
+    return !mXml.hasError();
+}
+
+void FLodmEntryWriter::attribute(const char* name, const QString& text) {
+    mXml.writeAttribute(word(name), FLodmText::toXml(text));
+}
+
+void FLodmEntryWriter::writeEntries(const FEntryHolder& holder) {
+    for (const FExpr<FEntryBase>& entry : holder.getEntries()) {
+        writeEntry(*static_cast<const FEntryDef*>(entry.ptr()));
+    }
+}
+
+void FLodmEntryWriter::writeEntry(const FEntryDef& entry) {
+    mXml.writeStartElement(word(entry.isGroup() ? lodm::groupElement : lodm::entryElement));
+    writeFrame(entry);
+    if (entry.hasDefault()) {
+        writeDefault(entry);
+    }
+    if (!entry.getDescription().isEmpty()) {
+        mXml.writeTextElement(word(lodm::descriptionElement), FLodmText::toXml(entry.getDescription()));
+    }
+    writeEntries(entry);
+    mXml.writeEndElement();
+}
+
+void FLodmEntryWriter::writeFrame(const FEntryDef& entry) {
+    attribute(lodm::nameAttr, entry.getName());
+    if (entry.getMinOccurrences() != 1 || entry.getMaxOccurrences() != 1) {
+        attribute(lodm::leastAttr, QString::number(entry.getMinOccurrences()));
+        attribute(lodm::mostAttr, QString::number(entry.getMaxOccurrences()));
+    }
+    if (entry.isHidden()) {
+        attribute(lodm::hiddenAttr, word(lodm::trueWord));
+    }
+    if (!entry.isGroup()) {
+        attribute(lodm::typeAttr, entry.getType()->getClass());
+    }
+}
+
+void FLodmEntryWriter::writeDefault(const FEntryDef& entry) {
+    const FExprBase& value = entry.getDefaultValue();
+    const FLodmEntry::Default kind = kindOf(*value.getStored());
+    mXml.writeStartElement(word(lodm::defaultElement));
+    attribute(lodm::kindAttr, word(lodm::kindWords[static_cast<int>(kind) - 1]));
+    const bool isScript = kind == FLodmEntry::Default::Script;
+    mXml.writeCharacters(FLodmText::toXml(isScript ? value.toHistoryString() : value.getStored()->toString()));
+    mXml.writeEndElement();
+}

@@ -3,8 +3,6 @@
 #include "genericintegration/io/FGenIntWriter.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntDefinitionParser.h"
-#include "host/core/FFile.h"
-#include "host/script/FCmdInput.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFile>
@@ -12,10 +10,7 @@
 namespace {
 
 FDefinitionGenInt* importGenIntDefinition(const QString& fileName) {
-    const FCmdInput* script = FCmdInput::current();
-    const bool isInScript = script && !fileName.isEmpty();
-    return FConfigurationGenInt::null()->importGenIntDefinition(
-        isInScript ? script->resolvePath(FFile::resolveEnv(fileName)) : fileName);
+    return FConfigurationGenInt::null()->importGenIntDefinition(fileName);
 }
 
 FExpr<FDefinitionGenInt> definitionOf(const FConfigurationGenInt& configuration) {

@@ -26,8 +26,9 @@ class FConfigurationCustom : public FClass<FConfigurationCustom, FConfigurationC
     /** Reads an exchange file, see FLodmDefinitionParser; null, with a message, if it can't be. */
     virtual FDefinitionCustom* parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const;
     /**
-     * Opens an exchange file and reads it with `parseFile`. Environment variables in the name are expanded; for an
-     * empty name the user is asked. The name is remembered in the settings, where the next question starts.
+     * Opens an exchange file and reads it with `parseFile`. Environment variables in the name are expanded, and
+     * in a script it is relative to that if the file lies there; for an empty name the user is asked. The name is
+     * remembered in the settings, where the next question starts.
      * @param definition  what to read into, or the prototype of the class of which a definition is to be made
      * @return null if the user cancelled, or if the file can't be read, with a message then
      */

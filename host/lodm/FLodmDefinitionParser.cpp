@@ -30,6 +30,11 @@ using Nodes = std::vector<FLodmEntry>;
 
 constexpr char xmlHeader[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>";
 
+/** What messages say instead of a file's name. */
+QString noFile() {
+    return QStringLiteral("definition");
+}
+
 FPlace placeOf(const QXmlStreamReader& xml) {
     return {static_cast<int>(xml.lineNumber()), static_cast<int>(xml.columnNumber()) + 1};
 }
@@ -112,7 +117,7 @@ void checkNames(QXmlStreamReader& xml, const Nodes& nodes) {
 
 bool FLodmDefinitionParser::read(QIODevice* device) {
     const auto* file = dynamic_cast<QFileDevice*>(device);
-    mSource = file ? file->fileName() : QString();
+    mSource = file ? file->fileName() : noFile();
     if (!device || !device->isReadable()) {
         error({}, QStringLiteral("it isn't open for reading"));
         return false;
@@ -135,7 +140,7 @@ bool FLodmDefinitionParser::read(QIODevice* device) {
 }
 
 bool FLodmDefinitionParser::read(const QString& text) {
-    mSource.clear();
+    mSource = noFile();
     return readText(text);
 }
 
@@ -326,8 +331,7 @@ void FLodmDefinitionParser::checkAttr(QXmlStreamReader& xml, const QStringList& 
 
 void FLodmDefinitionParser::error(const FPlace& place, const QString& message) {
     mDefinition = {};
-    FLogMsg::error(place.toString(mSource.isEmpty() ? QStringLiteral("definition") : mSource),
-                   QStringLiteral("the definition can't be read: ") + message,
+    FLogMsg::error(place.toString(mSource), QStringLiteral("the definition can't be read: ") + message,
                    QStringLiteral("nothing was read; correct the file, or save the definition again"));
 }
 

@@ -7,6 +7,7 @@
 void FProgramTest::start(QProcess& program, const QStringList& arguments, const QStringList& environment) const {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     variables.insert(QStringLiteral("TMPDIR"), mFolder.path());
+    variables.insert(QStringLiteral("MERIX_SETTINGS"), path(QStringLiteral("settings.ini")));
     for (const QString& variable : environment) {
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
     }

@@ -2,6 +2,7 @@
 #include "host/design/FInputFile.h"
 #include "tests/host/design/FEntryFixture.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 
 namespace {
@@ -130,6 +131,30 @@ TEST_F(FDefinitionTest, createTakesOnlyPlacesOfDefinitions) {
     span->addEntry(FExpr<FEntryBase>(geometry));
     EXPECT_EQ(definition().getEntries().size(), 3);
     EXPECT_TRUE(span->getEntries().isEmpty());
+}
+
+TEST_F(FDefinitionTest, entriesAreRebuiltFromTheirSavedText) {
+    ASSERT_TRUE(
+        run("def.addEntry(\"note\", \"a \\\"}\\\" \\\\ // b\", 2, 0, true, \"why\")\n"
+            "conf.setEntryValue(\"Geometry|span\", 11)"));
+    const QString before = savedModel();
+    const QString text = "    ." + definition().furtherSavedCommands().join(";\n    .") + ";\n";
+    const FExpr<FEntryBase> old = definition().getEntries().first();
+    EXPECT_TRUE(definition().setEntryDefsFromDB(text)) << log().join('\n').toStdString();
+    EXPECT_NE(definition().getEntries().first(), old);
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    EXPECT_TRUE(definition().setEntryDefsFromDB(".addEntry(\"Geometry|span\", 1)\n.addEntry(\"new\", 2)"));
+    EXPECT_EQ(values(), (QStringList{"11", "2"}));
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    for (const char* wrong :
+         {".addEntry(\"x\", 1)\n.addEntry(", ".adEntry(\"x\", 1)", "} notingDefinition other() {", "exit()"}) {
+        EXPECT_FALSE(definition().setEntryDefsFromDB(wrong)) << wrong;
+        EXPECT_EQ(savedModel().toStdString(), before.toStdString()) << wrong;
+    }
+    EXPECT_FALSE(log().isEmpty());
+    EXPECT_TRUE(definition().setEntryDefsFromDB(""));
+    EXPECT_TRUE(paths().isEmpty());
 }
 
 }  // namespace

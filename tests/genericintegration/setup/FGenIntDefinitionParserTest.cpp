@@ -1,0 +1,216 @@
+#include "genericintegration/setup/FGenIntDefinitionParser.h"
+
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "host/core/FHistory.h"
+#include "host/core/FIni.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FUserInterface.h"
+#include "host/run/FPathManager.h"
+#include "tests/support/FModelTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+/** Answers as somebody who chooses a file. */
+class FChooser : public FUserInterface {
+ public:
+    FChooser() { replace(this); }
+    ~FChooser() override { replace(nullptr); }
+    QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override {
+        asked = QStringList{caption, startPath, filter};
+        EXPECT_TRUE(isModal);
+        return answer;
+    }
+    void setModalDialog(bool open) override { isModal = open; }
+
+    QStringList asked;
+    QString answer;
+    bool isModal = false;
+};
+
+class FGenIntDefinitionParserTest : public FModelTest {
+ protected:
+    FGenIntDefinitionParserTest() { FIni::setFile(mFolder.filePath("settings.ini")); }
+    ~FGenIntDefinitionParserTest() override { FIni::setFile({}); }
+
+    template <class T>
+    static T* object(const QString& name) {
+        return dynamic_cast<T*>(FObjectManager::instance()->find(name));
+    }
+    QString path(const QString& name) const { return mFolder.filePath(name); }
+    QString fileText(const QString& name) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+    void write(const QString& name, const QString& text) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    FDefinitionGenInt* import(const QString& name) const {
+        return FConfigurationGenInt::null()->importGenIntDefinition(path(name));
+    }
+    /** What is read from an object area. */
+    static FDefinitionGenInt* read(const QString& objects) {
+        FGenIntDefinitionParser parser{FExpr<FDefinitionCustom>(FDefinitionGenInt::null())};
+        parser.read("<definition version=\"1\" name=\"d\"/>\n\n" + FLodmDefinitionParser::smObjectArea + "\n" +
+                    objects);
+        return dynamic_cast<FDefinitionGenInt*>(parser.getDefinition().ptr());
+    }
+    static QStringList names(const FDefinitionGenInt& definition) {
+        QStringList names;
+        for (const FExpr<FGenIntFile>& file : definition.getFiles()) {
+            names.append(file->getName());
+        }
+        return names;
+    }
+    static void clear() {
+        for (FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+            FManaged::destroy(object, false);
+        }
+        FHistory::instance()->clear();
+    }
+
+    QTemporaryDir mFolder;
+};
+
+const char* const integration = R"(
+parameter wing(3)
+parameter tail(4)
+genericIntegrationCommandFile b() {
+    .setContent("<entry>x</entry> ]]> <<<object area>>> [B64] ä
+")
+    .setFileName("sub/b.txt") .setForceWindowsLineEndings(true)
+}
+genericIntegrationResultsFile a() {
+    .setFileName("a.txt")
+    .setValues([["curFile : b", 0, 1, "\"\\ ]]>", First, "FDouble", "", 0, NULL]])
+}
+genericIntegrationDefinition d() {
+    .addEntry("x", 2) .addEntry("G|stl", geometryExport("w.stl", 1, wing)) .addEntry("list", geometryExport("t.stl", 0, [tail]))
+    .setFiles([b, a]); .setCurFile(a); .setLastFile(b)
+}
+)";
+
+TEST_F(FGenIntDefinitionParserTest, aSavedDefinitionComesBackInAnotherProject) {
+    ASSERT_TRUE(run(integration));
+    object<FDefinitionGenInt>("d")->setSaveFileName(path("d.lodm"));
+    ASSERT_TRUE(object<FDefinitionGenInt>("d")->save());
+    const QString saved = fileText("d.lodm");
+    EXPECT_TRUE(saved.contains("</definition>\n\n" + FLodmDefinitionParser::smObjectArea + "\n"));
+    EXPECT_TRUE(saved.endsWith("}\ncurFile : a\nlastFile : b\n"));
+    EXPECT_FALSE(saved.contains("parameter tail"));
+    clear();
+
+    FDefinitionGenInt* back = import("d.lodm");
+    ASSERT_NE(back, nullptr);
+    EXPECT_EQ(names(*back), (QStringList{"b", "a"}));
+    EXPECT_EQ(back->getCurFile()->getName(), "a");
+    EXPECT_EQ(back->getLastFile()->getName(), "b");
+    EXPECT_EQ(FObjectManager::instance()->getChildrenOf(back).size(), 3);
+    EXPECT_EQ(log().size(), 1) << log().join('\n').toStdString();
+    EXPECT_TRUE(logHolds("the default of entry \"list\" can't be taken over: nothing is named \"tail\""));
+    run("parameter tail(4)\nd.removeEntry(\"list\")\nd.addEntry(\"list\", geometryExport(\"t.stl\", 0, [tail]))");
+    back->setSaveFileName(path("again.lodm"));
+    EXPECT_TRUE(back->save());
+    EXPECT_EQ(fileText("again.lodm").toStdString(), saved.toStdString());
+}
+
+TEST_F(FGenIntDefinitionParserTest, namesOfTheFileMeanItsOwnObjects) {
+    ASSERT_TRUE(run(integration));
+    object<FDefinitionGenInt>("d")->setSaveFileName(path("d.lodm"));
+    ASSERT_TRUE(object<FDefinitionGenInt>("d")->save());
+    const QString before = savedModel();
+    ASSERT_TRUE(run("copy = importGenIntDefinition(\"" + path("d.lodm") + "\")"));
+    auto* copy = object<FDefinitionGenInt>("d_01");
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(names(*copy), (QStringList{"b_01", "a_01"}));
+    EXPECT_EQ(copy->getCurFile()->getName(), "a_01");
+    EXPECT_EQ(copy->getLastFile()->getName(), "b_01");
+    EXPECT_TRUE(copy->furtherSavedCommands().contains("addEntry(\"G|stl\",geometryExport(\"w.stl\",1,wing_01))"));
+    EXPECT_NE(import("d.lodm"), copy);
+    // The import is one step.
+    EXPECT_TRUE(FHistory::instance()->undo() && FHistory::instance()->undo());
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+}
+
+TEST_F(FGenIntDefinitionParserTest, currentAndLastFileFollowTheirLines) {
+    const QString files = "genericIntegrationCommandFile f() {}\ngenericIntegrationCommandFile g() {}\n";
+    const auto current = [](const FDefinitionGenInt* definition) {
+        return definition->getCurFile() ? definition->getCurFile()->getName() : QString("none");
+    };
+    EXPECT_EQ(current(read(files)), "f");
+    EXPECT_EQ(current(read(files + "curFile : NULL\nlastFile : NULL\n")), "f_01");
+    const FDefinitionGenInt* both = read(files + "curFile : g\r\nlastFile : f");
+    EXPECT_EQ(current(both), "g_02");
+    EXPECT_EQ(both->getLastFile()->getName(), "f_02");
+    EXPECT_EQ(current(read("parameter p(1)\n" + files + "curFile : h")), "none") << "the first child is no template";
+    for (const char* none : {"", "curFile : NULL\n", "parameter q(1)\n"}) {
+        const FDefinitionGenInt* empty = read(QString::fromLatin1(none));
+        EXPECT_TRUE(empty->getFiles().isEmpty() && !empty->getCurFile());
+    }
+}
+
+TEST_F(FGenIntDefinitionParserTest, theObjectAreaIsDataAndItsErrorsHaveTheirPlace) {
+    ASSERT_TRUE(run("parameter p(1)"));
+    const FDefinitionGenInt* definition = read(
+        "destroy(p)\ngenericIntegrationCommandFile f() { .setFileName(readText(\"/etc/hostname\")); .setFileNam(\"x\") "
+        "}\n"
+        "genericIntegrationComputation c() { .run() }\ngenericIntegrationCommandFile g() {\n");
+    ASSERT_NE(definition, nullptr);
+    EXPECT_EQ(names(*definition).value(0), "f");
+    EXPECT_NE(object<FManaged>("p"), nullptr);
+    EXPECT_TRUE(logHolds("definition:4:"));
+    EXPECT_TRUE(logHolds("definition:5:") && logHolds("setFileNam"));
+    EXPECT_TRUE(logHolds("definition:6:"));
+    // Files of another kind of definition keep their object area.
+    FGenIntDefinitionParser other{FExpr<FDefinitionCustom>(FDefinitionCustom::null())};
+    EXPECT_FALSE(other.read(QStringLiteral("<definition version=\"1\"/>")));
+    EXPECT_TRUE(logHolds("definitions of the class FDefinitionCustom can't be made"));
+}
+
+TEST_F(FGenIntDefinitionParserTest, objectsSavedAlongFindTheirDefinition) {
+    ASSERT_TRUE(run(QString(integration) + "genericIntegrationConfiguration conf() { .setDefinition(d); "
+                                           ".setEntryValue(\"x\", 5) }"));
+    QFile file(path("set.lodm"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(object<FDefinitionGenInt>("d")->save({FExpr<FManaged>(object<FManaged>("conf"))}, file));
+    EXPECT_TRUE(file.isOpen());
+    file.close();
+    const FDefinitionGenInt* copy = import("set.lodm");
+    ASSERT_NE(copy, nullptr);
+    const auto* configuration = object<FConfigurationGenInt>("conf_01");
+    ASSERT_NE(configuration, nullptr);
+    EXPECT_EQ(configuration->getDefinition().ptr(), copy);
+    EXPECT_EQ(textOf("conf_01.getEntryValue(\"x\")"), "5");
+}
+
+TEST_F(FGenIntDefinitionParserTest, importAsksForAFileAndRemembersIt) {
+    write("d.lodm", "<definition version=\"1\" name=\"d\"/>");
+    const auto import = [](const QString& name) { return FConfigurationGenInt::null()->importGenIntDefinition(name); };
+    FChooser chooser;
+    EXPECT_EQ(import({}), nullptr);
+    EXPECT_EQ(chooser.asked,
+              (QStringList{"Open LODM File", FPathManager::instance()->getSamplesDir(), "LODM Files (*.lodm *.xml)"}));
+    EXPECT_FALSE(FIni().contains("LODM/import/path")) << "nothing was chosen";
+    EXPECT_FALSE(chooser.isModal);
+    chooser.answer = path("d.lodm");
+    ASSERT_NE(import({}), nullptr);
+    chooser.answer.clear();
+    EXPECT_EQ(import({}), nullptr);
+    EXPECT_EQ(chooser.asked[1], path("d.lodm"));
+    qputenv("MERIX_TEST_FOLDER", mFolder.path().toLocal8Bit());
+    EXPECT_EQ(import("${MERIX_TEST_FOLDER}/none%1.lodm"), nullptr);
+    EXPECT_EQ(FIni().value("LODM/import/path").toString(), path("none%1.lodm"));
+    EXPECT_TRUE(logHolds("Cannot read file " + path("none%1.lodm") + ":\nNo such file or directory."));
+    write("other.lodm", "<project/>");
+    EXPECT_EQ(import(path("other.lodm")), nullptr);
+    EXPECT_TRUE(logHolds("other.lodm:1:"));
+}
+
+}  // namespace

@@ -1,0 +1,280 @@
+#include "host/lodm/FLodmDefinitionParser.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FInitPrototype.h"
+#include "host/core/FObjectManager.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FEntryTree.h"
+#include "host/script/FCmdTable.h"
+#include "tests/support/FModelTest.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+namespace {
+
+/** A definition that scripts, and so the parser, can make. */
+class FMadeDefinition : public FClass<FMadeDefinition, FDefinitionCustom> {
+ public:
+    static FClassData mClass;
+    explicit FMadeDefinition(const QString& name = QString()) : FClass(name) {}
+};
+
+void commands(FCmdTable& table) {
+    table.entityCreator(
+        "madeDefinition", +[](const FNewName& name) {
+            auto* definition = new FMadeDefinition(name.name);
+            definition->registerObject();
+            return definition;
+        });
+}
+
+FClassData FMadeDefinition::mClass("FMadeDefinition", &FDefinitionCustom::mClass, &commands);
+const FInitPrototypes<FMadeDefinition> types;
+
+class FLodmDefinitionParserTest : public FModelTest {
+ protected:
+    static FDefinitionCustom* definition(const char* name) {
+        return dynamic_cast<FDefinitionCustom*>(FObjectManager::instance()->find(QString::fromLatin1(name)));
+    }
+    static QByteArray written(const FDefinitionCustom* definition) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(FLodmDefinitionParser().write(&buffer, definition));
+        return buffer.data();
+    }
+    static FDefinitionCustom* read(const QString& text) {
+        FLodmDefinitionParser parser{FExpr<FDefinitionCustom>(FMadeDefinition::null())};
+        const bool isRead = parser.read(text);
+        EXPECT_EQ(isRead, static_cast<bool>(parser.getDefinition()));
+        return parser.getDefinition().ptr();
+    }
+    /** Wraps entries into a file of the present version. */
+    static QString file(const QString& entries) {
+        return "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<definition version=\"1\" name=\"d\">\n" + entries +
+               "\n</definition>\n";
+    }
+    void expectRefused(const QString& text, const QString& reason) {
+        const int lines = log().size();
+        const QString before = savedModel();
+        EXPECT_EQ(read(text), nullptr) << text.left(200).toStdString();
+        EXPECT_EQ(log().size(), lines + 1);
+        EXPECT_TRUE(log().last().contains(reason)) << log().last().toStdString() << "\nnot " << reason.toStdString();
+        EXPECT_EQ(savedModel(), before);
+    }
+    static bool fitsSchema(const QByteArray& xml) {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("d.xml"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(xml);
+        file.close();
+        return QProcess::execute("xmllint", {"--noout", "--relaxng", MERIX_LODM_SCHEMA, file.fileName()}) == 0;
+    }
+};
+
+/** Builds definitions of random trees, with texts that are hard to hold. */
+class FRandomEntries {
+ public:
+    explicit FRandomEntries(quint32 seed) : mRandom(seed) {}
+
+    QList<FExpr<FEntryBase>> make(int levels) {
+        QList<FExpr<FEntryBase>> entries;
+        for (int i = 0, count = 1 + below(4); i < count; ++i) {
+            const bool isGroup = levels > 1 && below(3) == 0;
+            const FExprBase value = isGroup ? FExprBase() : someValue();
+            const int most = below(2) == 0 ? 1 : 1 + below(9);
+            const FExpr<FEntryBase> entry =
+                FEntryDef::make(text(true) + QString::number(i), below(most + 1), most, below(2) == 0, value.isValid(),
+                                text(false), value.isValid() || isGroup ? value : FString::null());
+            for (const FExpr<FEntryBase>& child : isGroup ? make(levels - 1) : QList<FExpr<FEntryBase>>()) {
+                entry->addEntry(child);
+            }
+            entries.append(entry);
+        }
+        return entries;
+    }
+
+ private:
+    int below(int bound) { return static_cast<int>(mRandom.bounded(bound)); }
+    FExprBase someValue() {
+        switch (below(6)) {
+            case 0:
+                return FExprBase(new FDouble(mRandom.generateDouble() * 1e-9));
+            case 1:
+                return FExprBase(new FBool(below(2) == 0));
+            case 2:
+                return FExprBase();
+            case 3:
+                return FModelTest::evaluate("inputFile(" + FString(text(false)).toHistoryString() + ")");
+            case 4:
+                return FExprBase(new FDouble(std::numeric_limits<double>::quiet_NaN()));
+            default:
+                return FExprBase(new FString(text(false)));
+        }
+    }
+    QString text(bool isName) {
+        static const QStringList pieces{
+            "a",     " ",       "\"",    "'", "\\",   "\\u0041", "&",
+            "&amp;", "\t",      "ж",     "𝄞", "\x01", "\r",      "\n",
+            "]]>",   "<entry>", "[B64]", "|", "--",   "<?xml?>", FLodmDefinitionParser::smObjectArea};
+        QString text;
+        for (int i = below(5); i >= 0; --i) {
+            text += pieces[below(isName ? 12 : pieces.size())];
+        }
+        return text;
+    }
+
+    QRandomGenerator mRandom;
+};
+
+TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
+    for (quint32 seed = 1; seed <= 40; ++seed) {
+        auto* made = new FMadeDefinition("made");
+        made->registerObject();
+        made->replaceEntries(FRandomEntries(seed).make(4));
+        const QByteArray xml = written(made);
+        ASSERT_TRUE(xml.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<"));
+        if (seed <= 5) {
+            EXPECT_TRUE(fitsSchema(xml)) << xml.toStdString();
+        }
+        const FDefinitionCustom* back = read(QString::fromUtf8(xml));
+        ASSERT_NE(back, nullptr) << log().join('\n').toStdString();
+        ASSERT_EQ(back->furtherSavedCommands().join('\n').toStdString(),
+                  made->furtherSavedCommands().join('\n').toStdString());
+        EXPECT_TRUE(log().isEmpty()) << log().join('\n').toStdString();
+    }
+    EXPECT_FALSE(fitsSchema(file("<entry name=\"a|b\" type=\"FDouble\"/>").toUtf8()));
+    EXPECT_FALSE(fitsSchema(file("<entry name=\"a\"><default kind=\"number\">x</default></entry>").toUtf8()));
+}
+
+TEST_F(FLodmDefinitionParserTest, faultsAreToldWithTheirPlaceAndLeaveNothing) {
+    expectRefused("", "definition:1:1: the definition can't be read");
+    expectRefused("nonsense", "definition:1:");
+    expectRefused("<project/>", "expected <definition>, found <project>");
+    expectRefused("<definition/>", "expected a whole number as \"version\" of <definition>, found \"\"");
+    expectRefused("<definition version=\"2\"><new/></definition>", "a newer release of the program may read it");
+    expectRefused("<definition version=\"1\" nam=\"x\"/>", "no attribute \"nam\" (did you mean \"name\"?)");
+    expectRefused("<definition version=\"1\"/><definition version=\"1\"/>", "Extra content");
+    expectRefused(file("stray"), "definition:4:2: the definition can't be read: expected an element, found the text");
+    expectRefused(file("<entrys/>"), "expected <group> or <entry>, found <entrys>");
+    expectRefused(file("<entry name=\"a\"/>"), "the type of entry \"a\" isn't told");
+    expectRefused(file("<entry name=\"a[1]\" type=\"FDouble\"/>"), "found \"a[1]\"");
+    expectRefused(file("<entry name=\"\" type=\"FDouble\"/>"), "expected a name");
+    expectRefused(file("<entry name=\"a\" type=\"FDuoble\"/>"), "the class \"FDuoble\" of entry \"a\" isn't known");
+    expectRefused(file("<entry name=\"a\" type=\"FDouble\" least=\"2\"/>"), "found least 2 and most 1");
+    expectRefused(file("<entry name=\"a\" type=\"FDouble\" most=\"1e3\"/>"), "found \"1e3\"");
+    expectRefused(file("<group name=\"g\" hidden=\"yes\"/>"), "\"hidden\" of <group>, found \"yes\"");
+    expectRefused(file("<entry name=\"a\"><default>1</default></entry>"), "as \"kind\" of <default>, found \"\"");
+    expectRefused(file("<entry name=\"a\"><default kind=\"number\">1,5</default></entry>"), "found \"1,5\"");
+    expectRefused(file("<entry name=\"a\"><default kind=\"number\">1e999</default></entry>"), "expected a number");
+    expectRefused(file("<entry name=\"a\"><default kind=\"text\">a<b/></default></entry>"), "definition:3:");
+    expectRefused(file("<entry name=\"a\" type=\"FDouble\"><default kind=\"script\">1 +</default></entry>"),
+                  "the script text of a default is wrong");
+    const QString twice = "<entry name=\"a\" type=\"FBool\"/>";
+    expectRefused(file("<group name=\"g\">" + twice + twice + "</group>"),
+                  "two entries in <group> have the name \"a\"");
+    const QString whole = file(
+        "<group name=\"g\"><entry name=\"a\"><default kind=\"truth\">true</default>"
+        "<description>x</description></entry></group>");
+    for (int cut = whole.size() - 3; cut > 0; cut -= 7) {
+        expectRefused(whole.left(cut), "definition:");
+    }
+}
+
+TEST_F(FLodmDefinitionParserTest, hostileFilesEndInAMessage) {
+    expectRefused(file(QString("<group name=\"g\">").repeated(1'000'000)), "more than 50 levels");
+    expectRefused(file(QString("<group name=\"") + QString(5'000'000, 'x') + "\" most=\"0\"/>"),
+                  "found least 1 and most 0");
+    QString bomb = "<!DOCTYPE definition [<!ENTITY a0 \"ha\">";
+    for (int i = 1; i < 40; ++i) {
+        bomb += QString("<!ENTITY a%1 \"&a%2;&a%2;\">").arg(i).arg(i - 1);
+    }
+    expectRefused(bomb + "]><definition version=\"1\" name=\"&a39;\"/>", "document type declaration");
+    expectRefused("<!DOCTYPE definition SYSTEM \"/etc/passwd\"><definition version=\"1\"/>",
+                  "document type declaration");
+    QString many;
+    for (int i = 0; i <= FEntryTree::mostEntries; ++i) {
+        many += "<entry name=\"e" + QString::number(i) + "\" type=\"FDouble\"/>";
+    }
+    expectRefused(file(many), "more than 100000 entries");
+    EXPECT_NE(read(file(many.left(many.lastIndexOf("<entry")))), nullptr) << "the most that may be";
+    QBuffer latin;
+    latin.setData("<definition version=\"1\">\n<!-- \xE4 --></definition>");
+    latin.open(QIODevice::ReadOnly);
+    FLodmDefinitionParser parser{FExpr<FDefinitionCustom>(FMadeDefinition::null())};
+    EXPECT_FALSE(parser.read(&latin));
+    EXPECT_TRUE(logHolds("definition:2:1: the definition can't be read: the line isn't UTF-8"));
+}
+
+TEST_F(FLodmDefinitionParserTest, defaultsOnlyAsk) {
+    ASSERT_TRUE(run("parameter p(4)"));
+    const auto entry = [](const QString& name, const QString& script) {
+        return "<entry name=\"" + name + "\" type=\"FDouble\"><default kind=\"script\">" + script +
+               "</default></entry>";
+    };
+    const FDefinitionCustom* made =
+        read(file(entry("sum", "p + 1") + entry("file", "readText(\"/etc/passwd\")") + entry("act", "destroy(p)") +
+                  entry("none", "q") + entry("object", "[p].at(0)")));
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(made->furtherSavedCommands().first(), "addEntry(\"sum\",5)");
+    EXPECT_TRUE(textOf("exists(\"p\")") == "true");
+    EXPECT_TRUE(
+        logHolds("the default of entry \"file\" can't be taken over: \"readText(\"/etc/passwd\")\" would read files"));
+    EXPECT_TRUE(logHolds("definition:3:"));
+    EXPECT_TRUE(logHolds("\"act\"") && logHolds("\"none\""));
+    EXPECT_EQ(made->furtherSavedCommands()[3], "addEntry(\"none\",NULL,1,1,false,\"\",\"FDouble\")");
+}
+
+TEST_F(FLodmDefinitionParserTest, readingIntoADefinitionReplacesItsEntries) {
+    ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"old\", 1) .addEntry(\"G|kept\", 2) }"));
+    auto* configuration = new FConfiguration("conf");
+    configuration->registerObject();
+    configuration->setDefinition(FExpr<FDefinition>(definition("d")));
+    ASSERT_TRUE(run("conf.setEntryValue(\"G|kept\", 7)"));
+    const QString before = savedModel();
+    FLodmDefinitionParser broken{FExpr<FDefinitionCustom>(definition("d"))};
+    EXPECT_FALSE(broken.read(file("<entry name=\"x\"/>")));
+    EXPECT_EQ(broken.getDefinition().ptr(), nullptr);
+    EXPECT_EQ(savedModel(), before);
+
+    FLodmDefinitionParser parser{FExpr<FDefinitionCustom>(definition("d"))};
+    ASSERT_TRUE(
+        parser.read(file("<group name=\"G\"><entry name=\"kept\"><default kind=\"number\">3</default></entry>"
+                         "</group><entry name=\"new\"><default kind=\"text\"> n </default></entry>")));
+    EXPECT_EQ(parser.getDefinition().ptr(), definition("d"));
+    EXPECT_EQ(configuration->getEntryMap().keys(), (QStringList{"G|kept", "new"}));
+    EXPECT_EQ(textOf("conf.getEntryValue(\"G|kept\")"), "7");
+    EXPECT_EQ(textOf("conf.getEntryValue(\"new\")"), " n ");
+    const QString after = savedModel();
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    EXPECT_TRUE(FHistory::instance()->redo());
+    EXPECT_EQ(savedModel().toStdString(), after.toStdString());
+}
+
+TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"a\", 1) }"));
+    EXPECT_FALSE(definition("d")->save());
+    EXPECT_TRUE(logHolds("d: the definition has no file to be saved in"));
+    run("d.save(\"" + folder.filePath("none/d.lodm") + "\")");
+    EXPECT_TRUE(logHolds("none/d.lodm\": No such file or directory"));
+    QFile file(folder.filePath("d.lodm"));
+    ASSERT_TRUE(run("done = d.save(\"" + file.fileName() + "\")"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), written(definition("d")));
+    EXPECT_EQ(FHistory::instance()->getLabels(), QStringList{"madeDefinition"}) << "nothing to be undone";
+    // Where the file can't be put in its place, the one that is there stays, and nothing lies about.
+    QDir(folder.path()).mkpath("dir.lodm/sub");
+    definition("d")->setSaveFileName(folder.filePath("dir.lodm"));
+    EXPECT_FALSE(definition("d")->save());
+    EXPECT_TRUE(logHolds("dir.lodm\": Is a directory"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              (QStringList{"d.lodm", "dir.lodm"}));
+}
+
+}  // namespace

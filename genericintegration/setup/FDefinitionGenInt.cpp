@@ -1,6 +1,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 
 #include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FGenIntObjectArea.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FHistory.h"
@@ -9,12 +10,10 @@
 #include "host/core/FModel.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/design/FEntryDef.h"
-#include "host/design/FGeometryExport.h"
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFile>
-#include <QTextStream>
 
 #include <algorithm>
 
@@ -69,23 +68,6 @@ QStringList fileNames(const Files& files) {
         }
     }
     return names;
-}
-
-/** The objects in the order of their ids; those that are gone are left out. */
-std::vector<const FManaged*> inOrder(const QSet<FExpr<FManaged>>& objects) {
-    std::vector<const FManaged*> ordered;
-    for (const FExpr<FManaged>& object : objects) {
-        if (object) {
-            ordered.push_back(object.ptr());
-        }
-    }
-    std::sort(ordered.begin(), ordered.end(),
-              [](const FManaged* a, const FManaged* b) { return a->getDbId() < b->getDbId(); });
-    return ordered;
-}
-
-QString nameOf(const FExpr<FGenIntFile>& file) {
-    return file ? file->getName() : QStringLiteral("NULL");
 }
 
 /** Removes all handles on the first object of the list that is gone; returns how many. */
@@ -367,31 +349,8 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
         return false;
     }
     const bool isWritten = FLodmDefinitionParser().write(&file, this);
-    writeObjectArea(objects, file);
+    FGenIntObjectArea::write(&file, *this, objects);
     return opens ? closeSaveFile(file) && isWritten : isWritten && file.error() == QFileDevice::NoError;
-}
-
-void FDefinitionGenInt::writeObjectArea(QSet<FExpr<FManaged>> objects, QFile& file) const {
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    stream << '\n' << FLodmDefinitionParser::smObjectArea << '\n';
-    for (const FExpr<FGenIntFile>& handle : liveFiles(*this)) {
-        handle->saveScopeManner(stream, 0, false, false);
-    }
-    for (const FExpr<FEntryBase>& entry : getEntryMap()) {
-        const auto* geometry = dynamic_cast<const FGeometryExport*>(
-            static_cast<const FEntryDef*>(entry.ptr())->getDefaultValue().getStored());
-        const bool isFeature = geometry && geometry->getKind() == FGeometryExport::Kind::Feature;
-        const FExpr<FManaged> source(isFeature ? FExprBase(geometry->getSourceObject()) : FExprBase());
-        if (source) {
-            objects.insert(source);
-        }
-    }
-    for (const FManaged* object : inOrder(objects)) {
-        object->saveScopeManner(stream, 0, false, false);
-    }
-    stream << "curFile : " << nameOf(mCurFile) << '\n';
-    stream << "lastFile : " << nameOf(mLastFile) << '\n';
 }
 
 void FDefinitionGenInt::setInProject(bool inProject) {

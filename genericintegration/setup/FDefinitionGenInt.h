@@ -88,7 +88,6 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     friend class FClass<FDefinitionGenInt, FDefinitionCustom>;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
-    void writeObjectArea(QSet<FExpr<FManaged>> objects, QFile& file) const;
     void filesChanged();
     void clearFileStorages() const;
     void putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry);

@@ -11,12 +11,12 @@
 #include "host/lodm/FLodmDefaultValue.h"
 #include "host/lodm/FLodmEntryWriter.h"
 #include "host/lodm/FLodmText.h"
+#include "host/lodm/FLodmXmlReader.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFileDevice>
 #include <QSet>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <iterator>
@@ -35,53 +35,12 @@ QString noFile() {
     return QStringLiteral("definition");
 }
 
-FPlace placeOf(const QXmlStreamReader& xml) {
-    return {static_cast<int>(xml.lineNumber()), static_cast<int>(xml.columnNumber()) + 1};
-}
-
-QString tagOf(const QXmlStreamReader& xml) {
-    return QLatin1Char('<') + xml.qualifiedName().toString() + QLatin1Char('>');
-}
-
-bool isElement(const QXmlStreamReader& xml, const char* name) {
-    return xml.qualifiedName() == QLatin1String(name);
-}
-
-/** The first fault counts. */
-void raise(QXmlStreamReader& xml, const QString& message) {
-    if (!xml.hasError()) {
-        xml.raiseError(message);
-    }
-}
-
-/** Goes to the next element inside the one at hand; false at its end, and if there is anything else in it. */
-bool nextChild(QXmlStreamReader& xml) {
-    while (!xml.atEnd()) {
-        const auto token = xml.readNext();
-        if (token == QXmlStreamReader::StartElement) {
-            return true;
-        }
-        if (token == QXmlStreamReader::EndElement) {
-            return false;
-        }
-        if (token == QXmlStreamReader::Characters && !xml.isWhitespace()) {
-            raise(xml, QStringLiteral("expected an element, found the text \"%1\"")
-                           .arg(xml.text().toString().simplified().left(40)));
-        }
-    }
-    return false;
-}
-
-QString readPlainText(QXmlStreamReader& xml) {
-    return FLodmText::fromXml(xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement));
-}
-
-int wholeNumber(QXmlStreamReader& xml, const char* attribute, const QString& text) {
+int wholeNumber(FLodmXmlReader& xml, const char* attribute, const QString& text) {
     bool isWhole = false;
     const int number = text.toInt(&isWhole);
     if (!isWhole) {
-        raise(xml, QStringLiteral("expected a whole number as \"%1\" of %2, found \"%3\"")
-                       .arg(word(attribute), tagOf(xml), text));
+        xml.raise(QStringLiteral("expected a whole number as \"%1\" of %2, found \"%3\"")
+                      .arg(word(attribute), xml.tag(), text));
     }
     return number;
 }
@@ -106,10 +65,10 @@ QString doubleName(const Nodes& nodes) {
 }
 
 /** Two entries of one holder can't have one name. */
-void checkNames(QXmlStreamReader& xml, const Nodes& nodes) {
+void checkNames(FLodmXmlReader& xml, const Nodes& nodes) {
     const QString name = doubleName(nodes);
     if (!name.isEmpty()) {
-        raise(xml, QStringLiteral("two entries in %1 have the name \"%2\"; rename one").arg(tagOf(xml), name));
+        xml.raise(QStringLiteral("two entries in %1 have the name \"%2\"; rename one").arg(xml.tag(), name));
     }
 }
 
@@ -167,61 +126,60 @@ bool FLodmDefinitionParser::readText(const QString& text) {
 
 // All of it, before anything of the model is touched.
 bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
-    QXmlStreamReader xml(text);
+    FLodmXmlReader xml(text);
     readStructure(xml, nodes);
     if (xml.hasError()) {
-        error(placeOf(xml), xml.errorString());
+        error(xml.place(), xml.errorString());
     }
     return !xml.hasError();
 }
 
-void FLodmDefinitionParser::readStructure(QXmlStreamReader& xml, Nodes& nodes) {
+void FLodmDefinitionParser::readStructure(FLodmXmlReader& xml, Nodes& nodes) {
+    if (!xml.nextRoot()) {
+        return;
+    }
+    readRoot(xml, nodes);
     while (!xml.atEnd()) {
-        const auto token = xml.readNext();
-        if (token == QXmlStreamReader::DTD) {
-            raise(xml, QStringLiteral("a document type declaration isn't allowed; remove it"));
-        } else if (token == QXmlStreamReader::StartElement) {
-            readRoot(xml, nodes);
-        }
+        xml.readNext();
     }
 }
 
-void FLodmDefinitionParser::readRoot(QXmlStreamReader& xml, Nodes& nodes) {
-    if (!isElement(xml, lodm::definitionElement)) {
-        raise(xml, QStringLiteral("expected <%1>, found %2; is this the file of a definition?")
-                       .arg(word(lodm::definitionElement), tagOf(xml)));
+void FLodmDefinitionParser::readRoot(FLodmXmlReader& xml, Nodes& nodes) {
+    if (!xml.isElement(lodm::definitionElement)) {
+        xml.raise(QStringLiteral("expected <%1>, found %2; is this the file of a definition?")
+                      .arg(word(lodm::definitionElement), xml.tag()));
         return;
     }
     checkAttr(xml, {word(lodm::versionAttr), word(lodm::nameAttr)});
     const int version = wholeNumber(xml, lodm::versionAttr, getAttr(xml, lodm::versionAttr));
     if (version < 1 || version > lodm::formatVersion) {
-        raise(xml, QStringLiteral("the file has version %1 of the format, and this program reads version %2; a "
-                                  "newer release of the program may read it")
-                       .arg(version)
-                       .arg(lodm::formatVersion));
+        xml.raise(QStringLiteral("the file has version %1 of the format, and this program reads version %2; a "
+                                 "newer release of the program may read it")
+                      .arg(version)
+                      .arg(lodm::formatVersion));
         return;
     }
     mName = getAttr(xml, lodm::nameAttr);
-    while (nextChild(xml)) {
+    while (xml.nextChild()) {
         readEntry(xml, nodes, 1);
     }
     checkNames(xml, nodes);
 }
 
-void FLodmDefinitionParser::readEntry(QXmlStreamReader& xml, Nodes& nodes, int level) {
+void FLodmDefinitionParser::readEntry(FLodmXmlReader& xml, Nodes& nodes, int level) {
     FLodmEntry entry;
-    entry.isGroup = isElement(xml, lodm::groupElement);
-    if (!entry.isGroup && !isElement(xml, lodm::entryElement)) {
-        raise(xml, QStringLiteral("expected <%1> or <%2>, found %3")
-                       .arg(word(lodm::groupElement), word(lodm::entryElement), tagOf(xml)));
+    entry.isGroup = xml.isElement(lodm::groupElement);
+    if (!entry.isGroup && !xml.isElement(lodm::entryElement)) {
+        xml.raise(QStringLiteral("expected <%1> or <%2>, found %3")
+                      .arg(word(lodm::groupElement), word(lodm::entryElement), xml.tag()));
         return;
     }
     if (level > mostEntryLevels) {
-        raise(xml, QStringLiteral("entries stand in one another on more than %1 levels").arg(mostEntryLevels));
+        xml.raise(QStringLiteral("entries stand in one another on more than %1 levels").arg(mostEntryLevels));
         return;
     }
     if (++mCount > FEntryTree::mostEntries) {
-        raise(xml, QStringLiteral("there are more than %1 entries").arg(FEntryTree::mostEntries));
+        xml.raise(QStringLiteral("there are more than %1 entries").arg(FEntryTree::mostEntries));
         return;
     }
     readFrame(xml, entry);
@@ -229,7 +187,7 @@ void FLodmDefinitionParser::readEntry(QXmlStreamReader& xml, Nodes& nodes, int l
     nodes.push_back(std::move(entry));
 }
 
-void FLodmDefinitionParser::readFrame(QXmlStreamReader& xml, FLodmEntry& entry) {
+void FLodmDefinitionParser::readFrame(FLodmXmlReader& xml, FLodmEntry& entry) {
     QStringList known{word(lodm::nameAttr), word(lodm::leastAttr), word(lodm::mostAttr), word(lodm::hiddenAttr)};
     if (!entry.isGroup) {
         known.append(word(lodm::typeAttr));
@@ -237,36 +195,39 @@ void FLodmDefinitionParser::readFrame(QXmlStreamReader& xml, FLodmEntry& entry) 
     checkAttr(xml, known);
     entry.name = getAttr(xml, lodm::nameAttr);
     if (!isEntryName(entry.name)) {
-        raise(xml, QStringLiteral("expected a name without | [ ] < > and line ends as \"name\" of %1, found \"%2\"")
-                       .arg(tagOf(xml), entry.name));
+        xml.raise(QStringLiteral("expected a name without | [ ] < > and line ends as \"name\" of %1, found \"%2\"")
+                      .arg(xml.tag(), entry.name));
     }
-    entry.least = wholeNumber(xml, lodm::leastAttr, getAttr(xml, lodm::leastAttr, QStringLiteral("1")));
-    entry.most = wholeNumber(xml, lodm::mostAttr, getAttr(xml, lodm::mostAttr, QStringLiteral("1")));
-    if (entry.least < 0 || entry.most < std::max(1, entry.least) || entry.most > FEntryDef::mostOccurrences) {
-        raise(xml, QStringLiteral("expected 0 ≤ least ≤ most ≤ %1 and 1 ≤ most, found least %2 and most %3")
-                       .arg(FEntryDef::mostOccurrences)
-                       .arg(entry.least)
-                       .arg(entry.most));
-    }
+    readOccurrences(xml, entry);
     const QString hidden = getAttr(xml, lodm::hiddenAttr, word(lodm::falseWord));
     entry.hidden = hidden == QLatin1String(lodm::trueWord);
     if (!entry.hidden && hidden != QLatin1String(lodm::falseWord)) {
-        raise(
-            xml,
-            QStringLiteral("expected \"true\" or \"false\" as \"hidden\" of %1, found \"%2\"").arg(tagOf(xml), hidden));
+        xml.raise(
+            QStringLiteral("expected \"true\" or \"false\" as \"hidden\" of %1, found \"%2\"").arg(xml.tag(), hidden));
     }
     entry.type = getAttr(xml, lodm::typeAttr);
     if (!entry.type.isEmpty() && !FPrototypes::find(entry.type)) {
-        raise(xml, QStringLiteral("the class \"%1\" of entry \"%2\" isn't known; is a plug-in missing?")
-                       .arg(entry.type, entry.name));
+        xml.raise(QStringLiteral("the class \"%1\" of entry \"%2\" isn't known; is a plug-in missing?")
+                      .arg(entry.type, entry.name));
     }
 }
 
-void FLodmDefinitionParser::readGroup(QXmlStreamReader& xml, FLodmEntry& group, int level) {
-    while (nextChild(xml)) {
-        if (isElement(xml, lodm::descriptionElement)) {
+void FLodmDefinitionParser::readOccurrences(FLodmXmlReader& xml, FLodmEntry& entry) {
+    entry.least = wholeNumber(xml, lodm::leastAttr, getAttr(xml, lodm::leastAttr, QStringLiteral("1")));
+    entry.most = wholeNumber(xml, lodm::mostAttr, getAttr(xml, lodm::mostAttr, QStringLiteral("1")));
+    if (entry.least < 0 || entry.most < std::max(1, entry.least) || entry.most > FEntryDef::mostOccurrences) {
+        xml.raise(QStringLiteral("expected 0 ≤ least ≤ most ≤ %1 and 1 ≤ most, found least %2 and most %3")
+                      .arg(FEntryDef::mostOccurrences)
+                      .arg(entry.least)
+                      .arg(entry.most));
+    }
+}
+
+void FLodmDefinitionParser::readGroup(FLodmXmlReader& xml, FLodmEntry& group, int level) {
+    while (xml.nextChild()) {
+        if (xml.isElement(lodm::descriptionElement)) {
             checkAttr(xml, {});
-            group.description = readPlainText(xml);
+            group.description = xml.plainText();
         } else {
             readEntry(xml, group.children, level + 1);
         }
@@ -274,57 +235,57 @@ void FLodmDefinitionParser::readGroup(QXmlStreamReader& xml, FLodmEntry& group, 
     checkNames(xml, group.children);
 }
 
-void FLodmDefinitionParser::readValues(QXmlStreamReader& xml, FLodmEntry& entry) {
-    while (nextChild(xml)) {
-        if (isElement(xml, lodm::descriptionElement)) {
+void FLodmDefinitionParser::readValues(FLodmXmlReader& xml, FLodmEntry& entry) {
+    while (xml.nextChild()) {
+        if (xml.isElement(lodm::descriptionElement)) {
             checkAttr(xml, {});
-            entry.description = readPlainText(xml);
-        } else if (isElement(xml, lodm::defaultElement)) {
+            entry.description = xml.plainText();
+        } else if (xml.isElement(lodm::defaultElement)) {
             readDefault(xml, entry);
         } else {
-            raise(xml, QStringLiteral("expected <%1> or <%2>, found %3")
-                           .arg(word(lodm::defaultElement), word(lodm::descriptionElement), tagOf(xml)));
+            xml.raise(QStringLiteral("expected <%1> or <%2>, found %3")
+                          .arg(word(lodm::defaultElement), word(lodm::descriptionElement), xml.tag()));
         }
     }
     const bool isTold = entry.kind != FLodmEntry::Default::None && entry.kind != FLodmEntry::Default::Script;
     if (entry.type.isEmpty() && !isTold) {
-        raise(xml, QStringLiteral("the type of entry \"%1\" isn't told; give it \"%2\", or a default that isn't a "
-                                  "script text")
-                       .arg(entry.name, word(lodm::typeAttr)));
+        xml.raise(QStringLiteral("the type of entry \"%1\" isn't told; give it \"%2\", or a default that isn't a "
+                                 "script text")
+                      .arg(entry.name, word(lodm::typeAttr)));
     }
 }
 
-void FLodmDefinitionParser::readDefault(QXmlStreamReader& xml, FLodmEntry& entry) {
+void FLodmDefinitionParser::readDefault(FLodmXmlReader& xml, FLodmEntry& entry) {
     if (entry.kind != FLodmEntry::Default::None) {
-        raise(xml, QStringLiteral("entry \"%1\" has two defaults; remove one").arg(entry.name));
+        xml.raise(QStringLiteral("entry \"%1\" has two defaults; remove one").arg(entry.name));
     }
     checkAttr(xml, {word(lodm::kindAttr)});
     const QString kind = getAttr(xml, lodm::kindAttr);
     entry.kind = kindOfWord(kind);
-    entry.valuePlace = placeOf(xml);
+    entry.valuePlace = xml.place();
     if (entry.kind == FLodmEntry::Default::None) {
-        raise(xml, QStringLiteral("expected number, text, truth or script as \"kind\" of %1, found \"%2\"")
-                       .arg(tagOf(xml), kind));
+        xml.raise(QStringLiteral("expected number, text, truth or script as \"kind\" of %1, found \"%2\"")
+                      .arg(xml.tag(), kind));
         return;
     }
-    entry.value = readPlainText(xml);
+    entry.value = xml.plainText();
     const QString fault = xml.hasError() ? QString() : FLodmDefaultValue(entry).fault();
     if (!fault.isEmpty()) {
-        raise(xml, fault);
+        xml.raise(fault);
     }
 }
 
-QString FLodmDefinitionParser::getAttr(const QXmlStreamReader& xml, const char* name, const QString& byDefault) {
+QString FLodmDefinitionParser::getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault) {
     const QXmlStreamAttributes attributes = xml.attributes();
     const QLatin1String key(name);
     return attributes.hasAttribute(key) ? FLodmText::fromXml(attributes.value(key).toString()) : byDefault;
 }
 
-void FLodmDefinitionParser::checkAttr(QXmlStreamReader& xml, const QStringList& known) {
+void FLodmDefinitionParser::checkAttr(FLodmXmlReader& xml, const QStringList& known) {
     for (const QXmlStreamAttribute& attribute : xml.attributes()) {
         const QString name = attribute.qualifiedName().toString();
         if (!known.contains(name)) {
-            raise(xml, QStringLiteral("%1 has no attribute \"%2\"%3").arg(tagOf(xml), name, didYouMean(name, known)));
+            xml.raise(QStringLiteral("%1 has no attribute \"%2\"%3").arg(xml.tag(), name, didYouMean(name, known)));
         }
     }
 }

@@ -10,7 +10,7 @@
 #include <vector>
 
 class QIODevice;
-class QXmlStreamReader;
+class FLodmXmlReader;
 
 /**
  * Reads and writes definitions as exchange files (docs/formats/lodm.md): XML with the entry definitions, then a marker,
@@ -54,13 +54,13 @@ class FLodmDefinitionParser {
     virtual void importObjectsFromString(const QString& text) { Q_UNUSED(text) }
 
     /** Takes the XML apart. Faults are raised on the reader. */
-    void readStructure(QXmlStreamReader& xml, std::vector<FLodmEntry>& nodes);
+    void readStructure(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
     /** The entry definitions of what was taken apart, which stand nowhere yet. */
     QList<FExpr<FEntryBase>> buildNodes(const std::vector<FLodmEntry>& nodes);
     /** The text of an attribute of the element at hand. */
-    static QString getAttr(const QXmlStreamReader& xml, const char* name, const QString& byDefault = QString());
+    static QString getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault = QString());
     /** Raises a fault if the element at hand has an attribute other than those. */
-    static void checkAttr(QXmlStreamReader& xml, const QStringList& known);
+    static void checkAttr(FLodmXmlReader& xml, const QStringList& known);
     /** Reports that the file can't be read, and why. */
     void error(const FPlace& place, const QString& message);
 
@@ -73,12 +73,13 @@ class FLodmDefinitionParser {
  private:
     bool readText(const QString& text);
     bool parse(const QString& text, std::vector<FLodmEntry>& nodes);
-    void readRoot(QXmlStreamReader& xml, std::vector<FLodmEntry>& nodes);
-    void readEntry(QXmlStreamReader& xml, std::vector<FLodmEntry>& nodes, int level);
-    void readFrame(QXmlStreamReader& xml, FLodmEntry& entry);
-    void readGroup(QXmlStreamReader& xml, FLodmEntry& group, int level);
-    void readValues(QXmlStreamReader& xml, FLodmEntry& entry);
-    void readDefault(QXmlStreamReader& xml, FLodmEntry& entry);
+    void readRoot(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
+    void readEntry(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes, int level);
+    void readFrame(FLodmXmlReader& xml, FLodmEntry& entry);
+    void readOccurrences(FLodmXmlReader& xml, FLodmEntry& entry);
+    void readGroup(FLodmXmlReader& xml, FLodmEntry& group, int level);
+    void readValues(FLodmXmlReader& xml, FLodmEntry& entry);
+    void readDefault(FLodmXmlReader& xml, FLodmEntry& entry);
     bool makeDefinition();
     FExprBase valueOf(const FLodmEntry& entry);
 

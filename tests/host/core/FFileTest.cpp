@@ -1,11 +1,8 @@
 #include "host/core/FFile.h"
 
-#include "host/core/FIni.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QTemporaryDir>
 
 TEST(FFileTest, expandsVariablesAndTheHomeFolder) {
     qputenv("MERIX_TEST_A", "/data");
@@ -17,16 +14,4 @@ TEST(FFileTest, expandsVariablesAndTheHomeFolder) {
     for (const char* name : {"", "~other/x", "$MERIX_NONE/${MERIX_NONE}/%MERIX_NONE%", "100%/50%", "$", "a$1", "${}"}) {
         EXPECT_EQ(FFile::resolveEnv(name), name);
     }
-}
-
-TEST(FIniTest, keepsValuesInTheFileThatIsNamed) {
-    const QTemporaryDir folder;
-    FIni::setFile(folder.filePath("a/settings.ini"));
-    FIni().setValue("LODM/import/path", "wing.lodm");
-    EXPECT_EQ(FIni().value("LODM/import/path").toString(), "wing.lodm");
-    FIni::setFile({});
-    qputenv("MERIX_SETTINGS", folder.filePath("b.ini").toLocal8Bit());
-    EXPECT_FALSE(FIni().contains("LODM/import/path"));
-    EXPECT_EQ(FIni().fileName(), folder.filePath("b.ini"));
-    qunsetenv("MERIX_SETTINGS");
 }

@@ -1,0 +1,65 @@
+#include "genericintegration/setup/FGenIntObjectArea.h"
+
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FGeometryExport.h"
+#include "host/lodm/FLodmDefinitionParser.h"
+
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+using Objects = QSet<FExpr<FManaged>>;
+
+/** The objects in the order of their ids; those that are gone are left out. */
+std::vector<const FManaged*> inOrder(const Objects& objects) {
+    std::vector<const FManaged*> ordered;
+    for (const FExpr<FManaged>& object : objects) {
+        if (object) {
+            ordered.push_back(object.ptr());
+        }
+    }
+    std::sort(ordered.begin(), ordered.end(),
+              [](const FManaged* a, const FManaged* b) { return a->getDbId() < b->getDbId(); });
+    return ordered;
+}
+
+QString nameOf(const FExpr<FGenIntFile>& file) {
+    return file ? file->getName() : QStringLiteral("NULL");
+}
+
+/** What the entries need so that they can export it in another project, too. */
+Objects exportedObjects(const FDefinitionGenInt& definition) {
+    Objects objects;
+    for (const FExpr<FEntryBase>& entry : definition.getEntryMap()) {
+        const auto* geometry = dynamic_cast<const FGeometryExport*>(
+            static_cast<const FEntryDef*>(entry.ptr())->getDefaultValue().getStored());
+        const bool isFeature = geometry && geometry->getKind() == FGeometryExport::Kind::Feature;
+        const FExpr<FManaged> source(isFeature ? FExprBase(geometry->getSourceObject()) : FExprBase());
+        if (source) {
+            objects.insert(source);
+        }
+    }
+    return objects;
+}
+
+}  // namespace
+
+void FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects) {
+    QTextStream stream(device);
+    stream.setCodec("UTF-8");
+    stream << '\n' << FLodmDefinitionParser::smObjectArea << '\n';
+    for (const FExpr<FGenIntFile>& file : definition.getFiles()) {
+        if (file) {
+            file->saveScopeManner(stream, 0, false, false);
+        }
+    }
+    objects += exportedObjects(definition);
+    for (const FManaged* object : inOrder(objects)) {
+        object->saveScopeManner(stream, 0, false, false);
+    }
+    stream << "curFile : " << nameOf(definition.getCurFile()) << '\n';
+    stream << "lastFile : " << nameOf(definition.getLastFile()) << '\n';
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/script/FPlace.h"
+
+#include <QXmlStreamReader>
+
+/** Reads the XML half of an exchange file element by element. The first fault ends it. */
+class FLodmXmlReader : public QXmlStreamReader {
+ public:
+    explicit FLodmXmlReader(const QString& text) : QXmlStreamReader(text) {}
+
+    /** Ends the reading, unless a fault has already. */
+    void raise(const QString& message);
+    /** Goes to the root; false if there is none, or a document type before it. */
+    bool nextRoot();
+    /** Goes to the next element inside the one at hand; false at its end, and if there is text in it. */
+    bool nextChild();
+    /** The text of the element at hand, which can't have others inside, with its escapes resolved. */
+    QString plainText();
+
+    bool isElement(const char* elementName) const;
+    /** The element at hand as messages name it. */
+    QString tag() const;
+    /** Where the reader is: in general just behind the element at hand. */
+    FPlace place() const;
+};

@@ -35,6 +35,13 @@ QString noFile() {
     return QStringLiteral("definition");
 }
 
+/** As many bytes as it takes to see that a file is too long, without asking for the memory of such a one. */
+qint64 mostToRead(const QIODevice& device) {
+    constexpr qint64 leastBlock = qint64{1} << 20U;
+    const qint64 most = FLodmDefinitionParser::longestFile + 1;
+    return device.isSequential() ? most : std::clamp(device.bytesAvailable() + 1, leastBlock, most);
+}
+
 int wholeNumber(FLodmXmlReader& xml, const char* attribute, const QString& text) {
     bool isWhole = false;
     const int number = text.toInt(&isWhole);
@@ -84,7 +91,7 @@ bool FLodmDefinitionParser::read(QIODevice* device) {
     // Line ends inside of quoted texts of the object area belong to those.
     const bool isText = device->isTextModeEnabled();
     device->setTextModeEnabled(false);
-    const QByteArray bytes = device->read(longestFile + 1);
+    const QByteArray bytes = device->read(mostToRead(*device));
     device->setTextModeEnabled(isText);
     if (bytes.size() > longestFile) {
         error({}, QStringLiteral("it is longer than %1 MiB").arg(longestFile >> 20U));

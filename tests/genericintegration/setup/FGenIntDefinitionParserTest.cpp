@@ -32,10 +32,11 @@ class FChooser : public FUserInterface {
 };
 
 class FGenIntDefinitionParserTest : public FModelTest {
- protected:
+ public:
     FGenIntDefinitionParserTest() { FIni::setFile(mFolder.filePath("settings.ini")); }
     ~FGenIntDefinitionParserTest() override { FIni::setFile({}); }
 
+ protected:
     template <class T>
     static T* object(const QString& name) {
         return dynamic_cast<T*>(FObjectManager::instance()->find(name));

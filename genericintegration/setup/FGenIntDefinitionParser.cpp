@@ -8,13 +8,10 @@
 
 namespace {
 
-/**
- * The name behind a label, up to the first white space; empty if the label isn't there. It is looked for from the end,
- * where it is written, since texts of the objects may hold the same words.
- */
+/** The name behind the first label of that kind, up to the first white space; empty if there is none. */
 QString nameBehind(const QString& text, const QString& label) {
     static const QRegularExpression blank(QStringLiteral("\\s"));
-    const int found = text.lastIndexOf(label);
+    const int found = text.indexOf(label);
     const int begin = found + label.size();
     const int end = found < 0 ? -1 : text.indexOf(blank, begin);
     return found < 0 ? QString() : text.mid(begin, end < 0 ? -1 : end - begin);

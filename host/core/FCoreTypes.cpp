@@ -10,8 +10,8 @@
 
 namespace {
 
-const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase, FEnum<FDocuArea>,
-                      FObjectList, FManaged, FEntity, FScope>
+const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase,
+                      FEnum<FDocuArea>, FObjectList, FManaged, FEntity, FScope>
     types;
 
 }  // namespace

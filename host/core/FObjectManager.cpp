@@ -44,10 +44,19 @@ QList<FManaged*> FObjectManager::getChildrenOf(const FObject* parent) const {
 }
 
 QString FObjectManager::uniqueName(const QString& name, const FManaged* self) const {
-    return ::uniqueName(name, [this, self](const QString& candidate) {
-        const FManaged* owner = find(candidate);
-        return owner && owner != self;
-    });
+    if (contains(self)) {
+        return ::uniqueName(name, [this, self](const QString& candidate) {
+            const FManaged* owner = find(candidate);
+            return owner && owner != self;
+        });
+    }
+    // Thousands of objects of one name would otherwise try each other's suffixes.
+    int number = find(name) ? mNextSuffix.value(name, 1) : 0;
+    while (find(numberedName(name, number))) {
+        ++number;
+    }
+    mNextSuffix.insert(name, number);
+    return numberedName(name, number);
 }
 
 void FObjectManager::emitNameChanged(const FObject* prototype, const QString& name, int id) {
@@ -64,11 +73,13 @@ void FObjectManager::leave(FManaged* object, const QString& name) {
     mById.remove(object->getDbId());
     mByName.remove(name, object);
     mKnown.remove(object);
+    mNextSuffix.clear();
 }
 
 void FObjectManager::rename(FManaged* object, const QString& from, const QString& to) {
     mByName.remove(from, object);
     mByName.insert(to, object);
+    mNextSuffix.clear();
 }
 
 void FObjectManager::renumber(FManaged* object, int from, int to) {

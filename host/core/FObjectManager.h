@@ -54,4 +54,5 @@ class FObjectManager : public QObject {
     QMap<int, FManaged*> mById;
     QMultiHash<QString, FManaged*> mByName;  // two of a name only in the middle of an undo
     QSet<const FObject*> mKnown;
+    mutable QHash<QString, int> mNextSuffix;  // by base names: the first suffix that may be free
 };

@@ -65,9 +65,13 @@ QString legalName(const QString& text) {
     return isLegal ? name : QLatin1Char('_') + name;
 }
 
+QString numberedName(const QString& base, int number) {
+    return number == 0 ? base : base + QLatin1String(number < 10 ? "_0" : "_") + QString::number(number);
+}
+
 QString uniqueName(const QString& base, const std::function<bool(const QString&)>& taken) {
-    QString name = base;
-    for (int counter = 1; taken(name); ++counter)
-        name = base + QLatin1String(counter < 10 ? "_0" : "_") + QString::number(counter);
-    return name;
+    int number = 0;
+    while (taken(numberedName(base, number)))
+        ++number;
+    return numberedName(base, number);
 }

@@ -18,6 +18,9 @@ int nameLength(QStringView text, int from);
 /// reserved word get a `_` before them. An empty text stays empty, a legal name as it is.
 QString legalName(const QString& text);
 
+/// `base` for 0, else `base` with the suffix that the number has in a series of equal names: _01 … _09, _10, _11 …
+QString numberedName(const QString& base, int number);
+
 /// `base`, or if that is taken the first free one of base_01 … base_09, base_10, base_11 …
 /// `taken` is asked once for each name and has to become false some time.
 QString uniqueName(const QString& base, const std::function<bool(const QString&)>& taken);

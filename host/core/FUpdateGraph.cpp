@@ -1,11 +1,13 @@
 #include "host/core/FUpdateGraph.h"
 
+#include "host/core/FExprBase.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FObject.h"
 #include "host/core/FUpdateLinks.h"
 
 #include <algorithm>
 #include <deque>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace {
@@ -74,9 +76,38 @@ void FUpdateGraph::updateWaiting() {
 }
 
 void FUpdateGraph::forgetWaitingThatReadFiles() {
-    waiting().erase(std::remove_if(waiting().begin(), waiting().end(),
-                                   [](const FObject* object) { return !object->canSafelyBeUpdated(false); }),
-                    waiting().end());
+    const auto reading = thoseThatReadFiles({waiting().begin(), waiting().end()});
+    const auto isReading = [&reading](const FObject* object) { return reading.count(object) > 0; };
+    waiting().erase(std::remove_if(waiting().begin(), waiting().end(), isReading), waiting().end());
+}
+
+// All that would be evaluated is looked at once, however much of it the objects share.
+std::unordered_set<const FObject*> FUpdateGraph::thoseThatReadFiles(std::vector<const FObject*> all) {
+    std::unordered_set<const FObject*> seen(all.begin(), all.end());
+    std::unordered_map<const FObject*, std::vector<const FObject*>> evaluatedBy;
+    std::vector<const FObject*> reading;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const FObject* object = all[i];
+        if (!object->isSafeAlone(false)) {
+            reading.push_back(object);
+        }
+        for (const FExprBase& operand : object->getOperands()) {
+            const FObject* stored = operand.getStored();
+            if (stored && seen.insert(stored).second) {
+                all.push_back(stored);
+            }
+            evaluatedBy[stored].push_back(object);
+        }
+    }
+    std::unordered_set<const FObject*> found(reading.begin(), reading.end());
+    for (std::size_t i = 0; i < reading.size(); ++i) {
+        for (const FObject* object : evaluatedBy[reading[i]]) {
+            if (found.insert(object).second) {
+                reading.push_back(object);
+            }
+        }
+    }
+    return found;
 }
 
 bool FUpdateGraph::updateOne(FObject* object) {

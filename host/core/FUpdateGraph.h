@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <unordered_set>
 #include <vector>
 
 class FObject;
@@ -30,5 +31,7 @@ class FUpdateGraph {
     /** What goes out of date with an object: its clients, and the whole that it is a part of. */
     static std::vector<FObject*> reachedBy(const FObject* object);
     static void updateWaiting();
+    /** Those of the objects, and of all that evaluating them evaluates, that read files. */
+    static std::unordered_set<const FObject*> thoseThatReadFiles(std::vector<const FObject*> all);
     static bool updateOne(FObject* object);
 };

@@ -12,11 +12,30 @@
 
 namespace {
 
+bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
+    FLogMsg::error(
+        definition.getName(),
+        QStringLiteral("the definition can't be saved in \"%1\": %2").arg(definition.getSaveFileName(), reason),
+        QStringLiteral("a file that was there is unchanged"));
+    return false;
+}
+
+// Says what save() leaves to its caller.
 bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
     if (!fileName.isEmpty()) {
         definition.setSaveFileName(FFile::resolveEnv(fileName));
     }
-    return definition.save();
+    if (definition.getSaveFileName().isEmpty()) {
+        FLogMsg::error(definition.getName(), QStringLiteral("the definition has no file to be saved in"),
+                       QStringLiteral("name one: save(\"%1.lodm\")").arg(definition.getName()));
+        return false;
+    }
+    QFile file;
+    if (!definition.openSaveFile(file)) {
+        return cantSave(definition, file.errorString());
+    }
+    const bool isWritten = definition.save({}, file);
+    return definition.closeSaveFile(file) && isWritten;
 }
 
 void commands(FCmdTable& table) {
@@ -36,26 +55,16 @@ QString moveOver(const QString& from, const QString& to) {
     return error ? QString::fromStdString(error.message()) : QString();
 }
 
-bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
-    FLogMsg::error(
-        definition.getName(),
-        QStringLiteral("the definition can't be saved in \"%1\": %2").arg(definition.getSaveFileName(), reason),
-        QStringLiteral("a file that was there is unchanged"));
-    return false;
-}
-
 }  // namespace
 
 FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass, &commands);
 
 bool FDefinitionCustom::openSaveFile(QFile& file) const {
     if (mSaveFileName.isEmpty()) {
-        FLogMsg::error(getName(), QStringLiteral("the definition has no file to be saved in"),
-                       QStringLiteral("name one: save(\"%1.lodm\")").arg(getName()));
         return false;
     }
     file.setFileName(realPath(mSaveFileName) + QStringLiteral(".part"));
-    return file.open(QIODevice::WriteOnly) || cantSave(*this, file.errorString());
+    return file.open(QIODevice::WriteOnly);
 }
 
 bool FDefinitionCustom::closeSaveFile(QFile& file) const {

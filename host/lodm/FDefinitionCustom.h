@@ -25,12 +25,16 @@ class FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase
      */
     virtual bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const;
 
- protected:
-    using FDefinitionCustomBase::init;
-    /** Opens a file beside the definition's own, with ".part" behind its name; false, with a message, if it can't. */
+    /**
+     * Opens a file beside the definition's own, with ".part" behind its name. False if it can't, or the definition has
+     * no file; what to say of it is the caller's.
+     */
     bool openSaveFile(QFile& file) const;
     /** Closes it and puts it in the place of the definition's file, in one step; that one stays if it can't. */
     bool closeSaveFile(QFile& file) const;
+
+ protected:
+    using FDefinitionCustomBase::init;
 
  private:
     QString mSaveFileName;

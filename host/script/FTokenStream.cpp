@@ -31,8 +31,8 @@ void FTokenStream::advance() {
         return;
     mPrevious = mCurrent;
     if (++mTokenCount > mostTokens) {
-        fail(mCurrent.place, QStringLiteral("more than %1 words, numbers, texts and signs: what follows isn't read")
-                                 .arg(mostTokens));
+        fail(mCurrent.place,
+             QStringLiteral("more than %1 words, numbers, texts and signs: what follows isn't read").arg(mostTokens));
         mLexer.skipAll();
     }
     mCurrent = mLexer.next();

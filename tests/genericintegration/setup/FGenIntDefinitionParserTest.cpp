@@ -78,7 +78,7 @@ genericIntegrationCommandFile b() {
 }
 genericIntegrationResultsFile a() {
     .setFileName("a.txt")
-    .setValues([["curFile : b", 0, 1, "\"\\ ]]>", First, "FDouble", "", 0, NULL]])
+    .setValues([["curFile: b", 0, 1, "\"\\ ]]>", First, "FDouble", "", 0, NULL]])
 }
 genericIntegrationDefinition d() {
     .addEntry("x", 2) .addEntry("G|stl", geometryExport("w.stl", 1, wing)) .addEntry("list", geometryExport("t.stl", 0, [tail]))

@@ -234,6 +234,8 @@ TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
     const QTemporaryDir folder;
     ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"a\", 1) }"));
     EXPECT_FALSE(definition("d")->save());
+    EXPECT_TRUE(log().isEmpty());
+    run("d.save()");
     EXPECT_TRUE(logHolds("d: the definition has no file to be saved in"));
     run("d.save(\"" + folder.filePath("none/d.lodm") + "\")");
     EXPECT_TRUE(logHolds("none/d.lodm\": No such file or directory"));

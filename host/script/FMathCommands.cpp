@@ -52,7 +52,7 @@ FExpr<FObject> format(const FExpr<FObject>& value, const QString& pattern) {
     } else if (const auto* basic = dynamic_cast<const FBasicType*>(object)) {
         formatted = basic->toPlainString();
     } else {
-        formatted = object->toString();
+        formatted = FExprBase(object).toString();  // NULL for a parameter without a value
     }
     QString error;
     const std::optional<QString> text = formatNumber(pattern, formatted, error);

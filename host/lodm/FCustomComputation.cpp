@@ -39,8 +39,15 @@ void FCustomComputation::init(const FCustomComputation* other) {
 
 void FCustomComputation::setConfiguration(const FExpr<FConfigurationCustom>& configuration) {
     mConfiguration.unregisterClient(this);
+    if (!configuration.registerClient(this, false)) {
+        mConfiguration.restoreClient(this);
+        FLogMsg::warning(getName(),
+                         QStringLiteral("Its configuration can't be %1, whose entries are read from this computation")
+                             .arg(configuration->getName()),
+                         QStringLiteral("it stays as it was"));
+        return;
+    }
     mConfiguration = configuration;
-    mConfiguration.registerClient(this, false);
     setOutOfDate(true);
 }
 

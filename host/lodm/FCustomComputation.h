@@ -11,7 +11,10 @@ class FCustomComputation : public FClass<FCustomComputation, FExternComputation>
     explicit FCustomComputation(const QString& name = QString()) : FClass(name) {}
 
     const FExpr<FConfigurationCustom>& getConfiguration() const { return mConfiguration; }
-    /** The computation depends on it from now on. */
+    /**
+     * The computation depends on it from now on. Refused, with a message, if the configuration depends on the
+     * computation.
+     */
     void setConfiguration(const FExpr<FConfigurationCustom>& configuration);
     /** A file in the folder of the run that gets a line "path = value" for each entry; empty for none. */
     const QString& getCmdFile() const { return mCmdFile; }

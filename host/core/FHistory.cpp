@@ -1,5 +1,8 @@
 #include "host/core/FHistory.h"
 
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FLogMsg.h"
+
 #include <QSet>
 #include <QStringList>
 
@@ -25,8 +28,6 @@ FHistory* FHistory::instance() {
 
 void FHistory::startTransaction(const QString& label) {
     if (mDepth++ == 0) {
-        mOpen = Transaction();
-        mTouched.clear();
         mOpen.label = label;
     }
 }
@@ -37,28 +38,44 @@ void FHistory::commit(int steps) {
     }
     mDepth = std::max(0, mDepth - steps);
     if (mDepth == 0) {
-        close();
+        std::exchange(mFailed, false) ? takeBack() : close();
     }
 }
 
+void FHistory::rollback() {
+    if (mDepth == 0) {
+        return;
+    }
+    takeBack();
+    mFailed = --mDepth > 0;
+}
+
+FHistory::Transaction FHistory::takeOpen() {
+    mTouched.clear();
+    return std::exchange(mOpen, Transaction());
+}
+
 void FHistory::close() {
-    Transaction step = std::exchange(mOpen, Transaction());
+    Transaction step = takeOpen();
     if (step.isEmpty()) {
         return;
     }
     forgetChangesOfNew(step);
-    for (ObjectChange& change : step.objects) {
-        keepDifference(change, step.size);
+    std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
+    dropUndone();
+    const QString label = step.label;
+    keep(std::move(step), true);
+    if (mDone.empty()) {
+        FLogMsg::warning(QStringLiteral("FHistory"),
+                         QStringLiteral("\"%1\" needs more memory than all steps may have together").arg(label),
+                         QStringLiteral("it can't be undone, and no step before it"));
     }
-    step.size += step.model.size() * sizeof(ModelChange) + step.objects.size() * sizeof(ObjectChange);
-    mSize += step.size;
-    mDone.push_back(std::move(step));
-    for (const Transaction& undone : mUndone) {
-        mSize -= undone.size;
-    }
-    mUndone.clear();
-    trim();
-    mObserver();
+}
+
+void FHistory::takeBack() {
+    Transaction step = takeOpen();
+    std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
+    replay(step, false);
 }
 
 // What an object made by the step was before its end is of no interest: it comes and goes as a whole.
@@ -75,13 +92,12 @@ void FHistory::forgetChangesOfNew(Transaction& step) {
                        step.objects.end());
 }
 
-void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {
+void FHistory::keepDifference(ObjectChange& change) {
     FRecorded& object = *change.recorded;
     FState now = FState::capture(object);
     const auto& fields = object.getClassData().getFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (change.whole || !fields[i]->equal(change.before.values[i], now.values[i])) {
-            size += fields[i]->size(change.before.values[i]) + fields[i]->size(now.values[i]);
             change.fields.push_back({i, std::move(change.before.values[i]), now.values[i]});
         }
     }
@@ -89,20 +105,39 @@ void FHistory::keepDifference(ObjectChange& change, std::size_t& size) {
     object.mpKnownState = std::make_unique<FState>(std::move(now));
 }
 
-void FHistory::rollback() {
-    if (mDepth == 0) {
-        return;
+// Of the two values of a field, the model, or the step that comes next, holds the other.
+std::size_t FHistory::memoryOf(const Transaction& step, bool isDone) {
+    std::size_t sum = step.model.size() * sizeof(ModelChange) + step.objects.size() * sizeof(ObjectChange);
+    for (const ModelChange& change : step.model) {
+        sum += change.managed->isInModel() ? 0 : change.managed->getMemory();
     }
-    mDepth = 0;
-    Transaction step = std::exchange(mOpen, Transaction());
-    for (ObjectChange& change : step.objects) {
-        keepDifference(change, step.size);
+    for (const ObjectChange& change : step.objects) {
+        const auto& fields = change.recorded->getClassData().getFields();
+        for (const FieldChange& field : change.fields) {
+            const bool isSame = fields[field.field]->equal(field.before, field.after);
+            sum += sizeof(FieldChange);
+            sum += isSame ? 0 : fields[field.field]->size(isDone ? field.before : field.after);
+        }
     }
-    replay(step, false);
+    return sum;
+}
+
+void FHistory::keep(Transaction step, bool isDone) {
+    step.size = memoryOf(step, isDone);
+    mSize += step.size;
+    (isDone ? mDone : mUndone).push_back(std::move(step));
+    trim();
+    mObserver();
 }
 
 void FHistory::addStep(const FRecorded* object) {
-    if (!object || !object->isRecorded() || !isRecording()) {
+    if (!object || !object->isRecorded() || mReplaying) {
+        return;
+    }
+    if (mBlockers > 0) {
+        if (!mTouched.contains(object)) {
+            const_cast<FRecorded*>(object)->rememberState();
+        }
         return;
     }
     if (mDepth == 0) {
@@ -146,37 +181,38 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
 }
 
 bool FHistory::undo() {
-    if (mDepth > 0 || mDone.empty()) {
+    if (mDepth > 0 || mReplaying || mDone.empty()) {
         return false;
     }
     Transaction step = std::move(mDone.back());
     mDone.pop_back();
+    mSize -= step.size;
     replay(step, false);
-    mUndone.push_back(std::move(step));
-    mObserver();
+    keep(std::move(step), false);
     return true;
 }
 
 bool FHistory::redo() {
-    if (mDepth > 0 || mUndone.empty()) {
+    if (mDepth > 0 || mReplaying || mUndone.empty()) {
         return false;
     }
     Transaction step = std::move(mUndone.back());
     mUndone.pop_back();
+    mSize -= step.size;
     replay(step, true);
-    mDone.push_back(std::move(step));
-    mObserver();
+    keep(std::move(step), true);
     return true;
 }
 
 void FHistory::replay(const Transaction& step, bool forward) {
+    const FImmediateUpdateBlocker blocker;
     mReplaying = true;
     const auto changeModel = [forward](const ModelChange& change) {
         auto* object = change.managed;
-        if (change.created == forward) {
-            object->enter();
-        } else {
-            object->leave();
+        const bool comes = change.created == forward;
+        // What was done to it without a step has perhaps done it already.
+        if (object->isInModel() != comes) {
+            comes ? object->enter() : object->leave();
         }
     };
     if (forward) {
@@ -192,6 +228,9 @@ void FHistory::replay(const Transaction& step, bool forward) {
         change.recorded->rememberState();
     }
     mReplaying = false;
+    for (const ModelChange& change : step.model) {
+        change.managed->setOutOfDate(true);
+    }
     for (const ObjectChange& change : step.objects) {
         change.recorded->setOutOfDate(true);
     }
@@ -206,8 +245,8 @@ QStringList FHistory::getLabels() const {
 }
 
 void FHistory::clear() {
+    dropUndone();
     mDone.clear();
-    mUndone.clear();
     mSize = 0;
 }
 
@@ -216,9 +255,18 @@ void FHistory::setLimit(std::size_t bytes) {
     trim();
 }
 
+void FHistory::dropUndone() {
+    for (const Transaction& step : mUndone) {
+        mSize -= step.size;
+    }
+    mUndone.clear();
+}
+
 void FHistory::trim() {
-    while (mSize > mLimit && mDone.size() > 1) {
-        mSize -= mDone.front().size;
-        mDone.pop_front();
+    for (std::deque<Transaction>* steps : {&mUndone, &mDone}) {
+        while (mSize > mLimit && !steps->empty()) {
+            mSize -= steps->front().size;
+            steps->pop_front();
+        }
     }
 }

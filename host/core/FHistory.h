@@ -21,7 +21,10 @@ class FHistory {
     void startTransaction(const QString& label);
     /** Ends a transaction; `steps` is the number of transactions to end, in general 1. */
     void commit(int steps = 1);
-    /** Ends the outermost transaction and takes back what it did. */
+    /**
+     * Ends a transaction and takes back what was done since the outermost one began. That one goes on, but what is done
+     * in it is taken back at its end, too.
+     */
     void rollback();
     /** The object belongs to the step. Without an open transaction it becomes a step of its own. */
     void addStep(const FRecorded* object);
@@ -37,8 +40,12 @@ class FHistory {
     /** Called whenever the model may have changed: at the end of each step, and after undo and redo. */
     void setObserver(std::function<void()> observer) { mObserver = std::move(observer); }
 
-    /** How much memory steps may hold, in bytes; the oldest steps are dropped first. */
+    /**
+     * How much memory steps may hold, in bytes. Dropped are first steps that could be redone, the farthest first, and
+     * then the oldest; a step that alone is larger can't be undone, which is told in the log.
+     */
     void setLimit(std::size_t bytes);
+    /** About how many bytes are held that nothing of the model holds. */
     std::size_t getSize() const { return mSize; }
 
     /** True while undo or redo replays: nothing is recorded and nothing follows from a destruction. */
@@ -78,25 +85,31 @@ class FHistory {
         QString label;
         std::vector<ModelChange> model;
         std::vector<ObjectChange> objects;
-        std::size_t size = 0;
+        std::size_t size = 0;  // of what the model doesn't hold: it depends on whether the step is done or undone
         bool isEmpty() const { return model.empty() && objects.empty(); }
     };
 
     bool isRecording() const { return !mReplaying && mBlockers == 0; }
     void touch(FRecorded* object, bool whole = false);
     void close();
+    void takeBack();
+    Transaction takeOpen();
     static void forgetChangesOfNew(Transaction& step);
-    static void keepDifference(ObjectChange& change, std::size_t& size);
+    static void keepDifference(ObjectChange& change);
+    static std::size_t memoryOf(const Transaction& step, bool isDone);
+    void keep(Transaction step, bool isDone);
     void replay(const Transaction& step, bool forward);
+    void dropUndone();
     void trim();
 
     int mDepth = 0;
     int mBlockers = 0;
+    bool mFailed = false;  // a transaction within the open one was rolled back
     bool mReplaying = false;
     Transaction mOpen;
     QHash<const FRecorded*, std::size_t> mTouched;  // the objects of mOpen, by their places
     std::deque<Transaction> mDone;
-    std::vector<Transaction> mUndone;
+    std::deque<Transaction> mUndone;  // the farthest from the present state first
     std::function<void()> mObserver = [] {};
     std::size_t mSize = 0;
     std::size_t mLimit = std::size_t{256} << 20U;
@@ -113,7 +126,7 @@ class FHistoryTransaction {
     void addStep(const FRecorded* object) { FHistory::instance()->addStep(object); }
 };
 
-/** While one exists, nothing is recorded. */
+/** While one exists, nothing is recorded: an object that is added to the step counts as having always been so. */
 class FHistoryBlocker {
  public:
     FHistoryBlocker() { ++FHistory::instance()->mBlockers; }

@@ -1,6 +1,7 @@
 #include "host/core/FManaged.h"
 
 #include "host/core/FHistory.h"
+#include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
@@ -137,6 +138,8 @@ bool FManaged::destroy(FManaged* object, bool tellClients) {
 }
 
 void FManaged::tellGone() const {
+    // An update may free other clients.
+    const FImmediateUpdateBlocker blocker;
     for (const FObject* client : getClients()) {
         client->setOutOfDate(true);
     }

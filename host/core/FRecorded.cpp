@@ -6,6 +6,10 @@ FRecorded::FRecorded() = default;
 FRecorded::FRecorded(const FRecorded& other) : FObject(other) {}
 FRecorded::~FRecorded() = default;
 
+std::size_t FRecorded::getMemory() const {
+    return FState::capture(*this).size(*this);
+}
+
 void FRecorded::forgetState() {
     mpKnownState.reset();
 }

@@ -17,6 +17,8 @@ class FRecorded : public FObject {
 
     /** True while the object belongs to the model; outside it nothing is kept. */
     virtual bool isRecorded() const = 0;
+    /** About how many bytes it holds; overrides add what isn't in its raw fields. */
+    virtual std::size_t getMemory() const;
 
  protected:
     FRecorded(const FRecorded& other);

@@ -1,5 +1,7 @@
 #include "host/core/FStateField.h"
 
+#include "host/core/FRecorded.h"
+
 FState FState::capture(const FObject& object) {
     FState state;
     const auto& fields = object.getClassData().getFields();
@@ -73,9 +75,22 @@ bool FOwnedState::equals(const FOwnedState& other) const {
 std::size_t FOwnedState::size() const {
     std::size_t sum = objects.size() * sizeof(FExprBase);
     for (std::size_t i = 0; i < objects.size(); ++i) {
-        if (const FObject* stored = objects[i].getStored()) {
-            sum += states[i].size(*stored);
-        }
+        const FObject* stored = objects[i].getStored();
+        // One without fields never changes, so that its own text tells.
+        const bool hasFields = stored && !states[i].values.empty();
+        sum += hasFields ? states[i].size(*stored) : heldMemory(objects[i]);
     }
     return sum;
+}
+
+std::size_t heldMemory(const FExprBase& handle) {
+    constexpr std::size_t least = 64;
+    const FObject* stored = handle.getStored();
+    if (!stored || stored->getBlock()->kind != FObjectBlock::Kind::Plain) {
+        return sizeof(FExprBase);
+    }
+    if (const auto* part = dynamic_cast<const FRecorded*>(stored)) {
+        return sizeof(FExprBase) + (part->isRecorded() ? 0 : part->getMemory());
+    }
+    return least + static_cast<std::size_t>(stored->toString().size()) * sizeof(QChar);
 }

@@ -4,12 +4,14 @@
 #include "host/core/FObjectList.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
 #include <any>
 #include <functional>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 /**
@@ -23,7 +25,7 @@ class FStateField {
     virtual std::any read(const FObject& object) const = 0;
     virtual void write(FObject& object, const std::any& value) const = 0;
     virtual bool equal(const std::any& a, const std::any& b) const = 0;
-    /** About how many bytes a kept value holds. */
+    /** About how many bytes a kept value holds that the model doesn't. */
     virtual std::size_t size(const std::any& value) const = 0;
 };
 
@@ -48,6 +50,12 @@ struct FOwnedState {
     bool equals(const FOwnedState& other) const;
     std::size_t size() const;
 };
+
+/**
+ * About how many bytes a handle keeps. A managed object counts with the step that destroyed it, and a part that belongs
+ * to the model not at all.
+ */
+std::size_t heldMemory(const FExprBase& handle);
 
 /** Builds the list of a class's raw fields; made in a static function of the class, which may name its members. */
 template <class C>
@@ -95,13 +103,22 @@ class FStateFields {
         }
         return sum;
     }
-    template <class V>
-    static std::size_t sizeOf(const QList<V>& list) {
-        return static_cast<std::size_t>(list.size()) * sizeof(V);
+    static std::size_t sizeOf(const QMap<unsigned int, QString>& texts) { return sizeOf(QStringList(texts.values())); }
+    template <class T>
+    static std::size_t sizeOf(const QList<FExpr<T>>& list) {
+        std::size_t sum = 0;
+        for (const FExpr<T>& handle : list) {
+            sum += heldMemory(handle);
+        }
+        return sum;
     }
     template <class V>
-    static std::size_t sizeOf(const V&) {
-        return sizeof(V);  // NOLINT(bugprone-sizeof-expression): a pointer is kept as such
+    static std::size_t sizeOf(const V& value) {
+        if constexpr (std::is_base_of_v<FExprBase, V>) {
+            return heldMemory(value);
+        } else {
+            return sizeof(V);  // NOLINT(bugprone-sizeof-expression): a pointer is kept as such
+        }
     }
 
     template <class V>

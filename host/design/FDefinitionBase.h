@@ -33,6 +33,7 @@ class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHo
 
     FDefinitionBase* getRoot() const override { return const_cast<FDefinitionBase*>(this); }
     bool doUpdate() const override { return FEntity::doUpdate(); }
+    std::size_t getMemory() const override { return FEntity::getMemory() + getEntriesMemory(); }
 
  protected:
     void tellGone() const override;

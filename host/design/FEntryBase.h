@@ -33,6 +33,7 @@ class FEntryBase : public FClass<FEntryBase, FRecorded>, public FEntryHolder {
     int getLevel() const override { return mpHolder ? mpHolder->getLevel() + 1 : 1; }
 
     bool isRecorded() const override;
+    std::size_t getMemory() const override { return FRecorded::getMemory() + getEntriesMemory(); }
     /** Also marks what depends on the structure; a change of a value alone marks without this operation. */
     void setOutOfDate(bool outOfDate) const override;
     QString toString() const override { return getFullName(); }

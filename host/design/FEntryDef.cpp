@@ -77,6 +77,11 @@ QStringList FEntryDef::getLeafPaths() const {
     return paths;
 }
 
+std::size_t FEntryDef::getMemory() const {
+    return FEntryBase::getMemory() + static_cast<std::size_t>(mDescription.size()) * sizeof(QChar) +
+           heldMemory(mDefault);
+}
+
 FEntryDef::FEntryDef(const FEntryDef& other)
     : FClass(other.getName()),
       mLeast(other.mLeast),

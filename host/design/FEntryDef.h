@@ -52,6 +52,7 @@ class FEntryDef : public FClass<FEntryDef, FEntryBase> {
     FExpr<FEntryBase> copy() const;
     /** The call of `addEntry` from which the entry comes back; empty for a group that its entries bring along. */
     QString toSavedCommand() const;
+    std::size_t getMemory() const override;
 
  private:
     FEntryDef(const FEntryDef& other);

@@ -11,8 +11,15 @@
 quint64 FEntryHolder::mStructureVersion = 1;
 
 FEntryHolder::~FEntryHolder() {
+    unlinkEntries();
+}
+
+void FEntryHolder::unlinkEntries() {
     for (const FExpr<FEntryBase>& entry : mLinked) {
-        entry->mpHolder = nullptr;
+        // One that has moved on knows its new holder already.
+        if (entry->mpHolder == this) {
+            entry->mpHolder = nullptr;
+        }
     }
 }
 
@@ -77,14 +84,20 @@ void FEntryHolder::setEntries(const QList<FExpr<FEntryBase>>& entries) {
 }
 
 void FEntryHolder::linkEntries() {
-    for (const FExpr<FEntryBase>& entry : mLinked) {
-        entry->mpHolder = nullptr;
-    }
+    unlinkEntries();
     for (const FExpr<FEntryBase>& entry : mEntries) {
         entry->attach(this);
     }
     mLinked = mEntries;
     structureChanged();
+}
+
+std::size_t FEntryHolder::getEntriesMemory() const {
+    std::size_t sum = 0;
+    for (const FExpr<FEntryBase>& entry : mEntries) {
+        sum += sizeof(FEntryBase) + FEntryBase::of(entry)->getMemory();
+    }
+    return sum;
 }
 
 void FEntryHolder::changed() {

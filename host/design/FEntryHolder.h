@@ -46,6 +46,8 @@ class FEntryHolder {
  protected:
     /** Makes the entries know their holder, after their list was written back as a raw field. */
     void linkEntries();
+    /** About how many bytes its entries hold. */
+    std::size_t getEntriesMemory() const;
     static void structureChanged() { ++mStructureVersion; }
 
     QList<FExpr<FEntryBase>> mEntries;
@@ -55,6 +57,7 @@ class FEntryHolder {
     virtual const FRecorded* asRecorded() const = 0;
     bool standsIn(const FEntryBase* entry) const;
     void changed();
+    void unlinkEntries();
 
     QList<FExpr<FEntryBase>> mLinked;  // the entries that know this holder
     static quint64 mStructureVersion;

@@ -127,7 +127,10 @@ bool FConfiguration::setEntryValue(const QString& path, const FExprBase& value) 
 
 QStringList FConfiguration::furtherSavedCommands() const {
     QStringList commands;
-    collectCommands(*this, false, commands);
+    // Without its definition there would be no entries for the values when they are read.
+    if (mDefinition) {
+        collectCommands(*this, false, commands);
+    }
     return commands;
 }
 

@@ -354,19 +354,25 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
 }
 
 void FDefinitionGenInt::setInProject(bool inProject) {
+    FHistoryTransaction transaction(QStringLiteral("set in project"));
     FManaged::setInProject(inProject);
+    transaction.addStep(this);
     for (const FExpr<FGenIntFile>& file : mFiles) {
         if (file) {
             file->setInProject(inProject);
+            transaction.addStep(file.ptr());
         }
     }
 }
 
 void FDefinitionGenInt::setInUserConfig(bool inUserConfig) {
+    FHistoryTransaction transaction(QStringLiteral("set in user configuration"));
     FManaged::setInUserConfig(inUserConfig);
+    transaction.addStep(this);
     for (const FExpr<FGenIntFile>& file : isDefault() ? Files() : mFiles) {
         if (file) {
             file->setInUserConfig(inUserConfig);
+            transaction.addStep(file.ptr());
         }
     }
 }

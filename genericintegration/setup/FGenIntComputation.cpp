@@ -5,6 +5,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntCompSignalRapper.h"
 #include "genericintegration/setup/FResultsGenInt.h"
+#include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FViewCtrl.h"
@@ -122,7 +123,10 @@ void FGenIntComputation::applyOutputHandles(FComputationResults* results) const 
     auto* ofIntegration = dynamic_cast<FResultsGenInt*>(results);
     FDefinitionGenInt* described = definition();
     if (described && ofIntegration) {
+        // Part of the run, and no step of the history.
+        const FHistoryBlocker blocker;
         ofIntegration->setOutputHandles(described->getFiles(1));
+        FHistory::instance()->addStep(ofIntegration);
     }
 }
 

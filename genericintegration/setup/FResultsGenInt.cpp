@@ -49,7 +49,11 @@ void commands(FCmdTable& table) {
 
 }  // namespace
 
-FClassData FResultsGenInt::mClass("FResultsGenInt", &FResultsGeneric::mClass, &commands, nullptr, 2);
+FClassData FResultsGenInt::mClass("FResultsGenInt", &FResultsGeneric::mClass, &commands, &FResultsGenInt::fields, 2);
+
+std::vector<std::unique_ptr<FStateField>> FResultsGenInt::fields() {
+    return FStateFields<FResultsGenInt>().linked(&FResultsGenInt::mOutputHandles).take();
+}
 
 FResultsGenInt* FResultsGenInt::create(const QString& name, const FExpr<FDesign>& variant, int computationId) {
     return (new FResultsGenInt(name, variant, computationId))->enter();

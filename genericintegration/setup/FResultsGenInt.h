@@ -51,6 +51,7 @@ class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
  private:
     friend class FClass<FResultsGenInt, FResultsGeneric>;
 
+    static std::vector<std::unique_ptr<FStateField>> fields();
     FResultsGenInt* enter();
     template <class Ask>
     double ask(Ask question) const;

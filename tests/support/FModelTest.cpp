@@ -9,9 +9,7 @@
 
 #include <QTextStream>
 
-namespace {
-
-void clearModel() {
+void FModelTest::clear() {
     const FHistoryBlocker blocker;
     const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
     for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
@@ -20,16 +18,14 @@ void clearModel() {
     FHistory::instance()->clear();
 }
 
-}  // namespace
-
 FModelTest::FModelTest() {
     FPrototypes::buildPending();
-    clearModel();
+    clear();
     FLogMsg::setSink([this](const FLogMsg& message) { mLog.append(message.toLine()); });
 }
 
 FModelTest::~FModelTest() {
-    clearModel();
+    clear();
     FLogMsg::setSink(nullptr);
 }
 

@@ -13,6 +13,8 @@ class FModelTest : public testing::Test {
     FModelTest();
     ~FModelTest() override;
 
+    /** Empties model and history. */
+    static void clear();
     /** Carries out a script; false if an error ended it. */
     bool run(const QString& script);
     /** The value of an expression. */

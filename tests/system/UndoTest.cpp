@@ -15,15 +15,10 @@ class UndoTest : public FProgramTest {
 
     /** Prints the state of all that the steps change, and a line that ends it. */
     static QString report() {
-        const QList<QPair<QString, QStringList>> attributes{
-            {"par", {"setValue"}},
-            {"in1", {"setFileName", "setContent", "setForceWindowsLineEndings"}},
-            {"in2", {"setFileName", "setContent"}},
-            {"out1", {"setFileName", "setNumberSeparator", "setRegExprSeparator", "setValues"}},
-            {"def", {"setFiles"}},
-            {"conf", {"setDefinition"}},
-            {"comp", {"setConfiguration", "setExecutable", "setArguments", "setTimeLimit", "setEnvironment"}},
-            {"comp2", {"setConfiguration", "setConsoleFiles"}}};
+        const QList<QPair<QString, QStringList>> attributes{{"par", {"setValue"}},
+                                                            {"in1", {"setFileName", "setContent"}},
+                                                            {"out1", {"setValues"}},
+                                                            {"comp", {"setConfiguration", "setArguments"}}};
         QString text;
         for (const auto& [object, names] : attributes) {
             text += "if (exists(\"" + object + "\")) { print(\"" + object + "\"";
@@ -34,8 +29,7 @@ class UndoTest : public FProgramTest {
         }
         return text +
                "if (exists(\"def\")) { print(def.getEntryNames()) }\n"
-               "if (exists(\"conf\")) { print(conf.getEntryValue(\"Group|H|c[3]\"), conf.getPreviewText(\"in.txt\"), "
-               "conf.getPreviewText(\"sub/ä.txt\")) }\n"
+               "if (exists(\"conf\")) { print(conf.getPreviewText(\"in.txt\")) }\n"
                "print(\"----\")\n";
     }
 };
@@ -44,29 +38,13 @@ TEST_F(UndoTest, bringsBackEachStateOfASetUp) {
     const QStringList steps{
         "parameter par(2)",
         "conf.setEntryValue(\"a\", par * 3)",
-        "par.setValue(5.5)",
         "in1.setContent(" + FSetUp::quoted("\"q\" \\ \r\n<entry>a</entry> <entry>g|B</entry> <entry>in.txt</entry>") +
             ")",
-        "in1.setFileName(\"sub/ä.txt\")",
-        "in1.setForceWindowsLineEndings(true)",
-        "out1.setValues([" + FSetUp::average("m \"1\"", 2, 3) + ", " + FSetUp::value("\\", -1, 1, "\"", "Last") + "])",
-        "out1.setRegExprSeparator(\"[,;]\")",
-        "out1.setNumberSeparator(false)",
-        "def.addEntry(\"G|H|c\", 3, 4)",
+        "out1.setValues([" + FSetUp::average("m \"1\"", 2, 3) + "])",
         "def.renameEntry(\"G\", \"Group\")",
-        "conf.setEntryValue(\"Group|H|c[3]\", par + 1)",
-        "destroy(par)",
-        "def.removeEntry(\"a\")",
         "for (name in [\"u\"]) { def.addEntry(name, name) }",
-        "genericIntegrationCommandFile in2() { .setFileName(\"in.txt\"); .setContent(\"<entry>u</entry>\") }",
-        "def.setFiles([in2, out1, in1])",
         "comp.setArguments([\"-c\", \"exit 3\"])",
-        "comp.setTimeLimit(2.5)",
-        "comp.setEnvironment([\"A=b c\"])",
-        "genericIntegrationComputation comp2() { .setConfiguration(conf); .setConsoleFiles(false) }",
-        "destroy(in1)",
-        "destroy(conf)",
-        "destroy(def)"};
+        "destroy(conf)"};
     QString text = setUp().text() + report();
     for (const QString& step : steps) {
         text += step + "\nok = comp.run()\n" + report();

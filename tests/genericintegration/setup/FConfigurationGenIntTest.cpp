@@ -65,14 +65,6 @@ TEST_F(FConfigurationGenIntTest, onlyTheTypedDefinitionIsOffered) {
     EXPECT_EQ(textOf("c.getEntryValue(\"height\")"), "41");
 }
 
-TEST_F(FConfigurationGenIntTest, everyCommandIsUndoable) {
-    run("genericIntegrationDefinition other() { .addEntry(\"x\", 1) }");
-    expectUndoable({"genericIntegrationConfiguration e(true) { .setDefinition(other); .setEntryValue(\"x\", 2) }",
-                    "c.setEntryValue(\"G|span\", 7)", "c.setEntryValue(\"height\", c.getEntryValue(\"G|span\")/2)",
-                    "c.setEntryValue(\"G|span\", NULL)", "c.setDefinition(other)", "e.setDefinition(NULL)",
-                    "destroy(c)"});
-}
-
 TEST_F(FConfigurationGenIntTest, entriesFindTheirRebuiltDefinitions) {
     FConfigurationGenInt::create({}, "empty", false, nullptr)->reassignEntryDefs();
     run("d.addEntry(\"G|H|deep\", 5)\nd.addEntry(\"gone\", 6)\nc.setEntryValue(\"G|span\", 11)\n"

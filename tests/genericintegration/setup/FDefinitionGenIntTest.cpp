@@ -209,16 +209,6 @@ TEST_F(FDefinitionGenIntTest, aCloneHasEntriesAndNoFiles) {
     EXPECT_EQ(copy->getOutputPrecision(), 6);
 }
 
-TEST_F(FDefinitionGenIntTest, everyCommandIsUndoable) {
-    in->setContent("<entry>x</entry><entry>G|y</entry>");
-    run("genericIntegrationResultsFile more()\ngenericIntegrationConfiguration c() { .setDefinition(d) }");
-    expectUndoable({"genericIntegrationDefinition e() { .addEntry(\"a\", 1) .setFiles([out]) }",
-                    "d.addEntry(\"x\", 1.5)", "d.addEntry(\"G|y\", 2)", "d.setFiles([more, in])", "d.setCurFile(in)",
-                    "d.setLastFile(more)", "d.setLastFile(NULL)", "c.setEntryValue(\"G|y\", 3)",
-                    "d.renameEntry(\"G\", \"H\")", "in.setFileName(\"new.dat\")", "d.removeEntry(\"H|y\")",
-                    "d.removeEntry(\"x\")", "destroy(in)", "d.setFiles([])", "c.setDefinition(e)", "destroy(d)"});
-}
-
 TEST_F(FDefinitionGenIntTest, wrongArgumentsGiveNull) {
     run("d.setFiles([in, d])\nd.setFiles(in)\nd.setCurFile(d)");
     EXPECT_EQ(log().size(), 3);

@@ -122,13 +122,6 @@ TEST_F(FGenIntComputationTest, hasStepsThatAreIdleWithoutARun) {
     EXPECT_EQ(results()->getDataAt("f", 0), 4) << "nothing was moved aside";
 }
 
-TEST_F(FGenIntComputationTest, undoesItsSettings) {
-    expectUndoable({"comp.setExecutable(\"/usr/bin/awk\")", "comp.setArguments([\"a b\", \"\\\"\", \"\\\\\"])",
-                    "comp.setTimeLimit(1.5)", "comp.setEnvironment([\"A=1\"])", "comp.setStandardInput(\"in.txt\")",
-                    "comp.setConsoleFiles(false)", "comp.setConfiguration(NULL)", "comp.setConfiguration(conf)",
-                    "genericIntegrationComputation second() { .setConfiguration(conf) }", "destroy(conf)"});
-}
-
 TEST_F(FGenIntComputationTest, copiesTheSettingsOfTheProgramAlone) {
     auto* copy = dynamic_cast<FGenIntComputation*>(computation()->clone());
     EXPECT_TRUE(copy->isInModel());

@@ -82,12 +82,6 @@ TEST_F(FGenIntFileTest, initFromFileTakesTextAndNames) {
     EXPECT_TRUE(logHolds("isn't valid UTF-8 in line 3"));
 }
 
-TEST_F(FGenIntFileTest, commandsAreUndoable) {
-    expectUndoable({"in1.setContent(\"new \\\"text\\\"\")", "in1.setFileName(\"sub/b.dat\")",
-                    "in1.setForceWindowsLineEndings(true)", "destroy(in1)",
-                    "genericIntegrationCommandFile in2() {\n.setContent(\"z\")\n.setFileName(\"z.dat\")\n}"});
-}
-
 TEST_F(FGenIntFileTest, updateFileReachesWholeTagsOnly) {
     file->setContent("<ENTRY>A</ENTRY> <entry>Exports|a</entry> <entry>a </entry>");
     file->updateFile("a", "b");

@@ -90,14 +90,6 @@ TEST_F(FGenIntResultsFileTest, olderSeparatorNamesEndFindNumbersMode) {
     EXPECT_TRUE(file->getSpacesAndTabsSeparator());
 }
 
-TEST_F(FGenIntResultsFileTest, commandsAreUndoable) {
-    run("out1.setValues([[\"a\",0,0,\"\",Last,\"FDouble\",\"\",0,NULL]])");
-    expectUndoable(
-        {"out1.setValues([[\"b\",0,0,\"\",Last,\"FDouble\",\"\",1,5],[\"c\",0,0,\"\",Last,\"FDouble\",\"\"]])",
-         "out1.setSpacesAndTabsSeparator(true)", "out1.setRegExprSeparator(\";\")", "out1.setNumberSeparator(false)",
-         "out1.setNumberSeparator(true)", "out1.setRegExpSeparator(\",\")", "out1.setValues([])", "destroy(out1)"});
-}
-
 TEST_F(FGenIntResultsFileTest, valuesEditedInPlaceComeBack) {
     run("out1.setValues([[\"a\",0,0,\"\",Last,\"FDouble\",\"\",0,NULL]])");
     const FExpr<FGenIntResultsFileValue> value = file->getValue("a");

@@ -14,8 +14,9 @@ void commands(FCmdTable& table) {
                      return thing;
                  },
                  {"number=0"})
-        .savedArguments(
-            [](const FObject* object) { return QString::number(static_cast<const FThing*>(object)->getNumber()); });
+        .savedArguments([](const FObject* object) {
+            return FDouble(static_cast<const FThing*>(object)->getNumber()).toHistoryString();
+        });
     table.attribute<FThing>("setNumber", &FThing::setNumber, &FThing::getNumber, {"number"}).data();
     table.attribute<FThing>("setText", &FThing::setText, &FThing::getText, {"text"}).data();
     table.attribute<FThing>("setFriend", &FThing::setFriend, &FThing::getFriend, {"friend"}).data();
@@ -50,8 +51,11 @@ FThing* FThing::setNumber(double number) {
 
 void FThing::setFriend(const FExpr<FThing>& other) {
     mFriend.unregisterClient(this);
-    mFriend = other;
-    mFriend.registerClient(this);
+    if (other.registerClient(this)) {
+        mFriend = other;
+    } else {
+        mFriend.restoreClient(this);
+    }
 }
 
 bool FThing::doUpdate() const {

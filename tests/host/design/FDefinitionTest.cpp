@@ -60,16 +60,6 @@ TEST_F(FDefinitionTest, whatCannotBeAddedIsRefusedWithItsPlaceAndChangesNothing)
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
 }
 
-TEST_F(FDefinitionTest, everyCommandIsUndoable) {
-    run("notingConfiguration other() { .setDefinition(def); .setEntryValue(\"Geometry|span\", 11) }\nparameter p(2)");
-    expectUndoable(
-        {"def.addEntry(\"x\", 1)", "def.addEntry(\"A|B|c\", \"text\", 3)", "conf.setEntryValue(\"A|B|c[1]\", p+1)",
-         "def.addEntry(\"A|B|d\", NULL, 1, 0, true, \"a \\\"b\\\"\", \"FString\")", "def.addEntry(\"Layer\", NULL, 2)",
-         "def.addEntry(\"Layer|t\", 0.1)", "conf.setEntryValue(\"Layer[1]|t\", 3*p)", "def.renameEntry(\"A\", \"Z\")",
-         "def.renameEntry(\"Layer\", \"Ply\")", "def.renameEntry(\"Geometry|span\", \"b\")", "def.removeEntry(\"Z|B\")",
-         "def.removeEntry(\"Ply|t\")", "def.removeEntry(\"Geometry\")", "destroy(def)"});
-}
-
 TEST_F(FDefinitionTest, theSavedTextBringsEverythingBack) {
     run("def.addEntry(\"A|B|c\", \"q\\\"|\\\\\", 3)\ndef.addEntry(\"A|B|d\", NULL, 2, 0, true, \"about it\", "
         "\"FString\")\n"

@@ -36,11 +36,6 @@ TEST_F(FParameterTest, followsWhatItNamesAndKeepsTheText) {
     EXPECT_FALSE(evaluate("b.getValue()").isValid());
 }
 
-TEST_F(FParameterTest, itsCommandsAreUndoable) {
-    expectUndoable({"parameter a(2)", "parameter b(a*2)", "b.setValue(a-1)", "a.setValue(7)", "b.setValue(NULL)",
-                    "b.setValue(a)", "destroy(a)"});
-}
-
 TEST_F(FParameterTest, aCycleIsRefusedAndTheValueStays) {
     run("parameter a(2)\nparameter b(3*a)\nparameter c(a+b)");
     for (const char* text : {"c", "2*c", "b", "a+1", "max(1,c)"}) {

@@ -1,0 +1,70 @@
+#include "tests/support/FModelState.h"
+
+#include "host/core/FObjectManager.h"
+#include "host/design/FDefinitionBase.h"
+#include "host/design/FEntry.h"
+#include "host/design/FParameter.h"
+#include "tests/support/FModelTest.h"
+
+namespace {
+
+QString labelOf(const FObject& object, int depth = 0);
+
+/** The suppliers in an order that doesn't tell when they were linked. */
+QString suppliersOf(const FObject& object, int depth) {
+    QStringList labels;
+    for (const FObject* supplier : object.getSuppliers()) {
+        labels.append(labelOf(*supplier, depth + 1));
+    }
+    labels.sort();
+    return labels.isEmpty() ? QString() : " <- {" + labels.join(", ") + '}';
+}
+
+QString labelOf(const FObject& object, int depth) {
+    if (const auto* managed = dynamic_cast<const FManaged*>(&object)) {
+        return '#' + QString::number(managed->getDbId());
+    }
+    const QString label = object.getClass() + ' ' + object.toExpressionString();
+    return dynamic_cast<const FEntryBase*>(&object) || depth > 5 ? label : label + suppliersOf(object, depth);
+}
+
+QString worth(const FObject& object) {
+    const FObject* value = object.getValueObject();
+    return value ? labelOf(*value, 6) : QStringLiteral("nothing");
+}
+
+QString entriesText(const FEntryHolder& holder) {
+    QString text;
+    for (const FExpr<FEntryBase>& handle : holder.getEntries()) {
+        const FEntryBase& base = *FEntryBase::of(handle);
+        text += "  " + base.getFullName() + suppliersOf(base, 0);
+        if (const auto* entry = dynamic_cast<const FEntry*>(&base)) {
+            text += ' ' + entry->getValue().toHistoryString() + " = " + worth(*entry);
+        }
+        text += (base.getHolder() == &holder ? "\n" : " stands nowhere\n") + entriesText(base);
+    }
+    return text;
+}
+
+QString objectText(const FManaged& object) {
+    QString text = labelOf(object) + ' ' + object.getClass() + ' ' + object.getName() + suppliersOf(object, 0) +
+                   QStringLiteral(" %1 %2 %3\n")
+                       .arg(object.isInProject())
+                       .arg(object.isInUserConfig())
+                       .arg(object.isUpdateOnDemand());
+    if (const auto* parameter = dynamic_cast<const FParameter*>(&object)) {
+        text += "  = " + worth(*parameter) + '\n';
+    }
+    const auto* holder = dynamic_cast<const FDefinitionBase*>(&object);
+    return holder ? text + entriesText(*holder) : text;
+}
+
+}  // namespace
+
+QString modelState() {
+    QString text = FModelTest::savedModel() + FObjectManager::instance()->getNames().join(' ') + '\n';
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        text += objectText(*object);
+    }
+    return text;
+}

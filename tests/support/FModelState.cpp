@@ -62,9 +62,15 @@ QString objectText(const FManaged& object) {
 }  // namespace
 
 QString modelState() {
-    QString text = FModelTest::savedModel() + FObjectManager::instance()->getNames().join(' ') + '\n';
-    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
-        text += objectText(*object);
+    // First, since a definition drops files that are gone when it is saved.
+    const QString saved = FModelTest::savedModel();
+    QString objects;
+    // Twice, since an expression finds what it depends on when it is asked for.
+    for (int i = 0; i < 2; ++i) {
+        objects.clear();
+        for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+            objects += objectText(*object);
+        }
     }
-    return text;
+    return saved + FObjectManager::instance()->getNames().join(' ') + '\n' + objects;
 }

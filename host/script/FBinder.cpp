@@ -196,10 +196,12 @@ FExprBase FBinder::bindChain(const FSyntaxExpr& expression, Use use) {
     return mError ? FExprBase() : receiver;
 }
 
-std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const FSyntaxExpr& call) {
+std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const FSyntaxExpr& call, Use use) {
     const FObject* type = receiver.getType();
     const bool isList = type && type->isTypeOf(FObjectList::null());
-    const bool isOpen = !type || type == FObject::null() || isList;
+    // In a text that is kept, the object whose name stood here may have gone.
+    const bool isNull = type == FNull::null() && use != Use::Once;
+    const bool isOpen = !type || type == FObject::null() || isList || isNull;
     const auto rows = isOpen ? FCmdManager::instance()->findMembersOfAnyClass(call.name)
                              : FCmdManager::instance()->findMembers(type->getClassData(), call.name);
     if (!rows.empty()) {
@@ -216,7 +218,7 @@ std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const
 }
 
 FExprBase FBinder::bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use) {
-    const auto rows = memberRows(receiver, call);
+    const auto rows = memberRows(receiver, call, use);
     if (mError || !mayStand(rows, call, use)) {
         return {};
     }

@@ -38,7 +38,7 @@ class FBinder {
     FExprBase bindOperators(const FSyntaxExpr& expression, Use use);
     FExprBase bindList(const FSyntaxExpr& expression, Use use);
     std::vector<FExprBase> bindAll(const std::vector<FSyntaxExpr>& expressions, Use use);
-    std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call);
+    std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call, Use use);
     bool mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
     /** What a saved text has evaluated at once. */
     FExprBase bindEvaluated(const FSyntaxExpr& expression);

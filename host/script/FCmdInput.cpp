@@ -35,7 +35,39 @@ bool isUnwrapped(const FSyntaxExpr& expression) {
             return true;
         }
     }
-    return std::any_of(expression.operands.begin(), expression.operands.end(), isUnwrapped);
+    return std::any_of(expression.operands.begin(), expression.operands.end(),
+                       [](const FSyntaxExpr& operand) { return isUnwrapped(operand); });
+}
+
+bool hasUnwrapped(const FSyntaxBody& body);
+
+/** The same for the parts of a statement; a declaration is a step in any case. */
+struct FindUnwrapped {
+    bool operator()(const FSyntaxExpr& expression) const { return isUnwrapped(expression); }
+    bool operator()(const FSyntaxDeclaration&) const { return false; }
+    bool operator()(const FSyntaxAssignment& assignment) const { return isUnwrapped(assignment.value); }
+    bool operator()(const FSyntaxWhile& loop) const { return isUnwrapped(loop.condition) || hasUnwrapped(loop.body); }
+    bool operator()(const FSyntaxFor& loop) const { return isUnwrapped(loop.list) || hasUnwrapped(loop.body); }
+    bool operator()(const FSyntaxIf& branches) const {
+        return hasUnwrapped(branches.otherwise) ||
+               std::any_of(branches.branches.begin(), branches.branches.end(), [](const FSyntaxIf::Branch& branch) {
+                   return isUnwrapped(branch.condition) || hasUnwrapped(branch.body);
+               });
+    }
+};
+
+bool hasUnwrapped(const FSyntaxBody& body) {
+    return std::any_of(body.begin(), body.end(), [](const FSyntaxStatement& statement) {
+        return std::visit(FindUnwrapped(), statement.content);
+    });
+}
+
+/** The word of a loop or branch, which is one step as a whole; null for other statements. */
+const char* blockWord(const FSyntaxStatement& statement) {
+    return std::holds_alternative<FSyntaxIf>(statement.content)      ? "if"
+           : std::holds_alternative<FSyntaxFor>(statement.content)   ? "for"
+           : std::holds_alternative<FSyntaxWhile>(statement.content) ? "while"
+                                                                     : nullptr;
 }
 
 }  // namespace
@@ -151,8 +183,13 @@ bool FCmdInput::runBody(const FSyntaxBody& body) {
 }
 
 bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
-    return countStep(statement.place) &&
-           std::visit([this](const auto& content) { return run(content); }, statement.content);
+    if (!countStep(statement.place)) {
+        return false;
+    }
+    const char* word = blockWord(statement);
+    Step step(QString::fromLatin1(word),
+              word && !FHistory::instance()->inTransaction() && !std::visit(FindUnwrapped(), statement.content));
+    return step.done(std::visit([this](const auto& content) { return run(content); }, statement.content));
 }
 
 std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {

@@ -48,7 +48,8 @@ void FProject::clearModel() {
     const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
     const QList<FExpr<FManaged>> handles(objects.begin(), objects.end());
     for (auto object = handles.rbegin(); object != handles.rend(); ++object) {
-        if (*object && !(*object)->isDefault() && !(*object)->isInUserConfig()) {
+        const bool isUsers = *object && (*object)->isInUserConfig() && !(*object)->isInProject();
+        if (*object && !(*object)->isDefault() && !isUsers) {
             FManaged::destroy(object->ptr(), true);
         }
     }

@@ -28,7 +28,7 @@ QByteArray FProjectText::write() {
     QString text = QLatin1String(header) + QString::number(version) + QLatin1Char('\n');
     FSavedOrder order;
     for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
-        if (object->isInProject()) {
+        if (object->isInProject() && !object->isDefault()) {
             order.add(*object);
         }
     }

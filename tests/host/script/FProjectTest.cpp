@@ -54,6 +54,7 @@ parameter asked(twice + 1) { .setUpdateOnDemand(true) }
 span.setValue(asked.getValue() * 0 + 3)
 twice.setValue(2)
 asked.setValue(span)
+parameter lost(b.getNumber() + 1)
 destroy(b)
 parameter last(3)
 twice.setValue(2 * last)

@@ -27,16 +27,15 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units, FFoundFlag
 
 FFoundValue FColumn::value(const FResultText& in) const {
     const FTextIndex& index = in.index();
-    const qint64 line = index.lineAt(offset);
     FFoundValue value;
-    value.line = line + 1;
+    value.line = index.lineAt(offset) + 1;
     value.flags = flags;
     value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
     value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);
     if (exists) {
         value.number = number;
         value.text = text;
-        value.column = index.utf16At(offset) - index.utf16At(index.lineStart(line)) + units + 1;
+        value.column = index.utf16At(offset) - index.utf16At(index.lineBegin(offset)) + units + 1;
         value.length = text.size();
     }
     return value;

@@ -14,6 +14,8 @@
 #include <QFile>
 
 #include <cmath>
+#include <memory>
+#include <utility>
 
 FClassData FGenIntReader::mClass("FGenIntReader", &FObject::mClass);
 
@@ -126,20 +128,20 @@ bool FGenIntReader::readText(const FGenIntResultsFile& file, const QString& dire
     if (directory.isEmpty()) {
         text = FResultText::fromString(file.getPlainContent());
     } else {
-        QFile device(directory + QLatin1Char('/') + file.getFileName());
+        auto device = std::make_unique<QFile>(directory + QLatin1Char('/') + file.getFileName());
         const bool leadsOut = FPathManager::leadsOut(file.getFileName());
         if (leadsOut) {
             FLogMsg::info(getClass(),
                           QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
                           QStringLiteral("give the template a file name below it"));
         }
-        if (leadsOut || !device.open(QIODevice::ReadOnly)) {
+        if (leadsOut || !device->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
             FLogMsg::info(getClass(),
-                          QStringLiteral("Could not open file ") + device.fileName() + QStringLiteral(" for reading"),
+                          QStringLiteral("Could not open file ") + device->fileName() + QStringLiteral(" for reading"),
                           consequence);
             return false;
         }
-        text = FResultText::fromFile(device.readAll());
+        text = FResultText::fromFile(FFileBytes(std::move(device)));
     }
     if (text.isEmpty()) {
         FLogMsg::info(getClass(), QStringLiteral("Empty content, nothing to parse"), consequence);
@@ -180,6 +182,13 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
                          QStringLiteral("it separates nothing"));
     }
     const FFoundValues found = search.find(text);
+    if (!text.isWhole()) {
+        FLogMsg::info(getClass(),
+                      QStringLiteral("The file %1 was cut while it was read; read it once nothing writes it any more")
+                          .arg(file->getFileName()),
+                      QStringLiteral("parsing process aborted"));
+        return;
+    }
     QStringList headers;
     QStringList tooltips;
     FTableData::Rows rows;

@@ -12,10 +12,10 @@ std::optional<FByteRange> FLineWindow::line(qint64 number) const {
     const FTextIndex& index = mText.index();
     const qint64 line = index.lineAt(mPart.begin) + number;
     const qint64 begin = number == 0 ? mPart.begin : index.lineStart(line);
-    if (begin < 0 || begin >= mPart.end)
+    if (begin < mPart.begin || begin >= mPart.end)
         return {};
     const qint64 next = index.lineStart(line + 1);
-    return withoutEnd(begin, next < 0 || next > mPart.end ? mPart.end : next - 1);
+    return withoutEnd(begin, next <= begin || next > mPart.end ? mPart.end : next - 1);
 }
 
 FByteRange FLineWindow::lineFrom(qint64& offset) const {

@@ -5,38 +5,31 @@
 #include "genericintegration/io/FFileDecoding.h"
 #include "genericintegration/io/FUtf8.h"
 
-namespace {
-
-std::string_view viewOf(const QByteArray& bytes) {
-    return {bytes.constData(), static_cast<size_t>(bytes.size())};
-}
-
-}  // namespace
-
-FResultText FResultText::fromFile(const QByteArray& bytes) {
-    const std::string_view file = viewOf(bytes);
+FResultText FResultText::fromFile(FFileBytes bytes) {
+    const std::string_view file = bytes.view();
     FTextIndex index(file);
     if (index.isAscii())
-        return FResultText(bytes, file, std::move(index));
+        return FResultText(std::move(bytes), file, std::move(index));
     const int offset = FFileDecoding::plainTextOffset(file);
     if (offset < 0)
-        return FResultText(FFileDecoding::decode(file));
+        return FResultText(std::move(bytes), FFileDecoding::decode(file));
     const std::string_view text = file.substr(static_cast<size_t>(offset));
-    return FResultText(bytes, text, offset == 0 ? std::move(index) : FTextIndex(text));
+    return FResultText(std::move(bytes), text, offset == 0 ? std::move(index) : FTextIndex(text));
 }
 
 FResultText FResultText::fromString(const QString& text) {
     std::vector<char> encoded;
     encoded.reserve(static_cast<size_t>(text.size()));
     FUtf8::append(encoded, text);
-    return FResultText(std::move(encoded));
+    return FResultText(QByteArray(), std::move(encoded));
 }
 
-FResultText::FResultText(const QByteArray& file, std::string_view text, FTextIndex index)
-    : mFile(file), mText(text), mTrimmedSize(FUtf8::trimmedSize(mText)), mIndex(std::move(index)) {}
+FResultText::FResultText(FFileBytes file, std::string_view text, FTextIndex index)
+    : mFile(std::move(file)), mText(text), mTrimmedSize(FUtf8::trimmedSize(mText)), mIndex(std::move(index)) {}
 
-FResultText::FResultText(std::vector<char> decoded)
-    : mDecoded(std::move(decoded)),
+FResultText::FResultText(FFileBytes file, std::vector<char> decoded)
+    : mFile(std::move(file)),
+      mDecoded(std::move(decoded)),
       mText(mDecoded.data(), mDecoded.size()),
       mTrimmedSize(FUtf8::trimmedSize(mText)),
       mIndex(mText) {}

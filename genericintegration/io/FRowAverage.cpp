@@ -1,5 +1,6 @@
 #include "genericintegration/io/FRowAverage.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "genericintegration/io/FColumnCursor.h"
@@ -15,7 +16,7 @@ qint64 rowsBegin(const FResultText& text, quint32 rows) {
     const qint64 counted = startsAnew && lineFeeds > 0 ? rows % lineFeeds : rows;
     if (counted > lineFeeds || (counted == 0 && rows > 0))
         return 0;
-    return counted == 0 ? text.trimmedSize() : text.index().lineStart(lineFeeds - counted + 1) - 1;
+    return counted == 0 ? text.trimmedSize() : std::max<qint64>(text.index().lineStart(lineFeeds - counted + 1), 1) - 1;
 }
 
 }  // namespace

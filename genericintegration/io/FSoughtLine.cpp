@@ -28,8 +28,8 @@ FSoughtLine downward(const FLineWindow& window, qint64 line) {
 qint64 lineFeedBefore(const FResultText& text, qint64 offset) {
     if (text.text()[static_cast<size_t>(offset)] == '\n')
         return offset;
-    const qint64 line = text.index().lineAt(offset);
-    return line > 0 ? text.index().lineStart(line) - 1 : text.size();
+    const qint64 begin = text.index().lineBegin(offset);
+    return begin > 0 ? begin - 1 : text.size();
 }
 
 }  // namespace

@@ -67,6 +67,10 @@ qint64 FTextIndex::lineStart(qint64 line) const {
     return static_cast<qint64>(offset);
 }
 
+qint64 FTextIndex::lineBegin(qint64 offset) const {
+    return std::clamp<qint64>(lineStart(lineAt(offset)), 0, offset);
+}
+
 qint64 FTextIndex::utf16At(qint64 offset) const {
     if (isAscii())
         return offset;

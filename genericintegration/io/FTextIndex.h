@@ -8,7 +8,8 @@
 /// Where the lines of a text begin, and how many UTF-16 units lie before a place. Made in one pass over the text; it
 /// takes some 4 bytes per 1000 of the text, whatever the lines' length. A question costs a search in one small block.
 ///
-/// Line n begins behind the n-th line feed; line 0 at the start of the text. The text must outlive this object.
+/// Line n begins behind the n-th line feed; line 0 at the start of the text. The text must outlive this object. Should
+/// its bytes have changed, answers are wrong, but within the text.
 class FTextIndex {
  public:
     explicit FTextIndex(std::string_view text);
@@ -17,6 +18,9 @@ class FTextIndex {
 
     /// Number of line feeds before an offset from 0 to the size of the text: the line that the offset is in.
     qint64 lineAt(qint64 offset) const;
+
+    /// Where the line begins that an offset is in.
+    qint64 lineBegin(qint64 offset) const;
 
     /// Offset at which a line begins, or -1 beyond the last line feed.
     qint64 lineStart(qint64 line) const;

@@ -67,7 +67,7 @@ char32_t nextNonAscii(std::string_view text, qint64& offset) {
     char32_t c = lead & LeadBits[static_cast<size_t>(length)];
     for (const qint64 end = offset + length; ++offset < end;)
         c = (c << 6) | (byteAt(text, offset) & 0x3F);
-    return c;
+    return c <= QChar::LastValidCodePoint ? c : NoCharacter;
 }
 
 qint64 previous(std::string_view text, qint64 offset) {

@@ -11,7 +11,7 @@
 /// Offsets are of bytes. None of these functions needs more than the text it is given.
 namespace FUtf8 {
 
-/// What next() gives for a byte inside a character.
+/// What next() gives for bytes that are no character.
 constexpr char32_t NoCharacter = 0xFFFFFFFF;
 
 inline bool isContinuation(char byte) {

@@ -2,18 +2,34 @@
 
 #include <cmath>
 
+#include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FSuspicion.h"
+#include "genericintegration/io/FUtf8.h"
 
 FColumn FColumn::missing(qint64 offset, FFoundFlags flags) {
     FColumn column;
-    column.offset = offset;
+    column.range = {offset, offset};
     column.flags = flags;
     return column;
 }
 
-FColumn FColumn::found(const QString& text, qint64 offset, int units, FFoundFlags flags) {
-    FColumn column = missing(offset, flags);
+FColumn FColumn::found(std::string_view text, FByteRange number, FFoundFlags flags) {
+    FColumn column;
+    column.exists = true;
+    column.range = number;
+    column.flags = flags;
+    if (const std::optional<double> value = FNumberPattern::toDouble(number.of(text))) {
+        column.isNumber = true;
+        column.number = *value;
+    } else {
+        column.flags |= FSuspicion::ofColumn(FUtf8::decode(number.of(text)));
+    }
+    return column;
+}
+
+FColumn FColumn::found(const QString& text, qint64 offset, int units) {
+    FColumn column = missing(offset, {});
     column.exists = true;
     column.text = text;
     column.units = units;
@@ -27,16 +43,17 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units, FFoundFlag
 
 FFoundValue FColumn::value(const FResultText& in) const {
     const FTextIndex& index = in.index();
+    const qint64 begin = range.begin;
     FFoundValue value;
-    value.line = index.lineAt(offset) + 1;
+    value.line = index.lineAt(begin) + 1;
     value.flags = flags;
     value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
     value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);
     if (exists) {
         value.number = number;
-        value.text = text;
-        value.column = index.utf16At(offset) - index.utf16At(index.lineBegin(offset)) + units + 1;
-        value.length = text.size();
+        value.text = range.size() > 0 ? FUtf8::decode(range.of(in.text())) : text;
+        value.column = index.utf16At(begin) - index.utf16At(index.lineBegin(begin)) + units + 1;
+        value.length = value.text.size();
     }
     return value;
 }

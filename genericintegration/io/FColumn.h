@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
 
 class FResultText;
@@ -9,17 +10,20 @@ class FResultText;
 /// A column of a line, or that it is missing.
 struct FColumn {
     bool exists = false;
-    QString text{};
     bool isNumber = false;
     double number = std::numeric_limits<double>::quiet_NaN();
-    qint64 offset = 0;    ///< in the whole text, in bytes: the column's begin, or a place before it in the line
-    int units = 0;        ///< UTF-16 units from there to the column's begin
+    FByteRange range{};   ///< in the whole text: the column, if it was found as a number; else a place before it
+    QString text{};       ///< of a column that wasn't found as a number
+    int units = 0;        ///< UTF-16 units from the range's begin to the column's
     FFoundFlags flags{};  ///< the suspicious ones
 
     static FColumn missing(qint64 offset, FFoundFlags flags);
 
-    /// The text is read as a number.
-    static FColumn found(const QString& text, qint64 offset, int units, FFoundFlags flags);
+    /// A number; its text isn't decoded before it is needed.
+    static FColumn found(std::string_view text, FByteRange number, FFoundFlags flags);
+
+    /// The text between separators, which is read as a number.
+    static FColumn found(const QString& text, qint64 offset, int units);
 
     /// The column as what was found in a text, with its place there.
     FFoundValue value(const FResultText& in) const;

@@ -27,7 +27,7 @@ FColumn FColumnCursor::seekNumber(int column) {
     if (mPassed <= column)
         return FColumn::missing(mLine.begin, mFlags);
     const FFoundFlags flags = mFlags | FSuspicion::ofNumber(mText, mNumber);
-    return FColumn::found(FUtf8::decode(mNumber.of(mText)), mNumber.begin, 0, flags);
+    return FColumn::found(mText, mNumber, flags);
 }
 
 void FColumnCursor::passNumber() {
@@ -48,5 +48,5 @@ FColumn FColumnCursor::seekSeparated(int column) {
         return FColumn::missing(mLine.begin, {});
     const int begin = mWalk->start();
     const int end = mWalk->next();
-    return FColumn::found(mDecoded.mid(begin, end < 0 ? -1 : end - begin), mLine.begin, begin, {});
+    return FColumn::found(mDecoded.mid(begin, end < 0 ? -1 : end - begin), mLine.begin, begin);
 }

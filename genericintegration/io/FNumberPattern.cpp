@@ -2,6 +2,9 @@
 
 #include <QRegExp>
 
+#include <charconv>
+#include <cmath>
+
 #include "genericintegration/io/FUtf8.h"
 
 namespace FNumberPattern {
@@ -79,6 +82,18 @@ FByteRange next(std::string_view line, qint64 offset) {
             return {offset, end};
     }
     return {-1, -1};
+}
+
+// Both ways round correctly. Only a QString's own reading tells whether what is tiny counts as out of range.
+std::optional<double> toDouble(std::string_view number) {
+    const char* const end = number.data() + number.size();
+    double value = 0;
+    const auto [behind, error] = std::from_chars(number.data() + (number.front() == '+' ? 1 : 0), end, value);
+    if (error == std::errc() && behind == end && std::isnormal(value))
+        return value;
+    bool isNumber = false;
+    value = FUtf8::decode(number).toDouble(&isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
 }
 
 }  // namespace FNumberPattern

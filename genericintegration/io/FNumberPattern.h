@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <optional>
 #include <string_view>
 
 #include "genericintegration/io/FByteRange.h"
@@ -18,5 +19,9 @@ const QRegExp& pattern();
 /// The same as the pattern's first match in a line, from an offset on, but without decoding the line; it begins at -1
 /// for none.
 FByteRange next(std::string_view line, qint64 offset);
+
+/// A match of the pattern as a double, as QString reads it: nothing for one out of range or with digits that aren't
+/// ASCII.
+std::optional<double> toDouble(std::string_view number);
 
 }  // namespace FNumberPattern

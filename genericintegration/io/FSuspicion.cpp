@@ -104,6 +104,12 @@ bool isNanOrInf(std::string_view word) {
 }  // namespace
 
 FFoundFlags ofNumber(std::string_view text, FByteRange number) {
+    const auto isBlank = [text](qint64 offset) {
+        return offset < 0 || offset >= static_cast<qint64>(text.size()) || text[static_cast<size_t>(offset)] == ' ' ||
+               text[static_cast<size_t>(offset)] == '\n';
+    };
+    if (isBlank(number.begin - 1) && isBlank(number.end))
+        return {};
     return FSurroundings(text, number).flags();
 }
 

@@ -8,7 +8,7 @@
 
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FRowAverage.h"
+#include "genericintegration/io/FRowAverages.h"
 #include "genericintegration/io/FSoughtLine.h"
 
 namespace {
@@ -42,9 +42,10 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
     found.values.resize(mValues.size());
     const std::vector<FAnchorPlaces> places = mAnchors.findInTrimmed(text);
     std::vector<Reading> readings;
+    FRowAverages averages(text, separator());
     for (size_t i = 0; i < mValues.size(); ++i) {
         if (mValues[i].average) {
-            found.values[i] = averageLastRows(text, separator(), mValues[i].column, mValues[i].averageRows);
+            averages.add(i, mValues[i].column, mValues[i].averageRows);
             continue;
         }
         const FSoughtLine sought = seekLine(text, mValues[i], places[i]);
@@ -53,6 +54,7 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
             readings.push_back({i, *sought.range});
     }
     read(text, readings, found.values);
+    averages.read(found.values);
     found.order = order(text, places);
     return found;
 }

@@ -22,7 +22,7 @@ struct FFoundValues {
 /// Finds all values of a result template in the text of an output file.
 ///
 /// The text is searched once for all anchors together. A value then costs its line; values in the same line cost it
-/// once; an average costs its rows. An object can be used for any number of texts.
+/// once; a row of several averages costs once. An object can be used for any number of texts.
 class FValueSearch {
  public:
     FValueSearch(std::vector<FValueDescription> values, const FSeparatorSettings& separators);

@@ -1,0 +1,74 @@
+#include "genericintegration/io/FRowAverages.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "genericintegration/io/FColumnCursor.h"
+#include "genericintegration/io/FLineWindow.h"
+#include "genericintegration/io/FResultText.h"
+
+namespace {
+
+// A line feed at the very begin leaves no place before it, and the place after that is the text's end.
+qint64 rowsBegin(const FResultText& text, quint32 rows) {
+    if (text.trimmedSize() == 0)
+        return 0;
+    const qint64 lineFeeds = text.index().lineAt(text.trimmedSize());
+    const bool startsAnew = text.text().front() == '\n';
+    const qint64 counted = startsAnew && lineFeeds > 0 ? rows % lineFeeds : rows;
+    if (counted > lineFeeds || (counted == 0 && rows > 0))
+        return 0;
+    return counted == 0 ? text.trimmedSize() : std::max<qint64>(text.index().lineStart(lineFeeds - counted + 1), 1) - 1;
+}
+
+}  // namespace
+
+void FRowAverages::add(size_t value, int column, quint32 rows) {
+    mAverages.push_back({value, column, rows, rowsBegin(mText, rows)});
+}
+
+void FRowAverages::read(std::vector<FFoundValue>& found) {
+    std::sort(mAverages.begin(), mAverages.end(),
+              [](const Average& left, const Average& right) { return left.column < right.column; });
+    readRows();
+    for (const Average& average : mAverages)
+        found[average.value] = result(average);
+}
+
+// Each average begins with a line, or at the line feed before it, so that the lines are the same for all.
+void FRowAverages::readRows() {
+    const qint64 size = mText.trimmedSize();
+    qint64 offset = size;
+    for (const Average& average : mAverages)
+        offset = std::min(offset, average.begin);
+    const FLineWindow window(mText, {offset, size});
+    while (offset < size) {
+        const FByteRange line = window.lineFrom(offset);
+        if (line.size() == 0)
+            continue;
+        FColumnCursor cursor(mText.text(), line, mSeparator);
+        for (Average& average : mAverages) {
+            if (average.begin <= line.begin)
+                addRow(average, cursor.seek(average.column));
+        }
+    }
+}
+
+void FRowAverages::addRow(Average& average, const FColumn& column) {
+    average.last = column;
+    average.flags |= column.flags;
+    if (column.isNumber) {
+        average.sum += column.number;
+        ++average.count;
+    }
+}
+
+FFoundValue FRowAverages::result(const Average& average) const {
+    FFoundValue value = average.begin < mText.trimmedSize() ? average.last.value(mText) : FFoundValue();
+    const double mean = average.sum / average.count;
+    value.number = std::isnan(mean) ? std::numeric_limits<double>::quiet_NaN() : mean;
+    value.flags = average.flags;
+    value.flags.setFlag(FFoundFlag::ColumnMissing, average.count == 0);
+    value.flags.setFlag(FFoundFlag::FewerRows, average.count < average.rows);
+    return value;
+}

@@ -2,6 +2,8 @@
 
 #include <QRegExp>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -10,12 +12,19 @@
 namespace FNumberPattern {
 namespace {
 
+/// By byte, whether a number may begin with it.
+constexpr std::array<bool, 256> Beginnings = [] {
+    std::array<bool, 256> beginnings{};
+    for (const char c : std::string_view("0123456789.+-"))
+        beginnings[static_cast<unsigned char>(c)] = true;
+    std::fill(beginnings.begin() + 0x80, beginnings.end(), true);
+    return beginnings;
+}();
+
 /// Reads a number in a line.
 class FNumberScan {
  public:
     explicit FNumberScan(std::string_view line) : mLine(line) {}
-
-    bool mayBeginWith(char c) const { return isDigit(c) || c == '.' || c == '-' || c == '+' || !FUtf8::isAscii(c); }
 
     /// End of the number that begins at an offset; the offset for none.
     qint64 numberEnd(qint64 begin) const {
@@ -75,7 +84,7 @@ const QRegExp& pattern() {
 FByteRange next(std::string_view line, qint64 offset) {
     const FNumberScan scan(line);
     for (; offset < static_cast<qint64>(line.size()); ++offset) {
-        if (!scan.mayBeginWith(line[static_cast<size_t>(offset)]))
+        if (!Beginnings[static_cast<unsigned char>(line[static_cast<size_t>(offset)])])
             continue;
         const qint64 end = scan.numberEnd(offset);
         if (end > offset)

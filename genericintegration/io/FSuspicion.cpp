@@ -1,6 +1,7 @@
 #include "genericintegration/io/FSuspicion.h"
 
 #include <algorithm>
+#include <array>
 
 #include "genericintegration/io/FNumberPattern.h"
 
@@ -16,11 +17,25 @@ bool isDigit(char c) {
 bool isSign(char c) {
     return c == '+' || c == '-';
 }
-char lower(char c) {
+constexpr char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
 }
-bool isLetter(char c) {
+constexpr bool isLetter(char c) {
     return (lower(c) >= 'a' && lower(c) <= 'z') || c == '_';
+}
+
+enum class Kind : unsigned char { Other, Letter, Star };
+
+constexpr std::array<Kind, 256> Kinds = [] {
+    std::array<Kind, 256> kinds{};
+    for (size_t byte = 0; byte < 0x80; ++byte)
+        kinds[byte] = isLetter(static_cast<char>(byte)) ? Kind::Letter : Kind::Other;
+    kinds['*'] = Kind::Star;
+    return kinds;
+}();
+
+Kind kindOf(char c) {
+    return Kinds[static_cast<unsigned char>(c)];
 }
 
 /// The neighbourhood of a number.
@@ -115,13 +130,17 @@ FFoundFlags ofNumber(std::string_view text, FByteRange number) {
 
 FFoundFlags ofText(std::string_view text) {
     FFoundFlags flags;
-    flags.setFlag(FFoundFlag::Stars, text.find("**") != std::string_view::npos);
-    const auto inWord = [](char c) { return isLetter(c) || isDigit(c); };
-    for (auto begin = text.begin(); begin != text.end();) {
-        begin = std::find_if(begin, text.end(), isLetter);
-        const auto end = std::find_if_not(begin, text.end(), inWord);
-        if (isNanOrInf(std::string_view(begin, end)))
-            flags |= FFoundFlag::NanOrInf;
+    for (size_t begin = 0; begin < text.size();) {
+        size_t end = begin + 1;
+        const Kind kind = kindOf(text[begin]);
+        if (kind == Kind::Star && end < text.size() && text[end] == '*') {
+            flags |= FFoundFlag::Stars;
+        } else if (kind == Kind::Letter) {
+            while (end < text.size() && (kindOf(text[end]) == Kind::Letter || isDigit(text[end])))
+                ++end;
+            if (isNanOrInf(text.substr(begin, end - begin)))
+                flags |= FFoundFlag::NanOrInf;
+        }
         begin = end;
     }
     return flags;

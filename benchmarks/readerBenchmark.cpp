@@ -1,25 +1,30 @@
-// Reads values from the output of a program. Beside it: a pass that only finds every line end, which no reader can
-// beat, and a search anew for each value, on a text small enough that it ends.
+// Reads values from the output of a program: of a text in memory, of one file, of many. Beside it, with the same work
+// around it: a pass that only finds every line end (bare), which no reader can beat, and a search anew for each value
+// (naive), where the text is small enough that it ends. A half of the values' anchors means the last occurrence; some
+// values stand above their anchor, some are averages.
 
 #include <benchmark/benchmark.h>
 
 #include <QByteArray>
+#include <QFile>
 #include <QString>
-#include <QTextStream>
+#include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstring>
+#include <map>
+#include <memory>
 #include <random>
 #include <vector>
 
-#include "genericintegration/io/FAnchor.h"
-#include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
-#include "genericintegration/io/findValue.h"
+#include "tests/genericintegration/io/FLiteralReader.h"
 
 namespace {
 
 constexpr int AnchorCount = 600;
+constexpr int FileCount = 1000;
 
 QByteArray anchorText(int number) {
     static const char* const quantities[] = {"Total force on part", "Heat flux through wall", "Max. stress in beam",
@@ -27,9 +32,9 @@ QByteArray anchorText(int number) {
     return QByteArray(quantities[number % 4]) + " " + QByteArray::number(number) + " ";
 }
 
-/// Some lines of a solver's history, with a line of results here and there.
-QByteArray makeText(qint64 size) {
-    std::mt19937 random(1);
+/// Some lines of a solver's history, with a line of results here and there. The unit stands in each line.
+QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
+    std::mt19937 random(seed);
     QByteArray text;
     text.reserve(static_cast<int>(size) + 200);
     char line[160];
@@ -38,13 +43,13 @@ QByteArray makeText(qint64 size) {
         if (iteration % 199 == 0)
             text += "\n  *** " + anchorText(static_cast<int>(random() % AnchorCount)).toUpper() + "= 12.5 N\n";
         text.append(line,
-                    std::snprintf(line, sizeof line, "  ITER %9d   residual  %14.6e   force %12.5f  stress %9.3f\n",
-                                  iteration, residual, 100 * residual, 3.5 + residual));
+                    std::snprintf(line, sizeof line, "  ITER %9d   residual  %14.6e   force %12.5f %s  stress %9.3f\n",
+                                  iteration, residual, 100 * residual, unit, 3.5 + residual));
     }
     return text;
 }
 
-std::vector<FValueDescription> makeValues(int count) {
+std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorCount) {
     std::vector<FValueDescription> values(static_cast<size_t>(count));
     for (int i = 0; i < count; ++i) {
         FValueDescription& value = values[static_cast<size_t>(i)];
@@ -52,7 +57,7 @@ std::vector<FValueDescription> makeValues(int count) {
         value.line = i % 9 == 0 ? -1 - i % 4 : i % 3;
         value.column = i % 4;
         if (i % 10 < 6)
-            value.anchor.text = QString::fromLatin1(anchorText(i * AnchorCount / count));
+            value.anchor.text = QString::fromLatin1(anchorText(static_cast<int>(i * anchors / count)));
         value.anchor.occurrence = i % 2 == 0 ? FAnchorOccurrence::First : FAnchorOccurrence::Last;
         value.average = i % 50 == 7;
         value.averageRows = 100;
@@ -60,80 +65,196 @@ std::vector<FValueDescription> makeValues(int count) {
     return values;
 }
 
-const QByteArray& textOf(const benchmark::State& state) {
-    static QByteArray text;
-    static qint64 kilobytes = 0;
-    if (kilobytes != state.range(1)) {
-        kilobytes = state.range(1);
+/// Texts and files are made when they are first wished, and kept.
+const QByteArray& textOf(qint64 kilobytes) {
+    static std::map<qint64, QByteArray> texts;
+    QByteArray& text = texts[kilobytes];
+    if (text.isEmpty())
         text = makeText(kilobytes * 1000);
-    }
     return text;
 }
 
-void read(benchmark::State& state) {
-    const QByteArray& bytes = textOf(state);
-    const FValueSearch search(makeValues(static_cast<int>(state.range(0))), {});
+QString writeFile(const QString& name, const QByteArray& bytes) {
+    static const QTemporaryDir folder;
+    QFile file(folder.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
+    return file.fileName();
+}
+
+QString fileOf(qint64 kilobytes) {
+    static std::map<qint64, QString> files;
+    QString& file = files[kilobytes];
+    if (file.isEmpty())
+        file = writeFile(QString("of %1 KB").arg(kilobytes), textOf(kilobytes));
+    return file;
+}
+
+const QStringList& manyFiles() {
+    static const QStringList files = [] {
+        QStringList names;
+        for (int i = 0; i < FileCount; ++i)
+            names += writeFile(QString("number %1").arg(i), makeText(50'000, "N", static_cast<quint32>(i)));
+        return names;
+    }();
+    return files;
+}
+
+FFileBytes open(const QString& name) {
+    auto file = std::make_unique<QFile>(name);
+    file->open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    return FFileBytes(std::move(file));
+}
+
+qint64 countLineEnds(std::string_view text) {
+    qint64 lines = 0;
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != nullptr && at < end; ++lines) {
+        const void* const lineFeed = std::memchr(at, '\n', static_cast<size_t>(end - at));
+        at = lineFeed != nullptr ? static_cast<const char*>(lineFeed) + 1 : nullptr;
+    }
+    return lines;
+}
+
+void readNaively(const QByteArray& bytes, const std::vector<FValueDescription>& values) {
+    const QString content = FLiteralReader::decode(bytes);
+    for (const FValueDescription& value : values)
+        benchmark::DoNotOptimize(FLiteralReader::find(content, value, {}).number);
+}
+
+void setBytes(benchmark::State& state, qint64 bytes) {
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes);
+}
+
+void memoryBare(benchmark::State& state) {
+    const QByteArray& text = textOf(state.range(0));
     for (auto _ : state)
-        benchmark::DoNotOptimize(search.find(FResultText::fromFile(bytes)));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes.size());
+        benchmark::DoNotOptimize(countLineEnds({text.constData(), static_cast<size_t>(text.size())}));
+    setBytes(state, text.size());
 }
 
-void findLineEnds(benchmark::State& state) {
-    const QByteArray& bytes = textOf(state);
-    const char* const end = bytes.constData() + bytes.size();
+void read(benchmark::State& state, const QByteArray& text, const std::vector<FValueDescription>& values) {
+    const FValueSearch search(values, {});
+    for (auto _ : state)
+        benchmark::DoNotOptimize(search.find(FResultText::fromFile(text)));
+    setBytes(state, text.size());
+}
+
+void memoryRead(benchmark::State& state) {
+    read(state, textOf(state.range(1)), makeValues(state.range(0)));
+}
+
+void memoryNaive(benchmark::State& state) {
+    const QByteArray& text = textOf(state.range(1));
+    const std::vector<FValueDescription> values = makeValues(state.range(0));
+    for (auto _ : state)
+        readNaively(text, values);
+    setBytes(state, text.size());
+}
+
+void anchorsRead(benchmark::State& state) {
+    read(state, textOf(state.range(1)), makeValues(1000, state.range(0)));
+}
+
+/// A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either.
+void nonAsciiRead(benchmark::State& state) {
+    read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
+}
+void latin1Read(benchmark::State& state) {
+    read(state, makeText(state.range(1) * 1000, "\xB5N"), makeValues(state.range(0)));
+}
+
+void fileBare(benchmark::State& state) {
+    const QString file = fileOf(state.range(0));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(countLineEnds(open(file).view()));
+    setBytes(state, textOf(state.range(0)).size());
+}
+
+void fileRead(benchmark::State& state) {
+    const QString file = fileOf(state.range(1));
+    const FValueSearch search(makeValues(state.range(0)), {});
+    for (auto _ : state)
+        benchmark::DoNotOptimize(search.find(FResultText::fromFile(open(file))));
+    setBytes(state, textOf(state.range(1)).size());
+}
+
+void filesBare(benchmark::State& state) {
+    const QStringList& files = manyFiles();
     for (auto _ : state) {
-        qint64 lines = 0;
-        for (const char* at = bytes.constData(); at != nullptr && at < end; ++lines) {
-            const void* const lineFeed = std::memchr(at, '\n', static_cast<size_t>(end - at));
-            at = lineFeed != nullptr ? static_cast<const char*>(lineFeed) + 1 : nullptr;
+        for (const QString& file : files)
+            benchmark::DoNotOptimize(countLineEnds(open(file).view()));
+    }
+}
+
+/// As a study reads: the values are the same for all files, and each file is prepared for anew.
+void filesRead(benchmark::State& state) {
+    const std::vector<FValueDescription> values = makeValues(state.range(0));
+    const QStringList& files = manyFiles();
+    for (auto _ : state) {
+        for (const QString& file : files)
+            benchmark::DoNotOptimize(FValueSearch(values, {}).find(FResultText::fromFile(open(file))));
+    }
+}
+
+void filesNaive(benchmark::State& state) {
+    const std::vector<FValueDescription> values = makeValues(state.range(0));
+    const QStringList& files = manyFiles();
+    for (auto _ : state) {
+        for (const QString& name : files) {
+            QFile file(name);
+            file.open(QIODevice::ReadOnly);
+            readNaively(file.readAll(), values);
         }
-        benchmark::DoNotOptimize(lines);
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes.size());
-}
-
-double readAnew(const QString& content, const FValueDescription& value) {
-    QString text = content;
-    const int position = getAnchorPosition(value.anchor, content);
-    if (position >= 0 && value.line < 0)
-        text = content.left(content.lastIndexOf('\n', position));
-    else if (position >= 0)
-        text = content.mid(position + value.anchor.text.size());
-    QTextStream stream(&text);
-    QStringList lines;
-    while (!stream.atEnd() && (value.line < 0 || lines.size() <= value.line))
-        lines += stream.readLine();
-    const QString line = lines.value(value.line < 0 ? lines.size() + value.line : value.line);
-    int start = 0;
-    int length = 0;
-    QRegExp separator;
-    findValue(start, length, separator, value.line, {}, line, value.column, true);
-    return line.mid(start, length).toDouble();
-}
-
-void readEachAnew(benchmark::State& state) {
-    const QByteArray& bytes = textOf(state);
-    const std::vector<FValueDescription> values = makeValues(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        const QString content = QString::fromUtf8(bytes);
-        for (const FValueDescription& value : values)
-            benchmark::DoNotOptimize(readAnew(content, value));
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes.size());
 }
 
 void prepare(benchmark::State& state) {
+    const std::vector<FValueDescription> values = makeValues(state.range(0));
     for (auto _ : state)
-        benchmark::DoNotOptimize(FValueSearch(makeValues(static_cast<int>(state.range(0))), {}));
+        benchmark::DoNotOptimize(FValueSearch(values, {}));
 }
+
+using benchmark::kMicrosecond;
+using benchmark::kMillisecond;
 
 }  // namespace
 
-BENCHMARK(findLineEnds)->ArgNames({"", "KB"})->Args({0, 100000})->Args({0, 5000})->Args({0, 50});
-BENCHMARK(read)->ArgNames({"values", "KB"})->Args({1000, 100000})->Args({50, 5000})->Args({400, 5000})->Args({10, 50});
-BENCHMARK(readEachAnew)
+BENCHMARK(memoryBare)->Name("memory.bare")->ArgName("KB")->Arg(50)->Arg(1000)->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(memoryRead)
+    ->Name("memory.read")
     ->ArgNames({"values", "KB"})
-    ->Args({1000, 1000})
-    ->Args({50, 5000})
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(prepare)->ArgName("values")->Arg(10)->Arg(50)->Arg(1000);
+    ->Args({10, 50})
+    ->ArgsProduct({{10, 50, 100, 200, 400, 1000}, {5000}})
+    ->Unit(kMicrosecond);
+BENCHMARK(memoryNaive)
+    ->Name("memory.naive")
+    ->ArgNames({"values", "KB"})
+    ->Args({10, 50})
+    ->Args({10, 5000})
+    ->Unit(kMicrosecond)
+    ->Iterations(1);
+
+BENCHMARK(memoryBare)->Name("anchors.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(anchorsRead)
+    ->Name("anchors.read")
+    ->ArgNames({"anchors", "KB"})
+    ->ArgsProduct({{1, 10, 100, 300, 600}, {5000}})
+    ->Unit(kMicrosecond);
+
+BENCHMARK(memoryBare)->Name("nonAscii.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(nonAsciiRead)->Name("nonAscii.read")->ArgNames({"values", "KB"})->Args({50, 5000})->Unit(kMicrosecond);
+BENCHMARK(latin1Read)->Name("nonAscii.latin1")->ArgNames({"values", "KB"})->Args({50, 5000})->Unit(kMicrosecond);
+
+BENCHMARK(fileBare)->Name("file.bare")->ArgName("KB")->RangeMultiplier(10)->Range(10, 100'000)->Unit(kMillisecond);
+BENCHMARK(fileRead)
+    ->Name("file.read")
+    ->ArgNames({"values", "KB"})
+    ->ArgsProduct({{100, 1000}, {10, 100, 1000, 10'000, 100'000}})
+    ->Unit(kMillisecond);
+
+BENCHMARK(filesBare)->Name("files.bare")->Unit(kMillisecond);
+BENCHMARK(filesRead)->Name("files.read")->ArgName("values")->Arg(1)->Arg(10)->Arg(50)->Unit(kMillisecond);
+BENCHMARK(filesNaive)->Name("files.naive")->ArgName("values")->Arg(1)->Unit(kMillisecond)->Iterations(1);
+
+BENCHMARK(prepare)->Name("prepare.read")->ArgName("values")->Arg(1)->Arg(10)->Arg(100)->Arg(1000)->Unit(kMicrosecond);

@@ -3,10 +3,15 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
+#include <bit>
 
 namespace {
 
-constexpr int HashBits = 18;
+// Enough bits that hardly a probe meets one by chance, but no more than stay close to the processor.
+constexpr size_t BitsOfPiece = 256;
+constexpr int LeastHashBits = 10;
+constexpr int MostHashBits = 18;
 
 constexpr qint64 LongestCharacter = 4;
 
@@ -19,8 +24,8 @@ quint64 folded(quint64 probe) {
     return probe | 0x2020202020202020;
 }
 
-quint64 hashOf(quint64 piece) {
-    return (piece * 0x9E3779B97F4A7C15) >> (64 - HashBits);
+quint64 hashOf(quint64 piece, int bits) {
+    return (piece * 0x9E3779B97F4A7C15) >> (64 - bits);
 }
 
 quint64 pieceOf(std::u32string_view characters) {
@@ -31,49 +36,55 @@ quint64 pieceOf(std::u32string_view characters) {
 }
 
 // How seldom a character is in what programs print.
-int rarity(char32_t c) {
-    if (c <= U' ')
-        return 0;
-    if (c < U'a' || c > U'z')
-        return 1;
-    return std::u32string_view(U"aeinorst").find(c) == std::u32string_view::npos ? 3 : 2;
-}
-
-// A character that comes again adds nothing, so rulers and blanks are avoided.
-int rarity(std::u32string_view piece) {
-    int sum = 0;
-    for (size_t i = 0; i < piece.size(); ++i)
-        sum += piece.substr(0, i).find(piece[i]) == std::u32string_view::npos ? rarity(piece[i]) : 0;
-    return sum;
-}
+constexpr std::array<int, 128> Rarities = [] {
+    std::array<int, 128> rarities{};
+    for (size_t c = 0; c < rarities.size(); ++c)
+        rarities[c] = c <= ' ' ? 0 : c < 'a' || c > 'z' ? 1 : 3;
+    for (const char c : std::string_view("aeinorst"))
+        rarities[static_cast<size_t>(c)] = 2;
+    return rarities;
+}();
 
 bool isAscii(char32_t c) {
     return c < 0x80;
 }
 
-// Of as many pieces side by side as a step has bytes, one is probed: the most common one counts.
-int rarity(std::u32string_view region, size_t width) {
-    int least = rarity(region.substr(0, width));
-    for (size_t begin = 1; begin + width <= region.size(); ++begin)
-        least = std::min(least, rarity(region.substr(begin, width)));
-    return least;
+// A character that comes again adds nothing, so rulers and blanks are avoided. Nothing is below the rarest of all.
+int rarity(std::u32string_view piece) {
+    std::array<quint64, 2> seen{};
+    int sum = 0;
+    for (const char32_t c : piece) {
+        if (!isAscii(c))
+            return -1;
+        const quint64 bit = quint64(1) << (c % 64);
+        sum += (seen[c / 64] & bit) == 0 ? Rarities[c] : 0;
+        seen[c / 64] |= bit;
+    }
+    return sum;
 }
 
-/// The best part of a word for pieces, of a given length.
-size_t findRegion(std::u32string_view word, size_t length, size_t width) {
+/// The best part of a word for a number of pieces that begin side by side; the word's size if none is ASCII.
+///
+/// One of the pieces is met, nobody knows which: the most common one counts.
+size_t findRegion(std::u32string_view word, size_t pieces, size_t width) {
+    std::vector<int> rarities;
     size_t best = word.size();
     int rarest = -1;
-    for (size_t begin = 0; begin + length <= word.size() && (begin < LongestReach || rarest < 0); ++begin) {
-        const std::u32string_view region = word.substr(begin, length);
-        if (!std::all_of(region.begin(), region.end(), isAscii))
+    for (size_t begin = 0; begin + width <= word.size() && (begin < LongestReach + pieces || rarest < 0); ++begin) {
+        rarities.push_back(rarity(word.substr(begin, width)));
+        if (rarities.size() < pieces)
             continue;
-        const int least = rarity(region, width);
+        const int least = *std::min_element(rarities.end() - static_cast<std::ptrdiff_t>(pieces), rarities.end());
         if (least > rarest) {
             rarest = least;
-            best = begin;
+            best = begin + 1 - pieces;
         }
     }
     return best;
+}
+
+int bitsFor(size_t count) {
+    return std::bit_width(count - 1);
 }
 
 }  // namespace
@@ -88,47 +99,83 @@ qint64 FAnchorFilter::asciiRun(std::u32string_view word) {
     return longest;
 }
 
-FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) : mHashes((size_t(1) << HashBits) / 64) {
+FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) {
     qint64 shortest = 2 * ProbeSize - 1;
     for (const std::u32string& word : words)
         shortest = std::min(shortest, asciiRun(word));
     // Long pieces are met less often by chance, short ones allow longer steps.
     mWidth = std::max(std::min(shortest, PieceSize), shortest / 2 + 1);
     mStep = shortest - mWidth + 1;
+    const size_t pieces = std::max<size_t>(words.size() * static_cast<size_t>(mStep), 1);
+    mSlotBits = bitsFor(2 * pieces);
+    mSlots.resize(size_t(1) << mSlotBits);
+    mHashBits = std::clamp(bitsFor(BitsOfPiece * pieces), LeastHashBits, MostHashBits);
+    mHashes.resize((size_t(1) << mHashBits) / 64);
     for (const std::u32string& word : words)
         add(word);
-    std::sort(mPieces.begin(), mPieces.end());
-    mPieces.erase(std::unique(mPieces.begin(), mPieces.end()), mPieces.end());
 }
 
 void FAnchorFilter::add(std::u32string_view word) {
     const size_t width = static_cast<size_t>(mWidth);
     const size_t step = static_cast<size_t>(mStep);
-    const size_t region = findRegion(word, width + step - 1, width);
-    for (size_t begin = region; begin < region + step; ++begin) {
-        const quint64 piece = pieceOf(word.substr(begin, width));
-        const quint64 hash = hashOf(piece);
-        mHashes[hash / 64] |= quint64(1) << (hash % 64);
-        mPieces.push_back(piece);
-    }
+    const size_t region = findRegion(word, step, width);
+    for (size_t begin = region; begin < region + step; ++begin)
+        addPiece(pieceOf(word.substr(begin, width)));
     qint64 reach = mStep - 1;
     for (const char32_t c : word.substr(0, region))
         reach += isAscii(c) ? 1 : LongestCharacter;
     mReach = std::max(mReach, reach);
 }
 
+void FAnchorFilter::addPiece(quint64 piece) {
+    const quint64 bit = hashOf(piece, mHashBits);
+    mHashes[bit / 64] |= quint64(1) << (bit % 64);
+    size_t slot = hashOf(piece, mSlotBits);
+    while (mSlots[slot] != 0 && mSlots[slot] != piece)
+        slot = (slot + 1) & (mSlots.size() - 1);
+    mSlots[slot] = piece;
+}
+
+bool FAnchorFilter::isPiece(quint64 piece) const {
+    size_t slot = hashOf(piece, mSlotBits);
+    while (mSlots[slot] != 0 && mSlots[slot] != piece)
+        slot = (slot + 1) & (mSlots.size() - 1);
+    return mSlots[slot] == piece;
+}
+
 qint64 FAnchorFilter::next(std::string_view text, qint64 offset, bool alsoNonAscii) const {
-    const quint64 stopper = alsoNonAscii ? 0x8080808080808080 : 0;
+    return alsoNonAscii ? nextProbe<true>(text, offset) : nextProbe<false>(text, offset);
+}
+
+// Several probes at once cost a branch but once.
+template <bool AlsoNonAscii>
+qint64 FAnchorFilter::nextProbe(std::string_view text, qint64 offset) const {
+    constexpr quint64 stopper = AlsoNonAscii ? 0x8080808080808080 : 0;
     const quint64 mask = ~quint64(0) >> (8 * (ProbeSize - mWidth));
-    const quint64* const hashes = mHashes.data();
     const qint64 step = mStep;
-    for (const qint64 end = static_cast<qint64>(text.size()) - ProbeSize; offset <= end; offset += step) {
-        const quint64 probe = qFromLittleEndian<quint64>(text.data() + offset);
-        if ((probe & stopper) != 0)
-            return offset;
-        const quint64 piece = folded(probe) & mask;
-        const quint64 hash = hashOf(piece);
-        if ((hashes[hash / 64] >> (hash % 64) & 1) != 0 && std::binary_search(mPieces.begin(), mPieces.end(), piece))
+    const int hashBits = mHashBits;
+    const quint64* const hashes = mHashes.data();
+    const auto probeAt = [text](qint64 place) { return qFromLittleEndian<quint64>(text.data() + place); };
+    const auto suspect = [=](qint64 place) {
+        const quint64 probe = probeAt(place);
+        const quint64 hash = hashOf(folded(probe) & mask, hashBits);
+        return (hashes[hash / 64] >> (hash % 64) & 1) | (probe & stopper);
+    };
+    const auto meets = [this, mask, probeAt](qint64 place) {
+        const quint64 probe = probeAt(place);
+        return (probe & stopper) != 0 || isPiece(folded(probe) & mask);
+    };
+    const qint64 end = static_cast<qint64>(text.size()) - ProbeSize;
+    for (; offset + 3 * step <= end; offset += 4 * step) {
+        if ((suspect(offset) | suspect(offset + step) | suspect(offset + 2 * step) | suspect(offset + 3 * step)) == 0)
+            continue;
+        for (qint64 place = offset; place <= offset + 3 * step; place += step) {
+            if (meets(place))
+                return place;
+        }
+    }
+    for (; offset <= end; offset += step) {
+        if (meets(offset))
             return offset;
     }
     return -1;

@@ -34,10 +34,16 @@ class FAnchorFilter {
 
  private:
     void add(std::u32string_view word);
+    void addPiece(quint64 piece);
+    template <bool AlsoNonAscii>
+    qint64 nextProbe(std::string_view text, qint64 offset) const;
+    bool isPiece(quint64 piece) const;
 
     qint64 mWidth;  ///< characters of a piece
     qint64 mStep;   ///< from one probe to the next
     qint64 mReach = 0;
+    int mHashBits;
     std::vector<quint64> mHashes;  ///< a bit for each hash, set for those of the pieces
-    std::vector<quint64> mPieces;  ///< sorted
+    int mSlotBits;
+    std::vector<quint64> mSlots;  ///< each piece at its hash or right behind, at most half of them; 0 for none
 };

@@ -8,12 +8,13 @@
 
 namespace {
 
-// Enough bits that hardly a probe meets one by chance, but no more than stay close to the processor.
-constexpr size_t BitsOfPiece = 256;
-constexpr int LeastHashBits = 10;
-constexpr int MostHashBits = 18;
+// Enough that hardly a probe meets one by chance, but no more than stay close to the processor.
+constexpr int HashBits = 18;
 
 constexpr qint64 LongestCharacter = 4;
+
+// Longer steps make fewer probes, but more pieces for each word.
+constexpr qint64 LongestStep = 16;
 
 // If it can be helped, no piece is taken from further back in a word: from its begin to the piece, nothing can be
 // passed over.
@@ -24,8 +25,8 @@ quint64 folded(quint64 probe) {
     return probe | 0x2020202020202020;
 }
 
-quint64 hashOf(quint64 piece, int bits) {
-    return (piece * 0x9E3779B97F4A7C15) >> (64 - bits);
+size_t hashOf(quint64 piece) {
+    return (piece * 0x9E3779B97F4A7C15) >> (64 - HashBits);
 }
 
 quint64 pieceOf(std::u32string_view characters) {
@@ -83,10 +84,6 @@ size_t findRegion(std::u32string_view word, size_t pieces, size_t width) {
     return best;
 }
 
-int bitsFor(size_t count) {
-    return std::bit_width(count - 1);
-}
-
 }  // namespace
 
 qint64 FAnchorFilter::asciiRun(std::u32string_view word) {
@@ -100,17 +97,15 @@ qint64 FAnchorFilter::asciiRun(std::u32string_view word) {
 }
 
 FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) {
-    qint64 shortest = 2 * ProbeSize - 1;
+    qint64 shortest = ProbeSize + LongestStep - 1;
     for (const std::u32string& word : words)
         shortest = std::min(shortest, asciiRun(word));
     // Long pieces are met less often by chance, short ones allow longer steps.
-    mWidth = std::max(std::min(shortest, PieceSize), shortest / 2 + 1);
+    mWidth = std::min(std::max(std::min(shortest, PieceSize), shortest / 2 + 1), ProbeSize);
     mStep = shortest - mWidth + 1;
     const size_t pieces = std::max<size_t>(words.size() * static_cast<size_t>(mStep), 1);
-    mSlotBits = bitsFor(2 * pieces);
-    mSlots.resize(size_t(1) << mSlotBits);
-    mHashBits = std::clamp(bitsFor(BitsOfPiece * pieces), LeastHashBits, MostHashBits);
-    mHashes.resize((size_t(1) << mHashBits) / 64);
+    mSlots.resize(std::bit_ceil(2 * pieces));
+    mHashes.resize((size_t(1) << HashBits) / 64);
     for (const std::u32string& word : words)
         add(word);
 }
@@ -128,16 +123,15 @@ void FAnchorFilter::add(std::u32string_view word) {
 }
 
 void FAnchorFilter::addPiece(quint64 piece) {
-    const quint64 bit = hashOf(piece, mHashBits);
-    mHashes[bit / 64] |= quint64(1) << (bit % 64);
-    size_t slot = hashOf(piece, mSlotBits);
+    mHashes[hashOf(piece) / 64] |= quint64(1) << (hashOf(piece) % 64);
+    size_t slot = hashOf(piece) & (mSlots.size() - 1);
     while (mSlots[slot] != 0 && mSlots[slot] != piece)
         slot = (slot + 1) & (mSlots.size() - 1);
     mSlots[slot] = piece;
 }
 
 bool FAnchorFilter::isPiece(quint64 piece) const {
-    size_t slot = hashOf(piece, mSlotBits);
+    size_t slot = hashOf(piece) & (mSlots.size() - 1);
     while (mSlots[slot] != 0 && mSlots[slot] != piece)
         slot = (slot + 1) & (mSlots.size() - 1);
     return mSlots[slot] == piece;
@@ -152,14 +146,13 @@ template <bool AlsoNonAscii>
 qint64 FAnchorFilter::nextProbe(std::string_view text, qint64 offset) const {
     constexpr quint64 stopper = AlsoNonAscii ? 0x8080808080808080 : 0;
     const quint64 mask = ~quint64(0) >> (8 * (ProbeSize - mWidth));
-    const qint64 step = mStep;
-    const int hashBits = mHashBits;
+    const qint64 step = AlsoNonAscii ? std::min(mStep, ProbeSize) : mStep;
     const quint64* const hashes = mHashes.data();
     const auto probeAt = [text](qint64 place) { return qFromLittleEndian<quint64>(text.data() + place); };
     const auto suspect = [=](qint64 place) {
         const quint64 probe = probeAt(place);
-        const quint64 hash = hashOf(folded(probe) & mask, hashBits);
-        return (hashes[hash / 64] >> (hash % 64) & 1) | (probe & stopper);
+        const size_t hash = hashOf(folded(probe) & mask);
+        return (hashes[hash / 64] >> (hash % 64) & 1) != 0 || (probe & stopper) != 0;
     };
     const auto meets = [this, mask, probeAt](qint64 place) {
         const quint64 probe = probeAt(place);
@@ -167,7 +160,7 @@ qint64 FAnchorFilter::nextProbe(std::string_view text, qint64 offset) const {
     };
     const qint64 end = static_cast<qint64>(text.size()) - ProbeSize;
     for (; offset + 3 * step <= end; offset += 4 * step) {
-        if ((suspect(offset) | suspect(offset + step) | suspect(offset + 2 * step) | suspect(offset + 3 * step)) == 0)
+        if (!suspect(offset) && !suspect(offset + step) && !suspect(offset + 2 * step) && !suspect(offset + 3 * step))
             continue;
         for (qint64 place = offset; place <= offset + 3 * step; place += step) {
             if (meets(place))

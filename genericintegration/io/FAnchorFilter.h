@@ -15,7 +15,7 @@ class FAnchorFilter {
  public:
     /// Words with a shorter run of ASCII characters make poor pieces, and are better given to a filter of their own.
     static constexpr qint64 PieceSize = 4;
-    /// Bytes that a probe reads, and the most from one probe to the next.
+    /// Bytes that a probe reads.
     static constexpr qint64 ProbeSize = 8;
 
     /// Length of the longest run of ASCII characters in a word.
@@ -42,8 +42,6 @@ class FAnchorFilter {
     qint64 mWidth;  ///< characters of a piece
     qint64 mStep;   ///< from one probe to the next
     qint64 mReach = 0;
-    int mHashBits;
     std::vector<quint64> mHashes;  ///< a bit for each hash, set for those of the pieces
-    int mSlotBits;
-    std::vector<quint64> mSlots;  ///< each piece at its hash or right behind, at most half of them; 0 for none
+    std::vector<quint64> mSlots;   ///< each piece at its hash or right behind, at most half of them; 0 for none
 };

@@ -48,18 +48,15 @@ class FNumberScan {
 
     qint64 digitsEnd(qint64 offset) const {
         for (;;) {
-            const char c = at(offset);
-            if (isDigit(c)) {
+            while (isDigit(at(offset)))
                 ++offset;
-            } else if (FUtf8::isAscii(c)) {
+            if (FUtf8::isAscii(at(offset)))
                 return offset;
-            } else {
-                qint64 behind = offset;
-                const char32_t digit = FUtf8::next(mLine, behind);
-                if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit))
-                    return offset;
-                offset = behind;
-            }
+            qint64 behind = offset;
+            const char32_t digit = FUtf8::next(mLine, behind);
+            if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit))
+                return offset;
+            offset = behind;
         }
     }
 

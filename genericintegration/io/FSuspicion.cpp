@@ -11,7 +11,7 @@ namespace {
 // No number is printed with more characters; what is longer is of no use for a guess.
 constexpr qint64 Longest = 64;
 
-bool isDigit(char c) {
+constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 bool isSign(char c) {
@@ -24,18 +24,25 @@ constexpr bool isLetter(char c) {
     return (lower(c) >= 'a' && lower(c) <= 'z') || c == '_';
 }
 
-enum class Kind : unsigned char { Other, Letter, Star };
+enum class Kind : unsigned char { Other, Digit, Letter, Star };
 
 constexpr std::array<Kind, 256> Kinds = [] {
     std::array<Kind, 256> kinds{};
     for (size_t byte = 0; byte < 0x80; ++byte)
-        kinds[byte] = isLetter(static_cast<char>(byte)) ? Kind::Letter : Kind::Other;
+        kinds[byte] = isLetter(static_cast<char>(byte))  ? Kind::Letter
+                      : isDigit(static_cast<char>(byte)) ? Kind::Digit
+                                                         : Kind::Other;
     kinds['*'] = Kind::Star;
     return kinds;
 }();
 
 Kind kindOf(char c) {
     return Kinds[static_cast<unsigned char>(c)];
+}
+
+/// Whether a word or a row of asterisks goes on.
+bool isSameRun(Kind kind, Kind next) {
+    return next == kind || (kind == Kind::Letter && next == Kind::Digit);
 }
 
 /// The neighbourhood of a number.
@@ -130,18 +137,17 @@ FFoundFlags ofNumber(std::string_view text, FByteRange number) {
 
 FFoundFlags ofText(std::string_view text) {
     FFoundFlags flags;
-    for (size_t begin = 0; begin < text.size();) {
-        size_t end = begin + 1;
+    for (size_t end = 0; end < text.size();) {
+        const size_t begin = end++;
         const Kind kind = kindOf(text[begin]);
-        if (kind == Kind::Star && end < text.size() && text[end] == '*') {
-            flags |= FFoundFlag::Stars;
-        } else if (kind == Kind::Letter) {
-            while (end < text.size() && (kindOf(text[end]) == Kind::Letter || isDigit(text[end])))
-                ++end;
-            if (isNanOrInf(text.substr(begin, end - begin)))
-                flags |= FFoundFlag::NanOrInf;
-        }
-        begin = end;
+        if (kind <= Kind::Digit)
+            continue;
+        while (end < text.size() && isSameRun(kind, kindOf(text[end])))
+            ++end;
+        if (kind == Kind::Star)
+            flags.setFlag(FFoundFlag::Stars, flags.testFlag(FFoundFlag::Stars) || end - begin > 1);
+        else if (isNanOrInf(text.substr(begin, end - begin)))
+            flags |= FFoundFlag::NanOrInf;
     }
     return flags;
 }

@@ -57,7 +57,7 @@ std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorC
         value.line = i % 9 == 0 ? -1 - i % 4 : i % 3;
         value.column = i % 4;
         if (i % 10 < 6)
-            value.anchor.text = QString::fromLatin1(anchorText(static_cast<int>(i * anchors / count)));
+            value.anchor.text = QString::fromLatin1(anchorText(static_cast<int>(i * 7 % anchors)));
         value.anchor.occurrence = i % 2 == 0 ? FAnchorOccurrence::First : FAnchorOccurrence::Last;
         value.average = i % 50 == 7;
         value.averageRows = 100;

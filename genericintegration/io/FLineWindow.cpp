@@ -10,12 +10,11 @@ qint64 FLineWindow::count() const {
 
 std::optional<FByteRange> FLineWindow::line(qint64 number) const {
     const FTextIndex& index = mText.index();
-    const qint64 line = index.lineAt(mPart.begin) + number;
-    const qint64 begin = number == 0 ? mPart.begin : index.lineStart(line);
+    const qint64 begin = number == 0 ? mPart.begin : index.lineStart(index.lineAt(mPart.begin) + number);
     if (begin < mPart.begin || begin >= mPart.end)
         return {};
-    const qint64 next = index.lineStart(line + 1);
-    return withoutEnd(begin, next <= begin || next > mPart.end ? mPart.end : next - 1);
+    const qint64 lineFeed = index.lineFeed(begin);
+    return withoutEnd(begin, lineFeed < 0 || lineFeed > mPart.end ? mPart.end : lineFeed);
 }
 
 FByteRange FLineWindow::lineFrom(qint64& offset) const {

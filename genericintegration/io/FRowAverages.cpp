@@ -47,9 +47,13 @@ void FRowAverages::readRows() {
         if (line.size() == 0)
             continue;
         FColumnCursor cursor(mText.text(), line, mSeparator);
+        const Average* previous = nullptr;
         for (Average& average : mAverages) {
-            if (average.begin <= line.begin)
-                addRow(average, cursor.seek(average.column));
+            if (average.begin > line.begin)
+                continue;
+            const bool isSame = previous != nullptr && previous->column == average.column;
+            addRow(average, isSame ? previous->last : cursor.seek(average.column));
+            previous = &average;
         }
     }
 }

@@ -2,26 +2,40 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
+#include <functional>
 #include <numeric>
 
 #include "genericintegration/io/FUtf8.h"
 
 namespace {
 
-constexpr qint64 BlockSize = 4096;
+constexpr qint64 BlockSize = 2048;
 
-// Of at most a block. Lanes of a byte can't overflow then, and let the compiler compare many bytes at once.
-qint64 countLineFeeds(std::string_view text) {
+struct Count {
+    qint64 lineFeeds;
+    bool isAscii;
+};
+
+// Of at most a block. Lanes of a byte can't overflow then, and let the compiler look at many bytes at once.
+Count countIn(std::string_view text) {
     constexpr size_t Lanes = 32;
-    static_assert(BlockSize / Lanes <= 255);
-    std::array<unsigned char, Lanes> lanes{};
+    static_assert(BlockSize / Lanes < 255);
+    std::array<unsigned char, Lanes> lineFeeds{};
+    std::array<unsigned char, Lanes> bits{};
+    const auto take = [&](size_t lane, char byte) {
+        lineFeeds[lane] = static_cast<unsigned char>(lineFeeds[lane] + (byte == '\n'));
+        bits[lane] |= static_cast<unsigned char>(byte);
+    };
     size_t offset = 0;
     for (; offset + Lanes <= text.size(); offset += Lanes) {
         for (size_t lane = 0; lane < Lanes; ++lane)
-            lanes[lane] = static_cast<unsigned char>(lanes[lane] + (text[offset + lane] == '\n'));
+            take(lane, text[offset + lane]);
     }
-    const qint64 rest = std::count(text.begin() + static_cast<std::ptrdiff_t>(offset), text.end(), '\n');
-    return std::accumulate(lanes.begin(), lanes.end(), rest);
+    for (size_t lane = 0; offset + lane < text.size(); ++lane)
+        take(lane, text[offset + lane]);
+    const unsigned char all = std::accumulate(bits.begin(), bits.end(), static_cast<unsigned char>(0), std::bit_or());
+    return {std::accumulate(lineFeeds.begin(), lineFeeds.end(), qint64(0)), all < 0x80};
 }
 
 }  // namespace
@@ -37,10 +51,10 @@ FTextIndex::FTextIndex(std::string_view text) : mText(text) {
         const std::string_view part = block(begin, std::min(begin + BlockSize, size));
         mLines.push_back(lines);
         mUnits.push_back(units);
-        lines += countLineFeeds(part);
-        const bool ascii = FUtf8::isAscii(part);
-        units += ascii ? static_cast<qint64>(part.size()) : FUtf8::utf16Length(part);
-        mAscii = mAscii && ascii;
+        const Count count = countIn(part);
+        lines += count.lineFeeds;
+        units += count.isAscii ? static_cast<qint64>(part.size()) : FUtf8::utf16Length(part);
+        mAscii = mAscii && count.isAscii;
     }
 }
 
@@ -50,7 +64,7 @@ std::string_view FTextIndex::block(qint64 begin, qint64 end) const {
 
 qint64 FTextIndex::lineAt(qint64 offset) const {
     const qint64 number = offset / BlockSize;
-    return mLines[static_cast<size_t>(number)] + countLineFeeds(block(number * BlockSize, offset));
+    return mLines[static_cast<size_t>(number)] + countIn(block(number * BlockSize, offset)).lineFeeds;
 }
 
 qint64 FTextIndex::lineStart(qint64 line) const {
@@ -67,8 +81,22 @@ qint64 FTextIndex::lineStart(qint64 line) const {
     return static_cast<qint64>(offset);
 }
 
+// Most lines begin and end in the same block. A question for one that doesn't mustn't cost its length.
 qint64 FTextIndex::lineBegin(qint64 offset) const {
+    const qint64 begin = offset / BlockSize * BlockSize;
+    const void* const before = ::memrchr(mText.data() + begin, '\n', static_cast<size_t>(offset - begin));
+    if (before != nullptr)
+        return static_cast<const char*>(before) - mText.data() + 1;
     return std::clamp<qint64>(lineStart(lineAt(offset)), 0, offset);
+}
+
+qint64 FTextIndex::lineFeed(qint64 offset) const {
+    const qint64 end = std::min((offset / BlockSize + 1) * BlockSize, static_cast<qint64>(mText.size()));
+    const size_t at = block(offset, end).find('\n');
+    if (at != std::string_view::npos)
+        return offset + static_cast<qint64>(at);
+    const qint64 next = lineStart(lineAt(end) + 1);
+    return next < 0 ? -1 : std::max(next - 1, end);
 }
 
 qint64 FTextIndex::utf16At(qint64 offset) const {

@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Where the lines of a text begin, and how many UTF-16 units lie before a place. Made in one pass over the text; it
-/// takes some 4 bytes per 1000 of the text, whatever the lines' length. A question costs a search in one small block.
+/// takes some 8 bytes per 1000 of the text, whatever the lines' length. A question costs a search in one small block.
 ///
 /// Line n begins behind the n-th line feed; line 0 at the start of the text. The text must outlive this object. Should
 /// its bytes have changed, answers are wrong, but within the text.
@@ -21,6 +21,9 @@ class FTextIndex {
 
     /// Where the line begins that an offset is in.
     qint64 lineBegin(qint64 offset) const;
+
+    /// The first line feed at an offset or behind it, or -1.
+    qint64 lineFeed(qint64 offset) const;
 
     /// Offset at which a line begins, or -1 beyond the last line feed.
     qint64 lineStart(qint64 line) const;

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QTextCodec>
 
+#include <simdjson.h>
+
 #include <algorithm>
 
 #include "genericintegration/io/FUtf8.h"
@@ -13,6 +15,8 @@ namespace {
 // A text stream decodes in pieces of this size. What becomes of an invalid sequence depends on where a piece ends.
 constexpr size_t PieceSize = 16384;
 
+constexpr std::string_view Mark = "\xEF\xBB\xBF";
+
 QTextCodec* codecOf(std::string_view file) {
     const QByteArray head = QByteArray::fromRawData(file.data(), static_cast<int>(std::min(file.size(), PieceSize)));
     return QTextCodec::codecForUtfText(head, QTextCodec::codecForName("UTF-8"));
@@ -22,28 +26,23 @@ QString decodePiece(const QTextCodec& codec, std::string_view piece, QTextCodec:
     return codec.toUnicode(piece.data(), static_cast<int>(piece.size()), &state);
 }
 
+// A text stream loses a mark that ends in a later piece as its first character, too, if all before it is ASCII.
+bool hasLaterMark(std::string_view file) {
+    constexpr size_t reach = Mark.size() - 1;
+    for (size_t offset = PieceSize; offset < file.size(); offset += PieceSize) {
+        if (file.substr(offset - reach, reach + Mark.size()).find(Mark) != std::string_view::npos)
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 int plainTextOffset(std::string_view file) {
-    const QTextCodec* codec = codecOf(file);
-    if (codec->name() != "UTF-8")
+    // Marks of other encodings aren't valid UTF-8.
+    if (!simdjson::validate_utf8(file.data(), file.size()) || hasLaterMark(file))
         return -1;
-    constexpr std::string_view mark = "\xEF\xBB\xBF";
-    const bool marked = file.substr(0, mark.size()) == mark;
-    // A character cut by the file's end gets lost, and, behind pieces of ASCII alone, a mark at a piece's begin.
-    qint64 lost = marked ? -1 : 0;
-    QTextCodec::ConverterState state;
-    for (size_t offset = 0; offset < file.size(); offset += PieceSize) {
-        const std::string_view piece = file.substr(offset, PieceSize);
-        if (state.remainingChars == 0 && FUtf8::isAscii(piece))
-            continue;
-        lost += FUtf8::utf16Length(piece) - decodePiece(*codec, piece, state).size();
-        if (state.invalidChars > 0)
-            return -1;
-    }
-    if (lost != 0)
-        return -1;
-    return marked ? static_cast<int>(mark.size()) : 0;
+    return file.substr(0, Mark.size()) == Mark ? static_cast<int>(Mark.size()) : 0;
 }
 
 std::vector<char> decode(std::string_view file) {

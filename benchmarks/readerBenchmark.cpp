@@ -156,6 +156,14 @@ void anchorsRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), makeValues(1000, state.range(0)));
 }
 
+/// Only the ends of the anchors, which makes them short.
+void lengthsRead(benchmark::State& state) {
+    std::vector<FValueDescription> values = makeValues(100);
+    for (FValueDescription& value : values)
+        value.anchor.text = value.anchor.text.right(static_cast<int>(state.range(0)));
+    read(state, textOf(state.range(1)), values);
+}
+
 /// A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either.
 void nonAsciiRead(benchmark::State& state) {
     read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
@@ -240,6 +248,13 @@ BENCHMARK(anchorsRead)
     ->Name("anchors.read")
     ->ArgNames({"anchors", "KB"})
     ->ArgsProduct({{1, 10, 100, 300, 600}, {5000}})
+    ->Unit(kMicrosecond);
+
+BENCHMARK(memoryBare)->Name("lengths.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(lengthsRead)
+    ->Name("lengths.read")
+    ->ArgNames({"length", "KB"})
+    ->ArgsProduct({{4, 6, 8, 12, 16, 24}, {5000}})
     ->Unit(kMicrosecond);
 
 BENCHMARK(memoryBare)->Name("nonAscii.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);

@@ -6,10 +6,11 @@
 #include "genericintegration/io/FSuspicion.h"
 #include "genericintegration/io/FUtf8.h"
 
-FColumnCursor::FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator)
+FColumnCursor::FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator, bool mayBeSuspicious)
     : mText(text),
       mLine{FUtf8::skipSpace(text.substr(0, static_cast<size_t>(line.end)), line.begin), line.end},
-      mNumber{mLine.begin, mLine.begin} {
+      mNumber{mLine.begin, mLine.begin},
+      mMayBeSuspicious(mayBeSuspicious) {
     if (separator != nullptr) {
         mDecoded = FUtf8::decode(mLine.of(text));
         mWalk.emplace(*separator, mDecoded);
@@ -34,7 +35,8 @@ void FColumnCursor::passNumber() {
     const std::string_view rest = FByteRange{mNumber.end, mLine.end}.of(mText);
     const FByteRange next = FNumberPattern::next(rest, 0);
     mEnded = next.begin < 0;
-    mFlags |= FSuspicion::ofText(mEnded ? rest : FByteRange{0, next.begin}.of(rest));
+    if (mMayBeSuspicious)
+        mFlags |= FSuspicion::ofText(mEnded ? rest : FByteRange{0, next.begin}.of(rest));
     if (!mEnded) {
         mNumber = {mNumber.end + next.begin, mNumber.end + next.end};
         ++mPassed;

@@ -14,8 +14,9 @@
 /// else is decoded. White space at the line's begin is passed over.
 class FColumnCursor {
  public:
-    /// A null separator: numbers are found. Text and separator must outlive this object.
-    FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator);
+    /// A null separator: numbers are found. Text and separator must outlive this object. What FSuspicion would find
+    /// between numbers is looked for only if there may be something.
+    FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator, bool mayBeSuspicious = true);
     Q_DISABLE_COPY_MOVE(FColumnCursor)
 
     /// One of the columns. Those asked for mustn't descend; one below 0 is 0.
@@ -33,5 +34,6 @@ class FColumnCursor {
     std::optional<FSeparatorWalk> mWalk;
     int mPassed = 0;  ///< numbers or separators
     bool mEnded = false;
+    bool mMayBeSuspicious;
     FFoundFlags mFlags{};
 };

@@ -1,9 +1,9 @@
 #include "genericintegration/io/FNumberPattern.h"
 
 #include <QRegExp>
+#include <QtEndian>
 
-#include <algorithm>
-#include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 
@@ -12,14 +12,28 @@
 namespace FNumberPattern {
 namespace {
 
-/// By byte, whether a number may begin with it.
-constexpr std::array<bool, 256> Beginnings = [] {
-    std::array<bool, 256> beginnings{};
-    for (const char c : std::string_view("0123456789.+-"))
-        beginnings[static_cast<unsigned char>(c)] = true;
-    std::fill(beginnings.begin() + 0x80, beginnings.end(), true);
-    return beginnings;
-}();
+constexpr quint64 everyByte(unsigned char byte) {
+    return byte * 0x0101010101010101U;
+}
+
+/// Of eight bytes, the upper bit of each that a number may begin with: from '+' to '9', or not ASCII.
+quint64 beginnings(quint64 bytes) {
+    const quint64 ascii = bytes & everyByte(0x7F);
+    const quint64 fromPlus = ascii + everyByte(0x80 - '+');
+    const quint64 behindNine = ascii + everyByte(0x80 - '9' - 1);
+    return ((fromPlus & ~behindNine) | bytes) & everyByte(0x80);
+}
+
+/// The first place, from an offset on, where a number may begin, or where fewer than eight bytes are left.
+qint64 skip(std::string_view line, qint64 offset) {
+    constexpr qint64 step = 8;
+    for (; offset + step <= static_cast<qint64>(line.size()); offset += step) {
+        const quint64 found = beginnings(qFromLittleEndian<quint64>(line.data() + offset));
+        if (found != 0)
+            return offset + std::countr_zero(found) / step;
+    }
+    return offset;
+}
 
 /// Reads a number in a line.
 class FNumberScan {
@@ -80,9 +94,7 @@ const QRegExp& pattern() {
 
 FByteRange next(std::string_view line, qint64 offset) {
     const FNumberScan scan(line);
-    for (; offset < static_cast<qint64>(line.size()); ++offset) {
-        if (!Beginnings[static_cast<unsigned char>(line[static_cast<size_t>(offset)])])
-            continue;
+    for (offset = skip(line, offset); offset < static_cast<qint64>(line.size()); offset = skip(line, offset + 1)) {
         const qint64 end = scan.numberEnd(offset);
         if (end > offset)
             return {offset, end};

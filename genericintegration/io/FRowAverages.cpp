@@ -6,6 +6,7 @@
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FLineWindow.h"
 #include "genericintegration/io/FResultText.h"
+#include "genericintegration/io/FSuspicion.h"
 
 namespace {
 
@@ -42,11 +43,12 @@ void FRowAverages::readRows() {
     for (const Average& average : mAverages)
         offset = std::min(offset, average.begin);
     const FLineWindow window(mText, {offset, size});
+    const bool mayBeSuspicious = FSuspicion::mayBeIn(FByteRange{offset, size}.of(mText.text()));
     while (offset < size) {
         const FByteRange line = window.lineFrom(offset);
         if (line.size() == 0)
             continue;
-        FColumnCursor cursor(mText.text(), line, mSeparator);
+        FColumnCursor cursor(mText.text(), line, mSeparator, mayBeSuspicious);
         const Average* previous = nullptr;
         for (Average& average : mAverages) {
             if (average.begin > line.begin)

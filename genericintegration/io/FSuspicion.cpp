@@ -152,6 +152,28 @@ FFoundFlags ofText(std::string_view text) {
     return flags;
 }
 
+// Without a branch for a byte, the compiler can look at many at once.
+bool mayBeIn(std::string_view text) {
+    constexpr size_t Longest = 4096;
+    for (size_t begin = 0; begin + 1 < text.size(); begin += Longest) {
+        const std::string_view part = text.substr(begin, Longest + 2);
+        unsigned char found = part.substr(part.size() - 2) == "**";
+        for (size_t i = 0; i + 2 < part.size(); ++i) {
+            const auto is = [&part, i](size_t ahead, char letter) -> unsigned char {
+                return (part[i + ahead] | 0x20) == letter;
+            };
+            const auto isStar = [&part, i](size_t ahead) -> unsigned char { return part[i + ahead] == '*'; };
+            const unsigned char stars = isStar(0) & isStar(1);
+            const unsigned char nan = is(0, 'n') & is(1, 'a') & is(2, 'n');
+            const unsigned char inf = is(0, 'i') & is(1, 'n') & is(2, 'f');
+            found |= stars | nan | inf;
+        }
+        if (found)
+            return true;
+    }
+    return false;
+}
+
 FFoundFlags ofColumn(const QString& text) {
     const QByteArray bytes = text.left(static_cast<int>(Longest)).toUtf8();
     const std::string_view view(bytes.constData(), static_cast<size_t>(bytes.size()));

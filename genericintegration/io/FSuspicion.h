@@ -16,6 +16,9 @@ FFoundFlags ofNumber(std::string_view text, FByteRange number);
 /// Of text in which no number was found.
 FFoundFlags ofText(std::string_view text);
 
+/// Whether ofText() may find anything in a part of a text. This is quick, and errs on the side of yes.
+bool mayBeIn(std::string_view text);
+
 /// Of a column that isn't a finite number.
 FFoundFlags ofColumn(const QString& text);
 

@@ -5,11 +5,17 @@
 FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : mInside(words.size(), None) {
     std::vector<Word> sorted;
     sorted.reserve(words.size());
-    for (const std::u32string& word : words)
+    size_t characters = 0;
+    for (const std::u32string& word : words) {
         sorted.push_back({&word, static_cast<int>(sorted.size())});
+        characters += word.size();
+    }
     std::sort(sorted.begin(), sorted.end(),
               [](const Word& left, const Word& right) { return *left.text < *right.text; });
-    std::vector<Range> ranges = {{0, sorted.size(), 0}};
+    mNodes.reserve(characters + 1);
+    std::vector<Range> ranges;
+    ranges.reserve(characters + 1);
+    ranges.push_back({0, sorted.size(), 0});
     addNode(0, None);
     for (size_t node = 0; node < mNodes.size(); ++node)
         addChildren(sorted, ranges, static_cast<int>(node));

@@ -69,6 +69,7 @@ int rarity(std::u32string_view piece) {
 /// One of the pieces is met, nobody knows which: the most common one counts.
 size_t findRegion(std::u32string_view word, size_t pieces, size_t width) {
     std::vector<int> rarities;
+    rarities.reserve(std::min(word.size(), LongestReach + pieces));
     size_t best = word.size();
     int rarest = -1;
     for (size_t begin = 0; begin + width <= word.size() && (begin < LongestReach + pieces || rarest < 0); ++begin) {

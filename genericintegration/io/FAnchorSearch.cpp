@@ -13,6 +13,7 @@ namespace {
 
 std::u32string folded(const QString& text) {
     std::u32string result;
+    result.reserve(static_cast<size_t>(text.size()));
     for (const uint c : text.toUcs4())
         result.push_back(FUtf8::foldCase(c));
     return result;

@@ -50,18 +50,10 @@ bool isAscii(char32_t c) {
     return c < 0x80;
 }
 
-// A character that comes again adds nothing, so rulers and blanks are avoided. Nothing is below the rarest of all.
-int rarity(std::u32string_view piece) {
-    std::array<quint64, 2> seen{};
-    int sum = 0;
-    for (const char32_t c : piece) {
-        if (!isAscii(c))
-            return -1;
-        const quint64 bit = quint64(1) << (c % 64);
-        sum += (seen[c / 64] & bit) == 0 ? Rarities[c] : 0;
-        seen[c / 64] |= bit;
-    }
-    return sum;
+// A piece with a character that isn't ASCII is below all others.
+int rarity(char32_t c) {
+    constexpr int notAscii = -100;
+    return isAscii(c) ? Rarities[c] : notAscii;
 }
 
 /// The best part of a word for a number of pieces that begin side by side; the word's size if none is ASCII.
@@ -70,10 +62,15 @@ int rarity(std::u32string_view piece) {
 size_t findRegion(std::u32string_view word, size_t pieces, size_t width) {
     std::vector<int> rarities;
     rarities.reserve(std::min(word.size(), LongestReach + pieces));
+    int sum = 0;
+    for (const char32_t c : word.substr(0, width - 1))
+        sum += rarity(c);
     size_t best = word.size();
     int rarest = -1;
     for (size_t begin = 0; begin + width <= word.size() && (begin < LongestReach + pieces || rarest < 0); ++begin) {
-        rarities.push_back(rarity(word.substr(begin, width)));
+        sum += rarity(word[begin + width - 1]);
+        rarities.push_back(sum);
+        sum -= rarity(word[begin]);
         if (rarities.size() < pieces)
             continue;
         const int least = *std::min_element(rarities.end() - static_cast<std::ptrdiff_t>(pieces), rarities.end());

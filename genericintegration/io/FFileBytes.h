@@ -18,7 +18,7 @@ class FFileBytes {
     /// Files of this size or more are mapped.
     static constexpr qint64 MappedSize = 1 << 20;
 
-    /// NOLINTNEXTLINE(google-explicit-constructor): bytes that were read are a file's as well
+    /// Bytes that were read already.
     FFileBytes(const QByteArray& bytes);
 
     /// The file is open for reading, at its begin.

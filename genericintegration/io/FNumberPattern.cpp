@@ -62,7 +62,7 @@ class FNumberScan {
 
     qint64 digitsEnd(qint64 offset) const {
         for (;;) {
-            while (isDigit(at(offset)))
+            while (offset < static_cast<qint64>(mLine.size()) && isDigit(mLine[static_cast<size_t>(offset)]))
                 ++offset;
             if (FUtf8::isAscii(at(offset)))
                 return offset;

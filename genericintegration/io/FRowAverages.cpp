@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FLineWindow.h"
@@ -60,11 +61,11 @@ void FRowAverages::readRows() {
     }
 }
 
-void FRowAverages::addRow(Average& average, const FColumn& column) {
-    average.last = column;
-    average.flags |= column.flags;
-    if (column.isNumber) {
-        average.sum += column.number;
+void FRowAverages::addRow(Average& average, FColumn column) {
+    average.last = std::move(column);
+    average.flags |= average.last.flags;
+    if (average.last.isNumber) {
+        average.sum += average.last.number;
         ++average.count;
     }
 }

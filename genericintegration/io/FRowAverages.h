@@ -38,7 +38,7 @@ class FRowAverages {
         quint32 count = 0;
     };
     void readRows();
-    static void addRow(Average& average, const FColumn& column);
+    static void addRow(Average& average, FColumn column);
     FFoundValue result(const Average& average) const;
 
     const FResultText& mText;

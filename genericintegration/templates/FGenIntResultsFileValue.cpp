@@ -123,13 +123,14 @@ void FGenIntResultsFileValue::setAverage(const std::vector<FExpr<FObject>>& elem
     }
 }
 
-QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const QString& occurrence) const {
+QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const QString& occurrence,
+                                        const FObject* type) const {
     const QStringList texts{textOf(mName),
                             QString::number(mLine),
                             QString::number(mColumn),
                             textOf(mAnchor),
                             occurrence,
-                            textOf(mType ? mType->getClass() : QString()),
+                            textOf(type ? type->getClass() : QString()),
                             textOf(mImportType),
                             mCalcAverage ? QStringLiteral("1") : QStringLiteral("0"),
                             mNumAverageRows.toHistoryString()};
@@ -137,9 +138,11 @@ QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const
 }
 
 QString FGenIntResultsFileValue::toString() const {
-    return record(&bareQuoted, mOccurrence.getStringValue());
+    return record(&bareQuoted, mOccurrence.getStringValue(), mType);
 }
 
 QString FGenIntResultsFileValue::toHistoryString() const {
-    return record(&quoteText, quoteText(mOccurrence.getStringValue()));
+    // What has no type is read as a number; an empty text would leave the type to the reader of the record.
+    const FObject* type = mType ? mType : FDouble::null();
+    return record(&quoteText, quoteText(mOccurrence.getStringValue()), type);
 }

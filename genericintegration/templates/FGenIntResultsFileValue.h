@@ -46,5 +46,5 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
     void setAverage(const std::vector<FExpr<FObject>>& elements);
-    QString record(QString (*textOf)(const QString&), const QString& occurrence) const;
+    QString record(QString (*textOf)(const QString&), const QString& occurrence, const FObject* type) const;
 };

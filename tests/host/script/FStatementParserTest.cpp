@@ -21,16 +21,16 @@ TEST(FStatementParserTest, statements) {
         {"a; b\nc", "a\nb\nc\n"},
         {"x = y == 1", "x = (y == 1)\n"},
         {"f(1,\n 2)\r\n[\r3\r]", "f(1, 2)\n[3]\n"},
-        {"parameter span(12.5) // m", "parameter span(d12.5){}\n"},
+        {"parameter span(12.5) // m", "parameter span(12.5){}\n"},
         {"&wing w() {}; x = 1", "&wing w(){}\nx = 1\n"},
         {"wing w(a, 1) {\n    .addEntry(\"G|span\", 10);\n\n    .b().c([1,\n2]); .d()\n}\ne",
          "wing w(a, 1){.addEntry(\"G|span\", 10);.b().c([1, 2]);.d();}\ne\n"},
         {"wing w()\n\n{ .a() } wing v()\nb", "wing w(){.a();}\nwing v(){}\nb\n"},
-        {"if (a) { b; c } else if (d)\n e\nelse\n{\n f\n}\ng", "if a{b\nc\n}if d{e\n}else{f\n}\ng\n"},
-        {"if (a) b; c", "if a{b\n}else{}\nc\n"},
-        {"if (a) { parameter p(1)\n}\nelse { }\n", "if a{parameter p(1){}\n}else{}\n"},
+        {"if (a) { b; c } else if (d)\n e\nelse\n{\n f\n}\ng", "if (a){b\nc\n}else if (d){e\n}else {f\n}\ng\n"},
+        {"if (a) b; c", "if (a){b\n}else {}\nc\n"},
+        {"if (a) { parameter p(1)\n}\nelse { }\n", "if (a){parameter p(1){}\n}else {}\n"},
         {"while (i < 3) { i = i + 1 } print(i)", "while (i < 3){i = (i + 1)\n}\nprint(i)\n"},
-        {"for (in in [1, 2])\n for (x in y.z()) f(x)\n", "for in in [1, 2]{for x in y.z(){f(x)\n}\n}\n"},
+        {"for (in in [1, 2])\n for (x in y.z()) f(x)\n", "for (in in [1, 2]){for (x in y.z()){f(x)\n}\n}\n"},
         {"w \"x\"", "s:1:3: expected the end of the statement, found the text \"x\"\n"},
         {"a\nb c", "a\ns:2:4: expected \"(\" after the name of the new object, found the end of the script\n"},
         {"& (", "s:1:3: expected a creator after \"&\", found \"(\"\n"},
@@ -107,7 +107,7 @@ TEST(FStatementParserTest, aDamagedCharacterLosesNoNeighbour) {
 
 TEST(FStatementParserTest, recoveryTellsEachError) {
     EXPECT_EQ(recovered("p a(1) {\n.b(1)\np c(2) {\n.d(10m)\n.e()\n}\nf(1\np g(3)\n}\nif (1) {\n?\nh\n}\ni"),
-              "p a(1){.b(1);}\np c(2){.e();}\np g(3){}\nif 1{h\n}else{}\ni\n"
+              "p a(1){.b(1);}\np c(2){.e();}\np g(3){}\nif (1){h\n}else {}\ni\n"
               "s:3:1: expected \"}\" to close the block that begins in line 1, found \"p\"\n"
               "s:4:4: \"10m\" is no number and no name: a name begins with a letter\n"
               "s:8:1: expected \")\" after the arguments, found \"p\"\n"

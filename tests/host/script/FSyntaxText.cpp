@@ -14,6 +14,12 @@ QString signOf(const FSyntaxOperator& op) {
     return signs[static_cast<int>(op.kind)];
 }
 
+/// With the point that tells it from an integer.
+QString doubleText(double number) {
+    const QString text = numberText(number);
+    return text.contains('.') || text.contains('e') ? text : text + ".";
+}
+
 QString joined(const std::vector<FSyntaxExpr>& operands, const char* separator) {
     QString text;
     for (const FSyntaxExpr& operand : operands)
@@ -25,7 +31,7 @@ QString literalText(const FLiteral& literal) {
     if (const auto* text = std::get_if<QString>(&literal))
         return quoteText(*text);
     if (const auto* number = std::get_if<double>(&literal))
-        return "d" + numberText(*number);
+        return doubleText(*number);
     if (const auto* integer = std::get_if<qint64>(&literal))
         return QString::number(*integer);
     const auto* truth = std::get_if<bool>(&literal);
@@ -37,6 +43,23 @@ QString rowText(const FSyntaxExpr& row) {
     for (std::size_t i = 0; i < row.operators.size(); ++i)
         text += " " + signOf(row.operators[i]) + " " + textOf(row.operands[i + 1]);
     return text + ")";
+}
+
+/// A command's dot behind a number could be taken for its point.
+QString chainText(const FSyntaxExpr& chain) {
+    const QString receiver = textOf(chain.operands.front());
+    const bool isLiteral = chain.operands.front().kind == FSyntaxExpr::Kind::Literal;
+    QString text = isLiteral ? "(" + receiver + ")" : receiver;
+    for (std::size_t i = 1; i < chain.operands.size(); ++i)
+        text += "." + textOf(chain.operands[i]);
+    return text;
+}
+
+/// In the brackets that a statement needs around it.
+QString bracketed(const FSyntaxExpr& condition) {
+    const QString text = textOf(condition);
+    return condition.kind == FSyntaxExpr::Kind::Unary || condition.kind == FSyntaxExpr::Kind::Row ? text
+                                                                                                  : "(" + text + ")";
 }
 
 QString textOf(const FSyntaxExpr& expression) {
@@ -51,7 +74,7 @@ QString textOf(const FSyntaxExpr& expression) {
         case FSyntaxExpr::Kind::Call:
             return name + "(" + joined(expression.operands, ", ") + ")";
         case FSyntaxExpr::Kind::Chain:
-            return joined(expression.operands, ".");
+            return chainText(expression);
         case FSyntaxExpr::Kind::Unary:
             return "(" + signOf(expression.operators.front()) + joined(expression.operands, "") + ")";
         case FSyntaxExpr::Kind::Row:
@@ -75,16 +98,16 @@ QString textOf(const FSyntaxAssignment& assignment) {
 QString textOf(const FSyntaxIf& statement) {
     QString text;
     for (const auto& branch : statement.branches)
-        text += "if " + textOf(branch.condition) + "{" + textOf(branch.body) + "}";
-    return text + "else{" + textOf(statement.otherwise) + "}";
+        text += "if " + bracketed(branch.condition) + "{" + textOf(branch.body) + "}else ";
+    return text + "{" + textOf(statement.otherwise) + "}";
 }
 
 QString textOf(const FSyntaxWhile& loop) {
-    return "while " + textOf(loop.condition) + "{" + textOf(loop.body) + "}";
+    return "while " + bracketed(loop.condition) + "{" + textOf(loop.body) + "}";
 }
 
 QString textOf(const FSyntaxFor& loop) {
-    return "for " + loop.variable + " in " + textOf(loop.list) + "{" + textOf(loop.body) + "}";
+    return "for (" + loop.variable + " in " + textOf(loop.list) + "){" + textOf(loop.body) + "}";
 }
 
 QString textOf(const FSyntaxBody& body) {

@@ -1,8 +1,13 @@
 option(MERIX_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+option(MERIX_FUZZ "Build the fuzz targets; needs clang" OFF)
 option(MERIX_COVERAGE "Build for coverage measurement" OFF)
 
 if(MERIX_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(MERIX_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(MERIX_COVERAGE)

@@ -154,6 +154,8 @@ void FManaged::holdByStep(bool hold) {
 
 void FManaged::end() {
     letGo();
+    // A parent may hold its children.
+    mParent = {};
     forgetState();
 }
 

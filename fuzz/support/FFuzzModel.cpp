@@ -33,12 +33,6 @@ class MemoryFile {
     int mFile;
 };
 
-void drop(const FLogMsg& /*message*/) {}
-
-void tell(const FLogMsg& message) {
-    std::fprintf(stderr, "%s\n", message.toLine().toUtf8().constData());
-}
-
 }  // namespace
 
 void FFuzzModel::prepare() {
@@ -46,7 +40,7 @@ void FFuzzModel::prepare() {
     static char name[] = "fuzz";
     static char* arguments[] = {name, nullptr};
     static QCoreApplication application(count, arguments);
-    FLogMsg::setSink(drop);
+    FLogMsg::setSink([](const FLogMsg& /*message*/) {});
     FPrototypes::buildPending();
     FFileGuard::checkItself();
 }
@@ -55,15 +49,29 @@ void FFuzzModel::clear() {
     FFuzzCheck::holds(FProject::instance()->create(), "the model can be emptied");
 }
 
+int FFuzzModel::guarded(const std::function<void()>& action, bool tells) {
+    int errors = 0;
+    const FLogMsg::Sink before = FLogMsg::setSink([&errors, tells](const FLogMsg& message) {
+        errors += message.kind == FLogMsg::Kind::Error ? 1 : 0;
+        if (tells) {
+            std::fprintf(stderr, "%s\n", message.toLine().toUtf8().constData());
+        }
+    });
+    {
+        const FFileGuard guard;
+        action();
+    }
+    FLogMsg::setSink(before);
+    return errors;
+}
+
 int FFuzzModel::restore(const QByteArray& project, bool tells) {
     const MemoryFile file(project);
     FProjectText text;
     if (!text.load(file.path())) {
         return -1;
     }
-    FLogMsg::setSink(tells ? tell : drop);
-    const FFileGuard guard;
-    const int errors = text.restore();
-    FLogMsg::setSink(drop);
+    int errors = 0;
+    guarded([&text, &errors] { errors = text.restore(); }, tells);
     return errors;
 }

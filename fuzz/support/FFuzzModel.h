@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <functional>
+
 /** The model of a fuzz target. */
 namespace FFuzzModel {
 
@@ -11,10 +13,13 @@ void prepare();
 void clear();
 
 /**
- * Restores a project from its text and touches no file, or the program ends.
- * @return how many errors were told, or -1 if the text was refused
- * @param tells  whether the errors go to the standard error
+ * Carries out what touches no file, or the program ends.
+ * @return how many errors were told
+ * @param tells  whether all messages go to the standard error
  */
+int guarded(const std::function<void()>& action, bool tells);
+
+/** Restores a project from its text, guarded. Returns how many errors there were, or -1 if the text was refused. */
 int restore(const QByteArray& project, bool tells = false);
 
 }  // namespace FFuzzModel

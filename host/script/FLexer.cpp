@@ -115,7 +115,7 @@ FToken FLexer::takeText() {
     const qsizetype begin = mPosition;
     FToken token = take(Kind::Text, mTextEnd - mPosition);
     token.lacksQuote = mTextLacksQuote;
-    for (qsizetype end = lineEndFrom(begin); end < mTextEnd; end = lineEndFrom(mLineStart)) {
+    for (qsizetype end = lineEndFrom(begin, mTextEnd); end < mTextEnd; end = lineEndFrom(mLineStart, mTextEnd)) {
         ++mLine;
         mLineStart = end + lineEndAt(end);
     }
@@ -129,7 +129,7 @@ void FLexer::findTextEnd() {
     mTextBegin = mPosition;
     mTextIsOpen = close < 0;
     mTextEnd = mTextIsOpen ? mText.size() : close + 1;
-    mTextLacksQuote = !mTextIsOpen && lineEndFrom(mPosition) < close && standsLikeOpening(mText, close);
+    mTextLacksQuote = !mTextIsOpen && lineEndFrom(mPosition, close) < close && standsLikeOpening(mText, close);
 }
 
 FToken FLexer::takeNumber() {
@@ -170,7 +170,7 @@ void FLexer::skipBlanks() {
         if (isBlank(mText[mPosition]))
             ++mPosition;
         else if (isCommentAt(mPosition))
-            mPosition = lineEndFrom(mPosition);
+            mPosition = lineEndFrom(mPosition, mText.size());
         else if (lineEnd > 0)
             beginLine(mPosition += lineEnd);
         else
@@ -185,7 +185,7 @@ void FLexer::beginLine(qsizetype position) {
 }
 
 void FLexer::skipLine() {
-    mPosition = lineEndFrom(mPosition);
+    mPosition = lineEndFrom(mPosition, mText.size());
 }
 
 void FLexer::beginSkipping(const FToken& token, int offset) {
@@ -207,8 +207,9 @@ int FLexer::lineEndAt(qsizetype position) const {
     return at(position) == '\n' ? 1 : 0;
 }
 
-qsizetype FLexer::lineEndFrom(qsizetype position) const {
-    while (position < mText.size() && lineEndAt(position) == 0)
+/// The first line end from `position` on; `before` if there is none before that.
+qsizetype FLexer::lineEndFrom(qsizetype position, qsizetype before) const {
+    while (position < before && lineEndAt(position) == 0)
         ++position;
     return position;
 }

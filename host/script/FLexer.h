@@ -41,7 +41,7 @@ class FLexer {
     bool isDigitAt(qsizetype position) const { return at(position) >= '0' && at(position) <= '9'; }
     bool isCommentAt(qsizetype position) const { return at(position) == '/' && at(position + 1) == '/'; }
     int lineEndAt(qsizetype position) const;
-    qsizetype lineEndFrom(qsizetype position) const;
+    qsizetype lineEndFrom(qsizetype position, qsizetype before) const;
     qsizetype digitsFrom(qsizetype position) const;
     qsizetype exponentFrom(qsizetype position) const;
 

@@ -80,7 +80,9 @@ TEST(FScriptParserTest, damagedTextsCostLinearTime) {
                              repeated("(", 200000),
                              repeated("if (a)\n", 100000),
                              repeated("{\n", 100000),
-                             "(\"" + repeated(" \n", 200000) + "\""};
+                             "(\"" + repeated(" \n", 200000) + "\"",
+                             repeated("\"", 1000001),
+                             "[" + repeated("\"a\", ", 1000000)};
     for (const QString& text : texts)
         EXPECT_FALSE(parseScript(text, "s", recovering).errors.empty());
 }

@@ -59,6 +59,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!first) {
         return 0;
     }
+    // Where no template is the current one, a reader takes the first.
+    if (!first->getCurFile() && !first->getFiles().isEmpty()) {
+        first->setCurFile(first->getFiles().first());
+    }
     const QByteArray written = write(*first.ptr());
     FFuzzModel::clear();
     const auto second = read(written, true);

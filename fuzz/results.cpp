@@ -47,7 +47,8 @@ std::vector<FValueDescription> valuesOf(const QStringList& lines) {
 }
 
 bool isNear(const FValueDescription& value) {
-    return qAbs(qint64{value.line}) <= farthestForModel && value.column <= farthestForModel;
+    return qAbs(qint64{value.line}) <= farthestForModel && value.column <= farthestForModel &&
+           value.averageRows <= quint32{farthestForModel};
 }
 
 void compare(const FLiteralReader::Found& wanted, const FFoundValue& found) {

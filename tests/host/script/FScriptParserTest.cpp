@@ -81,8 +81,8 @@ TEST(FScriptParserTest, damagedTextsCostLinearTime) {
                              repeated("if (a)\n", 100000),
                              repeated("{\n", 100000),
                              "(\"" + repeated(" \n", 200000) + "\"",
-                             repeated("\"", 1000001),
-                             "[" + repeated("\"a\", ", 1000000)};
+                             repeated("\"", 100001),
+                             "[" + repeated("\"a\", ", 100000)};
     for (const QString& text : texts)
         EXPECT_FALSE(parseScript(text, "s", recovering).errors.empty());
 }

@@ -51,6 +51,8 @@ int FScriptSubcommand::run() const {
     input.setVariable(QStringLiteral("arguments"), textList(mArguments));
     input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
     const bool done = input.exec();
-    FProject::instance()->close();
-    return done ? input.getExitCode() : FExitCode::failed;
+    const int exitCode = done ? input.getExitCode() : FExitCode::failed;
+    // What a script that ended well didn't save wasn't meant to be.
+    FProject::instance()->close(exitCode != FExitCode::done);
+    return exitCode;
 }

@@ -6,6 +6,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FModel.h"
 #include "host/core/FTextDecoder.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFile>
@@ -16,6 +17,12 @@ namespace {
 const QString& storedMark() {
     static const QString mark = QStringLiteral("[B64]");
     return mark;
+}
+
+/** Line ends and blanks, which somebody may have put in, do no harm. */
+bool isBase64(const QByteArray& text) {
+    const QByteArray bare = text.simplified().replace(' ', "");
+    return static_cast<bool>(QByteArray::fromBase64Encoding(bare, QByteArray::AbortOnBase64DecodingErrors));
 }
 
 void commands(FCmdTable& table) {
@@ -56,8 +63,15 @@ QString FGenIntFile::getContent() const {
     return storedMark() + QString::fromLatin1(mContent.toUtf8().toBase64());
 }
 
-QString FGenIntFile::decode(const QString& stored) {
-    const QByteArray bytes = QByteArray::fromBase64(stored.mid(storedMark().size()).toLatin1());
+QString FGenIntFile::decode(const QString& stored) const {
+    const QByteArray base64 = stored.mid(storedMark().size()).toLatin1();
+    const QByteArray bytes = QByteArray::fromBase64(base64);
+    // What can be read is taken in any case.
+    if (FMerixCtrl::instance()->isLoadingProject() && !isBase64(base64)) {
+        FCmd::warnNow(getClass(), QStringLiteral("the content of %1 is damaged: it isn't Base64; what could be read of "
+                                                 "it is kept")
+                                      .arg(getName()));
+    }
     // With its size, since a conversion without it ends at the first NUL.
     return QString::fromUtf8(bytes.constData(), bytes.size());
 }

@@ -46,7 +46,7 @@ class FGenIntFile : public FClass<FGenIntFile, FManaged> {
     friend class FClass<FGenIntFile, FManaged>;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
-    static QString decode(const QString& stored);
+    QString decode(const QString& stored) const;
     void markOutOfDate();
 
     QString mFileName;

@@ -11,8 +11,20 @@
 
 FClassData FEntry::mClass("FEntry", &FEntryBase::mClass, nullptr, &FEntry::fields);
 
+int FEntry::mCount = 0;
+
+FEntry::FEntry(const QString& name) : FClass(name) {
+    ++mCount;
+}
+
+FEntry::~FEntry() {
+    --mCount;
+}
+
 FEntry::FEntry(const FExpr<FEntryDef>& definition, int index)
-    : FClass(definition->getName()), mDefinition(definition), mIndex(index) {}
+    : FClass(definition->getName()), mDefinition(definition), mIndex(index) {
+    ++mCount;
+}
 
 std::vector<std::unique_ptr<FStateField>> FEntry::fields() {
     return FStateFields<FEntry>()

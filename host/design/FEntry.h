@@ -9,8 +9,11 @@ class FEntry : public FClass<FEntry, FEntryBase> {
  public:
     static FClassData mClass;
 
-    explicit FEntry(const QString& name = QString()) : FClass(name) {}
+    explicit FEntry(const QString& name = QString());
     FEntry(const FExpr<FEntryDef>& definition, int index);
+    ~FEntry() override;
+    /** How many entries there are in the program. */
+    static int getCount() { return mCount; }
 
     /**
      * Adds an entry behind the others of a configuration or group. The entry definition of that name in what the parent
@@ -57,6 +60,8 @@ class FEntry : public FClass<FEntry, FEntryBase> {
 
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
+
+    static int mCount;
 
     FExpr<FEntryDef> mDefinition;
     int mIndex = 0;

@@ -1,10 +1,10 @@
 #include "host/design/FEntryTree.h"
 
-#include "host/core/FLogMsg.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntry.h"
 #include "host/design/FEntryDef.h"
+#include "host/script/FCmd.h"
 
 #include <QHash>
 
@@ -58,15 +58,17 @@ int FEntryTree::countOf(const FEntryHolder& entries, const FEntryDef* definition
 }
 
 bool FEntryTree::mayMakeOneMore(const FEntryDef& definition) {
-    if (++mCount <= mostEntries) {
+    if (++mCount <= mostEntries && FEntry::getCount() < mostInAll) {
         return true;
     }
     if (!mStopped) {
-        FLogMsg::error(QStringLiteral("FConfiguration"),
-                       QStringLiteral("the counts of its entries would make more than %1 entries; stopped at \"%2\"")
-                           .arg(mostEntries)
-                           .arg(definition.getFullName()),
-                       QStringLiteral("lower the counts"));
+        const bool isOwn = mCount > mostEntries;
+        FCmd::warnNow(QStringLiteral("FConfiguration"),
+                      QStringLiteral("the counts of its entries would make more than %1 entries in %2; stopped at "
+                                     "\"%3\"; lower the counts")
+                          .arg(isOwn ? mostEntries : mostInAll)
+                          .arg(isOwn ? QStringLiteral("a configuration") : QStringLiteral("all configurations"),
+                               definition.getFullName()));
     }
     mStopped = true;
     return false;

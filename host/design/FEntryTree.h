@@ -16,6 +16,8 @@ class FEntryTree {
  public:
     /** Entries that one configuration can have; what counts multiply to beyond that isn't made, with a message. */
     static constexpr int mostEntries = 100000;
+    /** The same for all configurations together, with those that undo can bring back. */
+    static constexpr int mostInAll = 1000000;
 
     /**
      * Has a holder of entries hold what the other one defines, in that order: entries whose definition lives stay, new

@@ -30,22 +30,37 @@ bool FAutosave::isNewer(const QString& project) {
     return autosave.exists() && autosave.lastModified() >= QFileInfo(project).lastModified();
 }
 
-void FAutosave::start(const QString& project, bool hasUnsaved) {
+void FAutosave::start(const QString& project, bool recovered) {
     mProject = project;
-    mIsOwn = hasUnsaved;
+    mIsOwn = recovered;
+    mIsRecovered = recovered;
     mHasFailed = false;
     mPause = 0;
-    if (hasUnsaved) {
+    if (recovered) {
         save();
     }
 }
 
-void FAutosave::stop() {
+void FAutosave::stop(bool keep) {
+    if (keep && mTimer.isActive()) {
+        save();
+    }
     mTimer.stop();
-    if (mIsOwn) {
+    if (mIsOwn && !mIsRecovered && !keep) {
         QFile::remove(pathOf(mProject));
     }
     mProject.clear();
+    mIsOwn = false;
+}
+
+void FAutosave::saved() {
+    mTimer.stop();
+    moveForeignAside();
+    if (mIsOwn) {
+        QFile::remove(pathOf(mProject));
+    }
+    mIsOwn = false;
+    mIsRecovered = false;
 }
 
 void FAutosave::changed() {
@@ -67,7 +82,7 @@ void FAutosave::save() {
     moveForeignAside();
     QElapsedTimer duration;
     duration.start();
-    const QString fault = FSavedFile::write(pathOf(mProject), FProjectText::write());
+    const QString fault = FSavedFile::writeBeside(mProject, pathOf(mProject), FProjectText::write());
     if (!fault.isEmpty() && !mHasFailed) {
         FLogMsg::warning(pathOf(mProject), QStringLiteral("can't keep unsaved work: %1").arg(fault),
                          QStringLiteral("save the project yourself, under another name if need be"));
@@ -80,8 +95,12 @@ void FAutosave::save() {
 
 void FAutosave::moveForeignAside() {
     const QString path = pathOf(mProject);
-    if (!mProject.isEmpty() && !mIsOwn && QFile::exists(path)) {
-        QFile::remove(path + QLatin1Char('~'));
-        QFile::rename(path, path + QLatin1Char('~'));
+    if (mProject.isEmpty() || mIsOwn || !QFile::exists(path)) {
+        return;
+    }
+    const QString aside = FSavedFile::freeName(path + QLatin1Char('~'));
+    if (QFile::rename(path, aside)) {
+        FLogMsg::info(mProject, QStringLiteral("unsaved work of an earlier session that nobody recovered is kept"),
+                      QStringLiteral("it is in \"%1\"; remove it when you no longer need it").arg(aside));
     }
 }

@@ -14,27 +14,32 @@ class FAutosave : public QObject {
     FAutosave();
 
     static QString pathOf(const QString& project) { return project + QStringLiteral(".autosave"); }
-    /** Whether a crash has left work that was never saved. */
+    /** Whether there is unsaved work that is newer than the project. */
     static bool isNewer(const QString& project);
+    /** Whether that is of the project which is open here. */
+    bool isOwnOf(const QString& project) const { return mIsOwn && mProject == project; }
 
     /**
      * From now on, changes are saved beside this project.
-     * @param hasUnsaved  whether there are some already
+     * @param recovered  whether there are some already, which stay until the project is saved
      */
-    void start(const QString& project, bool hasUnsaved);
-    /** Nothing is saved any more; what was saved for the project goes. */
-    void stop();
-    /** What a crash left, and nobody took, isn't overwritten. */
-    void moveForeignAside();
+    void start(const QString& project, bool recovered);
+    /** Nothing is saved any more. What was saved goes, unless it was recovered or is to be kept. */
+    void stop(bool keep);
+    /** The project was saved: there is no unsaved work. */
+    void saved();
     /** The model may have changed. */
     void changed();
 
  private:
     void saveSoon();
     void save();
+    /** What a crash left, and nobody took, isn't overwritten. */
+    void moveForeignAside();
 
     QString mProject;  //!< empty: nothing is saved
     bool mIsOwn = false;
+    bool mIsRecovered = false;
     bool mHasFailed = false;
     qint64 mPause = 0;  //!< shortest time from one save to the next, in ms
     QElapsedTimer mSinceSave;

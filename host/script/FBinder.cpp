@@ -65,7 +65,7 @@ FExprBase FBinder::bind(const FSyntaxExpr& expression, Use use) {
 }
 
 FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
-    if (FEnumTable::isWord(expression.name)) {
+    if (FEnumTable::isWord(expression.name) && !mNames.isAnnounced(expression.name)) {
         return FExprBase(new FString(expression.name));
     }
     FExprBase found = mNames.find(expression.name);

@@ -10,6 +10,7 @@
 #include "host/script/FProject.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <iostream>
@@ -111,11 +112,14 @@ bool newProject() {
 }
 
 bool openProject(const QString& path, bool recover) {
-    return FProject::instance()->open(resolve(path), recover);
+    // A file of exactly that name is meant first.
+    const QString exact = resolve(path);
+    const bool isThere = QFileInfo(exact).isFile();
+    return FProject::instance()->open(isThere ? exact : resolve(FProject::withEnding(path)), recover);
 }
 
 bool saveProject(const QString& path) {
-    return FProject::instance()->save(path);
+    return FProject::instance()->save(path.isEmpty() ? path : resolve(FProject::withEnding(path)));
 }
 
 void projectCommands(FCmdTable& table) {

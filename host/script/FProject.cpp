@@ -7,7 +7,6 @@
 #include "host/core/FSavedFile.h"
 #include "host/script/FProjectText.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -23,6 +22,12 @@ bool holds(const QString& path, const QByteArray& bytes) {
     return file.size() == bytes.size() && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
 }
 
+/** The file itself where the name is that of a link to it, so that it has one lock and one folder of results. */
+QString fullPath(const QString& path) {
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? QFileInfo(path).absoluteFilePath() : real;
+}
+
 }  // namespace
 
 FProject* FProject::instance() {
@@ -31,9 +36,9 @@ FProject* FProject::instance() {
     return project;
 }
 
-QString FProject::fullPath(const QString& path) {
-    const QFileInfo file(path);
-    return file.suffix().isEmpty() ? file.absoluteFilePath() + QStringLiteral(".mrx") : file.absoluteFilePath();
+QString FProject::withEnding(const QString& path) {
+    const QString ending = QStringLiteral(".mrx");
+    return path.isEmpty() || path.endsWith(ending) ? path : path + ending;
 }
 
 bool FProject::isIdle(const char* command) {
@@ -61,19 +66,22 @@ bool FProject::create() {
     if (!isIdle("newProject")) {
         return false;
     }
-    close();
+    close(false);
     clearModel();
     return true;
 }
 
 bool FProject::open(const QString& path, bool recover) {
     const QString file = fullPath(path);
-    const QString source = recover && FAutosave::isNewer(file) ? FAutosave::pathOf(file) : file;
+    const bool hasNews = FAutosave::isNewer(file);
+    const bool isOwn = mAutosave.isOwnOf(file);
+    const QString news = QFileInfo(FAutosave::pathOf(file)).lastModified().toString(Qt::ISODate);
+    const QString source = recover && hasNews ? FAutosave::pathOf(file) : file;
     FProjectText text;
     if (!isIdle("openProject") || !text.load(source)) {
         return false;
     }
-    const bool hadNews = FAutosave::isNewer(file);
+    const Stamp stamp = stampOf(file);
     create();
     int errors = 0;
     {
@@ -82,81 +90,128 @@ bool FProject::open(const QString& path, bool recover) {
         errors = text.restore();
     }
     FHistory::instance()->clear();
-    if (hadNews) {
-        tellOfAutosave(file, recover);
-    } else if (recover) {
-        FLogMsg::warning(file, QStringLiteral("there is no unsaved work to recover; opened as it was saved"));
+    if (errors > 0 && source != file) {
+        keepDamaged(file, source);
     }
-    use(file, hadNews && recover);
-    mIsDamaged = errors > 0;
-    return errors == 0 ||
-           fail(file, QStringLiteral("%1 errors; what they are about isn't in the open project").arg(errors),
-                QStringLiteral("the first save keeps the file as \"%1.damaged\"").arg(file));
-}
-
-void FProject::tellOfAutosave(const QString& file, bool recover) const {
-    const QString time = QFileInfo(FAutosave::pathOf(file)).lastModified().toString(Qt::ISODate);
-    if (recover) {
-        FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(time),
+    mIsDamaged = errors > 0 && source == file;
+    use(file, recover && hasNews);
+    mStamp = stamp;
+    if (recover && !hasNews) {
+        FLogMsg::warning(file, QStringLiteral("there is no unsaved work to recover; opened as it was saved"));
+    } else if (recover) {
+        FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(news),
                       QStringLiteral("save the project to keep it"));
-    } else {
+    } else if (hasNews && !isOwn) {
         FLogMsg::warning(file,
-                         QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(time),
+                         QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
                          QStringLiteral("openProject(file, true) recovers it"));
     }
+    return errors == 0 ||
+           fail(source,
+                errors == 1 ? QStringLiteral("1 error; what it is about isn't in the open project")
+                            : QStringLiteral("%1 errors; what they are about isn't in the open project").arg(errors),
+                QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
 }
 
-void FProject::use(const QString& file, bool hasUnsaved) {
-    FMerixCtrl::instance()->setProjectFile(file);
-    const FProjectLock::State state = mLock.acquire(file);
-    if (state == FProjectLock::State::Held) {
-        mAutosave.start(file, hasUnsaved);
-    } else if (state == FProjectLock::State::Elsewhere) {
-        FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
-                         QStringLiteral("to keep changes, save it under another name"));
+FProject::Stamp FProject::stampOf(const QString& file) {
+    const QFileInfo info(file);
+    return info.exists() ? Stamp{info.lastModified(), info.size()} : Stamp();
+}
+
+void FProject::keepDamaged(const QString& file, const QString& source) {
+    const QString kept = FSavedFile::freeName(file + QStringLiteral(".damaged"));
+    const QString fault = FSavedFile::keep(source, kept);
+    if (!fault.isEmpty()) {
+        FLogMsg::error(kept, QStringLiteral("can't keep what couldn't be read: %1").arg(fault),
+                       QStringLiteral("copy \"%1\" before you save").arg(source));
     }
+}
+
+void FProject::use(const QString& file, bool recovered) {
+    FMerixCtrl::instance()->setProjectFile(file);
+    switch (mLock.acquire(file)) {
+        case FProjectLock::State::Held:
+            mAutosave.start(file, recovered);
+            break;
+        case FProjectLock::State::Elsewhere:
+            FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
+                             QStringLiteral("to keep changes, save it under another name"));
+            break;
+        case FProjectLock::State::None:
+            FLogMsg::warning(file, QStringLiteral("nothing can be written in its folder, so unsaved work isn't kept"),
+                             QStringLiteral("to keep changes, save it in another folder"));
+            break;
+    }
+}
+
+bool FProject::mayWrite(const QString& file, FProjectLock& lock) const {
+    const QString source = QStringLiteral("saveProject");
+    const QString other = QStringLiteral("save it under another name");
+    if (file.isEmpty()) {
+        return fail(source, QStringLiteral("the project has no file yet"), QStringLiteral("give a file name"));
+    }
+    const QFileInfo info(file);
+    if (info.isDir() || info.fileName() == QLatin1String(".mrx")) {
+        return fail(source, QStringLiteral("\"%1\" names a folder").arg(file), QStringLiteral("give a file name"));
+    }
+    if (!mLock.isHeldOn(file) && lock.acquire(file) == FProjectLock::State::Elsewhere) {
+        return fail(file, QStringLiteral("not saved: the project is open elsewhere (%1)").arg(lock.getHolder()), other);
+    }
+    const bool isPresent = file == FMerixCtrl::instance()->getProjectFile();
+    return !isPresent || !info.exists() || mStamp == stampOf(file) ||
+           fail(file, QStringLiteral("not saved: another program has changed the file since it was opened here"),
+                other);
 }
 
 bool FProject::save(const QString& path) {
-    const QString& present = FMerixCtrl::instance()->getProjectFile();
-    const QString file = path.isEmpty() ? present : fullPath(path);
-    if (file.isEmpty()) {
-        return fail(QStringLiteral("saveProject"), QStringLiteral("the project has no file yet"),
-                    QStringLiteral("give a file name"));
-    }
+    const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : fullPath(withEnding(path));
     FProjectLock lock;
-    if (!mLock.isHeldOn(file) && lock.acquire(file) == FProjectLock::State::Elsewhere) {
-        return fail(file, QStringLiteral("not saved: the project is open elsewhere (%1)").arg(lock.getHolder()),
-                    QStringLiteral("save it under another name"));
+    if (!mayWrite(file, lock)) {
+        return false;
     }
-    const QByteArray bytes = FProjectText::write();
-    const bool isOther = !holds(file, bytes);
-    const QString fault = isOther ? keepPrevious(file) : QString();
-    const QString reason = fault.isEmpty() && isOther ? FSavedFile::write(file, bytes) : fault;
+    const QString reason = write(file);
     if (!reason.isEmpty()) {
         return fail(file, QStringLiteral("not saved: %1").arg(reason),
                     QStringLiteral("save it under another name, or in another folder"));
     }
+    const bool isOther = file != FMerixCtrl::instance()->getProjectFile();
     if (lock.isHeldOn(file)) {
         mLock = std::move(lock);
     }
     mIsDamaged = false;
-    mAutosave.stop();
-    use(file, false);
-    mAutosave.moveForeignAside();
+    mStamp = stampOf(file);
+    if (isOther) {
+        mAutosave.stop(false);
+        use(file, false);
+    }
+    mAutosave.saved();
     return true;
 }
 
+QString FProject::write(const QString& file) const {
+    const QByteArray bytes = FProjectText::write();
+    const QString fault = FProjectText::faultOf(bytes);
+    if (!fault.isEmpty() || holds(file, bytes)) {
+        return fault;
+    }
+    return FSavedFile::write(file, bytes, [this, &file] { return keepPrevious(file); });
+}
+
 QString FProject::keepPrevious(const QString& file) const {
+    if (!QFile::exists(file)) {
+        return {};
+    }
     const bool isDamagedFile = mIsDamaged && file == FMerixCtrl::instance()->getProjectFile();
-    const QString kept = file + (isDamagedFile ? QStringLiteral(".damaged") : QStringLiteral("~"));
-    const QString fault = QFile::exists(file) ? FSavedFile::copy(file, kept) : QString();
+    const QString kept =
+        isDamagedFile ? FSavedFile::freeName(file + QStringLiteral(".damaged")) : file + QLatin1Char('~');
+    const QString fault = FSavedFile::keep(file, kept);
     return fault.isEmpty() ? fault : QStringLiteral("can't keep the version before as \"%1\": %2").arg(kept, fault);
 }
 
-void FProject::close() {
-    mAutosave.stop();
+void FProject::close(bool keepUnsaved) {
+    mAutosave.stop(keepUnsaved);
     mLock.release();
     mIsDamaged = false;
+    mStamp = Stamp();
     FMerixCtrl::instance()->setProjectFile(QString());
 }

@@ -3,12 +3,14 @@
 #include "host/script/FAutosave.h"
 #include "host/script/FProjectLock.h"
 
+#include <QDateTime>
+
 /**
  * The open project: the model with the file that it is kept in.
  *
  * Of a project `NAME.mrx`, `NAME.mrx~` is the version before the last save, `NAME.mrx.autosave` the unsaved work,
- * `NAME.mrx.autosave~` unsaved work of an earlier session that nobody took, `NAME.mrx.damaged` a file that couldn't be
- * read whole and was saved over, and `NAME.mrx.lock` tells other processes that it is open.
+ * `NAME.mrx.autosave~` unsaved work of an earlier session that nobody took, `NAME.mrx.damaged` what couldn't be read
+ * whole and was saved over, and `NAME.mrx.lock` tells other processes that it is open.
  */
 class FProject {
  public:
@@ -18,26 +20,43 @@ class FProject {
     bool create();
     /**
      * Opens a project in place of the present one. False if there were errors, each of which has been told: if the file
-     * can't be read or is of a newer format the present project stays, else what could be read is there.
+     * can't be read, is no project or is of a newer format, the present project stays; else what could be read is
+     * there.
      * @param recover  whether to take the unsaved work that a crash has left
      */
     bool open(const QString& path, bool recover);
     /** Saves under the present name, or under another one, which is the project's from then on. */
     bool save(const QString& path);
-    /** An orderly end: unsaved work is given up. */
-    void close();
+    /**
+     * The end of the program.
+     * @param keepUnsaved  whether unsaved work stays, to be recovered; else it is given up
+     */
+    void close(bool keepUnsaved);
+
+    /** The name with the ending of projects. */
+    static QString withEnding(const QString& path);
 
  private:
+    /** What a file looked like when it was read or written here. */
+    struct Stamp {
+        QDateTime time;
+        qint64 size = -1;
+        bool operator==(const Stamp& other) const { return time == other.time && size == other.size; }
+    };
+
     FProject() = default;
 
-    static QString fullPath(const QString& path);
     static bool isIdle(const char* command);
     static void clearModel();
-    void use(const QString& file, bool hasUnsaved);
-    void tellOfAutosave(const QString& file, bool recover) const;
+    static Stamp stampOf(const QString& file);
+    static void keepDamaged(const QString& file, const QString& source);
+    bool mayWrite(const QString& file, FProjectLock& lock) const;
+    QString write(const QString& file) const;
     QString keepPrevious(const QString& file) const;
+    void use(const QString& file, bool recovered);
 
     FProjectLock mLock;
     FAutosave mAutosave;
+    Stamp mStamp;
     bool mIsDamaged = false;  //!< the file holds what couldn't be read
 };

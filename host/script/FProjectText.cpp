@@ -8,8 +8,10 @@
 #include "host/script/FSavedOrder.h"
 #include "host/script/FSavedTextReader.h"
 #include "host/script/FScriptParser.h"
+#include "host/script/FTokenStream.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -17,7 +19,19 @@ namespace {
 
 const char* const header = "// merix project, format ";
 
-bool refuse(const QString& path, const QString& reason, const QString& advice = QString()) {
+QString tooLarge(qint64 size) {
+    const QLocale format = QLocale::c();
+    return QStringLiteral("it has %1, and a project can't have more than %2")
+        .arg(format.formattedDataSize(size), format.formattedDataSize(FProjectText::largestFile));
+}
+
+/** A first line that was meant to be the header. */
+bool isLikeHeader(const QString& line) {
+    static const QRegularExpression words(QStringLiteral("merix|project|format"));
+    return line.startsWith(QLatin1String("//")) && words.match(line).hasMatch();
+}
+
+bool refuse(const QString& path, const QString& reason, const QString& advice) {
     FLogMsg::error(path, reason, advice);
     return false;
 }
@@ -38,18 +52,24 @@ QByteArray FProjectText::write() {
     return text.toUtf8();
 }
 
+QString FProjectText::faultOf(const QByteArray& text) {
+    return text.size() > largestFile ? tooLarge(text.size()) : FTokenStream::faultOf(QString::fromUtf8(text));
+}
+
 bool FProjectText::load(const QString& path) {
     mPath = path;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return refuse(path, QStringLiteral("can't read the project: %1").arg(file.errorString()));
+    const bool isFile = QFileInfo(path).isFile() || !QFileInfo::exists(path);
+    if (!isFile || !file.open(QIODevice::ReadOnly)) {
+        return refuse(path,
+                      QStringLiteral("can't read the project: %1")
+                          .arg(isFile ? file.errorString() : QStringLiteral("it is no file")),
+                      QStringLiteral("give the name of a project, such as \"wing.mrx\"; the present one is unchanged"));
     }
-    if (file.size() > largestFile) {
-        const QLocale format = QLocale::c();
-        return refuse(path, QStringLiteral("the file has %1, which is more than a project can have (%2)")
-                                .arg(format.formattedDataSize(file.size()), format.formattedDataSize(largestFile)));
+    const QByteArray bytes = file.read(largestFile + 1);
+    if (bytes.size() > largestFile) {
+        return refuse(path, tooLarge(file.size()), QStringLiteral("the present project is unchanged"));
     }
-    const QByteArray bytes = file.readAll();
     if (const int line = FTextDecoder::firstInvalidLine(bytes)) {
         ++mWarnings;
         FLogMsg::error(path + QLatin1Char(':') + QString::number(line),
@@ -63,6 +83,12 @@ bool FProjectText::checkHeader() {
     const QString line = mText.left(mText.indexOf(QLatin1Char('\n'))).left(200);
     static const QRegularExpression pattern(QStringLiteral("^// merix project, format (\\d{1,9})\\s*$"));
     const QRegularExpressionMatch match = pattern.match(line);
+    if (!match.hasMatch() && !isLikeHeader(line)) {
+        return refuse(mPath,
+                      QStringLiteral("it is no project: its first line is \"%1\", not \"%2%3\"")
+                          .arg(line.trimmed().left(60), QLatin1String(header), QString::number(version)),
+                      QStringLiteral("if it is one that lost its first line, give it that line; nothing was changed"));
+    }
     if (!match.hasMatch()) {
         ++mWarnings;
         FLogMsg::error(mPath + QStringLiteral(":1"),

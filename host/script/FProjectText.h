@@ -15,10 +15,12 @@ class FProjectText {
 
     /** All objects of the model that belong to the project. The same model gives the same bytes. */
     static QByteArray write();
+    /** What keeps a text that was written from being read again; empty if nothing does. */
+    static QString faultOf(const QByteArray& text);
 
     /**
-     * Reads a file without touching the model. False, with a message, if it can't be read, is too large, or was written
-     * in a newer format.
+     * Reads a file without touching the model. False, with a message, if it can't be read, is too large, is no project,
+     * or was written in a newer format.
      */
     bool load(const QString& path);
     /** Makes the objects that the loaded text declares; returns how many errors were reported. Nothing is run. */

@@ -8,10 +8,10 @@ FExprBase FScriptNames::find(const QString& name) const {
     if (variable != mVariables.end()) {
         return *variable;
     }
-    if (mAnnounced.contains(name)) {
-        return {};
-    }
     const FExprBase declared = mDeclared.value(name);
+    if (isAnnounced(name)) {
+        return declared.isValid() ? declared : FExprBase();
+    }
     return declared.isValid() ? declared : FExprBase(FObjectManager::instance()->find(name));
 }
 

@@ -19,15 +19,13 @@ class FScriptNames {
     /** Whether the script declared an object of that name which isn't there any more. */
     bool isGone(const QString& name) const;
     void setVariable(const QString& name, const FExprBase& value) { mVariables.insert(name, value); }
-    void setDeclared(const QString& name, const FExprBase& object) {
-        mDeclared.insert(name, object);
-        mAnnounced.remove(name);
-    }
+    void setDeclared(const QString& name, const FExprBase& object) { mDeclared.insert(name, object); }
     /**
-     * The script declares an object of that name further on: until it does, the name stands for nothing, also if the
-     * model has such an object.
+     * The script declares an object of that name, perhaps further on: until it does, the name stands for nothing, also
+     * if the model has such an object, and it is never a word of an enumeration.
      */
     void announce(const QString& name) { mAnnounced.insert(name); }
+    bool isAnnounced(const QString& name) const { return mAnnounced.contains(name); }
     QStringList getNames() const;
 
  private:

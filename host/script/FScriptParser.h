@@ -22,7 +22,7 @@ struct FParseMode {
 };
 
 /// Longest script, in UTF-16 units; a longer one is an error and not looked at.
-constexpr int longestScript = 256 * 1024 * 1024;
+constexpr int longestScript = 512 * 1024 * 1024;
 
 /// Errors that are told one by one; the last error then tells how many more there are.
 constexpr int mostErrors = 1000;

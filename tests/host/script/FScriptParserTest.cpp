@@ -65,7 +65,7 @@ TEST(FScriptParserTest, tooLongAScriptIsRefused) {
     const FScript script = parseScript(QString::fromRawData(&character, longestScript + 1), "s");
     ASSERT_EQ(script.errors.size(), 1U);
     EXPECT_EQ(script.errors[0].toString("s").toStdString(),
-              "s:1:1: the script has 268435457 characters and is not read: the limit is 268435456, so split it");
+              "s:1:1: the script has 536870913 characters and is not read: the limit is 536870912, so split it");
 }
 
 TEST(FScriptParserTest, damagedTextsCostLinearTime) {

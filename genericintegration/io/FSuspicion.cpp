@@ -154,9 +154,9 @@ FFoundFlags ofText(std::string_view text) {
 
 // Without a branch for a byte, the compiler can look at many at once.
 bool mayBeIn(std::string_view text) {
-    constexpr size_t Longest = 4096;
-    for (size_t begin = 0; begin + 1 < text.size(); begin += Longest) {
-        const std::string_view part = text.substr(begin, Longest + 2);
+    constexpr size_t PartSize = 4096;
+    for (size_t begin = 0; begin + 1 < text.size(); begin += PartSize) {
+        const std::string_view part = text.substr(begin, PartSize + 2);
         unsigned char found = part.substr(part.size() - 2) == "**";
         for (size_t i = 0; i + 2 < part.size(); ++i) {
             const auto is = [&part, i](size_t ahead, char letter) -> unsigned char {

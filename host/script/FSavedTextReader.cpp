@@ -13,11 +13,10 @@ int FSavedTextReader::read(const FSyntaxBody& statements) {
         goOn(i);
     }
     workOffReady();
-    // What is left waits in a ring: the first one is carried out as it stands, and tells what it misses.
-    for (std::size_t i = 0; i < mStatements.size(); ++i) {
-        if (!mStatements[i].isEnded) {
-            mStatements[i].need = mStatements[i].needs.size();
-            goOn(i);
+    // What is left waits for objects that need each other to be made.
+    for (Statement& statement : mStatements) {
+        if (!statement.isEnded && statement.declaration && statement.object.isEmpty()) {
+            breakRing(statement);
             workOffReady();
         }
     }
@@ -119,6 +118,14 @@ void FSavedTextReader::create(Statement& statement) {
     const FDeclarer::Outcome outcome = mDeclarer.create(*statement.declaration, statement.object);
     note(outcome);
     statement.isEnded = outcome != FDeclarer::Outcome::Done || statement.declaration->block.empty();
+    settle(statement.declaration->name);
+}
+
+void FSavedTextReader::breakRing(Statement& statement) {
+    report({statement.declaration->creator.place,
+            QStringLiteral("\"%1\" can't be made: it needs \"%2\", which in turn needs it")
+                .arg(statement.declaration->name, statement.needs[statement.need])});
+    statement.isEnded = true;
     settle(statement.declaration->name);
 }
 

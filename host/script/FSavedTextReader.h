@@ -46,6 +46,8 @@ class FSavedTextReader {
     void findNeeds(Statement& statement) const;
     void collectNames(const FSyntaxExpr& expression, QStringList& names) const;
     void create(Statement& statement);
+    /** Gives up an object that can't be made before another one, which can't be made before it. */
+    void breakRing(Statement& statement);
     void carryOutLine(Statement& statement);
     void carryOutCommand(Statement& statement);
     /** The name stands for an object now, or never will. */

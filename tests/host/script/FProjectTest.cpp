@@ -96,7 +96,8 @@ TEST_F(FProjectTest, namesInARingComeBack) {
     EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"c"});
     EXPECT_EQ(textOf("c.getNumber()"), "5");
     EXPECT_TRUE(logHolds("ring.mrx:5:12: nothing is named \"nobody\""));
-    EXPECT_TRUE(logHolds("ring.mrx:2:9: nothing is named \"b\""));
+    EXPECT_TRUE(logHolds("ring.mrx:2:1: \"a\" can't be made: it needs \"b\", which in turn needs it"));
+    EXPECT_TRUE(logHolds("ring.mrx:3:9: nothing is named \"a\""));
 }
 
 TEST_F(FProjectTest, anyTextSurvives) {

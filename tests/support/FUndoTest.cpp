@@ -5,6 +5,7 @@
 #include "host/script/FProject.h"
 #include "host/script/FProjectText.h"
 #include "tests/support/FModelState.h"
+#include "tests/support/randomCases.h"
 
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -17,9 +18,7 @@ constexpr std::size_t usualLimit = std::size_t{256} << 20U;
 constexpr int sequenceLength = 60;
 
 int caseCount() {
-    bool isSet = false;
-    const int count = qEnvironmentVariableIntValue("MERIX_RANDOM_CASES", &isSet);
-    return isSet ? count : 40;
+    return randomCases(40);
 }
 
 FHistory& history() {

@@ -10,14 +10,12 @@
 #include "genericintegration/io/FUtf8.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/io/findValue.h"
+#include "tests/support/randomCases.h"
 
 namespace {
 
-/// More of them can be asked for, to look for what is rarer.
 quint32 caseCount() {
-    bool isSet = false;
-    const int count = qEnvironmentVariableIntValue("MERIX_RANDOM_CASES", &isSet);
-    return isSet ? static_cast<quint32>(count) : 2000;
+    return static_cast<quint32>(randomCases(2000));
 }
 
 quint64 bitsOf(double number) {

@@ -19,27 +19,6 @@ qint64 sizeOf(std::string_view text) {
 constexpr std::array<signed char, 16> Lengths = {1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 0, 0, 2, 2, 3, 4};
 constexpr std::array<unsigned char, 5> LeadBits = {0, 0x7F, 0x1F, 0x0F, 0x07};
 
-char* putCharacter(char* out, char32_t c) {
-    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
-    if (c < 0x80) {
-        put(c);
-        return out;
-    }
-    if (c < 0x800) {
-        put(0xC0 | (c >> 6));
-    } else {
-        if (c < 0x10000) {
-            put(0xE0 | (c >> 12));
-        } else {
-            put(0xF0 | (c >> 18));
-            put(0x80 | ((c >> 12) & 0x3F));
-        }
-        put(0x80 | ((c >> 6) & 0x3F));
-    }
-    put(0x80 | (c & 0x3F));
-    return out;
-}
-
 }  // namespace
 
 bool isAscii(std::string_view text) {
@@ -114,6 +93,27 @@ qint64 utf16Length(std::string_view text) {
     for (const char byte : text)
         length += units(byte);
     return length;
+}
+
+char* putCharacter(char* out, char32_t c) {
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
+    if (c < 0x80) {
+        put(c);
+        return out;
+    }
+    if (c < 0x800) {
+        put(0xC0 | (c >> 6));
+    } else {
+        if (c < 0x10000) {
+            put(0xE0 | (c >> 12));
+        } else {
+            put(0xF0 | (c >> 18));
+            put(0x80 | ((c >> 12) & 0x3F));
+        }
+        put(0x80 | ((c >> 6) & 0x3F));
+    }
+    put(0x80 | (c & 0x3F));
+    return out;
 }
 
 // Room is made for many characters at once, and what they didn't need is given back.

@@ -14,6 +14,9 @@ namespace FUtf8 {
 /// What next() gives for bytes that are no character.
 constexpr char32_t NoCharacter = 0xFFFFFFFF;
 
+/// Number of bytes that a character takes at most.
+constexpr qint64 LongestCharacter = 4;
+
 inline bool isContinuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
@@ -52,6 +55,9 @@ qint64 trimmedSize(std::string_view text);
 
 /// Number of UTF-16 units of the text.
 qint64 utf16Length(std::string_view text);
+
+/// Writes a character; returns the end of its bytes, of which there are LongestCharacter at most.
+char* putCharacter(char* out, char32_t c);
 
 /// Appends a text; a pair of surrogates mustn't be split between two calls.
 void append(std::vector<char>& out, const QString& text);

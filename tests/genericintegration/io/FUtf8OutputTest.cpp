@@ -5,7 +5,10 @@
 #include <QBuffer>
 #include <QFile>
 
+#include <random>
 #include <vector>
+
+#include "tests/support/randomCases.h"
 
 namespace {
 
@@ -31,6 +34,34 @@ TEST(FUtf8OutputTest, givesTheBytesOfTheWholeTextHoweverItIsCut) {
     for (int before = 32760; before < 32770; ++before) {
         const QString filled = QString(before, 'x') + QString::fromUtf8("😀😀ä") + lone;
         EXPECT_EQ(bytesOf(filled, {100000}), filled.toUtf8()) << before;
+    }
+}
+
+/// Runs of units of one kind each, so that plain blocks begin and end anywhere.
+QString randomText(std::mt19937& random) {
+    static const QString kinds[] = {"a~ \n\x7f", QString::fromUtf8("\u0080äß\u07ff"),
+                                    QString::fromUtf8("\u0800€\uffff"), QString::fromUtf8("😀𐀀"),
+                                    QString(QChar(0xd83d)) + QChar(0xde00) + "x"};
+    QString text;
+    for (unsigned run = random() % 6; run > 0; --run) {
+        const QString& kind = kinds[random() % 5];
+        for (unsigned unit = random() % 150; unit > 0; --unit) {
+            text += kind[int(random() % unsigned(kind.size()))];
+        }
+    }
+    if (random() % 4 == 0) {
+        text.insert(int(random() % unsigned(text.size() + 1)), QChar('\0'));
+    }
+    return text;
+}
+
+TEST(FUtf8OutputTest, agreesWithQtOnRandomTexts) {
+    std::mt19937 random(7);
+    for (int round = randomCases(2000); round > 0; --round) {
+        const QString text = randomText(random);
+        const int end = text.indexOf(QChar('\0'));
+        const std::vector<int> lengths{1 + int(random() % 99), 1 + int(random() % 9), 1 + int(random() % 999)};
+        ASSERT_EQ(bytesOf(text, lengths), text.left(end < 0 ? text.size() : end).toUtf8()) << "round " << round;
     }
 }
 

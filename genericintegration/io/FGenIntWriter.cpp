@@ -162,8 +162,8 @@ void FGenIntWriter::writeTemplate(const Output& output, const QString& text, con
     substitution.setObserver([&configuration](const FTagReport& report) {
         if (report.outcome == FTagOutcome::Unknown) {
             FLogMsg::info(source(),
-                          QStringLiteral("Entry ") + report.name + QStringLiteral(" is not part of configuration ") +
-                              configuration->getName(),
+                          QStringLiteral("Entry ") + report.name.toString() +
+                              QStringLiteral(" is not part of configuration ") + configuration->getName(),
                           QStringLiteral("Entry skipped"));
         }
     });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringView>
 
 #include "genericintegration/templates/FTextPlaces.h"
 
@@ -11,11 +11,15 @@ enum class FTagOutcome {
     Unterminated,  ///< no closing marker: it and the rest of the template are lost
 };
 
-/// One tag of a template, and what became of it.
+/// One tag of a template, and what became of it. It lasts as long as the call that tells of it.
 struct FTagReport {
-    FTagOutcome outcome = FTagOutcome::Unknown;
-    QString name;            ///< as it was looked up; empty for an unterminated tag
-    int row = -1;            ///< that replaced it, or -1
-    qsizetype position = 0;  ///< of the tag in the template, in UTF-16 units
-    FTextPlace place;        ///< the same as line and column
+    FTagOutcome outcome;
+    QStringView name;     ///< as it was looked up; empty for an unterminated tag
+    int row;              ///< that replaced it, or -1
+    qsizetype position;   ///< of the tag in the template, in UTF-16 units
+    FTextPlaces& places;  ///< of the template
+
+    /// The position as line and column. Asking for each tag takes time linear in the template, asking for none takes
+    /// none.
+    FTextPlace place() const { return places.at(position); }
 };

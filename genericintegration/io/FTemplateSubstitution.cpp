@@ -23,7 +23,7 @@ void FTemplateSubstitution::run(const QString& text) {
     const auto lost = scanner.unterminated();
     copy(view.mid(copied, lost.value_or(view.size()) - copied));
     if (lost && mObserver) {
-        mObserver({FTagOutcome::Unterminated, QString(), FTemplateKeys::notFound, *lost, places.at(*lost)});
+        mObserver({FTagOutcome::Unterminated, {}, FTemplateKeys::notFound, *lost, places});
     }
 }
 
@@ -41,7 +41,7 @@ void FTemplateSubstitution::replace(const FTemplateTag& tag, FTextPlaces& places
     }
     if (mObserver) {
         const auto outcome = found ? FTagOutcome::Replaced : FTagOutcome::Unknown;
-        mObserver({outcome, name.toString(), row, tag.position, places.at(tag.position)});
+        mObserver({outcome, name, row, tag.position, places});
     }
 }
 

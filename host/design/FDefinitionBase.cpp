@@ -68,8 +68,15 @@ const QMap<QString, FExpr<FEntryBase>>& FDefinitionBase::getEntryMap() const {
         mEntryMap.clear();
         collect(*this, QString(), mEntryMap);
         mMapVersion = getStructureVersion();
+        static quint64 maps = 0;
+        mMapNumber = ++maps;
     }
     return mEntryMap;
+}
+
+quint64 FDefinitionBase::getEntryMapNumber() const {
+    getEntryMap();
+    return mMapNumber;
 }
 
 FEntryBase* FDefinitionBase::getEntryOfScope(const QString& path) const {

@@ -17,6 +17,8 @@ class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHo
      * Built anew only after a change of the structure; a reference to it lasts until then.
      */
     const QMap<QString, FExpr<FEntryBase>>& getEntryMap() const;
+    /** A number that stands for the present entry map: whenever a map is built, it gets one that none had before. */
+    quint64 getEntryMapNumber() const;
     /** The entry or group of that path; null if there is none. */
     FEntryBase* getEntryOfScope(const QString& path) const;
 
@@ -46,4 +48,5 @@ class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHo
     FExprBase mStructure;
     mutable QMap<QString, FExpr<FEntryBase>> mEntryMap;
     mutable quint64 mMapVersion = 0;
+    mutable quint64 mMapNumber = 0;
 };

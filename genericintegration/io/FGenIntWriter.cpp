@@ -15,7 +15,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <QRegExp>
+
+#include <algorithm>
+#include <typeinfo>
 
 FClassData FGenIntWriter::mClass("FGenIntWriter", &FObject::mClass);
 
@@ -29,7 +31,7 @@ QString source() {
 }
 
 int lastSeparator(const QString& path) {
-    return path.lastIndexOf(QRegExp(QStringLiteral("/|\\\\")));
+    return std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
 }
 
 bool openForWriting(QFile& file, const QString& name) {
@@ -38,17 +40,31 @@ bool openForWriting(QFile& file, const QString& name) {
                       QStringLiteral("give the template a file name below it"));
         return false;
     }
-    QDir().mkpath(file.fileName().left(lastSeparator(file.fileName())));
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
+    const QString path = file.fileName();
+    const int separator = lastSeparator(path);
+    // Most folders are there, which an open file shows sooner than a look for the folder.
+    if (separator >= 0 && path[separator] == u'/' && file.open(mode)) {
+        return true;
+    }
+    QDir().mkpath(path.left(separator));
+    return file.open(mode);
 }
 
 /** Files that values name reach the disk now. */
-void updateFileNames(const FConfiguration& configuration) {
-    for (const auto& row : configuration.getEntryMap()) {
-        const auto* entry = dynamic_cast<const FEntry*>(row.getObject());
-        const FObject* value = entry ? entry->getValue().getObject() : nullptr;
+void updateFileNames(const FValueTable& table) {
+    // All entries are passed for each design, and most values are of the same type: that of numbers.
+    const std::type_info* known = nullptr;
+    for (const FEntry* entry : table.getEntries()) {
+        const FObject* stored = entry->getValue().getStored();
+        if (!stored || &typeid(*stored) == known) {
+            continue;
+        }
+        const FObject* value = stored->evaluate();
         if (value && value->getPrototype() == FFileName::null()) {
             value->update();
+        } else if (!stored->isCmd()) {
+            known = &typeid(*stored);
         }
     }
 }
@@ -91,7 +107,7 @@ bool FGenIntWriter::exportCommandFiles(const FExpr<FConfiguration>& configuratio
             return false;
         }
     }
-    updateFileNames(*configuration.ptr());
+    updateFileNames(table);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "genericintegration/io/FValueTable.h"
 
+#include "genericintegration/io/FTagRows.h"
 #include "genericintegration/templates/FExportsGroup.h"
 #include "genericintegration/templates/FGenIntFile.h"
 #include "genericintegration/templates/FTemplateOwner.h"
@@ -7,34 +8,37 @@
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntry.h"
 
-FValueTable::FValueTable(const FConfiguration& configuration, const FTemplateOwner& definition, Use use) : mUse(use) {
-    QMap<QString, FExprBase> rows;
-    const auto& entries = configuration.getEntryMap();
-    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
-        rows.insert(entry.key(), entry.value());
-    }
+namespace {
+
+QStringList keysOfFiles(const FTemplateOwner& definition, FValueTable::Use use) {
+    const QString front = use == FValueTable::Use::Export ? FExportsGroup::prefix() : QString();
+    QStringList keys;
     for (const FExpr<FGenIntFile>& file : definition.getFiles()) {
         if (file) {
-            rows.insert(use == Use::Export ? FExportsGroup::prefix() + file->getFileName() : file->getFileName(), file);
+            keys.append(front + file->getFileName());
         }
     }
-    for (auto row = rows.begin(); row != rows.end(); ++row) {
-        mKeys.append(row.key(), row.value().isValid());
-        mRows.push_back({row.key(), row.value()});
-    }
+    return keys;
+}
+
+}  // namespace
+
+FValueTable::FValueTable(const FConfiguration& configuration, const FTemplateOwner& definition, Use use)
+    : mUse(use),
+      mEntryMap(configuration.getEntryMap()),
+      mRows(FTagRows::of(configuration, definition, keysOfFiles(definition, use))) {}
+
+const FTemplateKeys& FValueTable::getKeys() const {
+    return mRows->getKeys();
+}
+
+const std::vector<const FEntry*>& FValueTable::getEntries() const {
+    return mRows->getEntries();
 }
 
 QString FValueTable::textOf(int row) const {
-    const Row& found = mRows[static_cast<std::size_t>(row)];
-    const FObject* object = found.object.getObject();
-    if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
-        return entryText(*entry);
-    }
-    if (dynamic_cast<const FGenIntFile*>(object)) {
-        // The length of the word with its "|", whatever the key begins with.
-        return found.key.mid(FExportsGroup::prefix().size());
-    }
-    return {};
+    const FTagRows::Row& found = mRows->at(row);
+    return found.entry ? entryText(*found.entry) : found.fileName;
 }
 
 QString FValueTable::entryText(const FEntry& entry) const {

@@ -1,21 +1,24 @@
 #pragma once
 
-#include "genericintegration/io/FTemplateKeys.h"
 #include "host/core/FExpr.h"
 
 #include <QMap>
 #include <QString>
-#include <QStringList>
 
+#include <memory>
 #include <vector>
 
 class FConfiguration;
 class FEntry;
+class FEntryBase;
+class FTagRows;
+class FTemplateKeys;
 class FTemplateOwner;
 
 /**
- * What tags can name: the entries of a configuration, and the templates of its definition. Built once for all files of
- * one export or preview; the objects stay with the configuration and the definition.
+ * What tags can name: the entries of a configuration, and the templates of its definition, as they are when the table
+ * is made. Made once for all files of one export or preview. That takes time for the templates only, unless an entry
+ * has come, gone or been renamed since the last one.
  */
 class FValueTable {
  public:
@@ -25,18 +28,16 @@ class FValueTable {
      */
     FValueTable(const FConfiguration& configuration, const FTemplateOwner& definition, Use use);
 
-    const FTemplateKeys& getKeys() const { return mKeys; }
+    const FTemplateKeys& getKeys() const;
     /** The text that replaces a tag which the row answers. */
     QString textOf(int row) const;
+    /** All entries of the configuration that hold values. */
+    const std::vector<const FEntry*>& getEntries() const;
 
  private:
-    struct Row {
-        QString key;
-        FExprBase object;
-    };
     QString entryText(const FEntry& entry) const;
 
     Use mUse;
-    std::vector<Row> mRows;
-    FTemplateKeys mKeys;
+    QMap<QString, FExpr<FEntryBase>> mEntryMap;  // shared; keeps the entries of the rows, whatever a value does
+    std::shared_ptr<const FTagRows> mRows;
 };

@@ -4,7 +4,10 @@
 
 #include <QList>
 
+#include <memory>
+
 class FGenIntFile;
+class FTagRows;
 
 /** What templates and the writer need of the definition that holds the templates. */
 class FTemplateOwner {
@@ -17,4 +20,10 @@ class FTemplateOwner {
     virtual int getOutputPrecision() const = 0;
     /** An entry, or a file that tags name, has a new name: tags follow. */
     virtual void updateCommandFiles(const QString& oldName, const QString& newName) = 0;
+
+    /** What the writer keeps here from one call to the next; nobody else's. */
+    std::shared_ptr<const FTagRows>& tagRows() const { return mTagRows; }
+
+ private:
+    mutable std::shared_ptr<const FTagRows> mTagRows;
 };

@@ -5,13 +5,19 @@
 #include "genericintegration/templates/FTemplateOwner.h"
 #include "host/core/FInitPrototype.h"
 #include "host/core/FObjectManager.h"
+#include "host/core/FString.h"
 #include "host/lodm/FConfigurationCustom.h"
 #include "host/lodm/FDefinitionCustom.h"
 #include "tests/support/FModelTest.h"
+#include "tests/support/randomCases.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <functional>
+#include <random>
+#include <set>
 
 namespace {
 
@@ -105,6 +111,62 @@ TEST_F(FGenIntWriterTest, textEndsAtItsFirstNulAndIsUtf8) {
     add("in.dat", QString::fromUtf8("äöü€𝄞") + QChar(0) + "lost");
     ASSERT_TRUE(write());
     EXPECT_EQ(written("in.dat"), "äöü€𝄞");
+}
+
+TEST_F(FGenIntWriterTest, fileNamesAreBroughtUpToDateWithoutATag) {
+    run("def.addEntry(\"a\", 1)\ndef.addEntry(\"b\", 2)\ndef.addEntry(\"c\", 3)\ndef.addEntry(\"d\", \"text\")");
+    const FExprBase name(new FFileName("x"));
+    const FExprBase text(new FString("x"));
+    configuration->setEntryValue("b", name);
+    configuration->setEntryValue("d", text);
+    name.getStored()->setOutOfDate(true);
+    text.getStored()->setOutOfDate(true);
+    ASSERT_TRUE(write());
+    EXPECT_FALSE(name.getStored()->isOutOfDate());
+    EXPECT_TRUE(text.getStored()->isOutOfDate());
+}
+
+TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
+    auto* other = new FConfigurationCustom("other");
+    other->registerObject();
+    other->setDefinition(FExpr<FDefinition>(definition));
+    add("in.dat",
+        "<entry>a</entry>,<entry>b</entry>,<entry>c</entry>,<entry>g|a</entry>,<entry>Exports|x</entry>,<entry>x</"
+        "entry>");
+    FGenIntFile* named = add("x", "");
+    const std::vector<std::function<void()>> changes{
+        [&] { run("def.addEntry(\"a\", 1)"); },
+        [&] { run("def.addEntry(\"b\", 2)"); },
+        [&] { run("def.addEntry(\"g|a\", 3)"); },
+        [&] { run("def.removeEntry(\"b\")"); },
+        [&] { run("conf.setEntryValue(\"a\", 4)"); },
+        [&] { run("other.setEntryValue(\"a\", 5)"); },
+        [&] { run("undo()"); },
+        [&] { run("redo()"); },
+        [&] { std::swap(configuration, other); },
+        [&] { named->setFileName(named->getFileName() == "x" ? "y" : "x"); },
+        [&] { run("def.renameEntry(\"a\", \"c\")"); },
+        [&] {
+            if (definition->mFiles.size() > 1) {
+                definition->mFiles.removeLast();
+            } else {
+                definition->mFiles.append(FExpr<FGenIntFile>(named));
+            }
+        },
+        [&] { preview(); },
+    };
+    std::mt19937 random(3);
+    std::set<QByteArray> seen;
+    for (int round = randomCases(150); round > 0; --round) {
+        changes[random() % changes.size()]();
+        ASSERT_TRUE(write());
+        const QByteArray kept = written("in.dat");
+        definition->tagRows().reset();
+        ASSERT_TRUE(write());
+        ASSERT_EQ(kept, written("in.dat"));
+        seen.insert(kept);
+    }
+    EXPECT_GT(seen.size(), 10U);
 }
 
 TEST_F(FGenIntWriterTest, aFileThatCantBeOpenedEndsTheExport) {

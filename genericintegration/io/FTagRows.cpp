@@ -1,0 +1,46 @@
+#include "genericintegration/io/FTagRows.h"
+
+#include "genericintegration/templates/FExportsGroup.h"
+#include "genericintegration/templates/FTemplateOwner.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FEntry.h"
+
+#include <algorithm>
+
+std::shared_ptr<const FTagRows> FTagRows::of(const FConfiguration& configuration, const FTemplateOwner& definition,
+                                             const QStringList& fileKeys) {
+    std::shared_ptr<const FTagRows>& kept = definition.tagRows();
+    if (!kept || kept->mEntryMapNumber != configuration.getEntryMapNumber() || kept->mFileKeys != fileKeys) {
+        kept.reset(new FTagRows(configuration, fileKeys));
+    }
+    return kept;
+}
+
+FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileKeys)
+    : mEntryMapNumber(configuration.getEntryMapNumber()), mFileKeys(fileKeys) {
+    QStringList sorted = fileKeys;
+    sorted.sort();
+    sorted.removeDuplicates();
+    // The length of the word with its "|", whatever the key begins with.
+    const auto appendFile = [this](const QString& key) {
+        append(key, {nullptr, key.mid(FExportsGroup::prefix().size())});
+    };
+    auto file = sorted.cbegin();
+    const auto& entries = configuration.getEntryMap();
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
+        for (; file != sorted.cend() && *file < entry.key(); ++file) {
+            appendFile(*file);
+        }
+        const auto* object = static_cast<const FEntry*>(FEntryBase::of(entry.value()));
+        mEntries.push_back(object);
+        if (file == sorted.cend() || *file != entry.key()) {
+            append(entry.key(), {object, {}});
+        }
+    }
+    std::for_each(file, sorted.cend(), appendFile);
+}
+
+void FTagRows::append(const QString& key, const Row& row) {
+    mKeys.append(key, true);
+    mRows.push_back(row);
+}

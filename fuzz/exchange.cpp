@@ -42,7 +42,7 @@ QByteArray write(const FDefinitionGenInt& definition) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     FFuzzCheck::holds(FLodmDefinitionParser().write(&buffer, &definition), "a definition can be written");
-    FGenIntObjectArea::write(&buffer, definition, objects);
+    FFuzzCheck::holds(FGenIntObjectArea::write(&buffer, definition, objects), "its objects can be written");
     return bytes;
 }
 

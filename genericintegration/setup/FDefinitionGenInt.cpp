@@ -348,9 +348,9 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
     if (opens && !openSaveFile(file)) {
         return false;
     }
-    const bool isWritten = FLodmDefinitionParser().write(&file, this);
-    FGenIntObjectArea::write(&file, *this, objects);
-    return opens ? closeSaveFile(file) && isWritten : isWritten && file.error() == QFileDevice::NoError;
+    const bool isWritten =
+        FLodmDefinitionParser().write(&file, this) && FGenIntObjectArea::write(&file, *this, objects);
+    return opens ? closeSaveFile(file, isWritten) : isWritten && file.flush();
 }
 
 void FDefinitionGenInt::setInProject(bool inProject) {

@@ -47,9 +47,10 @@ Objects exportedObjects(const FDefinitionGenInt& definition) {
 
 }  // namespace
 
-void FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects) {
-    QTextStream stream(device);
-    stream.setCodec("UTF-8");
+bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects) {
+    // Not to the device at once: a stream takes a short write for a good one.
+    QString text;
+    QTextStream stream(&text);
     stream << '\n' << FLodmDefinitionParser::smObjectArea << '\n';
     for (const FExpr<FGenIntFile>& file : definition.getFiles()) {
         if (file) {
@@ -62,4 +63,7 @@ void FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& defini
     }
     stream << "curFile : " << nameOf(definition.getCurFile()) << '\n';
     stream << "lastFile : " << nameOf(definition.getLastFile()) << '\n';
+    stream.flush();
+    const QByteArray bytes = text.toUtf8();
+    return device->write(bytes) == bytes.size();
 }

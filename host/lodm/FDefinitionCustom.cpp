@@ -13,10 +13,10 @@
 namespace {
 
 bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
-    FLogMsg::error(
-        definition.getName(),
-        QStringLiteral("the definition can't be saved in \"%1\": %2").arg(definition.getSaveFileName(), reason),
-        QStringLiteral("a file that was there is unchanged"));
+    const QString& name = definition.getSaveFileName();
+    FLogMsg::error(definition.getName(),
+                   QStringLiteral("the definition can't be saved in \"%1\": %2").arg(name, reason),
+                   QFileInfo::exists(name) ? QStringLiteral("what is there is unchanged") : QString());
     return false;
 }
 
@@ -35,7 +35,7 @@ bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
         return cantSave(definition, file.errorString());
     }
     const bool isWritten = definition.save({}, file);
-    return definition.closeSaveFile(file) && isWritten;
+    return definition.closeSaveFile(file, isWritten);
 }
 
 void commands(FCmdTable& table) {
@@ -46,6 +46,15 @@ void commands(FCmdTable& table) {
 QString realPath(const QString& name) {
     const QString path = QFileInfo(name).canonicalFilePath();
     return path.isEmpty() ? QFileInfo(name).absoluteFilePath() : path;
+}
+
+/** What kept the file from taking all; empty if nothing did. Closing it may forget that. */
+QString writeFault(QFile& file, bool isWritten) {
+    if (file.flush() && isWritten) {
+        return {};
+    }
+    return file.error() == QFileDevice::NoError ? QStringLiteral("not all of it could be written; is the disk full?")
+                                                : file.errorString();
 }
 
 QString moveOver(const QString& from, const QString& to) {
@@ -63,14 +72,17 @@ bool FDefinitionCustom::openSaveFile(QFile& file) const {
     if (mSaveFileName.isEmpty()) {
         return false;
     }
-    file.setFileName(realPath(mSaveFileName) + QStringLiteral(".part"));
-    return file.open(QIODevice::WriteOnly);
+    const QString name = realPath(mSaveFileName) + QStringLiteral(".part");
+    // What is left of that name may be a link to another file.
+    QFile::remove(name);
+    file.setFileName(name);
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
 }
 
-bool FDefinitionCustom::closeSaveFile(QFile& file) const {
+bool FDefinitionCustom::closeSaveFile(QFile& file, bool isWritten) const {
     const QString path = realPath(mSaveFileName);
+    QString reason = writeFault(file, isWritten);
     file.close();
-    QString reason = file.error() == QFileDevice::NoError ? QString() : file.errorString();
     if (reason.isEmpty()) {
         if (QFileInfo::exists(path)) {
             file.setPermissions(QFile::permissions(path));
@@ -96,5 +108,5 @@ bool FDefinitionCustom::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
         return false;
     }
     const bool isWritten = FLodmDefinitionParser().write(&file, this);
-    return opens ? closeSaveFile(file) && isWritten : isWritten;
+    return opens ? closeSaveFile(file, isWritten) : isWritten && file.flush();
 }

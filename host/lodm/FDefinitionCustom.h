@@ -30,8 +30,12 @@ class FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase
      * no file; what to say of it is the caller's.
      */
     bool openSaveFile(QFile& file) const;
-    /** Closes it and puts it in the place of the definition's file, in one step; that one stays if it can't. */
-    bool closeSaveFile(QFile& file) const;
+    /**
+     * Closes it and puts it in the place of the definition's file, in one step.
+     * @param isWritten  whether all was written to it
+     * False, with a message, if it wasn't or doesn't reach the disk; the definition's file stays as it was then.
+     */
+    bool closeSaveFile(QFile& file, bool isWritten) const;
 
  protected:
     using FDefinitionCustomBase::init;

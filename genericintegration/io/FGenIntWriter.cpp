@@ -35,7 +35,7 @@ int lastSeparator(const QString& path) {
 }
 
 bool openForWriting(QFile& file, const QString& name) {
-    if (FPathManager::leadsOut(name)) {
+    if (FPathManager::leadsOut(file.fileName().chopped(name.size()), name)) {
         FLogMsg::info(source(), QStringLiteral("\"%1\" leads out of the run directory").arg(name),
                       QStringLiteral("give the template a file name below it"));
         return false;
@@ -43,6 +43,9 @@ bool openForWriting(QFile& file, const QString& name) {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
     const QString path = file.fileName();
     const int separator = lastSeparator(path);
+    if (!FPathManager::removeLink(path)) {
+        return false;
+    }
     // Most folders are there, which an open file shows sooner than a look for the folder.
     if (separator >= 0 && path[separator] == u'/' && file.open(mode)) {
         return true;

@@ -16,6 +16,15 @@ QString fromProject(const QString& path) {
     return project.isEmpty() ? path : QFileInfo(project).dir().filePath(path);
 }
 
+bool begin(QSaveFile& file) {
+    return FPathManager::removeLink(file.fileName()) && file.open(QIODevice::WriteOnly);
+}
+
+/** Also tells of a disk that takes no more, which `commit` alone overlooks for what is still gathered. */
+bool finish(QSaveFile& file) {
+    return file.flush() && file.commit();
+}
+
 bool copyBytes(QFile& from, QSaveFile& to) {
     for (;;) {
         const QByteArray block = from.read(blockSize);
@@ -36,13 +45,15 @@ QString cantWrite(const QSaveFile& file) {
 
 // Joined as it stands: a name that begins with a slash lies in the folder, too.
 FRunFolderFile::FRunFolderFile(const QString& folder, const QString& name)
-    : mName(name), mPath(folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name) {}
+    : mFolder(folder),
+      mName(name),
+      mPath(folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name) {}
 
 QString FRunFolderFile::prepare() const {
     if (mName.isEmpty()) {
         return QStringLiteral("it names no file");
     }
-    if (FPathManager::leadsOut(mName)) {
+    if (FPathManager::leadsOut(mFolder, mName)) {
         return QStringLiteral("\"%1\" would lie outside the folder of the run").arg(mName);
     }
     const QString folder = QFileInfo(mPath).path();
@@ -59,17 +70,19 @@ QString FRunFolderFile::copyFrom(const QString& source) const {
         return QStringLiteral("can't read \"%1\": %2").arg(QFileInfo(from).absoluteFilePath(), why);
     }
     const QString reason = prepare();
-    if (!reason.isEmpty() || QFileInfo(from).canonicalFilePath() == QFileInfo(mPath).canonicalFilePath()) {
+    const QFileInfo target(mPath);
+    const bool isThere = !target.isSymLink() && QFileInfo(from).canonicalFilePath() == target.canonicalFilePath();
+    if (!reason.isEmpty() || isThere) {
         return reason;
     }
     QSaveFile to(mPath);
-    if (!to.open(QIODevice::WriteOnly) || !copyBytes(from, to)) {
+    if (!begin(to) || !copyBytes(from, to)) {
         return from.error() == QFileDevice::NoError
                    ? cantWrite(to)
                    : QStringLiteral("can't read \"%1\": %2").arg(from.fileName(), from.errorString());
     }
     to.setPermissions(from.permissions() | QFileDevice::WriteOwner);
-    return to.commit() ? QString() : cantWrite(to);
+    return finish(to) ? QString() : cantWrite(to);
 }
 
 QString FRunFolderFile::write(const QByteArray& bytes) const {
@@ -78,6 +91,6 @@ QString FRunFolderFile::write(const QByteArray& bytes) const {
         return reason;
     }
     QSaveFile to(mPath);
-    const bool done = to.open(QIODevice::WriteOnly) && to.write(bytes) == bytes.size() && to.commit();
+    const bool done = begin(to) && to.write(bytes) == bytes.size() && finish(to);
     return done ? QString() : cantWrite(to);
 }

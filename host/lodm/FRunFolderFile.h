@@ -9,7 +9,10 @@
  */
 class FRunFolderFile {
  public:
-    /** The name is relative to the folder; one that leads out of it is refused. */
+    /**
+     * The name is relative to the folder; one that leads out of it, be it through a link in the folder, is refused. A
+     * link in the place of the file is replaced.
+     */
     FRunFolderFile(const QString& folder, const QString& name);
 
     /** Copies a file, with its permissions. A relative name is relative to the project's file. */
@@ -19,6 +22,7 @@ class FRunFolderFile {
  private:
     QString prepare() const;
 
+    QString mFolder;
     QString mName;
     QString mPath;
 };

@@ -70,6 +70,25 @@ bool FPathManager::leadsOut(const QString& fileName) {
     return cleaned == QLatin1String("..") || cleaned.startsWith(QLatin1String("../"));
 }
 
+bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
+    if (leadsOut(fileName)) {
+        return true;
+    }
+    const QString base = QDir::cleanPath(folder);
+    QString path = QFileInfo(base + QLatin1Char('/') + fileName).path();
+    // Folders that aren't there yet are made below the last one that is.
+    while (path.size() > base.size() && !QFileInfo::exists(path)) {
+        path = QFileInfo(path).path();
+    }
+    const QString root = QFileInfo(base).canonicalFilePath();
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
+}
+
+bool FPathManager::removeLink(const QString& path) {
+    return !QFileInfo(path).isSymLink() || QFile::remove(path);
+}
+
 FRunScope::FRunScope(const QString& folder) : mBefore(std::exchange(FPathManager::instance()->mRunFolder, folder)) {}
 
 FRunScope::~FRunScope() {

@@ -36,6 +36,13 @@ class FPathManager {
 
     /** True for a file name that, put behind a folder, leads out of it. A backslash counts as a slash. */
     static bool leadsOut(const QString& fileName);
+    /** The same, also through links in the folder. A link in the place of the file itself leads nowhere yet. */
+    static bool leadsOut(const QString& folder, const QString& fileName);
+    /**
+     * Removes what is there if it is a link, so that writing to it doesn't change the file that it leads to. False if
+     * it is one and can't be removed.
+     */
+    static bool removeLink(const QString& path);
 
  private:
     friend class FRunScope;

@@ -53,8 +53,32 @@ QStringList FRunFolder::readNotes() const {
     return names;
 }
 
+// A link in the place of a folder of ours would have us empty somebody else's.
+void FRunFolder::emptyEarlier() const {
+    const QString earlier = QDir::cleanPath(mEarlier);
+    if (FPathManager::removeLink(QFileInfo(earlier).path()) && FPathManager::removeLink(earlier)) {
+        QDir(earlier).removeRecursively();
+    }
+}
+
+bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
+    const auto out = std::find_if(named.begin(), named.end(), [this](const QString& name) {
+        return !FPathManager::leadsOut(name) && FPathManager::leadsOut(mFolder, name);
+    });
+    if (out == named.end()) {
+        return true;
+    }
+    reason =
+        QStringLiteral("'%1' would lie outside the folder of the run, '%2': a folder in it is a link. Remove the link.")
+            .arg(*out, mFolder);
+    return false;
+}
+
 bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
-    QDir(mEarlier).removeRecursively();
+    if (!staysInside(named, reason)) {
+        return false;
+    }
+    emptyEarlier();
     if (!QDir().mkpath(mFolder)) {
         reason =
             QStringLiteral("The folder '%1' can't be made. Check the rights of the folders above it.").arg(mFolder);
@@ -63,7 +87,7 @@ bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
     QStringList folders;
     for (const QString& name : named + readNotes()) {
         const QFileInfo entry(mFolder + name);
-        if (name.isEmpty() || FPathManager::leadsOut(name) || !isThere(entry)) {
+        if (name.isEmpty() || FPathManager::leadsOut(mFolder, name) || !isThere(entry)) {
             continue;
         }
         if (isFolder(entry)) {
@@ -112,7 +136,8 @@ void FRunFolder::noteLeft() const {
     }
     // Not through QSaveFile, which waits for the disk: that takes longer than many a run, and half a list harms nobody.
     QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
-    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && notes.open(QIODevice::WriteOnly)) {
+    if (FPathManager::removeLink(notes.fileName()) && QDir().mkpath(QFileInfo(notes.fileName()).path()) &&
+        notes.open(QIODevice::WriteOnly)) {
         notes.write(names.join(separator));
     }
 }

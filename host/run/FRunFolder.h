@@ -19,7 +19,8 @@ class FRunFolder {
     /**
      * Before a run: makes the folder, and replaces what is in the earlier one by the named files and by all that the
      * last run left. False, with the reason for the user, if a file can't be moved: it must not be read as new.
-     * @param named  files relative to the folder; those that lead out of it are passed over
+     * @param named  files relative to the folder; those whose names lead out of it are passed over, and one that does
+     *               so through a link in the folder is a reason to fail
      */
     bool moveAside(const QStringList& named, QString& reason);
     /** After a run: notes what it has made or changed since `moveAside`, if that succeeded. */
@@ -34,6 +35,8 @@ class FRunFolder {
     /** The files and folders below the folder by relative path. */
     QHash<QString, Stamp> list() const;
     QStringList readNotes() const;
+    void emptyEarlier() const;
+    bool staysInside(const QStringList& named, QString& reason) const;
     bool moveFile(const QString& name, QString& reason) const;
     void removeEmptyFolders(QStringList folders) const;
 

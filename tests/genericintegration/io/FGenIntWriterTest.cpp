@@ -195,6 +195,22 @@ TEST_F(FGenIntWriterTest, nothingIsWrittenOutsideTheDirectory) {
     EXPECT_EQ(written("in.dat"), "x");
 }
 
+TEST_F(FGenIntWriterTest, linksInTheDirectoryLeadNothingOut) {
+    const QTemporaryDir other;
+    QFile kept(other.filePath("kept"));
+    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile::link(kept.fileName(), folder.filePath("link")));
+    ASSERT_TRUE(QFile::link(other.path(), folder.filePath("out")));
+    add("link", "x");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(written("link"), "x");
+    EXPECT_EQ(kept.size(), 0);
+    add("out/new/file", "x");
+    EXPECT_FALSE(write());
+    EXPECT_TRUE(logHolds("\"out/new/file\" leads out of the run directory"));
+    EXPECT_EQ(QDir(other.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"kept"});
+}
+
 TEST_F(FGenIntWriterTest, missingObjectsAreTold) {
     QMap<QString, QString> texts;
     EXPECT_FALSE(FGenIntWriter::instance()->exportCommandFiles({}, folder.path() + "/"));

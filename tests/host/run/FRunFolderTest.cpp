@@ -79,3 +79,23 @@ TEST_F(FRunFolderTest, saysWhatCanNotBeMoved) {
     EXPECT_FALSE(moveAside(impossible, {}));
     EXPECT_TRUE(mReason.contains(path("file/run"))) << mReason.toStdString();
 }
+
+TEST_F(FRunFolderTest, followsNoLinkToWhatIsNotItsOwn) {
+    write("other/run/mine.txt", "mine");
+    write("run/own.dat", "old");
+    ASSERT_TRUE(QFile::link(path("other/run"), path("run/out")));
+    FRunFolder through = folder();
+    EXPECT_FALSE(moveAside(through, {"own.dat", "out/mine.txt"}));
+    EXPECT_TRUE(mReason.contains("'out/mine.txt' would lie outside")) << mReason.toStdString();
+    for (const char* link : {".earlier", ".earlier/run"}) {
+        QDir(path(".earlier")).removeRecursively();
+        QDir(mRoot.path()).mkpath(QFileInfo(path(link)).path());
+        ASSERT_TRUE(QFile::link(path(link == QLatin1String(".earlier") ? "other" : "other/run"), path(link)));
+        write("run/own.dat", "old");
+        FRunFolder replaced = folder();
+        EXPECT_TRUE(moveAside(replaced, {"own.dat"}));
+        EXPECT_EQ(read("other/run/mine.txt"), "mine");
+        EXPECT_EQ(read(".earlier/run/own.dat"), "old");
+        EXPECT_FALSE(exists("other/run/own.dat"));
+    }
+}

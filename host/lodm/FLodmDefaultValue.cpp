@@ -1,6 +1,7 @@
 #include "host/lodm/FLodmDefaultValue.h"
 
 #include "host/core/FBool.h"
+#include "host/core/FEnumBase.h"
 #include "host/core/FNumber.h"
 #include "host/core/FNumberText.h"
 #include "host/core/FString.h"
@@ -15,9 +16,13 @@ namespace {
 
 using Kind = FLodmEntry::Default;
 
-bool holdsName(const FSyntaxExpr& expression) {
-    return expression.kind == FSyntaxExpr::Kind::Name ||
-           std::any_of(expression.operands.begin(), expression.operands.end(), holdsName);
+void collectNames(const FSyntaxExpr& expression, QStringList& names) {
+    if (expression.kind == FSyntaxExpr::Kind::Name) {
+        names.append(expression.name);
+    }
+    for (const FSyntaxExpr& operand : expression.operands) {
+        collectNames(operand, names);
+    }
 }
 
 bool isTruth(const QString& text) {
@@ -36,6 +41,24 @@ bool isPlain(const FExprBase& value) {
 
 }  // namespace
 
+Kind FLodmDefaultValue::kindOf(const FObject& value) {
+    const FObject* type = value.getPrototype();
+    if (type == FString::null()) {
+        return Kind::Text;
+    }
+    if (type == FBool::null()) {
+        return Kind::Truth;
+    }
+    const bool isNumber = type == FDouble::null() && std::isfinite(static_cast<const FDouble&>(value).toDouble());
+    return isNumber ? Kind::Number : Kind::Script;
+}
+
+QStringList FLodmDefaultValue::namesIn(const QString& script) {
+    QStringList names;
+    collectNames(parseExpression(script).expression, names);
+    return names;
+}
+
 QString FLodmDefaultValue::fault() const {
     if (mEntry.kind == Kind::Number && !isNumber(mEntry.value)) {
         return QStringLiteral("expected a number such as 12.5, found \"%1\"").arg(mEntry.value);
@@ -52,7 +75,15 @@ QString FLodmDefaultValue::fault() const {
 }
 
 bool FLodmDefaultValue::hasNames() const {
-    return mEntry.kind == Kind::Script && holdsName(parseExpression(mEntry.value).expression);
+    return mEntry.kind == Kind::Script && !namesIn(mEntry.value).isEmpty();
+}
+
+QString FLodmDefaultValue::missingName(const FScriptNames& names) const {
+    const QStringList used = mEntry.kind == Kind::Script ? namesIn(mEntry.value) : QStringList();
+    const auto missing = std::find_if(used.begin(), used.end(), [&names](const QString& name) {
+        return !FEnumTable::isWord(name) && names.find(name).isEmpty();
+    });
+    return missing == used.end() ? QString() : *missing;
 }
 
 FExprBase FLodmDefaultValue::evaluate(const FScriptNames& names, QString& reason) const {

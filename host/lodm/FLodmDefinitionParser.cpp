@@ -14,6 +14,7 @@
 #include "host/lodm/FLodmXmlReader.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
+#include "host/script/FScriptParser.h"
 
 #include <QFileDevice>
 #include <QSet>
@@ -127,6 +128,11 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     mHasObjects = true;
     if (mHasLate) {
         definition.replaceEntries(buildNodes(nodes));
+    }
+    if (mFaultyDefaults > mostErrors) {
+        FLogMsg::warning(mSource,
+                         QStringLiteral("%1 more defaults can't be taken over").arg(mFaultyDefaults - mostErrors),
+                         QStringLiteral("their entries have none now; give them one"));
     }
     return true;
 }
@@ -343,13 +349,31 @@ FExprBase FLodmDefinitionParser::valueOf(const FLodmEntry& entry) {
         return {};
     }
     QString reason;
-    const FExprBase result = value.evaluate(mNames, reason);
+    const FExprBase result = evaluate(entry, reason);
     if (!reason.isEmpty() && isLate == mHasObjects) {
+        warnOfDefault(entry, reason);
+    }
+    return result;
+}
+
+// To tell what a missing name is like takes a look at all names there are, which is for the first few.
+FExprBase FLodmDefinitionParser::evaluate(const FLodmEntry& entry, QString& reason) const {
+    constexpr int mostSuggestions = 20;
+    const FLodmDefaultValue value(entry);
+    const QString missing = mFaultyDefaults < mostSuggestions ? QString() : value.missingName(mNames);
+    if (missing.isEmpty()) {
+        return value.evaluate(mNames, reason);
+    }
+    reason = QStringLiteral("nothing is named \"%1\"").arg(missing);
+    return {};
+}
+
+void FLodmDefinitionParser::warnOfDefault(const FLodmEntry& entry, const QString& reason) {
+    if (++mFaultyDefaults <= mostErrors) {
         FLogMsg::warning(entry.valuePlace.toString(mSource),
                          QStringLiteral("the default of entry \"%1\" can't be taken over: %2").arg(entry.name, reason),
                          QStringLiteral("the entry has none now; give it one"));
     }
-    return result;
 }
 
 bool FLodmDefinitionParser::write(QIODevice* device, const FDefinitionCustom* definition) {

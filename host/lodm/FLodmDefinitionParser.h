@@ -82,8 +82,11 @@ class FLodmDefinitionParser {
     void readDefault(FLodmXmlReader& xml, FLodmEntry& entry);
     bool makeDefinition();
     FExprBase valueOf(const FLodmEntry& entry);
+    FExprBase evaluate(const FLodmEntry& entry, QString& reason) const;
+    void warnOfDefault(const FLodmEntry& entry, const QString& reason);
 
     int mCount = 0;
+    int mFaultyDefaults = 0;
     bool mHasObjects = false;  //!< names of objects can be looked up
     bool mHasLate = false;     //!< there are default values that name objects
 };

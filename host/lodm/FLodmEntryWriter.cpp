@@ -1,32 +1,12 @@
 #include "host/lodm/FLodmEntryWriter.h"
 
-#include "host/core/FBool.h"
-#include "host/core/FNumber.h"
-#include "host/core/FString.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryDef.h"
+#include "host/lodm/FLodmDefaultValue.h"
 #include "host/lodm/FLodmEntry.h"
 #include "host/lodm/FLodmText.h"
 
-#include <cmath>
-
-namespace {
-
 using lodm::word;
-
-FLodmEntry::Default kindOf(const FObject& value) {
-    const FObject* type = value.getPrototype();
-    if (type == FString::null()) {
-        return FLodmEntry::Default::Text;
-    }
-    if (type == FBool::null()) {
-        return FLodmEntry::Default::Truth;
-    }
-    const bool isNumber = type == FDouble::null() && std::isfinite(static_cast<const FDouble&>(value).toDouble());
-    return isNumber ? FLodmEntry::Default::Number : FLodmEntry::Default::Script;
-}
-
-}  // namespace
 
 bool FLodmEntryWriter::write(const FDefinition& definition) {
     mXml.setAutoFormatting(true);
@@ -77,7 +57,7 @@ void FLodmEntryWriter::writeFrame(const FEntryDef& entry) {
 
 void FLodmEntryWriter::writeDefault(const FEntryDef& entry) {
     const FExprBase& value = entry.getDefaultValue();
-    const FLodmEntry::Default kind = kindOf(*value.getStored());
+    const FLodmEntry::Default kind = FLodmDefaultValue::kindOf(*value.getStored());
     mXml.writeStartElement(word(lodm::defaultElement));
     attribute(lodm::kindAttr, word(lodm::kindWords[static_cast<int>(kind) - 1]));
     const bool isScript = kind == FLodmEntry::Default::Script;

@@ -10,6 +10,7 @@
 #include "host/design/FEntryTree.h"
 #include "host/lodm/FLodmDefaultValue.h"
 #include "host/lodm/FLodmEntryWriter.h"
+#include "host/lodm/FLodmTagScan.h"
 #include "host/lodm/FLodmText.h"
 #include "host/lodm/FLodmXmlReader.h"
 #include "host/script/FCmdManager.h"
@@ -41,6 +42,11 @@ qint64 mostToRead(const QIODevice& device) {
     constexpr qint64 leastBlock = qint64{1} << 20U;
     const qint64 most = FLodmDefinitionParser::longestFile + 1;
     return device.isSequential() ? most : std::clamp(device.bytesAvailable() + 1, leastBlock, most);
+}
+
+FPlace placeOf(const QString& text, int offset) {
+    const QStringRef before = text.leftRef(offset);
+    return {before.count(QLatin1Char('\n')) + 1, offset - before.lastIndexOf(QLatin1Char('\n'))};
 }
 
 int wholeNumber(FLodmXmlReader& xml, const char* attribute, const QString& text) {
@@ -139,6 +145,11 @@ bool FLodmDefinitionParser::readText(const QString& text) {
 
 // All of it, before anything of the model is touched.
 bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
+    const int crowded = crowdedTag(text);
+    if (crowded >= 0) {
+        error(placeOf(text, crowded), QStringLiteral("a tag has more than a hundred attributes"));
+        return false;
+    }
     FLodmXmlReader xml(text);
     readStructure(xml, nodes);
     if (xml.hasError()) {

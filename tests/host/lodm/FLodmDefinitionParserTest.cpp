@@ -170,6 +170,14 @@ TEST_F(FLodmDefinitionParserTest, hostileFilesEndInAMessage) {
     expectRefused(bomb + "]><definition version=\"1\" name=\"&a39;\"/>", "document type declaration");
     expectRefused("<!DOCTYPE definition SYSTEM \"/etc/passwd\"><definition version=\"1\"/>",
                   "document type declaration");
+    QString attributes;
+    for (int i = 0; i < 100'000; ++i) {
+        attributes += " a" + QString::number(i) + "='>'";
+    }
+    expectRefused(file("<!-- <\" --><entry" + attributes + "/>"),
+                  "definition:3:12: the definition can't be read: a tag");
+    EXPECT_NE(read(file("<!--" + attributes + "--><entry name=\"" + QString(500, '=') + "\" type=\"FBool\"/>")),
+              nullptr);
     QString many;
     for (int i = 0; i <= FEntryTree::mostEntries; ++i) {
         many += "<entry name=\"e" + QString::number(i) + "\" type=\"FDouble\"/>";

@@ -333,6 +333,13 @@ bool FLodmDefinitionParser::makeDefinition() {
         return false;
     }
     mDefinition = creator->call(nullptr, {FNewName{mName, FObjectManager::instance()->getWorkingScope()}});
+    if (mDefinition && !mName.isEmpty() && mDefinition->getName() != mName) {
+        const bool isTaken = FObjectManager::instance()->find(mName);
+        FLogMsg::warning(
+            mSource, QStringLiteral("the name \"%1\" %2; the new definition is \"%3\"")
+                         .arg(mName, isTaken ? QStringLiteral("is taken") : QStringLiteral("isn't one of an object"),
+                              mDefinition->getName()));
+    }
     return static_cast<bool>(mDefinition);
 }
 

@@ -94,6 +94,7 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
     EXPECT_FALSE(saved.contains("parameter tail"));
     // Names of the file mean its own objects, and the import is one step.
     expectUndoable({"copy = importGenIntDefinition(\"" + path("d.lodm") + "\")"});
+    EXPECT_TRUE(logHolds("d.lodm: the name \"d\" is taken; the new definition is \"d_01\""));
     const auto* copy = object<FDefinitionGenInt>("d_01");
     ASSERT_NE(copy, nullptr);
     EXPECT_EQ(names(*copy), (QStringList{"b_01", "a_01"}));

@@ -120,11 +120,13 @@ TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
         const QByteArray xml = written(made);
         ASSERT_TRUE(xml.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<"));
         EXPECT_TRUE(seed > 5 || fitsSchema(xml)) << xml.toStdString();
-        const FDefinitionCustom* back = read(QString::fromUtf8(xml));
+        const std::string commands = made->furtherSavedCommands().join('\n').toStdString();
+        FManaged::destroy(made, true);
+        FDefinitionCustom* back = read(QString::fromUtf8(xml));
         ASSERT_NE(back, nullptr) << log().join('\n').toStdString();
-        ASSERT_EQ(back->furtherSavedCommands().join('\n').toStdString(),
-                  made->furtherSavedCommands().join('\n').toStdString());
+        ASSERT_EQ(back->furtherSavedCommands().join('\n').toStdString(), commands);
         EXPECT_TRUE(log().isEmpty()) << log().join('\n').toStdString();
+        FManaged::destroy(back, true);
     }
     EXPECT_FALSE(fitsSchema(file("<entry name=\"a|b\" type=\"FDouble\"/>").toUtf8()));
 }

@@ -10,7 +10,7 @@
 #include "host/design/FEntryTree.h"
 #include "host/lodm/FLodmDefaultValue.h"
 #include "host/lodm/FLodmEntryWriter.h"
-#include "host/lodm/FLodmTagScan.h"
+#include "host/lodm/FLodmSlowTag.h"
 #include "host/lodm/FLodmText.h"
 #include "host/lodm/FLodmXmlReader.h"
 #include "host/script/FCmdManager.h"
@@ -145,9 +145,8 @@ bool FLodmDefinitionParser::readText(const QString& text) {
 
 // All of it, before anything of the model is touched.
 bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
-    const int crowded = crowdedTag(text);
-    if (crowded >= 0) {
-        error(placeOf(text, crowded), QStringLiteral("a tag has more than a hundred attributes"));
+    if (const auto slow = FLodmSlowTag::find(text)) {
+        error(placeOf(text, slow->place), slow->reason);
         return false;
     }
     FLodmXmlReader xml(text);

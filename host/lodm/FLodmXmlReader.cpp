@@ -10,12 +10,8 @@ void FLodmXmlReader::raise(const QString& message) {
 
 bool FLodmXmlReader::nextRoot() {
     while (!atEnd()) {
-        const TokenType token = readNext();
-        if (token == StartElement) {
+        if (readNext() == StartElement) {
             return true;
-        }
-        if (token == DTD) {
-            raise(QStringLiteral("a document type declaration isn't allowed; remove it"));
         }
     }
     return false;

@@ -11,7 +11,7 @@ class FLodmXmlReader : public QXmlStreamReader {
 
     /** Ends the reading, unless a fault has already. */
     void raise(const QString& message);
-    /** Goes to the root; false if there is none, or a document type before it. */
+    /** Goes to the root; false if there is none. */
     bool nextRoot();
     /** Goes to the next element inside the one at hand; false at its end, and if there is text in it. */
     bool nextChild();

@@ -4,6 +4,7 @@
 #include "host/design/FEntryDef.h"
 #include "host/design/FGeometryExport.h"
 #include "host/lodm/FLodmDefinitionParser.h"
+#include "host/lodm/FLodmLeftOut.h"
 
 #include <QTextStream>
 
@@ -24,6 +25,14 @@ std::vector<const FManaged*> inOrder(const Objects& objects) {
     std::sort(ordered.begin(), ordered.end(),
               [](const FManaged* a, const FManaged* b) { return a->getDbId() < b->getDbId(); });
     return ordered;
+}
+
+Objects filesOf(const FDefinitionGenInt& definition) {
+    Objects files;
+    for (const FExpr<FGenIntFile>& file : definition.getFiles()) {
+        files.insert(FExpr<FManaged>(file));
+    }
+    return files;
 }
 
 QString nameOf(const FExpr<FGenIntFile>& file) {
@@ -61,6 +70,7 @@ bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& defini
     for (const FManaged* object : inOrder(objects)) {
         object->saveScopeManner(stream, 0, false, false);
     }
+    warnOfLeftOut(definition, objects + filesOf(definition));
     stream << "curFile : " << nameOf(definition.getCurFile()) << '\n';
     stream << "lastFile : " << nameOf(definition.getLastFile()) << '\n';
     stream.flush();

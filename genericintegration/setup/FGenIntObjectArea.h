@@ -11,8 +11,8 @@ class QIODevice;
 class FGenIntObjectArea {
  public:
     /**
-     * Writes the definition's files, the objects, and the source objects of its geometry exports of kind 1. False if
-     * the device doesn't take all.
+     * Writes the definition's files, the objects, and the source objects of its geometry exports of kind 1. Warns
+     * of other objects that defaults name. False if the device doesn't take all.
      */
     static bool write(QIODevice* device, const FDefinitionGenInt& definition, QSet<FExpr<FManaged>> objects);
 };

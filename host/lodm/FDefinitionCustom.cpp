@@ -3,6 +3,7 @@
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/lodm/FLodmDefinitionParser.h"
+#include "host/lodm/FLodmLeftOut.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFile>
@@ -107,6 +108,7 @@ bool FDefinitionCustom::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
     if (opens && !openSaveFile(file)) {
         return false;
     }
+    warnOfLeftOut(*this, {});
     const bool isWritten = FLodmDefinitionParser().write(&file, this);
     return opens ? closeSaveFile(file, isWritten) : isWritten && file.flush();
 }

@@ -1,5 +1,6 @@
 #include "host/lodm/FLodmDefinitionParser.h"
 
+#include "host/core/FDocuArea.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
@@ -128,6 +129,7 @@ bool FLodmDefinitionParser::readText(const QString& text) {
         return false;
     }
     FDefinitionCustom& definition = *mDefinition.ptr();
+    takeDocu();
     definition.replaceEntries(buildNodes(nodes));
     mObjectAreaLines = marker < 0 ? 0 : text.leftRef(marker).count(QLatin1Char('\n'));
     importObjectsFromString(marker < 0 ? QString() : text.mid(marker + smObjectArea.size()));
@@ -184,9 +186,31 @@ void FLodmDefinitionParser::readRoot(FLodmXmlReader& xml, Nodes& nodes) {
     }
     mName = getAttr(xml, lodm::nameAttr);
     while (xml.nextChild()) {
-        readEntry(xml, nodes, 1);
+        xml.isElement(lodm::docuElement) ? readDocu(xml) : readEntry(xml, nodes, 1);
     }
     checkNames(xml, nodes);
+}
+
+void FLodmDefinitionParser::takeDocu() {
+    for (auto area = mDocu.begin(); area != mDocu.end(); ++area) {
+        if (!mDefinition->getDocu().contains(area.key())) {
+            mDefinition->addDocu(area.value(), area.key());
+        }
+    }
+}
+
+void FLodmDefinitionParser::readDocu(FLodmXmlReader& xml) {
+    checkAttr(xml, {word(lodm::areaAttr)});
+    const QString name = getAttr(xml, lodm::areaAttr);
+    FEnum<FDocuArea> area;
+    if (!area.setValue(name)) {
+        xml.raise(QStringLiteral("expected one of %1 as \"%2\" of %3, found \"%4\"")
+                      .arg(area.getStringValues().join(QStringLiteral(", ")), word(lodm::areaAttr), xml.tag(), name));
+    } else if (mDocu.contains(area.getValue())) {
+        xml.raise(QStringLiteral("there are two texts of %1; remove one").arg(name));
+    } else {
+        mDocu.insert(area.getValue(), xml.plainText());
+    }
 }
 
 void FLodmDefinitionParser::readEntry(FLodmXmlReader& xml, Nodes& nodes, int level) {

@@ -26,8 +26,9 @@ class FLodmDefinitionParser {
     static constexpr qint64 longestFile = qint64{512} << 20U;
 
     /**
-     * @param definition  what to read into: a definition, whose entries are replaced, or the prototype of a class of
-     *                    definitions, of which one is made. May be empty for writing.
+     * @param definition  what to read into: a definition, whose entries are replaced, while documentation that it has
+     *                    stays; or the prototype of a class of definitions, of which one is made. May be empty for
+     *                    writing.
      */
     explicit FLodmDefinitionParser(const FExpr<FDefinitionCustom>& definition = {}) : mDefinition(definition) {}
     virtual ~FLodmDefinitionParser() = default;
@@ -74,6 +75,8 @@ class FLodmDefinitionParser {
     bool readText(const QString& text);
     bool parse(const QString& text, std::vector<FLodmEntry>& nodes);
     void readRoot(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
+    void takeDocu();
+    void readDocu(FLodmXmlReader& xml);
     void readEntry(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes, int level);
     void readFrame(FLodmXmlReader& xml, FLodmEntry& entry);
     void readOccurrences(FLodmXmlReader& xml, FLodmEntry& entry);
@@ -85,6 +88,7 @@ class FLodmDefinitionParser {
     FExprBase evaluate(const FLodmEntry& entry, QString& reason) const;
     void warnOfDefault(const FLodmEntry& entry, const QString& reason);
 
+    QMap<unsigned int, QString> mDocu;  //!< of the definition, by area
     int mCount = 0;
     int mFaultyDefaults = 0;
     bool mHasObjects = false;  //!< names of objects can be looked up

@@ -1,5 +1,6 @@
 #include "host/lodm/FLodmEntryWriter.h"
 
+#include "host/core/FDocuArea.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryDef.h"
 #include "host/lodm/FLodmDefaultValue.h"
@@ -13,9 +14,23 @@ bool FLodmEntryWriter::write(const FDefinition& definition) {
     mXml.writeStartElement(word(lodm::definitionElement));
     attribute(lodm::versionAttr, QString::number(lodm::formatVersion));
     attribute(lodm::nameAttr, definition.getName());
+    writeDocu(definition);
     writeEntries(definition);
     mXml.writeEndDocument();
     return !mXml.hasError();
+}
+
+void FLodmEntryWriter::writeDocu(const FDefinition& definition) {
+    const QMap<unsigned int, QString>& areas = FEnum<FDocuArea>::table().getTexts();
+    for (auto area = areas.begin(); area != areas.end(); ++area) {
+        const QString text = definition.getDocu().value(area.key());
+        if (!text.isEmpty()) {
+            mXml.writeStartElement(word(lodm::docuElement));
+            attribute(lodm::areaAttr, *area);
+            mXml.writeCharacters(FLodmText::toXml(text));
+            mXml.writeEndElement();
+        }
+    }
 }
 
 void FLodmEntryWriter::attribute(const char* name, const QString& text) {

@@ -6,7 +6,7 @@ class FDefinition;
 class FEntryDef;
 class FEntryHolder;
 
-/** Writes the entry definitions of a definition as the XML half of an exchange file. */
+/** Writes the documentation and the entry definitions of a definition as the XML half of an exchange file. */
 class FLodmEntryWriter {
  public:
     /** Writes to an open device. */
@@ -16,6 +16,7 @@ class FLodmEntryWriter {
     bool write(const FDefinition& definition);
 
  private:
+    void writeDocu(const FDefinition& definition);
     void writeEntries(const FEntryHolder& holder);
     void writeEntry(const FEntryDef& entry);
     void writeFrame(const FEntryDef& entry);

@@ -6,8 +6,10 @@
 #include "host/core/FObjectManager.h"
 #include "host/core/FUserInterface.h"
 #include "host/run/FPathManager.h"
+#include "tests/support/FFileSizeLimit.h"
 #include "tests/support/FModelTest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -105,6 +107,36 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
     ASSERT_TRUE(run("for (o in [b, a, d, wing, b_01, a_01, d_01, wing_01]) { destroy(o) }"));
     ASSERT_TRUE(run("importGenIntDefinition(\"" + path("d.lodm") + "\").save(\"" + path("again.lodm") + "\")"));
     EXPECT_EQ(fileText("again.lodm").toStdString(), saved.toStdString());
+}
+
+TEST_F(FGenIntDefinitionParserTest, aFullDiskLeavesTheFileThatIsThere) {
+    ASSERT_TRUE(run(integration + ("d.save(\"" + path("d.lodm") + "\")")));
+    const QString saved = fileText("d.lodm");
+    // Cut in the entries, in the object area, in its last bytes; with more than what is gathered before it is written.
+    for (const int length : {0, 50'000}) {
+        ASSERT_TRUE(run("b.setContent(\"" + QString(length, 'x') + "\")"));
+        for (const int limit : {100, saved.toUtf8().size() - 200 + length * 4 / 3}) {
+            const int lines = log().size();
+            {
+                const FFileSizeLimit full(static_cast<rlim_t>(limit));
+                EXPECT_FALSE(object<FDefinitionGenInt>("d")->save()) << limit;
+                run("d.save()");
+            }
+            EXPECT_EQ(log().mid(lines).filter("can't be saved in \"" + path("d.lodm")).size(), 2) << limit;
+            EXPECT_EQ(fileText("d.lodm"), saved);
+            EXPECT_EQ(QDir(mFolder.path()).entryList({"*.part"}), QStringList());
+        }
+    }
+}
+
+TEST_F(FGenIntDefinitionParserTest, savingFollowsNoLinkBesideTheFile) {
+    write("other", "kept");
+    ASSERT_TRUE(QFile::link(path("other"), path("d.lodm.part")));
+    ASSERT_TRUE(run(integration + ("d.save(\"" + path("d.lodm") + "\")")));
+    EXPECT_EQ(fileText("other"), "kept");
+    EXPECT_TRUE(fileText("d.lodm").contains("</definition>"));
+    EXPECT_TRUE(logHolds("d: the default of entry \"list\" names \"tail\", which isn't saved along"));
+    EXPECT_FALSE(logHolds("\"wing\""));
 }
 
 TEST_F(FGenIntDefinitionParserTest, currentAndLastFileFollowTheirLines) {

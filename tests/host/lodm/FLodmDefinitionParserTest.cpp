@@ -7,6 +7,7 @@
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryTree.h"
 #include "host/script/FCmdTable.h"
+#include "host/script/FScriptParser.h"
 #include "tests/support/FModelTest.h"
 
 #include <QBuffer>
@@ -117,6 +118,9 @@ TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
         auto* made = new FMadeDefinition("made");
         made->registerObject();
         ASSERT_TRUE(made->setEntryDefsFromDB(randomEntries(seed))) << log().join('\n').toStdString();
+        QRandomGenerator random(seed);
+        made->addDocu(randomText(random, false), seed % 4);
+        const auto docu = made->getDocu();
         const QByteArray xml = written(made);
         ASSERT_TRUE(xml.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<"));
         EXPECT_TRUE(seed > 5 || fitsSchema(xml)) << xml.toStdString();
@@ -125,6 +129,7 @@ TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
         FDefinitionCustom* back = read(QString::fromUtf8(xml));
         ASSERT_NE(back, nullptr) << log().join('\n').toStdString();
         ASSERT_EQ(back->furtherSavedCommands().join('\n').toStdString(), commands);
+        EXPECT_EQ(back->getDocu(), docu);
         EXPECT_TRUE(log().isEmpty()) << log().join('\n').toStdString();
         FManaged::destroy(back, true);
     }
@@ -138,6 +143,9 @@ TEST_F(FLodmDefinitionParserTest, faultsAreToldWithTheirPlaceAndLeaveNothing) {
     expectRefused("<definition version=\"2\"><new/></definition>", "a newer release of the program may read it");
     expectRefused("<definition version=\"1\" nam=\"x\"/>", "no attribute \"nam\" (did you mean \"name\"?)");
     expectRefused("<definition version=\"1\"/><definition version=\"1\"/>", "Extra content");
+    expectRefused(file("<docu area=\"DocuNaem\"/>"),
+                  "DocuExample, DocuResult as \"area\" of <docu>, found \"DocuNaem\"");
+    expectRefused(file(QString("<docu area=\"DocuName\"/>").repeated(2)), "two texts of DocuName");
     expectRefused(file("stray"), "definition:4:2: the definition can't be read: expected an element, found the text");
     expectRefused(file("<entry name=\"a\"/>"), "the type of entry \"a\" isn't told");
     expectRefused(file("<entry name=\"a[1]\" type=\"FDouble\"/>"), "found \"a[1]\"");
@@ -211,6 +219,19 @@ TEST_F(FLodmDefinitionParserTest, defaultsOnlyAsk) {
     EXPECT_TRUE(logHolds("definition:3:"));
     EXPECT_TRUE(logHolds("\"act\"") && logHolds("\"none\""));
     EXPECT_EQ(made->furtherSavedCommands()[3], "addEntry(\"none\",NULL,1,1,false,\"\",\"FDouble\")");
+}
+
+TEST_F(FLodmDefinitionParserTest, manyFaultyDefaultsAreToldInShort) {
+    ASSERT_TRUE(run("parameter known(1)"));
+    QString entries;
+    for (int i = 0; i < mostErrors + 10; ++i) {
+        entries += "<entry name=\"e" + QString::number(i) +
+                   "\" type=\"FDouble\"><default kind=\"script\">knwon</default></entry>";
+    }
+    ASSERT_NE(read(file(entries)), nullptr);
+    EXPECT_EQ(log().size(), mostErrors + 1);
+    EXPECT_EQ(log().filter("nothing is named \"knwon\" (did you mean \"known\"?)").size(), 20);
+    EXPECT_TRUE(log().last().contains("10 more defaults can't be taken over")) << log().last().toStdString();
 }
 
 TEST_F(FLodmDefinitionParserTest, readingIntoADefinitionReplacesItsEntries) {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/core/FManaged.h"
+
+#include <QSet>
+
+class FDefinition;
+
+/**
+ * Warns of objects that defaults of entries name and that an exchange file doesn't hold: it can be read only where such
+ * objects are.
+ * @param saved  what it holds beside the definition
+ */
+void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved);

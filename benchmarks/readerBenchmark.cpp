@@ -164,6 +164,26 @@ void lengthsRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), values);
 }
 
+/// Some short anchors, of texts that users take: in each line, in few lines, in none. Alone, or among long ones.
+std::vector<FValueDescription> shortAnchors(int count) {
+    static const char* const texts[] = {"Cd",   "= ",   "heat",   "Zn",     "lift =", "part", "Total",
+                                        "*** ", "iter", "stress", "Cl",     "PMAX",   "eps",  "E+02",
+                                        "drag", "ID",   "yaw",    "ITER 9", "kW",     "m1"};
+    std::vector<FValueDescription> values(static_cast<size_t>(count));
+    for (int i = 0; i < count; ++i)
+        values[static_cast<size_t>(i)].anchor.text = texts[i % std::ssize(texts)];
+    return values;
+}
+void shortRead(benchmark::State& state) {
+    read(state, textOf(state.range(1)), shortAnchors(static_cast<int>(state.range(0))));
+}
+void mixedRead(benchmark::State& state) {
+    std::vector<FValueDescription> values = makeValues(1000);
+    const std::vector<FValueDescription> added = shortAnchors(static_cast<int>(state.range(0)));
+    values.insert(values.end(), added.begin(), added.end());
+    read(state, textOf(state.range(1)), values);
+}
+
 /// A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either.
 void nonAsciiRead(benchmark::State& state) {
     read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
@@ -254,7 +274,20 @@ BENCHMARK(memoryBare)->Name("lengths.bare")->ArgName("KB")->Arg(5000)->Unit(kMic
 BENCHMARK(lengthsRead)
     ->Name("lengths.read")
     ->ArgNames({"length", "KB"})
-    ->ArgsProduct({{4, 6, 8, 12, 16, 24}, {5000}})
+    ->ArgsProduct({{2, 3, 4, 6, 8, 9, 12, 16, 24}, {5000}})
+    ->Unit(kMicrosecond);
+
+BENCHMARK(memoryBare)->Name("short.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(shortRead)
+    ->Name("short.read")
+    ->ArgNames({"anchors", "KB"})
+    ->ArgsProduct({{1, 2, 5, 10, 20}, {5000}})
+    ->Unit(kMicrosecond);
+BENCHMARK(memoryBare)->Name("mixed.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(mixedRead)
+    ->Name("mixed.read")
+    ->ArgNames({"short", "KB"})
+    ->ArgsProduct({{0, 1, 5, 20}, {5000}})
     ->Unit(kMicrosecond);
 
 BENCHMARK(memoryBare)->Name("nonAscii.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);

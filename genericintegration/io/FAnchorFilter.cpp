@@ -94,7 +94,11 @@ qint64 FAnchorFilter::asciiRun(std::u32string_view word) {
     return longest;
 }
 
-FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) {
+size_t FAnchorFilter::rarestPart(std::u32string_view word, size_t size) {
+    return findRegion(word, 1, size);
+}
+
+FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) : mEmpty(words.empty()) {
     qint64 shortest = ProbeSize + LongestStep - 1;
     for (const std::u32string& word : words)
         shortest = std::min(shortest, asciiRun(word));

@@ -21,8 +21,13 @@ class FAnchorFilter {
     /// Length of the longest run of ASCII characters in a word.
     static qint64 asciiRun(std::u32string_view word);
 
+    /// Where so many characters of an ASCII word begin that are the least common in what programs print.
+    static size_t rarestPart(std::u32string_view word, size_t size);
+
     /// Each word has an ASCII character. The longer the shortest run of a word, the quicker.
     explicit FAnchorFilter(const std::vector<std::u32string>& words);
+
+    bool isEmpty() const { return mEmpty; }
 
     /// The place of the first probe, from an offset on, that met a piece of a word or, if wished, a byte that isn't
     /// ASCII; -1 for none. A probe meets each word that begins at the offset or behind, if the ASCII characters of the
@@ -42,6 +47,7 @@ class FAnchorFilter {
     qint64 mWidth;  ///< characters of a piece
     qint64 mStep;   ///< from one probe to the next
     qint64 mReach = 0;
+    bool mEmpty;
     std::vector<quint64> mHashes;  ///< a bit for each hash, set for those of the pieces
     std::vector<quint64> mSlots;   ///< each piece at its hash or right behind, at most half of them; 0 for none
 };

@@ -51,6 +51,9 @@ qint64 longestForm(const std::u32string& word) {
     return static_cast<qint64>(longest);
 }
 
+/// Neither the filters nor the search for short words look at the very end of a text.
+constexpr qint64 UnsearchedEnd = std::max(2 * FAnchorFilter::ProbeSize, FShortWordSearch::Margin);
+
 void scan(FAnchorWalk& walk, const FAnchorFilter& filter, std::string_view text, qint64 begin, qint64 nonAsciiReach) {
     const qint64 reach = std::max(filter.reach(), nonAsciiReach);
     qint64 walked = begin;
@@ -74,12 +77,15 @@ FAnchorSearch::FAnchorSearch(const std::vector<QString>& anchors)
     : mWords(wordsOf(anchors, mWordOfAnchor)), mAutomaton(mWords) {
     std::vector<std::u32string> longer;
     std::vector<std::u32string> shorter;
-    for (const std::u32string& word : mWords) {
+    for (const int number : mAutomaton.byLength()) {
+        const std::u32string& word = mWords[static_cast<size_t>(number)];
         const qint64 run = FAnchorFilter::asciiRun(word);
         const bool ascii = run == static_cast<qint64>(word.size());
         mLongest = std::max(mLongest, longestForm(word));
         mHard |= !ascii && run < FAnchorFilter::PieceSize;
-        if (run >= FAnchorFilter::PieceSize)
+        if (mShortSearch.add(word))
+            mShortWords.push_back(number);
+        else if (run >= FAnchorFilter::PieceSize)
             longer.push_back(word);
         else if (ascii)
             shorter.push_back(word);
@@ -98,10 +104,12 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
     qint64 nonAsciiReach =
         !ascii && (mHard || hasFoldingToAscii(text.substr(static_cast<size_t>(begin)))) ? mLongest : 0;
     for (const FAnchorFilter& filter : mFilters) {
-        scan(walk, filter, text, begin, nonAsciiReach);
+        if (!filter.isEmpty() || nonAsciiReach > 0)
+            scan(walk, filter, text, begin, nonAsciiReach);
         nonAsciiReach = 0;
     }
-    walk.walk(std::max(begin, walk.size() - mLongest - 2 * FAnchorFilter::ProbeSize), walk.size());
+    findShortWords(walk, text, begin);
+    walk.walk(std::max(begin, walk.size() - mLongest - UnsearchedEnd), walk.size());
 
     const std::vector<FByteRange>& ends = walk.finish();
     for (size_t anchor = 0; anchor < places.size(); ++anchor) {
@@ -112,6 +120,14 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
         places[anchor].last = rangeBefore(text, ends[word].end, mWords[word].size());
     }
     return places;
+}
+
+void FAnchorSearch::findShortWords(FAnchorWalk& walk, std::string_view text, qint64 begin) const {
+    const std::vector<FByteRange> ends = mShortSearch.find(text.substr(static_cast<size_t>(begin)));
+    for (size_t i = 0; i < ends.size(); ++i) {
+        if (ends[i].begin >= 0)
+            walk.note(mShortWords[i], begin + ends[i].begin, begin + ends[i].end);
+    }
 }
 
 std::vector<FAnchorPlaces> FAnchorSearch::findInTrimmed(const FResultText& text) const {

@@ -8,7 +8,9 @@
 #include "genericintegration/io/FAnchorAutomaton.h"
 #include "genericintegration/io/FAnchorFilter.h"
 #include "genericintegration/io/FByteRange.h"
+#include "genericintegration/io/FShortWordSearch.h"
 
+class FAnchorWalk;
 class FResultText;
 
 /// The first and the last place of an anchor; they begin at -1 when it isn't there.
@@ -35,10 +37,13 @@ class FAnchorSearch {
 
  private:
     std::vector<FAnchorPlaces> findFrom(std::string_view text, qint64 begin, bool ascii) const;
+    void findShortWords(FAnchorWalk& walk, std::string_view text, qint64 begin) const;
 
     std::vector<int> mWordOfAnchor;      ///< -1 for an anchor that can't be found
     std::vector<std::u32string> mWords;  ///< the anchors, folded, each once
     FAnchorAutomaton mAutomaton;
+    FShortWordSearch mShortSearch;
+    std::vector<int> mShortWords;         ///< the words that the search for short ones has, by their number there
     std::vector<FAnchorFilter> mFilters;  ///< the first one also looks for what isn't ASCII
     qint64 mLongest = 0;                  ///< bytes that a word can take in a text
     bool mHard = false;                   ///< there are words for which no filter has pieces

@@ -18,12 +18,13 @@ class FAnchorWalk {
     /// Walks from one place over another, and on until no word has begun or the text ends. Gives where it ended.
     qint64 walk(qint64 begin, qint64 over);
 
-    /// The ends of the first and the last occurrence of each word that were walked over; -1 for none.
+    /// Notes ends of a word that were found in another way.
+    void note(int word, qint64 first, qint64 last);
+
+    /// The ends of the first and the last occurrence of each word that were walked over or noted; -1 for none.
     const std::vector<FByteRange>& finish();
 
  private:
-    void note(int word, qint64 first, qint64 last);
-
     const FAnchorAutomaton& mAutomaton;
     std::string_view mText;
     std::vector<FByteRange> mEnds;

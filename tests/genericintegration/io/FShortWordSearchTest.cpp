@@ -65,6 +65,20 @@ TEST_F(FShortWordSearchTest, findsWhatAStringFinds) {
     }
 }
 
+// What it is looked for by changes where it begins, from its end to its begin.
+TEST_F(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {
+    FShortWordSearch search;
+    ASSERT_TRUE(search.add(U"aeiowxyz"));
+    for (size_t before = 0; before < 32; ++before) {
+        std::string content(before, ' ');
+        for (int i = 0; i < 64; ++i)
+            content += "wxyz ";
+        const qint64 end = static_cast<qint64>(content.size()) + 8;
+        content += "aeiowxyz" + std::string(FShortWordSearch::Margin, ' ');
+        EXPECT_EQ(end, search.find(content).front().begin) << before;
+    }
+}
+
 TEST_F(FShortWordSearchTest, theProcessorsHelpChangesNothing) {
     FByteQuads quads;
     for (size_t set = 0; set < FByteQuads::SetCount; ++set)

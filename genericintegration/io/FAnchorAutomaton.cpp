@@ -61,22 +61,10 @@ void FAnchorAutomaton::link(int node, int parent) {
     }
 }
 
-int FAnchorAutomaton::child(int node, char32_t c) const {
-    if (node == Start && c < mStarts.size())
-        return mStarts[c];
-    const Node& self = mNodes[static_cast<size_t>(node)];
-    const auto begin = mNodes.begin() + self.firstChild;
-    const auto end = begin + self.childCount;
+int FAnchorAutomaton::searchChild(const Node& node, char32_t c) const {
+    const auto begin = mNodes.begin() + node.firstChild;
+    const auto end = begin + node.childCount;
     const auto before = [](const Node& candidate, char32_t wanted) { return candidate.c < wanted; };
     const auto at = std::lower_bound(begin, end, c, before);
     return at != end && at->c == c ? static_cast<int>(at - mNodes.begin()) : Start;
-}
-
-int FAnchorAutomaton::next(int state, char32_t c) const {
-    for (;;) {
-        const int reached = child(state, c);
-        if (reached != Start || state == Start)
-            return reached;
-        state = mNodes[static_cast<size_t>(state)].fail;
-    }
 }

@@ -15,7 +15,14 @@ class FAnchorAutomaton {
     explicit FAnchorAutomaton(const std::vector<std::u32string>& words);
 
     /// The state after one more character. Start means that none of the words has begun.
-    int next(int state, char32_t c) const;
+    int next(int state, char32_t c) const {
+        for (;;) {
+            const int reached = child(state, c);
+            if (reached != Start || state == Start)
+                return reached;
+            state = mNodes[static_cast<size_t>(state)].fail;
+        }
+    }
 
     /// The longest word that ends in a state, or None.
     int wordAt(int state) const { return mNodes[static_cast<size_t>(state)].word; }
@@ -49,7 +56,17 @@ class FAnchorAutomaton {
     void addChildren(const std::vector<Word>& words, std::vector<Range>& ranges, int node);
     int addNode(char32_t c, int word);
     void link(int node, int parent);
-    int child(int node, char32_t c) const;
+    int searchChild(const Node& node, char32_t c) const;
+
+    // Behind the first characters of the words, most nodes have one child.
+    int child(int node, char32_t c) const {
+        if (node == Start && c < mStarts.size())
+            return mStarts[c];
+        const Node& self = mNodes[static_cast<size_t>(node)];
+        if (self.childCount != 1)
+            return searchChild(self, c);
+        return mNodes[static_cast<size_t>(self.firstChild)].c == c ? self.firstChild : Start;
+    }
 
     std::vector<Node> mNodes;        ///< in the order of their depth
     std::array<int, 128> mStarts{};  ///< children of the start by ASCII character

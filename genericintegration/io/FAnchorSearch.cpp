@@ -64,9 +64,13 @@ void scan(FAnchorWalk& walk, const FAnchorFilter& filter, std::string_view text,
     }
 }
 
-FByteRange rangeBefore(std::string_view text, qint64 end, size_t characters) {
+FByteRange rangeBefore(std::string_view text, qint64 end, size_t characters, bool ascii) {
+    if (end < 0)
+        return {-1, -1};
+    if (ascii)
+        return {end - static_cast<qint64>(characters), end};
     qint64 begin = end;
-    for (; end >= 0 && characters > 0; --characters)
+    for (; characters > 0; --characters)
         begin = FUtf8::previous(text, begin);
     return {begin, end};
 }
@@ -116,8 +120,8 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
         if (mWordOfAnchor[anchor] < 0)
             continue;
         const size_t word = static_cast<size_t>(mWordOfAnchor[anchor]);
-        places[anchor].first = rangeBefore(text, ends[word].begin, mWords[word].size());
-        places[anchor].last = rangeBefore(text, ends[word].end, mWords[word].size());
+        places[anchor].first = rangeBefore(text, ends[word].begin, mWords[word].size(), ascii);
+        places[anchor].last = rangeBefore(text, ends[word].end, mWords[word].size(), ascii);
     }
     return places;
 }

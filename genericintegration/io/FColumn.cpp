@@ -41,11 +41,11 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units) {
     return column;
 }
 
-FFoundValue FColumn::value(const FResultText& in) const {
+FFoundValue FColumn::value(const FResultText& in, qint64 line) const {
     const FTextIndex& index = in.index();
     const qint64 begin = range.begin;
     FFoundValue value;
-    value.line = index.lineAt(begin) + 1;
+    value.line = line + 1;
     value.flags = flags;
     value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
     value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);

@@ -10,11 +10,25 @@ qint64 FLineWindow::count() const {
 
 std::optional<FByteRange> FLineWindow::line(qint64 number) const {
     const FTextIndex& index = mText.index();
-    const qint64 begin = number == 0 ? mPart.begin : index.lineStart(index.lineAt(mPart.begin) + number);
+    const qint64 begin = lineBegin(number);
     if (begin < mPart.begin || begin >= mPart.end)
         return {};
     const qint64 lineFeed = index.lineFeed(begin);
     return withoutEnd(begin, lineFeed < 0 || lineFeed > mPart.end ? mPart.end : lineFeed);
+}
+
+// To the next few lines, it isn't far.
+qint64 FLineWindow::lineBegin(qint64 number) const {
+    constexpr qint64 few = 8;
+    const FTextIndex& index = mText.index();
+    if (number > few)
+        return index.lineStart(index.lineAt(mPart.begin) + number);
+    qint64 begin = mPart.begin;
+    for (; number > 0 && begin >= 0 && begin < mPart.end; --number) {
+        const qint64 lineFeed = index.lineFeed(begin);
+        begin = lineFeed < 0 ? -1 : lineFeed + 1;
+    }
+    return begin;
 }
 
 FByteRange FLineWindow::lineFrom(qint64& offset) const {

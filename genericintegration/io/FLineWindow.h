@@ -26,6 +26,7 @@ class FLineWindow {
     FByteRange lineFrom(qint64& offset) const;
 
  private:
+    qint64 lineBegin(qint64 number) const;
     FByteRange withoutEnd(qint64 begin, qint64 end) const;
 
     const FResultText& mText;

@@ -71,7 +71,9 @@ void FRowAverages::addRow(Average& average, FColumn column) {
 }
 
 FFoundValue FRowAverages::result(const Average& average) const {
-    FFoundValue value = average.begin < mText.trimmedSize() ? average.last.value(mText) : FFoundValue();
+    FFoundValue value;
+    if (average.begin < mText.trimmedSize())
+        value = average.last.value(mText, mText.index().lineAt(average.last.range.begin));
     const double mean = average.sum / average.count;
     value.number = std::isnan(mean) ? std::numeric_limits<double>::quiet_NaN() : mean;
     value.flags = average.flags;

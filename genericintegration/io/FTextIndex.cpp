@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
-#include <functional>
-#include <numeric>
 
 #include "genericintegration/io/FUtf8.h"
 
@@ -17,12 +16,31 @@ struct Count {
     bool isAscii;
 };
 
+constexpr size_t Lanes = 32;
+using Bytes = std::array<unsigned char, Lanes>;
+using Words = std::array<quint64, Lanes / 8>;
+
+// All bytes together fit into two.
+qint64 sumOf(const Bytes& bytes) {
+    constexpr quint64 even = 0x00FF00FF00FF00FF;
+    quint64 sums = 0;
+    for (const quint64 word : std::bit_cast<Words>(bytes))
+        sums += (word & even) + (word >> 8 & even);
+    return static_cast<qint64>(sums * 0x0001000100010001 >> 48);
+}
+
+bool isAscii(const Bytes& bits) {
+    quint64 all = 0;
+    for (const quint64 word : std::bit_cast<Words>(bits))
+        all |= word;
+    return (all & 0x8080808080808080) == 0;
+}
+
 // Of at most a block. Lanes of a byte can't overflow then, and let the compiler look at many bytes at once.
 Count countIn(std::string_view text) {
-    constexpr size_t Lanes = 32;
-    static_assert(BlockSize / Lanes < 255);
-    std::array<unsigned char, Lanes> lineFeeds{};
-    std::array<unsigned char, Lanes> bits{};
+    static_assert(BlockSize / Lanes + 1 < 0x100);
+    Bytes lineFeeds{};
+    Bytes bits{};
     const auto take = [&](size_t lane, char byte) {
         lineFeeds[lane] = static_cast<unsigned char>(lineFeeds[lane] + (byte == '\n'));
         bits[lane] |= static_cast<unsigned char>(byte);
@@ -34,8 +52,7 @@ Count countIn(std::string_view text) {
     }
     for (size_t lane = 0; offset + lane < text.size(); ++lane)
         take(lane, text[offset + lane]);
-    const unsigned char all = std::accumulate(bits.begin(), bits.end(), static_cast<unsigned char>(0), std::bit_or());
-    return {std::accumulate(lineFeeds.begin(), lineFeeds.end(), qint64(0)), all < 0x80};
+    return {sumOf(lineFeeds), isAscii(bits)};
 }
 
 }  // namespace
@@ -62,9 +79,14 @@ std::string_view FTextIndex::block(qint64 begin, qint64 end) const {
     return mText.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
 }
 
+// From the nearer end of the block.
 qint64 FTextIndex::lineAt(qint64 offset) const {
-    const qint64 number = offset / BlockSize;
-    return mLines[static_cast<size_t>(number)] + countIn(block(number * BlockSize, offset)).lineFeeds;
+    const qint64 begin = offset / BlockSize * BlockSize;
+    const qint64 end = begin + BlockSize;
+    const size_t number = static_cast<size_t>(offset / BlockSize);
+    if (end - offset < offset - begin && number + 1 < mLines.size())
+        return mLines[number + 1] - countIn(block(offset, end)).lineFeeds;
+    return mLines[number] + countIn(block(begin, offset)).lineFeeds;
 }
 
 qint64 FTextIndex::lineStart(qint64 line) const {

@@ -3,15 +3,16 @@
 #include <QRegExp>
 #include <QString>
 
+#include <map>
 #include <vector>
 
 #include "genericintegration/io/FAnchorSearch.h"
 #include "genericintegration/io/FFoundValue.h"
 #include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/io/FSoughtLine.h"
 #include "genericintegration/io/FValueDescription.h"
 
 class FResultText;
-struct FSoughtLine;
 
 /// What a search found.
 struct FFoundValues {
@@ -43,8 +44,12 @@ class FValueSearch {
         FByteRange line;
     };
 
+    /// Lines of values without an anchor, which many share.
+    using LinesInText = std::map<int, FSoughtLine>;
+
     std::vector<int> order(const FResultText& text, const std::vector<FAnchorPlaces>& trimmed) const;
-    FSoughtLine seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places) const;
+    FSoughtLine seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places,
+                         LinesInText& lines) const;
     void read(const FResultText& text, std::vector<Reading>& readings, std::vector<FFoundValue>& found) const;
     const QRegExp* separator() const { return mFindNumbers ? nullptr : &mSeparator; }
 

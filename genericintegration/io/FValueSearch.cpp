@@ -143,7 +143,7 @@ std::vector<int> FValueSearch::order(const FResultText& text, const std::vector<
     }
     std::sort(numbers.begin(), numbers.end(), [&ranks](int left, int right) {
         const auto order = ranks[static_cast<size_t>(left)] <=> ranks[static_cast<size_t>(right)];
-        return order == 0 ? left < right : order < 0;
+        return std::is_eq(order) ? left < right : std::is_lt(order);
     });
     return numbers;
 }

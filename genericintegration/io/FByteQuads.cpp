@@ -30,7 +30,7 @@ void FByteQuads::assign(size_t number, const FQuadSet& set) {
 
 unsigned char FByteQuads::setsAt(const char* place) const {
     unsigned char sets = 0xFF;
-    for (size_t i = 0; i < FQuadSet::Length; ++i) {
+    for (size_t i = 0; i < FQuadSet::Length && sets != 0; ++i) {
         const unsigned char byte = static_cast<unsigned char>(place[i]);
         sets = static_cast<unsigned char>(sets & mLow[i][byte & 0x0F] & mHigh[i][byte >> 4]);
     }

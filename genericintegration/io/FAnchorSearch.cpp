@@ -6,6 +6,7 @@
 #include <map>
 
 #include "genericintegration/io/FAnchorWalk.h"
+#include "genericintegration/io/FByteQuads.h"
 #include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FUtf8.h"
 
@@ -87,7 +88,7 @@ FAnchorSearch::FAnchorSearch(const std::vector<QString>& anchors)
         const bool ascii = run == static_cast<qint64>(word.size());
         mLongest = std::max(mLongest, longestForm(word));
         mHard |= !ascii && run < FAnchorFilter::PieceSize;
-        if (mShortSearch.add(word))
+        if (FByteQuads::isQuick() && mShortSearch.add(word))
             mShortWords.push_back(number);
         else if (run >= FAnchorFilter::PieceSize)
             longer.push_back(word);

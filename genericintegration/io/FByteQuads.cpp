@@ -85,12 +85,20 @@ __attribute__((target("avx2"))) qint64 FByteQuads::nextQuickly(std::string_view 
     return -1;
 }
 
-qint64 FByteQuads::next(std::string_view text, qint64 offset, qint64 step, Block& met) const {
+bool FByteQuads::isQuick() {
     static const bool quick = __builtin_cpu_supports("avx2");
-    return quick ? nextQuickly(text, offset, step, met) : nextPlainly(text, offset, step, met);
+    return quick;
+}
+
+qint64 FByteQuads::next(std::string_view text, qint64 offset, qint64 step, Block& met) const {
+    return isQuick() ? nextQuickly(text, offset, step, met) : nextPlainly(text, offset, step, met);
 }
 
 #else
+
+bool FByteQuads::isQuick() {
+    return false;
+}
 
 qint64 FByteQuads::next(std::string_view text, qint64 offset, qint64 step, Block& met) const {
     return nextPlainly(text, offset, step, met);

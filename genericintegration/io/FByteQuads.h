@@ -21,6 +21,9 @@ class FByteQuads {
         std::array<unsigned char, BlockSize> sets{};  ///< of each place, a bit for each set
     };
 
+    /// Whether the processor compares many places at once. Without that, this is slow.
+    static bool isQuick();
+
     /// Puts a set in the place of another.
     void assign(size_t number, const FQuadSet& set);
 

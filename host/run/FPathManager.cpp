@@ -71,8 +71,12 @@ bool FPathManager::leadsOut(const QString& fileName) {
 }
 
 bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
+    const bool isInFolders = fileName.contains(QLatin1Char('/')) || fileName.contains(QLatin1Char('\\'));
     if (leadsOut(fileName)) {
         return true;
+    }
+    if (!isInFolders) {
+        return false;
     }
     const QString base = QDir::cleanPath(folder);
     QString path = QFileInfo(base + QLatin1Char('/') + fileName).path();

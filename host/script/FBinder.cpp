@@ -75,8 +75,9 @@ FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
             QStringLiteral("the object \"%1\" has been destroyed, or its creation undone").arg(expression.name));
     }
     if (found.isEmpty()) {
-        return fail(expression.place, QStringLiteral("nothing is named \"%1\"%2")
-                                          .arg(expression.name, didYouMean(expression.name, mNames.getNames())));
+        return fail(
+            expression.place,
+            QStringLiteral("nothing is named \"%1\"%2").arg(expression.name, mNames.suggestion(expression.name)));
     }
     return found;
 }

@@ -2,6 +2,7 @@
 
 #include "host/core/FManaged.h"
 #include "host/core/FObjectManager.h"
+#include "host/script/FCmdManager.h"
 
 FExprBase FScriptNames::find(const QString& name) const {
     const auto variable = mVariables.find(name);
@@ -21,6 +22,11 @@ bool FScriptNames::isObject(const QString& name) const {
 
 bool FScriptNames::isGone(const QString& name) const {
     return mDeclared.contains(name) && !isObject(name);
+}
+
+QString FScriptNames::suggestion(const QString& name) const {
+    constexpr int most = 20;
+    return ++mSuggestions <= most ? didYouMean(name, getNames()) : QString();
 }
 
 QStringList FScriptNames::getNames() const {

@@ -26,10 +26,17 @@ class FScriptNames {
      */
     void announce(const QString& name) { mAnnounced.insert(name); }
     bool isAnnounced(const QString& name) const { return mAnnounced.contains(name); }
-    QStringList getNames() const;
+    /**
+     * ` (did you mean "name"?)`, or nothing if no known name is near. Only for the first names that are asked for,
+     * since each takes a look at all: a damaged text may hold thousands.
+     */
+    QString suggestion(const QString& name) const;
 
  private:
+    QStringList getNames() const;
+
     QHash<QString, FExprBase> mVariables;
     QHash<QString, FExprBase> mDeclared;
     QSet<QString> mAnnounced;
+    mutable int mSuggestions = 0;
 };

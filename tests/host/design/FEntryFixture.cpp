@@ -2,9 +2,7 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FInitPrototype.h"
-#include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
-#include "host/script/FCmdInput.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -65,18 +63,4 @@ QStringList FEntryFixture::values() const {
         texts.append(value ? value->toString() : QStringLiteral("nothing"));
     }
     return texts;
-}
-
-void FEntryFixture::reload() {
-    QString text = savedModel();
-    const FHistoryBlocker blocker;
-    const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
-    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
-        FManaged::destroy(*object, false);
-    }
-    const FProjectLoading loading;
-    QTextStream stream(&text);
-    FCmdInput input(FCmdInput::Mode::SavedText);
-    input.readInputString(stream, QStringLiteral("saved"));
-    EXPECT_TRUE(input.exec()) << log().join('\n').toStdString();
 }

@@ -33,6 +33,4 @@ class FEntryFixture : public FModelTest {
     QStringList paths() const { return configuration().getEntryMap().keys(); }
     /** The values of all entries in the order of their paths. */
     QStringList values() const;
-    /** Saves the model, clears it, and reads it again. */
-    void reload();
 };

@@ -2,32 +2,23 @@
 
 #include "host/run/FTableData.h"
 #include "tests/support/FModelTest.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/FTestFolder.h"
 
 #include <cmath>
 
 namespace {
 
-class FLodmConfigurationParserTest : public FModelTest {
+class FLodmConfigurationParserTest : public FModelTest, public FTestFolder {
  protected:
-    void write(const QByteArray& bytes) const {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QString path() const { return mFolder.filePath("curve.txt"); }
-
-    QTemporaryDir mFolder;
+    const QString mPath = path("curve.txt");
     FLodmConfigurationParser mParser{QString()};
 };
 
 }  // namespace
 
 TEST_F(FLodmConfigurationParserTest, importsTextsAndTables) {
-    write("\n  x\ty \r\n1 2e3\n\n-.5 three 7\nno numbers\n4\n");
-    EXPECT_TRUE(mParser.doImport("table", path(), "curve"));
+    write("curve.txt", "\n  x\ty \r\n1 2e3\n\n-.5 three 7\nno numbers\n4\n");
+    EXPECT_TRUE(mParser.doImport("table", mPath, "curve"));
     const FExpr<FTableData> table(mParser.getObjects().value("curve"));
     ASSERT_TRUE(table);
     EXPECT_EQ(table->getRowCount(), 3);
@@ -37,20 +28,20 @@ TEST_F(FLodmConfigurationParserTest, importsTextsAndTables) {
     EXPECT_EQ(table->getElementAt(1, 2), 7);
     EXPECT_EQ(table->getElementAt(2, 0), 4);
 
-    write(QByteArray("caf\xC3\xA9 \xFF\r\n"));
-    EXPECT_TRUE(mParser.doImport("text", path(), "note"));
+    write("curve.txt", QByteArray("caf\xC3\xA9 \xFF\r\n"));
+    EXPECT_TRUE(mParser.doImport("text", mPath, "note"));
     EXPECT_EQ(mParser.getObjects().keys(), QStringList({"note"})) << "a new import replaces the last one";
     EXPECT_EQ(mParser.getObjects().value("note").toString(), QString::fromUtf8("café \uFFFD\r\n"));
     EXPECT_TRUE(log().isEmpty());
 }
 
 TEST_F(FLodmConfigurationParserTest, reportsWhatItCanNotImport) {
-    write("1");
-    EXPECT_TRUE(mParser.doImport("text", path(), "note"));
-    EXPECT_TRUE(mParser.doImport("tecplot", path(), "field"));
+    write("curve.txt", "1");
+    EXPECT_TRUE(mParser.doImport("text", mPath, "note"));
+    EXPECT_TRUE(mParser.doImport("tecplot", mPath, "field"));
     EXPECT_TRUE(mParser.getObjects().isEmpty());
-    EXPECT_TRUE(logHolds("\"tecplot\"") && logHolds(path()));
-    EXPECT_TRUE(mParser.doImport("table", path() + ".missing", "curve"));
+    EXPECT_TRUE(logHolds("\"tecplot\"") && logHolds(mPath));
+    EXPECT_TRUE(mParser.doImport("table", mPath + ".missing", "curve"));
     EXPECT_TRUE(mParser.getObjects().isEmpty());
-    EXPECT_TRUE(logHolds(path() + ".missing"));
+    EXPECT_TRUE(logHolds(mPath + ".missing"));
 }

@@ -1,34 +1,17 @@
 #include "host/run/FRunFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/FTestFolder.h"
 
 namespace {
 
-class FRunFolderTest : public testing::Test {
+class FRunFolderTest : public testing::Test, public FTestFolder {
  protected:
-    QString path(const QString& name) const { return mRoot.path() + QLatin1Char('/') + name; }
-    void write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray read(const QString& name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
-    }
-    bool exists(const QString& name) const { return QFileInfo(path(name)).exists(); }
     bool moveAside(FRunFolder& folder, const QStringList& named) {
         mReason.clear();
         return folder.moveAside(named, mReason);
     }
     FRunFolder folder() const { return FRunFolder(path("run"), path(".earlier/run")); }
 
-    QTemporaryDir mRoot;
     QString mReason;
 };
 
@@ -40,7 +23,7 @@ TEST_F(FRunFolderTest, movesWhatRunsLeftAndNothingElse) {
     write("outside", "untouched");
     FRunFolder first = folder();
     ASSERT_TRUE(moveAside(first, {"out.dat", "missing", "../outside", ""}));
-    EXPECT_FALSE(exists("run/out.dat"));
+    EXPECT_FALSE(has("run/out.dat"));
     EXPECT_EQ(read(".earlier/run/out.dat"), "from another time");
 
     write("run/out.dat", "first");
@@ -61,7 +44,7 @@ TEST_F(FRunFolderTest, movesWhatRunsLeftAndNothingElse) {
     second.noteLeft();
     FRunFolder third = folder();
     ASSERT_TRUE(moveAside(third, {"out.dat"}));
-    EXPECT_FALSE(exists(".earlier/run/out.dat")) << "one run back, not two";
+    EXPECT_FALSE(has(".earlier/run/out.dat")) << "one run back, not two";
     EXPECT_EQ(read("outside"), "untouched");
     EXPECT_EQ(read("run/mesh.grd"), "the user's");
 }
@@ -89,13 +72,13 @@ TEST_F(FRunFolderTest, followsNoLinkToWhatIsNotItsOwn) {
     EXPECT_TRUE(mReason.contains("'out/mine.txt' would lie outside")) << mReason.toStdString();
     for (const char* link : {".earlier", ".earlier/run"}) {
         QDir(path(".earlier")).removeRecursively();
-        QDir(mRoot.path()).mkpath(QFileInfo(path(link)).path());
+        QDir(path()).mkpath(QFileInfo(path(link)).path());
         ASSERT_TRUE(QFile::link(path(link == QLatin1String(".earlier") ? "other" : "other/run"), path(link)));
         write("run/own.dat", "old");
         FRunFolder replaced = folder();
         EXPECT_TRUE(moveAside(replaced, {"own.dat"}));
         EXPECT_EQ(read("other/run/mine.txt"), "mine");
         EXPECT_EQ(read(".earlier/run/own.dat"), "old");
-        EXPECT_FALSE(exists("other/run/own.dat"));
+        EXPECT_FALSE(has("other/run/own.dat"));
     }
 }

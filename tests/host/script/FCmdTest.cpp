@@ -14,19 +14,6 @@ class FCmdTest : public FModelTest {
     FThing* b = FThing::create("b");
 };
 
-TEST_F(FCmdTest, theClassPatternTellsClasses) {
-    EXPECT_EQ(a->getClass(), "FThing");
-    EXPECT_TRUE(a->isTypeOf(FThing::null()));
-    EXPECT_TRUE(a->isTypeOf(FManaged::null()));
-    EXPECT_TRUE(FThing::null()->isTypeOf(FThing::null()));
-    EXPECT_FALSE(FManaged::null()->isTypeOf(FThing::null()));
-    EXPECT_FALSE(a->isTypeOf(nullptr));
-    EXPECT_TRUE(FThing::null()->isNull());
-    EXPECT_FALSE(a->isNull());
-    EXPECT_EQ(a->getSuperClass(), FManaged::null());
-    EXPECT_EQ(FThing::initPrototype(), FThing::null());
-}
-
 TEST_F(FCmdTest, namesOfCommandClassesComeFromTheRow) {
     for (const char* name : {"FCreateCmdFThingthingdouble", "FAttribCmdFThingsetFriendFThing",
                              "FMemberCmdFThingaddintint", "FCmdprintnullvoidprintFObjects"}) {
@@ -35,19 +22,6 @@ TEST_F(FCmdTest, namesOfCommandClassesComeFromTheRow) {
         EXPECT_EQ(prototype->getClass(), name);
         EXPECT_TRUE(prototype->isNull());
     }
-    EXPECT_TRUE(FObject::getPrototype("FAttribCmdFThingsetFriendFThing")->isTypeOf(FMemberCmd::null()));
-    const std::size_t rows = FCmdManager::instance()->findMembers(FThing::mClass, "which").size();
-    a->initCmds();
-    EXPECT_EQ(FCmdManager::instance()->findMembers(FThing::mClass, "which").size(), rows);
-}
-
-TEST_F(FCmdTest, documentationKeysFollowTheRow) {
-    const auto rows = FCmdManager::instance()->findMembers(FThing::mClass, "add");
-    const auto keys = FDocuKey::ofCommand(*rows.front());
-    EXPECT_EQ(keys[0].key, "!FThing.member.add(int,a,int,b=1)");
-    EXPECT_EQ(keys[2].key, "!FThing.member.add(int,a,int,b=1):returnValue");
-    EXPECT_EQ(keys[2].disambiguation, "return type: int");
-    EXPECT_EQ(keys[4].key, "!FThing.member.add(int,a,int,b=1):argument1");
 }
 
 TEST_F(FCmdTest, argumentsAreConvertedOrRefused) {

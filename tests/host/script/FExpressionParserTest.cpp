@@ -1,4 +1,4 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "tests/host/script/FSyntaxText.h"
 
@@ -53,22 +53,6 @@ TEST(FExpressionParserTest, expressions) {
     };
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(parsed(text), expected) << text;
-}
-
-TEST(FExpressionParserTest, nodesKnowTheirPlace) {
-    const FSyntaxExpr row = parseExpression("a.b(1)\n  + \"x\ny\" * -c").expression;
-    const FSyntaxExpr& command = row.operands.at(0).operands.at(1);
-    const FSyntaxExpr& product = row.operands.at(1);
-    const FSyntaxExpr& minus = product.operands.at(1);
-    const FPlace found[] = {row.place,
-                            row.operators.at(0).place,
-                            command.place,
-                            product.place,
-                            minus.place,
-                            minus.operands.at(0).place,
-                            product.operators.at(0).place};
-    EXPECT_THAT(found, testing::ElementsAre(FPlace{1, 1}, FPlace{2, 3}, FPlace{1, 3}, FPlace{2, 5}, FPlace{3, 6},
-                                            FPlace{3, 7}, FPlace{3, 4}));
 }
 
 TEST(FExpressionParserTest, depthIsBounded) {

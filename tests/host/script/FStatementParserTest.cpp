@@ -1,4 +1,4 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "tests/host/script/FSyntaxText.h"
 
@@ -57,15 +57,6 @@ TEST(FStatementParserTest, statements) {
 TEST(FStatementParserTest, linesOfAnObjectAreaArePassedOver) {
     const char* const text = "a b() {\n}\ncurFile : in1 \"(\nlastFile : NULL\nc : d; e\nf = g";
     EXPECT_EQ(parsed(text, {.recovers = false, .isObjectArea = true}), "a b(){}\nf = g\n");
-}
-
-TEST(FStatementParserTest, statementsKnowTheirPlace) {
-    const FSyntaxBody body = parseScript("a\n  &b  c(1)\nfor (x in y) z", "s").statements;
-    const auto& declaration = std::get<FSyntaxDeclaration>(body.at(1).content);
-    const auto& loop = std::get<FSyntaxFor>(body.at(2).content);
-    const FPlace found[] = {body[1].place, declaration.creator.place, declaration.namePlace, loop.variablePlace,
-                            loop.body.at(0).place};
-    EXPECT_THAT(found, testing::ElementsAre(FPlace{2, 3}, FPlace{2, 4}, FPlace{2, 7}, FPlace{3, 6}, FPlace{3, 14}));
 }
 
 TEST(FStatementParserTest, aDamagedLineOfABlockLosesNoOther) {

@@ -3,6 +3,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
 #include "host/script/FCmdInput.h"
@@ -26,6 +27,7 @@ FModelTest::FModelTest() {
 
 FModelTest::~FModelTest() {
     clear();
+    FMerixCtrl::instance()->setProjectFile(QString());
     FLogMsg::setSink(nullptr);
 }
 

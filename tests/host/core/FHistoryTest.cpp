@@ -13,53 +13,6 @@ class FHistoryTest : public FModelTest {
     static FHistory& history() { return *FHistory::instance(); }
 };
 
-TEST_F(FHistoryTest, aStepBeforeOrAfterTheChangeKeepsTheSame) {
-    FThing* thing = FThing::create("a");
-    for (const bool before : {true, false}) {
-        FHistoryTransaction transaction("change");
-        if (before) {
-            transaction.addStep(thing);
-        }
-        thing->setNumber(thing->getNumber() + 1);
-        if (!before) {
-            transaction.addStep(thing);
-        }
-    }
-    EXPECT_EQ(thing->getNumber(), 2);
-    EXPECT_TRUE(history().undo());
-    EXPECT_EQ(thing->getNumber(), 1);
-    EXPECT_TRUE(history().undo());
-    EXPECT_EQ(thing->getNumber(), 0);
-}
-
-TEST_F(FHistoryTest, theOutermostTransactionCounts) {
-    FThing* thing = FThing::create("a");
-    {
-        FHistoryTransaction outer("outer");
-        FHistoryTransaction inner("inner");
-        inner.addStep(thing);
-    }
-    { FHistoryTransaction empty("empty"); }
-    EXPECT_EQ(history().getLabels(), QStringList{"outer"});
-}
-
-TEST_F(FHistoryTest, handlesFindADestroyedObjectAgain) {
-    run("thing b(7)");
-    const FExpr<FThing> handle(FObjectManager::instance()->find("b"));
-    const FExpr<FThing> other(handle);
-    const FObject* object = handle.ptr();
-    run("destroy(b)");
-    EXPECT_FALSE(handle);
-    EXPECT_EQ(handle.ptr(), nullptr);
-    EXPECT_EQ(handle, other);
-    EXPECT_NE(handle, FExpr<FThing>());
-    EXPECT_FALSE(FObject::exists(object));
-    history().undo();
-    EXPECT_TRUE(handle);
-    EXPECT_EQ(handle->getNumber(), 7);
-    EXPECT_TRUE(FObject::exists(handle.ptr()));
-}
-
 TEST_F(FHistoryTest, countsWhatNothingElseHolds) {
     constexpr std::size_t large = 200'000;
     run("thing a()\na.setText(\"" + QString(static_cast<int>(large / sizeof(QChar)), 'x') + "\")");

@@ -45,7 +45,6 @@ TEST_F(FConfigurationCustomTest, aRelativeNameIsRelativeToTheProject) {
     write("mesh.dat", "from the project");
     FMerixCtrl::instance()->setProjectFile(path("p.mrx"));
     EXPECT_TRUE(copy("inputFile(\"mesh.dat\")"));
-    FMerixCtrl::instance()->setProjectFile(QString());
     EXPECT_EQ(read("run/mesh.dat"), "from the project");
 }
 

@@ -22,7 +22,6 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
         mConfiguration->setDefinition(FExpr<FDefinition>(definition));
         EXPECT_TRUE(run("comp.setConfiguration(conf)"));
     }
-    ~FCustomComputationTest() override { FMerixCtrl::instance()->setProjectFile({}); }
 
  protected:
     bool runScript(const QString& script) {

@@ -103,7 +103,6 @@ class FExternComputationTest : public FModelTest, public FTestFolder {
         FMerixCtrl::instance()->setProjectFile(path(mFolder + "/wing.mrx"));
         mProbe->registerObject();
     }
-    ~FExternComputationTest() override { FMerixCtrl::instance()->setProjectFile({}); }
 
  protected:
     QString logText() const { return log().join('\n'); }

@@ -12,9 +12,6 @@
 namespace {
 
 class FPathManagerTest : public FModelTest {
- public:
-    ~FPathManagerTest() override { FMerixCtrl::instance()->setProjectFile({}); }
-
  protected:
     FPathManager* mPaths = FPathManager::instance();
 };

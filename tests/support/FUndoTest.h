@@ -9,9 +9,10 @@
 
 /** Random sequences of all commands that there are, and what undo and redo make of them. */
 class FUndoTest : public FModelTest {
- protected:
+ public:
     ~FUndoTest() override;
 
+ protected:
     /** Sequences as many as MERIX_RANDOM_CASES says: each state must come back, and each command have been tried. */
     void everyStateComesBack();
     /** Within a small limit, the steps that are left do the same. */

@@ -7,9 +7,10 @@
 namespace {
 
 class FHistoryTest : public FModelTest {
- protected:
+ public:
     ~FHistoryTest() override { history().setLimit(std::size_t{256} << 20U); }
 
+ protected:
     static FHistory& history() { return *FHistory::instance(); }
 };
 

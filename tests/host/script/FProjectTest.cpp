@@ -15,9 +15,10 @@
 namespace {
 
 class FProjectTest : public FModelTest, public FTestFolder {
- protected:
+ public:
     ~FProjectTest() override { FProject::instance()->close(false); }
 
+ protected:
     static bool save() { return FProject::instance()->save(QString()); }
     bool save(const QString& name) { return FProject::instance()->save(path(name)); }
     bool open(const QString& name, bool recover = false) { return FProject::instance()->open(path(name), recover); }

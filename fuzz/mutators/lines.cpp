@@ -1,5 +1,5 @@
-// Changes texts by the line, beside what is changed by the byte: statements that are taken out, doubled, moved and
-// mixed get deeper than damaged ones. For targets of texts that are made of lines.
+// Changes texts by the line, beside what is changed by the byte: statements that are taken out, doubled and moved
+// get deeper than damaged ones. For targets of texts that are made of lines.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -60,15 +60,6 @@ class LineMutator {
         return std::move(mLines);
     }
 
-    /// Some of the other lines, behind one another, somewhere between these.
-    Lines mix(const Lines& others) {
-        const std::size_t begin = below(others.size());
-        const std::size_t count = below(std::min<std::size_t>(others.size() - begin, 10)) + 1;
-        const auto from = others.begin() + static_cast<std::ptrdiff_t>(begin);
-        mLines.insert(place(below(mLines.size() + 1)), from, from + static_cast<std::ptrdiff_t>(count));
-        return std::move(mLines);
-    }
-
  private:
     std::size_t below(std::size_t count) { return mRandom() % count; }
     Lines::iterator place(std::size_t line) { return mLines.begin() + static_cast<std::ptrdiff_t>(line); }
@@ -97,12 +88,4 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
         return LLVMFuzzerMutate(data, size, most);
     }
     return write(LineMutator(std::move(lines), seed).mutate(), data, most);
-}
-
-extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t firstSize,
-                                                 const std::uint8_t* second, std::size_t secondSize, std::uint8_t* out,
-                                                 std::size_t most, unsigned int seed) {
-    const Lines others = linesOf(second, secondSize);
-    LineMutator mutator(linesOf(first, firstSize), seed);
-    return others.empty() ? 0 : write(mutator.mix(others), out, most);
 }

@@ -5,23 +5,14 @@ namespace {
 class CommandLineTest : public FProgramTest {};
 
 TEST_F(CommandLineTest, wrongCallsAreToldWithCode2) {
-    for (const QStringList& arguments : {QStringList{}, QStringList{"scrpt"}, QStringList{"script"},
-                                         QStringList{"--no-such-option"}, QStringList{"commands", "FThng"}}) {
+    for (const QStringList& arguments :
+         {QStringList{}, QStringList{"scrpt"}, QStringList{"--no-such-option"}, QStringList{"commands", "FThng"}}) {
         const Outcome outcome = merix(arguments);
         EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(outcome.output, "");
         EXPECT_NE(outcome.errors, "");
     }
     EXPECT_TRUE(merix({"commands", "FGenIntFil"}).errors.contains("did you mean \"FGenIntFile\"?"));
-}
-
-TEST_F(CommandLineTest, helpAndVersion) {
-    const Outcome help = merix({"--help"});
-    EXPECT_EQ(help.exitCode, 0);
-    EXPECT_TRUE(help.output.contains("script") && help.output.contains("commands") &&
-                help.output.contains("Exit codes"));
-    EXPECT_TRUE(merix({"script", "--help"}).output.contains("ARGUMENTS"));
-    EXPECT_EQ(merix({"--version"}).output, "merix " MERIX_VERSION "\n");
 }
 
 TEST_F(CommandLineTest, scriptsComeFromFilesAndFromTheStandardInput) {
@@ -57,11 +48,9 @@ TEST_F(CommandLineTest, theLoadTraceIsPrintedWhenAskedFor) {
     EXPECT_EQ(script("print(1)").output, "1\n");
     const QString trace = script("print(1)", {}, {"VERBOSE=1"}).output;
     const QStringList order{"init FObject prototype: FEnum<GenIntAnchorOccurrence>\n",
-                            "init FObject prototype: FGenIntResultsFileValue\n",
                             "init FObject prototype: FCreateCmdFGenIntCommandFilegenericIntegrationCommandFile\n",
                             "init FManaged prototype: FGenIntCommandFile\n",
                             "init FObject prototype: FAttribCmdFGenIntFilesetContentstring\n",
-                            "init FManaged prototype: FGenIntFile\n",
                             "init FObject prototype: FMemberCmdFGenIntResultsFilesetTabSeaparatorbool\n",
                             "init FManaged prototype: FGenIntResultsFile\n"};
     int last = -1;

@@ -52,11 +52,6 @@ QString FSetUp::value(const QString& name, int line, int column, const QString& 
         .arg(quoted(name), QString::number(line), QString::number(column), quoted(anchor), occurrence);
 }
 
-QString FSetUp::average(const QString& name, int column, int rows) {
-    return QString("[%1, 0, %2, \"\", First, \"FDouble\", \"\", 1, %3]")
-        .arg(quoted(name), QString::number(column), QString::number(rows));
-}
-
 QString FSetUp::number(const QString& file, const QString& name) {
     return QString("comp.getResults().getTable(%1).getElementAt(%2)").arg(quoted(file), quoted(name));
 }

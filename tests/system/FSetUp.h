@@ -20,7 +20,6 @@ struct FSetUp {
     static QString quoted(const QString& text);
     static QString value(const QString& name, int line, int column, const QString& anchor,
                          const QString& occurrence = "First");
-    static QString average(const QString& name, int column, int rows);
     /** The expression that gives a number of the last run. */
     static QString number(const QString& file, const QString& name);
 

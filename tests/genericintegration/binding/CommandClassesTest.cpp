@@ -4,46 +4,18 @@
 
 namespace {
 
-// Under these names commands are hidden, looked up and documented; a change of one breaks scripts and other plug-ins.
+// One for each way to form a name. Under such names commands are hidden, looked up and documented; a change of one
+// breaks scripts and other plug-ins.
 const QStringList commandClasses{
-    "FCreateCmdFGenIntCommandFilegenericIntegrationCommandFile",
-    "FAttribCmdFGenIntFilesetContentstring",
-    "FAttribCmdFGenIntFilesetFileNamestring",
-    "FAttribCmdFGenIntFilesetForceWindowsLineEndingsbool",
-    "FCreateCmdFGenIntResultsFilegenericIntegrationResultsFile",
-    "FAttribCmdFGenIntResultsFilesetValuesFObjectList",
-    "FAttribCmdFGenIntResultsFilesetNumberSeparatorbool",
     "FAttribCmdFGenIntResultsFilesetSpacesAndTabsSeparatorbool",
-    "FAttribCmdFGenIntResultsFilesetRegExprSeparatorstring",
-    "FMemberCmdFGenIntResultsFilesetRegExpSeparatorstring",
-    "FMemberCmdFGenIntResultsFilesetSpaceSeparatorbool",
     "FMemberCmdFGenIntResultsFilesetTabSeaparatorbool",
     "FCreateCmdFResultsGenIntgenericIntegrationResultsFDesignint",
-    "FAttribCmdFResultsGenIntsetOutputHandlesFGenIntFileContainer",
-    "FMemberCmdFResultsGenIntgetDataAtunsignedunsigned",
-    "FMemberCmdFResultsGenIntgetDataAtstringunsigned",
     "FMemberCmdFResultsGenIntgetDataAtdoublestring",
-    "FMemberCmdFResultsGenIntgetDataAtstringstring",
-    "FMemberCmdFResultsGenIntgetLastDataOfRowint",
-    "FMemberCmdFResultsGenIntgetLastDataOfColumnint",
     "FMemberCmdFResultsGenIntgetAverageOfLastRowsintint",
-    "FMemberCmdFResultsGenIntgetResultTemplateNamestring",
-    "FCreateCmdFConfigurationGenIntgenericIntegrationConfigurationbool",
-    "FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt",
     "FCmdimportGenIntDefinitionFConfigurationGenIntFDefinitionGenIntimportGenIntDefinitionstring",
     "FCreateCmdFDefinitionGenIntgenericIntegrationDefinition",
     "FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer",
-    "FAttribCmdFDefinitionGenIntsetCurFileFGenIntFile",
-    "FAttribCmdFDefinitionGenIntsetLastFileFGenIntFile",
-    "FCreateCmdFGenIntComputationgenericIntegrationComputation",
-    "FAttribCmdFGenIntComputationsetConfigurationFConfigurationGenInt",
     "FMemberCmdFGenIntComputationgetResults",
-    "FMemberCmdFGenIntComputationopenSoftwareConnector",
-    // Commands of the host that the plug-in hides by name.
-    "FMemberCmdFCustomComputationgetResults",
-    "FAttribCmdFCustomComputationsetConfigurationFConfigurationCustom",
-    "FAttribCmdFCustomComputationsetCmdFilestring",
-    "FAttribCmdFConfigurationCustomsetDefinitionFDefinitionCustom",
 };
 
 class CommandClassesTest : public FModelTest {};
@@ -59,7 +31,6 @@ TEST_F(CommandClassesTest, areKnownUnderTheirExactNames) {
         ASSERT_NE(prototype, nullptr) << name.toStdString();
         EXPECT_EQ(prototype->getClass(), name);
     }
-    EXPECT_NE(FObject::getPrototype("FAttribCmdSetAverageRows"), nullptr);
 }
 
 TEST_F(CommandClassesTest, typedCommandsHideThoseOfTheHost) {

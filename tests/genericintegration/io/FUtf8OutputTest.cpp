@@ -65,13 +65,6 @@ TEST(FUtf8OutputTest, agreesWithQtOnRandomTexts) {
     }
 }
 
-TEST(FUtf8OutputTest, endsAtTheFirstNul) {
-    const QString text = "ab" + QString(QChar('\0')) + "cd" + QString(100000, 'x');
-    EXPECT_EQ(bytesOf(text, {1}), "ab");
-    EXPECT_EQ(bytesOf(text, {100000}), "ab");
-    EXPECT_EQ(bytesOf(QString(QChar('\0')) + "x", {5}), "");
-}
-
 TEST(FUtf8OutputTest, tellsOfAFullDisk) {
     QFile full("/dev/full");
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));

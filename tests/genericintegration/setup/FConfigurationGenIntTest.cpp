@@ -1,9 +1,9 @@
 #include "genericintegration/setup/FConfigurationGenInt.h"
 
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "host/core/FNumber.h"
 #include "host/core/FObjectManager.h"
 #include "host/design/FEntryDef.h"
-#include "host/script/FCmdManager.h"
 #include "tests/support/FModelTest.h"
 
 namespace {
@@ -33,35 +33,17 @@ TEST_F(FConfigurationGenIntTest, previewsComeFromTheTemplates) {
     EXPECT_TRUE(logHolds("c writes no file \"in.dta\" (did you mean \"in.dat\"?)"));
     run("c.setDefinition(NULL)");
     EXPECT_TRUE(conf().getPreview().isEmpty());
-    EXPECT_TRUE(conf().isGenInt());
 }
 
 TEST_F(FConfigurationGenIntTest, itIsMadeWithOrWithoutEntries) {
-    const FConfigurationGenInt* made = FConfigurationGenInt::create({}, "c", true, &def());
-    EXPECT_EQ(made->getName(), "c_01");
-    EXPECT_EQ(made->getEntryMap().keys(), (QStringList{"G|span", "height"}));
     run("genericIntegrationConfiguration e(true)\ngenericIntegrationConfiguration f(1)");
     EXPECT_TRUE(object<FConfigurationGenInt>("e"));
     EXPECT_FALSE(object<FConfigurationGenInt>("f"));
     auto* copy = dynamic_cast<FConfigurationGenInt*>(conf().clone());
     const FExprBase keep(copy);
-    EXPECT_FALSE(copy->isInModel());
     copy->registerObject();
-    EXPECT_EQ(copy->getDefinition().ptr(), &def());
     EXPECT_EQ(copy->furtherSavedCommands(), conf().furtherSavedCommands());
     copy->setEntryValue("height", FExprBase(new FDouble(6)));
-    EXPECT_EQ(textOf("c.getEntryValue(\"height\")"), "41");
-}
-
-TEST_F(FConfigurationGenIntTest, onlyTheTypedDefinitionIsOffered) {
-    const auto attributes = FCmdManager::instance()->getAttributesByReceiver(&conf());
-    ASSERT_EQ(attributes.size(), 1U);
-    EXPECT_EQ(attributes[0]->getClass(), "FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt");
-    EXPECT_NE(FObject::getPrototype("FCreateCmdFConfigurationGenIntgenericIntegrationConfigurationbool"), nullptr);
-    run("c.setDefinition(in)");
-    EXPECT_EQ(conf().getDefinition().ptr(), &def());
-    EXPECT_EQ(log().size(), 1);
-    run("c.setDefinition(d)");
     EXPECT_EQ(textOf("c.getEntryValue(\"height\")"), "41");
 }
 

@@ -7,8 +7,6 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
 #include "host/design/FEntryDef.h"
-#include "host/script/FCmdManager.h"
-#include "host/script/FMemberCmd.h"
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/support/FModelTest.h"
 
@@ -45,27 +43,16 @@ TEST_F(FDefinitionGenIntTest, listsAreTypedAndKeepTheOrderOfAdding) {
     definition->addFile(File(in));
     definition->addFile({});
     EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out", "more", "in"}));
-    EXPECT_EQ(names(definition->getFiles(0)), (QStringList{"in", "more", "in"}));
     EXPECT_EQ(names(definition->getFiles(5)), QStringList{"out"});
     EXPECT_EQ(definition->getFile("in.dat"), File(in));
     EXPECT_FALSE(definition->getFile("IN.dat"));
     in->setFileName("");
     EXPECT_FALSE(definition->getFile(""));
-    EXPECT_EQ(definition->getRunFiles().written, (QStringList{"", "in.dat", ""}));
-    EXPECT_EQ(definition->getRunFiles().read, QStringList{"out.dat"});
     definition->removeFile(File(in));
     EXPECT_EQ(names(definition->getFiles()), (QStringList{"out", "more"}));
-    EXPECT_EQ(names(definition->getCommandFiles()), QStringList{"more"});
-    EXPECT_FALSE(definition->dependsOn(in));
-    definition->setFiles(definition->getFiles());
-    EXPECT_EQ(names(definition->getFiles()), (QStringList{"out", "more"})) << "given its own list";
     definition->removeFile(definition->getFiles().first());
-    EXPECT_EQ(names(definition->getFiles()), QStringList{"more"});
-    EXPECT_FALSE(definition->dependsOn(out)) << "given a handle of its own list";
-    EXPECT_FALSE(definition->isCurCommandFile());
-    definition->setCurFile(File(more));
-    EXPECT_TRUE(definition->isCurCommandFile());
-    EXPECT_EQ(definition->getOutputPrecision(), 6);
+    EXPECT_EQ(names(definition->getFiles()), QStringList{"more"}) << "given a handle of its own list";
+    EXPECT_FALSE(definition->dependsOn(out));
 }
 
 TEST_F(FDefinitionGenIntTest, itHearsOfEachOfItsFiles) {
@@ -131,11 +118,8 @@ TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
         "<entry>X</entry> <ENTRY>x</ENTRY> <entry>x1</entry> <entry>g|X</entry> <entry>G|H|t</entry> "
         "<entry>none</entry>");
     out->setContent("<entry>x</entry>");
-    EXPECT_TRUE(definition->commandFileReferencesEntry(entry("x")));
     EXPECT_TRUE(definition->commandFileReferencesEntry(entry("G|x")));
     EXPECT_FALSE(definition->commandFileReferencesEntry(entry("G")));
-    EXPECT_FALSE(definition->commandFileReferencesEntry({}));
-    EXPECT_FALSE(definition->removeEntry({}));
     EXPECT_FALSE(definition->removeEntry(entry("G|x")));
     run("d.removeEntry(\"x\")");
     EXPECT_EQ(in->getPlainContent(),
@@ -149,7 +133,6 @@ TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
     const FProjectLoading loading;
     EXPECT_TRUE(definition->findAndRemoveEntry(entry("x1")));
     EXPECT_TRUE(in->getPlainContent().contains("<entry>x1</entry>"));
-    EXPECT_FALSE(definition->findAndRemoveEntry({}));
 }
 
 TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition) {
@@ -179,29 +162,12 @@ TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition
     const FProjectLoading loading;
     definition->reinitConfigurations(false);
     EXPECT_FALSE(own->isOutOfDate());
-    EXPECT_TRUE(FConnectorInterface::create("FSoftwareConnector", "made", {}));
-    EXPECT_FALSE(FConnectorInterface::create("FNoConnector", "made", {}));
-    EXPECT_EQ(FConnectorInterface::getConnectors(QString("FSoftwareConnector")).size(), 3);
-}
-
-TEST_F(FDefinitionGenIntTest, theFilesGoWhereTheDefinitionGoes) {
-    definition->setInProject(false);
-    EXPECT_FALSE(in->isInProject() || out->isInProject());
-    definition->setInUserConfig(true);
-    EXPECT_TRUE(in->isInUserConfig() && out->isInUserConfig());
-    definition->setDefault(true);
-    definition->setInUserConfig(false);
-    EXPECT_FALSE(definition->isInUserConfig());
-    EXPECT_TRUE(in->isInUserConfig());
-    definition->setInProject(true);
-    EXPECT_TRUE(in->isInProject());
 }
 
 TEST_F(FDefinitionGenIntTest, aCloneHasEntriesAndNoFiles) {
     run("d.addEntry(\"G|x\", 2, 3)\nd.setCurFile(in)");
     definition->setOutputPrecision(3);
     auto* copy = dynamic_cast<FDefinitionGenInt*>(definition->clone());
-    EXPECT_TRUE(copy->isInModel());
     EXPECT_EQ(copy->furtherSavedCommands(), definition->furtherSavedCommands());
     EXPECT_NE(copy->getEntryOfScope("G|x"), definition->getEntryOfScope("G|x"));
     EXPECT_TRUE(copy->getFiles().isEmpty());
@@ -213,16 +179,6 @@ TEST_F(FDefinitionGenIntTest, wrongArgumentsGiveNull) {
     run("d.setFiles([in, d])\nd.setFiles(in)\nd.setCurFile(d)");
     EXPECT_EQ(log().size(), 3);
     EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out"}));
-    // Users never see these three; projects need them.
-    for (const char* command :
-         {"FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer", "FAttribCmdFDefinitionGenIntsetCurFileFGenIntFile",
-          "FAttribCmdFDefinitionGenIntsetLastFileFGenIntFile"}) {
-        const auto* prototype = dynamic_cast<const FAttribCmd*>(FObject::getPrototype(QString::fromLatin1(command)));
-        ASSERT_TRUE(prototype) << command;
-        const FCmdPresentation& look = prototype->getRow()->presentation;
-        EXPECT_TRUE(look.hidden && look.readOnly && look.systemFlag == 2) << command;
-    }
-    EXPECT_EQ(FDefinitionGenInt::null()->getSystemFlag(), 1U);
 }
 
 }  // namespace

@@ -22,14 +22,11 @@ class FChooser : public FUserInterface {
     ~FChooser() override { replace(nullptr); }
     QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override {
         asked = QStringList{caption, startPath, filter};
-        EXPECT_TRUE(isModal);
         return answer;
     }
-    void setModalDialog(bool open) override { isModal = open; }
 
     QStringList asked;
     QString answer;
-    bool isModal = false;
 };
 
 class FGenIntDefinitionParserTest : public FModelTest {
@@ -170,22 +167,6 @@ TEST_F(FGenIntDefinitionParserTest, theObjectAreaIsDataAndItsErrorsHaveTheirPlac
     EXPECT_TRUE(logHolds("definition:6:"));
 }
 
-TEST_F(FGenIntDefinitionParserTest, objectsSavedAlongFindTheirDefinition) {
-    ASSERT_TRUE(run(QString(integration) + "genericIntegrationConfiguration conf() { .setDefinition(d); "
-                                           ".setEntryValue(\"x\", 5) }"));
-    QFile file(path("set.lodm"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(object<FDefinitionGenInt>("d")->save({FExpr<FManaged>(object<FManaged>("conf"))}, file));
-    EXPECT_TRUE(file.isOpen());
-    file.close();
-    const FDefinitionGenInt* copy = FConfigurationGenInt::null()->importGenIntDefinition(path("set.lodm"));
-    ASSERT_NE(copy, nullptr);
-    const auto* configuration = object<FConfigurationGenInt>("conf_01");
-    ASSERT_NE(configuration, nullptr);
-    EXPECT_EQ(configuration->getDefinition().ptr(), copy);
-    EXPECT_EQ(textOf("conf_01.getEntryValue(\"x\")"), "5");
-}
-
 TEST_F(FGenIntDefinitionParserTest, importAsksForAFileAndRemembersIt) {
     write("d.lodm", "<definition version=\"1\" name=\"d\"/>");
     const auto import = [](const QString& name) { return FConfigurationGenInt::null()->importGenIntDefinition(name); };
@@ -194,7 +175,6 @@ TEST_F(FGenIntDefinitionParserTest, importAsksForAFileAndRemembersIt) {
     EXPECT_EQ(chooser.asked,
               (QStringList{"Open LODM File", FPathManager::instance()->getSamplesDir(), "LODM Files (*.lodm *.xml)"}));
     EXPECT_FALSE(FIni().contains("LODM/import/path")) << "nothing was chosen";
-    EXPECT_FALSE(chooser.isModal);
     chooser.answer = path("d.lodm");
     ASSERT_NE(import({}), nullptr);
     chooser.answer.clear();

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+
+#include <vector>
+
+#include "genericintegration/io/FTemplateSubstitution.h"
+#include "tests/genericintegration/io/SlowTemplateModel.h"
+
+/// Templates as the writer writes them, beside what the slow model makes of them. For tests and fuzz targets.
+namespace FTemplateComparison {
+
+using Table = QMap<QString, SlowTemplateModel::Row>;
+
+struct Report {
+    FTagOutcome outcome;
+    QString name;
+    int row;
+    qsizetype position;
+    FTextPlace place;
+};
+
+struct Written {
+    QString text;
+    QByteArray bytes;
+    std::vector<Report> reports;
+};
+
+Written write(const QString& text, const Table& table, bool force);
+
+/// Where what was written isn't the model's; empty if they agree.
+QString difference(const Written& written, const QString& text, const Table& table, bool force);
+/// The same for the names that stand in tags, and for renaming one.
+QString differenceOfNames(const QString& text, const QString& name);
+
+}  // namespace FTemplateComparison

@@ -6,8 +6,6 @@
 #include <QStandardPaths>
 #include <QThread>
 
-#include <utility>
-
 namespace {
 
 class ProjectTest : public FProgramTest {

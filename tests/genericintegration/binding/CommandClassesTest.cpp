@@ -21,12 +21,7 @@ const QStringList commandClasses{
 class CommandClassesTest : public FModelTest {};
 
 TEST_F(CommandClassesTest, areKnownUnderTheirExactNames) {
-    QStringList known;
-    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
-        known.append(row->className());
-    }
     for (const QString& name : commandClasses) {
-        EXPECT_EQ(known.count(name), 1) << name.toStdString();
         const FObject* prototype = FObject::getPrototype(name);
         ASSERT_NE(prototype, nullptr) << name.toStdString();
         EXPECT_EQ(prototype->getClass(), name);

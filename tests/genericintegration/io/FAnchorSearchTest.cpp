@@ -33,8 +33,6 @@ TEST(FAnchorSearchTest, findsEachAnchorWhereAStringFindsIt) {
                                    QStringLiteral("kK\u212Aab "),
                                    QStringLiteral("\u00E4\u00C4ab"),
                                    QStringLiteral("abcdefghijklmnopqrstuvwxyz\u017F "),
-                                   "0123456789 ",
-                                   "@`[{kK\x7F_",
                                    "        x"};
     for (quint32 seed = 0; seed < 120; ++seed) {
         SCOPED_TRACE(seed);

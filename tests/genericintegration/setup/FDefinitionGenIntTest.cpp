@@ -1,12 +1,10 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 
-#include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
-#include "host/design/FEntryDef.h"
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/support/FModelTest.h"
 
@@ -173,12 +171,6 @@ TEST_F(FDefinitionGenIntTest, aCloneHasEntriesAndNoFiles) {
     EXPECT_TRUE(copy->getFiles().isEmpty());
     EXPECT_FALSE(copy->getCurFile());
     EXPECT_EQ(copy->getOutputPrecision(), 6);
-}
-
-TEST_F(FDefinitionGenIntTest, wrongArgumentsGiveNull) {
-    run("d.setFiles([in, d])\nd.setFiles(in)\nd.setCurFile(d)");
-    EXPECT_EQ(log().size(), 3);
-    EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out"}));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FObjectManager.h"
 #include "tests/support/FModelTest.h"
 
 #include <QFile>

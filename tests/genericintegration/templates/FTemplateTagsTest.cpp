@@ -4,8 +4,6 @@
 
 #include <QChar>
 
-#include "genericintegration/templates/FTemplateScanner.h"
-
 using namespace FTemplateTags;
 
 namespace {

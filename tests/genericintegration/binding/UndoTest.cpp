@@ -14,8 +14,8 @@ class IntegrationUndoTest : public FUndoTest {
         return {"genericIntegrationCommandFile t0() { .setContent(\"<entry>a</entry> <entry>G|b</entry>\") }",
                 "genericIntegrationResultsFile t1() { .setFileName(\"out.dat\") }",
                 "parameter t4(2)",
-                "genericIntegrationDefinition t2() { .addEntry(\"a\", 1) .addEntry(\"G|b\", \"x\") "
-                ".addEntry(\"n\", 2, 5, 1); .setFiles([t0, t1]) }",
+                R"(genericIntegrationDefinition t2() { .addEntry("a", 1) .addEntry("G|b", "x") .addEntry("n", 2, 5, 1);
+                       .setFiles([t0, t1]) })",
                 "genericIntegrationConfiguration t3() { .setDefinition(t2) .setEntryValue(\"a\", t4 * 3) }",
                 "genericIntegrationComputation t5() { .setConfiguration(t3) }"};
     }

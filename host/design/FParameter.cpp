@@ -93,3 +93,10 @@ bool FParameter::doUpdate() const {
 QStringList FParameter::furtherSavedCommands() const {
     return isUpdateOnDemand() ? QStringList{QStringLiteral("setUpdateOnDemand(true)")} : QStringList();
 }
+
+// The value may be a list that holds the parameter itself.
+void FParameter::letGo() {
+    mValue.unregisterClient(this);
+    mValue = FExprBase();
+    mResult = FExprBase();
+}

@@ -27,6 +27,7 @@ class FParameter : public FClass<FParameter, FEntity> {
  protected:
     explicit FParameter(const QString& name = QString());
     std::vector<FExprBase> getOperands() const override { return {mValue}; }
+    void letGo() override;
 
  private:
     friend class FClass<FParameter, FEntity>;

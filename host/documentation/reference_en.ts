@@ -1856,7 +1856,7 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName=""):argument0</source>
-        <translation>The file, relative to the folder of the script if it lies there, otherwise to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
+        <translation>The file, relative to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName=""):example</source>

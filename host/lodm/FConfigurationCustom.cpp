@@ -8,7 +8,6 @@
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/run/FPathManager.h"
 #include "host/script/FCmd.h"
-#include "host/script/FCmdInput.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 
@@ -30,12 +29,6 @@ QString askForFile() {
                                              QStringLiteral("LODM Files (*.lodm *.xml)"));
     FViewCtrl::finalizeModalDialog();
     return answer;
-}
-
-QString resolve(const QString& fileName) {
-    const QString path = FFile::resolveEnv(fileName);
-    const FCmdInput* script = FCmdInput::current();
-    return script ? script->resolvePath(path) : path;
 }
 
 void tellUnreadable(const QFile& file) {
@@ -97,7 +90,7 @@ FDefinitionCustom* FConfigurationCustom::parseFile(QFile* file, const FExpr<FDef
 
 FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefinitionCustom>& definition,
                                                               const QString& fileName) const {
-    const QString path = fileName.isEmpty() ? askForFile() : resolve(fileName);
+    const QString path = fileName.isEmpty() ? askForFile() : FFile::resolveEnv(fileName);
     if (path.isEmpty()) {
         return nullptr;
     }

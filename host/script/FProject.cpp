@@ -189,8 +189,8 @@ bool FProject::save(const QString& path) {
 }
 
 QString FProject::write(const QString& file) const {
-    const QByteArray bytes = FProjectText::write();
-    const QString fault = FProjectText::faultOf(bytes);
+    QString fault;
+    const QByteArray bytes = FProjectText::write(&fault);
     if (!fault.isEmpty() || holds(file, bytes)) {
         return fault;
     }

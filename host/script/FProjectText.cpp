@@ -38,7 +38,7 @@ bool refuse(const QString& path, const QString& reason, const QString& advice) {
 
 }  // namespace
 
-QByteArray FProjectText::write() {
+QByteArray FProjectText::write(QString* fault) {
     QString text = QLatin1String(header) + QString::number(version) + QLatin1Char('\n');
     FSavedOrder order;
     for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
@@ -49,11 +49,13 @@ QByteArray FProjectText::write() {
     for (const QString& block : order.getTexts()) {
         text += block;
     }
-    return text.toUtf8();
-}
-
-QString FProjectText::faultOf(const QByteArray& text) {
-    return text.size() > largestFile ? tooLarge(text.size()) : FTokenStream::faultOf(QString::fromUtf8(text));
+    const QByteArray bytes = text.toUtf8();
+    if (fault) {
+        *fault = bytes.size() > largestFile                          ? tooLarge(bytes.size())
+                 : order.getTokenCount() >= FTokenStream::mostTokens ? FTokenStream::tooMany()
+                                                                     : QString();
+    }
+    return bytes;
 }
 
 bool FProjectText::load(const QString& path) {

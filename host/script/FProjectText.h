@@ -13,10 +13,11 @@ class FProjectText {
     /** Largest file, in bytes, that is read. */
     static constexpr qint64 largestFile = qint64{512} << 20U;
 
-    /** All objects of the model that belong to the project. The same model gives the same bytes. */
-    static QByteArray write();
-    /** What keeps a text that was written from being read again; empty if nothing does. */
-    static QString faultOf(const QByteArray& text);
+    /**
+     * All objects of the model that belong to the project. The same model gives the same bytes.
+     * @param fault  gets what keeps the text from being read again; empty if nothing does
+     */
+    static QByteArray write(QString* fault = nullptr);
 
     /**
      * Reads a file without touching the model. False, with a message, if it can't be read, is too large, is no project,

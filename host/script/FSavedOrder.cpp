@@ -17,7 +17,7 @@ void FSavedOrder::add(const FManaged& object) {
     }
 }
 
-std::vector<std::size_t> FSavedOrder::namedBy(std::size_t number) const {
+std::vector<std::size_t> FSavedOrder::namedBy(std::size_t number) {
     std::vector<std::size_t> named;
     QSet<std::size_t> seen{number};
     FLexer lexer(mBlocks[number].text);
@@ -31,11 +31,12 @@ std::vector<std::size_t> FSavedOrder::namedBy(std::size_t number) const {
             }
         }
         isCommand = token.kind == FToken::Kind::Dot;
+        ++mTokenCount;
     }
     return named;
 }
 
-QStringList FSavedOrder::getTexts() const {
+QStringList FSavedOrder::getTexts() {
     struct Visit {
         std::size_t number;
         std::vector<std::size_t> named;

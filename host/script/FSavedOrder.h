@@ -16,7 +16,9 @@ class FManaged;
 class FSavedOrder {
  public:
     void add(const FManaged& object);
-    QStringList getTexts() const;
+    QStringList getTexts();
+    /** Words, numbers, texts and signs of the texts that were given. */
+    qint64 getTokenCount() const { return mTokenCount; }
 
  private:
     struct Block {
@@ -25,8 +27,9 @@ class FSavedOrder {
     };
 
     /** The blocks whose objects a text names, each once. */
-    std::vector<std::size_t> namedBy(std::size_t number) const;
+    std::vector<std::size_t> namedBy(std::size_t number);
 
     std::vector<Block> mBlocks;
     QHash<QString, std::size_t> mNumbers;
+    qint64 mTokenCount = 0;
 };

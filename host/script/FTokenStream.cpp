@@ -2,14 +2,6 @@
 
 using Kind = FToken::Kind;
 
-namespace {
-
-QString tooManyTokens() {
-    return QStringLiteral("more than %1 words, numbers, texts and signs").arg(FTokenStream::mostTokens);
-}
-
-}  // namespace
-
 FTokenStream::Level::Level(FTokenStream& tokens) : mTokens(tokens) {
     if (++tokens.mNesting > deepestNesting)
         tokens.fail(
@@ -34,12 +26,8 @@ bool FTokenStream::isAtDeclaration() const {
            isAt({Kind::Ampersand, Kind::Name, Kind::Name, Kind::LeftParen});
 }
 
-QString FTokenStream::faultOf(const QString& text) {
-    FLexer lexer(text);
-    int count = 0;
-    while (count <= mostTokens && lexer.next().kind != Kind::End)
-        ++count;
-    return count <= mostTokens ? QString() : tooManyTokens();
+QString FTokenStream::tooMany() {
+    return QStringLiteral("more than %1 words, numbers, texts and signs").arg(mostTokens);
 }
 
 void FTokenStream::advance() {
@@ -47,7 +35,7 @@ void FTokenStream::advance() {
         return;
     mPrevious = mCurrent;
     if (++mTokenCount > mostTokens) {
-        fail(mCurrent.place, tooManyTokens() + QStringLiteral(": what follows isn't read"));
+        fail(mCurrent.place, tooMany() + QStringLiteral(": what follows isn't read"));
         mLexer.skipAll();
     }
     mCurrent = mLexer.next();

@@ -34,8 +34,8 @@ class FTokenStream {
         FTokenStream& mTokens;
     };
 
-    /// What of its size keeps a text from being read; empty if nothing does.
-    static QString faultOf(const QString& text);
+    /// What to say of a text with more.
+    static QString tooMany();
 
     explicit FTokenStream(const FLexer& lexer) : mLexer(lexer), mCurrent(mLexer.next()) {}
 

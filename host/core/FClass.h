@@ -51,7 +51,7 @@ class FClass<Self, Qt, Base> : public Qt, public Base {
         : Base(std::forward<Args>(args)...) {}
 
     const FClassData& getClassData() const override { return Self::mClass; }
-    static const Self* null() { return dynamic_cast<const Self*>(Self::mClass.mpNull); }
+    static const Self* null() { return static_cast<const Self*>(Self::mClass.mpNull); }
     static const FObject* initPrototype() {
         return FPrototypes::build(Self::mClass, FPrototypes::familyOf<Self>(),
                                   []() -> const FObject* { return new Self(); });

@@ -7,15 +7,6 @@ struct FClassData::FieldCache {
     std::vector<const FStateField*> all;
 };
 
-bool FClassData::isSuperClassOf(const FClassData& other) const {
-    for (const FClassData* data = &other; data; data = data->mpSuper) {
-        if (data == this) {
-            return true;
-        }
-    }
-    return false;
-}
-
 const std::vector<const FStateField*>& FClassData::getFields() const {
     if (!mpFieldCache) {
         mpFieldCache = new FieldCache;

@@ -43,7 +43,13 @@ class FClassData {
     const std::vector<const FStateField*>& getFields() const;
 
     /** True if `other` is this class or derived from it. */
-    bool isSuperClassOf(const FClassData& other) const;
+    bool isSuperClassOf(const FClassData& other) const {
+        const FClassData* data = &other;
+        while (data && data != this) {
+            data = data->mpSuper;
+        }
+        return data;
+    }
 
  private:
     struct FieldCache;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExprBase.h"
+#include "host/core/objectCast.h"
 
 /** A handle on an object of class T, or on an expression that gives one. */
 template <class T>
@@ -36,7 +37,7 @@ class FExpr : public FExprBase {
     }
 
     /** The object behind the handle, or null. */
-    T* ptr() const { return dynamic_cast<T*>(getObject()); }
+    T* ptr() const { return objectCast<T>(getObject()); }
     T* operator->() const { return ptr(); }
     bool operator!() const { return !static_cast<bool>(*this); }
     explicit operator bool() const { return isCmd() ? isValid() : ptr() != nullptr; }
@@ -48,7 +49,7 @@ class FExpr : public FExprBase {
     void convert(const FExprBase& other) {
         const FObject* type = other.getType();
         const bool fits = !type || type->isTypeOf(T::null()) || (other.isCmd() && T::null()->isTypeOf(type)) ||
-                          dynamic_cast<const T*>(other.getStored());
+                          objectCast<T>(other.getStored());
         FExprBase::operator=(fits ? other : FExprBase());
     }
 };

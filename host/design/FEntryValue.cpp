@@ -11,11 +11,11 @@
 namespace {
 
 bool isInteger(const FObject* value) {
-    return dynamic_cast<const FInteger*>(value) && !dynamic_cast<const FEnumBase*>(value);
+    return objectCast<FInteger>(value) && !objectCast<FEnumBase>(value);
 }
 
 bool makesValue(const FObject* object) {
-    const auto* command = dynamic_cast<const FCmd*>(object);
+    const auto* command = objectCast<FCmd>(object);
     const FCmdRow* row = command ? command->getRow() : nullptr;
     return row && row->kind == FCmdRow::Kind::Global && row->isQuery() && !row->arguments.empty() &&
            std::all_of(row->arguments.begin(), row->arguments.end(),

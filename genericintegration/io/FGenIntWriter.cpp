@@ -17,7 +17,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <typeinfo>
 
 FClassData FGenIntWriter::mClass("FGenIntWriter", &FObject::mClass);
 
@@ -40,34 +39,22 @@ bool openForWriting(QFile& file, const QString& name) {
                       QStringLiteral("give the template a file name below it"));
         return false;
     }
-    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
     const QString path = file.fileName();
     const int separator = lastSeparator(path);
-    if (!FPathManager::removeLink(path)) {
-        return false;
-    }
     // Most folders are there, which an open file shows sooner than a look for the folder.
-    if (separator >= 0 && path[separator] == u'/' && file.open(mode)) {
+    if (separator >= 0 && path[separator] == u'/' && FPathManager::openForWriting(file)) {
         return true;
     }
     QDir().mkpath(path.left(separator));
-    return file.open(mode);
+    return FPathManager::openForWriting(file);
 }
 
 /** Files that values name reach the disk now. */
 void updateFileNames(const FValueTable& table) {
-    // All entries are passed for each design, and most values are of the same type: that of numbers.
-    const std::type_info* known = nullptr;
-    for (const FEntry* entry : table.getEntries()) {
-        const FObject* stored = entry->getValue().getStored();
-        if (!stored || &typeid(*stored) == known) {
-            continue;
-        }
-        const FObject* value = stored->evaluate();
+    for (const FEntry* entry : table.getFileNameEntries()) {
+        const FObject* value = entry->getValue().getObject();
         if (value && value->getPrototype() == FFileName::null()) {
             value->update();
-        } else if (!stored->isCmd()) {
-            known = &typeid(*stored);
         }
     }
 }
@@ -105,7 +92,7 @@ bool FGenIntWriter::exportCommandFiles(const FExpr<FConfiguration>& configuratio
     const FValueTable table(*configuration.ptr(), *definition, FValueTable::Use::Export);
     const QList<FExpr<FGenIntFile>> files = definition->getFiles();
     for (const FExpr<FGenIntFile>& file : files) {
-        const bool isInput = dynamic_cast<const FGenIntCommandFile*>(file.ptr()) != nullptr;
+        const bool isInput = objectCast<FGenIntCommandFile>(file.ptr()) != nullptr;
         if (isInput && !exportFile(*file.ptr(), directory, table, configuration)) {
             return false;
         }
@@ -160,7 +147,7 @@ bool FGenIntWriter::previewCommandFiles(const FExpr<FConfiguration>& configurati
     const FValueTable table(*configuration.ptr(), *definition, FValueTable::Use::Preview);
     const QList<FExpr<FGenIntFile>> files = definition->getFiles();
     for (const FExpr<FGenIntFile>& file : files) {
-        if (const auto* input = dynamic_cast<const FGenIntCommandFile*>(file.ptr())) {
+        if (const auto* input = objectCast<FGenIntCommandFile>(file.ptr())) {
             texts.insert(input->getFileName(), previewText(*input, table, configuration));
         }
     }

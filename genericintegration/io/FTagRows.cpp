@@ -6,6 +6,7 @@
 #include "host/design/FEntry.h"
 
 #include <algorithm>
+#include <iterator>
 
 std::shared_ptr<const FTagRows> FTagRows::of(const FConfiguration& configuration, const FTemplateOwner& definition,
                                              const QStringList& fileKeys) {
@@ -38,6 +39,16 @@ FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileK
         }
     }
     std::for_each(file, sorted.cend(), appendFile);
+}
+
+const std::vector<const FEntry*>& FTagRows::getFileNameEntries() const {
+    if (mFileNameVersion != FEntry::getFileNameVersion()) {
+        mFileNameVersion = FEntry::getFileNameVersion();
+        mFileNameEntries.clear();
+        std::copy_if(mEntries.begin(), mEntries.end(), std::back_inserter(mFileNameEntries),
+                     [](const FEntry* entry) { return entry->mayGiveFileName(); });
+    }
+    return mFileNameEntries;
 }
 
 void FTagRows::append(const QString& key, const Row& row) {

@@ -30,8 +30,8 @@ class FTagRows {
 
     const FTemplateKeys& getKeys() const { return mKeys; }
     const Row& at(int row) const { return mRows[static_cast<std::size_t>(row)]; }
-    /** All entries of the configuration that hold values, also those in whose place a file answers. */
-    const std::vector<const FEntry*>& getEntries() const { return mEntries; }
+    /** The entries whose values may give file names at present, also those in whose place a file answers. */
+    const std::vector<const FEntry*>& getFileNameEntries() const;
 
  private:
     FTagRows(const FConfiguration& configuration, const QStringList& fileKeys);
@@ -42,4 +42,6 @@ class FTagRows {
     std::vector<Row> mRows;
     FTemplateKeys mKeys;
     std::vector<const FEntry*> mEntries;
+    mutable quint64 mFileNameVersion = 0;
+    mutable std::vector<const FEntry*> mFileNameEntries;  ///< of that version
 };

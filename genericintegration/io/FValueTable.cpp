@@ -32,8 +32,8 @@ const FTemplateKeys& FValueTable::getKeys() const {
     return mRows->getKeys();
 }
 
-const std::vector<const FEntry*>& FValueTable::getEntries() const {
-    return mRows->getEntries();
+const std::vector<const FEntry*>& FValueTable::getFileNameEntries() const {
+    return mRows->getFileNameEntries();
 }
 
 QString FValueTable::textOf(int row) const {
@@ -46,6 +46,6 @@ QString FValueTable::entryText(const FEntry& entry) const {
     if (mUse == Use::Preview && !value.canSafelyBeUpdated(false)) {
         return value.toString(nullptr).replace(QLatin1Char('\\'), QLatin1Char('/'));
     }
-    const auto* basic = dynamic_cast<const FBasicType*>(entry.getValueObject());
+    const auto* basic = objectCast<FBasicType>(entry.getValueObject());
     return basic ? basic->toPlainString() : QStringLiteral("SHOULD_BE_EXPORTED");
 }

@@ -31,8 +31,8 @@ class FValueTable {
     const FTemplateKeys& getKeys() const;
     /** The text that replaces a tag which the row answers. */
     QString textOf(int row) const;
-    /** All entries of the configuration that hold values. */
-    const std::vector<const FEntry*>& getEntries() const;
+    /** The entries whose values may give file names. */
+    const std::vector<const FEntry*>& getFileNameEntries() const;
 
  private:
     QString entryText(const FEntry& entry) const;

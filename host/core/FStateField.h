@@ -77,8 +77,8 @@ class FStateFields {
     }
     /** A handle on a value that this object owns and depends on: linked, and the value's own fields are kept with it.
      */
-    FStateFields& owned(FExprBase C::*member) {
-        mFields.push_back(std::make_unique<OwnedValueField>(member));
+    FStateFields& owned(FExprBase C::*member, After after = nullptr) {
+        mFields.push_back(std::make_unique<OwnedValueField>(member, std::move(after)));
         return *this;
     }
     /** A list of handles on objects that this one owns; their fields are kept with it. */
@@ -184,7 +184,7 @@ class FStateFields {
 
     class OwnedValueField : public OwnedField {
      public:
-        explicit OwnedValueField(FExprBase C::*member) : mMember(member) {}
+        OwnedValueField(FExprBase C::*member, After after) : mMember(member), mAfter(std::move(after)) {}
         std::any read(const FObject& object) const override {
             return OwnedField::keep({static_cast<const C&>(object).*mMember});
         }
@@ -194,10 +194,14 @@ class FStateFields {
             handle = OwnedField::owned(value).objects.front();
             handle.restoreClient(&object);
             OwnedField::owned(value).restoreElements();
+            if (mAfter) {
+                mAfter(static_cast<C&>(object));
+            }
         }
 
      private:
         FExprBase C::*mMember;
+        After mAfter;
     };
 
     template <class T>

@@ -1,6 +1,7 @@
 #include "host/design/FEntry.h"
 
 #include "host/core/FHistory.h"
+#include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryDef.h"
 #include "host/design/FEntryTree.h"
@@ -12,6 +13,7 @@
 FClassData FEntry::mClass("FEntry", &FEntryBase::mClass, nullptr, &FEntry::fields);
 
 int FEntry::mCount = 0;
+quint64 FEntry::mFileNameVersion = 0;
 
 FEntry::FEntry(const QString& name) : FClass(name) {
     ++mCount;
@@ -30,7 +32,7 @@ std::vector<std::unique_ptr<FStateField>> FEntry::fields() {
     return FStateFields<FEntry>()
         .member(&FEntry::mDefinition, [](FEntry&) { structureChanged(); })
         .member(&FEntry::mIndex, [](FEntry&) { structureChanged(); })
-        .owned(&FEntry::mValue)
+        .owned(&FEntry::mValue, [](FEntry&) { ++mFileNameVersion; })
         .take();
 }
 
@@ -76,7 +78,9 @@ bool FEntry::setValue(const FExprBase& value) {
                           .arg(getFullName(), taken.toHistoryString(), mValue.toHistoryString()));
         return false;
     }
+    const bool mayHaveGiven = mayGiveFileName();
     mValue = taken;
+    mFileNameVersion += mayHaveGiven != mayGiveFileName();
     FHistory::instance()->addStep(this);
     FRecorded::setOutOfDate(true);
     return true;
@@ -98,6 +102,12 @@ FObject* FEntry::getValueObject() const {
 bool FEntry::doUpdate() const {
     mResult = entryValue(FExprBase(valueObject(mValue)));
     return FEntryBase::doUpdate();
+}
+
+// An object that is gone, whatever it was, may come back.
+bool FEntry::mayGiveFileName() const {
+    const FObject* stored = mValue.getStored();
+    return stored ? stored->isCmd() || stored->getPrototype() == FFileName::null() : !mValue.isEmpty();
 }
 
 void FEntry::reassignEntryDefs() {

@@ -42,6 +42,10 @@ class FEntry : public FClass<FEntry, FEntryBase> {
     /** The evaluated value, a number as a double; null if there is none. */
     FObject* getValueObject() const override;
     bool doUpdate() const override;
+    /** False if the value's type is known and isn't that of file names. An expression may give one. */
+    bool mayGiveFileName() const;
+    /** Changes whenever this may have changed for an entry of the program that holds a value. */
+    static quint64 getFileNameVersion() { return mFileNameVersion; }
 
     /**
      * Has the nested entries belong to the present entry definitions: one whose own is gone takes the first of the same
@@ -62,6 +66,7 @@ class FEntry : public FClass<FEntry, FEntryBase> {
     static std::vector<std::unique_ptr<FStateField>> fields();
 
     static int mCount;
+    static quint64 mFileNameVersion;
 
     FExpr<FEntryDef> mDefinition;
     int mIndex = 0;

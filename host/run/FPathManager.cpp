@@ -7,8 +7,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 #include <utility>
 
@@ -63,6 +66,9 @@ QString FPathManager::getSamplesDir() const {
 }
 
 bool FPathManager::leadsOut(const QString& fileName) {
+    if (!fileName.contains(QLatin1String(".."))) {
+        return false;
+    }
     QString name = fileName;
     name.replace(QLatin1Char('\\'), QLatin1Char('/'));
     // The joined path starts with the folder's own slash, so a name with one at its begin stays inside.
@@ -91,6 +97,20 @@ bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
 
 bool FPathManager::removeLink(const QString& path) {
     return !QFileInfo(path).isSymLink() || QFile::remove(path);
+}
+
+// Mostly the file is new. If not, it is emptied, not replaced, as long as it is a file of its own: who may read or run
+// it stays as it is.
+bool FPathManager::openForWriting(QFile& file) {
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    if (file.open(mode | QIODevice::NewOnly)) {
+        return true;
+    }
+    struct stat status {};
+    const bool isThere = ::lstat(QFile::encodeName(file.fileName()).constData(), &status) == 0;
+    const bool isOwn = isThere && S_ISREG(status.st_mode) && status.st_nlink == 1;
+    return isOwn ? file.open(mode | QIODevice::Truncate)
+                 : isThere && file.remove() && file.open(mode | QIODevice::NewOnly);
 }
 
 FRunScope::FRunScope(const QString& folder) : mBefore(std::exchange(FPathManager::instance()->mRunFolder, folder)) {}

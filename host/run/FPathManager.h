@@ -6,6 +6,7 @@
 
 class FDesign;
 class FExternComputation;
+class QFile;
 
 /**
  * The folders of the program. Runs have theirs at <results root>/<design>/<computation>; what a run reads and writes
@@ -43,6 +44,11 @@ class FPathManager {
      * it is one and can't be removed.
      */
     static bool removeLink(const QString& path);
+    /**
+     * Opens a file for writing from its begin, without a buffer, in a folder that is there. What has its name and is
+     * known by another name too, as a link is, makes room for a new file. False if that can't be.
+     */
+    static bool openForWriting(QFile& file);
 
  private:
     friend class FRunScope;

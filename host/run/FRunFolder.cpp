@@ -136,8 +136,7 @@ void FRunFolder::noteLeft() const {
     }
     // Not through QSaveFile, which waits for the disk: that takes longer than many a run, and half a list harms nobody.
     QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
-    if (FPathManager::removeLink(notes.fileName()) && QDir().mkpath(QFileInfo(notes.fileName()).path()) &&
-        notes.open(QIODevice::WriteOnly)) {
+    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && FPathManager::openForWriting(notes)) {
         notes.write(names.join(separator));
     }
 }

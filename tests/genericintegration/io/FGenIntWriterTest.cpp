@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <functional>
 #include <random>
 #include <set>
@@ -79,16 +80,23 @@ TEST_F(FGenIntWriterTest, forcedLineEndsConcernTheTemplateInExportsOnly) {
 }
 
 TEST_F(FGenIntWriterTest, fileNamesAreBroughtUpToDateWithoutATag) {
-    run("def.addEntry(\"a\", 1)\ndef.addEntry(\"b\", 2)\ndef.addEntry(\"c\", 3)\ndef.addEntry(\"d\", \"text\")");
-    const FExprBase name(new FFileName("x"));
-    const FExprBase text(new FString("x"));
-    configuration->setEntryValue("b", name);
-    configuration->setEntryValue("d", text);
-    name.getStored()->setOutOfDate(true);
-    text.getStored()->setOutOfDate(true);
-    ASSERT_TRUE(write());
-    EXPECT_FALSE(name.getStored()->isOutOfDate());
-    EXPECT_TRUE(text.getStored()->isOutOfDate());
+    run("def.addEntry(\"a\", 1)\ndef.addEntry(\"b\", \"text\")");
+    const auto isBroughtUpToDate = [this](const FExprBase& value) {
+        value.getStored()->setOutOfDate(true);
+        EXPECT_TRUE(write());
+        return !value.getStored()->isOutOfDate();
+    };
+    const auto set = [this](const FExprBase& value) {
+        configuration->setEntryValue("b", value);
+        return value;
+    };
+    EXPECT_TRUE(isBroughtUpToDate(set(FExprBase(new FFileName("x")))));
+    EXPECT_FALSE(isBroughtUpToDate(set(FExprBase(new FString("x")))));
+    const FExprBase name = set(FExprBase(new FFileName("y")));
+    run("undo()");
+    EXPECT_FALSE(isBroughtUpToDate(name));
+    run("redo()");
+    EXPECT_TRUE(isBroughtUpToDate(name));
 }
 
 TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
@@ -151,10 +159,13 @@ TEST_F(FGenIntWriterTest, linksInTheDirectoryLeadNothingOut) {
     QFile kept(other.filePath("kept"));
     ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
     ASSERT_TRUE(QFile::link(kept.fileName(), folder.filePath("link")));
+    std::filesystem::create_hard_link(kept.fileName().toStdString(), folder.filePath("hard link").toStdString());
     ASSERT_TRUE(QFile::link(other.path(), folder.filePath("out")));
     add("link", "x");
+    add("hard link", "y");
     EXPECT_TRUE(write());
     EXPECT_EQ(written("link"), "x");
+    EXPECT_EQ(written("hard link"), "y");
     EXPECT_EQ(kept.size(), 0);
     add("out/new/file", "x");
     EXPECT_FALSE(write());

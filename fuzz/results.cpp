@@ -51,18 +51,18 @@ bool isNear(const FValueDescription& value) {
            value.averageRows <= quint32{farthestForModel};
 }
 
-void compare(const FLiteralReader::Found& wanted, const FFoundValue& found) {
-    FFuzzCheck::same(wanted.text, found.text, "the text of a value is the model's");
+void compare(const FLiteralReader::Found& wanted, const FFoundValue& found, const FResultText& text) {
+    FFuzzCheck::same(wanted.text, found.textIn(text), "the text of a value is the model's");
     const bool bothMissing = wanted.number != wanted.number && found.number != found.number;
     FFuzzCheck::holds(bothMissing || wanted.number == found.number, "the number of a value is the model's");
 }
 
 void compareWithModel(const QString& content, const std::vector<FValueDescription>& values,
-                      const FSeparatorSettings& separators, const FFoundValues& found) {
+                      const FSeparatorSettings& separators, const FFoundValues& found, const FResultText& text) {
     FFuzzCheck::holds(FLiteralReader::order(content, values) == found.order, "the order of values is the model's");
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (isNear(values[i])) {
-            compare(FLiteralReader::find(content, values[i], separators), found.values[i]);
+            compare(FLiteralReader::find(content, values[i], separators), found.values[i], text);
         }
     }
 }

@@ -41,19 +41,20 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units) {
     return column;
 }
 
-FFoundValue FColumn::value(const FResultText& in, qint64 line) const {
-    const FTextIndex& index = in.index();
-    const qint64 begin = range.begin;
+FFoundValue FColumn::value(const FResultText& in, qint64 line, qint64 lineBegin) const {
     FFoundValue value;
     value.line = line + 1;
     value.flags = flags;
     value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
     value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);
     if (exists) {
+        const FTextIndex& index = in.index();
+        const qint64 begin = index.utf16At(range.begin);
         value.number = number;
-        value.text = range.size() > 0 ? FUtf8::decode(range.of(in.text())) : text;
-        value.column = index.utf16At(begin) - index.utf16At(index.lineBegin(begin)) + units + 1;
-        value.length = value.text.size();
+        value.range = range;
+        value.separated = text;
+        value.column = begin - index.utf16At(lineBegin) + units + 1;
+        value.length = index.utf16At(range.end) - begin + text.size();
     }
     return value;
 }

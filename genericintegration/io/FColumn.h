@@ -25,6 +25,6 @@ struct FColumn {
     /// The text between separators, which is read as a number.
     static FColumn found(const QString& text, qint64 offset, int units);
 
-    /// The column as what was found in a text, with its place there; its line is numbered from 0.
-    FFoundValue value(const FResultText& in, qint64 line) const;
+    /// The column as what was found in a text, with its place there. Its line is numbered from 0.
+    FFoundValue value(const FResultText& in, qint64 line, qint64 lineBegin) const;
 };

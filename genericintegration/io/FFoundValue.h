@@ -5,6 +5,10 @@
 
 #include <limits>
 
+#include "genericintegration/io/FByteRange.h"
+
+class FResultText;
+
 /// What was odd when a value was searched. None of it keeps the search from going on.
 enum class FFoundFlag : quint32 {
     AnchorMissing = 0x1,   ///< counted from the text's top instead, for a line below 0 from its bottom
@@ -28,9 +32,13 @@ constexpr FFoundFlags SuspiciousFlags = FFoundFlag::CutExponent | FFoundFlag::St
 /// What the search for a value found.
 struct FFoundValue {
     double number = std::numeric_limits<double>::quiet_NaN();  ///< of an average: the mean
-    QString text;                                              ///< of an average: that of the last row
+    FByteRange range{};                                        ///< of a text that was found as a number; else empty
+    QString separated{};                                       ///< a text found between separators
     qint64 line = -1;    ///< where the text was taken or its column is missing, from 1; -1 when there is no such line
     qint64 column = -1;  ///< of the text's begin in the whole line, from 1, in UTF-16 units; -1 when missing
     qint64 length = -1;  ///< in UTF-16 units; -1 when the column is missing
     FFoundFlags flags{};
+
+    /// What stands in the text that was searched.
+    QString textIn(const FResultText& text) const;
 };

@@ -87,19 +87,19 @@ QStringList oddities(const FFoundValue& found) {
     return texts;
 }
 
-FNumberOrigin originOf(const FFoundValue& found) {
-    return {found.text, found.line, found.column, found.length, oddities(found)};
+FNumberOrigin originOf(const FFoundValue& found, const QString& text) {
+    return {text, found.line, found.column, found.length, oddities(found)};
 }
 
 // Such a number looks as good as any other, but most likely is another one than that which was marked.
-void warnOfMissingAnchor(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value,
-                         const FFoundValue& found) {
+void warnOfMissingAnchor(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value, const FFoundValue& found,
+                         const QString& text) {
     if (found.flags.testFlag(FFoundFlag::AnchorMissing) && !std::isnan(found.number)) {
         FLogMsg::warning(
             file.getName(),
             QStringLiteral("the anchor \"%1\" of the value \"%2\" isn't in %3; %4 was read from line %5, counted from "
                            "the %6 of the file")
-                .arg(value.mAnchor, value.mName, file.getFileName(), found.text, QString::number(found.line),
+                .arg(value.mAnchor, value.mName, file.getFileName(), text, QString::number(found.line),
                      value.mLine < 0 ? QStringLiteral("bottom") : QStringLiteral("top")),
             QStringLiteral("look at the file of the run and correct the anchor"));
     }
@@ -196,22 +196,23 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
     for (const int number : found.order) {
         const FGenIntResultsFileValue& value = *values[static_cast<std::size_t>(number)];
         const FFoundValue& result = found.values[static_cast<std::size_t>(number)];
+        const QString foundText = result.textIn(text);
         headers.append(value.mName);
         if (!directory.isEmpty()) {
-            warnOfMissingAnchor(*file.ptr(), value, result);
+            warnOfMissingAnchor(*file.ptr(), value, result, foundText);
         }
         QString tooltip = typeOf(value)->getClass();
         if (!typeOf(value)->isTypeOf(FDouble::null())) {
-            tooltip += QLatin1Char('|') + result.text;
+            tooltip += QLatin1Char('|') + foundText;
         }
         // A failed import leaves the name without a row; from here on the names run ahead of the numbers.
         const bool isFile = typeOf(value) == FFileName::null() && !directory.isEmpty();
-        if (isFile && !import(value, directory, result.text)) {
+        if (isFile && !import(value, directory, foundText)) {
             continue;
         }
         tooltips.append(tooltip);
         rows.append(QVector<double>{result.number});
-        origins.append(originOf(result));
+        origins.append(originOf(result, foundText));
     }
     table->setData(rows);
     table->setAllVerticalHeaders(headers);

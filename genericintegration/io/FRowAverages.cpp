@@ -72,8 +72,10 @@ void FRowAverages::addRow(Average& average, FColumn column) {
 
 FFoundValue FRowAverages::result(const Average& average) const {
     FFoundValue value;
-    if (average.begin < mText.trimmedSize())
-        value = average.last.value(mText, mText.index().lineAt(average.last.range.begin));
+    if (average.begin < mText.trimmedSize()) {
+        const qint64 place = average.last.range.begin;
+        value = average.last.value(mText, mText.index().lineAt(place), mText.index().lineBegin(place));
+    }
     const double mean = average.sum / average.count;
     value.number = std::isnan(mean) ? std::numeric_limits<double>::quiet_NaN() : mean;
     value.flags = average.flags;

@@ -121,9 +121,7 @@ qint64 FTextIndex::lineFeed(qint64 offset) const {
     return next < 0 ? -1 : std::max(next - 1, end);
 }
 
-qint64 FTextIndex::utf16At(qint64 offset) const {
-    if (isAscii())
-        return offset;
+qint64 FTextIndex::utf16InText(qint64 offset) const {
     const qint64 number = offset / BlockSize;
     return mUnits[static_cast<size_t>(number)] + FUtf8::utf16Length(block(number * BlockSize, offset));
 }

@@ -29,9 +29,10 @@ class FTextIndex {
     qint64 lineStart(qint64 line) const;
 
     /// Number of UTF-16 units before an offset.
-    qint64 utf16At(qint64 offset) const;
+    qint64 utf16At(qint64 offset) const { return mAscii ? offset : utf16InText(offset); }
 
  private:
+    qint64 utf16InText(qint64 offset) const;
     std::string_view block(qint64 begin, qint64 end) const;
 
     std::string_view mText;

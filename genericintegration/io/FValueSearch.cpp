@@ -111,15 +111,17 @@ void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
               [&key](const Reading& left, const Reading& right) { return key(left) < key(right); });
     std::optional<FColumnCursor> cursor;
     qint64 line = 0;
+    qint64 lineBegin = 0;
     for (size_t i = 0; i < readings.size(); ++i) {
         const Reading& reading = readings[i];
         if (i == 0 || !(readings[i - 1].line == reading.line)) {
             cursor.emplace(text.text(), reading.line, separator());
             line = text.index().lineAt(reading.line.begin);
+            lineBegin = text.index().lineBegin(reading.line.begin);
         }
         FFoundValue& value = found[reading.value];
         const FFoundFlags flags = value.flags;
-        value = cursor->seek(mValues[reading.value].column).value(text, line);
+        value = cursor->seek(mValues[reading.value].column).value(text, line, lineBegin);
         value.flags |= flags;
     }
 }

@@ -47,7 +47,7 @@ TEST(FValueSearchTest, linesAreCountedUpInTheirOwnWay) {
     };
     for (const auto& row : cases) {
         const FFoundValue found = find(row.text, at(row.line, 0, "force"));
-        EXPECT_EQ(row.found, found.text.toStdString()) << row.text << row.line;
+        EXPECT_EQ(row.found, found.textIn(FResultText::fromString(row.text)).toStdString()) << row.text << row.line;
         EXPECT_EQ(row.flags, found.flags) << row.text << row.line;
     }
 }
@@ -83,8 +83,9 @@ TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {
     for (int i = 0; i < 1000; ++i)
         values[static_cast<size_t>(i)] = at(-i % 3, 1999 * (i + 1), i % 2 == 0 ? "none" : "");
     for (const FSeparatorSettings& separators : {Numbers, FSeparatorSettings{false, false, ";"}}) {
-        const FFoundValues found = FValueSearch(values, separators).find(FResultText::fromFile(text));
-        EXPECT_EQ(separators.findNumbers ? "12.5" : "12.5, abc", found.values[999].text.toStdString());
+        const FResultText file = FResultText::fromFile(text);
+        const FFoundValues found = FValueSearch(values, separators).find(file);
+        EXPECT_EQ(separators.findNumbers ? "12.5" : "12.5, abc", found.values[999].textIn(file).toStdString());
         EXPECT_EQ(1999'000 * 10 + 1, found.values[999].column);
     }
 }

@@ -107,7 +107,8 @@ std::optional<double> toDouble(std::string_view number) {
     const char* const end = number.data() + number.size();
     double value = 0;
     const auto [behind, error] = std::from_chars(number.data() + (number.front() == '+' ? 1 : 0), end, value);
-    if (error == std::errc() && behind == end && std::isnormal(value))
+    const bool isZero = value == 0 && number.find_first_of("123456789") == std::string_view::npos;
+    if (error == std::errc() && behind == end && (std::isnormal(value) || isZero))
         return value;
     bool isNumber = false;
     value = FUtf8::decode(number).toDouble(&isNumber);

@@ -1,7 +1,6 @@
 #include "genericintegration/io/FValueSearch.h"
 
 #include <algorithm>
-#include <compare>
 #include <numeric>
 #include <optional>
 #include <tuple>
@@ -21,32 +20,17 @@ std::vector<QString> anchorsOf(const std::vector<FValueDescription>& values) {
     return anchors;
 }
 
-/// The first four UTF-16 units of a name, which order most names.
-quint64 beginOf(const QString& name) {
-    quint64 begin = 0;
-    for (int i = 0; i < 4; ++i)
-        begin = begin << 16 | (i < name.size() ? name.at(i).unicode() : 0);
-    return begin;
+/// The numbers of the values by line, column and name; what is equal keeps its order.
+std::vector<int> sorted(const std::vector<FValueDescription>& values) {
+    std::vector<int> numbers(values.size());
+    std::iota(numbers.begin(), numbers.end(), 0);
+    const auto key = [&values](int number) {
+        const FValueDescription& value = values[static_cast<size_t>(number)];
+        return std::tie(value.line, value.column, value.name);
+    };
+    std::stable_sort(numbers.begin(), numbers.end(), [&key](int left, int right) { return key(left) < key(right); });
+    return numbers;
 }
-
-/// Where a value stands in a table.
-struct Rank {
-    qint64 position;
-    int line;
-    int column;
-    quint64 nameBegin;
-    const QString* name;
-
-    std::strong_ordering operator<=>(const Rank& other) const {
-        if (position != other.position)
-            return position <=> other.position;
-        if (line != other.line)
-            return line <=> other.line;
-        if (column != other.column)
-            return column <=> other.column;
-        return nameBegin != other.nameBegin ? nameBegin <=> other.nameBegin : name->compare(*other.name) <=> 0;
-    }
-};
 
 FByteRange placeOf(const FAnchor& anchor, const FAnchorPlaces& places) {
     return anchor.occurrence == FAnchorOccurrence::First ? places.first : places.last;
@@ -56,6 +40,7 @@ FByteRange placeOf(const FAnchor& anchor, const FAnchorPlaces& places) {
 
 FValueSearch::FValueSearch(std::vector<FValueDescription> values, const FSeparatorSettings& separators)
     : mValues(std::move(values)),
+      mSorted(sorted(mValues)),
       mAnchors(anchorsOf(mValues)),
       mFindNumbers(separators.findNumbers),
       mSeparator(separators.pattern()) {}
@@ -80,7 +65,7 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
         const FSoughtLine sought = seekLine(text, mValues[i], places[i], lines);
         found.values[i].flags = sought.flags;
         if (sought.range)
-            readings.push_back({i, *sought.range});
+            readings.push_back({*sought.range, mValues[i].column, i});
     }
     read(text, readings, found.values);
     averages.read(found.values);
@@ -104,8 +89,8 @@ FSoughtLine FValueSearch::seekLine(const FResultText& text, const FValueDescript
 // Values of one line are read together, from its begin to its end.
 void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
                         std::vector<FFoundValue>& found) const {
-    const auto key = [this](const Reading& reading) {
-        return std::tuple(reading.line.begin, reading.line.end, mValues[reading.value].column);
+    const auto key = [](const Reading& reading) {
+        return std::tie(reading.line.begin, reading.line.end, reading.column);
     };
     std::sort(readings.begin(), readings.end(),
               [&key](const Reading& left, const Reading& right) { return key(left) < key(right); });
@@ -121,7 +106,7 @@ void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
         }
         FFoundValue& value = found[reading.value];
         const FFoundFlags flags = value.flags;
-        value = cursor->seek(mValues[reading.value].column).value(text, line, lineBegin);
+        value = cursor->seek(reading.column).value(text, line, lineBegin);
         value.flags |= flags;
     }
 }
@@ -136,16 +121,14 @@ std::vector<int> FValueSearch::order(const FResultText& text, const std::vector<
     if (text.isEmpty())
         return numbers;
     const std::vector<FAnchorPlaces> places = mAnchors.extendToWhole(text, trimmed);
-    std::vector<Rank> ranks;
-    ranks.reserve(mValues.size());
-    for (size_t i = 0; i < mValues.size(); ++i) {
-        const qint64 position = placeOf(mValues[i].anchor, places[i]).begin;
-        const FValueDescription& value = mValues[i];
-        ranks.push_back({std::max<qint64>(position, 0), value.line, value.column, beginOf(value.name), &value.name});
+    std::vector<std::pair<qint64, size_t>> ranks;  // by the anchor's place, then as sorted
+    ranks.reserve(mSorted.size());
+    for (size_t rank = 0; rank < mSorted.size(); ++rank) {
+        const size_t value = static_cast<size_t>(mSorted[rank]);
+        ranks.emplace_back(std::max<qint64>(placeOf(mValues[value].anchor, places[value]).begin, 0), rank);
     }
-    std::sort(numbers.begin(), numbers.end(), [&ranks](int left, int right) {
-        const auto order = ranks[static_cast<size_t>(left)] <=> ranks[static_cast<size_t>(right)];
-        return std::is_eq(order) ? left < right : std::is_lt(order);
-    });
+    std::sort(ranks.begin(), ranks.end());
+    std::transform(ranks.begin(), ranks.end(), numbers.begin(),
+                   [this](const auto& ranked) { return mSorted[ranked.second]; });
     return numbers;
 }

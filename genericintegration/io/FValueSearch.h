@@ -40,8 +40,9 @@ class FValueSearch {
  private:
     /// A value to be read from a line.
     struct Reading {
-        size_t value;
         FByteRange line;
+        int column;
+        size_t value;
     };
 
     /// Lines of values without an anchor, which many share.
@@ -54,6 +55,7 @@ class FValueSearch {
     const QRegExp* separator() const { return mFindNumbers ? nullptr : &mSeparator; }
 
     std::vector<FValueDescription> mValues;
+    std::vector<int> mSorted;  ///< numbers of the values by what orders those at the same place
     FAnchorSearch mAnchors;
     bool mFindNumbers;
     QRegExp mSeparator;

@@ -6,7 +6,9 @@
 #include <benchmark/benchmark.h>
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -17,8 +19,12 @@
 #include <random>
 #include <vector>
 
+#include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FHistory.h"
+#include "host/run/FTableData.h"
 #include "tests/genericintegration/io/FLiteralReader.h"
 
 namespace {
@@ -77,6 +83,7 @@ const QByteArray& textOf(qint64 kilobytes) {
 QString writeFile(const QString& name, const QByteArray& bytes) {
     static const QTemporaryDir folder;
     QFile file(folder.filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
     file.open(QIODevice::WriteOnly);
     file.write(bytes);
     return file.fileName();
@@ -90,11 +97,22 @@ QString fileOf(qint64 kilobytes) {
     return file;
 }
 
+/// What many programs print at the end of a run: all that is sought, in a few lines.
+QByteArray summaryOf(const std::vector<FValueDescription>& values) {
+    QByteArray text;
+    for (const FValueDescription& value : values) {
+        if (!value.anchor.text.isEmpty())
+            text += "  *** " + value.anchor.text.toUpper().toLatin1() + "= 12.5 N  13.5 N  14.5 N  15.5 N\n";
+    }
+    return text;
+}
+
 const QStringList& manyFiles() {
     static const QStringList files = [] {
         QStringList names;
         for (int i = 0; i < FileCount; ++i)
-            names += writeFile(QString("number %1").arg(i), makeText(50'000, "N", static_cast<quint32>(i)));
+            names += writeFile(QString("design %1/run.log").arg(i),
+                               makeText(50'000, "N", static_cast<quint32>(i)) + summaryOf(makeValues(50)));
         return names;
     }();
     return files;
@@ -215,13 +233,37 @@ void filesBare(benchmark::State& state) {
     }
 }
 
-/// As a study reads: the values are the same for all files, and each file is prepared for anew.
+/// The values are the same for all files.
 void filesRead(benchmark::State& state) {
-    const std::vector<FValueDescription> values = makeValues(state.range(0));
+    const FValueSearch search(makeValues(state.range(0)), {});
     const QStringList& files = manyFiles();
     for (auto _ : state) {
         for (const QString& file : files)
-            benchmark::DoNotOptimize(FValueSearch(values, {}).find(FResultText::fromFile(open(file))));
+            benchmark::DoNotOptimize(search.find(FResultText::fromFile(open(file))));
+    }
+}
+
+/// As a study reads: by way of a result template, into tables.
+void filesParse(benchmark::State& state) {
+    FPrototypes::buildPending();
+    const FHistoryBlocker blocker;
+    const FExpr<FGenIntResultsFile> results(FGenIntResultsFile::create("results"));
+    results->setFileName("run.log");
+    for (const FValueDescription& value : makeValues(state.range(0))) {
+        const bool isFirst = value.anchor.occurrence == FAnchorOccurrence::First;
+        results->addValue(value.name, value.line, value.column, value.anchor.text, isFirst ? "First" : "Last",
+                          value.average, FExpr<FUnsigned>(new FUnsigned(value.averageRows)));
+    }
+    QStringList folders;
+    for (const QString& file : manyFiles())
+        folders += QFileInfo(file).path();
+    for (auto _ : state) {
+        for (const QString& folder : folders) {
+            FTableData table;
+            FGenIntReader::instance()->parseFile(results, &table, folder);
+            if (table.getRowCount() != state.range(0))
+                qFatal("The benchmark can't read from %s.", qPrintable(folder));
+        }
     }
 }
 
@@ -303,6 +345,7 @@ BENCHMARK(fileRead)
 
 BENCHMARK(filesBare)->Name("files.bare")->Unit(kMillisecond);
 BENCHMARK(filesRead)->Name("files.read")->ArgName("values")->Arg(1)->Arg(10)->Arg(50)->Unit(kMillisecond);
+BENCHMARK(filesParse)->Name("files.parse")->ArgName("values")->Arg(1)->Arg(10)->Arg(50)->Unit(kMillisecond);
 BENCHMARK(filesNaive)->Name("files.naive")->ArgName("values")->Arg(1)->Unit(kMillisecond)->Iterations(1);
 
 BENCHMARK(prepare)->Name("prepare.read")->ArgName("values")->Arg(1)->Arg(10)->Arg(100)->Arg(1000)->Unit(kMicrosecond);

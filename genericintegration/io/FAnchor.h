@@ -9,6 +9,8 @@ enum class FAnchorOccurrence { First, Last };
 struct FAnchor {
     QString text;  ///< found in any case; empty for none
     FAnchorOccurrence occurrence = FAnchorOccurrence::Last;
+
+    bool operator==(const FAnchor&) const = default;
 };
 
 /// Index of an anchor in a text; -1 for an empty anchor and for one that isn't there.

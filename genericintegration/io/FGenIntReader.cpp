@@ -26,7 +26,7 @@ using Values = std::vector<const FGenIntResultsFileValue*>;
 Values valuesOf(const std::vector<FExpr<FObject>>& elements) {
     Values values;
     for (const FExpr<FObject>& element : elements) {
-        if (const auto* value = dynamic_cast<const FGenIntResultsFileValue*>(element.getObject())) {
+        if (const auto* value = objectCast<FGenIntResultsFileValue>(element.getObject())) {
             values.push_back(value);
         }
     }
@@ -52,6 +52,7 @@ FValueDescription describe(const FGenIntResultsFileValue& value) {
 
 std::vector<FValueDescription> describe(const Values& values) {
     std::vector<FValueDescription> descriptions;
+    descriptions.reserve(values.size());
     for (const FGenIntResultsFileValue* value : values) {
         descriptions.push_back(describe(*value));
     }
@@ -60,6 +61,17 @@ std::vector<FValueDescription> describe(const Values& values) {
 
 FSeparatorSettings separatorsOf(const FGenIntResultsFile& file) {
     return {file.getNumberSeparator(), file.getSpacesAndTabsSeparator(), file.getRegExprSeparator()};
+}
+
+// A study reads one file after the other with the same template.
+std::shared_ptr<const FValueSearch> searchFor(const FGenIntResultsFile& file, const Values& values) {
+    std::shared_ptr<const FValueSearch>& kept = file.valueSearch();
+    std::vector<FValueDescription> described = describe(values);
+    const FSeparatorSettings separators = separatorsOf(file);
+    if (!kept || !kept->isFor(described, separators)) {
+        kept = std::make_shared<const FValueSearch>(std::move(described), separators);
+    }
+    return kept;
 }
 
 const FObject* typeOf(const FGenIntResultsFileValue& value) {
@@ -79,6 +91,9 @@ QStringList oddities(const FFoundValue& found) {
         {FFoundFlag::DecimalComma, "decimal comma"},
         {FFoundFlag::TouchesText, "number touches a letter or another number"}};
     QStringList texts;
+    if (!found.flags) {
+        return texts;
+    }
     for (const auto& [flag, text] : words) {
         if (found.flags.testFlag(flag)) {
             texts.append(QString::fromLatin1(text));
@@ -174,14 +189,14 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
         return;
     }
     const Values values = valuesOf(file->getValues()->getObjects());
-    const FValueSearch search(describe(values), separatorsOf(*file.ptr()));
-    if (!search.patternError().isEmpty()) {
+    const std::shared_ptr<const FValueSearch> search = searchFor(*file.ptr(), values);
+    if (!search->patternError().isEmpty()) {
         FLogMsg::warning(getClass(),
                          QStringLiteral("the separator \"%1\" of %2 isn't a valid regular expression: %3")
-                             .arg(file->getRegExprSeparator(), file->getName(), search.patternError()),
+                             .arg(file->getRegExprSeparator(), file->getName(), search->patternError()),
                          QStringLiteral("it separates nothing"));
     }
-    const FFoundValues found = search.find(text);
+    const FFoundValues found = search->find(text);
     if (!text.isWhole()) {
         FLogMsg::info(getClass(),
                       QStringLiteral("The file %1 was cut while it was read; read it once nothing writes it any more")
@@ -193,6 +208,11 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
     QStringList tooltips;
     FTableData::Rows rows;
     QVector<FNumberOrigin> origins;
+    const int count = static_cast<int>(values.size());
+    headers.reserve(count);
+    tooltips.reserve(count);
+    rows.reserve(count);
+    origins.reserve(count);
     for (const int number : found.order) {
         const FGenIntResultsFileValue& value = *values[static_cast<std::size_t>(number)];
         const FFoundValue& result = found.values[static_cast<std::size_t>(number)];
@@ -226,7 +246,7 @@ void FGenIntReader::sortValues(std::vector<FExpr<FObject>>& values, const QStrin
     }
     std::vector<FExpr<FObject>> described;
     for (const FExpr<FObject>& value : values) {
-        if (dynamic_cast<const FGenIntResultsFileValue*>(value.getObject())) {
+        if (objectCast<FGenIntResultsFileValue>(value.getObject())) {
             described.push_back(value);
         }
     }

@@ -44,12 +44,11 @@ void FRowAverages::readRows() {
     for (const Average& average : mAverages)
         offset = std::min(offset, average.begin);
     const FLineWindow window(mText, {offset, size});
-    const bool mayBeSuspicious = FSuspicion::mayBeIn(FByteRange{offset, size}.of(mText.text()));
     while (offset < size) {
         const FByteRange line = window.lineFrom(offset);
         if (line.size() == 0)
             continue;
-        FColumnCursor cursor(mText.text(), line, mSeparator, mayBeSuspicious);
+        FColumnCursor cursor(mText.text(), line, mSeparator, FSuspicion::mayBeIn(line.of(mText.text())));
         const Average* previous = nullptr;
         for (Average& average : mAverages) {
             if (average.begin > line.begin)

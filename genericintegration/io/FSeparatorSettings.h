@@ -11,4 +11,6 @@ struct FSeparatorSettings {
 
     /// What separates columns: empty while numbers are found. One that isn't valid never matches.
     QRegExp pattern() const;
+
+    bool operator==(const FSeparatorSettings&) const = default;
 };

@@ -16,4 +16,6 @@ struct FValueDescription {
     FAnchor anchor;
     bool average = false;     ///< of the file's last rows; line and anchor then play no part
     quint32 averageRows = 0;  ///< how many last lines; those without a number don't count
+
+    bool operator==(const FValueDescription&) const = default;
 };

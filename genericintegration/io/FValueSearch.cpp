@@ -42,7 +42,7 @@ FValueSearch::FValueSearch(std::vector<FValueDescription> values, const FSeparat
     : mValues(std::move(values)),
       mSorted(sorted(mValues)),
       mAnchors(anchorsOf(mValues)),
-      mFindNumbers(separators.findNumbers),
+      mSeparators(separators),
       mSeparator(separators.pattern()) {}
 
 QString FValueSearch::patternError() const {

@@ -28,6 +28,11 @@ class FValueSearch {
  public:
     FValueSearch(std::vector<FValueDescription> values, const FSeparatorSettings& separators);
 
+    /// Whether the values and separators are those given to the constructor.
+    bool isFor(const std::vector<FValueDescription>& values, const FSeparatorSettings& separators) const {
+        return mSeparators == separators && mValues == values;
+    }
+
     /// Why the separators' regular expression isn't valid; empty if it is. One that isn't matches nothing.
     QString patternError() const;
 
@@ -52,11 +57,11 @@ class FValueSearch {
     FSoughtLine seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places,
                          LinesInText& lines) const;
     void read(const FResultText& text, std::vector<Reading>& readings, std::vector<FFoundValue>& found) const;
-    const QRegExp* separator() const { return mFindNumbers ? nullptr : &mSeparator; }
+    const QRegExp* separator() const { return mSeparators.findNumbers ? nullptr : &mSeparator; }
 
     std::vector<FValueDescription> mValues;
     std::vector<int> mSorted;  ///< numbers of the values by what orders those at the same place
     FAnchorSearch mAnchors;
-    bool mFindNumbers;
+    FSeparatorSettings mSeparators;
     QRegExp mSeparator;
 };

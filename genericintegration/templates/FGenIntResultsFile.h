@@ -3,7 +3,10 @@
 #include "genericintegration/templates/FGenIntFile.h"
 #include "genericintegration/templates/FGenIntResultsFileValue.h"
 
+#include <memory>
+
 class FParameter;
+class FValueSearch;
 
 /**
  * A result template: one output file of the external program, how its lines are cut into columns, and the values to
@@ -75,6 +78,9 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
      */
     FExpr<FParameter> createParam(const QString& valueName, const QString& ownerName, bool highlight) const;
 
+    /** What the reader keeps here from one file to the next; nobody else's. */
+    std::shared_ptr<const FValueSearch>& valueSearch() const { return mValueSearch; }
+
  protected:
     explicit FGenIntResultsFile(const QString& name = QString());
 
@@ -89,4 +95,5 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     QString mRegExprSeparator;
     FExpr<FObjectList> mValues;
     FExpr<FGenIntResultsFileValue> mCurValue;
+    mutable std::shared_ptr<const FValueSearch> mValueSearch;
 };

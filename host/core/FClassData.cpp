@@ -7,6 +7,11 @@ struct FClassData::FieldCache {
     std::vector<const FStateField*> all;
 };
 
+const QString& FClassData::makeNameText() const {
+    mpNameText = new QString(QString::fromLatin1(mName));
+    return *mpNameText;
+}
+
 const std::vector<const FStateField*>& FClassData::getFields() const {
     if (!mpFieldCache) {
         mpFieldCache = new FieldCache;

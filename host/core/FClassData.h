@@ -35,7 +35,7 @@ class FClassData {
     FClassData(const FClassData&) = delete;
     FClassData& operator=(const FClassData&) = delete;
 
-    QString getName() const { return QString::fromLatin1(mName); }
+    const QString& getName() const { return mpNameText ? *mpNameText : makeNameText(); }
     FClassData* getSuper() const { return mpSuper; }
     Commands getCommands() const { return mCommands; }
 
@@ -54,11 +54,15 @@ class FClassData {
  private:
     struct FieldCache;
 
+    const QString& makeNameText() const;
+
     const char* mName;
     FClassData* mpSuper;
     Commands mCommands;
     Fields mFields;
-    mutable FieldCache* mpFieldCache = nullptr;  // built at first use, kept to the end of the program
+    // Built at first use, kept to the end of the program.
+    mutable const QString* mpNameText = nullptr;
+    mutable FieldCache* mpFieldCache = nullptr;
 
  public:
     unsigned int mSystemFlag;

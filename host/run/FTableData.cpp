@@ -11,6 +11,7 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 QHash<QString, int> firstOfEach(const QStringList& headers) {
     QHash<QString, int> places;
+    places.reserve(headers.size());
     for (int i = headers.size() - 1; i >= 0; --i) {
         places.insert(headers[i], i);
     }

@@ -8,6 +8,9 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -76,6 +79,25 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     writeFile("out.dat", " \n\n");
     parse(folder.path());
     EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
+}
+
+TEST_F(FGenIntReaderTest, whatIsKeptBetweenFilesNeverShows) {
+    setValues("[[\"a\",0,0,\"x\",First,\"FDouble\",\"\"]]");
+    file->setContent("\nx 1;2 y\nx 3;4 y\n");
+    const FExpr<FGenIntResultsFileValue> value(file->getValues()->at(0));
+    const std::vector<std::pair<std::function<void()>, double>> changes{
+        {[&] { value->mOccurrence = GenIntAnchorOccurrence::Last; }, 3},
+        {[&] { value->mColumn = 1; }, 4},
+        {[&] { value->mAnchor = "y"; }, NAN},
+        {[&] { value->mLine = -1; }, 2},
+        {[&] { run("out1.setRegExpSeparator(\"1|2\")"); }, NAN},
+    };
+    for (const auto& [change, wanted] : changes) {
+        change();
+        parse(QString());
+        const double number = table->getElementAt("a", 0);
+        EXPECT_TRUE(number == wanted || (std::isnan(number) && std::isnan(wanted))) << number << " for " << wanted;
+    }
 }
 
 TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsToldOnce) {

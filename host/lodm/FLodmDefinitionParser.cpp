@@ -4,25 +4,17 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
-#include "host/core/FPrototypes.h"
 #include "host/core/FTextDecoder.h"
-#include "host/design/FEntryDef.h"
-#include "host/design/FEntryName.h"
-#include "host/design/FEntryTree.h"
-#include "host/lodm/FLodmDefaultValue.h"
+#include "host/lodm/FLodmEntryReader.h"
 #include "host/lodm/FLodmEntryWriter.h"
 #include "host/lodm/FLodmSlowTag.h"
-#include "host/lodm/FLodmText.h"
 #include "host/lodm/FLodmXmlReader.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
-#include "host/script/FScriptParser.h"
 
 #include <QFileDevice>
-#include <QSet>
 
 #include <algorithm>
-#include <iterator>
 
 const QString FLodmDefinitionParser::smObjectArea = QStringLiteral("<<<object area>>>");
 
@@ -48,43 +40,6 @@ qint64 mostToRead(const QIODevice& device) {
 FPlace placeOf(const QString& text, int offset) {
     const QStringRef before = text.leftRef(offset);
     return {before.count(QLatin1Char('\n')) + 1, offset - before.lastIndexOf(QLatin1Char('\n'))};
-}
-
-int wholeNumber(FLodmXmlReader& xml, const char* attribute, const QString& text) {
-    bool isWhole = false;
-    const int number = text.toInt(&isWhole);
-    if (!isWhole) {
-        xml.raise(QStringLiteral("expected a whole number as \"%1\" of %2, found \"%3\"")
-                      .arg(word(attribute), xml.tag(), text));
-    }
-    return number;
-}
-
-FLodmEntry::Default kindOfWord(const QString& text) {
-    const auto found = std::find(std::begin(lodm::kindWords), std::end(lodm::kindWords), text);
-    return found == std::end(lodm::kindWords)
-               ? FLodmEntry::Default::None
-               : static_cast<FLodmEntry::Default>(std::distance(std::begin(lodm::kindWords), found) + 1);
-}
-
-/** A name that two of the entries have; empty if there is none. */
-QString doubleName(const Nodes& nodes) {
-    QSet<QString> names;
-    for (const FLodmEntry& node : nodes) {
-        if (names.contains(node.name)) {
-            return node.name;
-        }
-        names.insert(node.name);
-    }
-    return {};
-}
-
-/** Two entries of one holder can't have one name. */
-void checkNames(FLodmXmlReader& xml, const Nodes& nodes) {
-    const QString name = doubleName(nodes);
-    if (!name.isEmpty()) {
-        xml.raise(QStringLiteral("two entries in %1 have the name \"%2\"; rename one").arg(xml.tag(), name));
-    }
 }
 
 }  // namespace
@@ -130,18 +85,15 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     }
     FDefinitionCustom& definition = *mDefinition.ptr();
     takeDocu();
+    mBuilder = FLodmEntryBuilder(mSource);
     definition.replaceEntries(buildNodes(nodes));
     mObjectAreaLines = marker < 0 ? 0 : text.leftRef(marker).count(QLatin1Char('\n'));
     importObjectsFromString(marker < 0 ? QString() : text.mid(marker + smObjectArea.size()));
-    mHasObjects = true;
-    if (mHasLate) {
+    if (mBuilder.isWaiting()) {
+        mBuilder.setNames(mNames);
         definition.replaceEntries(buildNodes(nodes));
     }
-    if (mFaultyDefaults > mostErrors) {
-        FLogMsg::warning(mSource,
-                         QStringLiteral("%1 more defaults can't be taken over").arg(mFaultyDefaults - mostErrors),
-                         QStringLiteral("their entries have none now; give them one"));
-    }
+    mBuilder.reportRest();
     return true;
 }
 
@@ -176,7 +128,7 @@ void FLodmDefinitionParser::readRoot(FLodmXmlReader& xml, Nodes& nodes) {
         return;
     }
     checkAttr(xml, {word(lodm::versionAttr), word(lodm::nameAttr)});
-    const int version = wholeNumber(xml, lodm::versionAttr, getAttr(xml, lodm::versionAttr));
+    const int version = xml.wholeAttribute(lodm::versionAttr);
     if (version < 1 || version > lodm::formatVersion) {
         xml.raise(QStringLiteral("the file has version %1 of the format, and this program reads version %2; a "
                                  "newer release of the program may read it")
@@ -185,10 +137,11 @@ void FLodmDefinitionParser::readRoot(FLodmXmlReader& xml, Nodes& nodes) {
         return;
     }
     mName = getAttr(xml, lodm::nameAttr);
+    FLodmEntryReader entries(xml);
     while (xml.nextChild()) {
-        xml.isElement(lodm::docuElement) ? readDocu(xml) : readEntry(xml, nodes, 1);
+        xml.isElement(lodm::docuElement) ? readDocu(xml) : entries.read(nodes);
     }
-    checkNames(xml, nodes);
+    entries.checkNames(nodes);
 }
 
 void FLodmDefinitionParser::takeDocu() {
@@ -210,130 +163,6 @@ void FLodmDefinitionParser::readDocu(FLodmXmlReader& xml) {
         xml.raise(QStringLiteral("there are two texts of %1; remove one").arg(name));
     } else {
         mDocu.insert(area.getValue(), xml.plainText());
-    }
-}
-
-void FLodmDefinitionParser::readEntry(FLodmXmlReader& xml, Nodes& nodes, int level) {
-    FLodmEntry entry;
-    entry.isGroup = xml.isElement(lodm::groupElement);
-    if (!entry.isGroup && !xml.isElement(lodm::entryElement)) {
-        xml.raise(QStringLiteral("expected <%1> or <%2>, found %3")
-                      .arg(word(lodm::groupElement), word(lodm::entryElement), xml.tag()));
-        return;
-    }
-    if (level > mostEntryLevels) {
-        xml.raise(QStringLiteral("entries stand in one another on more than %1 levels").arg(mostEntryLevels));
-        return;
-    }
-    if (++mCount > FEntryTree::mostEntries) {
-        xml.raise(QStringLiteral("there are more than %1 entries").arg(FEntryTree::mostEntries));
-        return;
-    }
-    readFrame(xml, entry);
-    entry.isGroup ? readGroup(xml, entry, level) : readValues(xml, entry);
-    nodes.push_back(std::move(entry));
-}
-
-void FLodmDefinitionParser::readFrame(FLodmXmlReader& xml, FLodmEntry& entry) {
-    QStringList known{word(lodm::nameAttr), word(lodm::leastAttr), word(lodm::mostAttr), word(lodm::hiddenAttr)};
-    if (!entry.isGroup) {
-        known.append(word(lodm::typeAttr));
-    }
-    checkAttr(xml, known);
-    entry.name = getAttr(xml, lodm::nameAttr);
-    if (!isEntryName(entry.name)) {
-        xml.raise(QStringLiteral("expected a name without | [ ] < > and line ends as \"name\" of %1, found \"%2\"")
-                      .arg(xml.tag(), entry.name));
-    }
-    readOccurrences(xml, entry);
-    const QString hidden = getAttr(xml, lodm::hiddenAttr, word(lodm::falseWord));
-    entry.hidden = hidden == QLatin1String(lodm::trueWord);
-    if (!entry.hidden && hidden != QLatin1String(lodm::falseWord)) {
-        xml.raise(
-            QStringLiteral("expected \"true\" or \"false\" as \"hidden\" of %1, found \"%2\"").arg(xml.tag(), hidden));
-    }
-    entry.type = getAttr(xml, lodm::typeAttr);
-    if (!entry.type.isEmpty() && !FPrototypes::find(entry.type)) {
-        xml.raise(QStringLiteral("the class \"%1\" of entry \"%2\" isn't known; is a plug-in missing?")
-                      .arg(entry.type, entry.name));
-    }
-}
-
-void FLodmDefinitionParser::readOccurrences(FLodmXmlReader& xml, FLodmEntry& entry) {
-    entry.least = wholeNumber(xml, lodm::leastAttr, getAttr(xml, lodm::leastAttr, QStringLiteral("1")));
-    entry.most = wholeNumber(xml, lodm::mostAttr, getAttr(xml, lodm::mostAttr, QStringLiteral("1")));
-    if (entry.least < 0 || entry.most < std::max(1, entry.least) || entry.most > FEntryDef::mostOccurrences) {
-        xml.raise(QStringLiteral("expected 0 ≤ least ≤ most ≤ %1 and 1 ≤ most, found least %2 and most %3")
-                      .arg(FEntryDef::mostOccurrences)
-                      .arg(entry.least)
-                      .arg(entry.most));
-    }
-}
-
-void FLodmDefinitionParser::readGroup(FLodmXmlReader& xml, FLodmEntry& group, int level) {
-    while (xml.nextChild()) {
-        if (xml.isElement(lodm::descriptionElement)) {
-            checkAttr(xml, {});
-            group.description = xml.plainText();
-        } else {
-            readEntry(xml, group.children, level + 1);
-        }
-    }
-    checkNames(xml, group.children);
-}
-
-void FLodmDefinitionParser::readValues(FLodmXmlReader& xml, FLodmEntry& entry) {
-    while (xml.nextChild()) {
-        if (xml.isElement(lodm::descriptionElement)) {
-            checkAttr(xml, {});
-            entry.description = xml.plainText();
-        } else if (xml.isElement(lodm::defaultElement)) {
-            readDefault(xml, entry);
-        } else {
-            xml.raise(QStringLiteral("expected <%1> or <%2>, found %3")
-                          .arg(word(lodm::defaultElement), word(lodm::descriptionElement), xml.tag()));
-        }
-    }
-    const bool isTold = entry.kind != FLodmEntry::Default::None && entry.kind != FLodmEntry::Default::Script;
-    if (entry.type.isEmpty() && !isTold) {
-        xml.raise(QStringLiteral("the type of entry \"%1\" isn't told; give it \"%2\", or a default that isn't a "
-                                 "script text")
-                      .arg(entry.name, word(lodm::typeAttr)));
-    }
-}
-
-void FLodmDefinitionParser::readDefault(FLodmXmlReader& xml, FLodmEntry& entry) {
-    if (entry.kind != FLodmEntry::Default::None) {
-        xml.raise(QStringLiteral("entry \"%1\" has two defaults; remove one").arg(entry.name));
-    }
-    checkAttr(xml, {word(lodm::kindAttr)});
-    const QString kind = getAttr(xml, lodm::kindAttr);
-    entry.kind = kindOfWord(kind);
-    entry.valuePlace = xml.place();
-    if (entry.kind == FLodmEntry::Default::None) {
-        xml.raise(QStringLiteral("expected number, text, truth or script as \"kind\" of %1, found \"%2\"")
-                      .arg(xml.tag(), kind));
-        return;
-    }
-    entry.value = xml.plainText();
-    const QString fault = xml.hasError() ? QString() : FLodmDefaultValue(entry).fault();
-    if (!fault.isEmpty()) {
-        xml.raise(fault);
-    }
-}
-
-QString FLodmDefinitionParser::getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault) {
-    const QXmlStreamAttributes attributes = xml.attributes();
-    const QLatin1String key(name);
-    return attributes.hasAttribute(key) ? FLodmText::fromXml(attributes.value(key).toString()) : byDefault;
-}
-
-void FLodmDefinitionParser::checkAttr(FLodmXmlReader& xml, const QStringList& known) {
-    for (const QXmlStreamAttribute& attribute : xml.attributes()) {
-        const QString name = attribute.qualifiedName().toString();
-        if (!known.contains(name)) {
-            xml.raise(QStringLiteral("%1 has no attribute \"%2\"%3").arg(xml.tag(), name, didYouMean(name, known)));
-        }
     }
 }
 
@@ -364,57 +193,6 @@ bool FLodmDefinitionParser::makeDefinition() {
                               mDefinition->getName()));
     }
     return static_cast<bool>(mDefinition);
-}
-
-QList<FExpr<FEntryBase>> FLodmDefinitionParser::buildNodes(const Nodes& nodes) {
-    QList<FExpr<FEntryBase>> entries;
-    for (const FLodmEntry& node : nodes) {
-        const FExprBase value = valueOf(node);
-        const bool hasDefault = value.isValid();
-        const FObject* type = node.type.isEmpty() ? nullptr : FPrototypes::find(node.type);
-        const FExpr<FEntryBase> entry = FEntryDef::make(node.name, node.least, node.most, node.hidden, hasDefault,
-                                                        node.description, hasDefault ? value : FExprBase(type));
-        for (const FExpr<FEntryBase>& child : buildNodes(node.children)) {
-            entry->addEntry(child);
-        }
-        entries.append(entry);
-    }
-    return entries;
-}
-
-FExprBase FLodmDefinitionParser::valueOf(const FLodmEntry& entry) {
-    const FLodmDefaultValue value(entry);
-    const bool isLate = value.hasNames();
-    mHasLate = mHasLate || isLate;
-    if (isLate && !mHasObjects) {
-        return {};
-    }
-    QString reason;
-    const FExprBase result = evaluate(entry, reason);
-    if (!reason.isEmpty() && isLate == mHasObjects) {
-        warnOfDefault(entry, reason);
-    }
-    return result;
-}
-
-// To tell what a missing name is like takes a look at all names there are, which is for the first few.
-FExprBase FLodmDefinitionParser::evaluate(const FLodmEntry& entry, QString& reason) const {
-    constexpr int mostSuggestions = 20;
-    const FLodmDefaultValue value(entry);
-    const QString missing = mFaultyDefaults < mostSuggestions ? QString() : value.missingName(mNames);
-    if (missing.isEmpty()) {
-        return value.evaluate(mNames, reason);
-    }
-    reason = QStringLiteral("nothing is named \"%1\"").arg(missing);
-    return {};
-}
-
-void FLodmDefinitionParser::warnOfDefault(const FLodmEntry& entry, const QString& reason) {
-    if (++mFaultyDefaults <= mostErrors) {
-        FLogMsg::warning(entry.valuePlace.toString(mSource),
-                         QStringLiteral("the default of entry \"%1\" can't be taken over: %2").arg(entry.name, reason),
-                         QStringLiteral("the entry has none now; give it one"));
-    }
 }
 
 bool FLodmDefinitionParser::write(QIODevice* device, const FDefinitionCustom* definition) {

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "host/lodm/FDefinitionCustom.h"
-#include "host/lodm/FLodmEntry.h"
-#include "host/script/FScriptNames.h"
+#include "host/lodm/FLodmEntryBuilder.h"
+#include "host/lodm/FLodmXmlReader.h"
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
 class QIODevice;
-class FLodmXmlReader;
 
 /**
  * Reads and writes definitions as exchange files (docs/formats/lodm.md): XML with the entry definitions, then a marker,
@@ -57,11 +57,12 @@ class FLodmDefinitionParser {
     /** Takes the XML apart. Faults are raised on the reader. */
     void readStructure(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
     /** The entry definitions of what was taken apart, which stand nowhere yet. */
-    QList<FExpr<FEntryBase>> buildNodes(const std::vector<FLodmEntry>& nodes);
-    /** The text of an attribute of the element at hand. */
-    static QString getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault = QString());
-    /** Raises a fault if the element at hand has an attribute other than those. */
-    static void checkAttr(FLodmXmlReader& xml, const QStringList& known);
+    QList<FExpr<FEntryBase>> buildNodes(const std::vector<FLodmEntry>& nodes) { return mBuilder.build(nodes); }
+    /** See FLodmXmlReader::attribute and checkAttributes. */
+    static QString getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault = QString()) {
+        return xml.attribute(name, byDefault);
+    }
+    static void checkAttr(FLodmXmlReader& xml, const QStringList& known) { xml.checkAttributes(known); }
     /** Reports that the file can't be read, and why. */
     void error(const FPlace& place, const QString& message);
 
@@ -77,20 +78,8 @@ class FLodmDefinitionParser {
     void readRoot(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
     void takeDocu();
     void readDocu(FLodmXmlReader& xml);
-    void readEntry(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes, int level);
-    void readFrame(FLodmXmlReader& xml, FLodmEntry& entry);
-    void readOccurrences(FLodmXmlReader& xml, FLodmEntry& entry);
-    void readGroup(FLodmXmlReader& xml, FLodmEntry& group, int level);
-    void readValues(FLodmXmlReader& xml, FLodmEntry& entry);
-    void readDefault(FLodmXmlReader& xml, FLodmEntry& entry);
     bool makeDefinition();
-    FExprBase valueOf(const FLodmEntry& entry);
-    FExprBase evaluate(const FLodmEntry& entry, QString& reason) const;
-    void warnOfDefault(const FLodmEntry& entry, const QString& reason);
 
     QMap<unsigned int, QString> mDocu;  //!< of the definition, by area
-    int mCount = 0;
-    int mFaultyDefaults = 0;
-    bool mHasObjects = false;  //!< names of objects can be looked up
-    bool mHasLate = false;     //!< there are default values that name objects
+    FLodmEntryBuilder mBuilder;
 };

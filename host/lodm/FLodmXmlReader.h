@@ -2,6 +2,7 @@
 
 #include "host/script/FPlace.h"
 
+#include <QStringList>
 #include <QXmlStreamReader>
 
 /** Reads the XML half of an exchange file element by element. The first fault ends it. */
@@ -17,6 +18,13 @@ class FLodmXmlReader : public QXmlStreamReader {
     bool nextChild();
     /** The text of the element at hand, which can't have others inside, with its escapes resolved. */
     QString plainText();
+
+    /** The text of an attribute of the element at hand, with its escapes resolved. */
+    QString attribute(const char* attributeName, const QString& byDefault = QString()) const;
+    /** The same as a number; raises a fault if it is none. */
+    int wholeAttribute(const char* attributeName, const QString& byDefault = QString());
+    /** Raises a fault if the element at hand has an attribute other than those. */
+    void checkAttributes(const QStringList& known);
 
     bool isElement(const char* elementName) const;
     /** The element at hand as messages name it. */

@@ -1,16 +1,13 @@
 #include "host/script/FCmdInput.h"
 
-#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
-#include "host/script/FCmdManager.h"
 #include "host/script/FSavedTextReader.h"
+#include "host/script/FScriptStep.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <algorithm>
 
 namespace {
 
@@ -25,75 +22,7 @@ const FSyntaxExpr* topCall(const FSyntaxExpr& expression) {
     return expression.kind == FSyntaxExpr::Kind::Call ? &expression : nullptr;
 }
 
-/** Whether a command in the expression keeps steps of its own: undo, or a run that takes its time. */
-bool isUnwrapped(const FSyntaxExpr& expression) {
-    if (expression.kind == FSyntaxExpr::Kind::Call) {
-        auto rows = FCmdManager::instance()->findGlobals(expression.name);
-        const auto members = FCmdManager::instance()->findMembersOfAnyClass(expression.name);
-        rows.insert(rows.end(), members.begin(), members.end());
-        if (std::any_of(rows.begin(), rows.end(), [](const FCmdRow* row) { return row->isUnwrapped; })) {
-            return true;
-        }
-    }
-    return std::any_of(expression.operands.begin(), expression.operands.end(),
-                       [](const FSyntaxExpr& operand) { return isUnwrapped(operand); });
-}
-
-bool hasUnwrapped(const FSyntaxBody& body);
-
-/** The same for the parts of a statement; a declaration is a step in any case. */
-struct FindUnwrapped {
-    bool operator()(const FSyntaxExpr& expression) const { return isUnwrapped(expression); }
-    bool operator()(const FSyntaxDeclaration&) const { return false; }
-    bool operator()(const FSyntaxAssignment& assignment) const { return isUnwrapped(assignment.value); }
-    bool operator()(const FSyntaxWhile& loop) const { return isUnwrapped(loop.condition) || hasUnwrapped(loop.body); }
-    bool operator()(const FSyntaxFor& loop) const { return isUnwrapped(loop.list) || hasUnwrapped(loop.body); }
-    bool operator()(const FSyntaxIf& branches) const {
-        return hasUnwrapped(branches.otherwise) ||
-               std::any_of(branches.branches.begin(), branches.branches.end(), [](const FSyntaxIf::Branch& branch) {
-                   return isUnwrapped(branch.condition) || hasUnwrapped(branch.body);
-               });
-    }
-};
-
-bool hasUnwrapped(const FSyntaxBody& body) {
-    return std::any_of(body.begin(), body.end(), [](const FSyntaxStatement& statement) {
-        return std::visit(FindUnwrapped(), statement.content);
-    });
-}
-
-/** The word of a loop or branch, which is one step as a whole; null for other statements. */
-const char* blockWord(const FSyntaxStatement& statement) {
-    return std::holds_alternative<FSyntaxIf>(statement.content)      ? "if"
-           : std::holds_alternative<FSyntaxFor>(statement.content)   ? "for"
-           : std::holds_alternative<FSyntaxWhile>(statement.content) ? "while"
-                                                                     : nullptr;
-}
-
 }  // namespace
-
-/** Opens a transaction unless the statement does without; what isn't finished is taken back. */
-class FCmdInput::Step {
- public:
-    Step(const QString& label, bool wraps) : mWraps(wraps) {
-        if (mWraps) {
-            FHistory::instance()->startTransaction(label);
-        }
-    }
-    ~Step() {
-        if (mWraps) {
-            mDone ? FHistory::instance()->commit(1) : FHistory::instance()->rollback();
-        }
-    }
-    Step(const Step&) = delete;
-    Step& operator=(const Step&) = delete;
-
-    bool done(bool good) { return mDone = good; }
-
- private:
-    bool mWraps;
-    bool mDone = false;
-};
 
 FCmdInput* FCmdInput::current() {
     return dynamic_cast<FCmdInput*>(currentParser());
@@ -186,9 +115,7 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!countStep(statement.place)) {
         return false;
     }
-    const char* word = blockWord(statement);
-    Step step(QString::fromLatin1(word),
-              word && !FHistory::instance()->inTransaction() && !std::visit(FindUnwrapped(), statement.content));
+    FScriptStep step(statement);
     return step.done(std::visit([this](const auto& content) { return run(content); }, statement.content));
 }
 
@@ -207,13 +134,13 @@ std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
 
 bool FCmdInput::run(const FSyntaxExpr& expression) {
     const FSyntaxExpr* call = topCall(expression);
-    Step step(call ? call->name : QString(), !isUnwrapped(expression));
+    FScriptStep step(call ? call->name : QString(), expression);
     return step.done(evaluate(expression).has_value());
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {
     using Outcome = FDeclarer::Outcome;
-    Step step(declaration.creator.name, true);
+    FScriptStep step(declaration.creator.name, true);
     FDeclarer declarer(mNames, mFile, FBinder::Use::Once);
     FExprBase object;
     Outcome outcome = declarer.create(declaration, object);
@@ -226,14 +153,17 @@ bool FCmdInput::run(const FSyntaxDeclaration& declaration) {
     return step.done(outcome != Outcome::Failed || report(declarer.getError().place, declarer.getError().message));
 }
 
+bool FCmdInput::canBeVariable(const QString& name, const FPlace& place) {
+    return !mNames.isObject(name) ||
+           report(place, QStringLiteral("\"%1\" is an object and can't be a variable; use another name").arg(name));
+}
+
 bool FCmdInput::run(const FSyntaxAssignment& assignment) {
-    if (mNames.isObject(assignment.variable)) {
-        return report(
-            assignment.value.place,
-            QStringLiteral("\"%1\" is an object and can't be a variable; use another name").arg(assignment.variable));
+    if (!canBeVariable(assignment.variable, assignment.value.place)) {
+        return false;
     }
     const FSyntaxExpr* call = topCall(assignment.value);
-    Step step(call ? call->name : assignment.variable, !isUnwrapped(assignment.value));
+    FScriptStep step(call ? call->name : assignment.variable, assignment.value);
     const std::optional<FExprBase> value = evaluate(assignment.value);
     if (!value) {
         return false;
@@ -243,7 +173,7 @@ bool FCmdInput::run(const FSyntaxAssignment& assignment) {
 }
 
 std::optional<bool> FCmdInput::evaluateCondition(const FSyntaxExpr& expression) {
-    Step step(QStringLiteral("condition"), !isUnwrapped(expression));
+    FScriptStep step(QStringLiteral("condition"), expression);
     const std::optional<FExprBase> value = evaluate(expression);
     if (!value) {
         return {};
@@ -286,10 +216,8 @@ bool FCmdInput::run(const FSyntaxWhile& loop) {
 }
 
 bool FCmdInput::run(const FSyntaxFor& loop) {
-    if (mNames.isObject(loop.variable)) {
-        return report(
-            loop.variablePlace,
-            QStringLiteral("\"%1\" is an object and can't be a variable; use another name").arg(loop.variable));
+    if (!canBeVariable(loop.variable, loop.variablePlace)) {
+        return false;
     }
     const std::optional<FExprBase> value = evaluate(loop.list);
     if (!value) {

@@ -54,11 +54,10 @@ class FCmdInput : public FCmdParser {
     /** Binds and evaluates; nothing if that failed, with the error reported. */
     std::optional<FExprBase> evaluate(const FSyntaxExpr& expression);
     std::optional<bool> evaluateCondition(const FSyntaxExpr& expression);
+    /** False, reported, for the name of an object. */
+    bool canBeVariable(const QString& name, const FPlace& place);
     bool report(const FPlace& place, const QString& message);
     bool countStep(const FPlace& place);
-
-    /** One statement's place in the history. */
-    class Step;
 
     Mode mMode;
     QString mText;

@@ -1,17 +1,16 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 
 #include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenIntCommands.h"
 #include "genericintegration/setup/FGenIntObjectArea.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FHistory.h"
 #include "host/core/FIO.h"
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FModel.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/design/FEntryDef.h"
 #include "host/lodm/FLodmDefinitionParser.h"
-#include "host/script/FCmdTable.h"
 
 #include <QFile>
 
@@ -20,38 +19,6 @@
 namespace {
 
 using Files = QList<FExpr<FGenIntFile>>;
-
-/** Files that are gone can't be saved. */
-Files liveFiles(const FDefinitionGenInt& definition) {
-    Files live = definition.getFiles();
-    live.erase(std::remove_if(live.begin(), live.end(), [](const FExpr<FGenIntFile>& file) { return !file; }),
-               live.end());
-    return live;
-}
-
-void commands(FCmdTable& table) {
-    using F = FDefinitionGenInt;
-    table.entityCreator(
-        "genericIntegrationDefinition", +[](const FNewName& name) { return F::create(name.scope, name.name, {}); });
-    table.attribute<F>("setFiles", &F::setFiles, &liveFiles, {"files"})
-        .attrName("Template Files")
-        .readOnly()
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table.attribute<F>("setCurFile", &F::setCurFile, &F::getCurFile, {"currentFile"})
-        .attrName("Current File")
-        .readOnly()
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table.attribute<F>("setLastFile", &F::setLastFile, &F::getLastFile, {"lastFile"})
-        .attrName("Last File")
-        .readOnly()
-        .systemFlag(2)
-        .hidden()
-        .data();
-}
 
 constexpr unsigned int shownInDefinitions = 1;
 
@@ -81,9 +48,19 @@ int dropFirstGone(Files& files, FExpr<FGenIntFile>& gone, IsGone isGone) {
     return files.removeAll(gone);
 }
 
+/** Where a definition is kept, its files are kept, too. */
+void passOn(void (FManaged::*set)(bool), bool flag, const Files& files) {
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (file) {
+            (file.ptr()->*set)(flag);
+            FHistory::instance()->addStep(file.ptr());
+        }
+    }
+}
+
 }  // namespace
 
-FClassData FDefinitionGenInt::mClass("FDefinitionGenInt", &FDefinitionCustom::mClass, &commands,
+FClassData FDefinitionGenInt::mClass("FDefinitionGenInt", &FDefinitionCustom::mClass, &definitionGenIntCommands,
                                      &FDefinitionGenInt::fields, shownInDefinitions);
 
 std::vector<std::unique_ptr<FStateField>> FDefinitionGenInt::fields() {
@@ -259,24 +236,8 @@ bool FDefinitionGenInt::findAndRemoveEntry(const FExpr<FEntryBase>& entry) {
     return found;
 }
 
-QList<FConfigurationGenInt*> FDefinitionGenInt::ownConfigurations() const {
-    QList<FConfigurationGenInt*> own;
-    for (FManaged* entity : FModel::instance()->getEntities(FConfigurationGenInt::null())) {
-        auto* configuration = static_cast<FConfigurationGenInt*>(entity);
-        if (configuration->getDefinition().ptr() == this) {
-            own.append(configuration);
-        }
-    }
-    return own;
-}
-
 void FDefinitionGenInt::reinitConfigurations(bool reset) {
-    if (FMerixCtrl::instance()->isLoadingProject()) {
-        return;
-    }
-    for (FConfigurationGenInt* configuration : ownConfigurations()) {
-        configuration->reinit(reset);
-    }
+    FDefinitionCustom::reinitConfigurations(reset);
     if (FMerixCtrl::instance()->isLoadingProject()) {
         return;
     }
@@ -327,8 +288,10 @@ void FDefinitionGenInt::putInPlaceOfTags(const QString& path, const FExpr<FEntry
 }
 
 void FDefinitionGenInt::reassignEntryDefs() {
-    for (FConfigurationGenInt* configuration : ownConfigurations()) {
-        configuration->reassignEntryDefs();
+    for (FConfiguration* configuration : getConfigurations()) {
+        if (auto* own = dynamic_cast<FConfigurationGenInt*>(configuration)) {
+            own->reassignEntryDefs();
+        }
     }
 }
 
@@ -357,22 +320,12 @@ void FDefinitionGenInt::setInProject(bool inProject) {
     FHistoryTransaction transaction(QStringLiteral("set in project"));
     FManaged::setInProject(inProject);
     transaction.addStep(this);
-    for (const FExpr<FGenIntFile>& file : mFiles) {
-        if (file) {
-            file->setInProject(inProject);
-            transaction.addStep(file.ptr());
-        }
-    }
+    passOn(&FManaged::setInProject, inProject, mFiles);
 }
 
 void FDefinitionGenInt::setInUserConfig(bool inUserConfig) {
     FHistoryTransaction transaction(QStringLiteral("set in user configuration"));
     FManaged::setInUserConfig(inUserConfig);
     transaction.addStep(this);
-    for (const FExpr<FGenIntFile>& file : isDefault() ? Files() : mFiles) {
-        if (file) {
-            file->setInUserConfig(inUserConfig);
-            transaction.addStep(file.ptr());
-        }
-    }
+    passOn(&FManaged::setInUserConfig, inUserConfig, isDefault() ? Files() : mFiles);
 }

@@ -4,7 +4,6 @@
 #include "genericintegration/templates/FTemplateOwner.h"
 #include "host/lodm/FDefinitionCustom.h"
 
-class FConfigurationGenInt;
 class FParser;
 
 /**
@@ -91,7 +90,6 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     void filesChanged();
     void clearFileStorages() const;
     void putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry);
-    QList<FConfigurationGenInt*> ownConfigurations() const;
 
     int mOutputPrecision = 6;
     mutable QList<FExpr<FGenIntFile>> mFiles;  // this definition depends on each of them

@@ -95,8 +95,12 @@ bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
     return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
 }
 
+// Asked of the system, since it is for each file of each design: one call tells both.
 bool FPathManager::removeLink(const QString& path) {
-    return !QFileInfo(path).isSymLink() || QFile::remove(path);
+    struct stat entry {};
+    const bool isThere = ::lstat(QFile::encodeName(path).constData(), &entry) == 0;
+    const bool isLink = isThere && (S_ISLNK(entry.st_mode) || (S_ISREG(entry.st_mode) && entry.st_nlink > 1));
+    return !isLink || QFile::remove(path);
 }
 
 // Mostly the file is new. If not, it is emptied, not replaced, as long as it is a file of its own: who may read or run

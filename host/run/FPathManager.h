@@ -40,8 +40,8 @@ class FPathManager {
     /** The same, also through links in the folder. A link in the place of the file itself leads nowhere yet. */
     static bool leadsOut(const QString& folder, const QString& fileName);
     /**
-     * Removes what is there if it is a link, so that writing to it doesn't change the file that it leads to. False if
-     * it is one and can't be removed.
+     * Removes what is there if it is a link, or a file that has other names, too: writing to it would change what lies
+     * elsewhere. False if it is one and can't be removed.
      */
     static bool removeLink(const QString& path);
     /**

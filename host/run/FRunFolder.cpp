@@ -62,6 +62,14 @@ void FRunFolder::emptyEarlier() const {
 }
 
 bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
+    const QFileInfo folder(QDir::cleanPath(mFolder));
+    if (folder.isSymLink()) {
+        reason = QStringLiteral(
+                     "The folder of the run, '%1', is a link to '%2', where files would be moved away and replaced. "
+                     "Remove the link.")
+                     .arg(folder.filePath(), folder.symLinkTarget());
+        return false;
+    }
     const auto out = std::find_if(named.begin(), named.end(), [this](const QString& name) {
         return !FPathManager::leadsOut(name) && FPathManager::leadsOut(mFolder, name);
     });

@@ -9,7 +9,8 @@
 
 /**
  * The folder of a computation's runs, and the one beside it for what the run before left. Files that a user has put
- * into the folder stay where they are; what a run has written moves on before the next one.
+ * into the folder stay where they are; what a run has written moves on before the next one. Both are the program's own,
+ * and no links; the folders above may be, so that runs can lie on another disk.
  */
 class FRunFolder {
  public:
@@ -18,7 +19,8 @@ class FRunFolder {
 
     /**
      * Before a run: makes the folder, and replaces what is in the earlier one by the named files and by all that the
-     * last run left. False, with the reason for the user, if a file can't be moved: it must not be read as new.
+     * last run left. False, with the reason for the user, if the folder is a link, or if a file can't be moved: it must
+     * not be read as new.
      * @param named  files relative to the folder; those whose names lead out of it are passed over, and one that does
      *               so through a link in the folder is a reason to fail
      */

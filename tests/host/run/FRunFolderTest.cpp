@@ -81,4 +81,12 @@ TEST_F(FRunFolderTest, followsNoLinkToWhatIsNotItsOwn) {
         EXPECT_EQ(read(".earlier/run/own.dat"), "old");
         EXPECT_FALSE(has("other/run/own.dat"));
     }
+    ASSERT_TRUE(QFile::link(path("other/run"), path("linked")));
+    FRunFolder linked(path("linked"), path(".earlier/linked"));
+    EXPECT_FALSE(moveAside(linked, {"mine.txt"}));
+    EXPECT_TRUE(mReason.contains("is a link to '" + path("other/run"))) << mReason.toStdString();
+    EXPECT_EQ(read("other/run/mine.txt"), "mine");
+    ASSERT_TRUE(QFile::link(path("other"), path("disk")));
+    FRunFolder onOtherDisk(path("disk/solver"), path("disk/.earlier/solver"));
+    EXPECT_TRUE(moveAside(onOtherDisk, {}));
 }

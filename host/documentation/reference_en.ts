@@ -563,7 +563,7 @@ print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
     </message>
     <message>
         <source>!FExternComputation.member.rereadResults()</source>
-        <translation>Has the results read again from the files that lie there, with the result templates as they are now; no program runs. For templates that were changed after a run. Without files, or while a run goes on, it is refused with a message.</translation>
+        <translation>Has the results read again from the files that lie there, with the result templates as they are now; no program runs. For templates that were changed after a run. While a run goes on, it is refused. A file that is missing is told in a message; what is there is read all the same.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.rereadResults():example</source>
@@ -578,7 +578,7 @@ print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translati
     <message>
         <source>!FExternComputation.member.rereadResults():returnValue</source>
         <comment>return type: bool</comment>
-        <translation>True if there is something to read.</translation>
+        <translation>True if all files are there that results are read from, and there is at least one.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.run()</source>

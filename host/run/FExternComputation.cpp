@@ -313,5 +313,25 @@ bool FExternComputation::rereadResults() {
     }
     processReread(mResults.ptr());
     setOutOfDate(true);
-    return true;
+    const QString problem = rereadProblem();
+    if (!problem.isEmpty()) {
+        FLogMsg::warning(getName(), QStringLiteral("Its results can't all be read again: ") + problem);
+    }
+    return problem.isEmpty();
+}
+
+QString FExternComputation::rereadProblem() const {
+    const QStringList files = getReadFiles();
+    if (files.isEmpty()) {
+        return QStringLiteral("no file is named that they are read from. Give the definition a result template.");
+    }
+    const QString folder = mResults->getResultPath();
+    if (folder.isEmpty()) {
+        return QStringLiteral("the last run couldn't begin. Run it again.");
+    }
+    const QString missing = FRun::missingFiles(folder, files);
+    return missing.isEmpty()
+               ? QString()
+               : QStringLiteral("not in '%1': %2. Run it, or correct the file names of the result templates.")
+                     .arg(folder, missing);
 }

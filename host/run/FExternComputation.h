@@ -76,7 +76,10 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     virtual FExpr<FComputationResults> getResults() const { return mResults; }
     const FExpr<FComputationResults>& getCurrentResults() const { return mResults; }
     bool canRereadResults() const;
-    /** Reads the present files again, with the present set-up; runs nothing. False, with a message, without files. */
+    /**
+     * Has the present files read again, with the present set-up; runs nothing. False, with a message, if nothing says
+     * what to read, or if a file isn't there; what is there is read all the same.
+     */
     bool rereadResults();
     virtual bool isGeneric() const { return false; }
     /** Name of the result file that an entry of that path holds; empty if there is none. */
@@ -121,6 +124,7 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     void runExternalProcess();
     void finishRun();
     void report() const;
+    QString rereadProblem() const;
 
     QString mExecutable;
     QStringList mArguments;

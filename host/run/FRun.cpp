@@ -103,19 +103,24 @@ void FRun::keepLastLines() {
     }
 }
 
-void FRun::findMissingFiles() {
+QString FRun::missingFiles(const QString& folder, const QStringList& files) {
     QStringList missing;
-    for (const QString& file : qAsConst(mReadFiles)) {
-        if (!QFileInfo::exists(mRecord->folder + file)) {
+    for (const QString& file : files) {
+        if (!QFileInfo::exists(folder + file)) {
             missing.append(QLatin1Char('\'') + file + QLatin1Char('\''));
         }
     }
+    return missing.join(QStringLiteral(", "));
+}
+
+void FRun::findMissingFiles() {
+    const QString missing = missingFiles(mRecord->folder, mReadFiles);
     if (mRecord->cause == Cause::None && !missing.isEmpty()) {
         mRecord->cause = Cause::FileMissing;
         mRecord->message = QStringLiteral(
                                "'%1' ended well, but didn't write %2. Check the file name of the result "
                                "template, and what the program says.")
-                               .arg(mRecord->program, missing.join(QStringLiteral(", ")));
+                               .arg(mRecord->program, missing);
     }
 }
 

@@ -19,6 +19,9 @@ class FRun : public QObject {
      */
     FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles);
 
+    /** Those of the files that aren't in the folder, quoted for a message; empty if all are there. */
+    static QString missingFiles(const QString& folder, const QStringList& files);
+
     const FRunRecord& record() const { return *mRecord; }
     /** The record as results keep it: it follows the run. */
     std::shared_ptr<const FRunRecord> sharedRecord() const { return mRecord; }

@@ -252,6 +252,9 @@ TEST_F(FExternComputationTest, readsFilesOfAnEarlierSessionAgain) {
     }
     write(runFile("out.dat"), "11");
     EXPECT_EQ(mProbe->number(), 10) << "not before it is asked for";
+    ASSERT_TRUE(QFile::remove(path(runFile("out.dat"))));
+    EXPECT_FALSE(mProbe->rereadResults());
+    EXPECT_TRUE(logHolds("baseline/probe/': 'out.dat'"));
     EXPECT_EQ(mProbe->mSteps, QStringList());
 }
 

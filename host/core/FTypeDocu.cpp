@@ -1,6 +1,5 @@
 #include "host/core/FTypeDocu.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QTranslator>
 

@@ -58,10 +58,11 @@ QString indented(const QString& text, const QString& prefix) {
     return prefix + QString(text).replace(QLatin1Char('\n'), QLatin1Char('\n') + prefix) + QLatin1Char('\n');
 }
 
-QString classText(const QString& className) {
-    const QString key = QLatin1Char('!') + className;
-    return FTypeDocu::translate(key) + QLatin1Char('\n') +
-           indented(FTypeDocu::translate(key + QStringLiteral(":example")), QStringLiteral("    "));
+QString classText(const FObject& prototype) {
+    prototype.initTypeDocu();
+    const QString className = prototype.getClass();
+    return FTypeDocu::get(className, 1) + QLatin1Char('\n') +
+           indented(FTypeDocu::get(className, 2), QStringLiteral("    "));
 }
 
 QJsonObject toObject(const FCmdRow& row) {
@@ -124,7 +125,7 @@ QString FCmdReference::toText() const {
             heading = owner;
             text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + heading + QLatin1Char('\n') +
                     QString(heading.size(), QLatin1Char('=')) + QLatin1Char('\n');
-            text += row->kind == FCmdRow::Kind::Global ? QString() : classText(heading);
+            text += row->kind == FCmdRow::Kind::Global ? QString() : classText(*row->owner->mpNull);
         }
         const Texts texts(*row);
         text += QLatin1Char('\n') + signature(*row) + QStringLiteral("   [") + row->kindWord() +

@@ -4,6 +4,7 @@
 #include "host/core/FPrototypes.h"
 
 #include <concepts>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -22,36 +23,19 @@
  * class needs a constructor without arguments, which makes the prototype.
  */
 template <class Self, class... Bases>
-class FClass;
+class FClass : public Bases... {
+    using Last = std::tuple_element_t<sizeof...(Bases) - 1, std::tuple<Bases...>>;
 
-template <class Self, class Base>
-class FClass<Self, Base> : public Base {
  public:
     template <class... Args>
     requires(!(sizeof...(Args) == 1 &&
                (std::derived_from<std::remove_cvref_t<Args>, FClass> && ...))) explicit FClass(Args&&... args)
-        : Base(std::forward<Args>(args)...) {}
+        : Last(std::forward<Args>(args)...) {}
 
     const FClassData& getClassData() const override { return Self::mClass; }
     /** The null object of the class: its prototype. */
     static const Self* null() { return static_cast<const Self*>(Self::mClass.mpNull); }
     /** Builds the prototype at the first call and returns it. */
-    static const FObject* initPrototype() {
-        return FPrototypes::build(Self::mClass, FPrototypes::familyOf<Self>(),
-                                  []() -> const FObject* { return new Self(); });
-    }
-};
-
-template <class Self, class Qt, class Base>
-class FClass<Self, Qt, Base> : public Qt, public Base {
- public:
-    template <class... Args>
-    requires(!(sizeof...(Args) == 1 &&
-               (std::derived_from<std::remove_cvref_t<Args>, FClass> && ...))) explicit FClass(Args&&... args)
-        : Base(std::forward<Args>(args)...) {}
-
-    const FClassData& getClassData() const override { return Self::mClass; }
-    static const Self* null() { return static_cast<const Self*>(Self::mClass.mpNull); }
     static const FObject* initPrototype() {
         return FPrototypes::build(Self::mClass, FPrototypes::familyOf<Self>(),
                                   []() -> const FObject* { return new Self(); });

@@ -181,26 +181,22 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
 }
 
 bool FHistory::undo() {
-    if (mDepth > 0 || mReplaying || mDone.empty()) {
-        return false;
-    }
-    Transaction step = std::move(mDone.back());
-    mDone.pop_back();
-    mSize -= step.size;
-    replay(step, false);
-    keep(std::move(step), false);
-    return true;
+    return move(mDone, false);
 }
 
 bool FHistory::redo() {
-    if (mDepth > 0 || mReplaying || mUndone.empty()) {
+    return move(mUndone, true);
+}
+
+bool FHistory::move(std::deque<Transaction>& steps, bool forward) {
+    if (mDepth > 0 || mReplaying || steps.empty()) {
         return false;
     }
-    Transaction step = std::move(mUndone.back());
-    mUndone.pop_back();
+    Transaction step = std::move(steps.back());
+    steps.pop_back();
     mSize -= step.size;
-    replay(step, true);
-    keep(std::move(step), true);
+    replay(step, forward);
+    keep(std::move(step), forward);
     return true;
 }
 

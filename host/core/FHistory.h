@@ -98,6 +98,8 @@ class FHistory {
     static void keepDifference(ObjectChange& change);
     static std::size_t memoryOf(const Transaction& step, bool isDone);
     void keep(Transaction step, bool isDone);
+    /** Takes the last of the steps over to the others. */
+    bool move(std::deque<Transaction>& steps, bool forward);
     void replay(const Transaction& step, bool forward);
     void dropUndone();
     void trim();

@@ -20,6 +20,16 @@ std::deque<FObject*>& waiting() {
     return objects;
 }
 
+std::vector<FObject*> objectsOf(const FUpdateLinks* links, std::vector<FUpdateLinks::Link> FUpdateLinks::*side) {
+    std::vector<FObject*> found;
+    if (links) {
+        for (const FUpdateLinks::Link& link : links->*side) {
+            found.push_back(link.object);
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 FImmediateUpdateBlocker::FImmediateUpdateBlocker() {
@@ -204,21 +214,9 @@ void FUpdateGraph::forget(FObject* object) {
 }
 
 std::vector<FObject*> FUpdateGraph::clientsOf(const FObject* object) {
-    std::vector<FObject*> found;
-    if (object->mpLinks) {
-        for (const FUpdateLinks::Link& link : object->mpLinks->clients) {
-            found.push_back(link.object);
-        }
-    }
-    return found;
+    return objectsOf(object->mpLinks, &FUpdateLinks::clients);
 }
 
 std::vector<FObject*> FUpdateGraph::suppliersOf(const FObject* object) {
-    std::vector<FObject*> found;
-    if (object->mpLinks) {
-        for (const FUpdateLinks::Link& link : object->mpLinks->suppliers) {
-            found.push_back(link.object);
-        }
-    }
-    return found;
+    return objectsOf(object->mpLinks, &FUpdateLinks::suppliers);
 }

@@ -8,14 +8,10 @@
 
 #include <iostream>
 
-FCommandsSubcommand::FCommandsSubcommand(CLI::App& app)
-    : mpCommand(app.add_subcommand("commands", "Prints the reference of all script commands.")) {
-    mpCommand->add_option("CLASS", mClass, "Only the commands on objects of this class; \"global\" for functions");
-    mpCommand->add_flag("--json", mJson, "As JSON");
-}
-
-bool FCommandsSubcommand::isChosen() const {
-    return mpCommand->parsed();
+FCommandsSubcommand::FCommandsSubcommand(CLI::App& app) {
+    CLI::App* command = app.add_subcommand("commands", "Prints the reference of all script commands.");
+    command->add_option("CLASS", mClass, "Only the commands on objects of this class; \"global\" for functions");
+    command->add_flag("--json", mJson, "As JSON");
 }
 
 int FCommandsSubcommand::run() const {

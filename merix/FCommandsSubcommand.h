@@ -11,11 +11,9 @@ class FCommandsSubcommand {
  public:
     explicit FCommandsSubcommand(CLI::App& app);
 
-    bool isChosen() const;
     int run() const;
 
  private:
-    CLI::App* mpCommand;
     std::string mClass;
     bool mJson = false;
 };

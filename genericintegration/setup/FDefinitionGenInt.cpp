@@ -27,16 +27,6 @@ bool isCommandFile(const FExpr<FGenIntFile>& file) {
     return object && object->isTypeOf(FGenIntCommandFile::null());
 }
 
-QStringList fileNames(const Files& files) {
-    QStringList names;
-    for (const FExpr<FGenIntFile>& file : files) {
-        if (file) {
-            names.append(file->getFileName());
-        }
-    }
-    return names;
-}
-
 /** Removes all handles on the first object of the list that is gone; returns how many. */
 template <class IsGone>
 int dropFirstGone(Files& files, FExpr<FGenIntFile>& gone, IsGone isGone) {
@@ -183,8 +173,14 @@ void FDefinitionGenInt::clearFileStorages() const {
     dropFirstGone(mResultsFiles, gone, isDead);
 }
 
-FRunFiles FDefinitionGenInt::getRunFiles() const {
-    return {fileNames(mCommandFiles), fileNames(mResultsFiles)};
+QStringList FDefinitionGenInt::getReadFiles() const {
+    QStringList names;
+    for (const FExpr<FGenIntFile>& file : mResultsFiles) {
+        if (file) {
+            names.append(file->getFileName());
+        }
+    }
+    return names;
 }
 
 void FDefinitionGenInt::setCurFile(const FExpr<FGenIntFile>& file) {

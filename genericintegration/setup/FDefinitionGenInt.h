@@ -43,7 +43,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     const QList<FExpr<FGenIntFile>>& getFiles(unsigned int kind) const;
     const QList<FExpr<FGenIntFile>>& getCommandFiles() const { return mCommandFiles; }
     const QList<FExpr<FGenIntFile>>& getResultsFiles() const { return mResultsFiles; }
-    FRunFiles getRunFiles() const override;
+    QStringList getReadFiles() const override;
 
     /** The file that the connector's editor shows at present, and the one before. */
     const FExpr<FGenIntFile>& getCurFile() const { return mCurFile; }

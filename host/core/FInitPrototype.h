@@ -8,13 +8,13 @@
  */
 class FInitFObjectPrototype {
  public:
-    explicit FInitFObjectPrototype(FPrototypes::Build build) { FPrototypes::remember(FFamily::Object, build); }
+    explicit FInitFObjectPrototype(FPrototypes::Build build) { FPrototypes::remember(build); }
     virtual ~FInitFObjectPrototype() = default;
 };
 
 class FInitFManagedPrototype {
  public:
-    explicit FInitFManagedPrototype(FPrototypes::Build build) { FPrototypes::remember(FFamily::Managed, build); }
+    explicit FInitFManagedPrototype(FPrototypes::Build build) { FPrototypes::remember(build); }
     virtual ~FInitFManagedPrototype() = default;
 };
 

@@ -11,7 +11,6 @@ namespace {
 
 struct Registry {
     std::vector<FPrototypes::Build> pending;
-    std::vector<const FObject*> all;
     QHash<QString, const FObject*> byName;
 };
 
@@ -24,7 +23,7 @@ Registry& registry() {
 
 }  // namespace
 
-void FPrototypes::remember(FFamily, Build build) {
+void FPrototypes::remember(Build build) {
     registry().pending.push_back(build);
 }
 
@@ -44,18 +43,12 @@ void FPrototypes::buildPending() {
 }
 
 void FPrototypes::add(const FObject* prototype) {
-    registry().all.push_back(prototype);
     registry().byName.insert(prototype->getClass(), prototype);
 }
 
 const FObject* FPrototypes::find(const QString& className) {
     buildPending();
     return registry().byName.value(className);
-}
-
-const std::vector<const FObject*>& FPrototypes::all() {
-    buildPending();
-    return registry().all;
 }
 
 const FObject* FPrototypes::build(FClassData& data, FFamily family, const std::function<const FObject*()>& make) {

@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <type_traits>
-#include <vector>
 
 class FManaged;
 
@@ -19,15 +18,13 @@ class FPrototypes {
     using Build = const FObject* (*)();
 
     /** Remembers how a class's prototype is built. */
-    static void remember(FFamily family, Build build);
+    static void remember(Build build);
     /** Builds what was remembered since the last call and registers its commands. */
     static void buildPending();
 
     static void add(const FObject* prototype);
     /** Null if there is none. */
     static const FObject* find(const QString& className);
-    /** All prototypes in the order in which they were built. */
-    static const std::vector<const FObject*>& all();
 
     /** Makes the prototype of one class unless it exists: trace, flag, object, entry. */
     static const FObject* build(FClassData& data, FFamily family, const std::function<const FObject*()>& make);

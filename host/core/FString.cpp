@@ -10,5 +10,5 @@ QString FString::toExpressionString() const {
 }
 
 QString FFileName::toExpressionString() const {
-    return creatorWord() + QLatin1Char('(') + quoteText(getValue()) + QLatin1Char(')');
+    return QStringLiteral("fileName(") + quoteText(getValue()) + QLatin1Char(')');
 }

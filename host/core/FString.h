@@ -28,8 +28,4 @@ class FFileName : public FClass<FFileName, FString> {
     FObject* clone() const override { return new FFileName(getValue()); }
 
     QString toExpressionString() const override;
-
- protected:
-    /** The word of the script function that makes one. */
-    virtual QString creatorWord() const { return QStringLiteral("fileName"); }
 };

@@ -7,12 +7,6 @@
 class FConfiguration;
 class FEntryDef;
 
-/** Files in the run directory that a definition speaks of, relative to it. */
-struct FRunFiles {
-    QStringList written;
-    QStringList read;
-};
-
 /** Which entries there are. Configurations hold their values; several of them can share one definition. */
 class FDefinition : public FClass<FDefinition, FDefinitionBase> {
  public:
@@ -36,8 +30,8 @@ class FDefinition : public FClass<FDefinition, FDefinitionBase> {
     virtual bool setEntryDefsFromDB(const QString& text);
     /** A name in tags has changed: texts that name it follow. */
     virtual void updateCommandFiles(const QString& oldName, const QString& newName);
-    /** The files that are written before a run and read after it. */
-    virtual FRunFiles getRunFiles() const { return {}; }
+    /** The files in the folder of a run, relative to it, that results are read from. */
+    virtual QStringList getReadFiles() const { return {}; }
 
     /** The configurations of the model that have this definition. */
     QList<FConfiguration*> getConfigurations() const;

@@ -57,16 +57,6 @@ std::vector<std::unique_ptr<FStateField>> FGeometryExport::fields() {
         .take();
 }
 
-void FGeometryExport::setFileName(const QString& fileName) {
-    mFileName = fileName;
-    setOutOfDate(true);
-}
-
-void FGeometryExport::setKind(Kind kind) {
-    mKind = kind;
-    setOutOfDate(true);
-}
-
 void FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
     for (const FExpr<FObject>& object : mObjects) {
         object.unregisterClient(this);

@@ -22,11 +22,8 @@ class FGeometryExport : public FClass<FGeometryExport, FObject> {
 
     /** Name of the written file in the run directory. */
     const QString& getFileName() const { return mFileName; }
-    void setFileName(const QString& fileName);
     Kind getKind() const { return mKind; }
-    void setKind(Kind kind);
 
-    const QList<FExpr<FObject>>& getGeometryObjects() const { return mObjects; }
     void setGeometryObjects(const FExpr<FObjectList>& objects);
     /** Adds those that aren't among the objects yet. */
     void addGeometryObjects(const FExpr<FObjectList>& objects);

@@ -103,5 +103,5 @@ void FCustomComputation::finalizeRun() const {
 QStringList FCustomComputation::getReadFiles() const {
     const FConfigurationCustom* configuration = mConfiguration.ptr();
     const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
-    return definition ? definition->getRunFiles().read : QStringList();
+    return definition ? definition->getReadFiles() : QStringList();
 }

@@ -36,7 +36,6 @@ class FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
 
     /** The files that entries of the configuration name as results. */
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
-    const QList<FExpr<FResultsFileName>>& getResultFiles() const { return mResultFiles; }
     /** Path of one of these files, given by its entry's path or its name; empty if there is none. */
     QString getResultFileName(const QString& entry) const;
     /** What file imports have brought, by the name of the value. */

@@ -50,9 +50,6 @@ FRun::FRun(const QString& computation, const FProcessSetup& setup, const QString
     mRecord->computation = computation;
     mRecord->folder = mProcess.setup().workingFolder + QLatin1Char('/');
     mRecord->program = setup.program;
-    mRecord->arguments = setup.arguments;
-    mRecord->environment = setup.environment;
-    mRecord->timeLimit = setup.timeLimit;
     connect(&mProcess, &FProcess::started, this, [this] { mRecord->start = mProcess.outcome().start; });
     connect(&mProcess, &FProcess::finished, this, &FRun::takeOutcome);
 }

@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 
 /** What is known of one run: one attempt to run the program of a computation. */
 struct FRunRecord {
@@ -29,13 +28,10 @@ struct FRunRecord {
 
     State state = State::Ready;
     Cause cause = Cause::None;
-    QString computation;    //!< name of the computation
-    QString folder;         //!< absolute, with a slash at its end
-    QString program;        //!< path as started; as given if it wasn't
-    QStringList arguments;  //!< as passed on
-    QStringList environment;
-    double timeLimit = 0;  //!< seconds; 0 is none
-    QDateTime start;       //!< of the program; invalid if it wasn't started
+    QString computation;  //!< name of the computation
+    QString folder;       //!< absolute, with a slash at its end
+    QString program;      //!< path as started; as given if it wasn't
+    QDateTime start;      //!< of the program; invalid if it wasn't started
     QDateTime end;
     int exitCode = -1;      //!< -1 if there is none
     int signal = 0;         //!< 0 if no signal ended the program

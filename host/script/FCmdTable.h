@@ -180,7 +180,6 @@ class FCmdTable {
     /** A command that has a class of its own: `make` builds its prototype. Listed with the class's own commands. */
     const std::vector<std::unique_ptr<FCmdRow>>& getRows() const { return mRows; }
     const QStringList& getHidden() const { return mHidden; }
-    FClassData& getOwner() const { return *mpOwner; }
 
  private:
     template <class F>

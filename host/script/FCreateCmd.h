@@ -16,7 +16,6 @@ class FCreateCmd : public FClass<FCreateCmd, FCmd> {
 
     /** The name that the object is made under. */
     void setTargetName(const QString& name) { mTargetName = name; }
-    const QString& getTargetName() const { return mTargetName; }
 
  protected:
     FExprBase execute() const override;

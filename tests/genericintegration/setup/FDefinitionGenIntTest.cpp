@@ -72,6 +72,21 @@ TEST_F(FDefinitionGenIntTest, itHearsOfEachOfItsFiles) {
     EXPECT_TRUE(definition->isOutOfDate());
 }
 
+TEST_F(FDefinitionGenIntTest, filesGoWhereItGoesUnlessItIsADefault) {
+    definition->setInProject(false);
+    definition->setInUserConfig(true);
+    EXPECT_FALSE(in->isInProject() || out->isInProject());
+    EXPECT_TRUE(in->isInUserConfig() && out->isInUserConfig());
+    definition->setDefault(true);
+    definition->setInProject(true);
+    definition->setInUserConfig(false);
+    EXPECT_TRUE(in->isInProject());
+    EXPECT_TRUE(in->isInUserConfig());
+    EXPECT_FALSE(definition->isInUserConfig());
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_TRUE(definition->isInUserConfig());
+}
+
 TEST_F(FDefinitionGenIntTest, destroyedFilesLeaveTheListsOneAReading) {
     auto* more = FGenIntResultsFile::create("more");
     definition->addFile(File(more));

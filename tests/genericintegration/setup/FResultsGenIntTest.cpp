@@ -117,6 +117,8 @@ TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
                             "        .addDocu(\"a \\\"good\\\" one\",DocuDescription);\n"
                             "        .setOutputHandles([square,console]);\n    }\n")
                         .arg(id));
+    made->setConfigurationHandle(FExpr<FManaged>(design));
+    EXPECT_TRUE(saved(made).startsWith("\n    &genericIntegrationResults r(d7,"));
     EXPECT_TRUE(made->getResultPath().endsWith("/d7/comp/")) << made->getResultPath().toStdString();
     ASSERT_TRUE(run("genericIntegrationResults lost(d7, 4711) {}"));
     auto* lost = dynamic_cast<FResultsGenInt*>(FObjectManager::instance()->find("lost"));

@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <cstddef>
-
 class FExprBase;
 class FObjectList;
 class FUpdateLinks;

@@ -2,7 +2,6 @@
 
 #include "host/core/FManaged.h"
 #include "host/core/FObjectName.h"
-#include "host/core/FScope.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/core/FExpr.h"
+#include "host/core/FExprBase.h"
 
 #include <QList>
 #include <QString>

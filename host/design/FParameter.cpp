@@ -1,7 +1,6 @@
 #include "host/design/FParameter.h"
 
 #include "host/core/FHistory.h"
-#include "host/core/FImmediateUpdateBlocker.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 

@@ -3,7 +3,6 @@
 #include "host/run/FProcessOutcome.h"
 #include "host/run/FProcessSetup.h"
 
-#include <QByteArray>
 #include <QObject>
 #include <QProcess>
 

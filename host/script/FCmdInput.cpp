@@ -1,7 +1,6 @@
 #include "host/script/FCmdInput.h"
 
 #include "host/core/FLogMsg.h"
-#include "host/core/FObjectManager.h"
 #include "host/script/FSavedTextReader.h"
 #include "host/script/FScriptStep.h"
 

@@ -1,7 +1,5 @@
 #include "host/script/FCmdTable.h"
 
-#include "host/core/FNumberText.h"
-
 namespace {
 
 /** The value of a default as it stands in the argument's documented name. */

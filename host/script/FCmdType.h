@@ -8,7 +8,6 @@
 #include "host/core/FString.h"
 
 #include <any>
-#include <functional>
 #include <type_traits>
 
 /** An argument or result type of a command: how it is spelled, which class it is of, and how a handle becomes one. */

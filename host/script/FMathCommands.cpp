@@ -3,7 +3,6 @@
 #include "host/script/FGlobalCommands.h"
 #include "host/script/FNumberFormat.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "host/core/FExprBase.h"
 #include "host/script/FCmdRow.h"
 
-#include <QSet>
 #include <QStringList>
 
 #include <functional>

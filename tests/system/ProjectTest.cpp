@@ -3,7 +3,6 @@
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QThread>
 
 namespace {

@@ -1,6 +1,5 @@
 #include "host/run/supervisor/FProcessTree.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

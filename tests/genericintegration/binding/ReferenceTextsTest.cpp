@@ -1,4 +1,3 @@
-#include "host/core/FPrototypes.h"
 #include "host/script/FCmdManager.h"
 #include "tests/support/FModelTest.h"
 

@@ -1,5 +1,4 @@
 #include "host/design/FEntryDef.h"
-#include "host/design/FInputFile.h"
 #include "tests/host/design/FEntryFixture.h"
 
 #include "host/core/FMerixCtrl.h"

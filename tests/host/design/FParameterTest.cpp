@@ -1,6 +1,7 @@
 #include "host/design/FParameter.h"
 
-#include "tests/host/design/FEntryFixture.h"
+#include "host/core/FNumber.h"
+#include "tests/support/FModelTest.h"
 
 namespace {
 

@@ -5,41 +5,28 @@
 
 namespace {
 
-void attributes(FCmdTable& table) {
+/** How the setting added last is shown and kept. */
+FCmdTable& keep(FCmdTable& setting, const char* label) {
+    return setting.attrName(label).category("Execution Settings").data();
+}
+
+void settings(FCmdTable& table) {
     using F = FExternComputation;
-    const char* const category = "Execution Settings";
-    table.attribute<F>("setExecutable", &F::setExecutable, &F::getExecutable, {"program"})
-        .attrName("Executable")
-        .category(category)
-        .attrRequiredCmd("true")
-        .data();
-    table.attribute<F>("setArguments", &F::setArguments, &F::getArguments, {"arguments"})
-        .attrName("Arguments")
-        .category(category)
-        .data();
-    table.attribute<F>("setTimeLimit", &F::setTimeLimit, &F::getTimeLimit, {"seconds"})
-        .attrName("Time Limit")
-        .category(category)
-        .data();
-    table.attribute<F>("setEnvironment", &F::setEnvironment, &F::getEnvironment, {"variables"})
-        .attrName("Environment")
-        .category(category)
-        .data();
-    table.attribute<F>("setStandardInput", &F::setStandardInput, &F::getStandardInput, {"fileName"})
-        .attrName("Standard Input")
-        .category(category)
-        .data();
-    table.attribute<F>("setConsoleFiles", &F::setConsoleFiles, &F::getConsoleFiles, {"checked"})
-        .attrName("Console Files")
-        .category(category)
-        .data();
+    keep(table.attribute<F>("setExecutable", &F::setExecutable, &F::getExecutable, {"program"}), "Executable")
+        .attrRequiredCmd("true");
+    keep(table.attribute<F>("setArguments", &F::setArguments, &F::getArguments, {"arguments"}), "Arguments");
+    keep(table.attribute<F>("setTimeLimit", &F::setTimeLimit, &F::getTimeLimit, {"seconds"}), "Time Limit");
+    keep(table.attribute<F>("setEnvironment", &F::setEnvironment, &F::getEnvironment, {"variables"}), "Environment");
+    keep(table.attribute<F>("setStandardInput", &F::setStandardInput, &F::getStandardInput, {"fileName"}),
+         "Standard Input");
+    keep(table.attribute<F>("setConsoleFiles", &F::setConsoleFiles, &F::getConsoleFiles, {"checked"}), "Console Files");
 }
 
 }  // namespace
 
 void externComputationCommands(FCmdTable& table) {
     using F = FExternComputation;
-    attributes(table);
+    settings(table);
     table
         .member<F>(
             "run", +[](F& computation) { return computation.run(); })

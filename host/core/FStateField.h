@@ -116,6 +116,8 @@ class FStateFields {
     static std::size_t sizeOf(const V& value) {
         if constexpr (std::is_base_of_v<FExprBase, V>) {
             return heldMemory(value);
+        } else if constexpr (requires { value.heldMemory(); }) {
+            return value.heldMemory();
         } else {
             return sizeof(V);  // NOLINT(bugprone-sizeof-expression): a pointer is kept as such
         }

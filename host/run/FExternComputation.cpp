@@ -11,23 +11,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
-#include <QFileInfo>
 
 using Cause = FRunRecord::Cause;
-
-namespace {
-
-const QString& outputFile() {
-    static const QString name = QStringLiteral("stdout.txt");
-    return name;
-}
-
-const QString& errorFile() {
-    static const QString name = QStringLiteral("stderr.txt");
-    return name;
-}
-
-}  // namespace
 
 FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &externComputationCommands,
                                       &FExternComputation::fields);
@@ -53,25 +38,13 @@ FExternComputation::~FExternComputation() = default;
 
 std::vector<std::unique_ptr<FStateField>> FExternComputation::fields() {
     using F = FExternComputation;
-    return FStateFields<F>()
-        .member(&F::mExecutable)
-        .member(&F::mArguments)
-        .member(&F::mTimeLimit)
-        .member(&F::mEnvironment)
-        .member(&F::mStandardInput)
-        .member(&F::mConsoleFiles)
-        .take();
+    return FStateFields<F>().member(&F::mProgram).take();
 }
 
 void FExternComputation::init(const FExternComputation* other) {
     if (other) {
         FManaged::init(other);
-        mExecutable = other->mExecutable;
-        mArguments = other->mArguments;
-        mTimeLimit = other->mTimeLimit;
-        mEnvironment = other->mEnvironment;
-        mStandardInput = other->mStandardInput;
-        mConsoleFiles = other->mConsoleFiles;
+        mProgram = other->mProgram;
     }
 }
 
@@ -88,16 +61,16 @@ void FExternComputation::change(V& member, const V& value) {
 }
 
 void FExternComputation::setExecutable(const QString& program) {
-    change(mExecutable, program);
+    change(mProgram.executable, program);
 }
 
 void FExternComputation::setArguments(const QStringList& arguments) {
-    change(mArguments, arguments);
+    change(mProgram.arguments, arguments);
 }
 
 void FExternComputation::setTimeLimit(double seconds) {
     if (seconds >= 0) {
-        change(mTimeLimit, seconds);
+        change(mProgram.timeLimit, seconds);
     } else {
         FLogMsg::warning(getName(), QStringLiteral("The time limit can't be %1 s").arg(seconds),
                          QStringLiteral("it stays as it was; 0 is no limit"));
@@ -105,48 +78,15 @@ void FExternComputation::setTimeLimit(double seconds) {
 }
 
 void FExternComputation::setEnvironment(const QStringList& environment) {
-    change(mEnvironment, environment);
+    change(mProgram.environment, environment);
 }
 
 void FExternComputation::setStandardInput(const QString& fileName) {
-    change(mStandardInput, fileName);
+    change(mProgram.standardInput, fileName);
 }
 
 void FExternComputation::setConsoleFiles(bool files) {
-    change(mConsoleFiles, files);
-}
-
-QString FExternComputation::checkSetup() const {
-    if (mExecutable.isEmpty()) {
-        return QStringLiteral("No program is given. Name it with setExecutable.");
-    }
-    if (FPathManager::leadsOut(mStandardInput)) {
-        return QStringLiteral(
-                   "The file of the standard input, '%1', lies outside the folder of the run. Give one that is "
-                   "written there.")
-            .arg(mStandardInput);
-    }
-    return {};
-}
-
-FProcessSetup FExternComputation::processSetup() const {
-    FProcessSetup setup;
-    const QString folder = FPathManager::instance()->getResultsDir(FExpr<FExternComputation>(this), {});
-    setup.workingFolder = folder;
-    // The program is started in the folder of its run, so a path is made independent of that before.
-    const bool isPath = mExecutable.contains(QLatin1Char('/'));
-    setup.program = isPath ? QFileInfo(mExecutable).absoluteFilePath() : mExecutable;
-    setup.arguments = mArguments;
-    setup.environment = mEnvironment;
-    setup.timeLimit = mTimeLimit;
-    if (!mStandardInput.isEmpty()) {
-        setup.standardInputFile = QDir::cleanPath(folder + QLatin1Char('/') + mStandardInput);
-    }
-    if (mConsoleFiles) {
-        setup.standardOutputFile = outputFile();
-        setup.standardErrorFile = errorFile();
-    }
-    return setup;
+    change(mProgram.consoleFiles, files);
 }
 
 // ---- runs ----
@@ -157,7 +97,8 @@ bool FExternComputation::run(bool wait) {
                          QStringLiteral("wait for its end, or cancel it"));
         return false;
     }
-    mAttempt = std::make_shared<Attempt>(this, processSetup());
+    const QString folder = FPathManager::instance()->getResultsDir(FExpr<FExternComputation>(this), {});
+    mAttempt = std::make_shared<Attempt>(this, mProgram.setupIn(folder));
     const std::shared_ptr<Attempt> attempt = mAttempt;
     const FRunRecord& record = attempt->run.record();
     QEventLoop loop;
@@ -223,7 +164,7 @@ QString FExternComputation::prepareRun() const {
         return {};
     }
     QStringList named = getReadFiles();
-    named << outputFile() << errorFile();
+    named << FProgramSettings::outputFile() << FProgramSettings::errorFile();
     QString reason;
     mAttempt->folder.moveAside(named, reason);
     return reason;

@@ -2,6 +2,7 @@
 
 #include "host/core/FManaged.h"
 #include "host/run/FComputationResults.h"
+#include "host/run/FProgramSettings.h"
 
 #include <QObject>
 #include <QStringList>
@@ -9,7 +10,6 @@
 #include <memory>
 
 class FRun;
-struct FProcessSetup;
 
 /**
  * A computation by an external program: the program's settings, and its runs.
@@ -29,27 +29,27 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     // ---- settings of the program ----
     /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
     void setExecutable(const QString& program);
-    const QString& getExecutable() const { return mExecutable; }
+    const QString& getExecutable() const { return mProgram.executable; }
     void setArguments(const QStringList& arguments);
-    const QStringList& getArguments() const { return mArguments; }
+    const QStringList& getArguments() const { return mProgram.arguments; }
     /** Seconds from the start of the program; 0 is no limit. A number below 0 is refused with a message. */
     void setTimeLimit(double seconds);
-    double getTimeLimit() const { return mTimeLimit; }
+    double getTimeLimit() const { return mProgram.timeLimit; }
     /** Texts "NAME=value", added to the environment or replacing what is there. */
     void setEnvironment(const QStringList& environment);
-    const QStringList& getEnvironment() const { return mEnvironment; }
+    const QStringList& getEnvironment() const { return mProgram.environment; }
     /** A file in the folder of the run; empty for none. */
     void setStandardInput(const QString& fileName);
-    const QString& getStandardInput() const { return mStandardInput; }
+    const QString& getStandardInput() const { return mProgram.standardInput; }
     /** Whether what the program prints goes to "stdout.txt" and "stderr.txt" in the folder of the run. */
     void setConsoleFiles(bool files);
-    bool getConsoleFiles() const { return mConsoleFiles; }
+    bool getConsoleFiles() const { return mProgram.consoleFiles; }
 
     // ---- runs ----
     /** False while a run goes on. */
     bool canRun() const { return !mAttempt; }
     /** What keeps the program from being started, for the user; empty if nothing does. */
-    virtual QString checkSetup() const;
+    virtual QString checkSetup() const { return mProgram.fault(); }
     /**
      * Runs the program. Refused, with a message, while a run goes on.
      * @param wait  true: returns, after a local event loop, with whether the run succeeded. False: returns at once,
@@ -117,7 +117,6 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     static std::vector<std::unique_ptr<FStateField>> fields();
     template <class V>
     void change(V& member, const V& value);
-    FProcessSetup processSetup() const;
     void makeResults();
     void startRun();
     QString writeInput() const;
@@ -126,13 +125,7 @@ class FExternComputation : public FClass<FExternComputation, QObject, FManaged> 
     void report() const;
     QString rereadProblem() const;
 
-    QString mExecutable;
-    QStringList mArguments;
-    double mTimeLimit = 0;
-    QStringList mEnvironment;
-    QString mStandardInput;
-    bool mConsoleFiles = true;
-
+    FProgramSettings mProgram;
     std::shared_ptr<Attempt> mAttempt;  // null when no run goes on
     std::shared_ptr<const FRunRecord> mRecord;
     FExpr<FComputationResults> mResults;

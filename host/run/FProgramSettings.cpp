@@ -1,0 +1,56 @@
+#include "host/run/FProgramSettings.h"
+
+#include "host/run/FPathManager.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+const QString& FProgramSettings::outputFile() {
+    static const QString name = QStringLiteral("stdout.txt");
+    return name;
+}
+
+const QString& FProgramSettings::errorFile() {
+    static const QString name = QStringLiteral("stderr.txt");
+    return name;
+}
+
+QString FProgramSettings::fault() const {
+    if (executable.isEmpty()) {
+        return QStringLiteral("No program is given. Name it with setExecutable.");
+    }
+    if (FPathManager::leadsOut(standardInput)) {
+        return QStringLiteral(
+                   "The file of the standard input, '%1', lies outside the folder of the run. Give one that is "
+                   "written there.")
+            .arg(standardInput);
+    }
+    return {};
+}
+
+FProcessSetup FProgramSettings::setupIn(const QString& folder) const {
+    FProcessSetup setup;
+    setup.workingFolder = folder;
+    // The program is started in the folder of its run, so a path is made independent of that before.
+    const bool isPath = executable.contains(QLatin1Char('/'));
+    setup.program = isPath ? QFileInfo(executable).absoluteFilePath() : executable;
+    setup.arguments = arguments;
+    setup.environment = environment;
+    setup.timeLimit = timeLimit;
+    if (!standardInput.isEmpty()) {
+        setup.standardInputFile = QDir::cleanPath(folder + QLatin1Char('/') + standardInput);
+    }
+    if (consoleFiles) {
+        setup.standardOutputFile = outputFile();
+        setup.standardErrorFile = errorFile();
+    }
+    return setup;
+}
+
+std::size_t FProgramSettings::heldMemory() const {
+    std::size_t units = 0;
+    for (const QString& text : QStringList{executable, standardInput} + arguments + environment) {
+        units += static_cast<std::size_t>(text.size());
+    }
+    return sizeof(*this) + units * sizeof(QChar);
+}

@@ -82,7 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QString content = FUtf8::decode(text.text());
     if (content.size() <= longestForModel) {
         FFuzzCheck::same(FLiteralReader::decode(file), content, "a file is decoded as a text stream does");
-        compareWithModel(content, values, separators, found);
+        compareWithModel(content, values, separators, found, text);
     }
     return 0;
 }

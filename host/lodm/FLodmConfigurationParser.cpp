@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -62,6 +63,16 @@ void report(const QString& path, const QString& reason, const QString& advice) {
                      QStringLiteral("can't import \"%1\": %2").arg(path, reason), advice);
 }
 
+/** Opens the file; empty, or why that can't be done. */
+QString openFault(QFile& file) {
+    // Opening a named pipe would wait for its writer, and a device may have no end.
+    const QFileInfo info(file);
+    if (info.exists() && !info.isFile()) {
+        return QStringLiteral("it isn't an ordinary file");
+    }
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
 }  // namespace
 
 bool FLodmConfigurationParser::doImport(const QString& type, const QString& path, const QString& name) {
@@ -73,8 +84,8 @@ bool FLodmConfigurationParser::doImport(const QString& type, const QString& path
         return true;
     }
     QFile file(QDir(mFolder).filePath(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        report(file.fileName(), file.errorString(), QStringLiteral("nothing is imported"));
+    if (const QString fault = openFault(file); !fault.isEmpty()) {
+        report(file.fileName(), fault, QStringLiteral("nothing is imported"));
         return true;
     }
     mObjects.insert(name, FExpr<FObject>(make(FTextDecoder::decode(file.readAll()), name)));

@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+#include <sys/stat.h>
+
 namespace {
 
 class FLodmConfigurationParserTest : public FModelTest, public FTestFolder {
@@ -44,4 +46,11 @@ TEST_F(FLodmConfigurationParserTest, reportsWhatItCanNotImport) {
     EXPECT_TRUE(mParser.doImport("table", mPath + ".missing", "curve"));
     EXPECT_TRUE(mParser.getObjects().isEmpty());
     EXPECT_TRUE(logHolds(mPath + ".missing"));
+
+    const QString pipe = path("pipe");
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    EXPECT_TRUE(mParser.doImport("text", pipe, "note")) << "and without waiting for a writer";
+    EXPECT_TRUE(mParser.doImport("text", "/dev/zero", "note")) << "and without reading for ever";
+    EXPECT_TRUE(mParser.getObjects().isEmpty());
+    EXPECT_TRUE(logHolds(pipe) && logHolds("/dev/zero"));
 }

@@ -4,6 +4,7 @@
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/io/findValue.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FString.h"
 #include "host/lodm/FLodmConfigurationParser.h"
@@ -150,7 +151,8 @@ bool FGenIntReader::readText(const FGenIntResultsFile& file, const QString& dire
                           QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
                           QStringLiteral("give the template a file name below it"));
         }
-        if (leadsOut || !device->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+        if (leadsOut || !FFile::openOrdinary(*device, mode).isEmpty()) {
             FLogMsg::info(getClass(),
                           QStringLiteral("Could not open file ") + device->fileName() + QStringLiteral(" for reading"),
                           consequence);

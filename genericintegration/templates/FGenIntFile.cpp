@@ -1,6 +1,7 @@
 #include "genericintegration/templates/FGenIntFile.h"
 
 #include "genericintegration/templates/FTemplateOwner.h"
+#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
@@ -101,7 +102,7 @@ FGenIntFile* FGenIntFile::setContent(const QString& content) {
 
 void FGenIntFile::initFromFile(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!FFile::openOrdinary(file).isEmpty()) {
         return;
     }
     const QByteArray bytes = file.readAll();

@@ -1,6 +1,8 @@
 #include "host/core/FFile.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace {
@@ -30,4 +32,12 @@ QString FFile::resolveEnv(const QString& name) {
         from = match.capturedEnd();
     }
     return resolved + name.mid(from);
+}
+
+QString FFile::openOrdinary(QFile& file, QIODevice::OpenMode mode) {
+    const QFileInfo info(file);
+    if (!info.isFile() && info.exists()) {
+        return info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it isn't an ordinary file");
+    }
+    return file.open(mode) ? QString() : file.errorString();
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QIODevice>
 #include <QString>
 
-/** Names of files as users write them. */
+class QFile;
+
+/** Files that users name. */
 class FFile {
  public:
     /**
@@ -10,4 +13,10 @@ class FFile {
      * in place of a leading `~`. What names no variable stays as it stands. Values aren't expanded in turn.
      */
     static QString resolveEnv(const QString& name);
+
+    /**
+     * Opens an ordinary file for reading. Empty, or why that can't be. Others are refused: a named pipe would wait for
+     * its writer, and a device may have no end.
+     */
+    static QString openOrdinary(QFile& file, QIODevice::OpenMode mode = QIODevice::ReadOnly);
 };

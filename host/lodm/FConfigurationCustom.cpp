@@ -31,9 +31,9 @@ QString askForFile() {
     return answer;
 }
 
-void tellUnreadable(const QFile& file) {
-    const QString text = QCoreApplication::translate("FConfigurationCustom", "Cannot read file %1:\n%2.")
-                             .arg(file.fileName(), file.errorString());
+void tellUnreadable(const QString& file, const QString& fault) {
+    const QString text =
+        QCoreApplication::translate("FConfigurationCustom", "Cannot read file %1:\n%2.").arg(file, fault);
     FIO::information(nullptr, FMerixCtrl::getApplicationTitle(), text, QString(), QString(), QString(), 0, -1);
 }
 
@@ -96,8 +96,9 @@ FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefin
     }
     FIni().setValue(importPathKey(), path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        tellUnreadable(file);
+    const QString fault = FFile::openOrdinary(file, QIODevice::ReadOnly | QIODevice::Text);
+    if (!fault.isEmpty()) {
+        tellUnreadable(path, fault);
         return nullptr;
     }
     return parseFile(&file, definition);

@@ -1,5 +1,6 @@
 #include "host/lodm/FLodmConfigurationParser.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FString.h"
 #include "host/core/FTextDecoder.h"
@@ -7,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -63,16 +63,6 @@ void report(const QString& path, const QString& reason, const QString& advice) {
                      QStringLiteral("can't import \"%1\": %2").arg(path, reason), advice);
 }
 
-/** Opens the file; empty, or why that can't be done. */
-QString openFault(QFile& file) {
-    // Opening a named pipe would wait for its writer, and a device may have no end.
-    const QFileInfo info(file);
-    if (info.exists() && !info.isFile()) {
-        return QStringLiteral("it isn't an ordinary file");
-    }
-    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
-}
-
 }  // namespace
 
 bool FLodmConfigurationParser::doImport(const QString& type, const QString& path, const QString& name) {
@@ -84,7 +74,7 @@ bool FLodmConfigurationParser::doImport(const QString& type, const QString& path
         return true;
     }
     QFile file(QDir(mFolder).filePath(path));
-    if (const QString fault = openFault(file); !fault.isEmpty()) {
+    if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
         report(file.fileName(), fault, QStringLiteral("nothing is imported"));
         return true;
     }

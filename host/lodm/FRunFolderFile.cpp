@@ -1,5 +1,6 @@
 #include "host/lodm/FRunFolderFile.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/run/FPathManager.h"
 
@@ -65,9 +66,8 @@ QString FRunFolderFile::copyFrom(const QString& source) const {
     if (source.isEmpty()) {
         return QStringLiteral("it names no file");
     }
-    if (QFileInfo(from).isDir() || !from.open(QIODevice::ReadOnly)) {
-        const QString why = QFileInfo(from).isDir() ? QStringLiteral("it is a folder") : from.errorString();
-        return QStringLiteral("can't read \"%1\": %2").arg(QFileInfo(from).absoluteFilePath(), why);
+    if (const QString fault = FFile::openOrdinary(from); !fault.isEmpty()) {
+        return QStringLiteral("can't read \"%1\": %2").arg(QFileInfo(from).absoluteFilePath(), fault);
     }
     const QString reason = prepare();
     const QFileInfo target(mPath);

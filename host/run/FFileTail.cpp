@@ -1,7 +1,8 @@
 #include "host/run/FFileTail.h"
 
+#include "host/core/FFile.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -32,8 +33,7 @@ QStringList splitLines(QString text) {
 
 QString fileTail(const QString& file, int lines) {
     QFile source(file);
-    // Opening a named pipe would wait for its writer.
-    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly)) {
+    if (!FFile::openOrdinary(source).isEmpty()) {
         return QString();
     }
     const qint64 start = std::max<qint64>(source.size() - kMostBytes, 0);

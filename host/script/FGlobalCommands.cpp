@@ -1,5 +1,6 @@
 #include "host/script/FGlobalCommands.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
@@ -38,9 +39,9 @@ QString resolve(const QString& path) {
 
 FExpr<FObject> readText(const QString& path) {
     QFile file(resolve(path));
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
         FCmd::warnNow(QStringLiteral("readText"),
-                      QStringLiteral("readText: can't read \"%1\": %2").arg(file.fileName(), file.errorString()));
+                      QStringLiteral("readText: can't read \"%1\": %2").arg(file.fileName(), fault));
         return {};
     }
     QTextStream stream(&file);

@@ -1,5 +1,6 @@
 #include "host/script/FProjectText.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
@@ -11,7 +12,6 @@
 #include "host/script/FTokenStream.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -61,11 +61,8 @@ QByteArray FProjectText::write(QString* fault) {
 bool FProjectText::load(const QString& path) {
     mPath = path;
     QFile file(path);
-    const bool isFile = QFileInfo(path).isFile() || !QFileInfo::exists(path);
-    if (!isFile || !file.open(QIODevice::ReadOnly)) {
-        return refuse(path,
-                      QStringLiteral("can't read the project: %1")
-                          .arg(isFile ? file.errorString() : QStringLiteral("it is no file")),
+    if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
+        return refuse(path, QStringLiteral("can't read the project: ") + fault,
                       QStringLiteral("give the name of a project, such as \"wing.mrx\"; the present one is unchanged"));
     }
     const QByteArray bytes = file.read(largestFile + 1);

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -68,6 +70,9 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     parse(folder.path());
     EXPECT_TRUE(logHolds("FGenIntReader: Could not open file " + folder.filePath("out.dat") +
                          " for reading (parsing process aborted)"));
+    ASSERT_EQ(::mkfifo(qPrintable(folder.filePath("out.dat")), 0600), 0);
+    parse(folder.path());
+    QFile::remove(folder.filePath("out.dat"));
     writeFile("out.dat", "");
     parse(folder.path());
     EXPECT_TRUE(logHolds("FGenIntReader: Empty content, nothing to parse (parsing process aborted)"));

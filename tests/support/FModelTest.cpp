@@ -58,22 +58,3 @@ QString FModelTest::savedModel() {
     stream.flush();
     return text;
 }
-
-bool FModelTest::logHolds(const QString& text) const {
-    return mLog.join(QLatin1Char('\n')).contains(text);
-}
-
-void FModelTest::expectUndoable(const QStringList& statements) {
-    for (const QString& statement : statements) {
-        const QString before = savedModel();
-        const int steps = FHistory::instance()->getLabels().size();
-        ASSERT_TRUE(run(statement)) << statement.toStdString() << "\n" << mLog.join('\n').toStdString();
-        const QString after = savedModel();
-        EXPECT_NE(before, after) << statement.toStdString() << " changes nothing";
-        ASSERT_EQ(FHistory::instance()->getLabels().size(), steps + 1) << statement.toStdString();
-        EXPECT_TRUE(FHistory::instance()->undo());
-        EXPECT_EQ(savedModel().toStdString(), before.toStdString()) << "undo of " << statement.toStdString();
-        EXPECT_TRUE(FHistory::instance()->redo());
-        EXPECT_EQ(savedModel().toStdString(), after.toStdString()) << "redo of " << statement.toStdString();
-    }
-}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/core/FExprBase.h"
+#include "host/core/FObjectManager.h"
 
 #include <gtest/gtest.h>
 
@@ -20,13 +20,17 @@ class FModelTest : public testing::Test {
     /** The value of an expression. */
     static FExprBase evaluate(const QString& expression);
     static QString textOf(const QString& expression);
+    /** The managed object of a name; null if there is none, or one of another class. */
+    template <class T>
+    static T* object(const QString& name) {
+        return dynamic_cast<T*>(FObjectManager::instance()->find(name));
+    }
     /** All objects of the model as saved text. */
     static QString savedModel();
     /** Log lines since the start of the test. */
     const QStringList& log() const { return mLog; }
-    bool logHolds(const QString& text) const;
-    /** For each statement: saves, does, undoes, saves, redoes, saves, and expects the same texts. */
-    void expectUndoable(const QStringList& statements);
+    bool logHolds(const QString& text) const { return mLog.join('\n').contains(text); }
+    std::string logText() const { return mLog.join('\n').toStdString(); }
 
  private:
     QStringList mLog;

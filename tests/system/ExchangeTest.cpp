@@ -24,13 +24,13 @@ TEST_P(ExchangeTest, examplesKeepTheirNumbersThroughAFile) {
     if (QStandardPaths::findExecutable(GetParam().program).isEmpty()) {
         GTEST_SKIP() << "The program " << GetParam().program << " isn't installed.";
     }
-    const QString path = QString(MERIX_EXAMPLES "/") + GetParam().script;
+    const QString example = QString(MERIX_EXAMPLES "/") + GetParam().script;
     const Outcome first =
-        script("include(\"" + path + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
+        script("include(\"" + example + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
     ASSERT_TRUE(first.output.endsWith("\ntrue\n")) << first.errors.toStdString();
     const Outcome second =
-        script("importGenIntDefinition(\"$FOLDER/übung.lodm\")\n" + withoutDefinition(path) + "\nprint(true)", {},
-               {"FOLDER=" + mFolder.path()});
+        script("importGenIntDefinition(\"$FOLDER/übung.lodm\")\n" + withoutDefinition(example) + "\nprint(true)", {},
+               {"FOLDER=" + path()});
     EXPECT_EQ(second.output, first.output) << second.errors.toStdString();
 }
 

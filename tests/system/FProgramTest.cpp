@@ -6,13 +6,13 @@
 
 void FProgramTest::start(QProcess& program, const QStringList& arguments, const QStringList& environment) const {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    variables.insert(QStringLiteral("TMPDIR"), mFolder.path());
+    variables.insert(QStringLiteral("TMPDIR"), path());
     variables.insert(QStringLiteral("MERIX_SETTINGS"), path(QStringLiteral("settings.ini")));
     for (const QString& variable : environment) {
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
     }
     program.setProcessEnvironment(variables);
-    program.setWorkingDirectory(mFolder.path());
+    program.setWorkingDirectory(path());
     program.start(QStringLiteral(MERIX_PROGRAM), arguments);
 }
 
@@ -35,21 +35,8 @@ FProgramTest::Outcome FProgramTest::script(const QString& text, const QStringLis
                  environment);
 }
 
-void FProgramTest::write(const QString& name, const QByteArray& content) const {
-    QDir().mkpath(QFileInfo(path(name)).path());
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << file.errorString().toStdString();
-    file.write(content);
-}
-
-QByteArray FProgramTest::read(const QString& name) const {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return file.readAll();
-}
-
 QString FProgramTest::runFile(const QString& name) const {
-    const QStringList roots = QDir(mFolder.path()).entryList({QStringLiteral("merix-*")}, QDir::Dirs);
+    const QStringList roots = QDir(path()).entryList({QStringLiteral("merix-*")}, QDir::Dirs);
     EXPECT_EQ(roots.size(), 1);
     return roots.value(0) + QStringLiteral("/baseline/comp/") + name;
 }

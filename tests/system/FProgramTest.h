@@ -1,12 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "tests/support/FTestFolder.h"
 
-#include <QDir>
 #include <QProcess>
-#include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <ostream>
 
@@ -18,8 +15,10 @@ inline void PrintTo(const QString& text, std::ostream* stream) {
  * Tests of the program as a program: what it says and returns. All that it writes, temporary folders too, lies below a
  * folder of the test, whose name has blanks, quotes and an umlaut.
  */
-class FProgramTest : public testing::Test {
+class FProgramTest : public testing::Test, public FTestFolder {
  protected:
+    FProgramTest() : FTestFolder(QDir::tempPath() + "/läuft \"hier\" 'gut' $HOME-XXXXXX") {}
+
     struct Outcome {
         int exitCode = -1;
         QString output;
@@ -33,11 +32,6 @@ class FProgramTest : public testing::Test {
                   const QStringList& environment = {}) const;
     /** Writes the script to the folder and runs it. */
     Outcome script(const QString& text, const QStringList& arguments = {}, const QStringList& environment = {}) const;
-    QString path(const QString& name) const { return mFolder.filePath(name); }
-    void write(const QString& name, const QByteArray& content) const;
-    QByteArray read(const QString& name) const;
     /** The name of a file in the folder of the runs of "comp", for tests that run it in one merix only. */
     QString runFile(const QString& name) const;
-
-    QTemporaryDir mFolder{QDir::tempPath() + "/läuft \"hier\" 'gut' $HOME-XXXXXX"};
 };

@@ -10,7 +10,7 @@ namespace {
 class ProjectTest : public FProgramTest {
  protected:
     QStringList files() const {
-        return QDir(mFolder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
     /** The value of a parameter as the project's text has it. */
     static QString valueIn(const QString& project, const QString& parameter) {

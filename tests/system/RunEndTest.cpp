@@ -52,7 +52,7 @@ class RunFamilyTest : public RunEndTest {
             "wait\n");
         QFile::setPermissions(path("solver.sh"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         mSetUp.program = "./solver.sh";
-        mSetUp.arguments = QStringList{mFolder.path()};
+        mSetUp.arguments = QStringList{path()};
     }
 
  protected:

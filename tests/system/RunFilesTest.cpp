@@ -13,7 +13,7 @@ class RunFilesTest : public FProgramTest {
     /** All files of that name below the test's folder. */
     QStringList filesNamed(const QString& name) const {
         QStringList found;
-        QDirIterator walk(mFolder.path(), {name}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        QDirIterator walk(path(), {name}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (walk.hasNext()) {
             found.append(walk.next());
         }

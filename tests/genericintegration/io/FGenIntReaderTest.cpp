@@ -3,9 +3,9 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FTableData.h"
 #include "tests/support/FModelTest.h"
+#include "tests/support/FTestFolder.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -19,14 +19,9 @@ namespace {
 class FGenIntReaderTest : public FModelTest {
  protected:
     void setValues(const QString& values) { ASSERT_TRUE(run("out1.setValues(" + values + ")")); }
-    void writeFile(const QString& name, const QByteArray& content) const {
-        QFile device(folder.filePath(name));
-        ASSERT_TRUE(device.open(QIODevice::WriteOnly));
-        device.write(content);
-    }
     void parse(const QString& directory) const { FGenIntReader::instance()->parseFile(file, table.ptr(), directory); }
 
-    QTemporaryDir folder;
+    FTestFolder folder;
     FExpr<FGenIntResultsFile> file{FGenIntResultsFile::create("out1")};
     FExpr<FTableData> table{new FTableData("out.dat")};
 };
@@ -52,7 +47,7 @@ TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsToldOf) {
         "[[\"drag\",1,0,\"Drag\",Last,\"FDouble\",\"\"],[\"none\",0,0,\"Drag\",Last,\"FDouble\",\"\"],"
         "[\"lift\",0,0,\"Lift\",Last,\"FDouble\",\"\"]]");
     file->setFileName("out.dat");
-    writeFile("out.dat", "title\nLift 3\n");
+    folder.write("out.dat", "title\nLift 3\n");
     parse(folder.path());
     EXPECT_EQ(table->getElementAt("drag", 0), 3);
     EXPECT_EQ(
@@ -68,12 +63,12 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     file->setContent("7");
     parse(QString());
     parse(folder.path());
-    EXPECT_TRUE(logHolds("FGenIntReader: Could not open file " + folder.filePath("out.dat") +
+    EXPECT_TRUE(logHolds("FGenIntReader: Could not open file " + folder.path("out.dat") +
                          " for reading (parsing process aborted)"));
-    ASSERT_EQ(::mkfifo(qPrintable(folder.filePath("out.dat")), 0600), 0);
+    ASSERT_EQ(::mkfifo(qPrintable(folder.path("out.dat")), 0600), 0);
     parse(folder.path());
-    QFile::remove(folder.filePath("out.dat"));
-    writeFile("out.dat", "");
+    QFile::remove(folder.path("out.dat"));
+    folder.write("out.dat", "");
     parse(folder.path());
     EXPECT_TRUE(logHolds("FGenIntReader: Empty content, nothing to parse (parsing process aborted)"));
     file->setFileName("../out.dat");
@@ -81,7 +76,7 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     EXPECT_TRUE(logHolds("leads out of the result directory"));
     EXPECT_EQ(table->getElementAt("a", 0), 7);
     file->setFileName("out.dat");
-    writeFile("out.dat", " \n\n");
+    folder.write("out.dat", " \n\n");
     parse(folder.path());
     EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
 }
@@ -124,11 +119,11 @@ TEST_F(FGenIntReaderTest, filesAreImportedFromTheDirectoryOnly) {
     EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
     EXPECT_EQ(table->getRowTooltip(0), "FFileName|grid.txt");
 
-    writeFile("out.dat", "mesh grid.txt\n");
-    writeFile("grid.txt", "1 2");
+    folder.write("out.dat", "mesh grid.txt\n");
+    folder.write("grid.txt", "1 2");
     parse(folder.path() + "/");
     EXPECT_EQ(FGenIntReader::instance()->getImportedObjects().value("mesh").toString(), "1 2");
-    writeFile("out.dat", "mesh ../x\n");
+    folder.write("out.dat", "mesh ../x\n");
     parse(folder.path() + "/");
     EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
     EXPECT_EQ(table->getRowCount(), 1);

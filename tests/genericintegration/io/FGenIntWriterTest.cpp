@@ -5,11 +5,8 @@
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FString.h"
 #include "tests/support/FModelTest.h"
+#include "tests/support/FTestFolder.h"
 #include "tests/support/randomCases.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <filesystem>
 #include <functional>
@@ -30,18 +27,13 @@ class FGenIntWriterTest : public FModelTest {
     bool write() const {
         return FGenIntWriter::instance()->exportCommandFiles(FExpr<FConfiguration>(configuration), folder.path() + "/");
     }
-    QByteArray written(const QString& name) const {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    }
     QMap<QString, QString> preview() const {
         QMap<QString, QString> texts;
         EXPECT_TRUE(FGenIntWriter::instance()->previewCommandFiles(FExpr<FConfiguration>(configuration), texts));
         return texts;
     }
 
-    QTemporaryDir folder;
+    FTestFolder folder;
     FDefinitionGenInt* definition = FDefinitionGenInt::create({}, "def", {});
     FConfigurationGenInt* configuration = FConfigurationGenInt::create({}, "conf", false, definition);
 };
@@ -51,21 +43,21 @@ TEST_F(FGenIntWriterTest, valuesReplaceTagsWhateverTheirKind) {
         "def.addEntry(\"on\", true)\nconf.setEntryValue(\"Wing|span\", 2*p+0.5)");
     add("sub/in.dat", "s=<ENTRY>wing|SPAN</Entry>\r\nn=<entry>name</entry> o=<entry>on</entry> x=<entry>none</entry>.");
     add("tail.dat", "a<entry>b");
-    ASSERT_TRUE(write()) << log().join('\n').toStdString();
-    EXPECT_EQ(written("sub/in.dat"), "s=8.5\r\nn=a \\ <entry>name</entry> o=true x=.");
-    EXPECT_EQ(written("tail.dat"), "a");
+    ASSERT_TRUE(write()) << logText();
+    EXPECT_EQ(folder.read("sub/in.dat"), "s=8.5\r\nn=a \\ <entry>name</entry> o=true x=.");
+    EXPECT_EQ(folder.read("tail.dat"), "a");
     EXPECT_EQ(log(),
               QStringList{"Generic Integration Writer: Entry none is not part of configuration conf (Entry skipped)"});
     run("p.setValue(6)");
     ASSERT_TRUE(write());
-    EXPECT_TRUE(written("sub/in.dat").startsWith("s=12.5\r\n"));
+    EXPECT_TRUE(folder.read("sub/in.dat").startsWith("s=12.5\r\n"));
 }
 
 TEST_F(FGenIntWriterTest, filesAreNamedDifferentlyInExportAndPreview) {
     add("run.dat", "");
     add("out[1].txt", "<entry>Exports|run.dat</entry>,<entry>run.dat</entry>,<entry>exports|OUT</entry>");
     ASSERT_TRUE(write());
-    EXPECT_EQ(written("out[1].txt"), "run.dat,,out[1].txt");
+    EXPECT_EQ(folder.read("out[1].txt"), "run.dat,,out[1].txt");
     // Without its first eight characters, the name of the file is empty.
     EXPECT_EQ(preview().value("out[1].txt"), ",,");
     EXPECT_EQ(preview().keys(), (QStringList{"out[1].txt", "run.dat"}));
@@ -75,7 +67,7 @@ TEST_F(FGenIntWriterTest, forcedLineEndsConcernTheTemplateInExportsOnly) {
     run("def.addEntry(\"lines\", \"1\n2\")");
     add("in.dat", "a\n<entry>lines</entry>\r\n")->setForceWindowsLineEndings(true);
     ASSERT_TRUE(write());
-    EXPECT_EQ(written("in.dat"), "a\r\n1\n2\r\r\n");
+    EXPECT_EQ(folder.read("in.dat"), "a\r\n1\n2\r\r\n");
     EXPECT_EQ(preview().value("in.dat"), "a\n1\n2\r\n");
 }
 
@@ -133,10 +125,10 @@ TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
     for (int round = randomCases(150); round > 0; --round) {
         changes[random() % changes.size()]();
         ASSERT_TRUE(write());
-        const QByteArray kept = written("in.dat");
+        const QByteArray kept = folder.read("in.dat");
         definition->tagRows().reset();
         ASSERT_TRUE(write());
-        ASSERT_EQ(kept, written("in.dat"));
+        ASSERT_EQ(kept, folder.read("in.dat"));
         seen.insert(kept);
     }
     EXPECT_GT(seen.size(), 10U);
@@ -148,24 +140,24 @@ TEST_F(FGenIntWriterTest, aFileThatCantBeOpenedEndsTheExport) {
     add("blocked.dat", "2");
     add("last.dat", "3");
     EXPECT_FALSE(write());
-    EXPECT_EQ(log(), QStringList{"Generic Integration Writer: Could not open file " + folder.filePath("blocked.dat") +
+    EXPECT_EQ(log(), QStringList{"Generic Integration Writer: Could not open file " + folder.path("blocked.dat") +
                                  " for writing. (Writing process aborted.)"});
-    EXPECT_EQ(written("first.dat"), "1");
-    EXPECT_FALSE(QFile::exists(folder.filePath("last.dat")));
+    EXPECT_EQ(folder.read("first.dat"), "1");
+    EXPECT_FALSE(QFile::exists(folder.path("last.dat")));
 }
 
 TEST_F(FGenIntWriterTest, linksInTheDirectoryLeadNothingOut) {
     const QTemporaryDir other;
     QFile kept(other.filePath("kept"));
     ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(QFile::link(kept.fileName(), folder.filePath("link")));
-    std::filesystem::create_hard_link(kept.fileName().toStdString(), folder.filePath("hard link").toStdString());
-    ASSERT_TRUE(QFile::link(other.path(), folder.filePath("out")));
+    ASSERT_TRUE(QFile::link(kept.fileName(), folder.path("link")));
+    std::filesystem::create_hard_link(kept.fileName().toStdString(), folder.path("hard link").toStdString());
+    ASSERT_TRUE(QFile::link(other.path(), folder.path("out")));
     add("link", "x");
     add("hard link", "y");
     EXPECT_TRUE(write());
-    EXPECT_EQ(written("link"), "x");
-    EXPECT_EQ(written("hard link"), "y");
+    EXPECT_EQ(folder.read("link"), "x");
+    EXPECT_EQ(folder.read("hard link"), "y");
     EXPECT_EQ(kept.size(), 0);
     add("out/new/file", "x");
     EXPECT_FALSE(write());

@@ -2,7 +2,6 @@
 
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "host/core/FNumber.h"
-#include "host/core/FObjectManager.h"
 #include "host/design/FEntryDef.h"
 #include "tests/support/FModelTest.h"
 
@@ -16,10 +15,6 @@ class FConfigurationGenIntTest : public FModelTest {
             "    .setFileName(\"in.dat\") .setForceWindowsLineEndings(true)\n}\n"
             "genericIntegrationDefinition d() { .addEntry(\"height\", 40) .addEntry(\"G|span\", 10) .setFiles([in]) }\n"
             "genericIntegrationConfiguration c() { .setDefinition(d); .setEntryValue(\"height\", 41) }");
-    }
-    template <class T>
-    static T* object(const char* name) {
-        return dynamic_cast<T*>(FObjectManager::instance()->find(QString::fromLatin1(name)));
     }
     FConfigurationGenInt& conf() const { return *object<FConfigurationGenInt>("c"); }
     FDefinitionGenInt& def() const { return *object<FDefinitionGenInt>("d"); }

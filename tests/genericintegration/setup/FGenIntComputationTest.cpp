@@ -44,9 +44,9 @@ QList<FFakeConnector*> connectors() {
 
 TEST_F(FGenIntComputationTest, runsFromEntriesToNumbers) {
     FExprBase number;
-    ASSERT_TRUE(run("ok = comp.run()")) << logText().toStdString();
+    ASSERT_TRUE(run("ok = comp.run()")) << logText();
     ASSERT_TRUE(number.resolve("comp.getResults().getTable(\"Out.txt\").getElementAt(\"f\")"));
-    EXPECT_EQ(FExprBase(number.getObject()).toString(), "4") << logText().toStdString();
+    EXPECT_EQ(FExprBase(number.getObject()).toString(), "4") << logText();
     EXPECT_EQ(mSignals, QStringList({"started", "ended"}));
 
     ASSERT_TRUE(run("conf.setEntryValue(\"x\", 5); ok = comp.run()"));
@@ -60,7 +60,7 @@ TEST_F(FGenIntComputationTest, runsFromEntriesToNumbers) {
 
 TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {
     ASSERT_TRUE(run("ok = comp.run(); comp.setConfiguration(NULL); again = comp.run()"));
-    EXPECT_TRUE(logHolds("No configuration found")) << logText().toStdString();
+    EXPECT_TRUE(logHolds("No configuration found")) << logText();
     EXPECT_EQ(mSignals, QStringList({"started", "ended"})) << "the second one never started";
     EXPECT_EQ(computation()->getState(), "failed");
     ASSERT_TRUE(run("comp.setConfiguration(comp)"));
@@ -71,7 +71,7 @@ TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {
 TEST_F(FGenIntComputationTest, outlivesWhatHappensInTheMiddleOfARun) {
     for (const QString event : {"destroy(def)", "destroy(conf)", "destroy(comp)", "destroy(square)",
                                 "comp.setConfiguration(NULL)", "destroy(comp.getResults())"}) {
-        ASSERT_TRUE(run("ok = comp.run()")) << event.toStdString() << logText().toStdString();
+        ASSERT_TRUE(run("ok = comp.run()")) << event.toStdString() << logText();
         ASSERT_EQ(textOf("comp.getResults().getDataAt(\"f\",0)"), "4") << event.toStdString();
         mSignals.clear();
         ASSERT_TRUE(run("comp.setArguments([\"-c\", \"sleep 0.2; echo f 7 > Out.txt\"])"));
@@ -79,7 +79,7 @@ TEST_F(FGenIntComputationTest, outlivesWhatHappensInTheMiddleOfARun) {
         const FExprBase keep(running);
         const FExpr<FComputationResults> before = running->getResults();
         ASSERT_TRUE(computation()->run(false));
-        ASSERT_TRUE(run(event)) << logText().toStdString();
+        ASSERT_TRUE(run(event)) << logText();
         while (!running->canRun()) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }

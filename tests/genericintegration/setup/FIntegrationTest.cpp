@@ -1,10 +1,6 @@
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FObjectManager.h"
-
-#include <QDir>
-#include <QFile>
 
 namespace {
 
@@ -38,25 +34,6 @@ genericIntegrationComputation comp() {
 }  // namespace
 
 FIntegrationTest::FIntegrationTest() {
-    FMerixCtrl::instance()->setProjectFile(mFolder.filePath("study.mrx"));
-    EXPECT_TRUE(run(integration)) << logText().toStdString();
-}
-
-FIntegrationTest::~FIntegrationTest() {
-    FMerixCtrl::instance()->setProjectFile({});
-}
-
-FGenIntComputation* FIntegrationTest::computation(const QString& name) {
-    return dynamic_cast<FGenIntComputation*>(FObjectManager::instance()->find(name));
-}
-
-FResultsGenInt* FIntegrationTest::results() {
-    return dynamic_cast<FResultsGenInt*>(computation()->getResults().ptr());
-}
-
-void FIntegrationTest::write(const QString& name, const QByteArray& bytes) const {
-    QDir().mkpath(computation()->getWorkingPath());
-    QFile file(computation()->getWorkingPath() + name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+    FMerixCtrl::instance()->setProjectFile(path("study.mrx"));
+    EXPECT_TRUE(run(integration)) << logText();
 }

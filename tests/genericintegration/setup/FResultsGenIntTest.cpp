@@ -17,12 +17,10 @@ quint64 bitsOf(double number) {
 
 class FResultsGenIntTest : public FIntegrationTest {
  public:
-    FResultsGenIntTest() { EXPECT_TRUE(run("ok = comp.run()")) << logText().toStdString(); }
+    FResultsGenIntTest() { EXPECT_TRUE(run("ok = comp.run()")) << logText(); }
 
  protected:
-    static FExpr<FGenIntFile> file(const QString& name) {
-        return FExpr<FGenIntFile>(static_cast<const FObject*>(FObjectManager::instance()->find(name)));
-    }
+    static FExpr<FGenIntFile> file(const QString& name) { return FExpr<FGenIntFile>(object<FGenIntFile>(name)); }
     static QString saved(const FManaged* object) {
         QString text;
         QTextStream stream(&text);
@@ -97,7 +95,7 @@ TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
     write("note.txt", "seen");
     results()->setOutputHandles({file("square")});
     const FExpr<FTableData> curve(results()->getImportedObjects().value("field"));
-    ASSERT_TRUE(curve) << logText().toStdString();
+    ASSERT_TRUE(curve) << logText();
     EXPECT_EQ(curve->getElementAt(1, 0), 3);
     results()->setOutputHandles({file("square"), file("console")});
     EXPECT_EQ(results()->getImportedObjects().value("field").toString(), "seen") << "the later template wins";
@@ -121,11 +119,11 @@ TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
     EXPECT_TRUE(saved(made).startsWith("\n    &genericIntegrationResults r(d7,"));
     EXPECT_TRUE(made->getResultPath().endsWith("/d7/comp/")) << made->getResultPath().toStdString();
     ASSERT_TRUE(run("genericIntegrationResults lost(d7, 4711) {}"));
-    auto* lost = dynamic_cast<FResultsGenInt*>(FObjectManager::instance()->find("lost"));
+    auto* lost = object<FResultsGenInt>("lost");
     EXPECT_EQ(lost->getResultTemplateName("Out.txt"), "");
     EXPECT_EQ(lost->getResultPath(), "");
     lost->setOutputHandles({file("square")});
     EXPECT_TRUE(std::isnan(lost->getDataAt("f", 0U))) << "not the number of the sample text";
     ASSERT_TRUE(run("genericIntegrationResults bad(comp) {}"));
-    EXPECT_FALSE(FObjectManager::instance()->find("bad"));
+    EXPECT_FALSE(object<FManaged>("bad"));
 }

@@ -40,7 +40,7 @@ TEST_F(FDefinitionTest, whatCannotBeAddedIsRefusedWithItsPlaceAndChangesNothing)
         {'"' + QStringList(QVector<QString>(60, "g").toList()).join('|') + "\", 1", "more than 50 levels"}};
     for (const QStringList& attempt : refused) {
         ASSERT_TRUE(run("r = def.addEntry(" + attempt[0] + ")\nif (r != NULL) { exit(1) }"));
-        EXPECT_TRUE(logHolds(attempt[1])) << attempt[0].toStdString() << "\n" << log().join('\n').toStdString();
+        EXPECT_TRUE(logHolds(attempt[1])) << attempt[0].toStdString() << "\n" << logText();
         EXPECT_EQ(savedModel().toStdString(), before.toStdString());
     }
     EXPECT_TRUE(log().front().startsWith("warning: test:1:9: ")) << log().front().toStdString();

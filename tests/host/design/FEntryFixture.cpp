@@ -28,11 +28,6 @@ void configurationCommands(FCmdTable& table) {
 
 const FInitPrototypes<FNotingDefinition, FNotingConfiguration> types;
 
-template <class T>
-T& find(const char* name) {
-    return dynamic_cast<T&>(*FObjectManager::instance()->find(QString::fromLatin1(name)));
-}
-
 }  // namespace
 
 FClassData FNotingDefinition::mClass("FNotingDefinition", &FDefinition::mClass, &definitionCommands);
@@ -49,11 +44,11 @@ FEntryFixture::FEntryFixture() {
 }
 
 FNotingDefinition& FEntryFixture::definition() const {
-    return find<FNotingDefinition>("def");
+    return *object<FNotingDefinition>("def");
 }
 
 FNotingConfiguration& FEntryFixture::configuration() const {
-    return find<FNotingConfiguration>("conf");
+    return *object<FNotingConfiguration>("conf");
 }
 
 QStringList FEntryFixture::values() const {

@@ -1,7 +1,6 @@
 #include "host/lodm/FConfigurationCustom.h"
 
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FObjectManager.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
@@ -28,7 +27,7 @@ TEST_F(FConfigurationCustomTest, inputFilesAreCopiedUnderTheNameThatTagsWrite) {
     const QByteArray bytes(3'000'000, '\x01');
     const QString mesh = write("mesh.dat", bytes);
     QFile(mesh).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    ASSERT_TRUE(copy(QStringLiteral("inputFile(\"%1\")").arg(mesh))) << log().join('\n').toStdString();
+    ASSERT_TRUE(copy(QStringLiteral("inputFile(\"%1\")").arg(mesh))) << logText();
     EXPECT_EQ(read("run/mesh.dat"), bytes);
     EXPECT_TRUE(QFile(path("run/mesh.dat")).permissions() & QFile::ExeOwner);
     // Again, over the one that is there, and into folders that aren't there yet.

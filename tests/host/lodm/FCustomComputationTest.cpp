@@ -18,7 +18,7 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
         EXPECT_TRUE(
             run("def.addEntry(\"span\", 12.5); def.addEntry(\"Wing|name\", \"left \\\"one\\\"\")\n"
                 "def.addEntry(\"Wing|polar\", resultsFileName(\"sub/polar.txt\"))"))
-            << log().join('\n').toStdString();
+            << logText();
         mConfiguration->setDefinition(FExpr<FDefinition>(definition));
         EXPECT_TRUE(run("comp.setConfiguration(conf)"));
     }
@@ -35,7 +35,7 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
 }  // namespace
 
 TEST_F(FCustomComputationTest, writesItsCommandFile) {
-    EXPECT_TRUE(runScript("test ! -e commands")) << log().join('\n').toStdString();
+    EXPECT_TRUE(runScript("test ! -e commands")) << logText();
     mComputation->setCmdFile("commands");
     EXPECT_TRUE(runScript("true"));
     EXPECT_EQ(read("study.results/baseline/comp/commands"),
@@ -48,7 +48,7 @@ TEST_F(FCustomComputationTest, writesItsCommandFile) {
 TEST_F(FCustomComputationTest, knowsItsResultFiles) {
     ASSERT_TRUE(runScript("true"));
     const QString path = mComputation->getWorkingPath() + "sub/polar.txt";
-    EXPECT_EQ(textOf("comp.getResults().getResultFileName(\"Wing|polar\")"), path) << log().join('\n').toStdString();
+    EXPECT_EQ(textOf("comp.getResults().getResultFileName(\"Wing|polar\")"), path) << logText();
     EXPECT_EQ(textOf("comp.getResults().getResultFileName(\"sub/polar.txt\")"), path);
     EXPECT_EQ(textOf("comp.getResults().getResultFileName(\"span\")"), "");
 }

@@ -2,7 +2,6 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FInitPrototype.h"
-#include "host/core/FObjectManager.h"
 #include "host/core/FQuotedText.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryTree.h"
@@ -38,9 +37,6 @@ const FInitPrototypes<FMadeDefinition> types;
 
 class FLodmDefinitionParserTest : public FModelTest {
  protected:
-    static FDefinitionCustom* definition(const char* name) {
-        return dynamic_cast<FDefinitionCustom*>(FObjectManager::instance()->find(QString::fromLatin1(name)));
-    }
     static QByteArray written(const FDefinitionCustom* definition) {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
@@ -112,7 +108,7 @@ TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
     for (quint32 seed = 1; seed <= 40; ++seed) {
         auto* made = new FMadeDefinition("made");
         made->registerObject();
-        ASSERT_TRUE(made->setEntryDefsFromDB(randomEntries(seed))) << log().join('\n').toStdString();
+        ASSERT_TRUE(made->setEntryDefsFromDB(randomEntries(seed))) << logText();
         QRandomGenerator random(seed);
         made->addDocu(randomText(random, false), seed % 4);
         const auto docu = made->getDocu();
@@ -122,10 +118,10 @@ TEST_F(FLodmDefinitionParserTest, everyDefinitionComesBackAndFitsTheSchema) {
         const std::string commands = made->furtherSavedCommands().join('\n').toStdString();
         FManaged::destroy(made, true);
         FDefinitionCustom* back = read(QString::fromUtf8(xml));
-        ASSERT_NE(back, nullptr) << log().join('\n').toStdString();
+        ASSERT_NE(back, nullptr) << logText();
         ASSERT_EQ(back->furtherSavedCommands().join('\n').toStdString(), commands);
         EXPECT_EQ(back->getDocu(), docu);
-        EXPECT_TRUE(log().isEmpty()) << log().join('\n').toStdString();
+        EXPECT_TRUE(log().isEmpty()) << logText();
         FManaged::destroy(back, true);
     }
     EXPECT_FALSE(fitsSchema(file("<entry name=\"a|b\" type=\"FDouble\"/>").toUtf8()));
@@ -233,19 +229,19 @@ TEST_F(FLodmDefinitionParserTest, readingIntoADefinitionReplacesItsEntries) {
     ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"old\", 1) .addEntry(\"G|kept\", 2) }"));
     auto* configuration = new FConfiguration("conf");
     configuration->registerObject();
-    configuration->setDefinition(FExpr<FDefinition>(definition("d")));
+    configuration->setDefinition(FExpr<FDefinition>(object<FDefinitionCustom>("d")));
     ASSERT_TRUE(run("conf.setEntryValue(\"G|kept\", 7)"));
     const QString before = savedModel();
-    FLodmDefinitionParser broken{FExpr<FDefinitionCustom>(definition("d"))};
+    FLodmDefinitionParser broken{FExpr<FDefinitionCustom>(object<FDefinitionCustom>("d"))};
     EXPECT_FALSE(broken.read(file("<entry name=\"x\"/>")));
     EXPECT_EQ(broken.getDefinition().ptr(), nullptr);
     EXPECT_EQ(savedModel(), before);
 
-    FLodmDefinitionParser parser{FExpr<FDefinitionCustom>(definition("d"))};
+    FLodmDefinitionParser parser{FExpr<FDefinitionCustom>(object<FDefinitionCustom>("d"))};
     ASSERT_TRUE(
         parser.read(file("<group name=\"G\"><entry name=\"kept\"><default kind=\"number\">3</default></entry>"
                          "</group><entry name=\"new\"><default kind=\"text\"> n </default></entry>")));
-    EXPECT_EQ(parser.getDefinition().ptr(), definition("d"));
+    EXPECT_EQ(parser.getDefinition().ptr(), object<FDefinitionCustom>("d"));
     EXPECT_EQ(configuration->getEntryMap().keys(), (QStringList{"G|kept", "new"}));
     EXPECT_EQ(textOf("conf.getEntryValue(\"G|kept\")"), "7");
     EXPECT_EQ(textOf("conf.getEntryValue(\"new\")"), " n ");
@@ -256,19 +252,19 @@ TEST_F(FLodmDefinitionParserTest, readingIntoADefinitionReplacesItsEntries) {
 TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
     const FTestFolder folder;
     ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"a\", 1) }"));
-    EXPECT_FALSE(definition("d")->save());
+    EXPECT_FALSE(object<FDefinitionCustom>("d")->save());
     EXPECT_TRUE(log().isEmpty());
     run("d.save()");
     EXPECT_TRUE(logHolds("d: the definition has no file to be saved in"));
     run("d.save(\"" + folder.path("none/d.lodm") + "\")");
     EXPECT_TRUE(logHolds("none/d.lodm\": No such file or directory"));
     ASSERT_TRUE(run("done = d.save(\"" + folder.path("d.lodm") + "\")"));
-    EXPECT_EQ(folder.read("d.lodm"), written(definition("d")));
+    EXPECT_EQ(folder.read("d.lodm"), written(object<FDefinitionCustom>("d")));
     EXPECT_EQ(FHistory::instance()->getLabels(), QStringList{"madeDefinition"}) << "nothing to be undone";
     // Where the file can't be put in its place, the one that is there stays, and nothing lies about.
     QDir(folder.path()).mkpath("dir.lodm/sub");
-    definition("d")->setSaveFileName(folder.path("dir.lodm"));
-    EXPECT_FALSE(definition("d")->save());
+    object<FDefinitionCustom>("d")->setSaveFileName(folder.path("dir.lodm"));
+    EXPECT_FALSE(object<FDefinitionCustom>("d")->save());
     EXPECT_TRUE(logHolds("dir.lodm\": Is a directory"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{"d.lodm", "dir.lodm"}));

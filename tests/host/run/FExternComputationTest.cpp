@@ -105,7 +105,6 @@ class FExternComputationTest : public FModelTest, public FTestFolder {
     }
 
  protected:
-    QString logText() const { return log().join('\n'); }
     /** Lets the program's events come. */
     static bool waitUntil(const std::function<bool()>& condition) {
         QElapsedTimer timer;
@@ -125,7 +124,7 @@ class FExternComputationTest : public FModelTest, public FTestFolder {
 }  // namespace
 
 TEST_F(FExternComputationTest, runsTheProgramInItsFolder) {
-    ASSERT_TRUE(mProbe->runScript("cat in.txt > out.dat; echo said; echo wrong >&2")) << logText().toStdString();
+    ASSERT_TRUE(mProbe->runScript("cat in.txt > out.dat; echo said; echo wrong >&2")) << logText();
     EXPECT_EQ(mProbe->mSteps, allSteps());
     EXPECT_EQ(mProbe->number(), 42);
     EXPECT_EQ(mProbe->getState(), "finished");
@@ -139,7 +138,7 @@ TEST_F(FExternComputationTest, passesSettingsOn) {
     mProbe->setConsoleFiles(false);
     mProbe->setEnvironment({"WEIGHT=7 kg"});
     mProbe->setStandardInput("in.txt");
-    ASSERT_TRUE(mProbe->runScript("read x; echo $x > out.dat; echo \"$WEIGHT\" > weight")) << logText().toStdString();
+    ASSERT_TRUE(mProbe->runScript("read x; echo $x > out.dat; echo \"$WEIGHT\" > weight")) << logText();
     EXPECT_EQ(mProbe->number(), 42);
     EXPECT_EQ(read(runFile("weight")), "7 kg\n");
     EXPECT_FALSE(has(runFile("stdout.txt")));
@@ -187,7 +186,7 @@ TEST_F(FExternComputationTest, failsWhenOldFilesCanNotBeMovedAside) {
     write(runFile("../.earlier/probe"), "a file where a folder is needed");
     EXPECT_FALSE(mProbe->runScript("echo 2 > out.dat"));
     EXPECT_EQ(mProbe->mSteps, QStringList({"handles"}));
-    EXPECT_TRUE(logHolds("out.dat' is left of an earlier run")) << logText().toStdString();
+    EXPECT_TRUE(logHolds("out.dat' is left of an earlier run")) << logText();
     auto* results = dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr());
     EXPECT_FALSE(results->getData("out.dat")) << "what is in the folder isn't of this run";
 }
@@ -219,7 +218,7 @@ TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
     EXPECT_EQ(mProbe->getState(), "cancelled");
     EXPECT_TRUE(mProbe->wasAborted());
     EXPECT_EQ(mProbe->mSteps, allSteps());
-    EXPECT_EQ(log().filter("cancelled").size(), 1) << logText().toStdString();
+    EXPECT_EQ(log().filter("cancelled").size(), 1) << logText();
     EXPECT_FALSE(mProbe->cancel());
 
     mProbe->mAtStart = [this] { mProbe->cancel(); };

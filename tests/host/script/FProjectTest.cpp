@@ -26,7 +26,7 @@ class FProjectTest : public FModelTest, public FTestFolder {
     void expectToSurvive() {
         ASSERT_TRUE(save("p.mrx"));
         const QByteArray first = read("p.mrx");
-        ASSERT_TRUE(open("p.mrx")) << log().join('\n').toStdString() << first.toStdString();
+        ASSERT_TRUE(open("p.mrx")) << logText() << first.toStdString();
         EXPECT_EQ(FProjectText::write(), first);
     }
 };
@@ -57,7 +57,7 @@ TEST_F(FProjectTest, namesInARingComeBack) {
           "// merix project, format 1\nthing b(2) {\n.setDbId(9)\n.setFriend(c)\n.setText(\"b\")\n}\n"
           "thing c(3) {\n.setDbId(2)\n.setFriend(d)\n}\nthing d(4) {\n.setFriend(a)\n}\nthing a(e.getNumber())\n"
           "d.setText(\"later\")\nthing e(7)\n");
-    ASSERT_TRUE(open("ring.mrx")) << log().join('\n').toStdString();
+    ASSERT_TRUE(open("ring.mrx")) << logText();
     EXPECT_EQ(textOf("[b.getNumber(),getAttribute(b, \"setFriend\"),getAttribute(d, \"setFriend\"),a.getNumber()]"),
               "[2,c,a,7]");
     EXPECT_EQ(a->find("b")->getDbId(), 9);
@@ -116,7 +116,7 @@ TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
     for (const char* told : {"p.mrx:1: a project begins with the line \"// merix project, format 1\", but here stands",
                              "p.mrx:4:2: FThing has no command \"setNumbr\"", "p.mrx:5:2: setNumber: argument 1",
                              "p.mrx:7:1: there is no creator \"thng\"", "p.mrx:10:", "5 errors; what they are about"}) {
-        EXPECT_TRUE(logHolds(told)) << told << "\n" << log().join('\n').toStdString();
+        EXPECT_TRUE(logHolds(told)) << told << "\n" << logText();
     }
     const QByteArray damaged = read("p.mrx");
     ASSERT_TRUE(save());
@@ -260,7 +260,7 @@ TEST_F(FProjectTest, aProjectIsDataAndDoesNothing) {
     EXPECT_EQ(textOf("c.getNumber()"), "2");
     EXPECT_FALSE(has("written.mrx"));
     for (int line : {3, 5, 6, 7, 8, 11, 12, 14, 16, 17, 18, 19, 20, 21}) {
-        EXPECT_TRUE(logHolds(QString("p.mrx:%1:").arg(line))) << line << "\n" << log().join('\n').toStdString();
+        EXPECT_TRUE(logHolds(QString("p.mrx:%1:").arg(line))) << line << "\n" << logText();
     }
     // An expression that reads files may be kept; it is evaluated when somebody asks.
     const auto* parameter = FObjectManager::instance()->find("p");

@@ -12,7 +12,7 @@ class FTestFolder {
  public:
     explicit FTestFolder(const QString& pattern = QDir::tempPath() + "/merix-test-XXXXXX") : mFolder(pattern) {}
 
-    QString path(const QString& name = QString()) const { return mFolder.filePath(name); }
+    QString path(const QString& name = QString()) const { return QDir(mFolder.path()).filePath(name); }
     bool has(const QString& name) const { return QFileInfo(path(name)).exists(); }
     /** "none" if the file can't be read. */
     QByteArray read(const QString& name) const {

@@ -6,25 +6,32 @@ namespace {
 
 struct Example {
     const char* name;
-    const char* script;
     const char* program;
+    const char* script;
     const char* lastLine;
+    const char* setUp;  ///< the script with the definition
+    const char* definition;
 
     friend void PrintTo(const Example& example, std::ostream* stream) { *stream << example.script; }
 };
 
-class ExamplesTest : public FProgramTest, public testing::WithParamInterface<Example> {};
+class ExamplesTest : public FProgramTest, public testing::WithParamInterface<Example> {
+ protected:
+    void SetUp() override {
+        if (QStandardPaths::findExecutable(GetParam().program).isEmpty()) {
+            GTEST_SKIP() << "The program " << GetParam().program << " isn't installed.";
+        }
+    }
+    static QString example(const char* name) { return QString(MERIX_EXAMPLES "/") + name; }
+};
 
 TEST_P(ExamplesTest, agreesWithItsFormulasAndGivesTheSameNumbersWhenReopened) {
-    if (QStandardPaths::findExecutable(GetParam().program).isEmpty()) {
-        GTEST_SKIP() << "The program " << GetParam().program << " isn't installed.";
-    }
     const QString numbers =
         "for (c in getObjects(\"FGenIntComputation\")) {\n  print(\"ran\", c.run())\n"
         "  for (name in c.getResults().getTableNames()) {\n    t = c.getResults().getTable(name)\n"
         "    for (row in t.getRowNames()) { print(row, t.getElementAt(row)) }\n  }\n}\n";
-    const QString example = QString(MERIX_EXAMPLES "/") + GetParam().script;
-    const Outcome first = script("include(\"" + example + "\")\n" + numbers + "saveProject(\"example.mrx\")\n");
+    const Outcome first =
+        script("include(\"" + example(GetParam().script) + "\")\n" + numbers + "saveProject(\"example.mrx\")\n");
     EXPECT_EQ(first.exitCode, 0);
     EXPECT_EQ(first.output.section("ran true", 0, 0).trimmed().section('\n', -1), GetParam().lastLine);
     const Outcome again = script("print(openProject(\"example.mrx\"))\n" + numbers);
@@ -33,11 +40,25 @@ TEST_P(ExamplesTest, agreesWithItsFormulasAndGivesTheSameNumbersWhenReopened) {
     EXPECT_EQ(again.output, "true\n" + wanted) << again.errors.toStdString();
 }
 
+TEST_P(ExamplesTest, keepsItsNumbersWhenTheDefinitionComesFromAnExchangeFile) {
+    const QString setUp = example(GetParam().setUp);
+    const Outcome first =
+        script("include(\"" + setUp + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
+    ASSERT_TRUE(first.output.endsWith("\ntrue\n")) << first.errors.toStdString();
+    const QString text = read(setUp);
+    const Outcome second = script("importGenIntDefinition(\"$FOLDER/übung.lodm\")\n" +
+                                      text.mid(text.indexOf("genericIntegrationConfiguration")) + "\nprint(true)",
+                                  {}, {"FOLDER=" + path()});
+    EXPECT_EQ(second.output, first.output) << second.errors.toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(, ExamplesTest,
-                         testing::Values(Example{"cantilever", "cantilever/designs.merix", "ccx",
-                                                 "All numbers are within 0.25 % of the theory."},
-                                         Example{"bandpass", "bandpass/bandpass.merix", "ngspice",
-                                                 "All numbers agree with the formulas."}),
+                         testing::Values(Example{"cantilever", "ccx", "cantilever/designs.merix",
+                                                 "All numbers are within 0.25 % of the theory.",
+                                                 "cantilever/cantilever.merix", "beamDefinition"},
+                                         Example{"bandpass", "ngspice", "bandpass/bandpass.merix",
+                                                 "All numbers agree with the formulas.", "bandpass/bandpass.merix",
+                                                 "filterDefinition"}),
                          [](const auto& test) { return test.param.name; });
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include "tests/system/FProgramTest.h"
-#include "tests/system/FSetUp.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -9,9 +8,6 @@ namespace {
 
 class ProjectTest : public FProgramTest {
  protected:
-    QStringList files() const {
-        return QDir(path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
     /** The value of a parameter as the project's text has it. */
     static QString valueIn(const QString& project, const QString& parameter) {
         const QRegularExpression pattern("\nparameter " + parameter + R"(\(\) \{\n[^}]*setValue\((\d+)\);\n\}\n)");
@@ -48,48 +44,6 @@ TEST_F(ProjectTest, aKillWhileSavingLeavesTheOldFileOrTheNewOne) {
     const Outcome opened = script(
         "print(openProject(\"p.mrx\", true))\nprint(first.getValue() - last.getValue() <= 1, exists(\"body\"))\n");
     EXPECT_EQ(opened.output, "true\ntrue true\n") << opened.errors.toStdString();
-}
-
-TEST_F(ProjectTest, aCrashLosesNothingThatWasDone) {
-    ASSERT_EQ(script("parameter a(1)\nsaveProject(\"p.mrx\")\n").exitCode, 0);
-    write("crash.merix", "x = openProject(\"p.mrx\")\na.setValue(2)\nprint(\"done\")\nwhile (true) {}\n");
-    QProcess program;
-    start(program, {"script", "crash.merix"});
-    ASSERT_TRUE(program.waitForReadyRead());
-    const Outcome beside = script("print(openProject(\"p.mrx\"))\nprint(a.getValue(), saveProject())\n");
-    EXPECT_EQ(beside.output, "true\n1 false\n");
-    EXPECT_TRUE(beside.errors.contains("the project is open elsewhere (merix, process")) << beside.errors.toStdString();
-    program.kill();
-    ASSERT_TRUE(program.waitForFinished());
-    const Outcome after = script(
-        "x = openProject(\"p.mrx\")\nprint(a.getValue())\nx = openProject(\"p.mrx\", true)\n"
-        "print(a.getValue(), saveProject())\n");
-    EXPECT_EQ(after.output, "1\n2 true\n");
-    EXPECT_TRUE(after.errors.contains("there is unsaved work of ")) << after.errors.toStdString();
-    EXPECT_EQ(files(), (QStringList{"crash.merix", "p.mrx", "p.mrx~", "test.merix"}));
-}
-
-TEST_F(ProjectTest, aHostileProjectDoesNothingOutsideTheRun) {
-    FSetUp setUp = FSetUp::shell("echo ran > ran.txt");
-    setUp.inputs = {{"../../../outside.txt", "harm\n"}};
-    ASSERT_EQ(script(setUp.text() + "saveProject(\"p.mrx\")\n").exitCode, 0);
-    QByteArray project = read("p.mrx");
-    project +=
-        "parameter p(comp.run())\nparameter q(include(\"evil.merix\"))\ncomp.run()\ninclude(\"evil.merix\")\n"
-        "genericIntegrationResultsFile r(comp.run()) {\n    .setFileName(readText(\"evil.merix\"));\n}\n"
-        "genericIntegrationDefinition deep() {\n    .addEntry(\"" +
-        QByteArray("a|").repeated(1'000'000) + "a\", 1);\n}\n";
-    write("p.mrx", project);
-    write("evil.merix", "saveProject(\"evil.mrx\")\n");
-    const Outcome outcome = script("print(openProject(\"p.mrx\"))\nprint(comp.run())\n");
-    EXPECT_EQ(outcome.output, "false\nfalse\n");
-    for (const char* told :
-         {"\"run\" does something and can't stand in an expression that is kept", "\"include\" does something",
-          "can't stand in a saved text", "more than 50 levels", "outside"}) {
-        EXPECT_TRUE(outcome.errors.contains(told)) << told << "\n" << outcome.errors.left(3000).toStdString();
-    }
-    EXPECT_EQ(files(), (QStringList{"evil.merix", "p.mrx", "p.results", "test.merix"}));
-    EXPECT_FALSE(QFile::exists(path("p.results/baseline/comp/ran.txt")));
 }
 
 }  // namespace

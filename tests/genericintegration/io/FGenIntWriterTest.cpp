@@ -146,23 +146,25 @@ TEST_F(FGenIntWriterTest, aFileThatCantBeOpenedEndsTheExport) {
     EXPECT_FALSE(QFile::exists(folder.path("last.dat")));
 }
 
-TEST_F(FGenIntWriterTest, linksInTheDirectoryLeadNothingOut) {
-    const QTemporaryDir other;
-    QFile kept(other.filePath("kept"));
-    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(QFile::link(kept.fileName(), folder.path("link")));
-    std::filesystem::create_hard_link(kept.fileName().toStdString(), folder.path("hard link").toStdString());
+TEST_F(FGenIntWriterTest, nothingIsWrittenOutsideOfTheDirectory) {
+    const FTestFolder other;
+    const QString kept = other.write("kept", "kept");
+    ASSERT_TRUE(QFile::link(kept, folder.path("link")));
+    std::filesystem::create_hard_link(kept.toStdString(), folder.path("hard link").toStdString());
     ASSERT_TRUE(QFile::link(other.path(), folder.path("out")));
     add("link", "x");
-    add("hard link", "y");
+    FGenIntCommandFile* file = add("hard link", "y");
     EXPECT_TRUE(write());
     EXPECT_EQ(folder.read("link"), "x");
     EXPECT_EQ(folder.read("hard link"), "y");
-    EXPECT_EQ(kept.size(), 0);
-    add("out/new/file", "x");
-    EXPECT_FALSE(write());
-    EXPECT_TRUE(logHolds("\"out/new/file\" leads out of the run directory"));
+    EXPECT_EQ(other.read("kept"), "kept");
+    for (const QString name : {"out/new/file", "../stray", "a/../../stray", "..\\stray"}) {
+        file->setFileName(name);
+        EXPECT_FALSE(write());
+        EXPECT_TRUE(logHolds("\"" + name + "\" leads out of the run directory")) << name.toStdString();
+    }
     EXPECT_EQ(QDir(other.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"kept"});
+    EXPECT_FALSE(folder.has("../stray"));
 }
 
 }  // namespace

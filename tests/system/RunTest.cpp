@@ -1,0 +1,111 @@
+#include "tests/system/FProgramTest.h"
+
+#include <locale.h>
+
+namespace {
+
+class RunTest : public FProgramTest {
+ protected:
+    static QString withScript(const QString& script) {
+        return QString("comp.setArguments([\"-c\", \"%1\"])\n").arg(script);
+    }
+
+    /** A computation that reads the number f of out.dat. */
+    const QString mSetUp = R"(
+genericIntegrationResultsFile out() {
+    .setFileName("out.dat")
+    .setValues([["f", 0, 0, "f ", Last, "FDouble", ""]])
+}
+genericIntegrationDefinition def() { .setFiles([out]) }
+genericIntegrationConfiguration conf() { .setDefinition(def) }
+genericIntegrationComputation comp() { .setConfiguration(conf); .setExecutable("sh") }
+)";
+    const QString mNumber = "comp.getResults().getTable(\"out.dat\").getElementAt(\"f\")";
+};
+
+TEST_F(RunTest, stateCodeAndNumberTellHowTheProgramEnded) {
+    const QString writes = "echo f 7 > out.dat; ";
+    const QList<QPair<QString, QString>> cases{
+        {withScript(writes + "exit 0"), "true finished 0 7"},
+        {withScript("exit 0"), "false failed 0 NaN"},
+        {withScript(writes + "echo no licence >&2; exit 3"), "false failed 3 7"},
+        {"comp.setExecutable(\"no-such-solver\")\n", "false failed -1 NaN"},
+        {"comp.setExecutable(\"sh\"); comp.setTimeLimit(1.5)\n" + withScript(writes + "exec sleep 1000"),
+         "false timed out -1 7"},
+        {"comp.setTimeLimit(0)\n" + withScript("kill -SEGV $$"), "false failed -1 NaN"},
+        {withScript("yes 'step 12.5' | head -c 20000000 > out.dat; cat out.dat; echo f 7 >> out.dat"),
+         "true finished 0 7"},
+    };
+    QString text = mSetUp;
+    QString expected;
+    for (const auto& [commands, printed] : cases) {
+        text += commands + "print(comp.run(), comp.getState(), comp.getExitCode(), " + mNumber + ")\n";
+        expected += printed + "\n";
+    }
+    const Outcome outcome = script(text);
+    EXPECT_EQ(outcome.exitCode, 0) << "a run that failed is no fault of the script";
+    EXPECT_EQ(outcome.output, expected);
+    int position = 0;
+    for (const char* told : {"didn't write 'out.dat'", "exit code 3", "last lines of stderr.txt", "no licence",
+                             "no-such-solver", "/bin", "time limit of 1.5 s", "segmentation fault (SIGSEGV)"}) {
+        position = outcome.errors.indexOf(told, position);
+        ASSERT_GE(position, 0) << told << "\n" << outcome.errors.toStdString();
+    }
+    EXPECT_EQ(outcome.errors.count("error: "), 5) << outcome.errors.toStdString();
+    EXPECT_EQ(read(runFile("stdout.txt")).size(), 20'000'000);
+
+    EXPECT_EQ(script(mSetUp + withScript("exit 3") + "if (!comp.run()) { exit(comp.getExitCode()) }").exitCode, 3);
+}
+
+TEST_F(RunTest, noNumberIsOfAnEarlierRun) {
+    const QString report = "print(" + mNumber + ", first.getTable(\"out.dat\").getElementAt(\"f\"))\n";
+    const Outcome outcome =
+        script(mSetUp + withScript("echo f 1 > out.dat; echo f 2 > stray; echo f 3 > .hidden") +
+               "ok = comp.run()\nfirst = comp.getResults()\n" + report + withScript("exit 3") + "ok = comp.run()\n" +
+               report + withScript("cp stray out.dat; cp .hidden out.dat; true") + "ok = comp.run()\n" + report +
+               withScript("echo f 4 >> out.dat; mv out.dat o; mv o out.dat; touch -d 2001-01-01 out.dat") +
+               "ok = comp.run()\n" + report);
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.output, "1 1\nNaN 1\nNaN 1\n4 1\n") << outcome.errors.toStdString();
+    EXPECT_EQ(read(runFile("out.dat")), "f 4\n");
+}
+
+TEST_F(RunTest, theLocaleChangesNothing) {
+    const QString text = R"(
+genericIntegrationCommandFile input() {
+    .setFileName("größe/eingabe.txt")
+    .setContent("<entry>GRÖßE</entry> <entry>text</entry> <entry>big</entry> 0,25")
+}
+genericIntegrationResultsFile output() {
+    .setFileName("größe/aus.txt")
+    .setValues([["Größe", 0, 0, "", First, "FDouble", ""], ["big", 0, 0, "öl", First, "FDouble", ""],
+                ["comma", 0, 2, "", First, "FDouble", ""]])
+}
+genericIntegrationDefinition def() {
+    .addEntry("Größe", 1234567.5) .addEntry("text", "Öl") .addEntry("big", 1e22) .setFiles([input, output])
+}
+genericIntegrationConfiguration conf() { .setDefinition(def); .setEntryValue("Größe", 1234567.5 / 2) }
+genericIntegrationComputation comp() {
+    .setConfiguration(conf)
+    .setExecutable("sh")
+    .setArguments(["-c", "cat größe/eingabe.txt; cp größe/eingabe.txt größe/aus.txt; echo $0", "Maß 1,5"])
+}
+ok = comp.run()
+t = comp.getResults().getTable("größe/aus.txt")
+print(comp.getState(), format(2.5, "%8.3f"), number("2.5"), t.getElementAt("Größe"), t.getElementAt("big"))
+print(t.getElementAt("comma"), readText(comp.getWorkingPath() + "stdout.txt"))
+)";
+    for (const QString name : {"C", "C.UTF-8", "de_DE.UTF-8"}) {
+        const Outcome outcome = script(text, {}, {"LC_ALL=" + name});
+        EXPECT_EQ(outcome.output, "finished    2.500 2.5 617283.75 1e+22\n0 617283.75 Öl 1e+22 0,25Maß 1,5\n\n")
+            << name.toStdString() << "\n"
+            << outcome.errors.toStdString();
+    }
+    const locale_t german = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr);
+    if (!german) {
+        GTEST_SKIP() << "The locale de_DE.UTF-8 isn't installed, so that decimal commas could not be tried.";
+    }
+    freelocale(german);
+}
+
+}  // namespace

@@ -57,7 +57,7 @@ TEST_F(FCmdTest, aListActsOnItsElements) {
 }
 
 TEST_F(FCmdTest, theCurrentValueOfASelectionIsTheCommonOne) {
-    EXPECT_EQ(textOf("getAttribute([a,b], \"setNumber\")"), "0");
+    EXPECT_EQ(textOf("getAttribute(getObjects(\"FThing\"), \"setNumber\")"), "0");
     const auto value = [](const QString& receiver) {
         const auto* prototype =
             dynamic_cast<const FAttribCmd*>(FObject::getPrototype("FAttribCmdFThingsetNumberdouble"));
@@ -99,7 +99,7 @@ TEST_F(FCmdTest, aKeptExpressionFollowsAndOnlyAsks) {
 TEST_F(FCmdTest, expressionTextsReadBackToTheSameTree) {
     for (const char* text :
          {"1-(2-3)", "1-2-3", "(1+2)*3", "2^3^2", "(2^3)^2", "-2^2", "(-2)^2", "-(1+2)", "!(true&&false)||true",
-          "1<2==true", "[1,\"a\\\"b\\\\\",NULL]", "2*-3", "1e-07*2", "1-(-1)", "max(1,2)+3%2"}) {
+          "1<2==true", "[1,\"a\\\"b\\\\\",NULL]", "2*-3", "1e-07*2", "1-(-1)", "max(1,2)+3%2", "fileName(\"a\")"}) {
         FExprBase first;
         ASSERT_TRUE(first.resolve(text)) << text;
         const QString written = first.getStored()->toExpressionString();
@@ -109,6 +109,7 @@ TEST_F(FCmdTest, expressionTextsReadBackToTheSameTree) {
         const FExprBase a1(first.getObject());
         const FExprBase a2(second.getObject());
         EXPECT_EQ(a1.toString(), a2.toString()) << text << " became " << written.toStdString();
+        EXPECT_EQ(a1.toString(), textOf(a1.getStored()->toExpressionString())) << text << ", as a value";
     }
     EXPECT_EQ(textOf("2^3^2"), "512");
     EXPECT_EQ(textOf("-2^2"), "-4");

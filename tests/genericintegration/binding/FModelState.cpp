@@ -1,4 +1,4 @@
-#include "tests/support/FModelState.h"
+#include "tests/genericintegration/binding/FModelState.h"
 
 #include "host/core/FObjectManager.h"
 #include "host/design/FDefinitionBase.h"

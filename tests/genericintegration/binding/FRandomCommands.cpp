@@ -1,4 +1,4 @@
-#include "tests/support/FRandomCommands.h"
+#include "tests/genericintegration/binding/FRandomCommands.h"
 
 #include "host/core/FDocuArea.h"
 #include "host/core/FHistory.h"
@@ -54,12 +54,23 @@ std::vector<const FCmdRow*> FRandomCommands::getActingRows() {
     return acting;
 }
 
+FRandomCommands::FRandomCommands(quint32 seed, const QStringList& files) : mRandom(seed), mFiles(files) {
+    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
+        if (chance(50)) {
+            mFavoured.insert(row);
+        }
+    }
+}
+
 const FCmdRow* FRandomCommands::pickRow(const std::vector<const FCmdRow*>& rows,
                                         const std::function<bool(const FCmdRow&)>& fits) {
     std::vector<const FCmdRow*> fitting;
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(fitting),
                  [&fits](const FCmdRow* row) { return fits(*row); });
-    return fitting.empty() ? nullptr : fitting[static_cast<std::size_t>(pick(static_cast<int>(fitting.size())))];
+    const auto isFavoured = [this](const FCmdRow* row) { return mFavoured.contains(row); };
+    const auto end = std::partition(fitting.begin(), fitting.end(), isFavoured);
+    const auto count = end == fitting.begin() ? fitting.size() : static_cast<std::size_t>(end - fitting.begin());
+    return fitting.empty() ? nullptr : fitting[static_cast<std::size_t>(pick(static_cast<int>(count)))];
 }
 
 QStringList FRandomCommands::receivers(const FCmdRow& row) const {
@@ -73,7 +84,7 @@ QStringList FRandomCommands::receivers(const FCmdRow& row) const {
 }
 
 QString FRandomCommands::statement() {
-    static const std::vector<const FCmdRow*> rows = getActingRows();
+    const std::vector<const FCmdRow*> rows = getActingRows();
     const int kind = pick(100);
     const bool creates = kind < 15;
     const FCmdRow* row = pickRow(rows, [&](const FCmdRow& candidate) {
@@ -246,10 +257,14 @@ QString FRandomCommands::value(int depth) {
 }
 
 QString FRandomCommands::query(int depth) {
+    const bool ofObject = chance(50);
     const FCmdRow* row = pickRow(FCmdManager::instance()->getRows(), [&](const FCmdRow& candidate) {
         return candidate.effect == FCmdRow::Effect::Pure && !candidate.isCreator() && !takesRest(candidate) &&
-               candidate.hasResult() && (!candidate.isMember() || !receivers(candidate).isEmpty());
+               candidate.hasResult() &&
+               (candidate.isMember() ? ofObject && !receivers(candidate).isEmpty() : !ofObject);
     });
-    const QString front = row->isMember() ? pick(receivers(*row)) + '.' : QString();
-    return front + call(*row, depth);
+    if (!row) {
+        return number();
+    }
+    return (ofObject ? pick(receivers(*row)) + '.' : QString()) + call(*row, depth);
 }

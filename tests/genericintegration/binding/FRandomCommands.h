@@ -2,6 +2,7 @@
 
 #include "host/script/FCmdRow.h"
 
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -15,7 +16,7 @@
 class FRandomCommands {
  public:
     /** @param files  paths of files that commands may read */
-    FRandomCommands(quint32 seed, const QStringList& files) : mRandom(seed), mFiles(files) {}
+    FRandomCommands(quint32 seed, const QStringList& files);
 
     /** The rows that statements are made of. */
     static std::vector<const FCmdRow*> getActingRows();
@@ -49,5 +50,6 @@ class FRandomCommands {
 
     std::mt19937 mRandom;
     QStringList mFiles;
+    QSet<const FCmdRow*> mFavoured;
     const FCmdRow* mpLastRow = nullptr;
 };

@@ -12,6 +12,7 @@ TEST_F(CommandLineTest, wrongCallsAreToldWithCode2) {
         EXPECT_EQ(outcome.output, "");
         EXPECT_NE(outcome.errors, "");
     }
+    EXPECT_TRUE(merix({"scrpt"}).errors.contains("\"scrpt\" is neither a subcommand"));
     EXPECT_TRUE(merix({"commands", "FGenIntFil"}).errors.contains("did you mean \"FGenIntFile\"?"));
 }
 

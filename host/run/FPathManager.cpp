@@ -15,6 +15,16 @@
 
 #include <utility>
 
+namespace {
+
+/** Where temporary folders are made; without this, those of a TMPDIR that isn't there would be made in the root. */
+QString temporaryPlace() {
+    const QString place = QDir::tempPath();
+    return place.isEmpty() ? QStringLiteral("/tmp") : place;
+}
+
+}  // namespace
+
 FPathManager* FPathManager::instance() {
     static FPathManager manager;
     return &manager;
@@ -27,8 +37,13 @@ QString FPathManager::resultsRoot() {
         return file.absolutePath() + QLatin1Char('/') + file.completeBaseName() + QStringLiteral(".results");
     }
     if (mTemporaryRoot.isEmpty()) {
-        QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/merix-XXXXXX"));
+        const QString place = temporaryPlace();
+        QTemporaryDir folder(place + QStringLiteral("/merix-XXXXXX"));
         folder.setAutoRemove(false);
+        if (!folder.isValid()) {
+            // Can't be made either, so that the run tells where it should have been.
+            return place + QStringLiteral("/merix-%1").arg(QCoreApplication::applicationPid());
+        }
         mTemporaryRoot = folder.path();
         FLogMsg::info(QStringLiteral("merix"),
                       QStringLiteral("The project has no file yet; its runs are kept in %1").arg(mTemporaryRoot),

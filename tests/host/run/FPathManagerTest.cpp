@@ -51,9 +51,14 @@ TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
     // The folder stays, but not that of a test.
     const QTemporaryDir place;
     const QByteArray before = qgetenv("TMPDIR");
+    const QString file = place.filePath("file");
+    ASSERT_TRUE(QFile("/dev/null").copy(file));
+    qputenv("TMPDIR", QFile::encodeName(file));
+    const QString impossible = mPaths->getDesignDir({});
     qputenv("TMPDIR", QFile::encodeName(place.path()));
     const QString folder = mPaths->getDesignDir({});
     before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    EXPECT_TRUE(impossible.startsWith(file + "/merix-")) << impossible.toStdString();
     EXPECT_TRUE(QFileInfo(QFileInfo(folder).path()).isDir()) << folder.toStdString();
     EXPECT_EQ(mPaths->getDesignDir({}), folder);
     EXPECT_LE(log().size(), 1) << "told once";

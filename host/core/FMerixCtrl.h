@@ -13,13 +13,19 @@ class FMerixCtrl {
     static QString getApplicationTitle() { return QStringLiteral("merix"); }
     /** Path of the project's file; empty for one that was never saved. */
     const QString& getProjectFile() const { return mProjectFile; }
-    void setProjectFile(const QString& path) { mProjectFile = path; }
+    /** Which other process has the project open, in words for a message; empty if none has. */
+    const QString& getProjectHolder() const { return mProjectHolder; }
+    void setProjectFile(const QString& path, const QString& holder = QString()) {
+        mProjectFile = path;
+        mProjectHolder = holder;
+    }
 
  private:
     friend class FProjectLoading;
 
     int mLoading = 0;
     QString mProjectFile;
+    QString mProjectHolder;
 };
 
 /** A project is being read for the life of the object. */

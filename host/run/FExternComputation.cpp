@@ -2,6 +2,7 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/run/FExternComputationCommands.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
@@ -114,7 +115,10 @@ bool FExternComputation::run(bool wait) {
 void FExternComputation::startRun() {
     const std::shared_ptr<Attempt> attempt = mAttempt;
     const FRunScope scope(attempt->run.record().folder);
-    FComputationResults::followFiles(attempt->run.record().folder, attempt->earlier + QLatin1Char('/'));
+    // What another process runs there isn't ours to move.
+    if (FMerixCtrl::instance()->getProjectHolder().isEmpty()) {
+        FComputationResults::followFiles(attempt->run.record().folder, attempt->earlier + QLatin1Char('/'));
+    }
     mRecord = attempt->run.sharedRecord();
     makeResults();
     attempt->run.startWriting();
@@ -162,6 +166,13 @@ void FExternComputation::runExternalProcess() {
 QString FExternComputation::prepareRun() const {
     if (!mAttempt) {
         return {};
+    }
+    const QString& holder = FMerixCtrl::instance()->getProjectHolder();
+    if (!holder.isEmpty()) {
+        return QStringLiteral(
+                   "The project is open elsewhere (%1), whose runs have the same folder. Save it under "
+                   "another name before you run it here.")
+            .arg(holder);
     }
     QStringList named = getReadFiles();
     named << FProgramSettings::outputFile() << FProgramSettings::errorFile();

@@ -101,7 +101,7 @@ bool FProject::open(const QString& path, bool recover) {
     } else if (recover) {
         FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(news),
                       QStringLiteral("save the project to keep it"));
-    } else if (hasNews && !isOwn) {
+    } else if (hasNews && !isOwn && FMerixCtrl::instance()->getProjectHolder().isEmpty()) {
         FLogMsg::warning(file,
                          QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
                          QStringLiteral("openProject(file, true) recovers it"));
@@ -128,14 +128,16 @@ void FProject::keepDamaged(const QString& file, const QString& source) {
 }
 
 void FProject::use(const QString& file, bool recovered) {
-    FMerixCtrl::instance()->setProjectFile(file);
-    switch (mLock.acquire(file)) {
+    const FProjectLock::State state = mLock.acquire(file);
+    const bool isElsewhere = state == FProjectLock::State::Elsewhere;
+    FMerixCtrl::instance()->setProjectFile(file, isElsewhere ? mLock.getHolder() : QString());
+    switch (state) {
         case FProjectLock::State::Held:
             mAutosave.start(file, recovered);
             break;
         case FProjectLock::State::Elsewhere:
             FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
-                             QStringLiteral("to keep changes, save it under another name"));
+                             QStringLiteral("to keep changes or to run something, save it under another name"));
             break;
         case FProjectLock::State::None:
             FLogMsg::warning(file, QStringLiteral("nothing can be written in its folder, so unsaved work isn't kept"),
@@ -183,6 +185,8 @@ bool FProject::save(const QString& path) {
     if (isOther) {
         mAutosave.stop(false);
         use(file, false);
+    } else {
+        FMerixCtrl::instance()->setProjectFile(file);
     }
     mAutosave.saved();
     return true;

@@ -241,6 +241,17 @@ TEST_F(FExternComputationTest, endsARunWhenItLeavesTheModel) {
     EXPECT_TRUE(logHolds("cancelled"));
 }
 
+TEST_F(FExternComputationTest, leavesTheFolderToTheProcessThatHasTheProject) {
+    FMerixCtrl::instance()->setProjectFile(path(mFolder + "/wing.mrx"), "merix, process 7 on host");
+    write(runFile("out.dat"), "9");
+    EXPECT_FALSE(mProbe->runScript("echo 5 > out.dat"));
+    EXPECT_EQ(mProbe->getState(), "failed");
+    EXPECT_FALSE(dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr())->getData("out.dat"));
+    EXPECT_TRUE(logHolds("open elsewhere (merix, process 7 on host)")) << logText();
+    EXPECT_EQ(read(runFile("out.dat")), "9");
+    EXPECT_FALSE(has(runFile("stdout.txt")));
+}
+
 TEST_F(FExternComputationTest, readsFilesOfAnEarlierSessionAgain) {
     EXPECT_FALSE(mProbe->rereadResults());
     EXPECT_TRUE(logHolds("no results"));

@@ -201,9 +201,17 @@ TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
     ASSERT_TRUE(other.lock());
     EXPECT_TRUE(open("p.mrx"));
     EXPECT_TRUE(logHolds("the project is open elsewhere"));
+    EXPECT_NE(FMerixCtrl::instance()->getProjectHolder(), "");
     ASSERT_TRUE(run("a.setNumber(2)"));
     EXPECT_FALSE(has("p.mrx.autosave"));
+    EXPECT_FALSE(save("p.mrx"));
+    EXPECT_NE(FMerixCtrl::instance()->getProjectHolder(), "");
     EXPECT_TRUE(save("q.mrx"));
+    EXPECT_EQ(FMerixCtrl::instance()->getProjectHolder(), "");
+    ASSERT_TRUE(open("p.mrx"));
+    other.unlock();
+    EXPECT_TRUE(save("p.mrx"));
+    EXPECT_EQ(FMerixCtrl::instance()->getProjectHolder(), "") << "it is held here now";
 }
 
 TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <memory>
 #include <string>
 
 #include "genericintegration/io/FGenIntWriter.h"
@@ -150,25 +151,31 @@ void naive(benchmark::State& state) {
     }
 }
 
+/// A study has a new folder for each design, so that its files are new, too.
+template <class Write>
+void writeDesigns(benchmark::State& state, Write write) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto target = std::make_unique<Target>();
+        state.ResumeTiming();
+        for (int design = 0; design < designs; ++design) {
+            write(target->path(design));
+        }
+        state.PauseTiming();
+        target.reset();
+        state.ResumeTiming();
+    }
+}
+
 void designsBare(benchmark::State& state) {
     const std::string text = makeTemplate(smallSize, smallTags, 1000).toStdString();
-    const Target target;
-    for (auto _ : state) {
-        for (int design = 0; design < designs; ++design) {
-            copyAroundTags(text, value.toStdString(), target.path(design));
-        }
-    }
+    writeDesigns(state, [&text](const QString& path) { copyAroundTags(text, value.toStdString(), path); });
 }
 
 void designsWrite(benchmark::State& state) {
     const QString text = makeTemplate(smallSize, smallTags, state.range(0));
     const FTemplateKeys keys = makeKeys(makeRows(state.range(0)));
-    const Target target;
-    for (auto _ : state) {
-        for (int design = 0; design < designs; ++design) {
-            writeFile(text, keys, target.path(design));
-        }
-    }
+    writeDesigns(state, [&](const QString& path) { writeFile(text, keys, path); });
 }
 
 /// A definition with one template, and a configuration of it.
@@ -205,14 +212,11 @@ void designsExport(benchmark::State& state) {
     FPrototypes::buildPending();
     Study study(int(state.range(0)), makeTemplate(smallSize, smallTags, state.range(0)));
     study.setFileName("input.dat");
-    const Target target;
     double number = 0;
-    for (auto _ : state) {
-        for (int design = 0; design < designs; ++design) {
-            study.setValue(++number);
-            study.write(target.path(design));
-        }
-    }
+    writeDesigns(state, [&](const QString& path) {
+        study.setValue(++number);
+        study.write(path);
+    });
 }
 
 void build(benchmark::State& state) {

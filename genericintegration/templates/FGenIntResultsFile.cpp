@@ -6,6 +6,7 @@
 #include "host/core/FViewCtrl.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/design/FParameter.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -125,6 +126,13 @@ FExpr<FGenIntResultsFileValue> FGenIntResultsFile::getValue(const QString& name)
 void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
     const FExpr<FObjectList> fresh(new FObjectList);
     for (const FExpr<FObject>& element : values ? values->getObjects() : std::vector<FExpr<FObject>>()) {
+        // Finished values, as a copy hands them on, become blank ones on purpose.
+        const QString fault =
+            FExpr<FGenIntResultsFileValue>(element) ? QString() : FGenIntResultsFileValue::faultOf(element);
+        if (!fault.isEmpty()) {
+            FCmd::warnNow(getClass(), QStringLiteral("value %1 of %2 ").arg(fresh->count()).arg(getName()) + fault,
+                          QStringLiteral("values count from 0; correct it in the list of setValues"));
+        }
         const FExpr<FGenIntResultsFileValue> value(new FGenIntResultsFileValue);
         value->setPrimitiveValue(element);
         fresh->add(value);

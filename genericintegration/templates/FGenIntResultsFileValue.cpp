@@ -12,6 +12,8 @@ FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicTyp
 
 namespace {
 
+constexpr std::size_t fieldsWithoutAverage = 7;
+
 QString bareQuoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
@@ -86,8 +88,30 @@ void FGenIntResultsFileValue::setNumAverageRows(const FExpr<FUnsigned>& rows) {
     mNumAverageRows.registerClient(this);
 }
 
+QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
+    FObject* object = value.getObject();
+    const FObjectList* list = object ? object->castToObjectList() : nullptr;
+    if (!list) {
+        return QStringLiteral("is no list, and stays blank");
+    }
+    const std::vector<FExpr<FObject>>& elements = list->getObjects();
+    if (elements.size() < fieldsWithoutAverage) {
+        return QStringLiteral("has %1 elements instead of 7 or 9, and stays blank").arg(elements.size());
+    }
+    QString occurrence = FEnum<GenIntAnchorOccurrence>().toString();
+    readText(elements[4], occurrence);
+    if (!FEnum<GenIntAnchorOccurrence>().FEnumBase::setValue(occurrence)) {
+        return QStringLiteral("has the occurrence \"%1\", which is neither First nor Last, and takes the last one")
+            .arg(occurrence);
+    }
+    QString type;
+    readText(elements[5], type);
+    const bool isType = type.isEmpty() || FObject::getPrototype(type);
+    return isType ? QString()
+                  : QStringLiteral("has the type \"%1\", which isn't known, and is read as a number").arg(type);
+}
+
 void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {
-    constexpr std::size_t fieldsWithoutAverage = 7;
     FObject* object = value.getObject();
     const FObjectList* list = object ? object->castToObjectList() : nullptr;
     if (!list || list->getObjects().size() < fieldsWithoutAverage) {

@@ -25,6 +25,9 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
      * Anything else changes nothing.
      */
     void setPrimitiveValue(const FExpr<FObject>& value) override;
+    /** What setPrimitiveValue can't take over of a list, and what becomes of it: "has 3 elements …"; empty if nothing.
+     */
+    static QString faultOf(const FExpr<FObject>& value);
     /** `["name",line,column,"anchor",occurrence,"type","import type",average,rows]`; quotes aren't escaped. */
     QString toString() const override;
     /** The same as script text, in which every name and anchor comes back. */

@@ -115,11 +115,11 @@ FExprBase FCmd::callWatched(const FCmdRow& row, FObject* receiver, const FCmdRow
     return result;
 }
 
-void FCmd::warnNow(const QString& source, const QString& message) {
+void FCmd::warnNow(const QString& source, const QString& message, const QString& consequence) {
     if (running) {
-        running->warn(message);
+        running->warn(message, consequence);
     } else {
-        FLogMsg::warning(source, message);
+        FLogMsg::warning(source, message, consequence);
     }
 }
 
@@ -168,9 +168,10 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
     return nullptr;
 }
 
-void FCmd::warn(const QString& message) const {
+void FCmd::warn(const QString& message, const QString& consequence) const {
     mHasWarned = true;
-    FLogMsg::warning(mPlace.toString(mFile), message, QStringLiteral("result is NULL"));
+    FLogMsg::warning(mPlace.toString(mFile), message,
+                     consequence.isEmpty() ? QStringLiteral("result is NULL") : consequence);
 }
 
 void FCmd::initCmdDocu() const {

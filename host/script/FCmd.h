@@ -50,8 +50,11 @@ class FCmd : public FClass<FCmd, FObject> {
     QString toExpressionString() const override;
     bool doUpdate() const override;
 
-    /** Warns as the command that is being carried out, with its place; as `source` when there is none. */
-    static void warnNow(const QString& source, const QString& message);
+    /**
+     * Warns as the command that is being carried out, with its place; as `source` when there is none.
+     * @param consequence  what follows from it; that of a command which gives NULL if it is empty
+     */
+    static void warnNow(const QString& source, const QString& message, const QString& consequence = QString());
 
     /** Adds the command's texts under its documentation keys. */
     void initCmdDocu() const;
@@ -72,7 +75,7 @@ class FCmd : public FClass<FCmd, FObject> {
     /** The first of the rows that the arguments fit; null, with one warning, if there is none. */
     const FCmdRow* chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow::Values& values) const;
     FExprBase callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
-    void warn(const QString& message) const;
+    void warn(const QString& message, const QString& consequence = QString()) const;
     QString argumentText() const;
     static QString operandText(const FExprBase& operand);
 

@@ -51,6 +51,9 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
     EXPECT_EQ(history(),
               "[[\"q\\\"\\\\\",-2,3,\"a,b\",\"First\",\"FFileName\",\"tecplot\",1,7],"
               "[\"v\",0,1,\"\",\"Last\",\"FDouble\",\"\",0,NULL],[\"\",0,0,\"\",\"Last\",\"FDouble\",\"\",0,NULL]]");
+    EXPECT_TRUE(logHolds("value 1 of out1 has the type \"FNoSuchClass\""));
+    EXPECT_TRUE(logHolds("value 2 of out1 has 2 elements instead of 7 or 9"));
+    EXPECT_EQ(log().size(), 2);
     EXPECT_EQ(file->getValues()->at(0).toString(), "[\"q\"\\\",-2,3,\"a,b\",First,\"FFileName\",\"tecplot\",1,7]");
     EXPECT_EQ(file->getValues()->at(1).toString(), "[\"v\",0,1,\"\",Last,\"\",\"\",0,NULL]");
     EXPECT_EQ(file->getCurValue()->mName, "q\"\\");
@@ -60,6 +63,10 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
     EXPECT_EQ(history(), allRows);
     const auto* copy = dynamic_cast<FGenIntResultsFile*>(file->clone());
     EXPECT_EQ(copy->getValues()->count(), 1);
+    EXPECT_EQ(log().size(), 2) << "a copy isn't told of";
+    run("out1.setValues([\"v\", [\"v\", 0, 0, \"\", \"Frist\", \"FDouble\", \"\"]])");
+    EXPECT_TRUE(logHolds("test:1:6: value 0 of out1 is no list"));
+    EXPECT_TRUE(logHolds("value 1 of out1 has the occurrence \"Frist\""));
     EXPECT_EQ(FExpr<FGenIntResultsFileValue>(copy->getValues()->at(0))->mName, "");
 }
 

@@ -830,7 +830,7 @@ import type: for such a file its kind, "text" or "table"; else ""
 average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
 rows: how many lines from the end; lines without a number don't count in the mean; NULL without an average
 
-The last two can be left out together. An element that is a shorter list, or no list, gives a blank value. The list is replaced as a whole.</translation>
+The last two can be left out together. An element that is a shorter list, or no list, gives a blank value, with a warning. The list is replaced as a whole.</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setValues(FObjectList,values):argument0</source>
@@ -1260,7 +1260,7 @@ print(results.getDataAt("CL", 0), results.getTable("stdout.txt").getElementAt("C
     </message>
     <message>
         <source>!FResultsGeneric</source>
-        <translation>The results of one run, as tables of numbers. The files are read when a result is first asked for, and again only after a change of what they are read with. Results of a run that failed can be read, with one warning; what the program didn't write is NaN. While the run goes on there are no results.</translation>
+        <translation>The results of one run, as tables of numbers. The files are read when a result is first asked for, and not again when marks or separators of a template change: rereadResults of the computation does that. Results of a run that failed can be read, with one warning; what the program didn't write is NaN. While the run goes on there are no results.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getResultFileName(string,entry)</source>
@@ -2316,7 +2316,7 @@ newProject()</translation>
     </message>
     <message>
         <source>!Global.saveProject(string,file=""):argument0</source>
-        <translation>The file; without a suffix, .mrx is added. The project has this name from then on. By default the present name.</translation>
+        <translation>The file; without a suffix, .mrx is added. The name is relative to the folder of the script if the file lies there already, otherwise to the current folder. The project has this name from then on. By default the present name.</translation>
     </message>
     <message>
         <source>!Global.saveProject(string,file=""):example</source>

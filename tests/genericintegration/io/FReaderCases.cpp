@@ -37,9 +37,22 @@ const QStringList Blanks = {" ",  " ",      " ",      "  ",     "\t",     "\u00A
                             ";",  "\n",     "\n",     "\n",     "\n\n",   "\r\n",   "\r\n",      "\r",
                             "\v", "\u0085", "\u2028", "\uFEFF", "\r\r\n", "\n \n",  "          "};
 
+const QStringList Alphabets = {
+    "aAb ", "ab \n", "kK\u212Aab ", "\u00E4\u00C4ab", "abcdefghijklmnopqrstuvwxyz\u017F ", "        x"};
+
 }  // namespace
 
+QString FReaderCases::letters() {
+    const QString alphabet = pick(Alphabets);
+    QString text;
+    while (text.size() < 6000)
+        text += alphabet.at(below(alphabet.size()));
+    return text;
+}
+
 QString FReaderCases::text(bool halfPairs) {
+    if (below(15) == 0)
+        return letters();
     QString text = below(6) == 0 ? "\n" : "";
     const int parts = below(12) == 0 ? 700 : below(40);
     for (int i = 0; i < parts; ++i) {
@@ -81,7 +94,9 @@ FSeparatorSettings FReaderCases::separators() {
 QString FReaderCases::anchor(const QString& text) {
     if (below(3) == 0)
         return pick(Words);
-    QString part = text.mid(below(text.size() + 1), 1 + below(below(3) == 0 ? 20 : 4));
+    static const int lengths[] = {4, 4, 4, 9, 20, 70};
+    const int longest = lengths[below(6)];  // longer ones are searched in longer steps
+    QString part = text.mid(below(text.size() + 1), 1 + below(longest));
     if (below(2) == 0)
         part = below(2) == 0 ? part.toLower() : part.toUpper();
     return part.isValidUtf16() ? part : QString();
@@ -89,7 +104,7 @@ QString FReaderCases::anchor(const QString& text) {
 
 std::vector<FValueDescription> FReaderCases::values(const QString& text) {
     static const int columns[] = {0, 0, 0, 1, 1, 2, 3, 4, -1, 1000};
-    std::vector<FValueDescription> values(static_cast<size_t>(1 + below(20)));
+    std::vector<FValueDescription> values(static_cast<size_t>(1 + below(below(20) == 0 ? 150 : 20)));
     for (FValueDescription& value : values) {
         value.name = QString(QChar('a' + below(3)));
         value.line = below(11) - 5;

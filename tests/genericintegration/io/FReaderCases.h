@@ -26,6 +26,8 @@ class FReaderCases {
 
  private:
     QString anchor(const QString& text);
+    /// A long text of few letters, in which anchors begin and end inside of each other.
+    QString letters();
     QString pick(const QStringList& texts) { return texts.at(below(texts.size())); }
 
     std::mt19937 mRandom;

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include <cstring>
+#include <bit>
 
 #include "FLiteralReader.h"
 #include "FReaderCases.h"
@@ -16,12 +16,6 @@ namespace {
 
 quint32 caseCount() {
     return static_cast<quint32>(randomCases(2000));
-}
-
-quint64 bitsOf(double number) {
-    quint64 bits;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
 }
 
 /// What stands in the content where a value is said to have been found.
@@ -49,8 +43,9 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
                                   .arg(separators.pattern().pattern());
         const QString foundText = value.textIn(text);
         EXPECT_EQ(wanted.text, foundText) << about.toStdString();
-        const quint64 bits = wanted.number != wanted.number ? 0x7FF8000000000000 : bitsOf(wanted.number);
-        EXPECT_EQ(bits, bitsOf(value.number)) << about.toStdString();
+        const quint64 bits =
+            wanted.number != wanted.number ? 0x7FF8000000000000 : std::bit_cast<quint64>(wanted.number);
+        EXPECT_EQ(bits, std::bit_cast<quint64>(value.number)) << about.toStdString();
         if (value.length >= 0)
             EXPECT_EQ(foundText, textAt(content, value)) << about.toStdString();
         else

@@ -28,30 +28,6 @@ std::vector<qint64> placeOf(const FFoundValue& value) {
 
 }  // namespace
 
-TEST(FValueSearchTest, linesAreCountedUpInTheirOwnWay) {
-    const struct {
-        const char* text;
-        int line;
-        const char* found;
-        FFoundFlags flags;
-    } cases[] = {
-        // The first line is never reached.
-        {"1\n2\n3\nforce\n", -2, "2", {}},
-        {"1\n2\n3\nforce\n", -9, "2", FFoundFlag::LineBeyondEnd},
-        // A blank line right above the anchor isn't counted.
-        {"1\n2\n\nforce", -1, "2", {}},
-        {"1\n2\n\n\nforce", -1, "", FFoundFlag::ColumnMissing},
-        // From the first line it goes on from the end of the untrimmed text.
-        {"force\n1\n2\n \n", -1, "", FFoundFlag::ColumnMissing},
-        {"force\n1\n2\n \n", -2, "2", {}},
-    };
-    for (const auto& row : cases) {
-        const FFoundValue found = find(row.text, at(row.line, 0, "force"));
-        EXPECT_EQ(row.found, found.textIn(FResultText::fromString(row.text)).toStdString()) << row.text << row.line;
-        EXPECT_EQ(row.flags, found.flags) << row.text << row.line;
-    }
-}
-
 TEST(FValueSearchTest, whatIsNotFoundHasItsReason) {
     const FFoundValue missing = find("a\n", at(3, 0));
     EXPECT_TRUE(std::isnan(missing.number));
@@ -66,15 +42,6 @@ TEST(FValueSearchTest, whatIsNotFoundHasItsReason) {
     EXPECT_EQ(FFoundFlag::AnchorMissing | FFoundFlag::LineBeyondEnd, find(" \n ", at(-1, 0, "a")).flags);
     EXPECT_EQ(FFoundFlags(FFoundFlag::ColumnMissing), find("force", at(0, 0, "force")).flags) << "its line is there";
     EXPECT_EQ(FFoundFlags(FFoundFlag::NotANumber), find("1e400", at(0, 0)).flags);
-}
-
-TEST(FValueSearchTest, averagesOfTheLastRows) {
-    const QString text = "1\n2\n\n x\n3 8\n4 9\n \n";
-    EXPECT_EQ(3.5, find(text, lastRows(2)).number);
-    EXPECT_EQ(3.5, find(text, lastRows(4)).number) << "of four lines, two have a number";
-    EXPECT_EQ(FFoundFlags(FFoundFlag::FewerRows), find(text, lastRows(4)).flags);
-    EXPECT_EQ(2.5, find(text, lastRows(4'000'000'000)).number);
-    EXPECT_EQ(3, find("\n1\n2\n3", lastRows(4)).number) << "counted anew from the end";
 }
 
 TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {

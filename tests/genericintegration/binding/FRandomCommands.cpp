@@ -14,10 +14,21 @@ namespace {
 const QStringList entryPaths{"a", "b", "n", "n[2]", "G", "G|b", "G|b[1]", "G|H|c", "Ü x", "Part"};
 const QStringList entryNames{"a", "b", "c", "H", "Ü x", "q\"\\", "a|b"};
 const QStringList fileNames{"in.txt", "sub/ä.txt", "out.dat", ""};
-const QStringList texts{
-    "",     "x",     "\"q\" \\ \\n",  "line\r\nline\n\ttab",
-    "ä€😀",  "[B64]", "[B64]YSDDpA==", "<entry>a</entry> <entry>g|B</entry>\n<entry>in.txt</entry> <entry>G|H|c</entry>",
-    "[,;]", "First", "FDouble"};
+const QStringList texts{"",
+                        "x",
+                        "\"q\" \\ \\n",
+                        "line\r\nline\n\ttab",
+                        "ä€😀",
+                        "[B64]",
+                        "[B64]YSDDpA==",
+                        "<entry>a</entry> <entry>g|B</entry>\n<entry>in.txt</entry> <entry>G|H|c</entry>",
+                        "[,;]",
+                        "First",
+                        "FDouble",
+                        "}\n\nthing x() {",
+                        "\uFEFF",
+                        "C:\\new\\\r",
+                        QString("null") + QChar(0) + "byte"};
 
 bool isOffered(const FCmdRow& row, const FClassData& data) {
     const auto rows = FCmdManager::instance()->findMembers(data, row.name);
@@ -140,7 +151,7 @@ void FRandomCommands::editObject() {
     FManaged* edited = objects[pick(objects.size())];
     FHistoryTransaction transaction("edit");
     transaction.addStep(edited);
-    edited->setName(chance(50) ? objects[pick(objects.size())]->getName() : QStringLiteral("n%1").arg(pick(9)));
+    edited->setName(chance(50) ? objects[pick(objects.size())]->getName() : QString("n%1größe長さ").arg(pick(9)));
     edited->addDocu(pick(texts), static_cast<unsigned>(pick(3)));
     edited->setInProject(chance(70));
     edited->setInUserConfig(chance(20));

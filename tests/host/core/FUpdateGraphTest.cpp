@@ -57,18 +57,4 @@ TEST_F(FUpdateGraphTest, immediateObjectsWaitForTheBlocker) {
     EXPECT_EQ(b->mUpdates, 2);
 }
 
-TEST_F(FUpdateGraphTest, aLongChainNeedsNoStack) {
-    FThing* first = FThing::create("t");
-    FThing* last = first;
-    for (int i = 0; i < 100'000; ++i) {
-        FThing* next = FThing::create(QStringLiteral("t%1").arg(i));
-        next->addSupplier(last);
-        last = next;
-    }
-    first->setOutOfDate(true);
-    EXPECT_TRUE(last->update());
-    EXPECT_EQ(last->mUpdates, 1);
-    EXPECT_FALSE(first->addSupplier(last));
-}
-
 }  // namespace

@@ -12,13 +12,6 @@ class FCmdTest : public FModelTest {
     FThing* b = FThing::create("b");
 };
 
-TEST_F(FCmdTest, namesOfCommandClassesComeFromTheRow) {
-    for (const char* name : {"FCreateCmdFThingthingdouble", "FAttribCmdFThingsetFriendFThing",
-                             "FMemberCmdFThingaddintint", "FCmdprintnullvoidprintFObjects"}) {
-        EXPECT_NE(FObject::getPrototype(name), nullptr) << name;
-    }
-}
-
 TEST_F(FCmdTest, argumentsAreConvertedOrRefused) {
     EXPECT_EQ(textOf("a.add(2, 3)"), "5");
     EXPECT_EQ(textOf("a.add(2.0)"), "3");

@@ -49,12 +49,18 @@ QString FModelTest::textOf(const QString& expression) {
     return evaluate(expression).toString();
 }
 
-QString FModelTest::savedModel() {
+QString FModelTest::saved(const FManaged& object) {
     QString text;
     QTextStream stream(&text);
-    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
-        object->saveScopeManner(stream, 0, false, false);
-    }
+    object.saveScopeManner(stream, 0, false, false);
     stream.flush();
+    return text;
+}
+
+QString FModelTest::savedModel() {
+    QString text;
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        text += saved(*object);
+    }
     return text;
 }

@@ -25,6 +25,7 @@ class FModelTest : public testing::Test {
     static T* object(const QString& name) {
         return dynamic_cast<T*>(FObjectManager::instance()->find(name));
     }
+    static QString saved(const FManaged& object);
     /** All objects of the model as saved text. */
     static QString savedModel();
     /** Log lines since the start of the test. */

@@ -63,9 +63,6 @@ TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {
     EXPECT_TRUE(logHolds("No configuration found")) << logText();
     EXPECT_EQ(mSignals, QStringList({"started", "ended"})) << "the second one never started";
     EXPECT_EQ(computation()->getState(), "failed");
-    ASSERT_TRUE(run("comp.setConfiguration(comp)"));
-    EXPECT_FALSE(computation()->getConfiguration());
-    EXPECT_TRUE(logHolds("FConfigurationGenInt"));
 }
 
 TEST_F(FGenIntComputationTest, outlivesWhatHappensInTheMiddleOfARun) {
@@ -116,17 +113,4 @@ TEST_F(FGenIntComputationTest, locksItsConnectorsForARun) {
     FUserInterface::replace(before);
     EXPECT_EQ(connectors()[0]->mCalls.mid(2), QStringList({"lock", "unlock"}));
     EXPECT_EQ(connectors()[1]->mCalls, QStringList({"show"}));
-}
-
-TEST_F(FGenIntComputationTest, readsAgainWithTheMarksOfToday) {
-    ASSERT_TRUE(run("ok = comp.run()"));
-    EXPECT_EQ(results()->getDataAt("f", 0), 4);
-    write("Out.txt", "f 7 8\n");
-    ASSERT_TRUE(run("ok = comp.rereadResults()"));
-    EXPECT_EQ(results()->getDataAt("f", 0), 7);
-    ASSERT_TRUE(
-        run("square.setValues([[\"f\", 0, 1, \"f \", First, \"FDouble\", \"\", 0, NULL]])\n"
-            "def.setFiles([input, square])\n"
-            "ok = comp.rereadResults()"));
-    EXPECT_EQ(results()->getDataAt("f", 0), 8);
 }

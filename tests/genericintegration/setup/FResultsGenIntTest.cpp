@@ -1,19 +1,10 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
-#include "host/core/FObjectManager.h"
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 
-#include <QTextStream>
-
+#include <bit>
 #include <cmath>
-#include <cstring>
 
 namespace {
-
-quint64 bitsOf(double number) {
-    quint64 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
-}
 
 class FResultsGenIntTest : public FIntegrationTest {
  public:
@@ -21,13 +12,6 @@ class FResultsGenIntTest : public FIntegrationTest {
 
  protected:
     static FExpr<FGenIntFile> file(const QString& name) { return FExpr<FGenIntFile>(object<FGenIntFile>(name)); }
-    static QString saved(const FManaged* object) {
-        QString text;
-        QTextStream stream(&text);
-        object->saveScopeManner(stream, 1, false, false);
-        stream.flush();
-        return text;
-    }
 };
 
 }  // namespace
@@ -49,7 +33,7 @@ TEST_F(FResultsGenIntTest, isNanWithoutTemplates) {
     results()->setOutputHandles({});
     for (const double number : {results()->getDataAt("f", 0U), results()->getDataAt(0.0, "x"),
                                 results()->getLastDataOfRow(0), results()->getAverageOfLastRows(1, 0)}) {
-        EXPECT_EQ(bitsOf(number), Q_UINT64_C(0x7FF8000000000000));
+        EXPECT_EQ(std::bit_cast<quint64>(number), Q_UINT64_C(0x7FF8000000000000));
     }
     EXPECT_FALSE(results()->getData("Out.txt"));
     results()->setOutputHandles({file("input"), file("console"), nullptr});
@@ -102,7 +86,7 @@ TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
 }
 
 TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
-    EXPECT_EQ(saved(results()), "");
+    EXPECT_EQ(saved(*results()), "");
     auto* design = new FDesign("d7");
     design->registerObject();
     const int id = computation()->getDbId();
@@ -110,13 +94,13 @@ TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
     EXPECT_EQ(made->getComputation().ptr(), computation());
     made->setOutputHandles({file("square"), file("console")});
     made->addDocu("a \"good\" one", 1);
-    const QString text = saved(made);
-    EXPECT_EQ(text, QString("\n    genericIntegrationResults r(d7,%1) {\n"
-                            "        .addDocu(\"a \\\"good\\\" one\",DocuDescription);\n"
-                            "        .setOutputHandles([square,console]);\n    }\n")
+    const QString text = saved(*made);
+    EXPECT_EQ(text, QString("\ngenericIntegrationResults r(d7,%1) {\n"
+                            "    .addDocu(\"a \\\"good\\\" one\",DocuDescription);\n"
+                            "    .setOutputHandles([square,console]);\n}\n")
                         .arg(id));
     made->setConfigurationHandle(FExpr<FManaged>(design));
-    EXPECT_TRUE(saved(made).startsWith("\n    &genericIntegrationResults r(d7,"));
+    EXPECT_TRUE(saved(*made).startsWith("\n&genericIntegrationResults r(d7,"));
     EXPECT_TRUE(made->getResultPath().endsWith("/d7/comp/")) << made->getResultPath().toStdString();
     ASSERT_TRUE(run("genericIntegrationResults lost(d7, 4711) {}"));
     auto* lost = object<FResultsGenInt>("lost");

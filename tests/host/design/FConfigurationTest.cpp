@@ -96,14 +96,6 @@ TEST_F(FConfigurationTest, whatDependsOnTheWholeCannotBeItsValue) {
     EXPECT_TRUE(result->dependsOn(file));
 }
 
-TEST_F(FConfigurationTest, reinitKeepsValuesUnlessItResets) {
-    run("conf.setEntryValue(\"height\", 41)\nconf.setEntryValue(\"Geometry|span\", 11)");
-    run("def.addEntry(\"Geometry|new\", 1)\ndef.removeEntry(\"height\")");
-    EXPECT_EQ(values(), (QStringList{"1", "11"}));
-    configuration().reinit(true);
-    EXPECT_EQ(values(), (QStringList{"1", "10"}));
-}
-
 TEST_F(FConfigurationTest, indicesStandOnlyWhereMoreThanOneIsAllowed) {
     run("def.addEntry(\"Layer\", NULL, 3, 1)\ndef.addEntry(\"Layer|t\", 0.1, 2)");
     EXPECT_EQ(paths(), (QStringList{"Geometry|span", "Layer[0]|t[0]", "Layer[0]|t[1]", "height"}));
@@ -118,7 +110,7 @@ TEST_F(FConfigurationTest, indicesStandOnlyWhereMoreThanOneIsAllowed) {
     }
     EXPECT_EQ(paths().size(), 8);
     configuration().reinit(true);
-    EXPECT_EQ(paths().size(), 4);
+    EXPECT_EQ(values(), (QStringList{"10", "0.1", "0.1", "40"}));
 }
 
 TEST_F(FConfigurationTest, countsCannotFillTheMemory) {

@@ -2,53 +2,35 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FInitPrototype.h"
-#include "host/core/FObjectManager.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
 
-template <class T>
-T* make(const FNewName& name) {
-    auto* object = new T(name.name);
-    object->registerObject();
-    return object;
+void commands(FCmdTable& table) {
+    table.creator(
+        "notingDefinition", +[](const FNewName& name) {
+            auto* definition = new FNotingDefinition(name.name);
+            definition->registerObject();
+            return definition;
+        });
 }
 
-void definitionCommands(FCmdTable& table) {
-    table.creator("notingDefinition", &make<FNotingDefinition>);
-}
-
-void configurationCommands(FCmdTable& table) {
-    table.creator("notingConfiguration", &make<FNotingConfiguration>);
-    table
-        .attribute<FConfiguration>("setDefinition", &FConfiguration::setDefinition, &FConfiguration::getDefinition,
-                                   {"definition"})
-        .data();
-}
-
-const FInitPrototypes<FNotingDefinition, FNotingConfiguration> types;
+const FInitPrototypes<FNotingDefinition> types;
 
 }  // namespace
 
-FClassData FNotingDefinition::mClass("FNotingDefinition", &FDefinition::mClass, &definitionCommands);
-FClassData FNotingConfiguration::mClass("FNotingConfiguration", &FConfiguration::mClass, &configurationCommands);
+FClassData FNotingDefinition::mClass("FNotingDefinition", &FDefinition::mClass, &commands);
 
 void FNotingDefinition::updateCommandFiles(const QString& oldName, const QString& newName) {
     mRenames.append(oldName + QStringLiteral(" -> ") + newName);
 }
 
 FEntryFixture::FEntryFixture() {
-    run("notingDefinition def() { .addEntry(\"height\", 40) .addEntry(\"Geometry|span\", 10) }\n"
-        "notingConfiguration conf() { .setDefinition(def) }");
+    run("notingDefinition def() { .addEntry(\"height\", 40) .addEntry(\"Geometry|span\", 10) }");
+    auto* conf = new FConfiguration("conf");
+    conf->registerObject();
+    conf->setDefinition(FExpr<FDefinition>(&definition()));
     FHistory::instance()->clear();
-}
-
-FNotingDefinition& FEntryFixture::definition() const {
-    return *object<FNotingDefinition>("def");
-}
-
-FNotingConfiguration& FEntryFixture::configuration() const {
-    return *object<FNotingConfiguration>("conf");
 }
 
 QStringList FEntryFixture::values() const {

@@ -16,20 +16,13 @@ class FNotingDefinition : public FClass<FNotingDefinition, FDefinition> {
     QStringList mRenames;
 };
 
-class FNotingConfiguration : public FClass<FNotingConfiguration, FConfiguration> {
- public:
-    static FClassData mClass;
-
-    explicit FNotingConfiguration(const QString& name = QString()) : FClass(name) {}
-};
-
 /** A definition `def` with the entries `height` (40) and `Geometry|span` (10), and a configuration `conf` of it. */
 class FEntryFixture : public FModelTest {
  public:
     FEntryFixture();
 
-    FNotingDefinition& definition() const;
-    FNotingConfiguration& configuration() const;
+    static FNotingDefinition& definition() { return *object<FNotingDefinition>("def"); }
+    static FConfiguration& configuration() { return *object<FConfiguration>("conf"); }
     QStringList paths() const { return configuration().getEntryMap().keys(); }
     /** The values of all entries in the order of their paths. */
     QStringList values() const;

@@ -84,12 +84,4 @@ TEST_F(FConfigurationCustomTest, exportsGoIntoTheFolderOfTheRun) {
     EXPECT_TRUE(logHolds("\"../one.txt\" would lie outside the folder of the run"));
 }
 
-TEST_F(FConfigurationCustomTest, whatDoesNotFitIsTold) {
-    run("parameter p(1)\nconf.setDefinition(p)");
-    EXPECT_TRUE(logHolds("must be of type FDefinitionCustom"));
-    EXPECT_TRUE(conf->getDefinition());
-    run("conf.getPreviewText(\"in.dat\")");
-    EXPECT_TRUE(logHolds("conf writes no file \"in.dat\""));
-}
-
 }  // namespace

@@ -35,6 +35,12 @@ int steps() {
 
 /** Random sequences of all commands that there are, and what undo and redo make of them. */
 class UndoTest : public FModelTest, public FTestFolder {
+ public:
+    ~UndoTest() override {
+        FIni::setFile({});
+        history().setLimit(usualLimit);
+    }
+
  protected:
     UndoTest() {
         for (const QString& statement : beginning()) {
@@ -42,10 +48,6 @@ class UndoTest : public FModelTest, public FTestFolder {
         }
         EXPECT_TRUE(run("t2.save(\"" + path("t2.lodm") + "\")"));
         FIni::setFile(path("t2.lodm/none"));  // settings don't matter here, and would wait for the disk
-    }
-    ~UndoTest() override {
-        FIni::setFile({});
-        history().setLimit(usualLimit);
     }
 
     FRandomCommands commandsOf(int seed) const { return {static_cast<quint32>(seed), {path("t2.lodm")}}; }

@@ -1,7 +1,5 @@
 #include "tests/system/FProgramTest.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QProcessEnvironment>
 
 void FProgramTest::start(QProcess& program, const QStringList& arguments, const QStringList& environment) const {

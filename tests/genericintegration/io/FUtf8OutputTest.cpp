@@ -26,23 +26,12 @@ QByteArray bytesOf(QStringView text, const std::vector<int>& lengths) {
     return buffer.data();
 }
 
-TEST(FUtf8OutputTest, givesTheBytesOfTheWholeTextHoweverItIsCut) {
-    const QString lone = QChar(0xd83d);
-    const QString text = QString::fromUtf8("aä€😀") + lone + "b" + QChar(0xde00) + QString(100000, 'x') + "😀" + lone;
-    EXPECT_EQ(bytesOf(text, {1}), text.toUtf8());
-    EXPECT_EQ(bytesOf(text, {4, 7, 100000}), text.toUtf8());
-    for (int before = 32760; before < 32770; ++before) {
-        const QString filled = QString(before, 'x') + QString::fromUtf8("😀😀ä") + lone;
-        EXPECT_EQ(bytesOf(filled, {100000}), filled.toUtf8()) << before;
-    }
-}
-
 /// Runs of units of one kind each, so that plain blocks begin and end anywhere.
 QString randomText(std::mt19937& random) {
     static const QString kinds[] = {"a~ \n\x7f", QString::fromUtf8("\u0080äß\u07ff"),
                                     QString::fromUtf8("\u0800€\uffff"), QString::fromUtf8("😀𐀀"),
                                     QString(QChar(0xd83d)) + QChar(0xde00) + "x"};
-    QString text;
+    QString text(random() % 50 == 0 ? int(32700 + random() % 80) : 0, 'x');  // about as much as is gathered
     for (unsigned run = random() % 6; run > 0; --run) {
         const QString& kind = kinds[random() % 5];
         for (unsigned unit = random() % 150; unit > 0; --unit) {
@@ -60,7 +49,7 @@ TEST(FUtf8OutputTest, agreesWithQtOnRandomTexts) {
     for (int round = randomCases(2000); round > 0; --round) {
         const QString text = randomText(random);
         const int end = text.indexOf(QChar('\0'));
-        const std::vector<int> lengths{1 + int(random() % 99), 1 + int(random() % 9), 1 + int(random() % 999)};
+        const std::vector<int> lengths{1 + int(random() % 99), 1 + int(random() % 9), 1 + int(random() % 99999)};
         ASSERT_EQ(bytesOf(text, lengths), text.left(end < 0 ? text.size() : end).toUtf8()) << "round " << round;
     }
 }

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QStringList>
-
 #include <bit>
 
 #include "FLiteralReader.h"

@@ -4,31 +4,29 @@
 
 namespace {
 
-class FUpdateGraphTest : public FModelTest {};
-
-TEST_F(FUpdateGraphTest, aMarkReachesAllDependantsAndAnUpdateClearsIt) {
-    FThing* top = FThing::create("top");
-    FThing* left = FThing::create("left");
-    FThing* right = FThing::create("right");
-    FThing* bottom = FThing::create("bottom");
-    for (FThing* side : {left, right}) {
-        side->addSupplier(top);
-        bottom->addSupplier(side);
-    }
-    top->setOutOfDate(true);
-    EXPECT_TRUE(left->isOutOfDate() && right->isOutOfDate() && bottom->isOutOfDate());
-    bottom->update();
-    EXPECT_FALSE(top->isOutOfDate() || left->isOutOfDate() || right->isOutOfDate() || bottom->isOutOfDate());
-    EXPECT_EQ(top->mUpdates, 1);
-    EXPECT_EQ(bottom->mUpdates, 1);
-    bottom->update();
-    EXPECT_EQ(bottom->mUpdates, 1);
-}
-
-TEST_F(FUpdateGraphTest, aCycleIsRefusedAndLinksAreCounted) {
+class FUpdateGraphTest : public FModelTest {
+ protected:
     FThing* a = FThing::create("a");
     FThing* b = FThing::create("b");
     FThing* c = FThing::create("c");
+    FThing* d = FThing::create("d");
+};
+
+TEST_F(FUpdateGraphTest, aMarkReachesAllDependantsAndAnUpdateClearsIt) {
+    for (FThing* side : {b, c}) {
+        side->addSupplier(a);
+        d->addSupplier(side);
+    }
+    a->setOutOfDate(true);
+    EXPECT_TRUE(b->isOutOfDate() && c->isOutOfDate() && d->isOutOfDate());
+    d->update();
+    EXPECT_FALSE(a->isOutOfDate() || b->isOutOfDate() || c->isOutOfDate() || d->isOutOfDate());
+    d->update();
+    EXPECT_EQ(a->mUpdates, 1);
+    EXPECT_EQ(d->mUpdates, 1);
+}
+
+TEST_F(FUpdateGraphTest, aCycleIsRefusedAndLinksAreCounted) {
     EXPECT_TRUE(b->addSupplier(a));
     EXPECT_TRUE(c->addSupplier(b));
     EXPECT_FALSE(a->addSupplier(c));
@@ -41,8 +39,6 @@ TEST_F(FUpdateGraphTest, aCycleIsRefusedAndLinksAreCounted) {
 }
 
 TEST_F(FUpdateGraphTest, immediateObjectsWaitForTheBlocker) {
-    FThing* a = FThing::create("a");
-    FThing* b = FThing::create("b");
     b->addSupplier(a);
     b->setUpdateOnDemand(false);
     {

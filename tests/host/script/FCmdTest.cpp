@@ -50,6 +50,7 @@ TEST_F(FCmdTest, aListActsOnItsElements) {
 }
 
 TEST_F(FCmdTest, theCurrentValueOfASelectionIsTheCommonOne) {
+    EXPECT_EQ(textOf("getAttribute([a,b], \"setNumber\")"), "0");
     EXPECT_EQ(textOf("getAttribute(getObjects(\"FThing\"), \"setNumber\")"), "0");
     const auto value = [](const QString& receiver) {
         const auto* prototype =

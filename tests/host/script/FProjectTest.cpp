@@ -36,12 +36,15 @@ parameter span(12.5)
 parameter twice(2 * span)
 parameter last(3)
 twice.setValue(2 * last)
+thing DocuName(4)
+thing Δ() { .setFriend(getObjects("FThing").at(0)) }
 )"));
     const int id = FObjectManager::instance()->find("last")->getDbId();
     ASSERT_TRUE(save("p.mrx"));
     ASSERT_TRUE(open("p.mrx")) << logText();
     EXPECT_EQ(FObjectManager::instance()->find("last")->getDbId(), id);
     EXPECT_EQ(FHistory::instance()->getLabels(), QStringList());
+    EXPECT_EQ(textOf("getAttribute(Δ, \"setFriend\")"), "DocuName") << "and not the word of that name";
     ASSERT_TRUE(run("parameter next(1)\nlast.setValue(5)\nundo()"));
     EXPECT_GT(FObjectManager::instance()->find("next")->getDbId(), id);
     EXPECT_EQ(textOf("twice.getValue()"), "6");

@@ -4,9 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "tests/support/FModelTest.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/FTestFolder.h"
 
 namespace {
 
@@ -50,15 +48,10 @@ TEST_F(FGenIntFileTest, everySetContentIsAStepAndMarks) {
 }
 
 TEST_F(FGenIntFileTest, initFromFileTakesTextAndNames) {
-    const QTemporaryDir folder;
-    QFile sample(folder.filePath("beam.inp"));
-    ASSERT_TRUE(sample.open(QIODevice::WriteOnly));
-    sample.write("a\r\nb\nc \xff d\n");
-    sample.close();
-
-    file->initFromFile(folder.filePath("missing.inp"));
+    const FTestFolder folder;
+    file->initFromFile(folder.path("missing.inp"));
     EXPECT_EQ(file->getFileName(), "");
-    file->initFromFile(sample.fileName());
+    file->initFromFile(folder.write("beam.inp", "a\r\nb\nc \xff d\n"));
     EXPECT_EQ(file->getPlainContent(), QString::fromUtf8("a\r\nb\nc \ufffd d\n"));
     EXPECT_EQ(file->getFileName(), "beam.inp");
     EXPECT_EQ(file->getName(), "beam_inp");

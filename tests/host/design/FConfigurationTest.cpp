@@ -66,20 +66,6 @@ TEST_F(FConfigurationTest, aKeptQuestionFollowsTheStructure) {
     EXPECT_TRUE(evaluate("p").canSafelyBeUpdated(true));
 }
 
-TEST_F(FConfigurationTest, aChangedEntryMarksTheConfiguration) {
-    configuration().setOutOfDate(false);
-    run("parameter p(1)");
-    EXPECT_FALSE(configuration().isOutOfDate());
-    run("conf.setEntryValue(\"height\", p)");
-    EXPECT_TRUE(configuration().isOutOfDate());
-    configuration().update();
-    run("p.setValue(2)");
-    EXPECT_TRUE(configuration().isOutOfDate());
-    configuration().update();
-    definition().setOutOfDate(true);
-    EXPECT_TRUE(configuration().isOutOfDate());
-}
-
 TEST_F(FConfigurationTest, whatDependsOnTheWholeCannotBeItsValue) {
     run("def.addEntry(\"mesh\", inputFile(\"a\"))");
     // As a computation does.

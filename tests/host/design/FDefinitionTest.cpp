@@ -7,21 +7,6 @@ namespace {
 
 class FDefinitionTest : public FEntryFixture {};
 
-TEST_F(FDefinitionTest, addEntryMakesGroupsAndGivesConfigurationsTheEntry) {
-    ASSERT_TRUE(
-        run("def.addEntry(\"Geometry|Wing|chord\", 2*3)\n"
-            "def.addEntry(\"flag\", true).addEntry(\"name\", \"10m\")\n"
-            "def.addEntry(\"Exports|mesh\", inputFile(\"a/mesh.dat\"))\n"
-            "def.addEntry(\"half length\", -0.5)"));
-    EXPECT_EQ(paths(), (QStringList{"Exports|mesh", "Geometry|Wing|chord", "Geometry|span", "flag", "half length",
-                                    "height", "name"}));
-    EXPECT_EQ(values(), (QStringList{"a/mesh.dat", "6", "10", "true", "-0.5", "40", "10m"}));
-    EXPECT_EQ(textOf("def.getEntryNames()"),
-              "[height,Geometry|span,Geometry|Wing|chord,flag,name,Exports|mesh,half length]");
-    // A number is a double, however it was written.
-    EXPECT_EQ(evaluate("conf.getEntryValue(\"height\")").getObject()->getClass(), "FDouble");
-}
-
 TEST_F(FDefinitionTest, whatCannotBeAddedIsRefusedWithItsPlaceAndChangesNothing) {
     const QString before = savedModel();
     const QList<QStringList> refused{

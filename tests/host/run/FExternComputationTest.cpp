@@ -7,9 +7,7 @@
 #include "host/run/FResultsGeneric.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
-
-#include <QCoreApplication>
-#include <QElapsedTimer>
+#include "tests/support/waitUntil.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -105,15 +103,6 @@ class FExternComputationTest : public FModelTest, public FTestFolder {
     }
 
  protected:
-    /** Lets the program's events come. */
-    static bool waitUntil(const std::function<bool()>& condition) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition() && timer.elapsed() < 30000) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-        }
-        return condition();
-    }
     QString runFile(const QString& name) const { return mFolder + "/wing.results/baseline/probe/" + name; }
 
     QString mFolder = QString::fromUtf8("läuft \"hier\" 'gut' $HOME");

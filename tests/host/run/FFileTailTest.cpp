@@ -1,17 +1,12 @@
 #include "host/run/FFileTail.h"
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryFile>
+#include "tests/support/FTestFolder.h"
 
 namespace {
 
 QString tailOf(const QByteArray& content, int lines) {
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open());
-    file.write(content);
-    file.close();
-    return fileTail(file.fileName(), lines);
+    const FTestFolder folder;
+    return fileTail(folder.write("file", content), lines);
 }
 
 TEST(FFileTailTest, givesTheLastLines) {

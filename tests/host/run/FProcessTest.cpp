@@ -1,15 +1,13 @@
 #include "host/run/FProcess.h"
 
 #include "tests/support/FTestFolder.h"
+#include "tests/support/waitUntil.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -30,16 +28,6 @@ const char* const kFamily =
     "setsid sh -c 'echo $$ >> pids; exec sleep 1000' &\n"
     "(setsid sh -c 'echo $$ >> pids; exec sleep 1000' &)\n"
     "while [ $(wc -l < pids) -lt 3 ]; do sleep 0.01; done; echo $PPID > supervisor\n";
-
-bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition() && timer.elapsed() < 30000) {
-        QCoreApplication::processEvents();
-        QThread::msleep(1);
-    }
-    return condition();
-}
 
 // A dead process that its new parent hasn't noticed yet counts as dead.
 bool isAlive(pid_t pid) {

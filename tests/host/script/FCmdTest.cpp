@@ -26,15 +26,6 @@ TEST_F(FCmdTest, argumentsAreConvertedOrRefused) {
     EXPECT_EQ(textOf("a.which(1.5)"), "NULL");
 }
 
-TEST_F(FCmdTest, anAttributeOfAnObjectAcceptsNull) {
-    EXPECT_TRUE(run("a.setFriend(b)"));
-    EXPECT_EQ(a->getFriend(), FExpr<FThing>(b));
-    EXPECT_TRUE(run("a.setFriend(1)"));
-    EXPECT_EQ(a->getFriend(), FExpr<FThing>(b));
-    EXPECT_TRUE(run("a.setFriend(NULL)"));
-    EXPECT_FALSE(a->getFriend());
-}
-
 TEST_F(FCmdTest, aListActsOnItsElements) {
     run("a.setNumber(1)\nb.setNumber(2)");
     EXPECT_EQ(textOf("[a,b].getNumber()"), "[1,2]");

@@ -54,11 +54,6 @@ TEST(FStatementParserTest, statements) {
         EXPECT_EQ(parsed(text), expected) << text;
 }
 
-TEST(FStatementParserTest, linesOfAnObjectAreaArePassedOver) {
-    const char* const text = "a b() {\n}\ncurFile : in1 \"(\nlastFile : NULL\nc : d; e\nf = g";
-    EXPECT_EQ(parsed(text, {.recovers = false, .isObjectArea = true}), "a b(){}\nf = g\n");
-}
-
 TEST(FStatementParserTest, aDamagedLineOfABlockLosesNoOther) {
     const char* const lines[] = {
         ".a(1",    ".a(\"b)", ".a(b\")",  ".a(\"b)\"",      ".a(1, \"b\", \"c)", ".a)", ".a(1))",     ".a",

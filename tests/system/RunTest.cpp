@@ -57,19 +57,6 @@ TEST_F(RunTest, stateCodeAndNumberTellHowTheProgramEnded) {
     EXPECT_EQ(script(mSetUp + withScript("exit 3") + "if (!comp.run()) { exit(comp.getExitCode()) }").exitCode, 3);
 }
 
-TEST_F(RunTest, noNumberIsOfAnEarlierRun) {
-    const QString report = "print(" + mNumber + ", first.getTable(\"out.dat\").getElementAt(\"f\"))\n";
-    const Outcome outcome =
-        script(mSetUp + withScript("echo f 1 > out.dat; echo f 2 > stray; echo f 3 > .hidden") +
-               "ok = comp.run()\nfirst = comp.getResults()\n" + report + withScript("exit 3") + "ok = comp.run()\n" +
-               report + withScript("cp stray out.dat; cp .hidden out.dat; true") + "ok = comp.run()\n" + report +
-               withScript("echo f 4 >> out.dat; mv out.dat o; mv o out.dat; touch -d 2001-01-01 out.dat") +
-               "ok = comp.run()\n" + report);
-    EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_EQ(outcome.output, "1 1\nNaN 1\nNaN 1\n4 1\n") << outcome.errors.toStdString();
-    EXPECT_EQ(read(runFile("out.dat")), "f 4\n");
-}
-
 TEST_F(RunTest, theLocaleChangesNothing) {
     const QString text = R"(
 genericIntegrationCommandFile input() {

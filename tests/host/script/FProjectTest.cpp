@@ -192,6 +192,7 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     FProject::instance()->close(true);
     EXPECT_TRUE(has("p.mrx.autosave"));
     ASSERT_TRUE(open("p.mrx", true));
+    EXPECT_EQ(textOf("a.getNumber()"), "2");
     FProject::instance()->close(false);
     EXPECT_TRUE(has("p.mrx.autosave")) << "recovered, but not saved";
     ASSERT_TRUE(open("p.mrx"));
@@ -206,6 +207,8 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     // What nobody took isn't lost by further work.
     write("p.mrx.autosave", unsaved + "thing taken()\n");
     ASSERT_TRUE(open("p.mrx"));
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
+    EXPECT_EQ(log().filter("there is unsaved work of ").size(), 2) << logText();
     ASSERT_TRUE(run("a.setNumber(3)"));
     EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(3)"));
     EXPECT_TRUE(read("p.mrx.autosave~2").contains("taken"));
@@ -238,6 +241,8 @@ TEST_F(FProjectTest, aProjectIsDataAndDoesNothing) {
     for (int line : {3, 5, 6, 7, 8, 11, 12, 14, 16, 17, 18, 19, 20, 21}) {
         EXPECT_TRUE(logHolds(QString("p.mrx:%1:").arg(line))) << line << "\n" << logText();
     }
+    EXPECT_TRUE(logHolds("does something and can't stand in an expression that is kept"));
+    EXPECT_TRUE(logHolds("can't stand in a saved text"));
     // An expression that reads files may be kept; it is evaluated when somebody asks.
     const auto* parameter = FObjectManager::instance()->find("p");
     EXPECT_TRUE(parameter->isOutOfDate());

@@ -232,8 +232,24 @@ bool FDefinitionGenInt::findAndRemoveEntry(const FExpr<FEntryBase>& entry) {
     return found;
 }
 
+QList<FConfigurationGenInt*> FDefinitionGenInt::ownConfigurations() const {
+    QList<FConfigurationGenInt*> own;
+    for (FConfiguration* configuration : getConfigurations()) {
+        if (auto* candidate = objectCast<FConfigurationGenInt>(configuration)) {
+            own.append(candidate);
+        }
+    }
+    return own;
+}
+
+// A configuration of another class that has this definition follows when it is asked to.
 void FDefinitionGenInt::reinitConfigurations(bool reset) {
-    FDefinitionCustom::reinitConfigurations(reset);
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return;
+    }
+    for (FConfigurationGenInt* configuration : ownConfigurations()) {
+        configuration->reinit(reset);
+    }
     if (FMerixCtrl::instance()->isLoadingProject()) {
         return;
     }
@@ -284,10 +300,8 @@ void FDefinitionGenInt::putInPlaceOfTags(const QString& path, const FExpr<FEntry
 }
 
 void FDefinitionGenInt::reassignEntryDefs() {
-    for (FConfiguration* configuration : getConfigurations()) {
-        if (auto* own = dynamic_cast<FConfigurationGenInt*>(configuration)) {
-            own->reassignEntryDefs();
-        }
+    for (FConfigurationGenInt* configuration : ownConfigurations()) {
+        configuration->reassignEntryDefs();
     }
 }
 

@@ -4,6 +4,7 @@
 #include "genericintegration/templates/FTemplateOwner.h"
 #include "host/lodm/FDefinitionCustom.h"
 
+class FConfigurationGenInt;
 class FParser;
 
 /**
@@ -90,6 +91,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     void filesChanged();
     void clearFileStorages() const;
     void putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry);
+    QList<FConfigurationGenInt*> ownConfigurations() const;
 
     int mOutputPrecision = 6;
     mutable QList<FExpr<FGenIntFile>> mFiles;  // this definition depends on each of them

@@ -5,6 +5,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
+#include "host/design/FConfiguration.h"
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/support/FModelTest.h"
 
@@ -164,6 +165,12 @@ TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition
     definition->reinitConfigurations(false);
     EXPECT_TRUE(own->isOutOfDate());
     EXPECT_FALSE(other->isOutOfDate());
+    auto* plain = new FConfiguration("plain");
+    plain->registerObject();
+    plain->setDefinition(FExpr<FDefinition>(definition));
+    const int count = plain->getEntryMap().size();
+    run("d.addEntry(\"late\", 1)");
+    EXPECT_EQ(plain->getEntryMap().size(), count) << "only configurations of the definition's own kind follow";
     own->setOutOfDate(false);
     const FProjectLoading loading;
     definition->reinitConfigurations(false);

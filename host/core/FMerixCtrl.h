@@ -13,19 +13,13 @@ class FMerixCtrl {
     static QString getApplicationTitle() { return QStringLiteral("merix"); }
     /** Path of the project's file; empty for one that was never saved. */
     const QString& getProjectFile() const { return mProjectFile; }
-    /** Which other process has the project open, in words for a message; empty if none has. */
-    const QString& getProjectHolder() const { return mProjectHolder; }
-    void setProjectFile(const QString& path, const QString& holder = QString()) {
-        mProjectFile = path;
-        mProjectHolder = holder;
-    }
+    void setProjectFile(const QString& path) { mProjectFile = path; }
 
  private:
     friend class FProjectLoading;
 
     int mLoading = 0;
     QString mProjectFile;
-    QString mProjectHolder;
 };
 
 /** A project is being read for the life of the object. */

@@ -2,12 +2,12 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
-#include "host/core/FMerixCtrl.h"
 #include "host/run/FExternComputationCommands.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRun.h"
 #include "host/run/FRunFolder.h"
+#include "host/script/FProject.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,11 +23,13 @@ struct FExternComputation::Attempt {
     Attempt(FExternComputation* computation, const FProcessSetup& setup)
         : keep(computation),
           run(computation->getName(), setup, computation->getReadFiles()),
+          holder(FProject::instance()->getHolder()),
           earlier(FPathManager::instance()->getEarlierDir(computation->getName(), {})),
           folder(setup.workingFolder, earlier) {}
 
     FExprBase keep;
     FRun run;
+    QString holder;  // another process, whose folder it is; empty if there is none
     QString earlier;
     FRunFolder folder;
     bool isStartTold = false;
@@ -116,7 +118,7 @@ void FExternComputation::startRun() {
     const std::shared_ptr<Attempt> attempt = mAttempt;
     const FRunScope scope(attempt->run.record().folder);
     // What another process runs there isn't ours to move.
-    if (FMerixCtrl::instance()->getProjectHolder().isEmpty()) {
+    if (attempt->holder.isEmpty()) {
         FComputationResults::followFiles(attempt->run.record().folder, attempt->earlier + QLatin1Char('/'));
     }
     mRecord = attempt->run.sharedRecord();
@@ -167,12 +169,11 @@ QString FExternComputation::prepareRun() const {
     if (!mAttempt) {
         return {};
     }
-    const QString& holder = FMerixCtrl::instance()->getProjectHolder();
-    if (!holder.isEmpty()) {
+    if (!mAttempt->holder.isEmpty()) {
         return QStringLiteral(
-                   "The project is open elsewhere (%1), whose runs have the same folder. Save it under "
-                   "another name before you run it here.")
-            .arg(holder);
+                   "The project is open elsewhere (%1), whose runs have the same folder. Wait until that ends, or save "
+                   "it under another name before you run it here.")
+            .arg(mAttempt->holder);
     }
     QStringList named = getReadFiles();
     named << FProgramSettings::outputFile() << FProgramSettings::errorFile();

@@ -101,7 +101,7 @@ bool FProject::open(const QString& path, bool recover) {
     } else if (recover) {
         FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(news),
                       QStringLiteral("save the project to keep it"));
-    } else if (hasNews && !isOwn && FMerixCtrl::instance()->getProjectHolder().isEmpty()) {
+    } else if (hasNews && !isOwn && mLock.getHolder().isEmpty()) {
         FLogMsg::warning(file,
                          QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
                          QStringLiteral("openProject(file, true) recovers it"));
@@ -128,10 +128,8 @@ void FProject::keepDamaged(const QString& file, const QString& source) {
 }
 
 void FProject::use(const QString& file, bool recovered) {
-    const FProjectLock::State state = mLock.acquire(file);
-    const bool isElsewhere = state == FProjectLock::State::Elsewhere;
-    FMerixCtrl::instance()->setProjectFile(file, isElsewhere ? mLock.getHolder() : QString());
-    switch (state) {
+    FMerixCtrl::instance()->setProjectFile(file);
+    switch (mLock.acquire(file)) {
         case FProjectLock::State::Held:
             mAutosave.start(file, recovered);
             break;
@@ -176,20 +174,27 @@ bool FProject::save(const QString& path) {
         return fail(file, QStringLiteral("not saved: %1").arg(reason),
                     QStringLiteral("save it under another name, or in another folder"));
     }
+    const bool isTaken = lock.isHeldOn(file);
     const bool isOther = file != FMerixCtrl::instance()->getProjectFile();
-    if (lock.isHeldOn(file)) {
+    if (isTaken) {
         mLock = std::move(lock);
     }
     mIsDamaged = false;
     mStamp = stampOf(file);
-    if (isOther) {
+    if (isTaken || isOther) {
         mAutosave.stop(false);
         use(file, false);
-    } else {
-        FMerixCtrl::instance()->setProjectFile(file);
     }
     mAutosave.saved();
     return true;
+}
+
+QString FProject::getHolder() {
+    const QString& file = FMerixCtrl::instance()->getProjectFile();
+    if (!mLock.getHolder().isEmpty() && mLock.acquire(file) == FProjectLock::State::Held) {
+        mAutosave.start(file, false);
+    }
+    return mLock.getHolder();
 }
 
 QString FProject::write(const QString& file) const {

@@ -28,6 +28,11 @@ class FProject {
     /** Saves under the present name, or under another one, which is the project's from then on. */
     bool save(const QString& path);
     /**
+     * Which other process has the project open, in words for a message; empty if none has. Once that process has let
+     * it go, the project is this one's.
+     */
+    QString getHolder();
+    /**
      * The end of the program.
      * @param keepUnsaved  whether unsaved work stays, to be recovered; else it is given up
      */

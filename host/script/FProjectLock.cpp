@@ -4,6 +4,7 @@ FProjectLock::State FProjectLock::acquire(const QString& project) {
     if (isHeldOn(project)) {
         return State::Held;
     }
+    mHolder.clear();
     auto file = std::make_unique<QLockFile>(project + QStringLiteral(".lock"));
     // A lock is stale only if its process is gone: a project may stay open for weeks.
     file->setStaleLockTime(0);
@@ -26,4 +27,5 @@ FProjectLock::State FProjectLock::acquire(const QString& project) {
 void FProjectLock::release() {
     mFile.reset();
     mProject.clear();
+    mHolder.clear();
 }

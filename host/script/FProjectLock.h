@@ -18,7 +18,7 @@ class FProjectLock {
     State acquire(const QString& project);
     void release();
     bool isHeldOn(const QString& project) const { return mFile && mProject == project; }
-    /** Who has it, for a message. */
+    /** Who else had it when it was wanted last, for a message; empty if nobody. */
     const QString& getHolder() const { return mHolder; }
 
  private:

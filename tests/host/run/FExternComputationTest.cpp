@@ -5,9 +5,12 @@
 #include "host/core/FObjectManager.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/script/FProject.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/waitUntil.h"
+
+#include <QLockFile>
 
 #include <cmath>
 #include <cstdlib>
@@ -231,14 +234,22 @@ TEST_F(FExternComputationTest, endsARunWhenItLeavesTheModel) {
 }
 
 TEST_F(FExternComputationTest, leavesTheFolderToTheProcessThatHasTheProject) {
-    FMerixCtrl::instance()->setProjectFile(path(mFolder + "/wing.mrx"), "merix, process 7 on host");
+    const QString project = write(mFolder + "/wing.mrx", "// merix project, format 1\n");
+    QLockFile other(project + ".lock");
+    ASSERT_TRUE(other.lock());
+    ASSERT_TRUE(FProject::instance()->open(project, false));
+    mProbe = new FProbe("probe");
+    mProbe->registerObject();
     write(runFile("out.dat"), "9");
     EXPECT_FALSE(mProbe->runScript("echo 5 > out.dat"));
     EXPECT_EQ(mProbe->getState(), "failed");
     EXPECT_FALSE(dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr())->getData("out.dat"));
-    EXPECT_TRUE(logHolds("open elsewhere (merix, process 7 on host)")) << logText();
+    EXPECT_TRUE(logHolds("error: probe: The project is open elsewhere (")) << logText();
     EXPECT_EQ(read(runFile("out.dat")), "9");
     EXPECT_FALSE(has(runFile("stdout.txt")));
+    other.unlock();
+    EXPECT_TRUE(mProbe->runScript("echo 5 > out.dat")) << "the other has let it go";
+    FProject::instance()->close(false);
 }
 
 TEST_F(FExternComputationTest, readsFilesOfAnEarlierSessionAgain) {

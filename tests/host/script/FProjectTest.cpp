@@ -172,17 +172,23 @@ TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
     ASSERT_TRUE(other.lock());
     EXPECT_TRUE(open("p.mrx"));
     EXPECT_TRUE(logHolds("the project is open elsewhere"));
-    EXPECT_NE(FMerixCtrl::instance()->getProjectHolder(), "");
     ASSERT_TRUE(run("a.setNumber(3)"));
     EXPECT_FALSE(has("p.mrx.autosave"));
     EXPECT_FALSE(save("p.mrx"));
-    EXPECT_NE(FMerixCtrl::instance()->getProjectHolder(), "");
     EXPECT_TRUE(save("q.mrx"));
-    EXPECT_EQ(FMerixCtrl::instance()->getProjectHolder(), "");
-    ASSERT_TRUE(open("p.mrx"));
+    EXPECT_EQ(FProject::instance()->getHolder(), "");
     other.unlock();
-    EXPECT_TRUE(save("p.mrx"));
-    EXPECT_EQ(FMerixCtrl::instance()->getProjectHolder(), "") << "it is held here now";
+    for (const auto& takeOver : {+[] { return save(); }, +[] { return FProject::instance()->getHolder().isEmpty(); }}) {
+        ASSERT_TRUE(other.tryLock(0));
+        ASSERT_TRUE(open("p.mrx"));
+        EXPECT_FALSE(takeOver());
+        other.unlock();
+        EXPECT_TRUE(takeOver());
+        EXPECT_FALSE(other.tryLock(0)) << "it is held here now";
+        ASSERT_TRUE(run("a.setNumber(4)"));
+        EXPECT_TRUE(has("p.mrx.autosave"));
+        FProject::instance()->create();
+    }
 }
 
 TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {

@@ -110,26 +110,19 @@ bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
     return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
 }
 
-// Asked of the system, since it is for each file of each design: one call tells both.
+// Asked of the system, which tells all of it in one call.
 bool FPathManager::removeLink(const QString& path) {
-    struct stat entry {};
-    const bool isThere = ::lstat(QFile::encodeName(path).constData(), &entry) == 0;
-    const bool isLink = isThere && (S_ISLNK(entry.st_mode) || (S_ISREG(entry.st_mode) && entry.st_nlink > 1));
-    return !isLink || QFile::remove(path);
+    struct stat status {};
+    const bool isThere = ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+    const bool isOwn = S_ISDIR(status.st_mode) || (S_ISREG(status.st_mode) && status.st_nlink == 1);
+    return !isThere || isOwn || QFile::remove(path);
 }
 
-// Mostly the file is new. If not, it is emptied, not replaced, as long as it is a file of its own: who may read or run
-// it stays as it is.
+// Mostly the file is new. If not, it is emptied, not replaced: who may read or run it stays as it is.
 bool FPathManager::openForWriting(QFile& file) {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    if (file.open(mode | QIODevice::NewOnly)) {
-        return true;
-    }
-    struct stat status {};
-    const bool isThere = ::lstat(QFile::encodeName(file.fileName()).constData(), &status) == 0;
-    const bool isOwn = isThere && S_ISREG(status.st_mode) && status.st_nlink == 1;
-    return isOwn ? file.open(mode | QIODevice::Truncate)
-                 : isThere && file.remove() && file.open(mode | QIODevice::NewOnly);
+    return file.open(mode | QIODevice::NewOnly) ||
+           (removeLink(file.fileName()) && file.open(mode | QIODevice::Truncate));
 }
 
 FRunScope::FRunScope(const QString& folder) : mBefore(std::exchange(FPathManager::instance()->mRunFolder, folder)) {}

@@ -40,13 +40,13 @@ class FPathManager {
     /** The same, also through links in the folder. A link in the place of the file itself leads nowhere yet. */
     static bool leadsOut(const QString& folder, const QString& fileName);
     /**
-     * Removes what is there if it is a link, or a file that has other names, too: writing to it would change what lies
-     * elsewhere. False if it is one and can't be removed.
+     * Removes what is there unless it is a folder or an ordinary file of that one name: to write to a link, or to a
+     * file that has other names, would change what lies elsewhere. False if it can't be removed.
      */
     static bool removeLink(const QString& path);
     /**
-     * Opens a file for writing from its begin, without a buffer, in a folder that is there. What has its name and is
-     * known by another name too, as a link is, makes room for a new file. False if that can't be.
+     * Opens a file for writing from its begin, without a buffer, in a folder that is there, after `removeLink`. False
+     * if that can't be.
      */
     static bool openForWriting(QFile& file);
 

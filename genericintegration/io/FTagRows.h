@@ -43,5 +43,5 @@ class FTagRows {
     FTemplateKeys mKeys;
     std::vector<const FEntry*> mEntries;
     mutable quint64 mFileNameVersion = 0;
-    mutable std::vector<const FEntry*> mFileNameEntries;  ///< of that version
+    mutable std::vector<const FEntry*> mFileNameEntries;  ///< of that version; 0 is none
 };

@@ -13,7 +13,7 @@
 FClassData FEntry::mClass("FEntry", &FEntryBase::mClass, nullptr, &FEntry::fields);
 
 int FEntry::mCount = 0;
-quint64 FEntry::mFileNameVersion = 0;
+quint64 FEntry::mFileNameVersion = 1;
 
 FEntry::FEntry(const QString& name) : FClass(name) {
     ++mCount;
@@ -80,7 +80,9 @@ bool FEntry::setValue(const FExprBase& value) {
     }
     const bool mayHaveGiven = mayGiveFileName();
     mValue = taken;
-    mFileNameVersion += mayHaveGiven != mayGiveFileName();
+    if (mayHaveGiven != mayGiveFileName()) {
+        ++mFileNameVersion;
+    }
     FHistory::instance()->addStep(this);
     FRecorded::setOutOfDate(true);
     return true;

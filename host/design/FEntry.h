@@ -44,7 +44,7 @@ class FEntry : public FClass<FEntry, FEntryBase> {
     bool doUpdate() const override;
     /** False if the value's type is known and isn't that of file names. An expression may give one. */
     bool mayGiveFileName() const;
-    /** Changes whenever this may have changed for an entry of the program that holds a value. */
+    /** Changes whenever this may have changed for an entry of the program that holds a value; never 0. */
     static quint64 getFileNameVersion() { return mFileNameVersion; }
 
     /**

@@ -38,7 +38,7 @@ QByteArray anchorText(int number) {
     return QByteArray(quantities[number % 4]) + " " + QByteArray::number(number) + " ";
 }
 
-/// Some lines of a solver's history, with a line of results here and there. The unit stands in each line.
+/** Some lines of a solver's history, with a line of results here and there. The unit stands in each line. */
 QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
     std::mt19937 random(seed);
     QByteArray text;
@@ -46,8 +46,9 @@ QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
     char line[160];
     for (int iteration = 1; text.size() < size; ++iteration) {
         const double residual = 1.0 / iteration + 1e-9 * random();
-        if (iteration % 199 == 0)
+        if (iteration % 199 == 0) {
             text += "\n  *** " + anchorText(static_cast<int>(random() % AnchorCount)).toUpper() + "= 12.5 N\n";
+        }
         text.append(line,
                     std::snprintf(line, sizeof line, "  ITER %9d   residual  %14.6e   force %12.5f %s  stress %9.3f\n",
                                   iteration, residual, 100 * residual, unit, 3.5 + residual));
@@ -62,8 +63,9 @@ std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorC
         value.name = QString::number(i);
         value.line = i % 9 == 0 ? -1 - i % 4 : i % 3;
         value.column = i % 4;
-        if (i % 10 < 6)
+        if (i % 10 < 6) {
             value.anchor.text = QString::fromLatin1(anchorText(static_cast<int>(i * 7 % anchors)));
+        }
         value.anchor.occurrence = i % 2 == 0 ? FAnchorOccurrence::First : FAnchorOccurrence::Last;
         value.average = i % 50 == 7;
         value.averageRows = 100;
@@ -71,12 +73,13 @@ std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorC
     return values;
 }
 
-/// Texts and files are made when they are first wished, and kept.
+/** Texts and files are made when they are first wished, and kept. */
 const QByteArray& textOf(qint64 kilobytes) {
     static std::map<qint64, QByteArray> texts;
     QByteArray& text = texts[kilobytes];
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         text = makeText(kilobytes * 1000);
+    }
     return text;
 }
 
@@ -92,17 +95,19 @@ QString writeFile(const QString& name, const QByteArray& bytes) {
 QString fileOf(qint64 kilobytes) {
     static std::map<qint64, QString> files;
     QString& file = files[kilobytes];
-    if (file.isEmpty())
+    if (file.isEmpty()) {
         file = writeFile(QString("of %1 KB").arg(kilobytes), textOf(kilobytes));
+    }
     return file;
 }
 
-/// What many programs print at the end of a run: all that is sought, in a few lines.
+/** What many programs print at the end of a run: all that is sought, in a few lines. */
 QByteArray summaryOf(const std::vector<FValueDescription>& values) {
     QByteArray text;
     for (const FValueDescription& value : values) {
-        if (!value.anchor.text.isEmpty())
+        if (!value.anchor.text.isEmpty()) {
             text += "  *** " + value.anchor.text.toUpper().toLatin1() + "= 12.5 N  13.5 N  14.5 N  15.5 N\n";
+        }
     }
     return text;
 }
@@ -110,9 +115,10 @@ QByteArray summaryOf(const std::vector<FValueDescription>& values) {
 const QStringList& manyFiles() {
     static const QStringList files = [] {
         QStringList names;
-        for (int i = 0; i < FileCount; ++i)
+        for (int i = 0; i < FileCount; ++i) {
             names += writeFile(QString("design %1/run.log").arg(i),
                                makeText(50'000, "N", static_cast<quint32>(i)) + summaryOf(makeValues(50)));
+        }
         return names;
     }();
     return files;
@@ -136,8 +142,9 @@ qint64 countLineEnds(std::string_view text) {
 
 void readNaively(const QByteArray& bytes, const std::vector<FValueDescription>& values) {
     const QString content = FLiteralReader::decode(bytes);
-    for (const FValueDescription& value : values)
+    for (const FValueDescription& value : values) {
         benchmark::DoNotOptimize(FLiteralReader::find(content, value, {}).number);
+    }
 }
 
 void setBytes(benchmark::State& state, qint64 bytes) {
@@ -146,15 +153,17 @@ void setBytes(benchmark::State& state, qint64 bytes) {
 
 void memoryBare(benchmark::State& state) {
     const QByteArray& text = textOf(state.range(0));
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(countLineEnds({text.constData(), static_cast<size_t>(text.size())}));
+    }
     setBytes(state, text.size());
 }
 
 void read(benchmark::State& state, const QByteArray& text, const std::vector<FValueDescription>& values) {
     const FValueSearch search(values, {});
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(search.find(FResultText::fromFile(text)));
+    }
     setBytes(state, text.size());
 }
 
@@ -165,8 +174,9 @@ void memoryRead(benchmark::State& state) {
 void memoryNaive(benchmark::State& state) {
     const QByteArray& text = textOf(state.range(1));
     const std::vector<FValueDescription> values = makeValues(state.range(0));
-    for (auto _ : state)
+    for (auto _ : state) {
         readNaively(text, values);
+    }
     setBytes(state, text.size());
 }
 
@@ -174,22 +184,24 @@ void anchorsRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), makeValues(1000, state.range(0)));
 }
 
-/// Only the ends of the anchors, which makes them short.
+/** Only the ends of the anchors, which makes them short. */
 void lengthsRead(benchmark::State& state) {
     std::vector<FValueDescription> values = makeValues(100);
-    for (FValueDescription& value : values)
+    for (FValueDescription& value : values) {
         value.anchor.text = value.anchor.text.right(static_cast<int>(state.range(0)));
+    }
     read(state, textOf(state.range(1)), values);
 }
 
-/// Some short anchors, of texts that users take: in each line, in few lines, in none. Alone, or among long ones.
+/** Some short anchors, of texts that users take: in each line, in few lines, in none. Alone, or among long ones. */
 std::vector<FValueDescription> shortAnchors(int count) {
     static const char* const texts[] = {"Cd",   "= ",   "heat",   "Zn",     "lift =", "part", "Total",
                                         "*** ", "iter", "stress", "Cl",     "PMAX",   "eps",  "E+02",
                                         "drag", "ID",   "yaw",    "ITER 9", "kW",     "m1"};
     std::vector<FValueDescription> values(static_cast<size_t>(count));
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         values[static_cast<size_t>(i)].anchor.text = texts[i % std::ssize(texts)];
+    }
     return values;
 }
 void shortRead(benchmark::State& state) {
@@ -202,7 +214,7 @@ void mixedRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), values);
 }
 
-/// A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either.
+/** A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either. */
 void nonAsciiRead(benchmark::State& state) {
     read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
 }
@@ -212,38 +224,42 @@ void latin1Read(benchmark::State& state) {
 
 void fileBare(benchmark::State& state) {
     const QString file = fileOf(state.range(0));
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(countLineEnds(open(file).view()));
+    }
     setBytes(state, textOf(state.range(0)).size());
 }
 
 void fileRead(benchmark::State& state) {
     const QString file = fileOf(state.range(1));
     const FValueSearch search(makeValues(state.range(0)), {});
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(search.find(FResultText::fromFile(open(file))));
+    }
     setBytes(state, textOf(state.range(1)).size());
 }
 
 void filesBare(benchmark::State& state) {
     const QStringList& files = manyFiles();
     for (auto _ : state) {
-        for (const QString& file : files)
+        for (const QString& file : files) {
             benchmark::DoNotOptimize(countLineEnds(open(file).view()));
+        }
     }
 }
 
-/// The values are the same for all files.
+/** The values are the same for all files. */
 void filesRead(benchmark::State& state) {
     const FValueSearch search(makeValues(state.range(0)), {});
     const QStringList& files = manyFiles();
     for (auto _ : state) {
-        for (const QString& file : files)
+        for (const QString& file : files) {
             benchmark::DoNotOptimize(search.find(FResultText::fromFile(open(file))));
+        }
     }
 }
 
-/// As a study reads: by way of a result template, into tables.
+/** As a study reads: by way of a result template, into tables. */
 void filesParse(benchmark::State& state) {
     FPrototypes::buildPending();
     const FHistoryBlocker blocker;
@@ -255,14 +271,16 @@ void filesParse(benchmark::State& state) {
                           value.average, FExpr<FUnsigned>(new FUnsigned(value.averageRows)));
     }
     QStringList folders;
-    for (const QString& file : manyFiles())
+    for (const QString& file : manyFiles()) {
         folders += QFileInfo(file).path();
+    }
     for (auto _ : state) {
         for (const QString& folder : folders) {
             FTableData table;
             FGenIntReader::instance()->parseFile(results, &table, folder);
-            if (table.getRowCount() != state.range(0))
+            if (table.getRowCount() != state.range(0)) {
                 qFatal("The benchmark can't read from %s.", qPrintable(folder));
+            }
         }
     }
 }
@@ -281,8 +299,9 @@ void filesNaive(benchmark::State& state) {
 
 void prepare(benchmark::State& state) {
     const std::vector<FValueDescription> values = makeValues(state.range(0));
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(FValueSearch(values, {}));
+    }
 }
 
 using benchmark::kMicrosecond;

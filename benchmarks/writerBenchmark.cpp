@@ -51,7 +51,7 @@ FTemplateKeys makeKeys(const QStringList& rows) {
     return keys;
 }
 
-/// The line again and again, with tags spread evenly over them.
+/** The line again and again, with tags spread evenly over them. */
 QString makeTemplate(qint64 size, qint64 tags, qint64 names, const QString& line = numbers) {
     QString text;
     text.reserve(int(size + 100));
@@ -151,7 +151,7 @@ void naive(benchmark::State& state) {
     }
 }
 
-/// A study has a new folder for each design, so that its files are new, too.
+/** A study has a new folder for each design, so that its files are new, too. */
 template <class Write>
 void writeDesigns(benchmark::State& state, Write write) {
     for (auto _ : state) {
@@ -178,7 +178,7 @@ void designsWrite(benchmark::State& state) {
     writeDesigns(state, [&](const QString& path) { writeFile(text, keys, path); });
 }
 
-/// A definition with one template, and a configuration of it.
+/** A definition with one template, and a configuration of it. */
 class Study {
  public:
     Study(int entries, const QString& text) {
@@ -207,7 +207,7 @@ class Study {
     FConfigurationGenInt* mConfiguration = FConfigurationGenInt::create({}, "configuration", false, nullptr);
 };
 
-/// As a study writes: after one value has changed. The names begin as those of the bare copies.
+/** As a study writes: after one value has changed. The names begin as those of the bare copies. */
 void designsExport(benchmark::State& state) {
     FPrototypes::buildPending();
     Study study(int(state.range(0)), makeTemplate(smallSize, smallTags, state.range(0)));

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Empty if the bytes were refused, which must leave the model as it was.
+/** Empty if the bytes were refused, which must leave the model as it was. */
 FExpr<FDefinitionGenInt> read(QByteArray bytes, bool tells) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -28,7 +28,7 @@ FExpr<FDefinitionGenInt> read(QByteArray bytes, bool tells) {
     return FExpr<FDefinitionGenInt>(isRead ? FExprBase(parser.getDefinition()) : FExprBase());
 }
 
-/// With all that came along, since defaults of entries may name it.
+/** With all that came along, since defaults of entries may name it. */
 QByteArray write(const FDefinitionGenInt& definition) {
     QSet<FExpr<FManaged>> objects;
     for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {

@@ -14,18 +14,20 @@
 namespace {
 
 constexpr int mostValues = 20;
-/// The literal reader takes quadratic time.
+/** The literal reader takes quadratic time. */
 constexpr int longestForModel = 2000;
 constexpr int farthestForModel = 1000;
 
-/// "n" finds numbers, "s" separates at white space; what follows is one of some regular expressions, by its number.
-/// Expressions of the input's own could take exponential time.
+/**
+ * "n" finds numbers, "s" separates at white space; what follows is one of some regular expressions, by its number.
+ * Expressions of the input's own could take exponential time.
+ */
 FSeparatorSettings separatorsOf(const QString& line) {
     static const QStringList expressions = {"", ",", "[,;]", "x*", "\\b", "[", "(r)|c", "\\s*,\\s*", "\\d", "k"};
     return {line.contains('n'), line.contains('s'), expressions.value(line.right(1).toInt())};
 }
 
-/// line, column, "f" or "l" for an anchor's first or last place, average rows (empty for none), and the anchor.
+/** line, column, "f" or "l" for an anchor's first or last place, average rows (empty for none), and the anchor. */
 FValueDescription valueOf(const QString& line) {
     const QStringList parts = line.split('|');
     FValueDescription value;

@@ -24,7 +24,7 @@ void checkRecovery(const QString& text, const FScript& strict) {
     }
 }
 
-/// Brackets that weren't in the text count as levels.
+/** Brackets that weren't in the text count as levels. */
 bool isTooDeep(const FScript& script) {
     return !script.errors.empty() && script.errors.front().message.startsWith(QStringLiteral("nested more than"));
 }

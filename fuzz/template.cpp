@@ -12,7 +12,7 @@ namespace {
 
 using FTemplateComparison::Table;
 
-/// The model takes time quadratic in these.
+/** The model takes time quadratic in these. */
 constexpr int mostRows = 50;
 constexpr int longestForModel = 4096;
 

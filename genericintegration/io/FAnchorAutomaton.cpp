@@ -17,23 +17,27 @@ FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : m
     ranges.reserve(characters + 1);
     ranges.push_back({0, sorted.size(), 0});
     addNode(0, None);
-    for (size_t node = 0; node < mNodes.size(); ++node)
+    for (size_t node = 0; node < mNodes.size(); ++node) {
         addChildren(sorted, ranges, static_cast<int>(node));
+    }
 }
 
 void FAnchorAutomaton::addChildren(const std::vector<Word>& words, std::vector<Range>& ranges, int node) {
     auto [begin, last, depth] = ranges[static_cast<size_t>(node)];
-    if (node != Start && words[begin].text->size() == depth)
+    if (node != Start && words[begin].text->size() == depth) {
         ++begin;
+    }
     const int firstChild = static_cast<int>(mNodes.size());
     while (begin < last) {
         const char32_t c = (*words[begin].text)[depth];
         size_t end = begin + 1;
-        while (end < last && (*words[end].text)[depth] == c)
+        while (end < last && (*words[end].text)[depth] == c) {
             ++end;
+        }
         const int added = addNode(c, words[begin].text->size() == depth + 1 ? words[begin].number : None);
-        if (node == Start && c < mStarts.size())
+        if (node == Start && c < mStarts.size()) {
             mStarts[c] = added;
+        }
         ranges.push_back({begin, end, depth + 1});
         link(added, node);
         begin = end;
@@ -50,8 +54,9 @@ int FAnchorAutomaton::addNode(char32_t c, int word) {
 // Nodes come in the order of depth, so all that a node can fall back to stands before it, linked.
 void FAnchorAutomaton::link(int node, int parent) {
     Node& self = mNodes[static_cast<size_t>(node)];
-    if (parent != Start)
+    if (parent != Start) {
         self.fail = next(mNodes[static_cast<size_t>(parent)].fail, self.c);
+    }
     const int inside = mNodes[static_cast<size_t>(self.fail)].word;
     if (self.word == None) {
         self.word = inside;

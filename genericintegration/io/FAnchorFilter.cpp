@@ -31,18 +31,21 @@ size_t hashOf(quint64 piece) {
 
 quint64 pieceOf(std::u32string_view characters) {
     quint64 piece = 0;
-    for (size_t i = 0; i < characters.size(); ++i)
+    for (size_t i = 0; i < characters.size(); ++i) {
         piece |= quint64(characters[i] | 0x20) << (8 * i);
+    }
     return piece;
 }
 
 // How seldom a character is in what programs print.
 constexpr std::array<int, 128> Rarities = [] {
     std::array<int, 128> rarities{};
-    for (size_t c = 0; c < rarities.size(); ++c)
+    for (size_t c = 0; c < rarities.size(); ++c) {
         rarities[c] = c <= ' ' ? 0 : c < 'a' || c > 'z' ? 1 : 3;
-    for (const char c : std::string_view("aeinorst"))
+    }
+    for (const char c : std::string_view("aeinorst")) {
         rarities[static_cast<size_t>(c)] = 2;
+    }
     return rarities;
 }();
 
@@ -56,23 +59,27 @@ int rarity(char32_t c) {
     return isAscii(c) ? Rarities[c] : notAscii;
 }
 
-/// The best part of a word for a number of pieces that begin side by side; the word's size if none is ASCII.
-///
-/// One of the pieces is met, nobody knows which: the most common one counts.
+/**
+ * The best part of a word for a number of pieces that begin side by side; the word's size if none is ASCII.
+ *
+ * One of the pieces is met, nobody knows which: the most common one counts.
+ */
 size_t findRegion(std::u32string_view word, size_t pieces, size_t width) {
     std::vector<int> rarities;
     rarities.reserve(std::min(word.size(), LongestReach + pieces));
     int sum = 0;
-    for (const char32_t c : word.substr(0, width - 1))
+    for (const char32_t c : word.substr(0, width - 1)) {
         sum += rarity(c);
+    }
     size_t best = word.size();
     int rarest = -1;
     for (size_t begin = 0; begin + width <= word.size() && (begin < LongestReach + pieces || rarest < 0); ++begin) {
         sum += rarity(word[begin + width - 1]);
         rarities.push_back(sum);
         sum -= rarity(word[begin]);
-        if (rarities.size() < pieces)
+        if (rarities.size() < pieces) {
             continue;
+        }
         const int least = *std::min_element(rarities.end() - static_cast<std::ptrdiff_t>(pieces), rarities.end());
         if (least > rarest) {
             rarest = least;
@@ -100,42 +107,48 @@ size_t FAnchorFilter::rarestPart(std::u32string_view word, size_t size) {
 
 FAnchorFilter::FAnchorFilter(const std::vector<std::u32string>& words) : mEmpty(words.empty()) {
     qint64 shortest = ProbeSize + LongestStep - 1;
-    for (const std::u32string& word : words)
+    for (const std::u32string& word : words) {
         shortest = std::min(shortest, asciiRun(word));
+    }
     // Long pieces are met less often by chance, short ones allow longer steps.
     mWidth = std::min(std::max(std::min(shortest, PieceSize), shortest / 2 + 1), ProbeSize);
     mStep = shortest - mWidth + 1;
     const size_t pieces = std::max<size_t>(words.size() * static_cast<size_t>(mStep), 1);
     mSlots.resize(std::bit_ceil(2 * pieces));
     mHashes.resize((size_t(1) << HashBits) / 64);
-    for (const std::u32string& word : words)
+    for (const std::u32string& word : words) {
         add(word);
+    }
 }
 
 void FAnchorFilter::add(std::u32string_view word) {
     const size_t width = static_cast<size_t>(mWidth);
     const size_t step = static_cast<size_t>(mStep);
     const size_t region = findRegion(word, step, width);
-    for (size_t begin = region; begin < region + step; ++begin)
+    for (size_t begin = region; begin < region + step; ++begin) {
         addPiece(pieceOf(word.substr(begin, width)));
+    }
     qint64 reach = mStep - 1;
-    for (const char32_t c : word.substr(0, region))
+    for (const char32_t c : word.substr(0, region)) {
         reach += isAscii(c) ? 1 : LongestCharacter;
+    }
     mReach = std::max(mReach, reach);
 }
 
 void FAnchorFilter::addPiece(quint64 piece) {
     mHashes[hashOf(piece) / 64] |= quint64(1) << (hashOf(piece) % 64);
     size_t slot = hashOf(piece) & (mSlots.size() - 1);
-    while (mSlots[slot] != 0 && mSlots[slot] != piece)
+    while (mSlots[slot] != 0 && mSlots[slot] != piece) {
         slot = (slot + 1) & (mSlots.size() - 1);
+    }
     mSlots[slot] = piece;
 }
 
 bool FAnchorFilter::isPiece(quint64 piece) const {
     size_t slot = hashOf(piece) & (mSlots.size() - 1);
-    while (mSlots[slot] != 0 && mSlots[slot] != piece)
+    while (mSlots[slot] != 0 && mSlots[slot] != piece) {
         slot = (slot + 1) & (mSlots.size() - 1);
+    }
     return mSlots[slot] == piece;
 }
 
@@ -162,16 +175,19 @@ qint64 FAnchorFilter::nextProbe(std::string_view text, qint64 offset) const {
     };
     const qint64 end = static_cast<qint64>(text.size()) - ProbeSize;
     for (; offset + 3 * step <= end; offset += 4 * step) {
-        if (!suspect(offset) && !suspect(offset + step) && !suspect(offset + 2 * step) && !suspect(offset + 3 * step))
+        if (!suspect(offset) && !suspect(offset + step) && !suspect(offset + 2 * step) && !suspect(offset + 3 * step)) {
             continue;
+        }
         for (qint64 place = offset; place <= offset + 3 * step; place += step) {
-            if (meets(place))
+            if (meets(place)) {
                 return place;
+            }
         }
     }
     for (; offset <= end; offset += step) {
-        if (meets(offset))
+        if (meets(offset)) {
             return offset;
+        }
     }
     return -1;
 }

@@ -15,8 +15,9 @@ namespace {
 std::u32string folded(const QString& text) {
     std::u32string result;
     result.reserve(static_cast<size_t>(text.size()));
-    for (const uint c : text.toUcs4())
+    for (const uint c : text.toUcs4()) {
         result.push_back(FUtf8::foldCase(c));
+    }
     return result;
 }
 
@@ -29,8 +30,9 @@ std::vector<std::u32string> wordsOf(const std::vector<QString>& anchors, std::ve
             continue;
         }
         const auto [place, added] = numbers.emplace(folded(anchor), static_cast<int>(words.size()));
-        if (added)
+        if (added) {
             words.push_back(place->first);
+        }
         wordOfAnchor.push_back(place->second);
     }
     return words;
@@ -44,15 +46,16 @@ bool hasFoldingToAscii(std::string_view text) {
     return text.find(KelvinSign) != std::string_view::npos || text.find(LongS) != std::string_view::npos;
 }
 
-/// The most bytes that a word can take in a text.
+/** The most bytes that a word can take in a text. */
 qint64 longestForm(const std::u32string& word) {
     size_t longest = 0;
-    for (const char32_t c : word)
+    for (const char32_t c : word) {
         longest += c >= 0x80 ? 4 : c == U'k' ? KelvinSign.size() : c == U's' ? LongS.size() : 1;
+    }
     return static_cast<qint64>(longest);
 }
 
-/// Neither the filters nor the search for short words look at the very end of a text.
+/** Neither the filters nor the search for short words look at the very end of a text. */
 constexpr qint64 UnsearchedEnd = std::max(2 * FAnchorFilter::ProbeSize, FShortWordSearch::Margin);
 
 void scan(FAnchorWalk& walk, const FAnchorFilter& filter, std::string_view text, qint64 begin, qint64 nonAsciiReach) {
@@ -66,13 +69,16 @@ void scan(FAnchorWalk& walk, const FAnchorFilter& filter, std::string_view text,
 }
 
 FByteRange rangeBefore(std::string_view text, qint64 end, size_t characters, bool ascii) {
-    if (end < 0)
+    if (end < 0) {
         return {-1, -1};
-    if (ascii)
+    }
+    if (ascii) {
         return {end - static_cast<qint64>(characters), end};
+    }
     qint64 begin = end;
-    for (; characters > 0; --characters)
+    for (; characters > 0; --characters) {
         begin = FUtf8::previous(text, begin);
+    }
     return {begin, end};
 }
 
@@ -88,29 +94,34 @@ FAnchorSearch::FAnchorSearch(const std::vector<QString>& anchors)
         const bool ascii = run == static_cast<qint64>(word.size());
         mLongest = std::max(mLongest, longestForm(word));
         mHard |= !ascii && run < FAnchorFilter::PieceSize;
-        if (FByteQuads::isQuick() && mShortSearch.add(word))
+        if (FByteQuads::isQuick() && mShortSearch.add(word)) {
             mShortWords.push_back(number);
-        else if (run >= FAnchorFilter::PieceSize)
+        } else if (run >= FAnchorFilter::PieceSize) {
             longer.push_back(word);
-        else if (ascii)
+        } else if (ascii) {
             shorter.push_back(word);
+        }
     }
-    if (!shorter.empty())
+    if (!shorter.empty()) {
         mFilters.emplace_back(shorter);
-    if (!longer.empty() || mFilters.empty())
+    }
+    if (!longer.empty() || mFilters.empty()) {
         mFilters.emplace_back(longer);
+    }
 }
 
 std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64 begin, bool ascii) const {
     std::vector<FAnchorPlaces> places(mWordOfAnchor.size());
-    if (mWords.empty())
+    if (mWords.empty()) {
         return places;
+    }
     FAnchorWalk walk(mAutomaton, text);
     qint64 nonAsciiReach =
         !ascii && (mHard || hasFoldingToAscii(text.substr(static_cast<size_t>(begin)))) ? mLongest : 0;
     for (const FAnchorFilter& filter : mFilters) {
-        if (!filter.isEmpty() || nonAsciiReach > 0)
+        if (!filter.isEmpty() || nonAsciiReach > 0) {
             scan(walk, filter, text, begin, nonAsciiReach);
+        }
         nonAsciiReach = 0;
     }
     findShortWords(walk, text, begin);
@@ -118,8 +129,9 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
 
     const std::vector<FByteRange>& ends = walk.finish();
     for (size_t anchor = 0; anchor < places.size(); ++anchor) {
-        if (mWordOfAnchor[anchor] < 0)
+        if (mWordOfAnchor[anchor] < 0) {
             continue;
+        }
         const size_t word = static_cast<size_t>(mWordOfAnchor[anchor]);
         places[anchor].first = rangeBefore(text, ends[word].begin, mWords[word].size(), ascii);
         places[anchor].last = rangeBefore(text, ends[word].end, mWords[word].size(), ascii);
@@ -130,8 +142,9 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
 void FAnchorSearch::findShortWords(FAnchorWalk& walk, std::string_view text, qint64 begin) const {
     const std::vector<FByteRange> ends = mShortSearch.find(text.substr(static_cast<size_t>(begin)));
     for (size_t i = 0; i < ends.size(); ++i) {
-        if (ends[i].begin >= 0)
+        if (ends[i].begin >= 0) {
             walk.note(mShortWords[i], begin + ends[i].begin, begin + ends[i].end);
+        }
     }
 }
 
@@ -141,15 +154,18 @@ std::vector<FAnchorPlaces> FAnchorSearch::findInTrimmed(const FResultText& text)
 
 std::vector<FAnchorPlaces> FAnchorSearch::extendToWhole(const FResultText& text,
                                                         std::vector<FAnchorPlaces> places) const {
-    if (text.trimmedSize() == text.size())
+    if (text.trimmedSize() == text.size()) {
         return places;
+    }
     const qint64 begin = std::max<qint64>(0, text.trimmedSize() - mLongest);
     const std::vector<FAnchorPlaces> behind = findFrom(text.text(), begin, text.index().isAscii());
     for (size_t anchor = 0; anchor < places.size(); ++anchor) {
-        if (places[anchor].first.begin < 0)
+        if (places[anchor].first.begin < 0) {
             places[anchor].first = behind[anchor].first;
-        if (behind[anchor].last.begin >= 0)
+        }
+        if (behind[anchor].last.begin >= 0) {
             places[anchor].last = behind[anchor].last;
+        }
     }
     return places;
 }

@@ -14,8 +14,9 @@ qint64 FAnchorWalk::walk(qint64 begin, qint64 over) {
     while (offset < size() && (offset <= over || state != FAnchorAutomaton::Start)) {
         state = mAutomaton.next(state, FUtf8::foldCase(FUtf8::next(mText, offset)));
         const int word = mAutomaton.wordAt(state);
-        if (word != FAnchorAutomaton::None)
+        if (word != FAnchorAutomaton::None) {
             note(word, offset, offset);
+        }
     }
     return offset;
 }
@@ -25,15 +26,17 @@ const std::vector<FByteRange>& FAnchorWalk::finish() {
     for (auto word = words.rbegin(); word != words.rend(); ++word) {
         const FByteRange& ends = mEnds[static_cast<size_t>(*word)];
         const int inside = mAutomaton.wordInside(*word);
-        if (inside != FAnchorAutomaton::None && ends.begin >= 0)
+        if (inside != FAnchorAutomaton::None && ends.begin >= 0) {
             note(inside, ends.begin, ends.end);
+        }
     }
     return mEnds;
 }
 
 void FAnchorWalk::note(int word, qint64 first, qint64 last) {
     FByteRange& ends = mEnds[static_cast<size_t>(word)];
-    if (ends.begin < 0 || first < ends.begin)
+    if (ends.begin < 0 || first < ends.begin) {
         ends.begin = first;
+    }
     ends.end = std::max(ends.end, last);
 }

@@ -44,8 +44,9 @@ qint64 FByteQuads::nextPlainly(std::string_view text, qint64 offset, qint64 step
             met.sets[i] = setsAt(text.data() + offset + i);
             met.places |= quint32(met.sets[i] != 0) << i;
         }
-        if (met.places != 0)
+        if (met.places != 0) {
             return offset;
+        }
     }
     return -1;
 }

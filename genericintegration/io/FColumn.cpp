@@ -34,10 +34,12 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units) {
     column.text = text;
     column.units = units;
     const double number = text.toDouble(&column.isNumber);
-    if (column.isNumber)
+    if (column.isNumber) {
         column.number = number;
-    if (!std::isfinite(column.number))
+    }
+    if (!std::isfinite(column.number)) {
         column.flags |= FSuspicion::ofColumn(text);
+    }
     return column;
 }
 

@@ -23,10 +23,12 @@ FColumn FColumnCursor::seek(int column) {
 }
 
 FColumn FColumnCursor::seekNumber(int column) {
-    while (mPassed <= column && !mEnded)
+    while (mPassed <= column && !mEnded) {
         passNumber();
-    if (mPassed <= column)
+    }
+    if (mPassed <= column) {
         return FColumn::missing(mLine.begin, mFlags);
+    }
     const FFoundFlags flags = mFlags | FSuspicion::ofNumber(mText, mNumber);
     return FColumn::found(mText, mNumber, flags);
 }
@@ -35,8 +37,9 @@ void FColumnCursor::passNumber() {
     const std::string_view rest = FByteRange{mNumber.end, mLine.end}.of(mText);
     const FByteRange next = FNumberPattern::next(rest, 0);
     mEnded = next.begin < 0;
-    if (mMayBeSuspicious)
+    if (mMayBeSuspicious) {
         mFlags |= FSuspicion::ofText(mEnded ? rest : FByteRange{0, next.begin}.of(rest));
+    }
     if (!mEnded) {
         mNumber = {mNumber.end + next.begin, mNumber.end + next.end};
         ++mPassed;
@@ -46,8 +49,9 @@ void FColumnCursor::passNumber() {
 FColumn FColumnCursor::seekSeparated(int column) {
     mEnded = mEnded || !mWalk->pass(column - mPassed);
     mPassed = column;
-    if (mEnded)
+    if (mEnded) {
         return FColumn::missing(mLine.begin, {});
+    }
     const int begin = mWalk->start();
     const int end = mWalk->next();
     return FColumn::found(mDecoded.mid(begin, end < 0 ? -1 : end - begin), mLine.begin, begin);

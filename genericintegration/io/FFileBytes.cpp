@@ -13,8 +13,9 @@ std::string_view viewOf(const QByteArray& bytes) {
 FFileBytes::FFileBytes(const QByteArray& bytes) : mRead(bytes), mView(viewOf(mRead)) {}
 
 FFileBytes::FFileBytes(std::unique_ptr<QFile> file) : mFile(std::move(file)) {
-    if (map())
+    if (map()) {
         return;
+    }
     mRead = mFile->readAll();
     mView = viewOf(mRead);
     mFile.reset();
@@ -22,11 +23,13 @@ FFileBytes::FFileBytes(std::unique_ptr<QFile> file) : mFile(std::move(file)) {
 
 bool FFileBytes::map() {
     const qint64 size = mFile->size();
-    if (size < MappedSize)
+    if (size < MappedSize) {
         return false;
+    }
     uchar* const begin = mFile->map(0, size);
-    if (begin == nullptr)
+    if (begin == nullptr) {
         return false;
+    }
     mGuard = std::make_unique<FMappingGuard>(begin, size);
     if (!mGuard->isActive()) {
         mFile->unmap(begin);

@@ -30,8 +30,9 @@ QString decodePiece(const QTextCodec& codec, std::string_view piece, QTextCodec:
 bool hasLaterMark(std::string_view file) {
     constexpr size_t reach = Mark.size() - 1;
     for (size_t offset = PieceSize; offset < file.size(); offset += PieceSize) {
-        if (file.substr(offset - reach, reach + Mark.size()).find(Mark) != std::string_view::npos)
+        if (file.substr(offset - reach, reach + Mark.size()).find(Mark) != std::string_view::npos) {
             return true;
+        }
     }
     return false;
 }
@@ -40,8 +41,9 @@ bool hasLaterMark(std::string_view file) {
 
 int plainTextOffset(std::string_view file) {
     // Marks of other encodings aren't valid UTF-8.
-    if (!simdjson::validate_utf8(file.data(), file.size()) || hasLaterMark(file))
+    if (!simdjson::validate_utf8(file.data(), file.size()) || hasLaterMark(file)) {
         return -1;
+    }
     return file.substr(0, Mark.size()) == Mark ? static_cast<int>(Mark.size()) : 0;
 }
 

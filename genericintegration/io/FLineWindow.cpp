@@ -3,16 +3,18 @@
 #include "genericintegration/io/FResultText.h"
 
 qint64 FLineWindow::count() const {
-    if (mPart.size() == 0)
+    if (mPart.size() == 0) {
         return 0;
+    }
     return mText.index().lineAt(mPart.end - 1) - mText.index().lineAt(mPart.begin) + 1;
 }
 
 std::optional<FByteRange> FLineWindow::line(qint64 number) const {
     const FTextIndex& index = mText.index();
     const qint64 begin = lineBegin(number);
-    if (begin < mPart.begin || begin >= mPart.end)
+    if (begin < mPart.begin || begin >= mPart.end) {
         return {};
+    }
     const qint64 lineFeed = index.lineFeed(begin);
     return withoutEnd(begin, lineFeed < 0 || lineFeed > mPart.end ? mPart.end : lineFeed);
 }
@@ -21,8 +23,9 @@ std::optional<FByteRange> FLineWindow::line(qint64 number) const {
 qint64 FLineWindow::lineBegin(qint64 number) const {
     constexpr qint64 few = 8;
     const FTextIndex& index = mText.index();
-    if (number > few)
+    if (number > few) {
         return index.lineStart(index.lineAt(mPart.begin) + number);
+    }
     qint64 begin = mPart.begin;
     for (; number > 0 && begin >= 0 && begin < mPart.end; --number) {
         const qint64 lineFeed = index.lineFeed(begin);

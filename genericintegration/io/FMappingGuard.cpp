@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A guarded range of addresses. A handler of signals may use nothing but this.
+/** A guarded range of addresses. A handler of signals may use nothing but this. */
 struct Slot {
     std::atomic<bool> taken = false;
     std::atomic<bool> hit = false;
@@ -31,12 +31,13 @@ bool putZerosFrom(quintptr address, quintptr end) {
 }
 
 void passOn(int signal, siginfo_t* info, void* context) {
-    if ((previousAction.sa_flags & SA_SIGINFO) != 0)
+    if ((previousAction.sa_flags & SA_SIGINFO) != 0) {
         previousAction.sa_sigaction(signal, info, context);
-    else if (previousAction.sa_handler != SIG_DFL && previousAction.sa_handler != SIG_IGN)
+    } else if (previousAction.sa_handler != SIG_DFL && previousAction.sa_handler != SIG_IGN) {
         previousAction.sa_handler(signal);
-    else
+    } else {
         ::sigaction(signal, &previousAction, nullptr);  // what raised the signal is tried again, and raises it again
+    }
 }
 
 void onBusError(int signal, siginfo_t* info, void* context) {
@@ -62,8 +63,9 @@ bool install() {
 int takeSlot() {
     static const bool installed = install();
     for (size_t i = 0; installed && i < slots.size(); ++i) {
-        if (!slots[i].taken.exchange(true))
+        if (!slots[i].taken.exchange(true)) {
             return static_cast<int>(i);
+        }
     }
     return -1;
 }
@@ -71,8 +73,9 @@ int takeSlot() {
 }  // namespace
 
 FMappingGuard::FMappingGuard(const uchar* begin, qint64 size) : mSlot(takeSlot()) {
-    if (!isActive())
+    if (!isActive()) {
         return;
+    }
     Slot& slot = slots[static_cast<size_t>(mSlot)];
     slot.hit = false;
     slot.begin = reinterpret_cast<quintptr>(begin);
@@ -80,8 +83,9 @@ FMappingGuard::FMappingGuard(const uchar* begin, qint64 size) : mSlot(takeSlot()
 }
 
 FMappingGuard::~FMappingGuard() {
-    if (!isActive())
+    if (!isActive()) {
         return;
+    }
     Slot& slot = slots[static_cast<size_t>(mSlot)];
     slot.end = 0;
     slot.taken = false;

@@ -16,7 +16,7 @@ constexpr quint64 everyByte(unsigned char byte) {
     return byte * 0x0101010101010101U;
 }
 
-/// Of eight bytes, the upper bit of each that a number may begin with: from '+' to '9', or not ASCII.
+/** Of eight bytes, the upper bit of each that a number may begin with: from '+' to '9', or not ASCII. */
 quint64 beginnings(quint64 bytes) {
     const quint64 ascii = bytes & everyByte(0x7F);
     const quint64 fromPlus = ascii + everyByte(0x80 - '+');
@@ -24,32 +24,34 @@ quint64 beginnings(quint64 bytes) {
     return ((fromPlus & ~behindNine) | bytes) & everyByte(0x80);
 }
 
-/// The first place, from an offset on, where a number may begin, or where fewer than eight bytes are left.
+/** The first place, from an offset on, where a number may begin, or where fewer than eight bytes are left. */
 qint64 skip(std::string_view line, qint64 offset) {
     constexpr qint64 step = 8;
     for (; offset + step <= static_cast<qint64>(line.size()); offset += step) {
         const quint64 found = beginnings(qFromLittleEndian<quint64>(line.data() + offset));
-        if (found != 0)
+        if (found != 0) {
             return offset + std::countr_zero(found) / step;
+        }
     }
     return offset;
 }
 
-/// Reads a number in a line.
+/** Reads a number in a line. */
 class FNumberScan {
  public:
     explicit FNumberScan(std::string_view line) : mLine(line) {}
 
-    /// End of the number that begins at an offset; the offset for none.
+    /** End of the number that begins at an offset; the offset for none. */
     qint64 numberEnd(qint64 begin) const {
         const qint64 whole = behindSign(begin);
         qint64 end = digitsEnd(whole);
         const bool hasWhole = end > whole;
         const qint64 fraction = at(end) == '.' ? digitsEnd(end + 1) : end;
-        if (fraction > end + 1)
+        if (fraction > end + 1) {
             end = fraction;
-        else if (!hasWhole)
+        } else if (!hasWhole) {
             return begin;
+        }
         return exponentEnd(end);
     }
 
@@ -62,21 +64,25 @@ class FNumberScan {
 
     qint64 digitsEnd(qint64 offset) const {
         for (;;) {
-            while (offset < static_cast<qint64>(mLine.size()) && isDigit(mLine[static_cast<size_t>(offset)]))
+            while (offset < static_cast<qint64>(mLine.size()) && isDigit(mLine[static_cast<size_t>(offset)])) {
                 ++offset;
-            if (FUtf8::isAscii(at(offset)))
+            }
+            if (FUtf8::isAscii(at(offset))) {
                 return offset;
+            }
             qint64 behind = offset;
             const char32_t digit = FUtf8::next(mLine, behind);
-            if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit))
+            if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit)) {
                 return offset;
+            }
             offset = behind;
         }
     }
 
     qint64 exponentEnd(qint64 end) const {
-        if (at(end) != 'e' && at(end) != 'E')
+        if (at(end) != 'e' && at(end) != 'E') {
             return end;
+        }
         const qint64 digits = behindSign(end + 1);
         const qint64 behind = digitsEnd(digits);
         return behind > digits ? behind : end;
@@ -96,8 +102,9 @@ FByteRange next(std::string_view line, qint64 offset) {
     const FNumberScan scan(line);
     for (offset = skip(line, offset); offset < static_cast<qint64>(line.size()); offset = skip(line, offset + 1)) {
         const qint64 end = scan.numberEnd(offset);
-        if (end > offset)
+        if (end > offset) {
             return {offset, end};
+        }
     }
     return {-1, -1};
 }
@@ -108,8 +115,9 @@ std::optional<double> toDouble(std::string_view number) {
     double value = 0;
     const auto [behind, error] = std::from_chars(number.data() + (number.front() == '+' ? 1 : 0), end, value);
     const bool isZero = value == 0 && number.find_first_of("123456789") == std::string_view::npos;
-    if (error == std::errc() && behind == end && (std::isnormal(value) || isZero))
+    if (error == std::errc() && behind == end && (std::isnormal(value) || isZero)) {
         return value;
+    }
     bool isNumber = false;
     value = FUtf8::decode(number).toDouble(&isNumber);
     return isNumber ? std::optional(value) : std::nullopt;

@@ -30,7 +30,8 @@ FQuadSet& FQuadSet::operator|=(const FQuadSet& other) {
 
 double FQuadSet::size() const {
     double size = 1;
-    for (size_t i = 0; i < Length; ++i)
+    for (size_t i = 0; i < Length; ++i) {
         size *= std::popcount(mLow[i]) * std::popcount(mHigh[i]);
+    }
     return size;
 }

@@ -8,11 +8,13 @@
 FResultText FResultText::fromFile(FFileBytes bytes) {
     const std::string_view file = bytes.view();
     FTextIndex index(file);
-    if (index.isAscii())
+    if (index.isAscii()) {
         return FResultText(std::move(bytes), file, std::move(index));
+    }
     const int offset = FFileDecoding::plainTextOffset(file);
-    if (offset < 0)
+    if (offset < 0) {
         return FResultText(std::move(bytes), FFileDecoding::decode(file));
+    }
     const std::string_view text = file.substr(static_cast<size_t>(offset));
     return FResultText(std::move(bytes), text, offset == 0 ? std::move(index) : FTextIndex(text));
 }

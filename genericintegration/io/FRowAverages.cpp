@@ -13,13 +13,15 @@ namespace {
 
 // A line feed at the very begin leaves no place before it, and the place after that is the text's end.
 qint64 rowsBegin(const FResultText& text, quint32 rows) {
-    if (text.trimmedSize() == 0)
+    if (text.trimmedSize() == 0) {
         return 0;
+    }
     const qint64 lineFeeds = text.index().lineAt(text.trimmedSize());
     const bool startsAnew = text.text().front() == '\n';
     const qint64 counted = startsAnew && lineFeeds > 0 ? rows % lineFeeds : rows;
-    if (counted > lineFeeds || (counted == 0 && rows > 0))
+    if (counted > lineFeeds || (counted == 0 && rows > 0)) {
         return 0;
+    }
     return counted == 0 ? text.trimmedSize() : std::max<qint64>(text.index().lineStart(lineFeeds - counted + 1), 1) - 1;
 }
 
@@ -33,26 +35,30 @@ void FRowAverages::read(std::vector<FFoundValue>& found) {
     std::sort(mAverages.begin(), mAverages.end(),
               [](const Average& left, const Average& right) { return left.column < right.column; });
     readRows();
-    for (const Average& average : mAverages)
+    for (const Average& average : mAverages) {
         found[average.value] = result(average);
+    }
 }
 
 // Each average begins with a line, or at the line feed before it, so that the lines are the same for all.
 void FRowAverages::readRows() {
     const qint64 size = mText.trimmedSize();
     qint64 offset = size;
-    for (const Average& average : mAverages)
+    for (const Average& average : mAverages) {
         offset = std::min(offset, average.begin);
+    }
     const FLineWindow window(mText, {offset, size});
     while (offset < size) {
         const FByteRange line = window.lineFrom(offset);
-        if (line.size() == 0)
+        if (line.size() == 0) {
             continue;
+        }
         FColumnCursor cursor(mText.text(), line, mSeparator, FSuspicion::mayBeIn(line.of(mText.text())));
         const Average* previous = nullptr;
         for (Average& average : mAverages) {
-            if (average.begin > line.begin)
+            if (average.begin > line.begin) {
                 continue;
+            }
             const bool isSame = previous != nullptr && previous->column == average.column;
             addRow(average, isSame ? previous->last : cursor.seek(average.column));
             previous = &average;

@@ -10,20 +10,22 @@
 class FResultText;
 class QRegExp;
 
-/// Averages of columns over a text's last rows. All of them are read in one walk over the rows.
-///
-/// A row is a line with a number in the column. The rows wished are looked for in as many last lines, the white space
-/// at the text's end left out; with fewer lines than that, in all of them. But if the text begins with a line feed, the
-/// lines that are wished beyond the text's are counted off from its end anew.
+/**
+ * Averages of columns over a text's last rows. All of them are read in one walk over the rows.
+ *
+ * A row is a line with a number in the column. The rows wished are looked for in as many last lines, the white space
+ * at the text's end left out; with fewer lines than that, in all of them. But if the text begins with a line feed, the
+ * lines that are wished beyond the text's are counted off from its end anew.
+ */
 class FRowAverages {
  public:
-    /// A null separator: numbers are found. Text and separator must outlive this object.
+    /** A null separator: numbers are found. Text and separator must outlive this object. */
     FRowAverages(const FResultText& text, const QRegExp* separator) : mText(text), mSeparator(separator) {}
 
-    /// Wishes an average for one of some values.
+    /** Wishes an average for one of some values. */
     void add(size_t value, int column, quint32 rows);
 
-    /// Reads all averages wished and puts them in the place of their values.
+    /** Reads all averages wished and puts them in the place of their values. */
     void read(std::vector<FFoundValue>& found);
 
  private:

@@ -1,12 +1,15 @@
 #include "genericintegration/io/FSeparatorSettings.h"
 
 QRegExp FSeparatorSettings::pattern() const {
-    if (findNumbers)
+    if (findNumbers) {
         return {};
+    }
     QString text;
-    if (spacesAndTabs)
+    if (spacesAndTabs) {
         text += QStringLiteral("\\s+");
-    if (!text.isEmpty() && !regularExpression.isEmpty())
+    }
+    if (!text.isEmpty() && !regularExpression.isEmpty()) {
         text += QLatin1Char('|');
+    }
     return QRegExp(text + regularExpression);
 }

@@ -15,8 +15,9 @@ FShortWord::FShortWord(std::u32string_view word, size_t number)
     for (size_t i = 0; i < word.size(); ++i) {
         mBytes |= quint64(word[i]) << (8 * i);
         mMask |= quint64(0xFF) << (8 * i);
-        if (word[i] >= U'a' && word[i] <= U'z')
+        if (word[i] >= U'a' && word[i] <= U'z') {
             mCaseBits |= quint64(0x20) << (8 * i);
+        }
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-/// A folded word of a few ASCII characters, as eight bytes of a text are compared with it at once.
+/** A folded word of a few ASCII characters, as eight bytes of a text are compared with it at once. */
 class FShortWord {
  public:
     static constexpr size_t Longest = 8;
@@ -17,23 +17,23 @@ class FShortWord {
     size_t number() const { return mNumber; }
     qint64 size() const { return mSize; }
 
-    /// Where the four characters begin by which the word is looked for; of a shorter one, all that it has.
+    /** Where the four characters begin by which the word is looked for; of a shorter one, all that it has. */
     qint64 quad() const { return mQuad; }
 
-    /// How bad it would be to meet the quad of another word instead: the more often that happened, the worse.
+    /** How bad it would be to meet the quad of another word instead: the more often that happened, the worse. */
     double weight() const { return mWeight; }
 
-    /// When much else was met: takes the next quad, if there is another, and more weight.
+    /** When much else was met: takes the next quad, if there is another, and more weight. */
     void avoidOthers();
 
-    /// Ascending by the characters from the quad on.
+    /** Ascending by the characters from the quad on. */
     quint64 rank() const { return qbswap(mBytes >> (8 * mQuad)); }
 
-    /// One of its characters, as a small letter and as a capital.
+    /** One of its characters, as a small letter and as a capital. */
     unsigned char small(qint64 index) const { return byteOf(mBytes, index); }
     unsigned char capital(qint64 index) const { return byteOf(mBytes ^ mCaseBits, index); }
 
-    /// Whether the word, in any case, stands at a place, which at least eight bytes stand at.
+    /** Whether the word, in any case, stands at a place, which at least eight bytes stand at. */
     bool isAt(const char* place) const { return ((qFromLittleEndian<quint64>(place) | mCaseBits) & mMask) == mBytes; }
 
  private:
@@ -42,8 +42,8 @@ class FShortWord {
     }
 
     quint64 mBytes = 0;
-    quint64 mMask = 0;      ///< of the word's bytes
-    quint64 mCaseBits = 0;  ///< which capitals lack
+    quint64 mMask = 0;      //!< of the word's bytes
+    quint64 mCaseBits = 0;  //!< which capitals lack
     qint64 mSize;
     qint64 mQuad;
     double mWeight = 1;

@@ -7,7 +7,7 @@ namespace {
 
 using Groups = std::vector<FShortWordGroup>;
 
-/// What one group instead of two next to each other would cost: quads of neither.
+/** What one group instead of two next to each other would cost: quads of neither. */
 double costOfJoining(const Groups& groups, size_t first) {
     const FShortWordGroup& left = groups[first];
     const FShortWordGroup& right = groups[first + 1];
@@ -33,20 +33,24 @@ Groups FShortWordGroup::make(std::vector<FShortWord> words, size_t most) {
               [](const FShortWord& left, const FShortWord& right) { return left.rank() < right.rank(); });
     Groups groups;
     groups.reserve(words.size());
-    for (const FShortWord& word : words)
+    for (const FShortWord& word : words) {
         groups.emplace_back(word);
+    }
     std::vector<double> costs;
-    for (size_t i = 0; i + 1 < groups.size(); ++i)
+    for (size_t i = 0; i + 1 < groups.size(); ++i) {
         costs.push_back(costOfJoining(groups, i));
+    }
     while (groups.size() > most) {
         const auto least = std::min_element(costs.begin(), costs.end());
         const size_t first = static_cast<size_t>(least - costs.begin());
         joinNext(groups, first);
         costs.erase(least);
-        if (first > 0)
+        if (first > 0) {
             costs[first - 1] = costOfJoining(groups, first - 1);
-        if (first < costs.size())
+        }
+        if (first < costs.size()) {
             costs[first] = costOfJoining(groups, first);
+        }
     }
     return groups;
 }
@@ -55,6 +59,7 @@ void FShortWordGroup::remove(size_t index) {
     std::swap(words[index], words.back());
     words.pop_back();
     quads = {};
-    for (const FShortWord& word : words)
+    for (const FShortWord& word : words) {
         quads |= FQuadSet(word);
+    }
 }

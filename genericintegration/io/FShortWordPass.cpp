@@ -13,8 +13,9 @@ FShortWordPass::FShortWordPass(std::string_view text, std::vector<FShortWord> wo
 void FShortWordPass::makeGroups(std::vector<FShortWord> words) {
     mGroups = FShortWordGroup::make(std::move(words), FByteQuads::SetCount);
     mQuads = {};
-    for (size_t number = 0; number < mGroups.size(); ++number)
+    for (size_t number = 0; number < mGroups.size(); ++number) {
         mQuads.assign(number, mGroups[number].quads);
+    }
 }
 
 // With other quads, words that begin before a place and have their quad behind it could be missed, if no bytes were
@@ -25,10 +26,12 @@ std::vector<FShortWord> FShortWordPass::run(qint64 offset, qint64 step) {
     while (!mGroups.empty() && (offset = mQuads.next(mText, offset, step, met)) >= 0) {
         checkBlock(met, offset);
         offset += step;
-        if (mIsVain)
+        if (mIsVain) {
             offset -= static_cast<qint64>(FShortWord::Longest);
-        if (mIsVain || mIsGroupEmpty)
+        }
+        if (mIsVain || mIsGroupEmpty) {
             regroup();
+        }
     }
     return std::move(mCommon);
 }
@@ -37,8 +40,9 @@ void FShortWordPass::checkBlock(const FByteQuads::Block& met, qint64 offset) {
     for (quint32 places = met.places; places != 0;) {
         const int place = mForward ? std::countr_zero(places) : 31 - std::countl_zero(places);
         places ^= quint32(1) << place;
-        for (unsigned groups = met.sets[static_cast<size_t>(place)]; groups != 0; groups &= groups - 1)
+        for (unsigned groups = met.sets[static_cast<size_t>(place)]; groups != 0; groups &= groups - 1) {
             checkGroup(offset + place, static_cast<size_t>(std::countr_zero(groups)));
+        }
     }
 }
 
@@ -48,12 +52,14 @@ void FShortWordPass::checkGroup(qint64 place, size_t number) {
     for (size_t i = group.words.size(); i-- > 0;) {
         const FShortWord word = group.words[i];
         const qint64 begin = place - word.quad();
-        if (!isAt(word, begin))
+        if (!isAt(word, begin)) {
             continue;
+        }
         found = true;
         note(word, begin + word.size());
-        if (++mCounts[word.number()] < mOften)
+        if (++mCounts[word.number()] < mOften) {
             continue;
+        }
         mCommon.push_back(word);
         group.remove(i);
         mQuads.assign(number, group.quads);
@@ -66,12 +72,14 @@ void FShortWordPass::checkGroup(qint64 place, size_t number) {
 void FShortWordPass::regroup() {
     std::vector<FShortWord> words;
     for (FShortWordGroup& group : mGroups) {
-        if (mIsVain && group.vainly >= mMostVainly)
+        if (mIsVain && group.vainly >= mMostVainly) {
             std::for_each(group.words.begin(), group.words.end(), [](FShortWord& word) { word.avoidOthers(); });
+        }
         words.insert(words.end(), group.words.begin(), group.words.end());
     }
-    if (mIsVain)
+    if (mIsVain) {
         mMostVainly *= 2;
+    }
     mIsGroupEmpty = false;
     mIsVain = false;
     makeGroups(std::move(words));

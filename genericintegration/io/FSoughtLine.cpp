@@ -11,8 +11,9 @@ namespace {
 FSoughtLine upward(const FLineWindow& window, qint64 line) {
     FSoughtLine sought;
     const qint64 last = window.count() - 1;
-    if (last > 0)
+    if (last > 0) {
         sought.range = window.line(std::max<qint64>(last + line, 0) + 1);
+    }
     sought.flags.setFlag(FFoundFlag::LineBeyondEnd, last + line < 0);
     return sought;
 }
@@ -24,10 +25,11 @@ FSoughtLine downward(const FLineWindow& window, qint64 line) {
     return sought;
 }
 
-/// The last line feed at a place or before it, or the text's end if there is none.
+/** The last line feed at a place or before it, or the text's end if there is none. */
 qint64 lineFeedBefore(const FResultText& text, qint64 offset) {
-    if (text.text()[static_cast<size_t>(offset)] == '\n')
+    if (text.text()[static_cast<size_t>(offset)] == '\n') {
         return offset;
+    }
     const qint64 begin = text.index().lineBegin(offset);
     return begin > 0 ? begin - 1 : text.size();
 }
@@ -40,10 +42,12 @@ FSoughtLine FSoughtLine::inText(const FResultText& text, int line) {
 }
 
 FSoughtLine FSoughtLine::fromAnchor(const FResultText& text, FByteRange anchor, int line) {
-    if (line < 0)
+    if (line < 0) {
         return upward(FLineWindow(text, {0, lineFeedBefore(text, anchor.begin)}), line);
+    }
     // Where the text ends with the anchor, the rest of its line is empty, but it is there.
-    if (line == 0 && anchor.end == text.size())
+    if (line == 0 && anchor.end == text.size()) {
         return {FByteRange{anchor.end, anchor.end}, {}};
+    }
     return downward(FLineWindow(text, {anchor.end, text.size()}), line);
 }

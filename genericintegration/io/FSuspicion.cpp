@@ -28,10 +28,11 @@ enum class Kind : unsigned char { Other, Digit, Letter, Star };
 
 constexpr std::array<Kind, 256> Kinds = [] {
     std::array<Kind, 256> kinds{};
-    for (size_t byte = 0; byte < 0x80; ++byte)
+    for (size_t byte = 0; byte < 0x80; ++byte) {
         kinds[byte] = isLetter(static_cast<char>(byte))  ? Kind::Letter
                       : isDigit(static_cast<char>(byte)) ? Kind::Digit
                                                          : Kind::Other;
+    }
     kinds['*'] = Kind::Star;
     return kinds;
 }();
@@ -40,12 +41,12 @@ Kind kindOf(char c) {
     return Kinds[static_cast<unsigned char>(c)];
 }
 
-/// Whether a word or a row of asterisks goes on.
+/** Whether a word or a row of asterisks goes on. */
 bool isSameRun(Kind kind, Kind next) {
     return next == kind || (kind == Kind::Letter && next == Kind::Digit);
 }
 
-/// The neighbourhood of a number.
+/** The neighbourhood of a number. */
 class FSurroundings {
  public:
     FSurroundings(std::string_view text, FByteRange number)
@@ -69,17 +70,20 @@ class FSurroundings {
 
     qint64 digitsEnd(qint64 offset) const {
         const qint64 limit = offset + Longest;
-        while (offset < limit && isDigit(at(offset)))
+        while (offset < limit && isDigit(at(offset))) {
             ++offset;
+        }
         return offset;
     }
 
     bool hasCutExponent() const {
-        if (hasExponent())
+        if (hasExponent()) {
             return false;
+        }
         const qint64 behind = mNumber.end;
-        if (lower(at(behind)) == 'd')
+        if (lower(at(behind)) == 'd') {
             return isDigit(at(behind + 1)) || (isSign(at(behind + 1)) && isDigit(at(behind + 2)));
+        }
         return !isWhole() && isSign(at(behind)) && isDigit(at(behind + 1)) && at(digitsEnd(behind + 1)) != '.';
     }
 
@@ -95,18 +99,21 @@ class FSurroundings {
 
     // With a further comma or a point next to them, the commas stand between numbers.
     bool hasCommaBehind() const {
-        if (!isWhole() || at(mNumber.begin - 1) == ',' || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1)))
+        if (!isWhole() || at(mNumber.begin - 1) == ',' || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1))) {
             return false;
+        }
         const char behind = at(digitsEnd(mNumber.end + 1));
         return behind != ',' && behind != '.';
     }
 
     bool hasCommaBefore() const {
-        if (!isWhole() || at(mNumber.end) == ',' || at(mNumber.begin - 1) != ',')
+        if (!isWhole() || at(mNumber.end) == ',' || at(mNumber.begin - 1) != ',') {
             return false;
+        }
         qint64 begin = mNumber.begin - 1;
-        while (mNumber.begin - begin < Longest && isDigit(at(begin - 1)))
+        while (mNumber.begin - begin < Longest && isDigit(at(begin - 1))) {
             --begin;
+        }
         return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
     }
 
@@ -130,8 +137,9 @@ FFoundFlags ofNumber(std::string_view text, FByteRange number) {
         return offset < 0 || offset >= static_cast<qint64>(text.size()) || text[static_cast<size_t>(offset)] == ' ' ||
                text[static_cast<size_t>(offset)] == '\n';
     };
-    if (isBlank(number.begin - 1) && isBlank(number.end))
+    if (isBlank(number.begin - 1) && isBlank(number.end)) {
         return {};
+    }
     return FSurroundings(text, number).flags();
 }
 
@@ -140,14 +148,17 @@ FFoundFlags ofText(std::string_view text) {
     for (size_t end = 0; end < text.size();) {
         const size_t begin = end++;
         const Kind kind = kindOf(text[begin]);
-        if (kind <= Kind::Digit)
+        if (kind <= Kind::Digit) {
             continue;
-        while (end < text.size() && isSameRun(kind, kindOf(text[end])))
+        }
+        while (end < text.size() && isSameRun(kind, kindOf(text[end]))) {
             ++end;
-        if (kind == Kind::Star)
+        }
+        if (kind == Kind::Star) {
             flags.setFlag(FFoundFlag::Stars, flags.testFlag(FFoundFlag::Stars) || end - begin > 1);
-        else if (isNanOrInf(text.substr(begin, end - begin)))
+        } else if (isNanOrInf(text.substr(begin, end - begin))) {
             flags |= FFoundFlag::NanOrInf;
+        }
     }
     return flags;
 }
@@ -168,8 +179,9 @@ bool mayBeIn(std::string_view text) {
             const unsigned char inf = is(0, 'i') & is(1, 'n') & is(2, 'f');
             found |= stars | nan | inf;
         }
-        if (found)
+        if (found) {
             return true;
+        }
     }
     return false;
 }

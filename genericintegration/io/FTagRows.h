@@ -20,8 +20,8 @@ class FTemplateOwner;
 class FTagRows {
  public:
     struct Row {
-        const FEntry* entry;  ///< null for a file
-        QString fileName;     ///< the text of a file's row
+        const FEntry* entry;  //!< null for a file
+        QString fileName;     //!< the text of a file's row
     };
 
     /** The rows for the configuration as it is now. Built only if they aren't those that the definition keeps. */
@@ -43,5 +43,5 @@ class FTagRows {
     FTemplateKeys mKeys;
     std::vector<const FEntry*> mEntries;
     mutable quint64 mFileNameVersion = 0;
-    mutable std::vector<const FEntry*> mFileNameEntries;  ///< of that version; 0 is none
+    mutable std::vector<const FEntry*> mFileNameEntries;  //!< of that version; 0 is none
 };

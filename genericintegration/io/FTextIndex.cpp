@@ -24,15 +24,17 @@ using Words = std::array<quint64, Lanes / 8>;
 qint64 sumOf(const Bytes& bytes) {
     constexpr quint64 even = 0x00FF00FF00FF00FF;
     quint64 sums = 0;
-    for (const quint64 word : std::bit_cast<Words>(bytes))
+    for (const quint64 word : std::bit_cast<Words>(bytes)) {
         sums += (word & even) + (word >> 8 & even);
+    }
     return static_cast<qint64>(sums * 0x0001000100010001 >> 48);
 }
 
 bool isAscii(const Bytes& bits) {
     quint64 all = 0;
-    for (const quint64 word : std::bit_cast<Words>(bits))
+    for (const quint64 word : std::bit_cast<Words>(bits)) {
         all |= word;
+    }
     return (all & 0x8080808080808080) == 0;
 }
 
@@ -47,11 +49,13 @@ Count countIn(std::string_view text) {
     };
     size_t offset = 0;
     for (; offset + Lanes <= text.size(); offset += Lanes) {
-        for (size_t lane = 0; lane < Lanes; ++lane)
+        for (size_t lane = 0; lane < Lanes; ++lane) {
             take(lane, text[offset + lane]);
+        }
     }
-    for (size_t lane = 0; offset + lane < text.size(); ++lane)
+    for (size_t lane = 0; offset + lane < text.size(); ++lane) {
         take(lane, text[offset + lane]);
+    }
     return {sumOf(lineFeeds), isAscii(bits)};
 }
 
@@ -84,21 +88,24 @@ qint64 FTextIndex::lineAt(qint64 offset) const {
     const qint64 begin = offset / BlockSize * BlockSize;
     const qint64 end = begin + BlockSize;
     const size_t number = static_cast<size_t>(offset / BlockSize);
-    if (end - offset < offset - begin && number + 1 < mLines.size())
+    if (end - offset < offset - begin && number + 1 < mLines.size()) {
         return mLines[number + 1] - countIn(block(offset, end)).lineFeeds;
+    }
     return mLines[number] + countIn(block(begin, offset)).lineFeeds;
 }
 
 qint64 FTextIndex::lineStart(qint64 line) const {
-    if (line == 0)
+    if (line == 0) {
         return 0;
+    }
     const auto above = std::lower_bound(mLines.begin(), mLines.end(), line);
     const qint64 number = above - mLines.begin() - 1;
     size_t offset = static_cast<size_t>(number * BlockSize);
     for (qint64 missing = line - mLines[static_cast<size_t>(number)]; missing > 0; --missing, ++offset) {
         offset = mText.find('\n', offset);
-        if (offset == std::string_view::npos)
+        if (offset == std::string_view::npos) {
             return -1;
+        }
     }
     return static_cast<qint64>(offset);
 }
@@ -107,16 +114,18 @@ qint64 FTextIndex::lineStart(qint64 line) const {
 qint64 FTextIndex::lineBegin(qint64 offset) const {
     const qint64 begin = offset / BlockSize * BlockSize;
     const void* const before = ::memrchr(mText.data() + begin, '\n', static_cast<size_t>(offset - begin));
-    if (before != nullptr)
+    if (before != nullptr) {
         return static_cast<const char*>(before) - mText.data() + 1;
+    }
     return std::clamp<qint64>(lineStart(lineAt(offset)), 0, offset);
 }
 
 qint64 FTextIndex::lineFeed(qint64 offset) const {
     const qint64 end = std::min((offset / BlockSize + 1) * BlockSize, static_cast<qint64>(mText.size()));
     const size_t at = block(offset, end).find('\n');
-    if (at != std::string_view::npos)
+    if (at != std::string_view::npos) {
         return offset + static_cast<qint64>(at);
+    }
     const qint64 next = lineStart(lineAt(end) + 1);
     return next < 0 ? -1 : std::max(next - 1, end);
 }

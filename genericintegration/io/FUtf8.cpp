@@ -28,10 +28,12 @@ bool isAscii(std::string_view text) {
         std::array<quint64, Step / 8> words;
         std::memcpy(words.data(), text.data() + offset, Step);
         quint64 bits = 0;
-        for (const quint64 word : words)
+        for (const quint64 word : words) {
             bits |= word;
-        if ((bits & 0x8080808080808080U) != 0)
+        }
+        if ((bits & 0x8080808080808080U) != 0) {
             return false;
+        }
     }
     return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(offset), text.end(),
                        [](char byte) { return isAscii(byte); });
@@ -45,8 +47,9 @@ char32_t nextNonAscii(std::string_view text, qint64& offset) {
         return NoCharacter;
     }
     char32_t c = lead & LeadBits[static_cast<size_t>(length)];
-    for (const qint64 end = offset + length; ++offset < end;)
+    for (const qint64 end = offset + length; ++offset < end;) {
         c = (c << 6) | (byteAt(text, offset) & 0x3F);
+    }
     return c <= QChar::LastValidCodePoint ? c : NoCharacter;
 }
 
@@ -60,8 +63,9 @@ qint64 previous(std::string_view text, qint64 offset) {
 qint64 skipSpace(std::string_view text, qint64 offset) {
     while (offset < sizeOf(text)) {
         qint64 behind = offset;
-        if (!QChar::isSpace(next(text, behind)))
+        if (!QChar::isSpace(next(text, behind))) {
             break;
+        }
         offset = behind;
     }
     return offset;
@@ -72,8 +76,9 @@ qint64 trimmedSize(std::string_view text) {
     while (end > 0) {
         const qint64 last = previous(text, end);
         qint64 offset = last;
-        if (!QChar::isSpace(next(text, offset)))
+        if (!QChar::isSpace(next(text, offset))) {
             break;
+        }
         end = last;
     }
     return end;
@@ -86,12 +91,14 @@ qint64 utf16Length(std::string_view text) {
     constexpr size_t Few = 112;
     for (; text.size() >= Few; text.remove_prefix(Few)) {
         unsigned char sum = 0;
-        for (size_t i = 0; i < Few; ++i)
+        for (size_t i = 0; i < Few; ++i) {
             sum = static_cast<unsigned char>(sum + units(text[i]));
+        }
         length += sum;
     }
-    for (const char byte : text)
+    for (const char byte : text) {
         length += units(byte);
+    }
     return length;
 }
 
@@ -127,8 +134,9 @@ void append(std::vector<char>& out, const QString& text) {
         char* at = out.data() + size;
         for (; i < end; ++i) {
             char32_t c = text[i].unicode();
-            if (QChar::isHighSurrogate(c) && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            if (QChar::isHighSurrogate(c) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
                 c = QChar::surrogateToUcs4(static_cast<ushort>(c), text[++i].unicode());
+            }
             at = putCharacter(at, c);
         }
         out.resize(static_cast<size_t>(at - out.data()));
@@ -139,16 +147,18 @@ QString decode(std::string_view text) {
     constexpr size_t Limit = size_t(1) << 29;
     text = text.substr(0, Limit);
     const int size = static_cast<int>(text.size());
-    if (isAscii(text))
+    if (isAscii(text)) {
         return QString::fromLatin1(text.data(), size);
+    }
     QString result;
     result.reserve(size);
     for (qint64 offset = 0; offset < size;) {
         const char32_t c = next(text, offset);
-        if (QChar::requiresSurrogates(c))
+        if (QChar::requiresSurrogates(c)) {
             result.append(QChar(QChar::highSurrogate(c))).append(QChar(QChar::lowSurrogate(c)));
-        else
+        } else {
             result.append(QChar(static_cast<ushort>(c)));
+        }
     }
     return result;
 }

@@ -15,12 +15,13 @@ namespace {
 std::vector<QString> anchorsOf(const std::vector<FValueDescription>& values) {
     std::vector<QString> anchors;
     anchors.reserve(values.size());
-    for (const FValueDescription& value : values)
+    for (const FValueDescription& value : values) {
         anchors.push_back(value.anchor.text);
+    }
     return anchors;
 }
 
-/// The numbers of the values by line, column and name; what is equal keeps its order.
+/** The numbers of the values by line, column and name; what is equal keeps its order. */
 std::vector<int> sorted(const std::vector<FValueDescription>& values) {
     std::vector<int> numbers(values.size());
     std::iota(numbers.begin(), numbers.end(), 0);
@@ -64,8 +65,9 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
         }
         const FSoughtLine sought = seekLine(text, mValues[i], places[i], lines);
         found.values[i].flags = sought.flags;
-        if (sought.range)
+        if (sought.range) {
             readings.push_back({*sought.range, mValues[i].column, i});
+        }
     }
     read(text, readings, found.values);
     averages.read(found.values);
@@ -76,11 +78,13 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
 FSoughtLine FValueSearch::seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places,
                                    LinesInText& lines) const {
     const FByteRange anchor = placeOf(value.anchor, places);
-    if (anchor.begin >= 0)
+    if (anchor.begin >= 0) {
         return FSoughtLine::fromAnchor(text, anchor, value.line);
+    }
     auto line = lines.find(value.line);
-    if (line == lines.end())
+    if (line == lines.end()) {
         line = lines.emplace(value.line, FSoughtLine::inText(text, value.line)).first;
+    }
     FSoughtLine sought = line->second;
     sought.flags.setFlag(FFoundFlag::AnchorMissing, !value.anchor.text.isEmpty());
     return sought;
@@ -118,8 +122,9 @@ std::vector<int> FValueSearch::order(const FResultText& text) const {
 std::vector<int> FValueSearch::order(const FResultText& text, const std::vector<FAnchorPlaces>& trimmed) const {
     std::vector<int> numbers(mValues.size());
     std::iota(numbers.begin(), numbers.end(), 0);
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return numbers;
+    }
     const std::vector<FAnchorPlaces> places = mAnchors.extendToWhole(text, trimmed);
     std::vector<std::pair<qint64, size_t>> ranks;  // by the anchor's place, then as sorted
     ranks.reserve(mSorted.size());

@@ -10,16 +10,19 @@ int findValue(int& start, int& length, QRegExp& separator, int line, const QStri
               int column, bool findNumbers) {
     start = 0;
     length = 0;
-    if (findNumbers)
+    if (findNumbers) {
         separator = FNumberPattern::pattern();
-    if (line == 0 && !anchor.isEmpty())
+    }
+    if (line == 0 && !anchor.isEmpty()) {
         start = text.indexOf(anchor, 0, Qt::CaseInsensitive) + anchor.length();
+    }
     FSeparatorWalk walk(separator, text, start);
     const bool passed = walk.pass(column);
     start = passed ? walk.start() : -1;
     const int match = passed ? walk.next() : -1;
-    if (!passed || (findNumbers && match < 0))
+    if (!passed || (findNumbers && match < 0)) {
         return -1;
+    }
     if (findNumbers) {
         start = match;
         length = separator.matchedLength();

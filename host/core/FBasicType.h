@@ -1,10 +1,11 @@
 #pragma once
 
 #include "host/core/FClass.h"
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 /** Base of the values: numbers, texts, and small records that scripts write as lists. */
-class FBasicType : public FClass<FBasicType, FObject> {
+class MERIX_EXPORT FBasicType : public FClass<FBasicType, FObject> {
  public:
     static FClassData mClass;
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 /** True or false. As a number 1 or 0. */
-class FBool : public FClass<FBool, FBasicType> {
+class MERIX_EXPORT FBool : public FClass<FBool, FBasicType> {
  public:
     static FClassData mClass;
 

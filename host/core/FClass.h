@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FObject.h"
 #include "host/core/FPrototypes.h"
 
@@ -23,7 +24,7 @@
  * class needs a constructor without arguments, which makes the prototype.
  */
 template <class Self, class... Bases>
-class FClass : public Bases... {
+class MERIX_EXPORT FClass : public Bases... {
     using Last = std::tuple_element_t<sizeof...(Bases) - 1, std::tuple<Bases...>>;
 
  public:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 #include <memory>
@@ -18,7 +20,7 @@ enum class FFamily { Object, Managed };
  * Each class owns exactly one, a static member `mClass` defined in its source file. All members that a class states
  * are constants, so that the object exists before any code runs; everything else is filled in later.
  */
-class FClassData {
+class MERIX_EXPORT FClassData {
  public:
     using Commands = void (*)(FCmdTable&);
     using Fields = std::vector<std::unique_ptr<FStateField>> (*)();

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "host/core/FEnumBase.h"
+#include "host/core/FExport.h"
 
 /**
  * The script type of the C++ enumeration E. Its table and its class data are specialised beside E; a value made
  * without an argument has the default.
  */
 template <class E>
-class FEnum : public FClass<FEnum<E>, FEnumBase> {
+class MERIX_EXPORT FEnum : public FClass<FEnum<E>, FEnumBase> {
     using Base = FClass<FEnum<E>, FEnumBase>;
 
  public:

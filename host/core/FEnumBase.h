@@ -1,12 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FNumber.h"
 
 #include <QMap>
 #include <QStringList>
 
 /** What an enumeration is made of: its name, its default, and its texts by number. */
-class FEnumTable {
+class MERIX_EXPORT FEnumTable {
  public:
     FEnumTable(const QString& typeName, unsigned int defaultValue, const QMap<unsigned int, QString>& texts);
 
@@ -24,7 +25,7 @@ class FEnumTable {
 };
 
 /** A value of an enumeration: a number with a text. */
-class FEnumBase : public FClass<FEnumBase, FUnsigned> {
+class MERIX_EXPORT FEnumBase : public FClass<FEnumBase, FUnsigned> {
  public:
     static FClassData mClass;
 

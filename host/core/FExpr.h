@@ -1,11 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExprBase.h"
 #include "host/core/objectCast.h"
 
 /** A handle on an object of class T, or on an expression that gives one. */
 template <class T>
-class FExpr : public FExprBase {
+class MERIX_EXPORT FExpr : public FExprBase {
  public:
     FExpr() = default;
     FExpr(std::nullptr_t) {}                                      // NOLINT(google-explicit-constructor)

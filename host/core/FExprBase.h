@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FObject.h"
 
 #include <QHash>
@@ -11,7 +12,7 @@
  * An empty handle holds nothing. A handle on a prototype holds it. A handle on a managed object that has been destroyed
  * gives no object any more, but still compares equal to handles on that same object, and finds it again after undo.
  */
-class FExprBase {
+class MERIX_EXPORT FExprBase {
  public:
     FExprBase() = default;
     FExprBase(std::nullptr_t) {}                        // NOLINT(google-explicit-constructor): NULL is an empty handle

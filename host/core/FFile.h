@@ -1,12 +1,14 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QIODevice>
 #include <QString>
 
 class QFile;
 
 /** Files that users name. */
-class FFile {
+class MERIX_EXPORT FFile {
  public:
     /**
      * Puts the values of environment variables in place of `$NAME`, `${NAME}` and `%NAME%`, and the user's home folder

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
 #include <QHash>
@@ -14,7 +15,7 @@
  * object may be added to it before or after its change: what is kept is the difference to its last known state, field
  * by field.
  */
-class FHistory {
+class MERIX_EXPORT FHistory {
  public:
     static FHistory* instance();
 
@@ -118,7 +119,7 @@ class FHistory {
 };
 
 /** A transaction for the life of the object. */
-class FHistoryTransaction {
+class MERIX_EXPORT FHistoryTransaction {
  public:
     explicit FHistoryTransaction(const QString& label) { FHistory::instance()->startTransaction(label); }
     ~FHistoryTransaction() { FHistory::instance()->commit(1); }
@@ -129,7 +130,7 @@ class FHistoryTransaction {
 };
 
 /** While one exists, nothing is recorded: an object that is added to the step counts as having always been so. */
-class FHistoryBlocker {
+class MERIX_EXPORT FHistoryBlocker {
  public:
     FHistoryBlocker() { ++FHistory::instance()->mBlockers; }
     ~FHistoryBlocker() { --FHistory::instance()->mBlockers; }

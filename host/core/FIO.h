@@ -1,12 +1,14 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 /**
  * Questions and notices. Buttons with an empty text don't exist; the answer is the number of the button, 0 the first.
  * `escape` is the answer for a dialog that was closed, -1 for none.
  */
-class FIO {
+class MERIX_EXPORT FIO {
  public:
     static int question(void* parent, const QString& title, const QString& text, const QString& button0,
                         const QString& button1, const QString& button2, int defaultButton = 0, int escape = -1,

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 /** While one exists, objects with immediate update wait; they are updated when the last one goes. */
-class FImmediateUpdateBlocker {
+class MERIX_EXPORT FImmediateUpdateBlocker {
  public:
     FImmediateUpdateBlocker();
     ~FImmediateUpdateBlocker();

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QSettings>
 
 /**
  * The settings of the program, which outlive it. They lie in merix/merix.ini of the user's configuration folder, unless
  * the environment variable MERIX_SETTINGS names another file, or `setFile` does.
  */
-class FIni : public QSettings {
+class MERIX_EXPORT FIni : public QSettings {
  public:
     FIni();
 

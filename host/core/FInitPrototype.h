@@ -1,18 +1,19 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FPrototypes.h"
 
 /**
  * Registrars: one object a type, made while a library loads, hands the host the function that builds the type's
  * prototype. `FInitPrototype` makes the fitting one.
  */
-class FInitFObjectPrototype {
+class MERIX_EXPORT FInitFObjectPrototype {
  public:
     explicit FInitFObjectPrototype(FPrototypes::Build build) { FPrototypes::remember(build); }
     virtual ~FInitFObjectPrototype() = default;
 };
 
-class FInitFManagedPrototype {
+class MERIX_EXPORT FInitFManagedPrototype {
  public:
     explicit FInitFManagedPrototype(FPrototypes::Build build) { FPrototypes::remember(build); }
     virtual ~FInitFManagedPrototype() = default;
@@ -20,7 +21,7 @@ class FInitFManagedPrototype {
 
 /** Registers the types in the order of the list. */
 template <class... Types>
-class FInitPrototypes {
+class MERIX_EXPORT FInitPrototypes {
  public:
     FInitPrototypes() { (registerType<Types>(), ...); }
 

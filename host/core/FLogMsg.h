@@ -1,11 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 #include <functional>
 
 /** Messages of the program to its user. */
-class FLogMsg {
+class MERIX_EXPORT FLogMsg {
  public:
     enum class Kind { Info, Warning, Error };
     enum class Stream { StandardOutput, StandardError };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FClass.h"
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 #include "host/core/FRecorded.h"
 #include "host/core/FStateField.h"
@@ -17,7 +18,7 @@ class QTextStream;
  * handles, and the same object comes back on undo, so destructors only free; what else has to happen when an object
  * goes stands in `leaveModel`.
  */
-class FManaged : public FClass<FManaged, FRecorded> {
+class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
  public:
     static FClassData mClass;
     static bool mInitPrototype;  //!< true while the prototype of a managed class is built
@@ -120,9 +121,9 @@ class FManaged : public FClass<FManaged, FRecorded> {
 };
 
 /** Objects made by a registration in between count as children of `parent`, until `stopParentReg`. */
-void startParentReg(const FObject* parent);
-void stopParentReg();
+MERIX_EXPORT void startParentReg(const FObject* parent);
+MERIX_EXPORT void stopParentReg();
 /** Destroys the children, last first. */
-void destroyChildrenOf(const FObject* parent);
+MERIX_EXPORT void destroyChildrenOf(const FObject* parent);
 /** The parent of the registration in progress, or null. */
-const FObject* currentParentReg();
+MERIX_EXPORT const FObject* currentParentReg();

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 /** State of the program as a whole. */
-class FMerixCtrl {
+class MERIX_EXPORT FMerixCtrl {
  public:
     static FMerixCtrl* instance();
 
@@ -23,7 +25,7 @@ class FMerixCtrl {
 };
 
 /** A project is being read for the life of the object. */
-class FProjectLoading {
+class MERIX_EXPORT FProjectLoading {
  public:
     FProjectLoading() { ++FMerixCtrl::instance()->mLoading; }
     ~FProjectLoading() { --FMerixCtrl::instance()->mLoading; }

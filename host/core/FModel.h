@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FObjectManager.h"
 
 /** The entities of the project. */
-class FModel {
+class MERIX_EXPORT FModel {
  public:
     static FModel* instance();
 

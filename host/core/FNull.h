@@ -1,9 +1,10 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 /** The script value `NULL`: its prototype is the value. */
-class FNull : public FClass<FNull, FBasicType> {
+class MERIX_EXPORT FNull : public FClass<FNull, FBasicType> {
  public:
     static FClassData mClass;
 

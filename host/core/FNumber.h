@@ -1,9 +1,10 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 /** A number as a double. */
-class FDouble : public FClass<FDouble, FBasicType> {
+class MERIX_EXPORT FDouble : public FClass<FDouble, FBasicType> {
  public:
     static FClassData mClass;
 
@@ -22,7 +23,7 @@ class FDouble : public FClass<FDouble, FBasicType> {
 };
 
 /** A whole number of at most 53 bits. */
-class FInteger : public FClass<FInteger, FDouble> {
+class MERIX_EXPORT FInteger : public FClass<FInteger, FDouble> {
  public:
     static FClassData mClass;
 
@@ -31,7 +32,7 @@ class FInteger : public FClass<FInteger, FDouble> {
 };
 
 /** A whole number from 0. */
-class FUnsigned : public FClass<FUnsigned, FInteger> {
+class MERIX_EXPORT FUnsigned : public FClass<FUnsigned, FInteger> {
  public:
     static FClassData mClass;
 

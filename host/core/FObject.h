@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FClassData.h"
+#include "host/core/FExport.h"
 
 #include <QString>
 
@@ -9,7 +10,7 @@ class FObjectList;
 class FUpdateLinks;
 
 /** Non-zero: each build of a prototype is told on the standard output. Set from the environment at start. */
-extern int VERBOSE;
+MERIX_EXPORT extern int VERBOSE;
 
 /** Number of blanks of one level of indentation in saved text. */
 constexpr int TAB = 4;
@@ -18,7 +19,7 @@ constexpr int TAB = 4;
  * What handles point to. It outlives its object as long as a handle is left, so that a handle can tell that its object
  * is gone, and whether two handles meant the same one.
  */
-struct FObjectBlock {
+struct MERIX_EXPORT FObjectBlock {
     enum class Kind {
         Plain,      //!< dies with its last handle
         Managed,    //!< lives in the model; kept by handles and the history once it has left
@@ -43,7 +44,7 @@ struct FObjectBlock {
  * **Update graph.** An object is out of date when something that it was computed from has changed. Links are kept both
  * ways; `update()` recomputes on demand.
  */
-class FObject {
+class MERIX_EXPORT FObject {
  public:
     static FClassData mClass;
     static bool mInitPrototype;  //!< true while the prototype of a plain class is built

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FClass.h"
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <vector>
@@ -8,7 +9,7 @@
 /**
  * A list of handles. As a selection set it is what a command gave on several receivers, or what a user has selected.
  */
-class FObjectList : public FClass<FObjectList, FObject> {
+class MERIX_EXPORT FObjectList : public FClass<FObjectList, FObject> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QHash>
@@ -12,7 +13,7 @@ class FManaged;
 class FScope;
 
 /** All managed objects of the model, by number and by name. */
-class FObjectManager : public QObject {
+class MERIX_EXPORT FObjectManager : public QObject {
     Q_OBJECT
  public:
     static FObjectManager* instance();

@@ -11,8 +11,9 @@ struct FCodePoint {
 
 FCodePoint codePointAt(QStringView text, int position) {
     const QChar first = text[position];
-    if (first.isHighSurrogate() && position + 1 < text.size() && text[position + 1].isLowSurrogate())
+    if (first.isHighSurrogate() && position + 1 < text.size() && text[position + 1].isLowSurrogate()) {
         return {QChar::surrogateToUcs4(first, text[position + 1]), 2};
+    }
     return {first.unicode(), 1};
 }
 
@@ -33,8 +34,9 @@ FReservedWord reservedWord(QStringView word) {
         {u"NULL", FReservedWord::Null},
     };
     for (const auto& [text, reserved] : words) {
-        if (text == word)
+        if (text == word) {
             return reserved;
+        }
     }
     return FReservedWord::None;
 }
@@ -43,8 +45,9 @@ int nameLength(QStringView text, int from) {
     int end = from;
     while (end < text.size()) {
         const FCodePoint c = codePointAt(text, end);
-        if (!(end == from ? isNameStart(c.value) : isNamePart(c.value)))
+        if (!(end == from ? isNameStart(c.value) : isNamePart(c.value))) {
             break;
+        }
         end += c.units;
     }
     return end - from;
@@ -55,10 +58,11 @@ QString legalName(const QString& text) {
     name.reserve(text.size() + 1);
     for (int i = 0; i < text.size();) {
         const FCodePoint c = codePointAt(text, i);
-        if (isNamePart(c.value))
+        if (isNamePart(c.value)) {
             name.append(text.midRef(i, c.units));
-        else
+        } else {
             name.append(QLatin1Char('_'));
+        }
         i += c.units;
     }
     const bool isLegal = nameLength(name, 0) == name.size() && reservedWord(name) == FReservedWord::None;
@@ -71,7 +75,8 @@ QString numberedName(const QString& base, int number) {
 
 QString uniqueName(const QString& base, const std::function<bool(const QString&)>& taken) {
     int number = 0;
-    while (taken(numberedName(base, number)))
+    while (taken(numberedName(base, number))) {
         ++number;
+    }
     return numberedName(base, number);
 }

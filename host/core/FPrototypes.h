@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FClassData.h"
+#include "host/core/FExport.h"
 
 #include <QString>
 
@@ -13,7 +14,7 @@ class FManaged;
  * All prototypes by class name. Registrars remember the build functions while libraries load; the prototypes
  * themselves are made at the first look-up, when every static object exists.
  */
-class FPrototypes {
+class MERIX_EXPORT FPrototypes {
  public:
     using Build = const FObject* (*)();
 

@@ -20,8 +20,9 @@ QString quoteText(const QString& text) {
     quoted.reserve(text.size() + 2);
     quoted += quote;
     for (const QChar c : text) {
-        if (isEscaped(c))
+        if (isEscaped(c)) {
             quoted += backslash;
+        }
         quoted += c;
     }
     quoted += quote;
@@ -29,14 +30,16 @@ QString quoteText(const QString& text) {
 }
 
 std::optional<QString> unquoteText(QStringView quoted) {
-    if (!quoted.startsWith(quote) || closingQuote(quoted, 0) != quoted.size() - 1)
+    if (!quoted.startsWith(quote) || closingQuote(quoted, 0) != quoted.size() - 1) {
         return std::nullopt;
+    }
     const QStringView inner = quoted.mid(1, quoted.size() - 2);
     QString text;
     text.reserve(static_cast<int>(inner.size()));
     for (int i = 0; i < inner.size(); ++i) {
-        if (isEscape(inner, i))
+        if (isEscape(inner, i)) {
             ++i;
+        }
         text += inner[i];
     }
     return text;
@@ -44,10 +47,12 @@ std::optional<QString> unquoteText(QStringView quoted) {
 
 int closingQuote(QStringView text, int open) {
     for (int i = open + 1; i < text.size(); ++i) {
-        if (text[i] == quote)
+        if (text[i] == quote) {
             return i;
-        if (isEscape(text, i))
+        }
+        if (isEscape(text, i)) {
             ++i;
+        }
     }
     return -1;
 }

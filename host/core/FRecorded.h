@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FObject.h"
 
 #include <memory>
@@ -10,7 +11,7 @@ class FState;
  * What the history keeps the state of, one by one: managed objects, and those of their parts that are too many to be
  * kept with the whole.
  */
-class FRecorded : public FObject {
+class MERIX_EXPORT FRecorded : public FObject {
  public:
     FRecorded();
     ~FRecorded() override;

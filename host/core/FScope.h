@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
 /** A managed object that can stand in a scope: what a model is made of. */
-class FEntity : public FClass<FEntity, FManaged> {
+class MERIX_EXPORT FEntity : public FClass<FEntity, FManaged> {
  public:
     static FClassData mClass;
 
@@ -11,7 +12,7 @@ class FEntity : public FClass<FEntity, FManaged> {
 };
 
 /** A scope: the space in which names are unique. The working scope is the one of the whole project. */
-class FScope : public FClass<FScope, FEntity> {
+class MERIX_EXPORT FScope : public FClass<FScope, FEntity> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 #include "host/core/FObjectList.h"
 
@@ -18,7 +19,7 @@
  * One raw field of a class, as the history keeps it: read without a getter, written back without a setter. What is
  * read shares its data with the object, so that an unchanged field costs next to nothing.
  */
-class FStateField {
+class MERIX_EXPORT FStateField {
  public:
     virtual ~FStateField() = default;
 
@@ -30,7 +31,7 @@ class FStateField {
 };
 
 /** The state of one object: the values of its raw fields in the order of its class. */
-class FState {
+class MERIX_EXPORT FState {
  public:
     static FState capture(const FObject& object);
     void restore(FObject& object) const;
@@ -41,7 +42,7 @@ class FState {
 };
 
 /** Objects that another one owns and that editors change in place: which they are, and the state of each. */
-struct FOwnedState {
+struct MERIX_EXPORT FOwnedState {
     std::vector<FExprBase> objects;
     std::vector<FState> states;
 
@@ -55,11 +56,11 @@ struct FOwnedState {
  * About how many bytes a handle keeps. A managed object counts with the step that destroyed it, and a part that belongs
  * to the model not at all.
  */
-std::size_t heldMemory(const FExprBase& handle);
+MERIX_EXPORT std::size_t heldMemory(const FExprBase& handle);
 
 /** Builds the list of a class's raw fields; made in a static function of the class, which may name its members. */
 template <class C>
-class FStateFields {
+class MERIX_EXPORT FStateFields {
  public:
     using After = std::function<void(C&)>;
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 /** A text. Bare in `toString`, quoted where it stands in a script. */
-class FString : public FClass<FString, FBasicType> {
+class MERIX_EXPORT FString : public FClass<FString, FBasicType> {
  public:
     static FClassData mClass;
 
@@ -20,7 +21,7 @@ class FString : public FClass<FString, FBasicType> {
 };
 
 /** The name of a file. In a script a call, so that it comes back as what it was. */
-class FFileName : public FClass<FFileName, FString> {
+class MERIX_EXPORT FFileName : public FClass<FFileName, FString> {
  public:
     static FClassData mClass;
 

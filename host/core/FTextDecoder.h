@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QByteArray>
 #include <QString>
 
 /** Bytes of a text file as text: UTF-8, unless a byte order mark says UTF-16 or UTF-32. Line ends stay as they are. */
-class FTextDecoder {
+class MERIX_EXPORT FTextDecoder {
  public:
     /** Never fails: what can't be read becomes the replacement character U+FFFD. */
     static QString decode(const QByteArray& bytes);

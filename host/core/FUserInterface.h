@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExprBase.h"
 
 #include <QList>
@@ -10,7 +11,7 @@
  * What the program asks of a person. The one object is replaced when there are windows; without them it answers with
  * the defaults and prints what it was asked.
  */
-class FUserInterface {
+class MERIX_EXPORT FUserInterface {
  public:
     static FUserInterface* instance();
     /** Returns the object before; null brings back the one without windows. */

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FUserInterface.h"
 
 /** Whether there are windows. */
-class FViewCtrl {
+class MERIX_EXPORT FViewCtrl {
  public:
     static FViewCtrl* instance();
 
@@ -14,7 +15,7 @@ class FViewCtrl {
 };
 
 /** The tree of all objects. */
-class FObjectTree {
+class MERIX_EXPORT FObjectTree {
  public:
     /** Shows the objects in the tree. */
     static void highlight(const QList<FExprBase>& objects) { FUserInterface::instance()->highlight(objects); }

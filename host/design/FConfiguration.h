@@ -1,10 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntry.h"
 
 /** Values for the entries of a definition. */
-class FConfiguration : public FClass<FConfiguration, FDefinitionBase> {
+class MERIX_EXPORT FConfiguration : public FClass<FConfiguration, FDefinitionBase> {
  public:
     static FClassData mClass;
 

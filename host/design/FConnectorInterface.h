@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QList>
@@ -13,7 +14,7 @@ class FManaged;
  * A software connector as those see it who know no widget: the window on one computation with its files. The connectors
  * are managed objects, found by the name of their class; without such a class there are none.
  */
-class FConnectorInterface {
+class MERIX_EXPORT FConnectorInterface {
  public:
     virtual ~FConnectorInterface() = default;
 

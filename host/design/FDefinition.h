@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FDefinitionBase.h"
 
 #include <QStringList>
@@ -8,7 +9,7 @@ class FConfiguration;
 class FEntryDef;
 
 /** Which entries there are. Configurations hold their values; several of them can share one definition. */
-class FDefinition : public FClass<FDefinition, FDefinitionBase> {
+class MERIX_EXPORT FDefinition : public FClass<FDefinition, FDefinitionBase> {
  public:
     static FClassData mClass;
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FScope.h"
 #include "host/design/FEntryBase.h"
 
 #include <QMap>
 
 /** An entity with a tree of entries: a definition, or a configuration. */
-class FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHolder {
+class MERIX_EXPORT FDefinitionBase : public FClass<FDefinitionBase, FEntity>, public FEntryHolder {
  public:
     static FClassData mClass;
 

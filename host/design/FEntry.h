@@ -1,11 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FEntryBase.h"
 
 class FEntryDef;
 
 /** What an entry of a definition is worth in one configuration: one of its occurrences, with its value, or a group. */
-class FEntry : public FClass<FEntry, FEntryBase> {
+class MERIX_EXPORT FEntry : public FClass<FEntry, FEntryBase> {
  public:
     static FClassData mClass;
 

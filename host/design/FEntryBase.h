@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FRecorded.h"
 #include "host/core/FStateField.h"
 #include "host/design/FEntryHolder.h"
@@ -8,7 +9,7 @@
  * An entry: a named value, or a group of entries. In a definition it says what there is, in a configuration what it is
  * worth. The history keeps each entry by itself, so that a step costs what it changes, however many there are.
  */
-class FEntryBase : public FClass<FEntryBase, FRecorded>, public FEntryHolder {
+class MERIX_EXPORT FEntryBase : public FClass<FEntryBase, FRecorded>, public FEntryHolder {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FEntryBase.h"
 
 class FDefinition;
@@ -7,7 +8,7 @@ class FDefinition;
 /**
  * What a definition says of an entry: its name, how often it may occur, its type and default value; or a group of such.
  */
-class FEntryDef : public FClass<FEntryDef, FEntryBase> {
+class MERIX_EXPORT FEntryDef : public FClass<FEntryDef, FEntryBase> {
  public:
     static FClassData mClass;
 

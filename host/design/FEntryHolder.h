@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QList>
@@ -13,7 +14,7 @@ class FRecorded;
  * What entries stand in: a definition, a configuration, or a group of one of these. It keeps its entries alive, and
  * each of them knows it. Every change is recorded in the history and marks the definition or configuration.
  */
-class FEntryHolder {
+class MERIX_EXPORT FEntryHolder {
  public:
     FEntryHolder() = default;
     virtual ~FEntryHolder();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QList>
@@ -12,7 +13,7 @@ class FEntryDef;
 class FEntryHolder;
 
 /** Makes the entries of a configuration follow its definition. */
-class FEntryTree {
+class MERIX_EXPORT FEntryTree {
  public:
     /** Entries that one configuration can have; what counts multiply to beyond that isn't made, with a message. */
     static constexpr int mostEntries = 100000;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 #include "host/core/FStateField.h"
 
 /** A value that names a file. The name is an expression and is followed. */
-class FFileReference : public FClass<FFileReference, FBasicType> {
+class MERIX_EXPORT FFileReference : public FClass<FFileReference, FBasicType> {
  public:
     static FClassData mClass;
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FObjectList.h"
 #include "host/core/FStateField.h"
 
 /** Objects of the model that are written into the run directory before a run. */
-class FGeometryExport : public FClass<FGeometryExport, FObject> {
+class MERIX_EXPORT FGeometryExport : public FClass<FGeometryExport, FObject> {
  public:
     static FClassData mClass;
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FFileReference.h"
 
 /**
  * A file that is copied into the run directory before a run. Its name can be an expression on the results of another
  * computation: so computations are linked.
  */
-class FInputFile : public FClass<FInputFile, FFileReference> {
+class MERIX_EXPORT FInputFile : public FClass<FInputFile, FFileReference> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FScope.h"
 #include "host/core/FStateField.h"
 
@@ -7,7 +8,7 @@
  * A named value of the model: what it is set to stays an expression and is followed. It brings itself up to date at
  * once, unless it is set to update on demand.
  */
-class FParameter : public FClass<FParameter, FEntity> {
+class MERIX_EXPORT FParameter : public FClass<FParameter, FEntity> {
  public:
     static FClassData mClass;
 

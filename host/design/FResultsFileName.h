@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FFileReference.h"
 
 /** What kind of file a result file is. */
@@ -9,7 +10,7 @@ enum class ResultsFileType : unsigned int {
 };
 
 /** A file that a run leaves in the run directory. */
-class FResultsFileName : public FClass<FResultsFileName, FFileReference> {
+class MERIX_EXPORT FResultsFileName : public FClass<FResultsFileName, FFileReference> {
  public:
     static FClassData mClass;
 

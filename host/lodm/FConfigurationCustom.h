@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/lodm/FConfigurationCustomBase.h"
 #include "host/lodm/FDefinitionCustom.h"
 
@@ -9,7 +10,7 @@ class QFile;
 class QTextDocument;
 
 /** A configuration of a definition that a user has made. */
-class FConfigurationCustom : public FClass<FConfigurationCustom, FConfigurationCustomBase> {
+class MERIX_EXPORT FConfigurationCustom : public FClass<FConfigurationCustom, FConfigurationCustomBase> {
  public:
     static FClassData mClass;
 

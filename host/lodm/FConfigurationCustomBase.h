@@ -1,10 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FResultsFileName.h"
 
 /** A configuration whose entries can name files of a run. */
-class FConfigurationCustomBase : public FClass<FConfigurationCustomBase, FConfiguration> {
+class MERIX_EXPORT FConfigurationCustomBase : public FClass<FConfigurationCustomBase, FConfiguration> {
  public:
     static FClassData mClass;
 

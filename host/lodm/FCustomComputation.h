@@ -1,10 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/lodm/FConfigurationCustom.h"
 #include "host/run/FExternComputation.h"
 
 /** A computation whose input comes from a configuration: base of those that plug-ins bring. */
-class FCustomComputation : public FClass<FCustomComputation, FExternComputation> {
+class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExternComputation> {
  public:
     static FClassData mClass;
 

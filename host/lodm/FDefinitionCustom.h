@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/lodm/FDefinitionCustomBase.h"
 
 #include <QSet>
@@ -7,7 +8,7 @@
 class QFile;
 
 /** A definition that can be exchanged as a file. */
-class FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase> {
+class MERIX_EXPORT FDefinitionCustom : public FClass<FDefinitionCustom, FDefinitionCustomBase> {
  public:
     static FClassData mClass;
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FDefinition.h"
 
 /** A definition whose entries a user makes, rather than a program. */
-class FDefinitionCustomBase : public FClass<FDefinitionCustomBase, FDefinition> {
+class MERIX_EXPORT FDefinitionCustomBase : public FClass<FDefinitionCustomBase, FDefinition> {
  public:
     static FClassData mClass;
 

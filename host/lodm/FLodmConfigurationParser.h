@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QHash>
@@ -10,7 +11,7 @@
  * numbers. Numbers are split at white space; a line without any gives no row, but names the columns if it is the first.
  * What isn't a number is NaN.
  */
-class FLodmConfigurationParser {
+class MERIX_EXPORT FLodmConfigurationParser {
  public:
     using Objects = QHash<QString, FExpr<FObject>>;
 

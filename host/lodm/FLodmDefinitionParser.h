@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/lodm/FDefinitionCustom.h"
 #include "host/lodm/FLodmEntryBuilder.h"
 #include "host/lodm/FLodmXmlReader.h"
@@ -18,7 +19,7 @@ class QIODevice;
  *
  * A parser lives for one file.
  */
-class FLodmDefinitionParser {
+class MERIX_EXPORT FLodmDefinitionParser {
  public:
     /** The marker. No well-formed XML holds it outside of a comment, so that no text of an entry is taken for it. */
     static const QString smObjectArea;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FPlace.h"
 
 #include <QString>
@@ -7,7 +8,7 @@
 #include <vector>
 
 /** An entry definition as the XML half of an exchange file tells it. */
-struct FLodmEntry {
+struct MERIX_EXPORT FLodmEntry {
     /** How the text of a default value is to be read. */
     enum class Default { None, Number, Text, Truth, Script };
 

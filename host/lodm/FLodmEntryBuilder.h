@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 #include "host/lodm/FLodmEntry.h"
 #include "host/script/FScriptNames.h"
@@ -15,7 +16,7 @@ class FEntryBase;
  * Defaults may name objects that come later in the file than the entries. Such an entry has no default until the
  * builder knows the names; then all entries are to be built once more.
  */
-class FLodmEntryBuilder {
+class MERIX_EXPORT FLodmEntryBuilder {
  public:
     /** @param source  the name that messages give the file */
     explicit FLodmEntryBuilder(const QString& source = QString()) : mSource(source) {}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include "host/core/FManaged.h"
 
 #include <QSet>
@@ -11,4 +13,4 @@ class FDefinition;
  * objects are.
  * @param saved  what it holds beside the definition
  */
-void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved);
+MERIX_EXPORT void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 /**
@@ -7,7 +9,7 @@
  * written as `\uXXXX`, its UTF-16 unit in four hexadecimal digits. A backslash that isn't the begin of one stands for
  * itself, so that paths can be written as they are.
  */
-class FLodmText {
+class MERIX_EXPORT FLodmText {
  public:
     static QString toXml(const QString& text);
     static QString fromXml(const QString& text);

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FPlace.h"
 
 #include <QStringList>
 #include <QXmlStreamReader>
 
 /** Reads the XML half of an exchange file element by element. The first fault ends it. */
-class FLodmXmlReader : public QXmlStreamReader {
+class MERIX_EXPORT FLodmXmlReader : public QXmlStreamReader {
  public:
     explicit FLodmXmlReader(const QString& text) : QXmlStreamReader(text) {}
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -7,7 +9,7 @@
  * A file that is put into the folder of a run: beside its place first, then in one step, with the folders that it
  * needs. Operations return what went wrong, for the user; empty if nothing did.
  */
-class FRunFolderFile {
+class MERIX_EXPORT FRunFolderFile {
  public:
     /**
      * The name is relative to the folder; one that leads out of it, be it through a link in the folder, is refused. A

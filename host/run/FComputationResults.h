@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/run/FResults.h"
 #include "host/run/FRunRecord.h"
 
@@ -8,7 +9,7 @@
 class FExternComputation;
 
 /** Results of a computation. They belong to one run, and know how it ended. */
-class FComputationResults : public FClass<FComputationResults, FResults> {
+class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FResults> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 #include "host/run/FComputationResults.h"
 #include "host/run/FProgramSettings.h"
@@ -19,7 +20,7 @@ class FRun;
  * handles. Each run has results of its own, also one that fails before its program starts. What goes into the files is
  * the business of derived classes; for the time of their steps FPathManager knows the run's folder.
  */
-class FExternComputation : public FClass<FExternComputation, QObject, FManaged> {
+class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObject, FManaged> {
  public:
     static FClassData mClass;
 

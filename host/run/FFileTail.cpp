@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 kMostBytes = 4096;
+constexpr qint64 mostBytes = 4096;
 
 void replaceControls(QString& text) {
     for (QChar& character : text) {
@@ -36,9 +36,9 @@ QString fileTail(const QString& file, int lines) {
     if (!FFile::openOrdinary(source).isEmpty()) {
         return QString();
     }
-    const qint64 start = std::max<qint64>(source.size() - kMostBytes, 0);
+    const qint64 start = std::max<qint64>(source.size() - mostBytes, 0);
     source.seek(start);
-    const QByteArray bytes = source.read(kMostBytes);
+    const QByteArray bytes = source.read(mostBytes);
     // With its size, since the text ends at a null byte otherwise.
     QStringList all = splitLines(QString::fromUtf8(bytes.constData(), bytes.size()));
     if (start > 0 && all.size() > 1) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 
 /**
@@ -8,4 +10,4 @@
  * Takes any bytes: what isn't UTF-8 or would steer a terminal comes as U+FFFD, every kind of line end counts as one,
  * and blank lines are left out. Empty if there is no such regular file. The size of the file doesn't matter.
  */
-QString fileTail(const QString& file, int lines);
+MERIX_EXPORT QString fileTail(const QString& file, int lines);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 #include <QStringList>
 
 /** Where a number was found in a file, and what was odd on the way; for those who show or check numbers. */
-struct FNumberOrigin {
+struct MERIX_EXPORT FNumberOrigin {
     QString text;          //!< as it stands in the file; for a mean, that of the last number in it
     qint64 line = -1;      //!< from 1; -1 if there is no such line
     qint64 column = -1;    //!< of the text's first character, from 1; -1 if nothing was found

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExpr.h"
 
 #include <QString>
@@ -16,7 +17,7 @@ class QFile;
  * An empty design stands for the current one, which is called "baseline". An empty computation stands for the one whose
  * run the steps at work belong to (FRunScope). Paths are absolute; nothing but the temporary folder is made here.
  */
-class FPathManager {
+class MERIX_EXPORT FPathManager {
  public:
     static FPathManager* instance();
 
@@ -60,7 +61,7 @@ class FPathManager {
 };
 
 /** The steps at work belong to the run in that folder, for the life of the object. */
-class FRunScope {
+class MERIX_EXPORT FRunScope {
  public:
     explicit FRunScope(const QString& folder);
     ~FRunScope();

@@ -14,7 +14,7 @@
 namespace {
 
 // More than the supervisor takes to give up on processes that can't be killed.
-constexpr int kKillMilliseconds = 8000;
+constexpr int killMilliseconds = 8000;
 
 // Rounded up, since the supervisor takes zero as no limit.
 qint64 milliseconds(double seconds) {
@@ -52,7 +52,7 @@ FProcess::~FProcess() {
     mSupervisor.disconnect(this);
     mSupervisor.closeWriteChannel();
     mSupervisor.waitForFinished(
-        static_cast<int>(std::min<qint64>(milliseconds(mSetup.grace), 3600'000) + kKillMilliseconds));
+        static_cast<int>(std::min<qint64>(milliseconds(mSetup.grace), 3600'000) + killMilliseconds));
 }
 
 void FProcess::start() {

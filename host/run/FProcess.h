@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/run/FProcessOutcome.h"
 #include "host/run/FProcessSetup.h"
 
@@ -17,7 +18,7 @@
  * The supervisor is the file named by the environment variable MERIX_SUPERVISOR, else "merix-supervisor" in the folder
  * of the running application.
  */
-class FProcess : public QObject {
+class MERIX_EXPORT FProcess : public QObject {
     Q_OBJECT
 
  public:

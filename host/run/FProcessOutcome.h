@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QDateTime>
 #include <QString>
 
 /** How an external program ended. */
-struct FProcessOutcome {
+struct MERIX_EXPORT FProcessOutcome {
     /** What the program can be blamed for, or what ended it. */
     enum class Cause {
         None,               //!< it ended by itself with exit code 0

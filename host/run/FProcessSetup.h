@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 #include <QStringList>
 
 /** What an external program is started with. Relative files lie in the working folder. */
-struct FProcessSetup {
+struct MERIX_EXPORT FProcessSetup {
     /** A path, absolute or with a slash and then relative to the working folder; a bare name is searched in PATH. */
     QString program;
     QStringList arguments;  //!< passed on as they are; no shell sees them

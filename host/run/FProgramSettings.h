@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/run/FProcessSetup.h"
 
 /** How a computation starts its program; the same from run to run. What each means stands at FExternComputation. */
-struct FProgramSettings {
+struct MERIX_EXPORT FProgramSettings {
     QString executable;
     QStringList arguments;
     double timeLimit = 0;

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 #include "host/design/FDesign.h"
 
 /** What came out of a design: it lies in a folder. Results aren't part of the history. */
-class FResults : public FClass<FResults, FManaged> {
+class MERIX_EXPORT FResults : public FClass<FResults, FManaged> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/design/FResultsFileName.h"
 #include "host/run/FComputationResults.h"
 #include "host/run/FTableData.h"
@@ -11,7 +12,7 @@
  * Results as tables of numbers. They are read from the files of the run when they are first asked for, and again when
  * what they are read with has changed. Until then nothing is read, and each further question costs no file access.
  */
-class FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
+class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QDateTime>
 #include <QHash>
 #include <QString>
@@ -12,7 +14,7 @@
  * into the folder stay where they are; what a run has written moves on before the next one. Both are the program's own,
  * and no links; the folders above may be, so that runs can lie on another disk.
  */
-class FRunFolder {
+class MERIX_EXPORT FRunFolder {
  public:
     /** Both absolute; a slash at the end doesn't matter. */
     FRunFolder(const QString& folder, const QString& earlier);

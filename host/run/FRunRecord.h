@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QDateTime>
 #include <QString>
 
 /** What is known of one run: one attempt to run the program of a computation. */
-struct FRunRecord {
+struct MERIX_EXPORT FRunRecord {
     enum class State { Ready, Writing, Running, Finished, Failed, Cancelled, TimedOut };
     /** What kept the run from success. When several things did, the first one of this list counts. */
     enum class Cause {

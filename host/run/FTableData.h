@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FClass.h"
+#include "host/core/FExport.h"
 #include "host/run/FNumberOrigin.h"
 
 #include <QHash>
@@ -13,7 +14,7 @@
  * Whatever isn't there reads as the quiet NaN: a place outside the table, an unknown header. Of equal headers the first
  * one counts; case matters. Every look-up costs the same, however large the table is.
  */
-class FTableData : public FClass<FTableData, FObject> {
+class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
  public:
     static FClassData mClass;
     using Rows = QVector<QVector<double>>;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
@@ -9,7 +11,7 @@
  * Saves unsaved work into `NAME.mrx.autosave` beside the project: after a change, at most every few seconds, and rarer
  * where saving takes long. The file is there only as long as there is unsaved work, or after a crash.
  */
-class FAutosave : public QObject {
+class MERIX_EXPORT FAutosave : public QObject {
  public:
     FAutosave();
 

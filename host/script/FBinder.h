@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmd.h"
 #include "host/script/FScriptNames.h"
 #include "host/script/FSyntaxError.h"
@@ -11,7 +12,7 @@
  * Makes objects and commands of an expression as it is written: names become the objects that they stand for, variables
  * their values. Nothing is evaluated.
  */
-class FBinder {
+class MERIX_EXPORT FBinder {
  public:
     /** What the expression is for. */
     enum class Use {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmdRow.h"
 #include "host/script/FPlace.h"
 
@@ -9,7 +10,7 @@
  *
  * A global command is a plain FCmd. What a command is called, takes and does comes from its row.
  */
-class FCmd : public FClass<FCmd, FObject> {
+class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
  public:
     static FClassData mClass;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FBinder.h"
 #include "host/script/FCmdParser.h"
 #include "host/script/FScriptParser.h"
@@ -15,7 +16,7 @@
  *
  * Saved text is data, see FSavedTextReader. Each error in it is reported with its place, and the rest is read.
  */
-class FCmdInput : public FCmdParser {
+class MERIX_EXPORT FCmdInput : public FCmdParser {
  public:
     enum class Mode { Script, SavedText };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmdTable.h"
 
 #include <QByteArray>
@@ -9,7 +10,7 @@
 #include <deque>
 
 /** All commands: which there are, which are hidden for a class, and which a name stands for. */
-class FCmdManager {
+class MERIX_EXPORT FCmdManager {
  public:
     static FCmdManager* instance();
 
@@ -62,4 +63,4 @@ class FCmdManager {
 };
 
 /** ` (did you mean "name"?)`, or nothing if no known name is near. */
-QString didYouMean(const QString& name, const QStringList& known);
+MERIX_EXPORT QString didYouMean(const QString& name, const QStringList& known);

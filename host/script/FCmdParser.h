@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
 /** The reader of a script that is at work: what commands tell it while they are carried out. */
-class FCmdParser {
+class MERIX_EXPORT FCmdParser {
  public:
     /** The one at work; null if no script is being read. */
     static FCmdParser* currentParser();

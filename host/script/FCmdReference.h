@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmdRow.h"
 
 /** The reference of the commands, made from their tables and documentation texts. */
-class FCmdReference {
+class MERIX_EXPORT FCmdReference {
  public:
     /** @param className  only the commands that objects of this class have; "global" for functions; empty for all */
     explicit FCmdReference(const QString& className = QString());

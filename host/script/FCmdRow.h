@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmdType.h"
 
 #include <QStringList>
@@ -7,14 +8,14 @@
 #include <vector>
 
 /** One argument of a command. */
-struct FCmdArgument {
+struct MERIX_EXPORT FCmdArgument {
     FCmdType type;
     QString name;         //!< documented name; with its default, if it has one, as in "row=0"
     FExprBase byDefault;  //!< empty if the argument has to be given
 };
 
 /** How a command shows itself to a user; defaults stand for "nothing said". */
-struct FCmdPresentation {
+struct MERIX_EXPORT FCmdPresentation {
     QString attrName;         //!< label of the attribute
     QString category;         //!< group of attributes
     QString attrRequiredCmd;  //!< script text that says when the attribute is required
@@ -36,7 +37,7 @@ struct FCmdPresentation {
  * arguments, the action on selection sets, the current value and the saved form of an attribute, the documentation
  * keys and the reference.
  */
-class FCmdRow {
+class MERIX_EXPORT FCmdRow {
  public:
     enum class Kind { Create, CreateEntity, Attribute, Member, Global };
     /** What carrying it out may do. Only the first two may stand in an expression that is kept. */
@@ -77,7 +78,7 @@ class FCmdRow {
 };
 
 /** A documentation key of a command, with its disambiguation, which may be empty. */
-struct FDocuKey {
+struct MERIX_EXPORT FDocuKey {
     int area;      //!< 1 description or argument, 2 example, 3 result
     int argument;  //!< number of the argument, or -1
     QString key;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FScope.h"
 #include "host/script/FCmdRow.h"
 
@@ -9,7 +10,7 @@
 #include <vector>
 
 /** What a creator makes: the name of the declaration, and the scope for entities. */
-struct FNewName {
+struct MERIX_EXPORT FNewName {
     QString name;
     FExpr<FScope> scope;
 };
@@ -83,7 +84,7 @@ FExprBase call(F& f, const FCmdRow::Values& values, First&&... first) {
  * Operations are members of the class, or functions with the receiver as first argument; argument and result types of
  * the command are those of the function. Overloads of a name are tried in the order of the table.
  */
-class FCmdTable {
+class MERIX_EXPORT FCmdTable {
  public:
     using Names = std::initializer_list<const char*>;
 

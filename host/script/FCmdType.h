@@ -2,6 +2,7 @@
 
 #include "host/core/FBool.h"
 #include "host/core/FEnum.h"
+#include "host/core/FExport.h"
 #include "host/core/FNull.h"
 #include "host/core/FNumber.h"
 #include "host/core/FObjectList.h"
@@ -11,7 +12,7 @@
 #include <type_traits>
 
 /** An argument or result type of a command: how it is spelled, which class it is of, and how a handle becomes one. */
-struct FCmdType {
+struct MERIX_EXPORT FCmdType {
     /** Fills `value` with what the operation takes; false if the handle can't be read as the type. */
     using Convert = bool (*)(const FExprBase& handle, std::any& value);
 
@@ -25,12 +26,12 @@ struct FCmdType {
 };
 
 /** An expression as it stands: the operation keeps it, so that it follows what it names. */
-struct FKeptExpression {
+struct MERIX_EXPORT FKeptExpression {
     FExprBase expression;
 };
 
 /** The value that a handle stands for: a parameter's number rather than the parameter. */
-FObject* valueObject(const FExprBase& handle);
+MERIX_EXPORT FObject* valueObject(const FExprBase& handle);
 
 /** C++ types as script types. Specialised for all that operations take and return. */
 template <class T>
@@ -39,8 +40,8 @@ struct FCmdTypeOf;
 namespace cmdtype {
 
 /** A whole number in a double, or in an object that counts as one; false for 1.5 and for what isn't a number. */
-bool wholeNumber(const FExprBase& handle, double least, double most, double& number);
-bool isScriptNull(const FExprBase& handle);
+MERIX_EXPORT bool wholeNumber(const FExprBase& handle, double least, double most, double& number);
+MERIX_EXPORT bool isScriptNull(const FExprBase& handle);
 
 inline FCmdType plain(const char* script, const FClassData& cls, FCmdType::Convert convert) {
     return {QString::fromLatin1(script), QString::fromLatin1(script), &cls, convert};

@@ -21,7 +21,7 @@ struct FTokenOperator {
 
 using FOperatorLevel = std::initializer_list<FTokenOperator>;
 
-/// Operators of rows, those that bind least first.
+/** Operators of rows, those that bind least first. */
 const FOperatorLevel rowLevels[] = {
     {{Kind::Or, FOperator::Or}},
     {{Kind::And, FOperator::And}},
@@ -46,8 +46,9 @@ FLiteral numberValue(QStringView text) {
     const QByteArray digits = text.toLatin1();
     qint64 integer = 0;
     const auto result = std::from_chars(digits.begin(), digits.end(), integer);
-    if (result.ec == std::errc() && result.ptr == digits.end())
+    if (result.ec == std::errc() && result.ptr == digits.end()) {
         return integer;
+    }
     return numberFromText(text).value_or(std::nan(""));
 }
 
@@ -59,12 +60,14 @@ FSyntaxExpr FExpressionParser::expression() {
 }
 
 FSyntaxExpr FExpressionParser::row(std::size_t level) {
-    if (level == std::size(rowLevels))
+    if (level == std::size(rowLevels)) {
         return unary();
+    }
     FSyntaxExpr first = row(level + 1);
     std::optional<FOperator> op = findOperator(rowLevels[level], mTokens.kind());
-    if (!op)
+    if (!op) {
         return first;
+    }
     FSyntaxExpr row = beginRow(Node::Row, std::move(first));
     for (; op; op = findOperator(rowLevels[level], mTokens.kind())) {
         addOperator(row, *op);
@@ -77,8 +80,9 @@ FSyntaxExpr FExpressionParser::row(std::size_t level) {
 
 FSyntaxExpr FExpressionParser::unary() {
     const std::optional<FOperator> op = findOperator(prefixes, mTokens.kind());
-    if (!op)
+    if (!op) {
         return power();
+    }
     const FTokenStream::Level level(mTokens);
     FSyntaxExpr result = begin(Node::Unary);
     addOperator(result, *op);
@@ -90,8 +94,9 @@ FSyntaxExpr FExpressionParser::unary() {
 
 FSyntaxExpr FExpressionParser::power() {
     FSyntaxExpr base = chain();
-    if (!mTokens.isAt(Kind::Caret))
+    if (!mTokens.isAt(Kind::Caret)) {
         return base;
+    }
     const FTokenStream::Level level(mTokens);
     FSyntaxExpr row = beginRow(Node::Row, std::move(base));
     addOperator(row, FOperator::Power);
@@ -103,8 +108,9 @@ FSyntaxExpr FExpressionParser::power() {
 
 FSyntaxExpr FExpressionParser::chain() {
     FSyntaxExpr receiver = primary();
-    if (!mTokens.isAt(Kind::Dot))
+    if (!mTokens.isAt(Kind::Dot)) {
         return receiver;
+    }
     FSyntaxExpr chain = beginRow(Node::Chain, std::move(receiver));
     while (mTokens.isAt(Kind::Dot)) {
         FSyntaxExpr next = command();
@@ -148,9 +154,10 @@ FSyntaxExpr FExpressionParser::literal(FLiteral value) {
 FSyntaxExpr FExpressionParser::number() {
     const FLiteral value = numberValue(mTokens.current().text);
     const double* number = std::get_if<double>(&value);
-    if (number != nullptr && std::isinf(*number))
+    if (number != nullptr && std::isinf(*number)) {
         mTokens.fail(mTokens.current().place, QLatin1String("the number ") + mTokens.current().toString() +
                                                   QLatin1String(" is too large: numbers end at about 1.8e308"));
+    }
     return literal(value);
 }
 
@@ -194,8 +201,9 @@ void FExpressionParser::arguments(FSyntaxExpr& call, const char* expectedParen) 
 }
 
 void FExpressionParser::elements(FSyntaxExpr& node, Kind close, const char* expectedClose) {
-    if (mTokens.hasFailed() || mTokens.accept(close))
+    if (mTokens.hasFailed() || mTokens.accept(close)) {
         return;
+    }
     do {
         FSyntaxExpr element = expression();
         const int height = std::max(node.height, element.height + 1);
@@ -226,11 +234,12 @@ void FExpressionParser::addOperator(FSyntaxExpr& node, FOperator kind) {
 }
 
 void FExpressionParser::addOperand(FSyntaxExpr& node, FSyntaxExpr operand, int height) {
-    if (height > greatestHeight)
+    if (height > greatestHeight) {
         mTokens.fail(operand.place,
                      QStringLiteral("more than %1 operators or commands in one expression: use variables "
                                     "for parts of it")
                          .arg(greatestHeight));
+    }
     node.height = height;
     node.operands.push_back(std::move(operand));
 }

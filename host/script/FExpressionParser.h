@@ -3,23 +3,23 @@
 #include "host/script/FSyntaxExpr.h"
 #include "host/script/FTokenStream.h"
 
-/// Reads expressions from a token stream. What it returns is of use only if the stream hasn't failed.
+/** Reads expressions from a token stream. What it returns is of use only if the stream hasn't failed. */
 class FExpressionParser {
  public:
-    /// Bound of FSyntaxExpr::height; what is higher is an error.
+    /** Bound of FSyntaxExpr::height; what is higher is an error. */
     static constexpr int greatestHeight = 10000;
 
     explicit FExpressionParser(FTokenStream& tokens) : mTokens(tokens) {}
 
     FSyntaxExpr expression();
 
-    /// name(arguments)
+    /** name(arguments) */
     FSyntaxExpr call(const char* expectedName, const char* expectedParen);
 
-    /// .command(arguments)
+    /** .command(arguments) */
     FSyntaxExpr command();
 
-    /// (arguments), which become the operands of `call`.
+    /** (arguments), which become the operands of `call`. */
     void arguments(FSyntaxExpr& call, const char* expectedParen);
 
  private:

@@ -34,12 +34,15 @@ Kind kindOfWord(QStringView word) {
 }
 
 Kind kindOfPair(QChar first, QChar second) {
-    if (first == '&' && second == '&')
+    if (first == '&' && second == '&') {
         return Kind::And;
-    if (first == '|' && second == '|')
+    }
+    if (first == '|' && second == '|') {
         return Kind::Or;
-    if (second != '=')
+    }
+    if (second != '=') {
         return Kind::BadCharacter;
+    }
     switch (first.unicode()) {
         case '=':
             return Kind::Equal;
@@ -66,11 +69,11 @@ Kind kindOfSign(QChar sign) {
     return index < 0 ? Kind::BadCharacter : kinds[index];
 }
 
-/// Whether a text that ended at `quote` would end where another one usually begins, as in `name("`.
+/** Whether a text that ended at `quote` would end where another one usually begins, as in `name("`. */
 bool standsLikeOpening(QStringView text, qsizetype quote) {
-    do
+    do {
         --quote;
-    while (quote >= 0 && isBlank(text[quote]));
+    } while (quote >= 0 && isBlank(text[quote]));
     return quote >= 0 && QStringView(u"([,=").contains(text[quote]);
 }
 
@@ -78,19 +81,23 @@ bool standsLikeOpening(QStringView text, qsizetype quote) {
 
 FToken FLexer::next() {
     skipBlanks();
-    if (mPosition == mText.size())
+    if (mPosition == mText.size()) {
         return take(Kind::End, 0);
+    }
     if (const int length = lineEndAt(mPosition)) {
         const FToken token = take(Kind::LineEnd, length);
         beginLine(mPosition);
         return token;
     }
-    if (at(mPosition) == '"')
+    if (at(mPosition) == '"') {
         return takeText();
-    if (isDigitAt(mPosition) || (at(mPosition) == '.' && isDigitAt(mPosition + 1)))
+    }
+    if (isDigitAt(mPosition) || (at(mPosition) == '.' && isDigitAt(mPosition + 1))) {
         return takeNumber();
-    if (const int length = nameLength(mText, static_cast<int>(mPosition)))
+    }
+    if (const int length = nameLength(mText, static_cast<int>(mPosition))) {
         return takeWord(length);
+    }
     return takeSymbol();
 }
 
@@ -108,10 +115,12 @@ FToken FLexer::take(Kind kind, qsizetype length) {
 
 FToken FLexer::takeText() {
     findTextEnd();
-    if (mTextIsOpen)
+    if (mTextIsOpen) {
         return take(Kind::OpenText, 1);
-    if (mIsSkipping && mTextLacksQuote)
+    }
+    if (mIsSkipping && mTextLacksQuote) {
         return take(Kind::Text, 1);
+    }
     const qsizetype begin = mPosition;
     FToken token = take(Kind::Text, mTextEnd - mPosition);
     token.lacksQuote = mTextLacksQuote;
@@ -123,8 +132,9 @@ FToken FLexer::takeText() {
 }
 
 void FLexer::findTextEnd() {
-    if (mTextBegin >= 0 && mPosition >= mTextBegin && mPosition < mTextEnd - (mTextIsOpen ? 0 : 1))
+    if (mTextBegin >= 0 && mPosition >= mTextBegin && mPosition < mTextEnd - (mTextIsOpen ? 0 : 1)) {
         return;
+    }
     const int close = closingQuote(mText, static_cast<int>(mPosition));
     mTextBegin = mPosition;
     mTextIsOpen = close < 0;
@@ -139,8 +149,9 @@ FToken FLexer::takeNumber() {
         // A name behind the point is a command of the number, unless it is the exponent.
         const bool isCommand = behindPoint == end + 1 && exponentFrom(behindPoint) == behindPoint &&
                                nameLength(mText, static_cast<int>(behindPoint)) > 0;
-        if (!isCommand)
+        if (!isCommand) {
             end = behindPoint;
+        }
     }
     end = exponentFrom(end);
     const int letters = nameLength(mText, static_cast<int>(end));
@@ -153,28 +164,31 @@ FToken FLexer::takeWord(int length) {
 
 FToken FLexer::takeSymbol() {
     const Kind pair = kindOfPair(at(mPosition), at(mPosition + 1));
-    if (pair != Kind::BadCharacter)
+    if (pair != Kind::BadCharacter) {
         return take(pair, 2);
+    }
     const bool isSurrogatePair = at(mPosition).isHighSurrogate() && at(mPosition + 1).isLowSurrogate();
     const FToken token = take(kindOfSign(at(mPosition)), isSurrogatePair ? 2 : 1);
-    if (token.kind == Kind::LeftParen || token.kind == Kind::LeftBracket)
+    if (token.kind == Kind::LeftParen || token.kind == Kind::LeftBracket) {
         ++mBrackets;
-    else if (mBrackets > 0 && (token.kind == Kind::RightParen || token.kind == Kind::RightBracket))
+    } else if (mBrackets > 0 && (token.kind == Kind::RightParen || token.kind == Kind::RightBracket)) {
         --mBrackets;
+    }
     return token;
 }
 
 void FLexer::skipBlanks() {
     while (mPosition < mText.size()) {
         const int lineEnd = mBrackets > 0 ? lineEndAt(mPosition) : 0;
-        if (isBlank(mText[mPosition]))
+        if (isBlank(mText[mPosition])) {
             ++mPosition;
-        else if (isCommentAt(mPosition))
+        } else if (isCommentAt(mPosition)) {
             mPosition = lineEndFrom(mPosition, mText.size());
-        else if (lineEnd > 0)
+        } else if (lineEnd > 0) {
             beginLine(mPosition += lineEnd);
-        else
+        } else {
             return;
+        }
     }
 }
 
@@ -202,28 +216,32 @@ void FLexer::endSkipping() {
 }
 
 int FLexer::lineEndAt(qsizetype position) const {
-    if (at(position) == '\r')
+    if (at(position) == '\r') {
         return at(position + 1) == '\n' ? 2 : 1;
+    }
     return at(position) == '\n' ? 1 : 0;
 }
 
-/// The first line end from `position` on; `before` if there is none before that.
+/** The first line end from `position` on; `before` if there is none before that. */
 qsizetype FLexer::lineEndFrom(qsizetype position, qsizetype before) const {
-    while (position < before && lineEndAt(position) == 0)
+    while (position < before && lineEndAt(position) == 0) {
         ++position;
+    }
     return position;
 }
 
 qsizetype FLexer::digitsFrom(qsizetype position) const {
-    while (isDigitAt(position))
+    while (isDigitAt(position)) {
         ++position;
+    }
     return position;
 }
 
-/// The end of the exponent that begins at `position`; `position` itself if none does.
+/** The end of the exponent that begins at `position`; `position` itself if none does. */
 qsizetype FLexer::exponentFrom(qsizetype position) const {
-    if (at(position) != 'e' && at(position) != 'E')
+    if (at(position) != 'e' && at(position) != 'E') {
         return position;
+    }
     const bool isSigned = at(position + 1) == '+' || at(position + 1) == '-';
     const qsizetype digits = position + (isSigned ? 2 : 1);
     return isDigitAt(digits) ? digitsFrom(digits) : position;

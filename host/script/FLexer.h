@@ -2,30 +2,34 @@
 
 #include "host/script/FToken.h"
 
-/// Cuts the text of a script into tokens, one at a time and in linear time. Blanks, comments and, inside ( ) and [ ],
-/// line ends are passed over. The text has to outlive the lexer and its tokens. Copying a lexer is cheap: a copy looks
-/// ahead.
+/**
+ * Cuts the text of a script into tokens, one at a time and in linear time. Blanks, comments and, inside ( ) and [ ],
+ * line ends are passed over. The text has to outlive the lexer and its tokens. Copying a lexer is cheap: a copy looks
+ * ahead.
+ */
 class FLexer {
  public:
     explicit FLexer(QStringView text) : mText(text) {}
 
-    /// The next token; End at the end, as often as it is asked for.
+    /** The next token; End at the end, as often as it is asked for. */
     FToken next();
 
-    /// Takes line ends as blanks, as inside a bracket that never closes.
+    /** Takes line ends as blanks, as inside a bracket that never closes. */
     void ignoreLineEnds() { mBrackets = 1; }
 
-    /// Goes on with the line end behind the present place, whatever stands before that.
+    /** Goes on with the line end behind the present place, whatever stands before that. */
     void skipLine();
 
-    /// Goes on at the end.
+    /** Goes on at the end. */
     void skipAll() { mPosition = mText.size(); }
 
-    /// Begins to pass over a damaged statement: goes on `offset` characters behind the begin of `token`. From now on a
-    /// text that lacks its closing quote is taken for its opening quote alone.
+    /**
+     * Begins to pass over a damaged statement: goes on `offset` characters behind the begin of `token`. From now on a
+     * text that lacks its closing quote is taken for its opening quote alone.
+     */
     void beginSkipping(const FToken& token, int offset);
 
-    /// Goes on with a new statement, outside of all brackets.
+    /** Goes on with a new statement, outside of all brackets. */
     void endSkipping();
 
  private:

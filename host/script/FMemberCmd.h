@@ -1,12 +1,13 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FCmd.h"
 
 /**
  * A command on a receiver. On a list it is carried out for each element of its class, and gives the list of the
  * results as a selection set; a list of one element behaves like the element.
  */
-class FMemberCmd : public FClass<FMemberCmd, FCmd> {
+class MERIX_EXPORT FMemberCmd : public FClass<FMemberCmd, FCmd> {
  public:
     static FClassData mClass;
 
@@ -41,7 +42,7 @@ class FMemberCmd : public FClass<FMemberCmd, FCmd> {
 };
 
 /** A command that sets an attribute, and tells its current value. */
-class FAttribCmd : public FClass<FAttribCmd, FMemberCmd> {
+class MERIX_EXPORT FAttribCmd : public FClass<FAttribCmd, FMemberCmd> {
  public:
     static FClassData mClass;
 

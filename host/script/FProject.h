@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FAutosave.h"
 #include "host/script/FProjectLock.h"
 
@@ -12,7 +13,7 @@
  * `NAME.mrx.autosave~` unsaved work of an earlier session that nobody took, `NAME.mrx.damaged` what couldn't be read
  * whole and was saved over, and `NAME.mrx.lock` tells other processes that it is open.
  */
-class FProject {
+class MERIX_EXPORT FProject {
  public:
     static FProject* instance();
 

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QLockFile>
 #include <QString>
 
 #include <memory>
 
 /** Tells other processes that a project is open here, by a file `NAME.mrx.lock` beside it. */
-class FProjectLock {
+class MERIX_EXPORT FProjectLock {
  public:
     enum class State {
         Held,       //!< by this process

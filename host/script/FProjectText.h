@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -7,7 +9,7 @@
  * The text of a project: a header line that holds the version of the format, then a declaration for each object, in an
  * order in which a name stands before its use. docs/formats/project.md tells the whole.
  */
-class FProjectText {
+class MERIX_EXPORT FProjectText {
  public:
     static constexpr int version = 1;
     /** Largest file, in bytes, that is read. */

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/core/FExprBase.h"
 
 #include <QHash>
@@ -11,7 +12,7 @@
  * What names stand for in one script: its variables, and objects. An object that the script declared under a name that
  * was taken has another name in the model; within the script the declared name means the new object.
  */
-class FScriptNames {
+class MERIX_EXPORT FScriptNames {
  public:
     /** A variable's value, or an object; an empty handle if the name is unknown. */
     FExprBase find(const QString& name) const;

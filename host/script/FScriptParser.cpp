@@ -6,8 +6,9 @@
 namespace {
 
 std::optional<FSyntaxError> sizeError(const QString& text) {
-    if (text.size() <= longestScript)
+    if (text.size() <= longestScript) {
         return std::nullopt;
+    }
     return FSyntaxError{{},
                         QStringLiteral("the script has %1 characters and is not read: the limit is %2, so split it")
                             .arg(text.size())
@@ -30,15 +31,18 @@ FScript parseScript(const QString& text, const QString& file, const FParseMode& 
 }
 
 FParsedExpression parseExpression(const QString& text) {
-    if (const auto error = sizeError(text))
+    if (const auto error = sizeError(text)) {
         return {{}, error};
+    }
     FLexer lexer(text);
     lexer.ignoreLineEnds();
     FTokenStream tokens(lexer);
     FParsedExpression result{FExpressionParser(tokens).expression(), std::nullopt};
-    if (!tokens.isAt(FToken::Kind::End))
+    if (!tokens.isAt(FToken::Kind::End)) {
         tokens.failExpected("the end of the expression");
-    if (tokens.hasFailed())
+    }
+    if (tokens.hasFailed()) {
         result.error = tokens.takeError();
+    }
     return result;
 }

@@ -17,24 +17,28 @@ FSyntaxBody FStatementParser::script() {
 }
 
 std::vector<FSyntaxError> FStatementParser::takeErrors() {
-    if (mTokens.hasFailed())
+    if (mTokens.hasFailed()) {
         mErrors.push_back(mTokens.takeError());
-    if (mUntoldErrors > 0)
+    }
+    if (mUntoldErrors > 0) {
         mErrors.push_back({mErrors.back().place, QStringLiteral("%1 more errors behind this one").arg(mUntoldErrors)});
+    }
     return std::move(mErrors);
 }
 
 FSyntaxBody FStatementParser::statements(FSkipTo kind) {
     FSyntaxBody body;
     for (skipSeparators(); !isAtListEnd(kind); skipSeparators()) {
-        if (skipIgnoredLine())
+        if (skipIgnoredLine()) {
             continue;
+        }
         const FToken begin = mTokens.current();
         FSyntaxStatement next = statement();
-        if (!mTokens.hasFailed())
+        if (!mTokens.hasFailed()) {
             body.push_back(std::move(next));
-        else if (!recover(begin, kind))
+        } else if (!recover(begin, kind)) {
             break;
+        }
     }
     return body;
 }
@@ -45,8 +49,9 @@ bool FStatementParser::isAtListEnd(FSkipTo kind) const {
 
 bool FStatementParser::skipIgnoredLine() {
     const bool ignored = mMode.isObjectArea && mTokens.isAt({Kind::Name, Kind::Colon});
-    if (ignored)
+    if (ignored) {
         mTokens.skipLine();
+    }
     return ignored;
 }
 
@@ -54,19 +59,19 @@ FSyntaxStatement FStatementParser::statement() {
     const FTokenStream::Level level(mTokens);
     FSyntaxStatement result;
     result.place = mTokens.current().place;
-    if (mTokens.isAt(Kind::If))
+    if (mTokens.isAt(Kind::If)) {
         result.content = branches();
-    else if (mTokens.isAt(Kind::While))
+    } else if (mTokens.isAt(Kind::While)) {
         result.content = whileLoop();
-    else if (mTokens.isAt(Kind::For))
+    } else if (mTokens.isAt(Kind::For)) {
         result.content = forLoop();
-    else if (mTokens.isAt(Kind::Ampersand) || mTokens.isAt({Kind::Name, Kind::Name}))
+    } else if (mTokens.isAt(Kind::Ampersand) || mTokens.isAt({Kind::Name, Kind::Name})) {
         result.content = declaration();
-    else if (mTokens.isAt({Kind::Name, Kind::Assign}))
+    } else if (mTokens.isAt({Kind::Name, Kind::Assign})) {
         result.content = assignment();
-    else if (beginsNoStatement(mTokens.kind()))
+    } else if (beginsNoStatement(mTokens.kind())) {
         mTokens.failExpected("a statement");
-    else {
+    } else {
         result.content = mExpressions.expression();
         endStatement();
     }
@@ -82,12 +87,14 @@ FSyntaxDeclaration FStatementParser::declaration() {
     result.namePlace = mTokens.current().place;
     result.name = name("the name of the new object");
     mExpressions.arguments(result.creator, "\"(\" after the name of the new object");
-    if (mTokens.isAt(Kind::LineEnd))
+    if (mTokens.isAt(Kind::LineEnd)) {
         skipLineEnds();
-    else if (!mTokens.isAt(Kind::LeftBrace))
+    } else if (!mTokens.isAt(Kind::LeftBrace)) {
         endStatement();
-    if (mTokens.isAt(Kind::LeftBrace))
+    }
+    if (mTokens.isAt(Kind::LeftBrace)) {
         block(result);
+    }
     return result;
 }
 
@@ -102,19 +109,22 @@ void FStatementParser::block(FSyntaxDeclaration& declaration) {
         }
         const FToken begin = mTokens.current();
         FSyntaxBlockLine line = blockLine();
-        if (!mTokens.hasFailed())
+        if (!mTokens.hasFailed()) {
             declaration.block.push_back(std::move(line));
-        else if (!recover(begin, FSkipTo::BlockLine))
+        } else if (!recover(begin, FSkipTo::BlockLine)) {
             return;
+        }
     }
 }
 
 FSyntaxBlockLine FStatementParser::blockLine() {
     FSyntaxBlockLine line;
-    if (!mTokens.isAt(Kind::Dot))
+    if (!mTokens.isAt(Kind::Dot)) {
         mTokens.failExpected("a command such as .setName(\"text\") or \"}\"");
-    while (mTokens.isAt(Kind::Dot))
+    }
+    while (mTokens.isAt(Kind::Dot)) {
         line.push_back(mExpressions.command());
+    }
     endStatement();
     return line;
 }
@@ -134,8 +144,9 @@ FSyntaxIf FStatementParser::branches() {
         FSyntaxExpr branchCondition = condition("\"(\" after \"if\"");
         result.branches.push_back({std::move(branchCondition), body()});
         skipSeparators();
-        if (!mTokens.accept(Kind::Else))
+        if (!mTokens.accept(Kind::Else)) {
             return result;
+        }
     } while (mTokens.isAt(Kind::If));
     result.otherwise = body();
     return result;
@@ -154,8 +165,9 @@ FSyntaxFor FStatementParser::forLoop() {
     mTokens.expect(Kind::LeftParen, "\"(\" after \"for\"");
     result.variablePlace = mTokens.current().place;
     result.variable = name("the name of a variable");
-    if (mTokens.current().text != QStringView(u"in"))
+    if (mTokens.current().text != QStringView(u"in")) {
         mTokens.failExpected("\"in\" after the variable");
+    }
     mTokens.advance();
     result.list = mExpressions.expression();
     mTokens.expect(Kind::RightParen, "\")\" after the list");
@@ -180,8 +192,9 @@ FSyntaxBody FStatementParser::body() {
         return result;
     }
     result = statements(FSkipTo::NestedStatement);
-    if (!mTokens.accept(Kind::RightBrace))
+    if (!mTokens.accept(Kind::RightBrace)) {
         failAtOpenBlock(open);
+    }
     return result;
 }
 
@@ -197,8 +210,9 @@ QString FStatementParser::name(const char* expected) {
 
 void FStatementParser::endStatement() {
     const bool isSeparated = mTokens.accept(Kind::LineEnd) || mTokens.accept(Kind::Semicolon);
-    if (!isSeparated && !mTokens.isAt(Kind::End) && !mTokens.isAt(Kind::RightBrace))
+    if (!isSeparated && !mTokens.isAt(Kind::End) && !mTokens.isAt(Kind::RightBrace)) {
         mTokens.failExpected("the end of the statement");
+    }
 }
 
 void FStatementParser::skipLineEnds() {
@@ -211,24 +225,28 @@ void FStatementParser::skipSeparators() {
     }
 }
 
-/// Takes down an error and lets the stream go on, if the mode wants that.
+/** Takes down an error and lets the stream go on, if the mode wants that. */
 bool FStatementParser::report() {
-    if (!mMode.recovers)
+    if (!mMode.recovers) {
         return false;
+    }
     const bool isFollowUp = mTokens.isFollowUp();
     FSyntaxError error = mTokens.takeError();
-    if (isFollowUp)
+    if (isFollowUp) {
         return true;
-    if (mErrors.size() < mostErrors)
+    }
+    if (mErrors.size() < mostErrors) {
         mErrors.push_back(std::move(error));
-    else
+    } else {
         ++mUntoldErrors;
+    }
     return true;
 }
 
 bool FStatementParser::recover(const FToken& begin, FSkipTo to) {
     const bool goesOn = report();
-    if (goesOn)
+    if (goesOn) {
         mTokens.skipStatement(begin, to);
+    }
     return goesOn;
 }

@@ -3,10 +3,10 @@
 #include "host/script/FExpressionParser.h"
 #include "host/script/FScriptParser.h"
 
-/// Reads the statements of a script.
+/** Reads the statements of a script. */
 class FStatementParser {
  public:
-    /// `text` has to outlive the parser.
+    /** `text` has to outlive the parser. */
     FStatementParser(QStringView text, const FParseMode& mode)
         : mTokens(FLexer(text)), mExpressions(mTokens), mMode(mode) {}
     FStatementParser(const FStatementParser&) = delete;
@@ -14,7 +14,7 @@ class FStatementParser {
 
     FSyntaxBody script();
 
-    /// The errors of the script as they were found.
+    /** The errors of the script as they were found. */
     std::vector<FSyntaxError> takeErrors();
 
  private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 #include <variant>
 #include <vector>
@@ -26,29 +28,29 @@ enum class FOperator {
     Not
 };
 
-struct FSyntaxOperator {
+struct MERIX_EXPORT FSyntaxOperator {
     FOperator kind;
     FPlace place;
 };
 
-/// NULL, true or false, a number without point and exponent that fits, any other number, a text without its quotes.
+/** NULL, true or false, a number without point and exponent that fits, any other number, a text without its quotes. */
 using FLiteral = std::variant<std::monostate, bool, qint64, double, QString>;
 
-/// An expression as it is written. Nothing is looked up: names and commands may exist or not.
-struct FSyntaxExpr {
+/** An expression as it is written. Nothing is looked up: names and commands may exist or not. */
+struct MERIX_EXPORT FSyntaxExpr {
     enum class Kind {
-        Literal,  ///< `literal`
-        Name,     ///< `name`
-        List,     ///< `operands` are its elements
-        Call,     ///< name(operands); a command of a Chain or a block, which stands behind a dot, is a Call as well
-        Chain,    ///< the first operand receives the first command, each further operand is a command and a Call
-        Unary,    ///< one operator, one operand
-        Row       ///< operands with an operator between each two, to be carried out from left to right
+        Literal,  //!< `literal`
+        Name,     //!< `name`
+        List,     //!< `operands` are its elements
+        Call,     //!< name(operands); a command of a Chain or a block, which stands behind a dot, is a Call as well
+        Chain,    //!< the first operand receives the first command, each further operand is a command and a Call
+        Unary,    //!< one operator, one operand
+        Row       //!< operands with an operator between each two, to be carried out from left to right
     };
 
     Kind kind = Kind::Literal;
-    FPlace place;    ///< of the first character; a command's is that of its name
-    int height = 1;  ///< most nodes on a way down when each operator and command of a row or chain nests the one before
+    FPlace place;    //!< of the first character; a command's is that of its name
+    int height = 1;  //!< most nodes on a way down when each operator and command of a row or chain nests the one before
     FLiteral literal;
     QString name;
     std::vector<FSyntaxExpr> operands;

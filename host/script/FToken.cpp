@@ -6,7 +6,7 @@ namespace {
 
 constexpr int longestShown = 40;
 
-/// The first line of `text`, no longer than what a message bears.
+/** The first line of `text`, no longer than what a message bears. */
 QString shortened(QStringView text) {
     const auto* lineEnd = std::find_if(text.begin(), text.end(), [](QChar c) { return c == '\n' || c == '\r'; });
     const auto shown = std::min<qsizetype>(lineEnd - text.begin(), longestShown);
@@ -28,8 +28,9 @@ QString FToken::toString() const {
         case Kind::Text:
             return QStringLiteral("the text ") + inQuotes(text.mid(1, text.size() - 2));
         case Kind::BadCharacter:
-            if (text.size() == 1 && !text.front().isPrint())
+            if (text.size() == 1 && !text.front().isPrint()) {
                 return QStringLiteral("the character U+%1").arg(uint{text.front().unicode()}, 4, 16, QLatin1Char('0'));
+            }
             break;
         default:
             break;

@@ -4,7 +4,7 @@
 
 #include "host/script/FPlace.h"
 
-/// A word, number, text or sign of a script. It points into the script's text.
+/** A word, number, text or sign of a script. It points into the script's text. */
 struct FToken {
     enum class Kind {
         End,
@@ -19,9 +19,9 @@ struct FToken {
         Null,
         Number,
         Text,
-        OpenText,      ///< a quote that opens a text which nothing closes
-        BadNumber,     ///< digits with letters at their end
-        BadCharacter,  ///< what begins nothing of the language
+        OpenText,      //!< a quote that opens a text which nothing closes
+        BadNumber,     //!< digits with letters at their end
+        BadCharacter,  //!< what begins nothing of the language
         LeftParen,
         RightParen,
         LeftBracket,
@@ -53,11 +53,11 @@ struct FToken {
 
     Kind kind = Kind::End;
     FPlace place;
-    int begin = 0;               ///< position of the first character in the script's text
-    QStringView text;            ///< as it is written, a text with its quotes
-    bool isFirstOnLine = false;  ///< nothing but blanks stands before it on its line
-    bool lacksQuote = false;     ///< a text over several lines that ends where another seems to begin
+    int begin = 0;               //!< position of the first character in the script's text
+    QStringView text;            //!< as it is written, a text with its quotes
+    bool isFirstOnLine = false;  //!< nothing but blanks stands before it on its line
+    bool lacksQuote = false;     //!< a text over several lines that ends where another seems to begin
 
-    /// The token as a message tells of it: "}", the text "abc", the end of the line. Long ones are cut.
+    /** The token as a message tells of it: "}", the text "abc", the end of the line. Long ones are cut. */
     QString toString() const;
 };

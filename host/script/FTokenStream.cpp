@@ -3,20 +3,23 @@
 using Kind = FToken::Kind;
 
 FTokenStream::Level::Level(FTokenStream& tokens) : mTokens(tokens) {
-    if (++tokens.mNesting > deepestNesting)
+    if (++tokens.mNesting > deepestNesting) {
         tokens.fail(
             tokens.mCurrent.place,
             QStringLiteral("nested more than %1 levels deep: use variables for inner parts").arg(deepestNesting));
+    }
 }
 
 bool FTokenStream::isAt(std::initializer_list<Kind> kinds) const {
-    if (mError)
+    if (mError) {
         return false;
+    }
     FLexer ahead = mLexer;
     FToken token = mCurrent;
     for (const Kind* kind = kinds.begin(); token.kind == *kind; token = ahead.next()) {
-        if (++kind == kinds.end())
+        if (++kind == kinds.end()) {
             return true;
+        }
     }
     return false;
 }
@@ -31,8 +34,9 @@ QString FTokenStream::tooMany() {
 }
 
 void FTokenStream::advance() {
-    if (mError)
+    if (mError) {
         return;
+    }
     mPrevious = mCurrent;
     if (++mTokenCount > mostTokens) {
         fail(mCurrent.place, tooMany() + QStringLiteral(": what follows isn't read"));
@@ -43,31 +47,36 @@ void FTokenStream::advance() {
 
 bool FTokenStream::accept(Kind kind) {
     const bool accepted = isAt(kind);
-    if (accepted)
+    if (accepted) {
         advance();
+    }
     return accepted;
 }
 
 void FTokenStream::expect(Kind kind, const char* expected) {
-    if (!accept(kind))
+    if (!accept(kind)) {
         failExpected(expected);
+    }
 }
 
 void FTokenStream::failExpected(const QString& expected) {
-    if (mError)
+    if (mError) {
         return;
-    if (mCurrent.kind == Kind::OpenText)
+    }
+    if (mCurrent.kind == Kind::OpenText) {
         fail(mCurrent.place, QStringLiteral("the text that begins here has no end: expected a closing \""));
-    else if (mCurrent.kind == Kind::BadNumber)
+    } else if (mCurrent.kind == Kind::BadNumber) {
         fail(mCurrent.place,
              mCurrent.toString() + QLatin1String(" is no number and no name: a name begins with a letter"));
-    else
+    } else {
         fail(mCurrent.place, QLatin1String("expected ") + expected + QLatin1String(", found ") + mCurrent.toString());
+    }
 }
 
 void FTokenStream::fail(const FPlace& place, const QString& message) {
-    if (!mError)
+    if (!mError) {
         mError = FSyntaxError{place, message};
+    }
 }
 
 FSyntaxError FTokenStream::takeError() {
@@ -81,8 +90,10 @@ void FTokenStream::skipLine() {
     advance();
 }
 
-/// Goes back to where the statement seems to have lost its end: to a quote, or, if an open bracket made it run on into
-/// further lines, to its first line. The latter is done once for each line, so that it costs linear time.
+/**
+ * Goes back to where the statement seems to have lost its end: to a quote, or, if an open bracket made it run on into
+ * further lines, to its first line. The latter is done once for each line, so that it costs linear time.
+ */
 void FTokenStream::beginSkipping(const FToken& begin) {
     if (mCurrent.lacksQuote) {
         mLexer.beginSkipping(mCurrent, 1);
@@ -101,10 +112,11 @@ void FTokenStream::skipStatement(const FToken& begin, FSkipTo to) {
     int openBraces = 0;
     for (mCurrent = mLexer.next(); !canGoOn(begin, to, openBraces > 0); mCurrent = mLexer.next()) {
         const Kind kind = mCurrent.kind;
-        if (kind == Kind::LeftBrace && to != FSkipTo::BlockLine)
+        if (kind == Kind::LeftBrace && to != FSkipTo::BlockLine) {
             ++openBraces;
-        else if (kind == Kind::RightBrace && openBraces > 0)
+        } else if (kind == Kind::RightBrace && openBraces > 0) {
             --openBraces;
+        }
         const bool canEnd = openBraces == 0 && (kind == Kind::Semicolon || kind == Kind::RightBrace);
         if (canEnd || kind == Kind::End) {
             mLexer.endSkipping();
@@ -117,14 +129,18 @@ void FTokenStream::skipStatement(const FToken& begin, FSkipTo to) {
 
 bool FTokenStream::canGoOn(const FToken& begin, FSkipTo to, bool isInBraces) const {
     const bool beginsLine = mCurrent.isFirstOnLine && mCurrent.begin > begin.begin;
-    if (isInBraces)
+    if (isInBraces) {
         return beginsLine && isAtDeclaration();
-    if (mCurrent.kind == Kind::RightBrace)
+    }
+    if (mCurrent.kind == Kind::RightBrace) {
         return to != FSkipTo::Statement;
-    if (!beginsLine)
+    }
+    if (!beginsLine) {
         return false;
-    if (to == FSkipTo::BlockLine)
+    }
+    if (to == FSkipTo::BlockLine) {
         return mCurrent.kind == Kind::Dot || isAtDeclaration();
+    }
     return mCurrent.kind == Kind::Name || mCurrent.kind == Kind::Ampersand || mCurrent.kind == Kind::If ||
            mCurrent.kind == Kind::While || mCurrent.kind == Kind::For;
 }

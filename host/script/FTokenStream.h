@@ -6,23 +6,25 @@
 #include "host/script/FLexer.h"
 #include "host/script/FSyntaxError.h"
 
-/// The tokens of a script as a parser wants them: one at a time, with questions about it, and with the first error.
-/// After an error the stream stands still and its token is of no kind, so that a parser runs to its end by itself and
-/// asks for the error only where it matters.
+/**
+ * The tokens of a script as a parser wants them: one at a time, with questions about it, and with the first error.
+ * After an error the stream stands still and its token is of no kind, so that a parser runs to its end by itself and
+ * asks for the error only where it matters.
+ */
 class FTokenStream {
  public:
     static constexpr int deepestNesting = 200;
-    /// Bounds the memory that the syntax of a script takes; what stands behind is an error and not read.
+    /** Bounds the memory that the syntax of a script takes; what stands behind is an error and not read. */
     static constexpr int mostTokens = 8'000'000;
 
-    /// Where passing over a damaged statement may stop.
+    /** Where passing over a damaged statement may stop. */
     enum class FSkipTo {
-        Statement,        ///< where a statement begins a line, or behind a closing brace
-        NestedStatement,  ///< where a statement begins a line, or at a closing brace
-        BlockLine         ///< where a command or a declaration begins a line, or at a closing brace
+        Statement,        //!< where a statement begins a line, or behind a closing brace
+        NestedStatement,  //!< where a statement begins a line, or at a closing brace
+        BlockLine         //!< where a command or a declaration begins a line, or at a closing brace
     };
 
-    /// One level of nesting as long as it lives; deeper than deepestNesting is an error.
+    /** One level of nesting as long as it lives; deeper than deepestNesting is an error. */
     class Level {
      public:
         explicit Level(FTokenStream& tokens);
@@ -34,7 +36,7 @@ class FTokenStream {
         FTokenStream& mTokens;
     };
 
-    /// What to say of a text with more.
+    /** What to say of a text with more. */
     static QString tooMany();
 
     explicit FTokenStream(const FLexer& lexer) : mLexer(lexer), mCurrent(mLexer.next()) {}
@@ -43,32 +45,36 @@ class FTokenStream {
     FToken::Kind kind() const { return mError ? FToken::Kind::BadCharacter : mCurrent.kind; }
     bool isAt(FToken::Kind kind) const { return !mError && mCurrent.kind == kind; }
 
-    /// Whether the present token and those behind it are of these kinds.
+    /** Whether the present token and those behind it are of these kinds. */
     bool isAt(std::initializer_list<FToken::Kind> kinds) const;
     bool isAtDeclaration() const;
 
     void advance();
     bool accept(FToken::Kind kind);
 
-    /// Passes over a token of this kind, or fails with `expected` in the message.
+    /** Passes over a token of this kind, or fails with `expected` in the message. */
     void expect(FToken::Kind kind, const char* expected);
 
     void failExpected(const QString& expected);
     void fail(const FPlace& place, const QString& message);
     bool hasFailed() const { return mError.has_value(); }
 
-    /// The error; the stream goes on after that.
+    /** The error; the stream goes on after that. */
     FSyntaxError takeError();
 
-    /// Goes on with the next line.
+    /** Goes on with the next line. */
     void skipLine();
 
-    /// Whether the error stands where text that was read well before is read anew, and so only follows from an earlier
-    /// one.
+    /**
+     * Whether the error stands where text that was read well before is read anew, and so only follows from an earlier
+     * one.
+     */
     bool isFollowUp() const { return mCurrent.begin <= mReadBefore; }
 
-    /// After takeError: passes over the rest of the statement that begins with `begin`, its block included.
-    /// A quote, bracket or brace missing or too much in it costs nothing of what follows it.
+    /**
+     * After takeError: passes over the rest of the statement that begins with `begin`, its block included.
+     * A quote, bracket or brace missing or too much in it costs nothing of what follows it.
+     */
     void skipStatement(const FToken& begin, FSkipTo to);
 
  private:
@@ -81,5 +87,5 @@ class FTokenStream {
     std::optional<FSyntaxError> mError;
     int mNesting = 0;
     int mTokenCount = 0;
-    int mReadBefore = -1;  ///< position of the last error from which reading went back by whole lines
+    int mReadBefore = -1;  //!< position of the last error from which reading went back by whole lines
 };

@@ -17,8 +17,9 @@ FLaunchResult failure(const char* step, int errorNumber) {
 // A named pipe without a partner would block the opening for ever, hence O_NONBLOCK; the program doesn't expect it.
 bool redirect(const char* file, int flags, int target) {
     const int opened = open(file, flags | O_NONBLOCK | O_CLOEXEC, 0666);
-    if (opened < 0)
+    if (opened < 0) {
         return false;
+    }
     const int status = fcntl(opened, F_GETFL);
     const bool done = fcntl(opened, F_SETFL, status & ~O_NONBLOCK) == 0 && dup2(opened, target) == target;
     close(opened);
@@ -26,7 +27,7 @@ bool redirect(const char* file, int flags, int target) {
 }
 
 // Appending lets both output streams share a file.
-constexpr int kOutputFlags = O_WRONLY | O_CREAT | O_TRUNC | O_APPEND;
+constexpr int outputFlags = O_WRONLY | O_CREAT | O_TRUNC | O_APPEND;
 
 [[noreturn]] void becomeProgram(char** command, int failurePipe) {
     setpgid(0, 0);
@@ -49,32 +50,40 @@ int readFailure(int pipe) {
 
 FLaunchResult startProgram(char** command) {
     int failurePipe[2];
-    if (pipe2(failurePipe, O_CLOEXEC) != 0)
+    if (pipe2(failurePipe, O_CLOEXEC) != 0) {
         return failure("program", errno);
+    }
     const pid_t pid = fork();
-    if (pid == 0)
+    if (pid == 0) {
         becomeProgram(command, failurePipe[1]);
+    }
     const int forkError = errno;
     close(failurePipe[1]);
     const int errorNumber = pid < 0 ? forkError : readFailure(failurePipe[0]);
     close(failurePipe[0]);
-    if (errorNumber == 0)
+    if (errorNumber == 0) {
         return {pid, nullptr, 0};
-    if (pid > 0)
+    }
+    if (pid > 0) {
         waitpid(pid, nullptr, 0);
+    }
     return failure("program", errorNumber);
 }
 
 }  // namespace
 
 FLaunchResult launch(const FLaunch& what) {
-    if (chdir(what.folder) != 0)
+    if (chdir(what.folder) != 0) {
         return failure("folder", errno);
-    if (!redirect(what.input, O_RDONLY, STDIN_FILENO))
+    }
+    if (!redirect(what.input, O_RDONLY, STDIN_FILENO)) {
         return failure("input", errno);
-    if (!redirect(what.output, kOutputFlags, STDOUT_FILENO))
+    }
+    if (!redirect(what.output, outputFlags, STDOUT_FILENO)) {
         return failure("output", errno);
-    if (!redirect(what.error, kOutputFlags, STDERR_FILENO))
+    }
+    if (!redirect(what.error, outputFlags, STDERR_FILENO)) {
         return failure("error", errno);
+    }
     return startProgram(what.command);
 }

@@ -15,9 +15,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kKillInterval = 20ms;
+constexpr auto killInterval = 20ms;
 // Nothing survives SIGKILL for long but what waits for a dead disk or belongs to another user.
-constexpr auto kKillTime = 5s;
+constexpr auto killTime = 5s;
 
 int openSignals() {
     sigset_t set;
@@ -132,12 +132,12 @@ void FSupervisor::beginEnding(const char* reason) {
 void FSupervisor::killAll() {
     if (mPhase == Phase::Asked) {
         mPhase = Phase::Killing;
-        mGiveUp = Clock::now() + kKillTime;
+        mGiveUp = Clock::now() + killTime;
     }
     for (const FProcessEntry& process : descendants(getpid())) {
         kill(process.pid, SIGKILL);
     }
-    mDeadline = Clock::now() + kKillInterval;
+    mDeadline = Clock::now() + killInterval;
     if (mDeadline >= mGiveUp) {
         mPhase = Phase::GivenUp;
     }

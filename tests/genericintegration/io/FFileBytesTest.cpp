@@ -18,13 +18,14 @@ namespace {
 constexpr qint64 LineSize = 16;
 constexpr qint64 LargeSize = 4 * FFileBytes::MappedSize;
 
-/// A large file of lines `force  1234567\n` that tests cut and let grow.
+/** A large file of lines `force  1234567\n` that tests cut and let grow. */
 class FFileBytesTest : public testing::Test {
  protected:
     FFileBytesTest() {
         QByteArray text;
-        for (int line = 0; text.size() < LargeSize; ++line)
+        for (int line = 0; text.size() < LargeSize; ++line) {
             text += "force  " + QByteArray::number(1'000'000 + line) + " \n";
+        }
         mFile.open(QIODevice::ReadWrite);
         mFile.write(text);
         mFile.flush();
@@ -105,7 +106,8 @@ TEST(FFileBytesChangeTest, searchesStayWithinATextWhoseBytesChange) {
             FResultText::fromFile(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
         std::copy_n(after.begin(), std::min(before.size(), after.size()), bytes.begin());
         const std::vector<FValueDescription> values = cases.values(content);
-        for (const FFoundValue& value : FValueSearch(values, cases.separators()).find(text).values)
+        for (const FFoundValue& value : FValueSearch(values, cases.separators()).find(text).values) {
             EXPECT_LE(value.line, static_cast<qint64>(bytes.size()) + 1);
+        }
     }
 }

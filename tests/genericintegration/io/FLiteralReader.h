@@ -9,7 +9,7 @@
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueDescription.h"
 
-/// The rules of the reader told step by step, as slowly as they are told, on a decoded text and for each value anew.
+/** The rules of the reader told step by step, as slowly as they are told, on a decoded text and for each value anew. */
 namespace FLiteralReader {
 
 struct Found {

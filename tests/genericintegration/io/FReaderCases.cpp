@@ -45,24 +45,29 @@ const QStringList Alphabets = {
 QString FReaderCases::letters() {
     const QString alphabet = pick(Alphabets);
     QString text;
-    while (text.size() < 6000)
+    while (text.size() < 6000) {
         text += alphabet.at(below(alphabet.size()));
+    }
     return text;
 }
 
 QString FReaderCases::text(bool halfPairs) {
-    if (below(15) == 0)
+    if (below(15) == 0) {
         return letters();
+    }
     QString text = below(6) == 0 ? "\n" : "";
     const int parts = below(12) == 0 ? 700 : below(40);
     for (int i = 0; i < parts; ++i) {
         text += below(2) == 0 ? pick(Words) : pick(Numbers);
-        if (below(4) != 0)
+        if (below(4) != 0) {
             text += pick(Blanks);
-        if (below(40) == 0)
+        }
+        if (below(40) == 0) {
             text += QChar(QChar::Null);
-        if (halfPairs && below(10) == 0)
+        }
+        if (halfPairs && below(10) == 0) {
             text += QChar(below(2) == 0 ? 0xD801 : 0xDC00);
+        }
     }
     return text;
 }
@@ -76,13 +81,16 @@ QByteArray FReaderCases::file(const QString& text) {
         return bytes;
     }
     QByteArray bytes = (below(4) == 0 ? "\xEF\xBB\xBF" : "") + text.toUtf8();
-    for (int damages = below(3) == 0 ? below(6) : 0; damages > 0; --damages)
+    for (int damages = below(3) == 0 ? below(6) : 0; damages > 0; --damages) {
         bytes.insert(below(bytes.size() + 1), char(128 + below(128)));
-    if (below(8) == 0)
+    }
+    if (below(8) == 0) {
         bytes.chop(below(3));
+    }
     // Across the pieces in which a text stream decodes.
-    if (below(30) == 0)
+    if (below(30) == 0) {
         bytes.prepend(QByteArray("x\n").repeated(8192 - below(3) * below(bytes.size() / 2 + 1)));
+    }
     return bytes;
 }
 
@@ -92,13 +100,15 @@ FSeparatorSettings FReaderCases::separators() {
 }
 
 QString FReaderCases::anchor(const QString& text) {
-    if (below(3) == 0)
+    if (below(3) == 0) {
         return pick(Words);
+    }
     static const int lengths[] = {4, 4, 4, 9, 20, 70};
     const int longest = lengths[below(6)];  // longer ones are searched in longer steps
     QString part = text.mid(below(text.size() + 1), 1 + below(longest));
-    if (below(2) == 0)
+    if (below(2) == 0) {
         part = below(2) == 0 ? part.toLower() : part.toUpper();
+    }
     return part.isValidUtf16() ? part : QString();
 }
 

@@ -13,8 +13,9 @@ TEST(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {
     ASSERT_TRUE(search.add(U"aeiowxyz"));
     for (size_t before = 0; before < 32; ++before) {
         std::string content(before, ' ');
-        for (int i = 0; i < 64; ++i)
+        for (int i = 0; i < 64; ++i) {
             content += "wxyz ";
+        }
         const qint64 end = static_cast<qint64>(content.size()) + 8;
         content += "aeiowxyz" + std::string(FShortWordSearch::Margin, ' ');
         EXPECT_EQ(end, search.find(content).front().begin) << before;
@@ -23,13 +24,15 @@ TEST(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {
 
 TEST(FShortWordSearchTest, theProcessorsHelpChangesNothing) {
     FByteQuads quads;
-    for (size_t set = 0; set < FByteQuads::SetCount; ++set)
+    for (size_t set = 0; set < FByteQuads::SetCount; ++set) {
         quads.assign(set, FQuadSet(FShortWord(std::u32string(1 + set % 4, U'a' + char32_t(set % 3)), set)));
+    }
     const std::string_view letters = "aAbBcC \n0123\xE1";
     std::mt19937 random;
     std::string content;
-    while (content.size() < 20'000)
+    while (content.size() < 20'000) {
         content += letters[random() % letters.size()];
+    }
     FByteQuads::Block quick;
     FByteQuads::Block plain;
     for (qint64 offset = 0, met = 0; met >= 0; offset = met + 7) {

@@ -40,8 +40,9 @@ TEST(FSuspicionTest, numbersThatWereCutPassedOverOrTouchSomething) {
         {"1 information 2", 1, {}},
         {" 1.5 -2e-3 [m] 30s 5%", 3, {}},
     };
-    for (const auto& row : cases)
+    for (const auto& row : cases) {
         EXPECT_EQ(row.flags, flagsOf(row.line, row.column, {true, false, ""})) << row.line << " column " << row.column;
+    }
     EXPECT_EQ(FFoundFlag::ColumnMissing | FFoundFlag::Stars, flagsOf("1 ****", 1, {true, false, ""}));
     EXPECT_EQ(FFoundFlags(FFoundFlag::Stars), flagsOf("1 ****", 1, {true, false, ""}) & SuspiciousFlags);
 }

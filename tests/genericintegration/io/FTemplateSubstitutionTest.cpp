@@ -46,7 +46,7 @@ TEST(FTemplateSubstitutionTest, survivesAValueThatChangesTheTemplate) {
     EXPECT_EQ(output, "11end");
 }
 
-/// Texts made of few pieces, so that names, keys and half tags meet often.
+/** Texts made of few pieces, so that names, keys and half tags meet often. */
 class RandomTexts {
  public:
     explicit RandomTexts(unsigned seed) : mRandom(seed) {}

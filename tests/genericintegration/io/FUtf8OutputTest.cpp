@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The bytes of a text that is written in pieces of the given lengths, the last one being repeated.
+/** The bytes of a text that is written in pieces of the given lengths, the last one being repeated. */
 QByteArray bytesOf(QStringView text, const std::vector<int>& lengths) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -26,7 +26,7 @@ QByteArray bytesOf(QStringView text, const std::vector<int>& lengths) {
     return buffer.data();
 }
 
-/// Runs of units of one kind each, so that plain blocks begin and end anywhere.
+/** Runs of units of one kind each, so that plain blocks begin and end anywhere. */
 QString randomText(std::mt19937& random) {
     static const QString kinds[] = {"a~ \n\x7f", QString::fromUtf8("\u0080äß\u07ff"),
                                     QString::fromUtf8("\u0800€\uffff"), QString::fromUtf8("😀𐀀"),

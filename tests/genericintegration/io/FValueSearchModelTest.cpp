@@ -16,7 +16,7 @@ quint32 caseCount() {
     return static_cast<quint32>(randomCases(2000));
 }
 
-/// What stands in the content where a value is said to have been found.
+/** What stands in the content where a value is said to have been found. */
 QString textAt(const QString& content, const FFoundValue& value) {
     const QString line = content.section('\n', static_cast<int>(value.line - 1), static_cast<int>(value.line - 1));
     return line.mid(static_cast<int>(value.column - 1), static_cast<int>(value.length));
@@ -44,10 +44,11 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
         const quint64 bits =
             wanted.number != wanted.number ? 0x7FF8000000000000 : std::bit_cast<quint64>(wanted.number);
         EXPECT_EQ(bits, std::bit_cast<quint64>(value.number)) << about.toStdString();
-        if (value.length >= 0)
+        if (value.length >= 0) {
             EXPECT_EQ(foundText, textAt(content, value)) << about.toStdString();
-        else
+        } else {
             EXPECT_TRUE(foundText.isEmpty() && value.flags != 0) << about.toStdString();
+        }
     }
 }
 

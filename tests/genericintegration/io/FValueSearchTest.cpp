@@ -47,8 +47,9 @@ TEST(FValueSearchTest, whatIsNotFoundHasItsReason) {
 TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {
     const QByteArray text = QByteArray("12.5, abc;").repeated(2'000'000);
     std::vector<FValueDescription> values(1000);
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         values[static_cast<size_t>(i)] = at(-i % 3, 1999 * (i + 1), i % 2 == 0 ? "none" : "");
+    }
     for (const FSeparatorSettings& separators : {Numbers, FSeparatorSettings{false, false, ";"}}) {
         const FResultText file = FResultText::fromFile(text);
         const FFoundValues found = FValueSearch(values, separators).find(file);
@@ -60,8 +61,9 @@ TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {
 TEST(FValueSearchTest, aFileOfEmptyLinesIsNotReadAnewForEachValue) {
     const QByteArray text(4'000'000, '\n');
     std::vector<FValueDescription> values(1000);
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         values[static_cast<size_t>(i)] = at(4'000 * (i - 500), 0, i % 2 == 0 ? "\n" : QString(i + 1, '\n'));
+    }
     values.push_back(lastRows(4'294'967'295));
     for (const QByteArray& end : {QByteArray(), QByteArray("7")}) {
         const FFoundValues found = FValueSearch(values, Numbers).find(FResultText::fromFile(text + end));

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The rules of template writing once more, step by step and slowly: what the fast writer must agree with.
+/** The rules of template writing once more, step by step and slowly: what the fast writer must agree with. */
 struct SlowTemplateModel {
     struct Row {
         QString text;

@@ -22,8 +22,9 @@ TEST(FNearestNameTest, closeNamesAreFound) {
                                                          {"sp", ""},
                                                          {"", ""},
                                                          {"spanspan", ""}};
-    for (const auto& [name, nearest] : cases)
+    for (const auto& [name, nearest] : cases) {
         EXPECT_EQ(nearestName(name, known).toStdString(), nearest) << name;
+    }
 }
 
 TEST(FNearestNameTest, longNamesCostLinearTime) {

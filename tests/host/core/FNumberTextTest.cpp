@@ -21,8 +21,9 @@ TEST(FNumberTextTest, textIsShortAndPlain) {
                                                     {std::numeric_limits<double>::quiet_NaN(), "NaN"},
                                                     {std::numeric_limits<double>::infinity(), "Inf"},
                                                     {-std::numeric_limits<double>::infinity(), "-Inf"}};
-    for (const auto& [value, text] : cases)
+    for (const auto& [value, text] : cases) {
         EXPECT_EQ(numberText(value).toStdString(), text);
+    }
 }
 
 TEST(FNumberTextTest, everyDoubleIsReadBack) {
@@ -32,10 +33,11 @@ TEST(FNumberTextTest, everyDoubleIsReadBack) {
         const double value = i % 2 == 0 ? drawn : std::round(std::remainder(drawn, 1e16));
         const auto read = numberFromText(numberText(value));
         ASSERT_TRUE(read) << value;
-        if (std::isnan(value))
+        if (std::isnan(value)) {
             EXPECT_TRUE(std::isnan(*read));
-        else
+        } else {
             ASSERT_EQ(std::bit_cast<quint64>(*read), std::bit_cast<quint64>(value));
+        }
     }
 }
 
@@ -45,6 +47,7 @@ TEST(FNumberTextTest, readsWholeTextsOnly) {
     EXPECT_EQ(numberFromText(u"-Inf"), -std::numeric_limits<double>::infinity());
     EXPECT_EQ(numberFromText(u"-1e999"), -std::numeric_limits<double>::infinity());
     EXPECT_EQ(numberFromText(u"1e-999"), 0.0);
-    for (const QStringView text : {u"", u"-", u"1,5", u" 1", u"1 ", u"1e", u"0x10", u"1.2.3", u"\u0661"})
+    for (const QStringView text : {u"", u"-", u"1,5", u" 1", u"1 ", u"1e", u"0x10", u"1.2.3", u"\u0661"}) {
         EXPECT_FALSE(numberFromText(text)) << text.toString().toStdString();
+    }
 }

@@ -27,10 +27,12 @@ TEST(FObjectNameTest, illegalTextsAreCorrected) {
 TEST(FObjectNameTest, takenNamesGetTheFirstFreeNumber) {
     QSet<QString> names;
     const auto taken = [&names](const QString& name) { return names.contains(name); };
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 12; ++i) {
         names.insert(uniqueName("a", taken));
-    for (const char* name : {"a", "a_01", "a_09", "a_10", "a_11"})
+    }
+    for (const char* name : {"a", "a_01", "a_09", "a_10", "a_11"}) {
         EXPECT_TRUE(names.contains(name)) << name;
+    }
     names.remove("a_03");
     EXPECT_EQ(uniqueName("a", taken), QString("a_03"));
 }

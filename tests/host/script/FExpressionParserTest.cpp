@@ -51,8 +51,9 @@ TEST(FExpressionParserTest, expressions) {
         {"a\a", "f:1:2: expected the end of the expression, found the character U+0007"},
         {"(\r\r\n\n ?", "f:4:2: expected a value, found \"?\""},
     };
-    for (const auto& [text, expected] : cases)
+    for (const auto& [text, expected] : cases) {
         EXPECT_EQ(parsed(text), expected) << text;
+    }
 }
 
 TEST(FExpressionParserTest, depthIsBounded) {

@@ -20,10 +20,11 @@ std::string printed(const std::string& format, const FFormatValue& value) {
     std::string wide = format;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-    if (const auto* integer = std::get_if<qint64>(&value))
+    if (const auto* integer = std::get_if<qint64>(&value)) {
         std::snprintf(buffer, sizeof buffer, wide.insert(wide.size() - 1, "ll").c_str(), *integer);
-    else
+    } else {
         std::snprintf(buffer, sizeof buffer, format.c_str(), std::get<double>(value));
+    }
 #pragma GCC diagnostic pop
     return buffer;
 }
@@ -41,22 +42,27 @@ TEST(FNumberFormatTest, agreesWithPrintf) {
         0, 1, -1, 8, 255, -4711, std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max()};
     for (int i = 0; i < 50000; ++i) {
         std::string format = "%";
-        for (auto n = random() % 3; n > 0; --n)
+        for (auto n = random() % 3; n > 0; --n) {
             format += pick("-+ #0");
-        if (random() % 2 == 0)
+        }
+        if (random() % 2 == 0) {
             format += std::to_string(1 + random() % 20);
-        if (random() % 2 == 0)
+        }
+        if (random() % 2 == 0) {
             format.append(".").append(std::to_string(random() % 18));
+        }
         const bool isInteger = random() % 2 == 0;
         format += pick(isInteger ? "dixXo" : "eEfFgG");
         const FFormatValue value = isInteger ? FFormatValue(integers[random() % std::size(integers)])
                                              : FFormatValue(doubles[random() % std::size(doubles)]);
         // Flags that contradict each other or mean nothing for a conversion are undefined in printf.
         if (isInteger && format.find_first_of("xXo") != std::string::npos &&
-            format.find_first_of("+ ") != std::string::npos)
+            format.find_first_of("+ ") != std::string::npos) {
             continue;
-        if (format.find_first_of("di") != std::string::npos && format.find('#') != std::string::npos)
+        }
+        if (format.find_first_of("di") != std::string::npos && format.find('#') != std::string::npos) {
             continue;
+        }
         ASSERT_EQ(formatted(QString::fromStdString(format), value), printed(format, value)) << format;
     }
 }

@@ -45,6 +45,7 @@ TEST(FScriptParserTest, damagedTextsCostLinearTime) {
                              "(\"" + repeated(" \n", 200000) + "\"",
                              repeated("\"", 100001),
                              "[" + repeated("\"a\", ", 100000)};
-    for (const QString& text : texts)
+    for (const QString& text : texts) {
         EXPECT_FALSE(parseScript(text, "s", recovering).errors.empty());
+    }
 }

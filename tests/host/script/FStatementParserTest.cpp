@@ -50,8 +50,9 @@ TEST(FStatementParserTest, statements) {
         {"curFile : in1", "s:1:9: expected the end of the statement, found \":\"\n"},
         {"a\nb(\"x)\n", "a\ns:2:3: the text that begins here has no end: expected a closing \"\n"},
     };
-    for (const auto& [text, expected] : cases)
+    for (const auto& [text, expected] : cases) {
         EXPECT_EQ(parsed(text), expected) << text;
+    }
 }
 
 TEST(FStatementParserTest, aDamagedLineOfABlockLosesNoOther) {
@@ -62,8 +63,9 @@ TEST(FStatementParserTest, aDamagedLineOfABlockLosesNoOther) {
     for (const char* line : lines) {
         const std::string result =
             recovered("p o(1) {\n.b(2)\n" + QString(line) + "\n.c(\"3\")\n}\np q(\"r\") {\n.d(1)\n}\n");
-        for (const char* kept : {"p o(1){.b(2);", ".c(\"3\");}\n", "p q(\"r\"){.d(1);}\n", "s:"})
+        for (const char* kept : {"p o(1){.b(2);", ".c(\"3\");}\n", "p q(\"r\"){.d(1);}\n", "s:"}) {
             EXPECT_NE(result.find(kept), std::string::npos) << line << "\n-> " << result;
+        }
         EXPECT_EQ(result.find(".a("), std::string::npos) << result;
     }
 }

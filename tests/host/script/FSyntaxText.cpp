@@ -14,7 +14,7 @@ QString signOf(const FSyntaxOperator& op) {
     return signs[static_cast<int>(op.kind)];
 }
 
-/// With the point that tells it from an integer.
+/** With the point that tells it from an integer. */
 QString doubleText(double number) {
     const QString text = numberText(number);
     return text.contains('.') || text.contains('e') ? text : text + ".";
@@ -22,40 +22,46 @@ QString doubleText(double number) {
 
 QString joined(const std::vector<FSyntaxExpr>& operands, const char* separator) {
     QString text;
-    for (const FSyntaxExpr& operand : operands)
+    for (const FSyntaxExpr& operand : operands) {
         text += (text.isEmpty() ? "" : separator) + textOf(operand);
+    }
     return text;
 }
 
 QString literalText(const FLiteral& literal) {
-    if (const auto* text = std::get_if<QString>(&literal))
+    if (const auto* text = std::get_if<QString>(&literal)) {
         return quoteText(*text);
-    if (const auto* number = std::get_if<double>(&literal))
+    }
+    if (const auto* number = std::get_if<double>(&literal)) {
         return doubleText(*number);
-    if (const auto* integer = std::get_if<qint64>(&literal))
+    }
+    if (const auto* integer = std::get_if<qint64>(&literal)) {
         return QString::number(*integer);
+    }
     const auto* truth = std::get_if<bool>(&literal);
     return truth == nullptr ? "NULL" : *truth ? "true" : "false";
 }
 
 QString rowText(const FSyntaxExpr& row) {
     QString text = "(" + textOf(row.operands.front());
-    for (std::size_t i = 0; i < row.operators.size(); ++i)
+    for (std::size_t i = 0; i < row.operators.size(); ++i) {
         text += " " + signOf(row.operators[i]) + " " + textOf(row.operands[i + 1]);
+    }
     return text + ")";
 }
 
-/// A command's dot behind a number could be taken for its point.
+/** A command's dot behind a number could be taken for its point. */
 QString chainText(const FSyntaxExpr& chain) {
     const QString receiver = textOf(chain.operands.front());
     const bool isLiteral = chain.operands.front().kind == FSyntaxExpr::Kind::Literal;
     QString text = isLiteral ? "(" + receiver + ")" : receiver;
-    for (std::size_t i = 1; i < chain.operands.size(); ++i)
+    for (std::size_t i = 1; i < chain.operands.size(); ++i) {
         text += "." + textOf(chain.operands[i]);
+    }
     return text;
 }
 
-/// In the brackets that a statement needs around it.
+/** In the brackets that a statement needs around it. */
 QString bracketed(const FSyntaxExpr& condition) {
     const QString text = textOf(condition);
     return condition.kind == FSyntaxExpr::Kind::Unary || condition.kind == FSyntaxExpr::Kind::Row ? text
@@ -86,8 +92,9 @@ QString textOf(const FSyntaxExpr& expression) {
 QString textOf(const FSyntaxDeclaration& declaration) {
     QString text = (declaration.isOutsideScope ? "&" : "") + declaration.creator.name + " " + declaration.name + "(" +
                    joined(declaration.creator.operands, ", ") + "){";
-    for (const FSyntaxBlockLine& line : declaration.block)
+    for (const FSyntaxBlockLine& line : declaration.block) {
         text += "." + joined(line, ".") + ";";
+    }
     return text + "}";
 }
 
@@ -97,8 +104,9 @@ QString textOf(const FSyntaxAssignment& assignment) {
 
 QString textOf(const FSyntaxIf& statement) {
     QString text;
-    for (const auto& branch : statement.branches)
+    for (const auto& branch : statement.branches) {
         text += "if " + bracketed(branch.condition) + "{" + textOf(branch.body) + "}else ";
+    }
     return text + "{" + textOf(statement.otherwise) + "}";
 }
 
@@ -112,8 +120,9 @@ QString textOf(const FSyntaxFor& loop) {
 
 QString textOf(const FSyntaxBody& body) {
     QString text;
-    for (const FSyntaxStatement& statement : body)
+    for (const FSyntaxStatement& statement : body) {
         text += std::visit([](const auto& content) { return textOf(content); }, statement.content) + "\n";
+    }
     return text;
 }
 
@@ -125,7 +134,8 @@ std::string syntaxText(const FSyntaxExpr& expression) {
 
 std::string syntaxText(const FScript& script) {
     QString text = textOf(script.statements);
-    for (const FSyntaxError& error : script.errors)
+    for (const FSyntaxError& error : script.errors) {
         text += error.toString(script.file) + "\n";
+    }
     return text.toStdString();
 }

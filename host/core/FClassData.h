@@ -40,6 +40,8 @@ class MERIX_EXPORT FClassData {
     const QString& getName() const { return mpNameText ? *mpNameText : makeNameText(); }
     FClassData* getSuper() const { return mpSuper; }
     Commands getCommands() const { return mCommands; }
+    /** For a class whose commands an upper layer knows: called while that layer's library is loaded. */
+    void setCommands(Commands commands) { mCommands = commands; }
 
     /** The raw fields of the class and of its bases, those of the base first. */
     const std::vector<const FStateField*>& getFields() const;

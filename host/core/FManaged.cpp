@@ -7,9 +7,7 @@
 #include "host/core/FObjectName.h"
 #include "host/core/FScriptLanguage.h"
 
-void managedCommands(FCmdTable& table);
-
-FClassData FManaged::mClass("FManaged", &FObject::mClass, &managedCommands, &FManaged::fields);
+FClassData FManaged::mClass("FManaged", &FObject::mClass, nullptr, &FManaged::fields);
 bool FManaged::mInitPrototype = false;
 
 namespace {

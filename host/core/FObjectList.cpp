@@ -4,10 +4,7 @@
 
 #include <algorithm>
 
-class FCmdTable;
-void objectListCommands(FCmdTable& table);
-
-FClassData FObjectList::mClass("FObjectList", &FObject::mClass, &objectListCommands);
+FClassData FObjectList::mClass("FObjectList", &FObject::mClass);
 
 namespace {
 

@@ -10,10 +10,11 @@ class FManaged;
 class FObject;
 class QTextStream;
 
-/** What the core asks of the script layer above it. The layer puts its one object here when it is loaded. */
+/** What the core needs of the script layer above it, which registers its one object while it is loaded. */
 class FScriptLanguage {
  public:
     static FScriptLanguage* instance();
+    static void use(FScriptLanguage* language);
 
     virtual ~FScriptLanguage() = default;
 

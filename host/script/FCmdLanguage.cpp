@@ -2,6 +2,7 @@
 #include "host/script/FBinder.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FCmdManager.h"
+#include "host/script/FCoreCommands.h"
 #include "host/script/FObjectSaver.h"
 #include "host/script/FScriptParser.h"
 
@@ -44,9 +45,14 @@ class FCmdLanguage : public FScriptLanguage {
     }
 };
 
-}  // namespace
+/** Puts the language and the commands of the core's classes in place while the library is loaded. */
+struct Registration {
+    Registration() {
+        static FCmdLanguage language;
+        FScriptLanguage::use(&language);
+        registerCoreCommands();
+    }
+};
+const Registration registration;
 
-FScriptLanguage* FScriptLanguage::instance() {
-    static FCmdLanguage language;
-    return &language;
-}
+}  // namespace

@@ -153,8 +153,3 @@ void commands(FCmdTable& table) {
 }  // namespace
 
 FClassData FGlobalCommands::mClass("FGlobalCommands", &FObject::mClass, &commands);
-
-void objectListCommands(FCmdTable& table) {
-    table.member<FObjectList>("count", &FObjectList::count).query();
-    table.member<FObjectList>("at", &FObjectList::at, {"index"}).query();
-}

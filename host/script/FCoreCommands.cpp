@@ -1,5 +1,8 @@
+#include "host/script/FCoreCommands.h"
+
 #include "host/core/FDocuArea.h"
 #include "host/core/FManaged.h"
+#include "host/core/FObjectList.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
@@ -16,9 +19,19 @@ bool addDocu(FManaged& object, const QString& text, const QString& area) {
     return true;
 }
 
-}  // namespace
-
 void managedCommands(FCmdTable& table) {
     table.member<FManaged>("addDocu", &addDocu, {"text", "area"}).data();
     table.member<FManaged>("setDbId", &FManaged::restoreDbId, {"id"}).hidden().systemFlag(2).data();
+}
+
+void listCommands(FCmdTable& table) {
+    table.member<FObjectList>("count", &FObjectList::count).query();
+    table.member<FObjectList>("at", &FObjectList::at, {"index"}).query();
+}
+
+}  // namespace
+
+void registerCoreCommands() {
+    FManaged::mClass.setCommands(&managedCommands);
+    FObjectList::mClass.setCommands(&listCommands);
 }

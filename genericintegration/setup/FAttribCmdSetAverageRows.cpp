@@ -4,22 +4,10 @@
 
 FClassData FAttribCmdSetAverageRows::mClass("FAttribCmdSetAverageRows", &FAttribCmd::mClass);
 
-namespace {
-
-/** Numbers in scripts are integers at best, so that a whole one counts; an expression stays one. */
-FExpr<FUnsigned> rowsOf(const FExprBase& argument) {
-    const FExpr<FUnsigned> rows(argument);
-    std::any number;
-    const bool isWhole = !rows && FCmdTypeOf<unsigned int>::type().convert(argument, number);
-    return isWhole ? FExpr<FUnsigned>(new FUnsigned(std::any_cast<unsigned int>(number))) : rows;
-}
-
-}  // namespace
-
 FExprBase FAttribCmdSetAverageRows::execute() const {
     const FExprBase argument = getArguments().empty() ? FExprBase() : getArguments().front();
-    const FExpr<FUnsigned> rows = rowsOf(argument);
-    if (mpEditor && (rows || cmdtype::isScriptNull(argument))) {
+    const FExpr<FUnsigned> rows(argument);
+    if (mpEditor && (!rows.isEmpty() || cmdtype::isScriptNull(argument))) {
         mpEditor->averageChanged(rows);
     }
     return {};

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "host/core/FExpr.h"
+#include "host/core/FNumber.h"
 
 class FGenIntResultsFile;
-class FUnsigned;
 
 /** What the command that sets a number of rows needs of the editor it belongs to. */
 class FAverageRowsEditor {

@@ -5,7 +5,6 @@
 #include "genericintegration/setup/FGenIntObjectArea.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FTemplateTags.h"
-#include "host/core/FHistory.h"
 #include "host/core/FIO.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FConnectorInterface.h"
@@ -43,7 +42,6 @@ void passOn(void (FManaged::*set)(bool), bool flag, const Files& files) {
     for (const FExpr<FGenIntFile>& file : files) {
         if (file) {
             (file.ptr()->*set)(flag);
-            FHistory::instance()->addStep(file.ptr());
         }
     }
 }
@@ -87,8 +85,8 @@ void FDefinitionGenInt::init(const FDefinitionGenInt* other) {
 }
 
 void FDefinitionGenInt::filesChanged() {
+    recordChange();
     setOutOfDate(true);
-    FHistory::instance()->addStep(this);
 }
 
 void FDefinitionGenInt::addFile(const FExpr<FGenIntFile>& file) {
@@ -123,7 +121,6 @@ void FDefinitionGenInt::deleteFile(FExpr<FGenIntFile> file) {
     if (answer != 0) {
         return;
     }
-    FHistoryTransaction transaction(QStringLiteral("delete template file"));
     removeFile(file);
     FManaged::destroy(file.ptr(), true);
 }
@@ -184,13 +181,13 @@ QStringList FDefinitionGenInt::getReadFiles() const {
 }
 
 void FDefinitionGenInt::setCurFile(const FExpr<FGenIntFile>& file) {
+    recordChange();
     mCurFile = file;
-    FHistory::instance()->addStep(this);
 }
 
 void FDefinitionGenInt::setLastFile(const FExpr<FGenIntFile>& file) {
+    recordChange();
     mLastFile = file;
-    FHistory::instance()->addStep(this);
 }
 
 bool FDefinitionGenInt::isCurCommandFile() const {
@@ -327,15 +324,11 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
 }
 
 void FDefinitionGenInt::setInProject(bool inProject) {
-    FHistoryTransaction transaction(QStringLiteral("set in project"));
     FManaged::setInProject(inProject);
-    transaction.addStep(this);
     passOn(&FManaged::setInProject, inProject, mFiles);
 }
 
 void FDefinitionGenInt::setInUserConfig(bool inUserConfig) {
-    FHistoryTransaction transaction(QStringLiteral("set in user configuration"));
     FManaged::setInUserConfig(inUserConfig);
-    transaction.addStep(this);
     passOn(&FManaged::setInUserConfig, inUserConfig, isDefault() ? Files() : mFiles);
 }

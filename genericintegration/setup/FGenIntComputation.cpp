@@ -126,7 +126,7 @@ void FGenIntComputation::applyOutputHandles(FComputationResults* results) const 
         // Part of the run, and no step of the history.
         const FHistoryBlocker blocker;
         ofIntegration->setOutputHandles(described->getFiles(1));
-        FHistory::instance()->addStep(ofIntegration);
+        FHistory::instance()->record(ofIntegration);
     }
 }
 
@@ -150,7 +150,7 @@ void FGenIntComputation::enableSoftCons(bool enable) const {
         return;
     }
     const FExpr<FExternComputation> self(this);
-    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(QStringLiteral("FSoftConBase"))) {
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors()) {
         if (connector->containsComputation(self)) {
             connector->disableGui(!enable);
         }
@@ -158,17 +158,16 @@ void FGenIntComputation::enableSoftCons(bool enable) const {
 }
 
 void FGenIntComputation::openSoftwareConnector() const {
-    const QString className = QStringLiteral("FSoftwareConnector");
-    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(className)) {
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors()) {
         if (connector->getComputation().ptr() == this) {
-            connector->show();
+            connector->showConnector();
             return;
         }
     }
-    FConnectorInterface* made = FConnectorInterface::create(className, getName() + QStringLiteral("_connector"),
-                                                            FExpr<FExternComputation>(this));
+    FConnectorInterface* made =
+        FConnectorInterface::create(getName() + QStringLiteral("_connector"), FExpr<FExternComputation>(this));
     if (made) {
-        made->show();
+        made->showConnector();
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "host/core/FObjectManager.h"
-#include "host/script/FCmdInput.h"
+#include "host/script/FSavedTextReader.h"
 
 #include <QRegularExpression>
 
@@ -24,19 +24,15 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     if (text.isEmpty() || !definition) {
         return;
     }
-    // Behind as many line ends as there are lines before it, so that messages name the lines of the file.
-    QString copy = QString(mObjectAreaLines, QLatin1Char('\n')) + text;
-    QTextStream stream(&copy, QIODevice::ReadWrite);
-    startParentReg(definition);
-    FCmdInput input(FCmdInput::Mode::SavedText);
+    // After as many line ends as there are lines before it, so that messages name the lines of the file.
+    const QString area = QString(mObjectAreaLines, QLatin1Char('\n')) + text;
     // Objects that were saved along with the definition may name it.
     if (!mName.isEmpty()) {
-        input.setVariable(mName, FExprBase(definition));
+        mNames.setVariable(mName, FExprBase(definition));
     }
-    input.readInputString(stream, mSource);
-    input.exec();
+    startParentReg(definition);
+    FSavedTextReader::read(area, mSource, {true, true}, mNames);
     stopParentReg();
-    mNames = input.getNames();
     // An object has another name than in the file where that was taken.
     const FExprBase current = mNames.find(nameBehind(text, QStringLiteral("curFile : ")));
     const FExprBase last = mNames.find(nameBehind(text, QStringLiteral("lastFile : ")));

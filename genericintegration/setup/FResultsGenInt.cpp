@@ -78,6 +78,7 @@ void FResultsGenInt::init(const FResultsGenInt* other) {
 }
 
 void FResultsGenInt::setOutputHandles(const QList<FExpr<FGenIntFile>>& files) {
+    recordChange();
     for (const FExpr<FGenIntFile>& file : qAsConst(mOutputHandles)) {
         file.unregisterClient(this);
     }

@@ -7,6 +7,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FModel.h"
 #include "host/core/FTextDecoder.h"
+#include "host/design/FDefinition.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
@@ -48,6 +49,8 @@ void commands(FCmdTable& table) {
 
 FClassData FGenIntFile::mClass("FGenIntFile", &FManaged::mClass, &commands, &FGenIntFile::fields);
 
+FGenIntFile& FGenIntFile::operator=(const FGenIntFile& other) = default;
+
 FGenIntFile::FGenIntFile(const QString& name) : FClass(name) {
     mSystemLevel = 2;
 }
@@ -55,7 +58,7 @@ FGenIntFile::FGenIntFile(const QString& name) : FClass(name) {
 std::vector<std::unique_ptr<FStateField>> FGenIntFile::fields() {
     return FStateFields<FGenIntFile>()
         .member(&FGenIntFile::mFileName)
-        .member(&FGenIntFile::mContent)
+        .text(&FGenIntFile::mContent, [](FGenIntFile& file) { file.mContentAltered = true; })
         .member(&FGenIntFile::mForceWindowsLineEndings)
         .take();
 }
@@ -73,8 +76,10 @@ QString FGenIntFile::decode(const QString& stored) const {
                                                  "it is kept")
                                       .arg(getName()));
     }
-    // With its size, since a conversion without it ends at the first NUL.
-    return QString::fromUtf8(bytes.constData(), bytes.size());
+    // With its size, since a conversion without it ends at the first NUL; and one drops a leading mark of byte order.
+    const bool hasMark = bytes.startsWith("\xEF\xBB\xBF");
+    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
+    return hasMark && !text.startsWith(QChar::ByteOrderMark) ? QChar(QChar::ByteOrderMark) + text : text;
 }
 
 void FGenIntFile::markOutOfDate() {
@@ -88,7 +93,7 @@ FGenIntFile* FGenIntFile::setContent(const QString& content) {
         mContent = decode(content);
     } else {
         mContent = content;
-        // Old projects keep the text on one line.
+        // A content written by hand may have its line ends as "\\n".
         if (FMerixCtrl::instance()->isLoadingProject()) {
             mContent.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
         }
@@ -127,8 +132,7 @@ FGenIntFile* FGenIntFile::setFileName(const QString& fileName) {
     markOutOfDate();
     FHistoryTransaction transaction(QStringLiteral("set file name"));
     transaction.addStep(this);
-    for (FManaged* entity :
-         FModel::instance()->getEntities(FObject::getPrototype(QStringLiteral("FDefinitionGenInt")))) {
+    for (FManaged* entity : FModel::instance()->getEntities(FDefinition::null())) {
         auto* owner = dynamic_cast<FTemplateOwner*>(entity);
         if (owner && owner->getFiles().contains(FExpr<FGenIntFile>(this))) {
             owner->updateCommandFiles(oldName, fileName);

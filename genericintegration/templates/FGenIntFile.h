@@ -38,6 +38,9 @@ class FGenIntFile : public FClass<FGenIntFile, FManaged> {
     /** While blocked, `setContent` and `setFileName` don't mark the object out of date. */
     void blockOutOfDateState(bool block) { mBlockOutOfDate = block; }
 
+    /** Takes over all of the content, and what assignment of managed objects does. */
+    FGenIntFile& operator=(const FGenIntFile& other);
+
  protected:
     explicit FGenIntFile(const QString& name = QString());
     FGenIntFile(const FGenIntFile& other) = default;

@@ -2,6 +2,7 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FObjectManager.h"
+#include "host/core/FObjectName.h"
 #include "host/core/FQuotedText.h"
 #include "host/core/FViewCtrl.h"
 #include "host/design/FConnectorInterface.h"
@@ -11,53 +12,51 @@
 
 namespace {
 
-/** The suffix that tells the n-th of a name from the others. */
+/** The suffix of the n-th value of a name, counted from 0. */
 QString counted(const QString& name, int number) {
-    return name + (number < 10 ? QStringLiteral("_0") : QStringLiteral("_")) + QString::number(number);
+    return number == 0 ? name + QStringLiteral("_00") : numberedName(name, number);
 }
 
-void commands(FCmdTable& table) {
-    using F = FGenIntResultsFile;
-    table.creator(
-        "genericIntegrationResultsFile", +[](const FNewName& name) { return F::create(name.name); });
-    table.attribute<F>("setValues", &F::setValues, &F::getValues, {"values"})
-        .attrName("Values")
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table.attribute<F>("setNumberSeparator", &F::setNumberSeparator, &F::getNumberSeparator, {"checked"})
-        .attrName("Find Numbers")
-        .attrAsExpr(false)
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table
-        .attribute<F>("setSpacesAndTabsSeparator", &F::setSpacesAndTabsSeparator, &F::getSpacesAndTabsSeparator,
-                      {"checked"})
-        .attrName("Spaces and Tabs Separator")
-        .attrAsExpr(false)
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table.attribute<F>("setRegExprSeparator", &F::setRegExprSeparator, &F::getRegExprSeparator, {"regularExpression"})
-        .attrName("RegExp Separator")
-        .attrAsExpr(false)
-        .systemFlag(2)
-        .hidden()
-        .data();
-    table.member<F>("setRegExpSeparator", &F::setRegExpSeparator, {"regularExpression"}).systemFlag(1).data();
-    table.member<F>("setSpaceSeparator", &F::setSpaceSeparator, {"checked"}).systemFlag(1).data();
-    // Files and scripts know the command under this spelling.
-    table.member<F>("setTabSeaparator", &F::setTabSeparator, {"checked"})
-        .method("setTabSeparator")
-        .systemFlag(1)
-        .data();
-    table.hideInherited("FAttribCmdFGenIntCommandFilesetForceWindowsLineEndingsbool");
+void setValues(FGenIntResultsFile& file, const FKeptList& values) {
+    file.setValues(values.list);
 }
 
 }  // namespace
 
-FClassData FGenIntResultsFile::mClass("FGenIntResultsFile", &FGenIntFile::mClass, &commands,
+void FGenIntResultsFile::declareCommands(FCmdTable& table) {
+    using F = FGenIntResultsFile;
+    // Neither a change of these nor their setters mark what depends on the template.
+    const auto separator = [&table](const char* name, auto member, const char* argument, const char* label) {
+        table.plain<F>(name, member, {argument})
+            .copied()
+            .marksClients(false)
+            .attrName(label)
+            .attrAsExpr(false)
+            .systemFlag(2)
+            .hidden();
+    };
+    table.creator(
+        "genericIntegrationResultsFile", +[](const FNewName& name) { return F::create(name.name); });
+    table.attribute<F>("setValues", &::setValues, &F::getValues, {"values"})
+        .attrName("Values")
+        .systemFlag(2)
+        .hidden()
+        .data();
+    separator("setNumberSeparator", &F::mNumberSeparator, "checked", "Find Numbers");
+    separator("setSpacesAndTabsSeparator", &F::mSpacesAndTabsSeparator, "checked", "Spaces and Tabs Separator");
+    separator("setRegExprSeparator", &F::mRegExprSeparator, "regularExpression", "RegExp Separator");
+    table.member<F>("setRegExpSeparator", &F::setRegExpSeparator, {"regularExpression"}).systemFlag(1).data();
+    table.member<F>("setSpaceSeparator", &F::setSpaceSeparator, {"checked"}).systemFlag(1).data();
+    // The command's name has this spelling.
+    table.member<F>("setTabSeaparator", &F::setTabSeparator, {"checked"})
+        .method("setTabSeparator")
+        .systemFlag(1)
+        .data();
+    // No command has this name, so that the attribute stays visible here.
+    table.hideInherited("FAttribCmdFGenIntCommandFilesetForceWindowsLineEndingsbool");
+}
+
+FClassData FGenIntResultsFile::mClass("FGenIntResultsFile", &FGenIntFile::mClass, &FGenIntResultsFile::declareCommands,
                                       &FGenIntResultsFile::fields);
 
 FGenIntResultsFile::FGenIntResultsFile(const QString& name) : FClass(name) {
@@ -68,13 +67,7 @@ FGenIntResultsFile::FGenIntResultsFile(const QString& name) : FClass(name) {
 
 std::vector<std::unique_ptr<FStateField>> FGenIntResultsFile::fields() {
     using F = FGenIntResultsFile;
-    return FStateFields<F>()
-        .member(&F::mNumberSeparator)
-        .member(&F::mSpacesAndTabsSeparator)
-        .member(&F::mRegExprSeparator)
-        .owned(&F::mValues)
-        .member(&F::mCurValue)
-        .take();
+    return FStateFields<F>().owned(&F::mValues).member(&F::mCurValue).take();
 }
 
 FGenIntResultsFile* FGenIntResultsFile::create(const QString& name) {
@@ -92,15 +85,32 @@ FObject* FGenIntResultsFile::clone() const {
 void FGenIntResultsFile::init(const FGenIntResultsFile* other) {
     if (other) {
         FGenIntFile::init(other);
-        copySeparators(*other);
+        copyAttributes(FGenIntResultsFile::mClass, *other);
         setValues(other->getValues());
     }
 }
 
-void FGenIntResultsFile::copySeparators(const FGenIntResultsFile& other) {
-    mNumberSeparator = other.mNumberSeparator;
-    mSpacesAndTabsSeparator = other.mSpacesAndTabsSeparator;
-    mRegExprSeparator = other.mRegExprSeparator;
+FGenIntResultsFile::FGenIntResultsFile(const FGenIntResultsFile& other) : FClass(other) {
+    *this = other;
+}
+
+// The values are the template's own: a copy gets copies of them.
+FGenIntResultsFile& FGenIntResultsFile::operator=(const FGenIntResultsFile& other) {
+    if (this == &other) {
+        return *this;
+    }
+    FGenIntFile::operator=(other);
+    copyAttributes(FGenIntResultsFile::mClass, other);
+    const FExpr<FObjectList> fresh(new FObjectList);
+    mCurValue = {};
+    for (const FExpr<FObject>& element : other.mValues ? other.mValues->getObjects() : std::vector<FExpr<FObject>>()) {
+        const FExpr<FObject> copy(element ? element->clone() : nullptr);
+        fresh->add(copy);
+        mCurValue = element == other.mCurValue ? FExpr<FGenIntResultsFileValue>(copy) : mCurValue;
+    }
+    mValues = fresh;
+    mValueSearch = nullptr;
+    return *this;
 }
 
 void FGenIntResultsFile::addValue(const QString& name, int line, int column, const QString& anchor,
@@ -108,6 +118,7 @@ void FGenIntResultsFile::addValue(const QString& name, int line, int column, con
     const QString given = name.isEmpty() ? counted(QStringLiteral("ResultsValue"), mValues->count()) : name;
     auto* value = new FGenIntResultsFileValue(given, line, column, anchor, occurrence, FDouble::null(), QString(),
                                               calcAverage, numAverageRows);
+    recordChange();
     mCurValue = FExpr<FGenIntResultsFileValue>(value);
     mValues->add(mCurValue);
     setOutOfDate(true);
@@ -137,6 +148,7 @@ void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
         value->setPrimitiveValue(element);
         fresh->add(value);
     }
+    recordChange();
     mValues = fresh;
     if (!mCurValue && mValues->count() > 0) {
         mCurValue = mValues->at(0);
@@ -145,6 +157,7 @@ void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
 
 void FGenIntResultsFile::deleteCurrentValue() {
     if (mCurValue) {
+        recordChange();
         mValues->remove(mCurValue);
     }
 }
@@ -211,7 +224,7 @@ void FGenIntResultsFile::setSpaceSeparator(bool space) {
 
 FGenIntFile* FGenIntResultsFile::setFileName(const QString& fileName) {
     FGenIntFile::setFileName(fileName);
-    for (FConnectorInterface* connector : FConnectorInterface::getConnectors(QStringLiteral("FSoftwareConnector"))) {
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors()) {
         connector->refreshEditors(this);
     }
     return this;

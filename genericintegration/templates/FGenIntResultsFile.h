@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class FCmdTable;
 class FParameter;
 class FValueSearch;
 
@@ -22,6 +23,8 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     /** A new template with the separators of this one, and as many values, all blank. */
     FObject* clone() const override;
     void init(const FGenIntResultsFile* other);
+    /** Takes over separators and values, with the current one, besides what all templates do. */
+    FGenIntResultsFile& operator=(const FGenIntResultsFile& other);
 
     // ---- values ----
     /**
@@ -60,7 +63,7 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     const QString& getRegExprSeparator() const { return mRegExprSeparator; }
     void setRegExprSeparator(const QString& expression) { mRegExprSeparator = expression; }
 
-    // The older names, which scripts and project files may still use.
+    // The older names, beside those above.
     /** As `setRegExprSeparator`; a filled expression also ends find-numbers mode. */
     void setRegExpSeparator(const QString& expression);
     QString getRegExpSeparator() const { return {}; }
@@ -83,12 +86,13 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
 
  protected:
     explicit FGenIntResultsFile(const QString& name = QString());
+    FGenIntResultsFile(const FGenIntResultsFile& other);
 
  private:
     friend class FClass<FGenIntResultsFile, FGenIntFile>;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
-    void copySeparators(const FGenIntResultsFile& other);
+    static void declareCommands(FCmdTable& table);
 
     bool mNumberSeparator = true;
     bool mSpacesAndTabsSeparator = false;

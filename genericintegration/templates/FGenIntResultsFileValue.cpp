@@ -5,7 +5,7 @@
 #include "host/core/FObjectList.h"
 #include "host/core/FQuotedText.h"
 
-#include <limits>
+#include <algorithm>
 
 FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
                                            &FGenIntResultsFileValue::fields);
@@ -18,9 +18,14 @@ QString bareQuoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-/** The element of a list as a value; null if nothing stands there. */
+/** Whether an element of a list may be evaluated: the list may come from a saved text, which reads no files. */
+bool isReadable(const FExpr<FObject>& element) {
+    return element.canSafelyBeUpdated(false);
+}
+
+/** The element of a list as a value; null if there is none. */
 const FBasicType* valueOf(const FExpr<FObject>& element) {
-    FObject* object = element.getObject();
+    FObject* object = isReadable(element) ? element.getObject() : nullptr;
     auto* basic = object ? dynamic_cast<const FBasicType*>(object->getValueObject()) : nullptr;
     return basic == FNull::null() ? nullptr : basic;
 }
@@ -67,6 +72,22 @@ FGenIntResultsFileValue::FGenIntResultsFileValue(const FGenIntResultsFileValue& 
     setNumAverageRows(other.mNumAverageRows);
 }
 
+FGenIntResultsFileValue& FGenIntResultsFileValue::operator=(const FGenIntResultsFileValue& other) {
+    if (this != &other) {
+        FBasicType::operator=(other);
+        mName = other.mName;
+        mLine = other.mLine;
+        mColumn = other.mColumn;
+        mAnchor = other.mAnchor;
+        mOccurrence = other.mOccurrence;
+        mType = other.mType;
+        mImportType = other.mImportType;
+        mCalcAverage = other.mCalcAverage;
+        setNumAverageRows(other.mNumAverageRows);
+    }
+    return *this;
+}
+
 std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
     using Self = FGenIntResultsFileValue;
     return FStateFields<Self>()
@@ -83,8 +104,10 @@ std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
 }
 
 void FGenIntResultsFileValue::setNumAverageRows(const FExpr<FUnsigned>& rows) {
+    // The handle given may be the member itself.
+    const FExpr<FUnsigned> taken = rows;
     mNumAverageRows.unregisterClient(this);
-    mNumAverageRows = rows;
+    mNumAverageRows = taken;
     mNumAverageRows.registerClient(this);
 }
 
@@ -97,6 +120,12 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
     const std::vector<FExpr<FObject>>& elements = list->getObjects();
     if (elements.size() < fieldsWithoutAverage) {
         return QStringLiteral("has %1 elements instead of 7 or 9, and stays blank").arg(elements.size());
+    }
+    const auto unreadable =
+        std::find_if_not(elements.begin(), elements.begin() + std::min<std::ptrdiff_t>(8, list->count()), &isReadable);
+    if (unreadable != elements.begin() + std::min<std::ptrdiff_t>(8, list->count())) {
+        return QStringLiteral("has the element %1, which reads files, and takes the default for it")
+            .arg(unreadable->toString());
     }
     QString occurrence = FEnum<GenIntAnchorOccurrence>().toString();
     readText(elements[4], occurrence);
@@ -138,12 +167,11 @@ void FGenIntResultsFileValue::setAverage(const std::vector<FExpr<FObject>>& elem
     if (const FBasicType* flag = valueOf(elements[7])) {
         mCalcAverage = flag->toDouble() != 0;
     }
-    const FBasicType* rows = elements.size() > 8 ? valueOf(elements[8]) : nullptr;
-    if (rows) {
-        constexpr double most = std::numeric_limits<unsigned int>::max();
-        const double given = rows->toDouble();
-        auto* number = new FUnsigned(given > 0 ? static_cast<unsigned int>(qMin(given, most)) : 0);
-        setNumAverageRows(FExpr<FUnsigned>(static_cast<const FObject*>(number)));
+    if (elements.size() > 8) {
+        const FExpr<FUnsigned> rows(elements[8]);
+        if (!rows.isEmpty()) {
+            setNumAverageRows(rows);
+        }
     }
 }
 

@@ -18,6 +18,7 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
                             const FObject* type, const QString& importType, bool calcAverage,
                             const FExpr<FUnsigned>& numAverageRows);
     FGenIntResultsFileValue(const FGenIntResultsFileValue& other);
+    FGenIntResultsFileValue& operator=(const FGenIntResultsFileValue& other);
     FObject* clone() const override { return new FGenIntResultsFileValue(*this); }
 
     /**

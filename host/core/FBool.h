@@ -15,6 +15,11 @@ class MERIX_EXPORT FBool : public FClass<FBool, FBasicType> {
     QString toString() const override { return mValue ? QStringLiteral("true") : QStringLiteral("false"); }
     int toInt() const override { return mValue ? 1 : 0; }
     double toDouble() const override { return mValue ? 1 : 0; }
+    void setPrimitiveValue(const FExpr<FObject>& value) override {
+        if (const auto* basic = dynamic_cast<const FBasicType*>(value.getObject())) {
+            mValue = basic->toDouble() != 0;
+        }
+    }
 
  private:
     bool mValue;

@@ -1,6 +1,10 @@
 #include "host/core/FClassData.h"
 
+#include "host/core/FScriptLanguage.h"
 #include "host/core/FStateField.h"
+
+#include <algorithm>
+#include <iterator>
 
 struct FClassData::FieldCache {
     std::vector<std::unique_ptr<FStateField>> own;
@@ -21,6 +25,8 @@ const std::vector<const FStateField*>& FClassData::getFields() const {
         if (mFields) {
             mpFieldCache->own = mFields();
         }
+        auto declared = FScriptLanguage::instance()->attributeFields(const_cast<FClassData&>(*this));
+        std::move(declared.begin(), declared.end(), std::back_inserter(mpFieldCache->own));
         for (const auto& field : mpFieldCache->own) {
             mpFieldCache->all.push_back(field.get());
         }

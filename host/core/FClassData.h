@@ -11,8 +11,8 @@ class FCmdTable;
 class FObject;
 class FStateField;
 
-/** The families of classes; each has a registrar and a flag of its own. */
-enum class FFamily { Object, Managed };
+/** The families of classes; each has a registrar, a flag and a trace text of its own, see FPrototypes. */
+enum class FFamily { Object, Managed, View };
 
 /**
  * What is known of one class: the one place for all that the class pattern keeps per class.
@@ -43,7 +43,7 @@ class MERIX_EXPORT FClassData {
     /** For a class whose commands an upper layer knows: called while that layer's library is loaded. */
     void setCommands(Commands commands) { mCommands = commands; }
 
-    /** The raw fields of the class and of its bases, those of the base first. */
+    /** The raw fields of the class and of its bases, those of the base first; with the attributes of command tables. */
     const std::vector<const FStateField*>& getFields() const;
 
     /** True if `other` is this class or derived from it. */

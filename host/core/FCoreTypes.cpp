@@ -7,11 +7,12 @@
 #include "host/core/FObjectList.h"
 #include "host/core/FScope.h"
 #include "host/core/FString.h"
+#include "host/core/FView.h"
 
 namespace {
 
 const FInitPrototypes<FObject, FBasicType, FNull, FDouble, FInteger, FUnsigned, FBool, FString, FFileName, FEnumBase,
-                      FEnum<FDocuArea>, FObjectList, FManaged, FEntity, FScope>
+                      FEnum<FDocuArea>, FObjectList, FManaged, FEntity, FScope, FView>
     types;
 
 }  // namespace

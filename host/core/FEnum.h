@@ -30,3 +30,10 @@ class MERIX_EXPORT FEnum : public FClass<FEnum<E>, FEnumBase> {
  protected:
     const FEnumTable* getTable() const override { return &table(); }
 };
+
+template <class E>
+FObject* FConversion<FEnum<E>>::from(const FObject& value) {
+    FExpr<FEnum<E>> made(new FEnum<E>);
+    auto* object = static_cast<FEnum<E>*>(made.getStored());
+    return object->takeValue(value) ? new FEnum<E>(object->get()) : nullptr;
+}

@@ -1,6 +1,7 @@
 #include "host/core/FEnumBase.h"
 
 #include "host/core/FQuotedText.h"
+#include "host/core/FString.h"
 
 #include <QSet>
 
@@ -45,6 +46,25 @@ bool FEnumBase::setValue(const QString& text) {
         }
     }
     return false;
+}
+
+bool FEnumBase::takeValue(const FObject& value) {
+    if (const auto* text = objectCast<FString>(&value)) {
+        return setValue(text->getValue());
+    }
+    const FExpr<FUnsigned> number(&value);
+    const bool isKnown = number && getTable() && getTable()->getTexts().contains(number->getValue());
+    if (isKnown) {
+        setValue(number->getValue());
+    }
+    return isKnown;
+}
+
+void FEnumBase::setPrimitiveValue(const FExpr<FObject>& value) {
+    FObject* object = value.getObject();
+    if (const FObject* given = object ? object->getValueObject() : nullptr) {
+        takeValue(*given);
+    }
 }
 
 QString FEnumBase::toExpressionString() const {

@@ -39,6 +39,9 @@ class MERIX_EXPORT FEnumBase : public FClass<FEnumBase, FUnsigned> {
     void setValue(unsigned int value) { mValue = value; }
     /** Compares without regard to case; false, with the value kept, for an unknown text. */
     bool setValue(const QString& text);
+    /** Takes a text as `setValue` does, or a number of the table. False, with the value kept, for anything else. */
+    bool takeValue(const FObject& value);
+    void setPrimitiveValue(const FExpr<FObject>& value) override;
     QString toString() const override { return getStringValue(); }
     QString toExpressionString() const override;
 

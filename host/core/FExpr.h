@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FConversion.h"
 #include "host/core/FExport.h"
 #include "host/core/FExprBase.h"
 #include "host/core/objectCast.h"
@@ -37,8 +38,14 @@ class MERIX_EXPORT FExpr : public FExprBase {
         return *this;
     }
 
-    /** The object behind the handle, or null. */
-    T* ptr() const { return objectCast<T>(getObject()); }
+    /** The object of the handle, or null. A converted one lives as long as the handle, or until the next call. */
+    T* ptr() const {
+        if constexpr (FConversion<T>::exists) {
+            return convertedPtr();
+        } else {
+            return objectCast<T>(getObject());
+        }
+    }
     T* operator->() const { return ptr(); }
     bool operator!() const { return !static_cast<bool>(*this); }
     explicit operator bool() const { return isCmd() ? isValid() : ptr() != nullptr; }
@@ -46,11 +53,32 @@ class MERIX_EXPORT FExpr : public FExprBase {
     const FObject* getNativeType() const { return T::null(); }
 
  private:
+    struct Nothing {};
+    static constexpr bool converts = FConversion<T>::exists;
+
+    T* convertedPtr() const {
+        const FObject* object = getObject();
+        const FObject* value = object ? object->getValueObject() : nullptr;
+        if (T* own = objectCast<T>(const_cast<FObject*>(value))) {
+            return own;
+        }
+        mConverted = FExprBase(value ? FConversion<T>::from(*value) : nullptr);
+        return static_cast<T*>(mConverted.getStored());
+    }
+
     // What a name or a literal gives is known at once; an expression of a wider type is decided when it is evaluated.
     void convert(const FExprBase& other) {
+        if constexpr (converts) {
+            const FObject* stored = other.getStored();
+            const bool isTaken = !stored || objectCast<T>(stored) || stored->isCmd() || stored->holdsValue();
+            FExprBase::operator=(isTaken ? other : FExprBase(FConversion<T>::from(*stored)));
+            return;
+        }
         const FObject* type = other.getType();
         const bool fits = !type || type->isTypeOf(T::null()) || (other.isCmd() && T::null()->isTypeOf(type)) ||
                           objectCast<T>(other.getStored());
         FExprBase::operator=(fits ? other : FExprBase());
     }
+
+    [[no_unique_address]] mutable std::conditional_t<converts, FExprBase, Nothing> mConverted;
 };

@@ -126,6 +126,16 @@ void FExprBase::restoreClient(const FObject* client) const {
     }
 }
 
+bool FExprBase::assignFor(const FObject* client, const FExprBase& value) {
+    unregisterClient(client);
+    if (!value.registerClient(client)) {
+        restoreClient(client);
+        return false;
+    }
+    *this = value;
+    return true;
+}
+
 void FExprBase::unregisterClient(const FObject* client) const {
     if (mpBlock && mpBlock->object) {
         client->removeSupplier(mpBlock->object);

@@ -54,7 +54,13 @@ class MERIX_EXPORT FExprBase {
     /** Makes `client` depend on what the handle holds. False where that would close a cycle. */
     bool registerClient(const FObject* client, bool immediate = false) const;
     void unregisterClient(const FObject* client) const;
-    /** As `registerClient` for a link that stood before: without the look for a cycle, which half a step may show. */
+    /**
+     * Puts `value` in, on which `client` depends from now on instead of what was there. False, with all as it was,
+     * where that would close a cycle.
+     */
+    bool assignFor(const FObject* client, const FExprBase& value);
+    /** Restores a link from an earlier state. Skips the cycle check: a half-replayed step may contain a temporary
+     * cycle. */
     void restoreClient(const FObject* client) const;
 
     /** Identity of the object put in, as the most-derived object; that of a destroyed object stays. */

@@ -1,7 +1,10 @@
 #include "host/core/FHistory.h"
 
+#include "host/core/FAssert.h"
+#include "host/core/FChanges.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 
 #include <QSet>
 #include <QStringList>
@@ -27,6 +30,9 @@ FHistory* FHistory::instance() {
 }
 
 void FHistory::startTransaction(const QString& label) {
+    if (mDepth == 0 && mBlockers == 0) {
+        acceptUnrecorded();
+    }
     if (mDepth++ == 0) {
         mOpen.label = label;
     }
@@ -50,6 +56,52 @@ void FHistory::rollback() {
     mFailed = --mDepth > 0;
 }
 
+void FHistory::startUserStep(const QString& label) {
+    ++mUserSteps;
+    startTransaction(label);
+}
+
+void FHistory::commitUserStep() {
+    --mUserSteps;
+    commit(1);
+}
+
+void FHistory::rollbackUserStep(const std::function<void()>& endBlocker) {
+    --mUserSteps;
+    rollback();
+    const bool wasReplaying = std::exchange(mReplaying, true);
+    endBlocker();
+    mReplaying = wasReplaying;
+}
+
+// ---- without recording ----
+
+void FHistory::endBlocking() {
+    if (--mBlockers == 0) {
+        acceptUnrecorded();
+    }
+}
+
+void FHistory::acceptUnrecorded() {
+    const auto changed = std::exchange(mUnrecorded, {});
+    Objects objects;
+    for (auto entry = changed.begin(); entry != changed.end(); ++entry) {
+        auto* object = const_cast<FRecorded*>(entry.key());
+        if (object->isRecorded() && !mTouched.contains(object)) {
+            object->rememberState();
+        }
+        objects.push_back(FExprBase(object->getOwner()));
+    }
+    announceChanged(objects);
+}
+
+void FHistory::checkOpen(const QString& what) const {
+    F_ASSERT(mDepth > 0 || FMerixCtrl::instance()->isLoadingProject(),
+             QStringLiteral("\"%1\" is changed outside of any step of the history").arg(what));
+}
+
+// ---- the end of a step ----
+
 FHistory::Transaction FHistory::takeOpen() {
     mTouched.clear();
     return std::exchange(mOpen, Transaction());
@@ -60,8 +112,13 @@ void FHistory::close() {
     if (step.isEmpty()) {
         return;
     }
+    const Objects changed = objectsOf(step);
     forgetChangesOfNew(step);
     std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
+    dropUnchanged(step);
+    if (step.isEmpty()) {
+        return;
+    }
     dropUndone();
     const QString label = step.label;
     keep(std::move(step), true);
@@ -70,12 +127,43 @@ void FHistory::close() {
                          QStringLiteral("\"%1\" needs more memory than all steps may have together").arg(label),
                          QStringLiteral("it can't be undone, and no step before it"));
     }
+    announceChanged(changed);
+    emit FChanges::instance()->stepDone(label);
 }
 
 void FHistory::takeBack() {
     Transaction step = takeOpen();
     std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
     replay(step, false);
+}
+
+// Only what changed is of interest to a listener; a new object has changed in any case.
+FHistory::Objects FHistory::objectsOf(const Transaction& step) {
+    Objects objects;
+    QSet<const FObject*> seen;
+    const auto add = [&](const FRecorded* recorded) {
+        FManaged* owner = recorded->getOwner();
+        if (owner && !seen.contains(owner)) {
+            seen.insert(owner);
+            objects.push_back(FExprBase(owner));
+        }
+    };
+    for (const ModelChange& change : step.model) {
+        add(change.managed);
+    }
+    for (const ObjectChange& change : step.objects) {
+        add(change.recorded);
+    }
+    return objects;
+}
+
+void FHistory::announceChanged(const Objects& objects) {
+    for (const FExprBase& handle : objects) {
+        auto* object = static_cast<FManaged*>(handle.getStored());
+        if (object && object->isInModel()) {
+            emit FChanges::instance()->objectChanged(object);
+        }
+    }
 }
 
 // What an object made by the step was before its end is of no interest: it comes and goes as a whole.
@@ -97,12 +185,23 @@ void FHistory::keepDifference(ObjectChange& change) {
     FState now = FState::capture(object);
     const auto& fields = object.getClassData().getFields();
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (change.whole || !fields[i]->equal(change.before.values[i], now.values[i])) {
+        const bool isSame = fields[i]->equal(change.before.values[i], now.values[i]);
+        if (change.reason == Reason::Client || !isSame) {
             change.fields.push_back({i, std::move(change.before.values[i]), now.values[i]});
+        }
+        if (!isSame) {
+            fields[i]->shrink(change.fields.back().before, change.fields.back().after);
         }
     }
     change.before.values.clear();
     object.mpKnownState = std::make_unique<FState>(std::move(now));
+}
+
+void FHistory::dropUnchanged(Transaction& step) {
+    const auto isUnchanged = [](const ObjectChange& change) {
+        return change.reason == Reason::Recorded && change.fields.empty();
+    };
+    step.objects.erase(std::remove_if(step.objects.begin(), step.objects.end(), isUnchanged), step.objects.end());
 }
 
 // Of the two values of a field, the model, or the step that comes next, holds the other.
@@ -127,58 +226,80 @@ void FHistory::keep(Transaction step, bool isDone) {
     mSize += step.size;
     (isDone ? mDone : mUndone).push_back(std::move(step));
     trim();
-    mObserver();
 }
 
+// ---- what is recorded ----
+
 void FHistory::addStep(const FRecorded* object) {
+    add(object, Reason::Added);
+}
+
+void FHistory::record(const FRecorded* object) {
+    add(object, Reason::Recorded);
+}
+
+void FHistory::add(const FRecorded* object, Reason reason) {
     if (!object || !object->isRecorded() || mReplaying) {
         return;
     }
+    auto* recorded = const_cast<FRecorded*>(object);
     if (mBlockers > 0) {
-        if (!mTouched.contains(object)) {
-            const_cast<FRecorded*>(object)->rememberState();
-        }
+        mUnrecorded.insert(object, FExprBase(object));
         return;
     }
-    if (mDepth == 0) {
-        startTransaction(object->toString());
-        touch(const_cast<FRecorded*>(object));
-        commit(1);
-    } else {
-        touch(const_cast<FRecorded*>(object));
+    if (mDepth > 0) {
+        touch(recorded, reason);
+        return;
     }
+    checkOpen(object->toString());
+    mUnrecorded.insert(object, FExprBase(object));
 }
 
-void FHistory::touch(FRecorded* object, bool whole) {
+void FHistory::touch(FRecorded* object, Reason reason) {
     if (!mTouched.contains(object) && object->mpKnownState) {
         mTouched.insert(object, mOpen.objects.size());
-        mOpen.objects.push_back({FExprBase(object), object, *object->mpKnownState, {}});
+        mOpen.objects.push_back({FExprBase(object), object, *object->mpKnownState, {}, reason});
     }
-    if (whole && mTouched.contains(object)) {
-        mOpen.objects[mTouched.value(object)].whole = true;
+    if (mTouched.contains(object)) {
+        Reason& known = mOpen.objects[mTouched.value(object)].reason;
+        known = std::max(known, reason);
     }
 }
 
 void FHistory::recordCreation(FManaged* object) {
-    if (mDepth > 0 && isRecording()) {
+    if (mReplaying) {
+        return;
+    }
+    if (mBlockers > 0) {
+        mUnrecorded.insert(object, FExprBase(object));
+        return;
+    }
+    checkOpen(object->getName());
+    if (mDepth > 0) {
         mOpen.model.emplace_back(object, true);
     }
 }
 
 void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& clients) {
-    if (mDepth == 0 || !isRecording()) {
+    if (!isRecording()) {
         return;
     }
-    touch(object);
+    checkOpen(object->getName());
+    if (mDepth == 0) {
+        return;
+    }
+    touch(object, Reason::Recorded);
     for (FObject* client : clients) {
         auto* recorded = dynamic_cast<FRecorded*>(client);
         if (recorded && recorded->isRecorded()) {
             // It may drop its dead handle only after the step, and has to get it back all the same.
-            touch(recorded, true);
+            touch(recorded, Reason::Client);
         }
     }
     mOpen.model.emplace_back(object, false);
 }
+
+// ---- undo and redo ----
 
 bool FHistory::undo() {
     return move(mDone, false);
@@ -195,35 +316,51 @@ bool FHistory::move(std::deque<Transaction>& steps, bool forward) {
     Transaction step = std::move(steps.back());
     steps.pop_back();
     mSize -= step.size;
+    const QString label = step.label;
     replay(step, forward);
     keep(std::move(step), forward);
+    emit forward ? FChanges::instance()->stepRedone(label) : FChanges::instance()->stepUndone(label);
     return true;
 }
 
 void FHistory::replay(const Transaction& step, bool forward) {
-    const FImmediateUpdateBlocker blocker;
-    mReplaying = true;
-    const auto changeModel = [forward](const ModelChange& change) {
+    const FBusy busy;
+    const bool wasReplaying = std::exchange(mReplaying, true);
+    {
+        const FImmediateUpdateBlocker blocker;
+        restoreModel(step, forward);
+        restoreFields(step, forward);
+    }
+    mReplaying = wasReplaying;
+    announceChanged(objectsOf(step));
+}
+
+void FHistory::restoreModel(const Transaction& step, bool forward) {
+    const auto restore = [forward](const ModelChange& change) {
         auto* object = change.managed;
         const bool comes = change.created == forward;
-        // What was done to it without a step has perhaps done it already.
+        // A change without a step may have done it already.
         if (object->isInModel() != comes) {
             comes ? object->enter() : object->leave();
         }
     };
     if (forward) {
-        std::for_each(step.model.begin(), step.model.end(), changeModel);
+        std::for_each(step.model.begin(), step.model.end(), restore);
     } else {
-        std::for_each(step.model.rbegin(), step.model.rend(), changeModel);
+        std::for_each(step.model.rbegin(), step.model.rend(), restore);
     }
+}
+
+void FHistory::restoreFields(const Transaction& step, bool forward) {
     for (const ObjectChange& change : step.objects) {
-        const auto& fields = change.recorded->getClassData().getFields();
+        FRecorded& object = *change.recorded;
+        const auto& fields = object.getClassData().getFields();
         for (const FieldChange& field : change.fields) {
-            fields[field.field]->write(*change.recorded, forward ? field.after : field.before);
+            const std::any& value = forward ? field.after : field.before;
+            fields[field.field]->restore(object, value, object.mpKnownState->values[field.field]);
         }
-        change.recorded->rememberState();
+        object.rememberState();
     }
-    mReplaying = false;
     for (const ModelChange& change : step.model) {
         change.managed->setOutOfDate(true);
     }
@@ -242,8 +379,12 @@ QStringList FHistory::getLabels() const {
 
 void FHistory::clear() {
     dropUndone();
+    QStringList dropped = getLabels();
     mDone.clear();
     mSize = 0;
+    for (const QString& label : dropped) {
+        emit FChanges::instance()->stepDropped(label);
+    }
 }
 
 void FHistory::setLimit(std::size_t bytes) {
@@ -252,17 +393,48 @@ void FHistory::setLimit(std::size_t bytes) {
 }
 
 void FHistory::dropUndone() {
+    QStringList dropped;
     for (const Transaction& step : mUndone) {
         mSize -= step.size;
+        dropped.append(step.label);
     }
     mUndone.clear();
+    for (const QString& label : dropped) {
+        emit FChanges::instance()->stepDropped(label);
+    }
 }
 
 void FHistory::trim() {
     for (std::deque<Transaction>* steps : {&mUndone, &mDone}) {
         while (mSize > mLimit && !steps->empty()) {
+            const QString label = steps->front().label;
             mSize -= steps->front().size;
             steps->pop_front();
+            emit FChanges::instance()->stepDropped(label);
         }
+    }
+}
+
+// ---- interruption ----
+
+FHistoryPause::FHistoryPause() {
+    FHistory& history = *FHistory::instance();
+    if (history.mDepth == 0 || history.mUserSteps != history.mDepth || history.mReplaying || history.mBlockers > 0) {
+        return;
+    }
+    mBlockers = FImmediateUpdateBlocker::suspend();
+    mDepth = history.mDepth;
+    mLabel = history.mOpen.label;
+    history.commit(mDepth);
+    history.mUserSteps = 0;
+}
+
+FHistoryPause::~FHistoryPause() {
+    if (mDepth > 0) {
+        FHistory& history = *FHistory::instance();
+        history.mDepth = mDepth;
+        history.mUserSteps = mDepth;
+        history.mOpen.label = mLabel;
+        FImmediateUpdateBlocker::resume(mBlockers);
     }
 }

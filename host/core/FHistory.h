@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
 #include <QHash>
@@ -12,8 +11,11 @@
 
 /**
  * Undo and redo. A transaction is one undo step with a label; transactions nest, and the outermost one counts. An
- * object may be added to it before or after its change: what is kept is the difference to its last known state, field
- * by field.
+ * object may be added to it before or after its change: the history keeps the difference to the object's last known
+ * state, field by field.
+ *
+ * A change outside of any transaction is a programming error (F_ASSERT), except while a project is loaded, during undo
+ * and redo, and under an FHistoryBlocker. It can't be undone. Steps are reported on FChanges.
  */
 class MERIX_EXPORT FHistory {
  public:
@@ -23,13 +25,17 @@ class MERIX_EXPORT FHistory {
     /** Ends a transaction; `steps` is the number of transactions to end, in general 1. */
     void commit(int steps = 1);
     /**
-     * Ends a transaction and takes back what was done since the outermost one began. That one goes on, but what is done
-     * in it is taken back at its end, too.
+     * Ends a transaction and takes back what was done since the outermost one began. The outermost one stays open, but
+     * what is done in it is taken back at its end, too.
      */
     void rollback();
-    /** The object belongs to the step. Without an open transaction it becomes a step of its own. */
+    /** The object belongs to the step, even if it is unchanged at its end. */
     void addStep(const FRecorded* object);
+    /** The object belongs to the step if it has changed by its end. */
+    void record(const FRecorded* object);
     bool inTransaction() const { return mDepth > 0; }
+    /** Whether anything was recorded in the open transaction. */
+    bool hasOpenChanges() const { return !mOpen.isEmpty(); }
 
     bool undo();
     bool redo();
@@ -38,18 +44,18 @@ class MERIX_EXPORT FHistory {
     bool canRedo() const { return !mUndone.empty(); }
     void clear();
 
-    /** Called whenever the model may have changed: at the end of each step, and after undo and redo. */
-    void setObserver(std::function<void()> observer) { mObserver = std::move(observer); }
-
     /**
-     * How much memory steps may hold, in bytes. Dropped are first steps that could be redone, the farthest first, and
-     * then the oldest; a step that alone is larger can't be undone, which is told in the log.
+     * How much memory steps may hold, in bytes. First to be dropped are steps that could be redone, the farthest first,
+     * then the oldest; a step that alone is larger can't be undone, which the log reports.
      */
     void setLimit(std::size_t bytes);
     /** About how many bytes are held that nothing of the model holds. */
     std::size_t getSize() const { return mSize; }
 
-    /** True while undo or redo replays: nothing is recorded and nothing follows from a destruction. */
+    /**
+     * True while undo, redo or a rollback restores a state, and during the updates that follow: nothing is recorded,
+     * and a destruction has no consequences.
+     */
     bool isReplaying() const { return mReplaying; }
 
     // Only for FManaged.
@@ -58,6 +64,8 @@ class MERIX_EXPORT FHistory {
 
  private:
     friend class FHistoryBlocker;
+    friend class FHistoryPause;
+    friend class FUserStep;
 
     /** Keeps the object as long as it can bring it back. */
     struct ModelChange {
@@ -75,12 +83,18 @@ class MERIX_EXPORT FHistory {
         std::any before;
         std::any after;
     };
+    /** How an object came into the step. */
+    enum class Reason {
+        Recorded,  //!< leaves it again if it is unchanged
+        Added,     //!< stays
+        Client,    //!< of a destroyed object: fields that are the same at the end are restored, too
+    };
     struct ObjectChange {
         FExprBase object;
         FRecorded* recorded;
         FState before;  // all fields while the transaction is open
         std::vector<FieldChange> fields;
-        bool whole = false;  // fields that are the same at the end are restored, too
+        Reason reason = Reason::Recorded;
     };
     struct Transaction {
         QString label;
@@ -89,37 +103,57 @@ class MERIX_EXPORT FHistory {
         std::size_t size = 0;  // of what the model doesn't hold: it depends on whether the step is done or undone
         bool isEmpty() const { return model.empty() && objects.empty(); }
     };
+    using Objects = std::vector<FExprBase>;
 
+    // For FUserStep.
+    void startUserStep(const QString& label);
+    void commitUserStep();
+    /** Restores the state, and then has the updates run that `endBlocker` sets free. */
+    void rollbackUserStep(const std::function<void()>& endBlocker);
+
+    void startBlocking() { ++mBlockers; }
+    void endBlocking();
+    /** Makes the present state of what changed without being recorded the known one. */
+    void acceptUnrecorded();
     bool isRecording() const { return !mReplaying && mBlockers == 0; }
-    void touch(FRecorded* object, bool whole = false);
+    /** Fails an assertion if the model may not be changed now. */
+    void checkOpen(const QString& what) const;
+    void add(const FRecorded* object, Reason reason);
+    void touch(FRecorded* object, Reason reason);
     void close();
     void takeBack();
     Transaction takeOpen();
     static void forgetChangesOfNew(Transaction& step);
     static void keepDifference(ObjectChange& change);
+    static void dropUnchanged(Transaction& step);
+    static Objects objectsOf(const Transaction& step);
+    static void announceChanged(const Objects& objects);
     static std::size_t memoryOf(const Transaction& step, bool isDone);
     void keep(Transaction step, bool isDone);
     /** Takes the last of the steps over to the others. */
     bool move(std::deque<Transaction>& steps, bool forward);
     void replay(const Transaction& step, bool forward);
+    static void restoreModel(const Transaction& step, bool forward);
+    static void restoreFields(const Transaction& step, bool forward);
     void dropUndone();
     void trim();
 
     int mDepth = 0;
+    int mUserSteps = 0;  // how many of the open transactions are user steps
     int mBlockers = 0;
     bool mFailed = false;  // a transaction within the open one was rolled back
     bool mReplaying = false;
     Transaction mOpen;
-    QHash<const FRecorded*, std::size_t> mTouched;  // the objects of mOpen, by their places
+    QHash<const FRecorded*, std::size_t> mTouched;   // the objects of mOpen, by their places
+    QHash<const FRecorded*, FExprBase> mUnrecorded;  // changed under a blocker, or outside of any step
     std::deque<Transaction> mDone;
     std::deque<Transaction> mUndone;  // the farthest from the present state first
-    std::function<void()> mObserver = [] {};
     std::size_t mSize = 0;
     std::size_t mLimit = std::size_t{256} << 20U;
 };
 
-/** A transaction for the life of the object. */
-class MERIX_EXPORT FHistoryTransaction {
+/** A transaction for the life of the object. Changes by users are FUserSteps instead. */
+class FHistoryTransaction {
  public:
     explicit FHistoryTransaction(const QString& label) { FHistory::instance()->startTransaction(label); }
     ~FHistoryTransaction() { FHistory::instance()->commit(1); }
@@ -129,11 +163,28 @@ class MERIX_EXPORT FHistoryTransaction {
     void addStep(const FRecorded* object) { FHistory::instance()->addStep(object); }
 };
 
-/** While one exists, nothing is recorded: an object that is added to the step counts as having always been so. */
-class MERIX_EXPORT FHistoryBlocker {
+/** While one exists, changes aren't recorded; at its end the present state of what changed becomes the known one. */
+class FHistoryBlocker {
  public:
-    FHistoryBlocker() { ++FHistory::instance()->mBlockers; }
-    ~FHistoryBlocker() { --FHistory::instance()->mBlockers; }
+    FHistoryBlocker() { FHistory::instance()->startBlocking(); }
+    ~FHistoryBlocker() { FHistory::instance()->endBlocking(); }
     FHistoryBlocker(const FHistoryBlocker&) = delete;
     FHistoryBlocker& operator=(const FHistoryBlocker&) = delete;
+};
+
+/**
+ * Interrupts the open user steps for a command that keeps steps of its own, such as undo or a run: what was done before
+ * becomes a step, and what comes after it another one. Has no effect inside other transactions.
+ */
+class MERIX_EXPORT FHistoryPause {
+ public:
+    FHistoryPause();
+    ~FHistoryPause();
+    FHistoryPause(const FHistoryPause&) = delete;
+    FHistoryPause& operator=(const FHistoryPause&) = delete;
+
+ private:
+    int mDepth = 0;
+    int mBlockers = 0;
+    QString mLabel;
 };

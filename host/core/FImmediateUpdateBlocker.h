@@ -11,4 +11,8 @@ class MERIX_EXPORT FImmediateUpdateBlocker {
     FImmediateUpdateBlocker& operator=(const FImmediateUpdateBlocker&) = delete;
 
     static bool isBlocked();
+
+    /** Has what waits updated now, whatever blockers there are; returns their number, for `resume`. */
+    static int suspend();
+    static void resume(int blockers);
 };

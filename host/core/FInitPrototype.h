@@ -19,6 +19,15 @@ class MERIX_EXPORT FInitFManagedPrototype {
     virtual ~FInitFManagedPrototype() = default;
 };
 
+/** @param needsWindows  whether the class contains a widget */
+class FInitFViewPrototype {
+ public:
+    explicit FInitFViewPrototype(FPrototypes::Build build, bool needsWindows) {
+        FPrototypes::remember(build, needsWindows);
+    }
+    virtual ~FInitFViewPrototype() = default;
+};
+
 /** Registers the types in the order of the list. */
 template <class... Types>
 class MERIX_EXPORT FInitPrototypes {
@@ -28,10 +37,25 @@ class MERIX_EXPORT FInitPrototypes {
  private:
     template <class T>
     static void registerType() {
-        if constexpr (FPrototypes::familyOf<T>() == FFamily::Managed) {
+        constexpr FFamily family = FPrototypes::familyOf<T>();
+        if constexpr (family == FFamily::View) {
+            FInitFViewPrototype registrar(&T::initPrototype, needsWindows<T>());
+        } else if constexpr (family == FFamily::Managed) {
             FInitFManagedPrototype registrar(&T::initPrototype);
+        } else if constexpr (needsWindows<T>()) {
+            FPrototypes::remember(&T::initPrototype, true);
         } else {
             FInitFObjectPrototype registrar(&T::initPrototype);
+        }
+    }
+
+    /** A class that contains a widget or a pixmap says so: `static constexpr bool needsWindows = true;`. */
+    template <class T>
+    static constexpr bool needsWindows() {
+        if constexpr (requires { T::needsWindows; }) {
+            return T::needsWindows;
+        } else {
+            return false;
         }
     }
 };

@@ -1,5 +1,7 @@
 #include "host/core/FLogMsg.h"
 
+#include "host/core/FChanges.h"
+
 #include <iostream>
 #include <utility>
 
@@ -20,21 +22,27 @@ QString FLogMsg::toLine() const {
     const QString prefix = kind == Kind::Error     ? QStringLiteral("error: ")
                            : kind == Kind::Warning ? QStringLiteral("warning: ")
                                                    : QString();
-    const QString from = source.isEmpty() ? QString() : source + QStringLiteral(": ");
+    const QString& origin = place.isEmpty() ? source : place;
+    const QString from = origin.isEmpty() ? QString() : origin + QStringLiteral(": ");
     const QString tail = consequence.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(consequence);
     return prefix + from + message + tail;
 }
 
+void FLogMsg::send() const {
+    sink()(*this);
+    emit FChanges::instance()->messageLogged(*this);
+}
+
 void FLogMsg::info(const QString& source, const QString& message, const QString& consequence, Stream stream) {
-    sink()({Kind::Info, source, message, consequence, stream});
+    FLogMsg{Kind::Info, source, message, consequence, stream, {}}.send();
 }
 
-void FLogMsg::warning(const QString& source, const QString& message, const QString& consequence) {
-    sink()({Kind::Warning, source, message, consequence, Stream::StandardError});
+void FLogMsg::warning(const QString& source, const QString& message, const QString& consequence, const QString& place) {
+    FLogMsg{Kind::Warning, source, message, consequence, Stream::StandardError, place}.send();
 }
 
-void FLogMsg::error(const QString& source, const QString& message, const QString& consequence) {
-    sink()({Kind::Error, source, message, consequence, Stream::StandardError});
+void FLogMsg::error(const QString& source, const QString& message, const QString& consequence, Stream stream) {
+    FLogMsg{Kind::Error, source, message, consequence, stream, {}}.send();
 }
 
 FLogMsg::Sink FLogMsg::setSink(Sink fresh) {

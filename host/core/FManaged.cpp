@@ -1,11 +1,14 @@
 #include "host/core/FManaged.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FScriptLanguage.h"
+
+#include <utility>
 
 FClassData FManaged::mClass("FManaged", &FObject::mClass, nullptr, &FManaged::fields);
 bool FManaged::mInitPrototype = false;
@@ -33,7 +36,44 @@ FManaged::FManaged(const QString& name) : mName(legalName(name)) {
 }
 
 FManaged::FManaged(const FManaged& other) : FManaged(other.mName) {
-    mDocu = other.mDocu;
+    *this = other;
+}
+
+FManaged& FManaged::operator=(const FManaged& other) {
+    if (this != &other) {
+        recordChange();
+        mDocu = other.mDocu;
+        mSystemLevel = other.mSystemLevel;
+        mInProject = other.mInProject;
+        mInUserConfig = other.mInUserConfig;
+        mDefault = other.mDefault;
+        mConfigurationHandle = other.mConfigurationHandle;
+    }
+    return *this;
+}
+
+void FManaged::recordChange() {
+    FHistory::instance()->record(this);
+}
+
+void FManaged::setInProject(bool inProject) {
+    recordChange();
+    mInProject = inProject;
+}
+
+void FManaged::setInUserConfig(bool inUserConfig) {
+    recordChange();
+    mInUserConfig = inUserConfig;
+}
+
+void FManaged::setDefault(bool isDefault) {
+    recordChange();
+    mDefault = isDefault;
+}
+
+void FManaged::setConfigurationHandle(const FExpr<FManaged>& configuration) {
+    recordChange();
+    mConfigurationHandle = configuration;
 }
 
 std::vector<std::unique_ptr<FStateField>> FManaged::fields() {
@@ -49,13 +89,20 @@ std::vector<std::unique_ptr<FStateField>> FManaged::fields() {
 
 void FManaged::init(const FManaged* other) {
     if (other) {
+        recordChange();
         mDocu = other->mDocu;
     }
+}
+
+void FManaged::copyAttributes(FClassData& ofClass, const FManaged& other) {
+    recordChange();
+    FScriptLanguage::instance()->copyAttributes(ofClass, *this, other);
 }
 
 FManaged* FManaged::setName(const QString& name) {
     const QString legal = legalName(name);
     if (legal != mName && !legal.isEmpty()) {
+        recordChange();
         mName = mInModel ? FObjectManager::instance()->uniqueName(legal, this) : legal;
         renamed();
     }
@@ -63,9 +110,10 @@ FManaged* FManaged::setName(const QString& name) {
 }
 
 void FManaged::renamed() {
-    if (mInModel) {
-        FObjectManager::instance()->rename(this, mKnownName, mName);
-        mKnownName = mName;
+    if (mInModel && mKnownName != mName) {
+        const QString oldName = std::exchange(mKnownName, mName);
+        FObjectManager::instance()->rename(this, oldName, mName);
+        emit FChanges::instance()->objectRenamed(this, oldName);
     }
 }
 
@@ -81,8 +129,8 @@ void FManaged::registerObject() {
         mName = defaultName(getClass());
     }
     mName = FObjectManager::instance()->uniqueName(mName, this);
-    enter();
     FHistory::instance()->recordCreation(this);
+    enter();
 }
 
 bool FManaged::restoreDbId(int id) {
@@ -106,6 +154,7 @@ void FManaged::enter() {
     FObjectManager::instance()->enter(this);
     rememberState();
     enterModel();
+    emit FChanges::instance()->objectEntered(this);
 }
 
 void FManaged::leave() {
@@ -113,6 +162,7 @@ void FManaged::leave() {
     FObjectManager::instance()->leave(this, mKnownName);
     mInModel = false;
     getBlock()->outOfModel = true;
+    emit FChanges::instance()->objectLeft(this);
 }
 
 bool FManaged::destroy(FManaged* object, bool tellClients) {
@@ -158,8 +208,8 @@ void FManaged::end() {
 }
 
 void FManaged::addDocu(const QString& text, unsigned int area) {
+    recordChange();
     mDocu[area] += text;
-    FHistory::instance()->addStep(this);
 }
 
 void FManaged::saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const {

@@ -39,21 +39,22 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
     static bool destroy(FManaged* object, bool tellClients = true);
     bool isInModel() const { return mInModel; }
     bool isRecorded() const override { return mInModel; }
+    FManaged* getOwner() const override { return const_cast<FManaged*>(this); }
     /** The object during whose parent registration this one was registered; null if there was none. */
     const FObject* getParent() const { return mParent.getStored(); }
 
     /** Whether the object belongs to what a project saves. */
-    virtual void setInProject(bool inProject) { mInProject = inProject; }
+    virtual void setInProject(bool inProject);
     bool isInProject() const { return mInProject; }
     /** Whether the object belongs to the user's own configuration rather than to a project. */
-    virtual void setInUserConfig(bool inUserConfig) { mInUserConfig = inUserConfig; }
+    virtual void setInUserConfig(bool inUserConfig);
     bool isInUserConfig() const { return mInUserConfig; }
     /** A default object comes with the program and isn't the user's. */
     bool isDefault() const { return mDefault; }
-    void setDefault(bool isDefault) { mDefault = isDefault; }
+    void setDefault(bool isDefault);
     /** Whether the object lives in a configuration of its own rather than in the scope that is saved. */
     bool hasConfiguration() const { return static_cast<bool>(mConfigurationHandle); }
-    void setConfigurationHandle(const FExpr<FManaged>& configuration) { mConfigurationHandle = configuration; }
+    void setConfigurationHandle(const FExpr<FManaged>& configuration);
 
     /** Documentation that a user has written on the object, by area. */
     void addDocu(const QString& text, unsigned int area);
@@ -79,19 +80,26 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
 
     QString toString() const override { return mName; }
 
-    FManaged& operator=(const FManaged& other) = delete;
+    /** Takes over the documentation and the flags. Name, number and membership in the model stay. */
+    FManaged& operator=(const FManaged& other);
 
  protected:
+    /** As assignment, and takes the name. The copy isn't in the model. */
     FManaged(const FManaged& other);
-    /** Takes over what a copy shares with its source: the documentation. Name and place in the model stay. */
+    /** Takes over what a clone shares with its source: the documentation. */
     void init(const FManaged* other);
+    /** Takes over the attributes that a class declares in its command table as copied. */
+    void copyAttributes(FClassData& ofClass, const FManaged& other);
+    /** The object is about to change, or has: it becomes part of the open step. */
+    void recordChange();
     /** What goes with the object when it leaves: called while it is still whole, also by redo. */
     virtual void leaveModel() {}
     /** The mirror, called when it was registered and by undo. */
     virtual void enterModel() {}
-    /** Tells those who depend on the object that it has gone. */
+    /** Marks what depends on the object, which is gone. */
     virtual void tellGone() const;
-    /** The object will not come back: gives up what may, in a ring, keep it in turn. */
+    /** Called when undo can no longer bring the object back. Drops handles that could form a reference cycle with it.
+     */
     virtual void letGo() {}
 
     int mSystemLevel = 0;  //!< above 1: not listed among the objects that a user made

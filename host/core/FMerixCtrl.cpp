@@ -1,6 +1,20 @@
 #include "host/core/FMerixCtrl.h"
 
+#include "host/core/FChanges.h"
+
 FMerixCtrl* FMerixCtrl::instance() {
     static FMerixCtrl control;
     return &control;
+}
+
+FProjectLoading::FProjectLoading() {
+    if (FMerixCtrl::instance()->mLoading++ == 0) {
+        emit FChanges::instance()->loadingStarted();
+    }
+}
+
+FProjectLoading::~FProjectLoading() {
+    if (--FMerixCtrl::instance()->mLoading == 0) {
+        emit FChanges::instance()->loadingEnded();
+    }
 }

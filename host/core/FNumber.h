@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+
+#include <cmath>
 #include "host/core/FExport.h"
 
 /** A number as a double. */
@@ -26,6 +28,11 @@ class MERIX_EXPORT FDouble : public FClass<FDouble, FBasicType> {
 class MERIX_EXPORT FInteger : public FClass<FInteger, FDouble> {
  public:
     static FClassData mClass;
+
+    /** Whole numbers beyond this aren't exact in a double. */
+    static constexpr double most = 9007199254740992.0;
+    /** A new FInteger for a whole number that is exact, else an FDouble. */
+    static FDouble* fit(double whole) { return std::abs(whole) <= most ? new FInteger(whole) : new FDouble(whole); }
 
     explicit FInteger(double value = 0) : FClass(value) {}
     FObject* clone() const override { return new FInteger(mValue); }

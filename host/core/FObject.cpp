@@ -1,5 +1,6 @@
 #include "host/core/FObject.h"
 
+#include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FManaged.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
@@ -7,7 +8,9 @@
 #include "host/core/FTypeDocu.h"
 #include "host/core/FUpdateGraph.h"
 #include "host/core/FUpdateLinks.h"
+#include "host/core/FView.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 FClassData FObject::mClass("FObject", nullptr);
@@ -34,7 +37,7 @@ FObject::~FObject() {
 }
 
 bool FObject::isInitializingPrototype() {
-    return FObject::mInitPrototype || FManaged::mInitPrototype;
+    return FObject::mInitPrototype || FManaged::mInitPrototype || FView::mInitPrototype;
 }
 
 void FObject::setOwnedElsewhere() {
@@ -156,6 +159,23 @@ void FObject::removeSupplier(const FObject* supplier) const {
 
 bool FObject::dependsOn(const FObject* supplier) const {
     return FUpdateGraph::reaches(this, supplier);
+}
+
+bool FObject::hasClient(const FObject* client, bool recursive) const {
+    const std::vector<FObject*> clients = getClients();
+    return recursive ? client != this && client->dependsOn(this)
+                     : std::find(clients.begin(), clients.end(), client) != clients.end();
+}
+
+void FObject::blockImmediateUpdate(bool block) {
+    static std::vector<std::unique_ptr<FImmediateUpdateBlocker>> blockers;
+    if (block) {
+        blockers.push_back(std::make_unique<FImmediateUpdateBlocker>());
+    } else if (!blockers.empty()) {
+        // Out of the list first, since its end may lead to further calls.
+        const auto last = std::move(blockers.back());
+        blockers.pop_back();
+    }
 }
 
 std::vector<FObject*> FObject::getClients() const {

@@ -96,13 +96,24 @@ class MERIX_EXPORT FObject {
     /** The script text from which the object can be restored. */
     virtual QString toHistoryString() const { return toExpressionString(); }
 
+    /**
+     * The script text by which a kept expression finds the object, where its own text wouldn't be readable in a saved
+     * project; empty where it is. For an object that no text can find, `fault` gets the reason.
+     */
+    virtual QString getKeptText(QString& fault) const {
+        Q_UNUSED(fault)
+        return {};
+    }
+
     // ---- what the object stands for ----
     virtual FObjectList* castToObjectList() { return nullptr; }
     /** True for commands: a handle on one stands for the command's result. */
     virtual bool isCmd() const { return false; }
     /** The object itself; for a command the object of its result, brought up to date. May be null. */
     virtual FObject* evaluate() const { return const_cast<FObject*>(this); }
-    /** The value that the object stands for in a calculation: for a parameter its number, else the object itself. */
+    /** True for objects that have a value, which may change, such as parameters. */
+    virtual bool holdsValue() const { return false; }
+    /** The object's value in a calculation: for a parameter its number, else the object itself. */
     virtual FObject* getValueObject() const { return const_cast<FObject*>(this); }
     /** The type of what `evaluate` gives, as far as it is known without evaluating: a prototype, never null. */
     virtual const FObject* getEvaluatedType() const { return getPrototype(); }
@@ -122,6 +133,9 @@ class MERIX_EXPORT FObject {
     virtual bool doUpdate() const { return true; }
     void setUpdateOnDemand(bool onDemand) { mImmediateUpdate = !onDemand; }
     bool isUpdateOnDemand() const { return !mImmediateUpdate; }
+    void setImediateUpdate(bool immediate) { setUpdateOnDemand(!immediate); }
+    /** True holds all immediate updates back until the matching call with false; calls are counted. */
+    static void blockImmediateUpdate(bool block);
     /**
      * Makes this object depend on `supplier`; links are counted. Refused, with false, where it would close a cycle.
      */
@@ -129,6 +143,8 @@ class MERIX_EXPORT FObject {
     void removeSupplier(const FObject* supplier) const;
     /** Whether a mark of `supplier` reaches this object. */
     bool dependsOn(const FObject* supplier) const;
+    /** Whether `client` depends on this object: directly, or with `recursive` also through others. */
+    bool hasClient(const FObject* client, bool recursive) const;
     /** The objects that depend on this one directly, in the order in which they were linked. */
     std::vector<FObject*> getClients() const;
     std::vector<FObject*> getSuppliers() const;

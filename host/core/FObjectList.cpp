@@ -54,6 +54,20 @@ QString FObjectList::toExpressionString() const {
     });
 }
 
+QString FObjectList::getKeptText(QString& fault) const {
+    for (const FExpr<FObject>& object : mObjects) {
+        const FObject* stored = object.getStored();
+        if (stored && !stored->getKeptText(fault).isEmpty()) {
+            fault =
+                QStringLiteral("the list holds \"%1\", which isn't saved; write the list out").arg(stored->toString());
+        }
+        if (!fault.isEmpty()) {
+            break;
+        }
+    }
+    return {};
+}
+
 QString FObjectList::toHistoryString() const {
     return listText(mObjects, [](const FExpr<FObject>& object) { return object.toHistoryString(); });
 }

@@ -35,6 +35,8 @@ class MERIX_EXPORT FObjectList : public FClass<FObjectList, FObject> {
     QString toExpressionString() const override;
     QString toHistoryString() const override;
     FObjectList* castToObjectList() override { return this; }
+    /** A list of objects that need another text than their own can't be kept. */
+    QString getKeptText(QString& fault) const override;
 
  protected:
     std::vector<FExprBase> getOperands() const override { return {mObjects.begin(), mObjects.end()}; }

@@ -2,36 +2,83 @@
 
 #include "host/core/FManaged.h"
 #include "host/core/FScriptLanguage.h"
+#include "host/core/FView.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
+#include <algorithm>
 #include <iostream>
+#include <utility>
 
 namespace {
 
+struct Pending {
+    FPrototypes::Build build;
+    bool needsWindows;
+};
+
 struct Registry {
-    std::vector<FPrototypes::Build> pending;
+    std::vector<Pending> pending;
     QHash<QString, const FObject*> byName;
 };
 
 // Built at the first use, since registrars of other libraries may run before this one's static objects exist, and
-// never destroyed, since prototypes are asked for up to the very end.
+// never destroyed, since prototypes are used up to the very end.
 Registry& registry() {
     static auto* theRegistry = new Registry;
     return *theRegistry;
 }
 
+struct Family {
+    bool* flag;         // set while a prototype of the family is built
+    const char* trace;  // printed with the class name
+};
+
+Family dataOf(FFamily family) {
+    switch (family) {
+        case FFamily::Object:
+            return {&FObject::mInitPrototype, "init FObject prototype: "};
+        case FFamily::Managed:
+            return {&FManaged::mInitPrototype, "init FManaged prototype: "};
+        case FFamily::View:
+            break;
+    }
+    return {&FView::mInitPrototype, "init FView prototype: "};
+}
+
+/** Those that can be built now; the others stay. */
+std::vector<FPrototypes::Build> takeReady() {
+    std::vector<FPrototypes::Build> ready;
+    std::vector<Pending> waiting;
+    const bool hasWindows = FPrototypes::hasWindows();
+    for (const Pending& next : std::exchange(registry().pending, {})) {
+        if (next.needsWindows && !hasWindows) {
+            waiting.push_back(next);
+        } else {
+            ready.push_back(next.build);
+        }
+    }
+    auto& pending = registry().pending;
+    pending.insert(pending.begin(), waiting.begin(), waiting.end());
+    return ready;
+}
+
 }  // namespace
 
-void FPrototypes::remember(Build build) {
-    registry().pending.push_back(build);
+void FPrototypes::remember(Build build, bool needsWindows) {
+    registry().pending.push_back({build, needsWindows});
+}
+
+// Not asked of Qt's widgets, which this library doesn't know.
+bool FPrototypes::hasWindows() {
+    const QCoreApplication* application = QCoreApplication::instance();
+    return application && application->inherits("QApplication");
 }
 
 void FPrototypes::buildPending() {
     std::vector<const FObject*> built;
-    while (!registry().pending.empty()) {
-        std::vector<Build> builds;
-        builds.swap(registry().pending);
+    for (auto builds = takeReady(); !builds.empty(); builds = takeReady()) {
         for (Build build : builds) {
             built.push_back(build());
         }
@@ -40,6 +87,13 @@ void FPrototypes::buildPending() {
     for (const FObject* prototype : built) {
         prototype->initCmds();
     }
+}
+
+QStringList FPrototypes::getNames() {
+    buildPending();
+    QStringList names(registry().byName.keys());
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 void FPrototypes::add(const FObject* prototype) {
@@ -56,14 +110,13 @@ const FObject* FPrototypes::build(FClassData& data, FFamily family, const std::f
         return data.mpNull;
     }
     FScriptLanguage::instance()->addCommandPrototypes(data);
+    const Family known = dataOf(family);
     if (VERBOSE != 0) {
-        std::cout << (family == FFamily::Managed ? "init FManaged prototype: " : "init FObject prototype: ")
-                  << qPrintable(data.getName()) << std::endl;
+        std::cout << known.trace << qPrintable(data.getName()) << std::endl;
     }
-    bool& flag = family == FFamily::Managed ? FManaged::mInitPrototype : FObject::mInitPrototype;
-    flag = true;
+    *known.flag = true;
     data.mpNull = make();
     FObject::addPrototype(data.mpNull);
-    flag = false;
+    *known.flag = false;
     return data.mpNull;
 }

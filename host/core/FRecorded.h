@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class FManaged;
 class FState;
 
 /**
@@ -18,6 +19,8 @@ class MERIX_EXPORT FRecorded : public FObject {
 
     /** True while the object belongs to the model; outside it nothing is kept. */
     virtual bool isRecorded() const = 0;
+    /** The managed object that it is, or is a part of; null outside the model. */
+    virtual FManaged* getOwner() const = 0;
     /** About how many bytes it holds; overrides add what isn't in its raw fields. */
     virtual std::size_t getMemory() const;
 

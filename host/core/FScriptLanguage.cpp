@@ -1,6 +1,7 @@
 #include "host/core/FScriptLanguage.h"
 
 #include "host/core/FExprBase.h"
+#include "host/core/FStateField.h"
 
 namespace {
 
@@ -9,6 +10,11 @@ class FNoLanguage : public FScriptLanguage {
  public:
     void addCommandPrototypes(FClassData& data) override { Q_UNUSED(data) }
     void registerCommands(FClassData& data) override { Q_UNUSED(data) }
+    std::vector<std::unique_ptr<FStateField>> attributeFields(FClassData& data) override {
+        Q_UNUSED(data)
+        return {};
+    }
+    void copyAttributes(FClassData&, FObject&, const FObject&) override {}
     FExprBase resolve(const QString& text, QString* error) override {
         if (error) {
             *error = QStringLiteral("there is no script language to read \"%1\"").arg(text);

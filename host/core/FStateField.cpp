@@ -2,6 +2,8 @@
 
 #include "host/core/FRecorded.h"
 
+#include <algorithm>
+
 FState FState::capture(const FObject& object) {
     FState state;
     const auto& fields = object.getClassData().getFields();
@@ -37,6 +39,65 @@ std::size_t FState::size(const FObject& object) const {
     }
     return sum;
 }
+
+// ---- long texts ----
+
+namespace {
+
+/** Shorter texts are cheaper whole than compared. */
+constexpr int longText = 1024;
+
+int commonStart(const QString& a, const QString& b) {
+    const auto differ = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    return static_cast<int>(differ.first - a.begin());
+}
+
+/** How many of the last characters are the same, at most `most`. */
+int commonEnd(const QString& a, const QString& b, int most) {
+    int count = 0;
+    while (count < most && a[a.size() - 1 - count] == b[b.size() - 1 - count]) {
+        ++count;
+    }
+    return count;
+}
+
+}  // namespace
+
+void FTextChange::shrink(std::any& before, std::any& after) {
+    const auto old = std::any_cast<QString>(before);
+    const auto fresh = std::any_cast<QString>(after);
+    if (old.size() < longText && fresh.size() < longText) {
+        return;
+    }
+    const int start = commonStart(old, fresh);
+    const int end = commonEnd(old, fresh, std::min(old.size(), fresh.size()) - start);
+    before = FTextChange{start, end, old.mid(start, old.size() - start - end)};
+    after = FTextChange{start, end, fresh.mid(start, fresh.size() - start - end)};
+}
+
+QString FTextChange::whole(const std::any& value, const std::any& known) {
+    const auto* change = std::any_cast<FTextChange>(&value);
+    if (!change) {
+        return std::any_cast<QString>(value);
+    }
+    const auto& other = std::any_cast<const QString&>(known);
+    return other.left(change->before) + change->middle + other.right(change->after);
+}
+
+bool FTextChange::equal(const std::any& a, const std::any& b) {
+    const auto* whole = std::any_cast<QString>(&a);
+    const auto* other = std::any_cast<QString>(&b);
+    // What was shrunk differs.
+    return whole && other && *whole == *other;
+}
+
+std::size_t FTextChange::size(const std::any& value) {
+    const auto* change = std::any_cast<FTextChange>(&value);
+    const QString text = change ? change->middle : std::any_cast<QString>(value);
+    return static_cast<std::size_t>(text.size()) * sizeof(QChar);
+}
+
+// ---- owned objects ----
 
 FOwnedState FOwnedState::capture(std::vector<FExprBase> objects) {
     FOwnedState owned;

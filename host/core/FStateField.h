@@ -25,6 +25,16 @@ class MERIX_EXPORT FStateField {
 
     virtual std::any read(const FObject& object) const = 0;
     virtual void write(FObject& object, const std::any& value) const = 0;
+    /** Makes two values that differ smaller, where what they have in common can be left out. */
+    virtual void shrink(std::any& before, std::any& after) const {
+        Q_UNUSED(before)
+        Q_UNUSED(after)
+    }
+    /** Writes back a value that may be shrunk; `known` is the other one of the two, whole. */
+    virtual void restore(FObject& object, const std::any& value, const std::any& known) const {
+        Q_UNUSED(known)
+        write(object, value);
+    }
     virtual bool equal(const std::any& a, const std::any& b) const = 0;
     /** About how many bytes a kept value holds that the model doesn't. */
     virtual std::size_t size(const std::any& value) const = 0;
@@ -58,6 +68,20 @@ struct MERIX_EXPORT FOwnedState {
  */
 MERIX_EXPORT std::size_t heldMemory(const FExprBase& handle);
 
+/** The part of a long text that a change replaces. */
+struct MERIX_EXPORT FTextChange {
+    int before;  //!< characters ahead of it that stay
+    int after;   //!< characters after it that stay
+    QString middle;
+
+    /** Replaces two different texts by the parts in which they differ. */
+    static void shrink(std::any& before, std::any& after);
+    /** The text that a value stands for, given the other one of the two. */
+    static QString whole(const std::any& value, const std::any& known);
+    static bool equal(const std::any& a, const std::any& b);
+    static std::size_t size(const std::any& value);
+};
+
 /** Builds the list of a class's raw fields; made in a static function of the class, which may name its members. */
 template <class C>
 class MERIX_EXPORT FStateFields {
@@ -67,13 +91,23 @@ class MERIX_EXPORT FStateFields {
     /** A member that can be copied and compared. `after` runs when it was written back. */
     template <class V>
     FStateFields& member(V C::*member, After after = nullptr) {
-        mFields.push_back(std::make_unique<MemberField<V>>(member, std::move(after)));
+        return value<V>(std::mem_fn(member), std::move(after));
+    }
+    /** The same for a value that a function finds in the object. */
+    template <class V>
+    FStateFields& value(std::function<V&(C&)> find, After after = nullptr) {
+        mFields.push_back(std::make_unique<MemberField<V>>(std::move(find), std::move(after)));
+        return *this;
+    }
+    /** A text that may be long: a step holds only the part that it changes. */
+    FStateFields& text(QString C::*member, After after = nullptr) {
+        mFields.push_back(std::make_unique<TextField>(std::mem_fn(member), std::move(after)));
         return *this;
     }
     /** A handle, or a list of handles, on which this object depends: it is made their client anew when written back. */
     template <class V>
     FStateFields& linked(V C::*member, After after = nullptr) {
-        mFields.push_back(std::make_unique<LinkedField<V>>(member, std::move(after)));
+        mFields.push_back(std::make_unique<LinkedField<V>>(std::mem_fn(member), std::move(after)));
         return *this;
     }
     /** A handle on a value that this object owns and depends on: linked, and the value's own fields are kept with it.
@@ -127,11 +161,13 @@ class MERIX_EXPORT FStateFields {
     template <class V>
     class MemberField : public FStateField {
      public:
-        MemberField(V C::*member, After after) : mMember(member), mAfter(std::move(after)) {}
-        std::any read(const FObject& object) const override { return static_cast<const C&>(object).*mMember; }
+        using Find = std::function<V&(C&)>;
+
+        MemberField(Find find, After after) : mFind(std::move(find)), mAfter(std::move(after)) {}
+        std::any read(const FObject& object) const override { return V(in(object)); }
         void write(FObject& object, const std::any& value) const override {
             auto& self = static_cast<C&>(object);
-            self.*mMember = std::any_cast<const V&>(value);
+            mFind(self) = std::any_cast<const V&>(value);
             if (mAfter) {
                 mAfter(self);
             }
@@ -141,17 +177,31 @@ class MERIX_EXPORT FStateFields {
         }
         std::size_t size(const std::any& value) const override { return sizeOf(std::any_cast<const V&>(value)); }
 
+     protected:
+        const V& in(const FObject& object) const { return mFind(const_cast<C&>(static_cast<const C&>(object))); }
+
      private:
-        V C::*mMember;
+        Find mFind;
         After mAfter;
+    };
+
+    class TextField : public MemberField<QString> {
+     public:
+        using MemberField<QString>::MemberField;
+        void shrink(std::any& before, std::any& after) const override { FTextChange::shrink(before, after); }
+        void restore(FObject& object, const std::any& value, const std::any& known) const override {
+            MemberField<QString>::write(object, FTextChange::whole(value, known));
+        }
+        bool equal(const std::any& a, const std::any& b) const override { return FTextChange::equal(a, b); }
+        std::size_t size(const std::any& value) const override { return FTextChange::size(value); }
     };
 
     template <class V>
     class LinkedField : public MemberField<V> {
      public:
-        LinkedField(V C::*member, After after) : MemberField<V>(member, std::move(after)), mMember(member) {}
+        using MemberField<V>::MemberField;
         void write(FObject& object, const std::any& value) const override {
-            for (const FExprBase& handle : handles(static_cast<const C&>(object).*mMember)) {
+            for (const FExprBase& handle : handles(this->in(object))) {
                 handle.unregisterClient(&object);
             }
             for (const FExprBase& handle : handles(std::any_cast<const V&>(value))) {
@@ -166,8 +216,6 @@ class MERIX_EXPORT FStateFields {
         static std::vector<FExprBase> handles(const QList<FExpr<T>>& list) {
             return {list.begin(), list.end()};
         }
-
-        V C::*mMember;
     };
 
     class OwnedField : public FStateField {

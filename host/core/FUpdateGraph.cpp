@@ -9,6 +9,7 @@
 #include <deque>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -46,8 +47,24 @@ bool FImmediateUpdateBlocker::isBlocked() {
     return blockers > 0;
 }
 
+int FImmediateUpdateBlocker::suspend() {
+    const int count = std::exchange(blockers, 0);
+    FUpdateGraph::updateWaiting();
+    return count;
+}
+
+void FImmediateUpdateBlocker::resume(int count) {
+    blockers += count;
+}
+
 void FUpdateGraph::markOutOfDate(FObject* start) {
     if (start->mUpdating) {
+        return;
+    }
+    // Most objects are new values and commands, which nothing depends on yet.
+    if (!start->mpLinks && !start->mImmediateUpdate && !start->getWhole()) {
+        start->mOutOfDate = true;
+        start->becameOutOfDate();
         return;
     }
     std::vector<FObject*> todo{start};

@@ -25,6 +25,8 @@ class MERIX_EXPORT FUserInterface {
     virtual void tell(const QString& title, const QString& text);
     /** Asks for a file to open, starting at a path; the answer is empty if there is none. */
     virtual QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter);
+    /** Takes text over that was typed into editors and isn't in the model yet, as a step of its own. */
+    virtual void commitEdits() {}
     /** A dialog that blocks the other windows opens, or has closed. */
     virtual void setModalDialog(bool open) { Q_UNUSED(open) }
     virtual void highlight(const QList<FExprBase>& objects) { Q_UNUSED(objects) }

@@ -1,6 +1,5 @@
 #include "host/design/FConfiguration.h"
 
-#include "host/core/FHistory.h"
 #include "host/core/FQuotedText.h"
 #include "host/design/FEntryDef.h"
 #include "host/design/FEntryTree.h"
@@ -74,17 +73,15 @@ std::vector<std::unique_ptr<FStateField>> FConfiguration::fields() {
 }
 
 void FConfiguration::setDefinition(const FExpr<FDefinition>& definition) {
-    FHistoryTransaction transaction(QStringLiteral("set definition"));
+    recordChange();
     mDefinition.unregisterClient(this);
     mDefinition = definition;
     mDefinition.registerClient(this);
-    transaction.addStep(this);
     setOutOfDate(true);
     reinit(false);
 }
 
 void FConfiguration::reinit(bool reset) {
-    FHistoryTransaction transaction(QStringLiteral("follow definition"));
     if (const FDefinition* definition = mDefinition.ptr()) {
         FEntryTree().follow(*this, *definition, reset);
     } else {
@@ -114,7 +111,6 @@ std::vector<FExprBase> FConfiguration::getSources(const QString& path) const {
 }
 
 bool FConfiguration::setEntryValue(const QString& path, const FExprBase& value) {
-    FHistoryTransaction transaction(QStringLiteral("set entry value"));
     FEntry* entry = getValueEntry(path);
     if (!entry) {
         entry = FEntryTree().makeOccurrence(*this, path);

@@ -3,13 +3,32 @@
 #include "host/core/FManaged.h"
 #include "host/core/FObjectManager.h"
 
-QList<FConnectorInterface*> FConnectorInterface::getConnectors(const QString& className) {
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+std::vector<FClassData*>& classes() {
+    static std::vector<FClassData*> registered;
+    return registered;
+}
+
+}  // namespace
+
+void FConnectorInterface::registerClass(FClassData& data) {
+    classes().push_back(&data);
+}
+
+QList<FConnectorInterface*> FConnectorInterface::getConnectors() {
     QList<FConnectorInterface*> found;
-    const FObject* prototype = FObject::getPrototype(className);
-    const QList<FManaged*> objects =
-        prototype ? FObjectManager::instance()->getManaged(prototype, QString(), false) : QList<FManaged*>();
-    for (FManaged* object : objects) {
-        if (auto* connector = dynamic_cast<FConnectorInterface*>(object)) {
+    if (classes().empty()) {
+        return found;
+    }
+    for (FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        const bool isConnector = std::any_of(classes().begin(), classes().end(), [object](const FClassData* data) {
+            return data->isSuperClassOf(object->getClassData());
+        });
+        if (auto* connector = isConnector ? dynamic_cast<FConnectorInterface*>(object) : nullptr) {
             found.append(connector);
         }
     }
@@ -17,17 +36,16 @@ QList<FConnectorInterface*> FConnectorInterface::getConnectors(const QString& cl
 }
 
 QList<FConnectorInterface*> FConnectorInterface::getConnectors(const FDefinition* definition) {
-    QList<FConnectorInterface*> found;
-    for (FConnectorInterface* connector : getConnectors(QStringLiteral("FSoftwareConnector"))) {
-        if (connector->getDefinition() == definition) {
-            found.append(connector);
-        }
-    }
+    QList<FConnectorInterface*> found = getConnectors();
+    found.erase(
+        std::remove_if(found.begin(), found.end(),
+                       [definition](const auto* connector) { return connector->getDefinition() != definition; }),
+        found.end());
     return found;
 }
 
-FConnectorInterface* FConnectorInterface::create(const QString& className, const QString& name,
-                                                 const FExpr<FExternComputation>& computation) {
-    const auto* prototype = dynamic_cast<const FConnectorInterface*>(FObject::getPrototype(className));
-    return prototype ? prototype->createConnector(name, computation) : nullptr;
+FConnectorInterface* FConnectorInterface::create(const QString& name, const FExpr<FExternComputation>& computation) {
+    const FObject* prototype = classes().empty() ? nullptr : FObject::getPrototype(classes().back()->getName());
+    const auto* connector = dynamic_cast<const FConnectorInterface*>(prototype);
+    return connector ? connector->createConnector(name, computation) : nullptr;
 }

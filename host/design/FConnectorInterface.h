@@ -6,13 +6,14 @@
 #include <QList>
 #include <QString>
 
+class FClassData;
 class FDefinition;
 class FExternComputation;
 class FManaged;
 
 /**
- * A software connector as those see it who know no widget: the window on one computation with its files. The connectors
- * are managed objects, found by the name of their class; without such a class there are none.
+ * A software connector without its widget: the view on one computation with its files. Connectors are managed objects.
+ * A class of connectors registers itself while its library is loaded; without such a class there are none.
  */
 class MERIX_EXPORT FConnectorInterface {
  public:
@@ -22,27 +23,29 @@ class MERIX_EXPORT FConnectorInterface {
     virtual FExpr<FExternComputation> getComputation() const = 0;
     virtual void setComputation(const FExpr<FExternComputation>& computation) = 0;
     virtual bool containsComputation(const FExpr<FExternComputation>& computation) const = 0;
-    /** The definition behind the computation; null if there is none. */
+    /** The definition of the computation's configuration; null if there is none. */
     virtual FDefinition* getDefinition() const = 0;
 
     /** Locks the window for a run, or unlocks it. */
     virtual void disableGui(bool disable) = 0;
-    virtual void show() = 0;
-    /** Has the editors of a file show it as it is now. */
+    /** Makes the window visible; nothing without windows. */
+    virtual void showConnector() = 0;
+    /** Has the editors of a file show its present content. */
     virtual void refreshEditors(const FManaged* file) = 0;
     virtual void refreshCommandFileEditors() = 0;
     /** The connector as an object of the model. */
     virtual FManaged* asManaged() = 0;
 
-    /** Makes a connector of the same class; asked of the prototype. */
+    /** Makes a connector of the same class; called on the prototype. */
     virtual FConnectorInterface* createConnector(const QString& name,
                                                  const FExpr<FExternComputation>& computation) const = 0;
 
-    /** All connectors of a class, in the order of their creation. */
-    static QList<FConnectorInterface*> getConnectors(const QString& className);
-    /** Those of the class FSoftwareConnector that show the definition. */
+    /** Makes a class known, derived from this one. The one registered last makes new connectors. */
+    static void registerClass(FClassData& data);
+    /** All connectors, in the order of their creation. */
+    static QList<FConnectorInterface*> getConnectors();
+    /** Those whose computation has the definition. */
     static QList<FConnectorInterface*> getConnectors(const FDefinition* definition);
-    /** Makes one of that class; null if there is no such class. */
-    static FConnectorInterface* create(const QString& className, const QString& name,
-                                       const FExpr<FExternComputation>& computation);
+    /** Makes a connector; null if there is no class of connectors. */
+    static FConnectorInterface* create(const QString& name, const FExpr<FExternComputation>& computation);
 };

@@ -7,9 +7,8 @@
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinitionCommands.h"
 #include "host/design/FEntryDef.h"
-#include "host/script/FCmdInput.h"
 #include "host/script/FCmdManager.h"
-#include "host/script/FScriptParser.h"
+#include "host/script/FSavedTextReader.h"
 
 FClassData FDefinition::mClass("FDefinition", &FDefinitionBase::mClass, &definitionCommands);
 
@@ -29,17 +28,15 @@ void collectCommands(const FEntryHolder& holder, QStringList& commands) {
 bool readEntries(const QString& creator, const QString& text, QList<FExpr<FEntryBase>>& entries) {
     const QString name = QStringLiteral("entries");
     QString saved = creator + QLatin1Char(' ') + name + QStringLiteral("() {\n") + text + QStringLiteral("\n}\n");
-    QTextStream stream(&saved);
     if (parseScript(saved, name).statements.size() > 1) {
         FLogMsg::error(name, QStringLiteral("the text holds more than the entries of one definition"),
                        QStringLiteral("the entries stay as they were"));
         return false;
     }
     const FHistoryBlocker blocker;
-    FCmdInput input(FCmdInput::Mode::SavedText);
-    input.readInputString(stream, name);
-    const bool isRead = input.exec();
-    const FExpr<FDefinition> scratch(input.getNames().find(name));
+    FScriptNames names;
+    const bool isRead = FSavedTextReader::read(saved, name, {true, true}, names) == 0;
+    const FExpr<FDefinition> scratch(names.find(name));
     for (const FExpr<FEntryBase>& entry : scratch ? scratch->getEntries() : QList<FExpr<FEntryBase>>()) {
         entries.append(static_cast<const FEntryDef*>(entry.ptr())->copy());
     }
@@ -64,7 +61,6 @@ void FDefinition::reinitConfigurations(bool reset) {
 }
 
 void FDefinition::replaceEntries(const QList<FExpr<FEntryBase>>& entries) {
-    const FHistoryTransaction transaction(QStringLiteral("replace entries"));
     setEntries(entries);
     for (FConfiguration* configuration : getConfigurations()) {
         FEntry::reassign(configuration->getEntries(), getEntries());

@@ -39,7 +39,6 @@ std::vector<std::unique_ptr<FStateField>> FEntry::fields() {
 FEntry* FEntry::create(const QString& name, FEntryHolder* parent, bool initialize) {
     const FEntryHolder* definitions = FEntryTree::definitionsOf(*parent);
     const auto* definition = definitions ? static_cast<FEntryDef*>(definitions->findEntry(name)) : nullptr;
-    FHistoryTransaction transaction(QStringLiteral("create entry"));
     auto* entry = definition ? new FEntry(FExpr<FEntryDef>(definition), FEntryTree::countOf(*parent, definition))
                              : new FEntry(parent->freeEntryName(name, nullptr));
     const FExpr<FEntryBase> handle(entry);
@@ -51,10 +50,10 @@ FEntry* FEntry::create(const QString& name, FEntryHolder* parent, bool initializ
 }
 
 void FEntry::setDefinition(const FExpr<FEntryDef>& definition) {
+    FHistory::instance()->record(this);
     mDefinition = definition;
     structureChanged();
     setOutOfDate(true);
-    FHistory::instance()->addStep(this);
 }
 
 bool FEntry::isGroup() const {
@@ -70,20 +69,17 @@ QString FEntry::getPathPart() const {
 
 bool FEntry::setValue(const FExprBase& value) {
     const FExprBase taken = entryValue(value);
-    mValue.unregisterClient(this);
-    if (!taken.registerClient(this)) {
-        mValue.restoreClient(this);
+    const bool mayHaveGiven = mayGiveFileName();
+    FHistory::instance()->record(this);
+    if (!mValue.assignFor(this, taken)) {
         FCmd::warnNow(getClass(),
                       QStringLiteral("entry \"%1\" would depend on itself if it were %2; its value stays %3")
                           .arg(getFullName(), taken.toHistoryString(), mValue.toHistoryString()));
         return false;
     }
-    const bool mayHaveGiven = mayGiveFileName();
-    mValue = taken;
     if (mayHaveGiven != mayGiveFileName()) {
         ++mFileNameVersion;
     }
-    FHistory::instance()->addStep(this);
     FRecorded::setOutOfDate(true);
     return true;
 }

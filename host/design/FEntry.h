@@ -40,6 +40,7 @@ class MERIX_EXPORT FEntry : public FClass<FEntry, FEntryBase> {
     void setDefaultValue();
     /** True if the value is written as the default is. */
     bool hasDefaultValue() const;
+    bool holdsValue() const override { return true; }
     /** The evaluated value, a number as a double; null if there is none. */
     FObject* getValueObject() const override;
     bool doUpdate() const override;

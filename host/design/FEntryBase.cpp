@@ -26,6 +26,10 @@ bool FEntryBase::isRecorded() const {
     return root && root->isInModel();
 }
 
+FManaged* FEntryBase::getOwner() const {
+    return getRoot();
+}
+
 void FEntryBase::setOutOfDate(bool outOfDate) const {
     FRecorded::setOutOfDate(outOfDate);
     const FDefinitionBase* root = outOfDate ? getRoot() : nullptr;
@@ -39,10 +43,10 @@ FObject* FEntryBase::getWhole() const {
 }
 
 void FEntryBase::rename(const QString& name) {
+    FHistory::instance()->record(this);
     mName = name;
     structureChanged();
     setOutOfDate(true);
-    FHistory::instance()->addStep(this);
 }
 
 void FEntryBase::attach(FEntryHolder* holder) {

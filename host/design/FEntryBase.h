@@ -34,6 +34,7 @@ class MERIX_EXPORT FEntryBase : public FClass<FEntryBase, FRecorded>, public FEn
     int getLevel() const override { return mpHolder ? mpHolder->getLevel() + 1 : 1; }
 
     bool isRecorded() const override;
+    FManaged* getOwner() const override;
     std::size_t getMemory() const override { return FRecorded::getMemory() + getEntriesMemory(); }
     /** Also marks what depends on the structure; a change of a value alone marks without this operation. */
     void setOutOfDate(bool outOfDate) const override;

@@ -1,6 +1,5 @@
 #include "host/design/FEntryDef.h"
 
-#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FQuotedText.h"
 #include "host/design/FDefinition.h"
@@ -29,7 +28,6 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
             QStringLiteral("not created"));
         return nullptr;
     }
-    FHistoryTransaction transaction(QStringLiteral("create entry"));
     const FExpr<FEntryBase> handle =
         make(parent->freeEntryName(name, nullptr), least, most, hidden, hasDefault, description, valueOrType);
     parent->addEntry(handle);
@@ -58,7 +56,6 @@ void FEntryDef::setName(const QString& name) {
     if (free == getName()) {
         return;
     }
-    FHistoryTransaction transaction(QStringLiteral("rename entry"));
     const QStringList oldPaths = getLeafPaths();
     rename(free);
     if (auto* definition = dynamic_cast<FDefinition*>(getRoot())) {

@@ -105,5 +105,5 @@ void FEntryHolder::changed() {
     if (const FDefinitionBase* root = getRoot()) {
         root->setOutOfDate(true);
     }
-    FHistory::instance()->addStep(asRecorded());
+    FHistory::instance()->record(asRecorded());
 }

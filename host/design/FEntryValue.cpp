@@ -1,7 +1,9 @@
 #include "host/design/FEntryValue.h"
 
 #include "host/core/FEnumBase.h"
+#include "host/core/FHistory.h"
 #include "host/core/FNull.h"
+#include "host/design/FEntry.h"
 #include "host/design/FParameter.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdType.h"
@@ -38,6 +40,14 @@ FExprBase copyOfValue(const FExprBase& value) {
     const bool isPlain = stored && !stored->isCmd() && stored->getBlock()->kind == FObjectBlock::Kind::Plain;
     const FExprBase copy(isPlain ? stored->clone() : nullptr);
     return copy.isEmpty() ? value : copy;
+}
+
+void entryValueChanges(const FObject& value) {
+    for (const FObject* client : value.getClients()) {
+        if (const auto* entry = objectCast<FEntry>(client)) {
+            FHistory::instance()->record(entry);
+        }
+    }
 }
 
 const FObject* typeOfValue(const FExprBase& value) {

@@ -13,6 +13,12 @@
 MERIX_EXPORT FExprBase entryValue(const FExprBase& given);
 
 /**
+ * A value is about to be changed in place, or was: the entry that holds it becomes part of the open step. A value
+ * outside of entries changes without a step.
+ */
+void entryValueChanges(const FObject& value);
+
+/**
  * A value of its own, since values are changed in place: a copy of a plain value; expressions, managed objects and
  * what can't be copied are shared.
  */

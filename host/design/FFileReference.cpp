@@ -1,5 +1,7 @@
 #include "host/design/FFileReference.h"
 
+#include "host/design/FEntryValue.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdType.h"
 
 FClassData FFileReference::mClass("FFileReference", &FBasicType::mClass, nullptr, &FFileReference::fields);
@@ -9,12 +11,13 @@ std::vector<std::unique_ptr<FStateField>> FFileReference::fields() {
 }
 
 bool FFileReference::set(FExprBase& member, const FExprBase& value) {
-    member.unregisterClient(this);
-    if (!value.registerClient(this)) {
-        member.restoreClient(this);
+    entryValueChanges(*this);
+    if (!member.assignFor(this, value)) {
+        FCmd::warnNow(getClass(),
+                      QStringLiteral("a file name would depend on itself if it were %1").arg(value.toHistoryString()),
+                      QStringLiteral("it stays %1").arg(member.toHistoryString()));
         return false;
     }
-    member = value;
     setOutOfDate(true);
     return true;
 }

@@ -14,7 +14,7 @@ class MERIX_EXPORT FFileReference : public FClass<FFileReference, FBasicType> {
     FFileReference& operator=(const FFileReference&) = delete;
 
     const FExprBase& getFileName() const { return mFileName; }
-    /** Refused, with false, if the value would depend on itself. */
+    /** Refused, with a message and false, if the value would depend on itself. */
     bool setFileName(const FExprBase& fileName) { return set(mFileName, fileName); }
     /** The evaluated name; empty if there is none. */
     QString getFileNameText() const { return textOf(mFileName); }
@@ -26,7 +26,8 @@ class MERIX_EXPORT FFileReference : public FClass<FFileReference, FBasicType> {
 
  protected:
     std::vector<FExprBase> getOperands() const override { return {mFileName}; }
-    /** Sets a handle that this object depends on. */
+    /** Sets a handle that this object depends on. Refused, with a message and false, where it would depend on itself.
+     */
     bool set(FExprBase& member, const FExprBase& value);
     static QString textOf(const FExprBase& expression);
 

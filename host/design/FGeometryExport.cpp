@@ -1,6 +1,7 @@
 #include "host/design/FGeometryExport.h"
 
 #include "host/core/FQuotedText.h"
+#include "host/design/FEntryValue.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
@@ -57,27 +58,58 @@ std::vector<std::unique_ptr<FStateField>> FGeometryExport::fields() {
         .take();
 }
 
-void FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
+// The entry that holds the export becomes part of the step, and what depends on it is marked.
+void FGeometryExport::changes() {
+    entryValueChanges(*this);
+    setOutOfDate(true);
+}
+
+bool FGeometryExport::refuse(const FExprBase& object) const {
+    FCmd::warnNow(
+        getClass(),
+        QStringLiteral("the export \"%1\" would depend on itself with %2").arg(mFileName, object.toHistoryString()),
+        QStringLiteral("it isn't exported"));
+    return false;
+}
+
+void FGeometryExport::setFileName(const QString& fileName) {
+    changes();
+    mFileName = fileName;
+}
+
+void FGeometryExport::setKind(Kind kind) {
+    changes();
+    mKind = kind;
+}
+
+bool FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
+    changes();
     for (const FExpr<FObject>& object : mObjects) {
         object.unregisterClient(this);
     }
     mObjects.clear();
-    addGeometryObjects(objects);
+    return addGeometryObjects(objects);
 }
 
-void FGeometryExport::addGeometryObjects(const FExpr<FObjectList>& objects) {
+bool FGeometryExport::addGeometryObjects(const FExpr<FObjectList>& objects) {
+    changes();
+    bool isTaken = true;
     for (const FExpr<FObject>& object : objects ? objects->getObjects() : std::vector<FExpr<FObject>>()) {
-        if (object && !mObjects.contains(object) && object.registerClient(this)) {
+        if (!object || mObjects.contains(object)) {
+            continue;
+        }
+        if (object.registerClient(this)) {
             mObjects.append(object);
+        } else {
+            isTaken = refuse(object);
         }
     }
-    setOutOfDate(true);
+    return isTaken;
 }
 
-void FGeometryExport::setFeatureDefinition(const FExpr<FObject>& feature) {
-    mSource.unregisterClient(this);
-    mSource = feature.registerClient(this) ? feature : FExpr<FObject>();
-    setOutOfDate(true);
+bool FGeometryExport::setFeatureDefinition(const FExpr<FObject>& feature) {
+    changes();
+    return mSource.assignFor(this, feature) || refuse(feature);
 }
 
 QList<FExpr<FObject>> FGeometryExport::getExportedObjects() const {

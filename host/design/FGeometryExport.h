@@ -23,14 +23,21 @@ class MERIX_EXPORT FGeometryExport : public FClass<FGeometryExport, FObject> {
 
     /** Name of the written file in the run directory. */
     const QString& getFileName() const { return mFileName; }
+    void setFileName(const QString& fileName);
     Kind getKind() const { return mKind; }
+    void setKind(Kind kind);
 
-    void setGeometryObjects(const FExpr<FObjectList>& objects);
-    /** Adds those that aren't among the objects yet. */
-    void addGeometryObjects(const FExpr<FObjectList>& objects);
+    /** As `addGeometryObjects`, in place of the present objects. */
+    bool setGeometryObjects(const FExpr<FObjectList>& objects);
+    /**
+     * Adds those that aren't among the objects yet. False, with a message, if the export would depend on itself with
+     * one of them; that one is left out.
+     */
+    bool addGeometryObjects(const FExpr<FObjectList>& objects);
     /** The feature definition or import; empty for a list of objects. */
     const FExpr<FObject>& getSourceObject() const { return mSource; }
-    void setFeatureDefinition(const FExpr<FObject>& feature);
+    /** Refused, with a message and false, if the export would depend on itself. */
+    bool setFeatureDefinition(const FExpr<FObject>& feature);
 
     /** What is written, whatever the kind. */
     QList<FExpr<FObject>> getExportedObjects() const;
@@ -40,6 +47,8 @@ class MERIX_EXPORT FGeometryExport : public FClass<FGeometryExport, FObject> {
 
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
+    void changes();
+    bool refuse(const FExprBase& object) const;
 
     QString mFileName;
     Kind mKind = Kind::Geometry;

@@ -4,15 +4,11 @@
 
 namespace {
 
-FExprBase given(const FKeptExpression& argument) {
-    return argument.expression.getStored() == FNull::null() ? FExprBase() : argument.expression;
-}
-
 void commands(FCmdTable& table) {
     table
         .global("inputFile",
                 +[](const FKeptExpression& fileName, const FKeptExpression& saveDirectory) {
-                    return FExpr<FInputFile>(new FInputFile(given(fileName), given(saveDirectory)));
+                    return FExpr<FInputFile>(new FInputFile(fileName.orEmpty(), saveDirectory.orEmpty()));
                 },
                 {"fileName", "saveDirectory=NULL"})
         .query();

@@ -6,31 +6,24 @@
 
 namespace {
 
-FExprBase givenValue(const FKeptExpression& given) {
-    return given.expression.getStored() == FNull::null() ? FExprBase() : given.expression;
-}
-
 void commands(FCmdTable& table) {
     table.entityCreator("parameter",
                         +[](const FNewName& name, const FKeptExpression& value) {
-                            return FParameter::create(name.scope, name.name, givenValue(value));
+                            return FParameter::create(name.scope, name.name, value.orEmpty());
                         },
                         {"value=NULL"});
     table
         .attribute<FParameter>(
             "setValue",
             +[](FParameter& parameter, const FKeptExpression& value) {
-                return FExpr<FParameter>(parameter.setValue(givenValue(value)) ? &parameter : nullptr);
+                return FExpr<FParameter>(parameter.setValue(value.orEmpty()) ? &parameter : nullptr);
             },
             +[](const FParameter& parameter) { return FExpr<FObject>(parameter.getValue()); }, {"value"})
         .attrName("Value")
         .data();
     table
         .member<FParameter>("setUpdateOnDemand",
-                            +[](FParameter& parameter, bool onDemand) {
-                                parameter.setUpdateOnDemand(onDemand);
-                                FHistory::instance()->addStep(&parameter);
-                            },
+                            +[](FParameter& parameter, bool onDemand) { parameter.setUpdateOnDemand(onDemand); },
                             {"onDemand"})
         .data();
     table
@@ -65,15 +58,12 @@ FParameter* FParameter::create(const FExpr<FScope>& scope, const QString& name, 
 }
 
 bool FParameter::setValue(const FExprBase& value) {
-    mValue.unregisterClient(this);
-    if (!value.registerClient(this)) {
-        mValue.restoreClient(this);
+    recordChange();
+    if (!mValue.assignFor(this, value)) {
         FCmd::warnNow(getClass(), QStringLiteral("%1 would depend on itself if it were %2; its value stays %3")
                                       .arg(getName(), value.toHistoryString(), mValue.toHistoryString()));
         return false;
     }
-    mValue = value;
-    FHistory::instance()->addStep(this);
     setOutOfDate(true);
     return true;
 }

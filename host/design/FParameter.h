@@ -20,6 +20,7 @@ class MERIX_EXPORT FParameter : public FClass<FParameter, FEntity> {
     /** Refused, with a message and false, if the parameter would depend on itself. */
     bool setValue(const FExprBase& value);
 
+    bool holdsValue() const override { return true; }
     /** The value's object; null if there is none. */
     FObject* getValueObject() const override;
     bool doUpdate() const override;

@@ -1,5 +1,6 @@
 #include "host/design/FResultsFileName.h"
 
+#include "host/design/FEntryValue.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -7,8 +8,7 @@ namespace {
 FExpr<FResultsFileName> makeName(const FKeptExpression& fileName, const FKeptExpression& type) {
     const auto* number = dynamic_cast<const FDouble*>(valueObject(type.expression));
     const auto kind = static_cast<ResultsFileType>(number ? number->toInt() : 0);
-    const bool isNull = fileName.expression.getStored() == FNull::null();
-    return FExpr<FResultsFileName>(new FResultsFileName(isNull ? FExprBase() : fileName.expression, kind));
+    return FExpr<FResultsFileName>(new FResultsFileName(fileName.orEmpty(), kind));
 }
 
 void commands(FCmdTable& table) {
@@ -21,6 +21,12 @@ FClassData FResultsFileName::mClass("FResultsFileName", &FFileReference::mClass,
 
 std::vector<std::unique_ptr<FStateField>> FResultsFileName::fields() {
     return FStateFields<FResultsFileName>().member(&FResultsFileName::mType).take();
+}
+
+void FResultsFileName::setType(ResultsFileType type) {
+    entryValueChanges(*this);
+    mType = type;
+    setOutOfDate(true);
 }
 
 QString FResultsFileName::toExpressionString() const {

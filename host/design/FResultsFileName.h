@@ -21,7 +21,7 @@ class MERIX_EXPORT FResultsFileName : public FClass<FResultsFileName, FFileRefer
     FObject* clone() const override { return new FResultsFileName(*this); }
 
     ResultsFileType getType() const { return mType; }
-    void setType(ResultsFileType type) { mType = type; }
+    void setType(ResultsFileType type);
 
     QString toExpressionString() const override;
 

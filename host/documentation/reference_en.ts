@@ -2358,5 +2358,26 @@ print(exists("slender"))</translation>
         <source>!FDesign:example</source>
         <translation>design slender()</translation>
     </message>
+    <message>
+        <source>!Global.rename(FManaged,object,string,name)</source>
+        <translation>Gives an object another name. Expressions and saved texts that name it follow. A name that is not legal is corrected, and a name that is taken gets a suffix, both with a warning.</translation>
+    </message>
+    <message>
+        <source>!Global.rename(FManaged,object,string,name):example</source>
+        <translation>rename(span, "wingSpan")</translation>
+    </message>
+    <message>
+        <source>!Global.rename(FManaged,object,string,name):returnValue</source>
+        <comment>return type: FManaged</comment>
+        <translation>The object.</translation>
+    </message>
+    <message>
+        <source>!Global.rename(FManaged,object,string,name):argument0</source>
+        <translation>The object to rename.</translation>
+    </message>
+    <message>
+        <source>!Global.rename(FManaged,object,string,name):argument1</source>
+        <translation>The new name: letters, digits and underscores, and no digit first.</translation>
+    </message>
 </context>
 </TS>

@@ -6,53 +6,39 @@
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FCmdTable.h"
 
-namespace {
-
-void commands(FCmdTable& table) {
+void FCustomComputation::declareCommands(FCmdTable& table) {
     using F = FCustomComputation;
     table.member<F>("getResults", &F::getResults).query();
     table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
         .attrName("Configuration")
         .data();
-    table.attribute<F>("setCmdFile", &F::setCmdFile, &F::getCmdFile, {"fileName"}).attrName("Command File").data();
+    table.plain<F>("setCmdFile", &F::mCmdFile, {"fileName"}).copied().attrName("Command File");
 }
 
-}  // namespace
-
-FClassData FCustomComputation::mClass("FCustomComputation", &FExternComputation::mClass, &commands,
-                                      &FCustomComputation::fields);
+FClassData FCustomComputation::mClass("FCustomComputation", &FExternComputation::mClass,
+                                      &FCustomComputation::declareCommands, &FCustomComputation::fields);
 
 std::vector<std::unique_ptr<FStateField>> FCustomComputation::fields() {
-    return FStateFields<FCustomComputation>()
-        .linked(&FCustomComputation::mConfiguration)
-        .member(&FCustomComputation::mCmdFile)
-        .take();
+    return FStateFields<FCustomComputation>().linked(&FCustomComputation::mConfiguration).take();
 }
 
 void FCustomComputation::init(const FCustomComputation* other) {
     if (other) {
         FExternComputation::init(other);
         setConfiguration(other->mConfiguration);
-        mCmdFile = other->mCmdFile;
+        copyAttributes(FCustomComputation::mClass, *other);
     }
 }
 
 void FCustomComputation::setConfiguration(const FExpr<FConfigurationCustom>& configuration) {
-    mConfiguration.unregisterClient(this);
-    if (!configuration.registerClient(this, false)) {
-        mConfiguration.restoreClient(this);
+    recordChange();
+    if (!mConfiguration.assignFor(this, configuration)) {
         FLogMsg::warning(getName(),
                          QStringLiteral("Its configuration can't be %1, whose entries are read from this computation")
                              .arg(configuration->getName()),
                          QStringLiteral("it stays as it was"));
         return;
     }
-    mConfiguration = configuration;
-    setOutOfDate(true);
-}
-
-void FCustomComputation::setCmdFile(const QString& fileName) {
-    mCmdFile = fileName;
     setOutOfDate(true);
 }
 

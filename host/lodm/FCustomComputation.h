@@ -19,7 +19,6 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     void setConfiguration(const FExpr<FConfigurationCustom>& configuration);
     /** A file in the folder of the run that gets a line "path = value" for each entry; empty for none. */
     const QString& getCmdFile() const { return mCmdFile; }
-    void setCmdFile(const QString& fileName);
 
     QString getResultFile(const QString& entry) const override;
 
@@ -36,6 +35,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     FExpr<FConfigurationCustom> mConfiguration;
 
  private:
+    static void declareCommands(FCmdTable& table);
     static std::vector<std::unique_ptr<FStateField>> fields();
 
     QString mCmdFile;

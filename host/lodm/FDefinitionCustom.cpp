@@ -40,7 +40,7 @@ bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
 }
 
 void commands(FCmdTable& table) {
-    table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""}).unwrapped();
+    table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""});
 }
 
 /** The file itself where the name is that of a link to it. */

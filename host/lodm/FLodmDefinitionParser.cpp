@@ -1,10 +1,10 @@
 #include "host/lodm/FLodmDefinitionParser.h"
 
 #include "host/core/FDocuArea.h"
-#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FTextDecoder.h"
+#include "host/core/FUserStep.h"
 #include "host/lodm/FLodmEntryReader.h"
 #include "host/lodm/FLodmEntryWriter.h"
 #include "host/lodm/FLodmSlowTag.h"
@@ -79,7 +79,7 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     if (!parse(marker < 0 ? text : text.left(marker), nodes)) {
         return false;
     }
-    const FHistoryTransaction transaction(QStringLiteral("read definition"));
+    const FUserStep step(QStringLiteral("read definition"));
     if (!makeDefinition()) {
         return false;
     }

@@ -31,6 +31,21 @@ FExpr<FExternComputation> FComputationResults::getComputation() const {
         dynamic_cast<FExternComputation*>(FObjectManager::instance()->find(mComputationId)));
 }
 
+QString FComputationResults::getKeptText(QString& fault) const {
+    if (getVariant()) {
+        return {};
+    }
+    const FExpr<FExternComputation> computation = getComputation();
+    if (computation && computation->getCurrentResults().ptr() == this) {
+        return computation->getName() + QStringLiteral(".getResults()");
+    }
+    fault = computation
+                ? QStringLiteral("these are results of an earlier run; %1.getResults() is those of the last one")
+                      .arg(computation->getName())
+                : QStringLiteral("these results belong to no computation of the project");
+    return {};
+}
+
 QString FComputationResults::getResultPath() const {
     const QString path = FResults::getResultPath();
     const FExpr<FExternComputation> computation = getComputation();

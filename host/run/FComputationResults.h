@@ -31,6 +31,9 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
     /** As given; else the computation's folder, for results that come from no run of this session. */
     QString getResultPath() const override;
 
+    /** Results of a run aren't saved: an expression finds those of the last run through their computation. */
+    QString getKeptText(QString& fault) const override;
+
     /** The run that they belong to; null for those of an earlier session. It goes on while the run does. */
     const std::shared_ptr<const FRunRecord>& getRun() const { return mRun; }
     void setRun(const std::shared_ptr<const FRunRecord>& run) { mRun = run; }

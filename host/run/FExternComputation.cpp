@@ -1,8 +1,8 @@
 #include "host/run/FExternComputation.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
-#include "host/run/FExternComputationCommands.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRun.h"
@@ -15,15 +15,24 @@
 
 using Cause = FRunRecord::Cause;
 
-FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &externComputationCommands,
-                                      &FExternComputation::fields);
+FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands);
+
+namespace {
+
+/** The process that has the project's runs, unless it is this one or has ended. */
+QString holderOfProject() {
+    FProject::instance()->takeOverIfFree();
+    return FProject::instance()->getHolder();
+}
+
+}  // namespace
 
 /** One run in progress. It keeps the computation, which may leave the model meanwhile. */
 struct FExternComputation::Attempt {
     Attempt(FExternComputation* computation, const FProcessSetup& setup)
         : keep(computation),
           run(computation->getName(), setup, computation->getReadFiles()),
-          holder(FProject::instance()->getHolder()),
+          holder(holderOfProject()),
           earlier(FPathManager::instance()->getEarlierDir(computation->getName(), {})),
           folder(setup.workingFolder, earlier) {}
 
@@ -39,15 +48,10 @@ FExternComputation::FExternComputation(const QString& name) : FClass(name) {}
 
 FExternComputation::~FExternComputation() = default;
 
-std::vector<std::unique_ptr<FStateField>> FExternComputation::fields() {
-    using F = FExternComputation;
-    return FStateFields<F>().member(&F::mProgram).take();
-}
-
 void FExternComputation::init(const FExternComputation* other) {
     if (other) {
         FManaged::init(other);
-        mProgram = other->mProgram;
+        copyAttributes(FExternComputation::mClass, *other);
     }
 }
 
@@ -55,49 +59,12 @@ void FExternComputation::leaveModel() {
     cancel();
 }
 
-// ---- settings ----
-
-template <class V>
-void FExternComputation::change(V& member, const V& value) {
-    member = value;
-    setOutOfDate(true);
-}
-
-void FExternComputation::setExecutable(const QString& program) {
-    change(mProgram.executable, program);
-}
-
-void FExternComputation::setArguments(const QStringList& arguments) {
-    change(mProgram.arguments, arguments);
-}
-
-void FExternComputation::setTimeLimit(double seconds) {
-    if (seconds >= 0) {
-        change(mProgram.timeLimit, seconds);
-    } else {
-        FLogMsg::warning(getName(), QStringLiteral("The time limit can't be %1 s").arg(seconds),
-                         QStringLiteral("it stays as it was; 0 is no limit"));
-    }
-}
-
-void FExternComputation::setEnvironment(const QStringList& environment) {
-    change(mProgram.environment, environment);
-}
-
-void FExternComputation::setStandardInput(const QString& fileName) {
-    change(mProgram.standardInput, fileName);
-}
-
-void FExternComputation::setConsoleFiles(bool files) {
-    change(mProgram.consoleFiles, files);
-}
-
 // ---- runs ----
 
 bool FExternComputation::run(bool wait) {
     if (!canRun()) {
-        FLogMsg::warning(getName(), QStringLiteral("A run of it goes on, so that no other can be started"),
-                         QStringLiteral("wait for its end, or cancel it"));
+        FLogMsg::warning(getName(), QStringLiteral("A run is still in progress"),
+                         QStringLiteral("start another when it has ended, or cancel it"));
         return false;
     }
     const QString folder = FPathManager::instance()->getResultsDir(FExpr<FExternComputation>(this), {});
@@ -125,6 +92,7 @@ void FExternComputation::startRun() {
     makeResults();
     attempt->run.startWriting();
     setOutOfDate(true);
+    stateChanged();
     const QString problem = writeInput();
     if (problem.isEmpty()) {
         runExternalProcess();
@@ -137,6 +105,7 @@ void FExternComputation::makeResults() {
     const FHistoryBlocker blocker;
     const auto* type = dynamic_cast<const FComputationResults*>(getResultType());
     mResults = FExpr<FComputationResults>(type->createResults({}, FExpr<FExternComputation>(this)));
+    mResults->setResultPath(getWorkingPath());
     mResults->setRun(mRecord);
 }
 
@@ -163,6 +132,7 @@ void FExternComputation::runExternalProcess() {
     attempt->isStartTold = true;
     computationStarted();
     attempt->run.start();
+    stateChanged();
 }
 
 QString FExternComputation::prepareRun() const {
@@ -206,9 +176,15 @@ void FExternComputation::finishRun() {
     report();
     mAttempt = nullptr;
     setOutOfDate(true);
+    stateChanged();
     // The attempt is the sender of the signal at work, and may hold the last handle on this computation.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [attempt] {}, Qt::QueuedConnection);
+}
+
+void FExternComputation::stateChanged() {
+    emit runChanged();
+    emit FChanges::instance()->objectChanged(this);
 }
 
 void FExternComputation::report() const {
@@ -261,7 +237,6 @@ bool FExternComputation::rereadResults() {
         return false;
     }
     if (!mResults) {
-        const FRunScope scope(getWorkingPath());
         makeResults();
     }
     processReread(mResults.ptr());

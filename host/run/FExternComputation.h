@@ -21,29 +21,25 @@ class FRun;
  * the business of derived classes; for the time of their steps FPathManager knows the run's folder.
  */
 class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObject, FManaged> {
+    Q_OBJECT
+
  public:
     static FClassData mClass;
 
     explicit FExternComputation(const QString& name = QString());
     ~FExternComputation() override;
 
-    // ---- settings of the program ----
+    // ---- settings of the program; each is set through its attribute ----
     /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
-    void setExecutable(const QString& program);
     const QString& getExecutable() const { return mProgram.executable; }
-    void setArguments(const QStringList& arguments);
     const QStringList& getArguments() const { return mProgram.arguments; }
     /** Seconds from the start of the program; 0 is no limit. A number below 0 is refused with a message. */
-    void setTimeLimit(double seconds);
     double getTimeLimit() const { return mProgram.timeLimit; }
     /** Texts "NAME=value", added to the environment or replacing what is there. */
-    void setEnvironment(const QStringList& environment);
     const QStringList& getEnvironment() const { return mProgram.environment; }
     /** A file in the folder of the run; empty for none. */
-    void setStandardInput(const QString& fileName);
     const QString& getStandardInput() const { return mProgram.standardInput; }
     /** Whether what the program prints goes to "stdout.txt" and "stderr.txt" in the folder of the run. */
-    void setConsoleFiles(bool files);
     bool getConsoleFiles() const { return mProgram.consoleFiles; }
 
     // ---- runs ----
@@ -89,6 +85,10 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
         return {};
     }
 
+ signals:
+    /** The state of the run is another one: writing, running, over; also when the program couldn't be started. */
+    void runChanged();
+
  protected:
     void init(const FExternComputation* other);
     void leaveModel() override;
@@ -115,9 +115,10 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
  private:
     struct Attempt;
 
-    static std::vector<std::unique_ptr<FStateField>> fields();
-    template <class V>
-    void change(V& member, const V& value);
+    static void declareCommands(FCmdTable& table);
+    template <auto Member>
+    static auto& inProgram(FExternComputation& computation);
+    void stateChanged();
     void makeResults();
     void startRun();
     QString writeInput() const;

@@ -1,38 +1,44 @@
-#include "host/run/FExternComputationCommands.h"
-
 #include "host/run/FExternComputation.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
 
+using F = FExternComputation;
+
 /** How the setting added last is shown and kept. */
-FCmdTable& keep(FCmdTable& setting, const char* label) {
-    return setting.attrName(label).category("Execution Settings").data();
+FCmdTable& setting(FCmdTable& row, const char* label) {
+    return row.copied().attrName(label).category("Execution Settings");
 }
 
-void settings(FCmdTable& table) {
-    using F = FExternComputation;
-    keep(table.attribute<F>("setExecutable", &F::setExecutable, &F::getExecutable, {"program"}), "Executable")
-        .attrRequiredCmd("true");
-    keep(table.attribute<F>("setArguments", &F::setArguments, &F::getArguments, {"arguments"}), "Arguments");
-    keep(table.attribute<F>("setTimeLimit", &F::setTimeLimit, &F::getTimeLimit, {"seconds"}), "Time Limit");
-    keep(table.attribute<F>("setEnvironment", &F::setEnvironment, &F::getEnvironment, {"variables"}), "Environment");
-    keep(table.attribute<F>("setStandardInput", &F::setStandardInput, &F::getStandardInput, {"fileName"}),
-         "Standard Input");
-    keep(table.attribute<F>("setConsoleFiles", &F::setConsoleFiles, &F::getConsoleFiles, {"checked"}), "Console Files");
+QString faultOfTimeLimit(const double& seconds) {
+    return seconds >= 0 ? QString()
+                        : QStringLiteral("the time limit can't be %1 s; it is 0, for no limit, or more").arg(seconds);
 }
 
 }  // namespace
 
-void externComputationCommands(FCmdTable& table) {
-    using F = FExternComputation;
-    settings(table);
+/** A member of the settings, as a function on the computation. */
+template <auto Member>
+auto& FExternComputation::inProgram(FExternComputation& computation) {
+    return computation.mProgram.*Member;
+}
+
+void FExternComputation::declareCommands(FCmdTable& table) {
+    using S = FProgramSettings;
+    setting(table.plain<F>("setExecutable", &inProgram<&S::executable>, {"program"}), "Executable")
+        .attrRequiredCmd("true");
+    setting(table.plain<F>("setArguments", &inProgram<&S::arguments>, {"arguments"}), "Arguments");
+    setting(table.plain<F>("setTimeLimit", &inProgram<&S::timeLimit>, {"seconds"}), "Time Limit")
+        .accepts(&faultOfTimeLimit);
+    setting(table.plain<F>("setEnvironment", &inProgram<&S::environment>, {"variables"}), "Environment");
+    setting(table.plain<F>("setStandardInput", &inProgram<&S::standardInput>, {"fileName"}), "Standard Input");
+    setting(table.plain<F>("setConsoleFiles", &inProgram<&S::consoleFiles>, {"checked"}), "Console Files");
     table
         .member<F>(
             "run", +[](F& computation) { return computation.run(); })
         .unwrapped();
-    table.member<F>("rereadResults", &F::rereadResults).unwrapped();
-    table.member<F>("cancel", &F::cancel).unwrapped();
+    table.member<F>("rereadResults", &F::rereadResults);
+    table.member<F>("cancel", &F::cancel);
     table.member<F>("getState", &F::getState).query();
     table.member<F>("getExitCode", &F::getExitCode).query();
     table.member<F>("getWorkingPath", &F::getWorkingPath).query();

@@ -13,8 +13,8 @@ class MERIX_EXPORT FResults : public FClass<FResults, FManaged> {
         : FClass(name), mVariant(variant) {}
 
     using FManaged::init;
-    /** Takes the folder of the run in progress, if there is one. Called when the object was registered. */
-    void init();
+    /** A new object reads from no folder until it gets one. Called when the object was registered. */
+    void init() { mResultPath.clear(); }
 
     /** The design; empty for the current one. */
     const FExpr<FDesign>& getVariant() const { return mVariant; }

@@ -10,7 +10,9 @@ namespace {
 
 void commands(FCmdTable& table) {
     using F = FResultsGeneric;
-    table.member<F>("getTable", &F::getData, {"name"}).readsFiles();
+    table.member<F>("getTable", &F::getData, {"name"}).readsFiles().alternatives<F>(+[](const F& results) {
+        return results.getTableNames();
+    });
     table.member<F>("getTableNames", &F::getTableNames).readsFiles();
     table.member<F>("getResultFileName", &F::getResultFileName, {"entry"}).query();
 }
@@ -73,6 +75,7 @@ void FResultsGeneric::detachFromFiles() {
 
 FTableData* FResultsGeneric::addTable(const QString& name, unsigned int rows, unsigned int columns) {
     auto* table = new FTableData(name, rows, columns);
+    table->setOwner(this);
     mTables.append(FExpr<FTableData>(table));
     return table;
 }

@@ -1,5 +1,8 @@
 #include "host/run/FTableData.h"
 
+#include "host/core/FManaged.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FQuotedText.h"
 #include "host/script/FCmdTable.h"
 
 #include <algorithm>
@@ -60,6 +63,21 @@ FClassData FTableData::mClass("FTableData", &FObject::mClass, &commands);
 
 FTableData::FTableData(const QString& name, unsigned int rows, unsigned int columns) : mName(name) {
     setData(Rows(static_cast<int>(rows), QVector<double>(static_cast<int>(columns), notANumber)));
+}
+
+void FTableData::setOwner(const FManaged* results) {
+    mOwnerId = results ? results->getDbId() : 0;
+}
+
+QString FTableData::getKeptText(QString& fault) const {
+    const FManaged* results = FObjectManager::instance()->find(mOwnerId);
+    if (!results) {
+        fault = QStringLiteral("the table belongs to no results of the project");
+        return {};
+    }
+    const QString text = results->getKeptText(fault);
+    const QString owner = text.isEmpty() ? results->getName() : text;
+    return fault.isEmpty() ? owner + QStringLiteral(".getTable(") + quoteText(mName) + QLatin1Char(')') : QString();
 }
 
 void FTableData::setData(const Rows& rows) {

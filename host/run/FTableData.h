@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVector>
 
+class FManaged;
+
 /**
  * A table of numbers with a name, with headers for rows and columns that may be missing. Rows may differ in length.
  *
@@ -24,6 +26,10 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
 
     const QString& getName() const { return mName; }
     QString toString() const override { return mName; }
+    /** The results that the table belongs to; a table on its own has none. */
+    void setOwner(const FManaged* results);
+    /** A table is found through its results. */
+    QString getKeptText(QString& fault) const override;
 
     // ---- filling; each call replaces what was there ----
     void setData(const Rows& rows);
@@ -63,6 +69,7 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
 
  private:
     QString mName;
+    int mOwnerId = 0;  // not a handle: the results hold the table
     Rows mRows;
     int mColumnCount = 0;
     QStringList mRowHeaders;

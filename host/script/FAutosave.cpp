@@ -1,5 +1,6 @@
 #include "host/script/FAutosave.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FSavedFile.h"
@@ -22,7 +23,11 @@ constexpr qint64 share = 20;
 FAutosave::FAutosave() {
     mTimer.setSingleShot(true);
     QObject::connect(&mTimer, &QTimer::timeout, this, [this] { saveSoon(); });
-    FHistory::instance()->setObserver([this] { changed(); });
+    const FChanges* changes = FChanges::instance();
+    for (const auto signal : {&FChanges::stepDone, &FChanges::stepUndone, &FChanges::stepRedone}) {
+        QObject::connect(changes, signal, this, &FAutosave::changed);
+    }
+    QObject::connect(changes, &FChanges::statementDone, this, &FAutosave::saveIfDue);
 }
 
 bool FAutosave::isNewer(const QString& project) {
@@ -69,8 +74,19 @@ void FAutosave::changed() {
     }
 }
 
+// Called after each statement of a loop, which may be one long step.
+void FAutosave::saveIfDue() {
+    if (!mProject.isEmpty() && wait() <= 0 && FHistory::instance()->hasOpenChanges()) {
+        save();
+    }
+}
+
+qint64 FAutosave::wait() const {
+    return mPause > 0 ? mPause - mSinceSave.elapsed() : 0;
+}
+
 void FAutosave::saveSoon() {
-    const qint64 wait = mPause > 0 ? mPause - mSinceSave.elapsed() : 0;
+    const qint64 wait = this->wait();
     if (wait <= 0 && !FHistory::instance()->inTransaction()) {
         save();
     } else if (!mTimer.isActive()) {

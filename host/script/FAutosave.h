@@ -30,10 +30,14 @@ class MERIX_EXPORT FAutosave : public QObject {
     void stop(bool keep);
     /** The project was saved: there is no unsaved work. */
     void saved();
-    /** The model may have changed. */
-    void changed();
 
  private:
+    /** The model may have changed. */
+    void changed();
+    /** Saves inside an open step if the pause since the last save is over. */
+    void saveIfDue();
+    /** Milliseconds until the next save is due; 0 or less if it is now. */
+    qint64 wait() const;
     void saveSoon();
     void save();
     /** What a crash left, and nobody took, isn't overwritten. */

@@ -5,6 +5,7 @@
 #include "host/script/FListLimits.h"
 #include "host/script/FMemberCmd.h"
 #include "host/script/FOperatorCmd.h"
+#include "host/script/FScriptParser.h"
 
 #include <algorithm>
 
@@ -17,23 +18,19 @@ FExprBase literalObject(const FLiteral& literal) {
     struct Maker {
         FExprBase operator()(std::monostate) const { return FExprBase(FNull::null()); }
         FExprBase operator()(bool flag) const { return FExprBase(new FBool(flag)); }
-        FExprBase operator()(qint64 number) const {
-            // Beyond 53 bits a whole number is no longer exact in the double that holds it.
-            constexpr qint64 most = qint64{1} << 53;
-            const auto value = static_cast<double>(number);
-            return number >= -most && number <= most ? FExprBase(new FInteger(value)) : FExprBase(new FDouble(value));
-        }
+        FExprBase operator()(qint64 number) const { return FExprBase(FInteger::fit(static_cast<double>(number))); }
         FExprBase operator()(double number) const { return FExprBase(new FDouble(number)); }
         FExprBase operator()(const QString& text) const { return FExprBase(new FString(text)); }
     };
     return std::visit(Maker(), literal);
 }
 
-/** Whether objects of the type, or of a class derived from it, know the command. */
-bool isKnownBelow(const FObject* type, const QString& name) {
-    const auto rows = FCmdManager::instance()->findMembersOfAnyClass(name);
-    return std::any_of(rows.begin(), rows.end(),
-                       [type](const FCmdRow* row) { return type->getClassData().isSuperClassOf(*row->owner); });
+/** Has all messages about an expression name one place. */
+void setPlace(FSyntaxExpr& expression, const FPlace& place) {
+    expression.place = place;
+    for (FSyntaxExpr& operand : expression.operands) {
+        setPlace(operand, place);
+    }
 }
 
 }  // namespace
@@ -50,7 +47,7 @@ FExprBase FBinder::bind(const FSyntaxExpr& expression, Use use) {
         case FSyntaxExpr::Kind::Literal:
             return literalObject(expression.literal);
         case FSyntaxExpr::Kind::Name:
-            return bindName(expression);
+            return bindName(expression, use);
         case FSyntaxExpr::Kind::List:
             return bindList(expression, use);
         case FSyntaxExpr::Kind::Call:
@@ -64,7 +61,7 @@ FExprBase FBinder::bind(const FSyntaxExpr& expression, Use use) {
     return bindOperators(expression, use);
 }
 
-FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
+FExprBase FBinder::bindName(const FSyntaxExpr& expression, Use use) {
     if (FEnumTable::isWord(expression.name) && !mNames.isAnnounced(expression.name)) {
         return FExprBase(new FString(expression.name));
     }
@@ -79,7 +76,23 @@ FExprBase FBinder::bindName(const FSyntaxExpr& expression) {
             expression.place,
             QStringLiteral("nothing is named \"%1\"%2").arg(expression.name, mNames.suggestion(expression.name)));
     }
-    return found;
+    return use == Use::Kept ? keptForm(found, expression) : found;
+}
+
+// The value of a variable may be an object that no saved text can name, such as the results of a run.
+FExprBase FBinder::keptForm(const FExprBase& found, const FSyntaxExpr& expression) {
+    QString fault;
+    const FObject* stored = found.getStored();
+    const QString text = stored ? stored->getKeptText(fault) : QString();
+    if (!fault.isEmpty()) {
+        return fail(expression.place, QStringLiteral("\"%1\" can't be kept: ").arg(expression.name) + fault);
+    }
+    if (text.isEmpty()) {
+        return found;
+    }
+    FParsedExpression parsed = parseExpression(text);
+    setPlace(parsed.expression, expression.place);
+    return bind(parsed.expression, Use::Kept);
 }
 
 std::vector<FExprBase> FBinder::bindAll(const std::vector<FSyntaxExpr>& expressions, Use use) {
@@ -137,11 +150,11 @@ bool FBinder::mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExp
     if (use == Use::Kept && !asks) {
         fail(call.place,
              QStringLiteral(
-                 "\"%1\" does something and can't stand in an expression that is kept; call it in a statement "
+                 "\"%1\" changes something and can't be part of an expression that is kept; call it in a statement "
                  "of its own")
                  .arg(call.name));
     } else if (use == Use::Saved && !isData) {
-        fail(call.place, QStringLiteral("\"%1\" can't stand in a saved text; passed over").arg(call.name));
+        fail(call.place, QStringLiteral("\"%1\" can't appear in a saved text; skipped").arg(call.name));
     }
     return !mError;
 }
@@ -188,38 +201,39 @@ FExprBase FBinder::bindCall(const FSyntaxExpr& expression, Use use) {
 FExprBase FBinder::bindChain(const FSyntaxExpr& expression, Use use) {
     if (expression.operands.size() > longestChain) {
         return fail(expression.place,
-                    QStringLiteral("more than %1 commands behind one another; use a variable").arg(longestChain));
+                    QStringLiteral("more than %1 commands in one chain; use a variable").arg(longestChain));
     }
-    FExprBase receiver = bind(expression.operands.front(), use);
+    const FSyntaxExpr& first = expression.operands.front();
+    FExprBase receiver = bind(first, use);
     for (std::size_t i = 1; i < expression.operands.size() && !mError; ++i) {
-        receiver = bindMember(receiver, expression.operands[i], use);
+        const bool isName = i == 1 && first.kind == FSyntaxExpr::Kind::Name;
+        receiver = bindMember(receiver, expression.operands[i], use, isName ? first.name : QString());
     }
     return mError ? FExprBase() : receiver;
 }
 
-std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const FSyntaxExpr& call, Use use) {
+// Whether the receiver knows the command shows at the latest at execution; here only that some class does.
+std::vector<const FCmdRow*> FBinder::memberRows(const FExprBase& receiver, const FSyntaxExpr& call, bool& isOpen) {
     const FObject* type = receiver.getType();
     const bool isList = type && type->isTypeOf(FObjectList::null());
-    // In a text that is kept, the object whose name stood here may have gone.
-    const bool isNull = type == FNull::null() && use != Use::Once;
-    const bool isOpen = !type || type == FObject::null() || isList || isNull;
-    const auto rows = isOpen ? FCmdManager::instance()->findMembersOfAnyClass(call.name)
-                             : FCmdManager::instance()->findMembers(type->getClassData(), call.name);
-    if (!rows.empty()) {
-        return rows;
-    }
+    const bool isKnown = type && type != FObject::null() && type != FNull::null() && !isList;
+    auto rows =
+        isKnown ? FCmdManager::instance()->findMembers(type->getClassData(), call.name) : std::vector<const FCmdRow*>();
+    isOpen = rows.empty();
     if (isOpen) {
-        fail(call.place, FCmdManager::instance()->unknownMemberOfAnyClass(call.name));
-    } else if (receiver.isCmd() && isKnownBelow(type, call.name)) {
-        return FCmdManager::instance()->findMembersOfAnyClass(call.name);
-    } else {
-        fail(call.place, FCmdManager::instance()->unknownMember(type->getClassData(), call.name));
+        rows = FCmdManager::instance()->findMembersOfAnyClass(call.name);
     }
-    return {};
+    if (rows.empty()) {
+        fail(call.place, isKnown ? FCmdManager::instance()->unknownMember(type->getClassData(), call.name)
+                                 : FCmdManager::instance()->unknownMemberOfAnyClass(call.name));
+    }
+    return rows;
 }
 
-FExprBase FBinder::bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use) {
-    const auto rows = memberRows(receiver, call, use);
+FExprBase FBinder::bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use,
+                              const QString& receiverName) {
+    bool isOpen = false;
+    const auto rows = memberRows(receiver, call, isOpen);
     if (mError || !mayStand(rows, call, use)) {
         return {};
     }
@@ -227,6 +241,10 @@ FExprBase FBinder::bindMember(const FExprBase& receiver, const FSyntaxExpr& call
     auto* command = row.kind == FCmdRow::Kind::Attribute ? new FAttribCmd(row) : new FMemberCmd(row);
     const FExprBase keep(command);
     command->setReceiver(receiver);
+    command->setReceiverName(receiverName);
+    if (isOpen) {
+        command->setOpen();
+    }
     command->setArguments(bindArguments(rows, call, use));
     return finish(command, call, use);
 }

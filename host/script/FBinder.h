@@ -16,30 +16,32 @@ class MERIX_EXPORT FBinder {
  public:
     /** What the expression is for. */
     enum class Use {
-        Once,   //!< carried out now, all commands are allowed
-        Kept,   //!< kept by an object: it may only ask
-        Saved,  //!< a command of a saved text: one that such a text may hold, whose arguments ask and read no file
+        Once,   //!< executed now, all commands are allowed
+        Kept,   //!< kept by an object: only queries are allowed
+        Saved,  //!< a command of a saved text: only commands flagged as data, whose arguments are queries and read no
+                //!< file
     };
 
     FBinder(const FScriptNames& names, const QString& file) : mNames(names), mFile(file) {}
 
     /** An empty handle, with an error, for an unknown name or command. */
     FExprBase bind(const FSyntaxExpr& expression, Use use);
-    /** A command on a receiver that is bound already. */
-    FExprBase bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use);
+    /** A command on a receiver that is bound already. @param receiverName  as which it was written, for messages */
+    FExprBase bindMember(const FExprBase& receiver, const FSyntaxExpr& call, Use use, const QString& receiverName = {});
     /** The arguments of a call, each as the rows want it. Stops at the first error. */
     std::vector<FExprBase> bindArguments(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
 
     const std::optional<FSyntaxError>& getError() const { return mError; }
 
  private:
-    FExprBase bindName(const FSyntaxExpr& expression);
+    FExprBase bindName(const FSyntaxExpr& expression, Use use);
+    FExprBase keptForm(const FExprBase& found, const FSyntaxExpr& expression);
     FExprBase bindCall(const FSyntaxExpr& expression, Use use);
     FExprBase bindChain(const FSyntaxExpr& expression, Use use);
     FExprBase bindOperators(const FSyntaxExpr& expression, Use use);
     FExprBase bindList(const FSyntaxExpr& expression, Use use);
     std::vector<FExprBase> bindAll(const std::vector<FSyntaxExpr>& expressions, Use use);
-    std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call, Use use);
+    std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call, bool& isOpen);
     bool mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
     /** What a saved text has evaluated at once. */
     FExprBase bindEvaluated(const FSyntaxExpr& expression);

@@ -1,5 +1,6 @@
 #include "host/script/FCmd.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
@@ -7,13 +8,14 @@
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
 
+#include <optional>
 #include <utility>
 
 FClassData FCmd::mClass("FCmd", &FObject::mClass);
 
 namespace {
 
-/** The command whose operation is at work, the innermost one. */
+/** The command whose operation is being executed, the innermost one. */
 const FCmd* running = nullptr;
 
 /** A value in a message: texts in quotes, and long ones cut. */
@@ -85,6 +87,9 @@ QString FCmd::toExpressionString() const {
 
 bool FCmd::doUpdate() const {
     const FImmediateUpdateBlocker blocker;
+    if (mUseParentReg && !keepsResult()) {
+        destroyChildrenOf(this);
+    }
     mResult = execute();
     return FObject::doUpdate();
 }
@@ -98,10 +103,13 @@ FExprBase FCmd::execute() const {
 }
 
 FExprBase FCmd::callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
+    std::optional<FHistoryPause> pause;
+    if (row.isUnwrapped) {
+        pause.emplace();
+    }
     if (!mUseParentReg) {
         return callWatched(row, receiver, values);
     }
-    destroyChildrenOf(this);
     startParentReg(this);
     FExprBase result = callWatched(row, receiver, values);
     stopParentReg();
@@ -170,17 +178,24 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
 
 void FCmd::warn(const QString& message, const QString& consequence) const {
     mHasWarned = true;
-    FLogMsg::warning(mPlace.toString(mFile), message,
-                     consequence.isEmpty() ? QStringLiteral("result is NULL") : consequence);
+    FLogMsg::warning(mName, message, consequence.isEmpty() ? QStringLiteral("result is NULL") : consequence,
+                     mPlace.toString(mFile));
 }
 
 void FCmd::initCmdDocu() const {
-    if (!mpRow) {
+    if (!mpRow || !FTypeDocu::get(getClass(), 1).isEmpty()) {
         return;
     }
     for (const FDocuKey& key : FDocuKey::ofCommand(*mpRow)) {
+        const QString text = FTypeDocu::translate(key.key, key.disambiguation);
         if (key.argument < 0) {
-            addTypeDocu(FTypeDocu::translate(key.key, key.disambiguation), key.area);
+            addTypeDocu(text, key.area);
+        } else {
+            FTypeDocu::add(argumentDocuName(key.argument), text, key.area);
         }
     }
+}
+
+QString FCmd::argumentDocuName(int argument) const {
+    return getClass() + QStringLiteral(":argument") + QString::number(argument);
 }

@@ -24,12 +24,15 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     void setName(const QString& name) { mName = name; }
     const FCmdRow* getRow() const { return mpRow; }
 
-    void setArguments(std::vector<FExprBase> arguments) { mArguments = std::move(arguments); }
+    void setArguments(std::vector<FExprBase> arguments) {
+        mArguments = std::move(arguments);
+        setOutOfDate(true);
+    }
     const std::vector<FExprBase>& getArguments() const { return mArguments; }
-    /** Where the command stands, for messages. */
+    /** The place of the command in a text, for messages. */
     void setPlace(const QString& file, const FPlace& place);
     /**
-     * Says that the expression is kept by an object and not just carried out once: the command then depends on its
+     * Says that the expression is kept by an object and not just executed once: the command then depends on its
      * arguments, and objects on the command.
      */
     virtual void setKept();
@@ -38,7 +41,7 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     void setUseParentReg(bool use) { mUseParentReg = use; }
     bool getUseParentReg() const { return mUseParentReg; }
 
-    /** Whether it has warned that something of it couldn't be carried out. */
+    /** Whether it has warned that it, or a call that it depends on, couldn't be executed. */
     bool hasWarned() const { return mHasWarned; }
 
     /** The result, brought up to date. */
@@ -52,13 +55,15 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     bool doUpdate() const override;
 
     /**
-     * Warns as the command that is being carried out, with its place; as `source` when there is none.
+     * Warns as the command that is being executed, with its place; as `source` when there is none.
      * @param consequence  what follows from it; that of a command which gives NULL if it is empty
      */
     static void warnNow(const QString& source, const QString& message, const QString& consequence = QString());
 
-    /** Adds the command's texts under its documentation keys. */
+    /** Adds the texts of the command and of its arguments under its documentation keys, once. */
     void initCmdDocu() const;
+    /** The class name under which the text of an argument is kept, counted from 0. */
+    QString argumentDocuName(int argument) const;
     QString getTsRoot() const { return mpRow ? mpRow->docuRoot() : QString(); }
     void initTypeDocu() const override { setTypeDocuInitialized(); }
 
@@ -68,8 +73,10 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     bool updatesSuppliersItself() const override { return !mKept; }
     bool isSafeAlone(bool mayReadFiles) const override;
     std::vector<FExprBase> getOperands() const override { return mArguments; }
-    /** Carries the command out. An empty handle is the null result. */
+    /** Executes the command. An empty handle is the null result. */
     virtual FExprBase execute() const;
+    /** True if the result of an earlier execution stays. */
+    virtual bool keepsResult() const { return false; }
 
     /** Reads the arguments as the row wants them; false, with the reason, if one doesn't fit. */
     bool convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString& reason) const;
@@ -77,6 +84,8 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     const FCmdRow* chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow::Values& values) const;
     FExprBase callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
     void warn(const QString& message, const QString& consequence = QString()) const;
+    /** The command gives no result since an earlier call, which has warned, gave none. */
+    void warnedBefore() const { mHasWarned = true; }
     QString argumentText() const;
     static QString operandText(const FExprBase& operand);
 

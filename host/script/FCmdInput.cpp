@@ -1,8 +1,10 @@
 #include "host/script/FCmdInput.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FLogMsg.h"
-#include "host/script/FSavedTextReader.h"
-#include "host/script/FScriptStep.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FUserStep.h"
+#include "host/script/FDeclarer.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +12,7 @@
 
 namespace {
 
-/** Statements that one script may carry out; an endless loop ends here. */
+/** Statements that one script may execute; an endless loop ends here. */
 constexpr qint64 mostSteps = 100'000'000;
 constexpr int mostIncludes = 50;
 
@@ -19,6 +21,19 @@ const FSyntaxExpr* topCall(const FSyntaxExpr& expression) {
         return &expression.operands.back();
     }
     return expression.kind == FSyntaxExpr::Kind::Call ? &expression : nullptr;
+}
+
+/** The word of a loop or branch, which is one step as a whole; null for other statements. */
+const char* blockWord(const FSyntaxStatement& statement) {
+    return std::holds_alternative<FSyntaxIf>(statement.content)      ? "if"
+           : std::holds_alternative<FSyntaxFor>(statement.content)   ? "for"
+           : std::holds_alternative<FSyntaxWhile>(statement.content) ? "while"
+                                                                     : nullptr;
+}
+
+bool takeBack(FUserStep& step) {
+    step.rollback();
+    return false;
 }
 
 }  // namespace
@@ -38,14 +53,9 @@ bool FCmdInput::exec() {
 }
 
 bool FCmdInput::run(const QString& text, const QString& file) {
-    const bool isSaved = mMode == Mode::SavedText;
-    const FScript script = parseScript(text, file, {isSaved, isSaved});
+    const FScript script = parseScript(text, file);
     for (const FSyntaxError& error : script.errors) {
         report(error.place, error.message);
-    }
-    if (isSaved) {
-        mErrors += FSavedTextReader(mNames, file).read(script.statements);
-        return true;
     }
     return script.errors.empty() && runBody(script.statements);
 }
@@ -94,12 +104,15 @@ bool FCmdInput::report(const FPlace& place, const QString& message) {
 bool FCmdInput::countStep(const FPlace& place) {
     return ++mSteps <= mostSteps ||
            report(place,
-                  QStringLiteral("the script has carried out %1 statements; does a loop never end?").arg(mostSteps));
+                  QStringLiteral("the script has executed %1 statements; does a loop never end?").arg(mostSteps));
 }
 
 bool FCmdInput::runBody(const FSyntaxBody& body) {
     for (const FSyntaxStatement& statement : body) {
         const bool done = runStatement(statement);
+        if (FHistory::instance()->inTransaction()) {
+            emit FChanges::instance()->statementDone();
+        }
         if (mExiting) {
             return true;
         }
@@ -114,8 +127,15 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!countStep(statement.place)) {
         return false;
     }
-    FScriptStep step(statement);
-    return step.done(std::visit([this](const auto& content) { return run(content); }, statement.content));
+    const FBusy busy;
+    // A statement that contains others is one step as a whole.
+    const char* word = blockWord(statement);
+    if (!word) {
+        return std::visit([this](const auto& content) { return run(content); }, statement.content);
+    }
+    FUserStep step(QString::fromLatin1(word));
+    const bool done = std::visit([this](const auto& content) { return run(content); }, statement.content);
+    return done || takeBack(step);
 }
 
 std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
@@ -133,23 +153,27 @@ std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
 
 bool FCmdInput::run(const FSyntaxExpr& expression) {
     const FSyntaxExpr* call = topCall(expression);
-    FScriptStep step(call ? call->name : QString(), expression);
-    return step.done(evaluate(expression).has_value());
+    FUserStep step(call ? call->name : QString());
+    return evaluate(expression).has_value() || takeBack(step);
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {
     using Outcome = FDeclarer::Outcome;
-    FScriptStep step(declaration.creator.name, true);
+    FUserStep step(declaration.creator.name);
     FDeclarer declarer(mNames, mFile, FBinder::Use::Once);
     FExprBase object;
     Outcome outcome = declarer.create(declaration, object);
     if (outcome == Outcome::Null) {
-        return step.done(true);
+        return true;
     }
     for (std::size_t i = 0; i < declaration.block.size() && outcome != Outcome::Failed; ++i) {
         outcome = declarer.command(object, declaration.block[i]);
     }
-    return step.done(outcome != Outcome::Failed || report(declarer.getError().place, declarer.getError().message));
+    if (outcome == Outcome::Failed) {
+        report(declarer.getError().place, declarer.getError().message);
+        return takeBack(step);
+    }
+    return true;
 }
 
 bool FCmdInput::canBeVariable(const QString& name, const FPlace& place) {
@@ -162,22 +186,22 @@ bool FCmdInput::run(const FSyntaxAssignment& assignment) {
         return false;
     }
     const FSyntaxExpr* call = topCall(assignment.value);
-    FScriptStep step(call ? call->name : assignment.variable, assignment.value);
+    FUserStep step(call ? call->name : assignment.variable);
     const std::optional<FExprBase> value = evaluate(assignment.value);
     if (!value) {
-        return false;
+        return takeBack(step);
     }
     mNames.setVariable(assignment.variable, value->isEmpty() ? FExprBase(FNull::null()) : *value);
-    return step.done(true);
+    return true;
 }
 
 std::optional<bool> FCmdInput::evaluateCondition(const FSyntaxExpr& expression) {
-    FScriptStep step(QStringLiteral("condition"), expression);
+    FUserStep step(QStringLiteral("condition"));
     const std::optional<FExprBase> value = evaluate(expression);
     if (!value) {
+        step.rollback();
         return {};
     }
-    step.done(true);
     const auto* flag = dynamic_cast<const FBool*>(valueObject(*value));
     if (!flag) {
         FLogMsg::warning(expression.place.toString(mFile), QStringLiteral("the condition is neither true nor false"),
@@ -225,7 +249,7 @@ bool FCmdInput::run(const FSyntaxFor& loop) {
     FObject* object = value->getObject();
     const FObjectList* list = object ? object->castToObjectList() : nullptr;
     if (!list) {
-        FLogMsg::warning(loop.list.place.toString(mFile), QStringLiteral("there is no list to go through"));
+        FLogMsg::warning(loop.list.place.toString(mFile), QStringLiteral("the value after \"in\" is no list"));
         return true;
     }
     const std::vector<FExpr<FObject>> elements = list->getObjects();

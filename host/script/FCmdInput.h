@@ -8,37 +8,34 @@
 #include <QTextStream>
 
 /**
- * Carries out script text.
+ * Executes script text.
  *
- * Each statement is a step of the history of its own. A script error (syntax, an unknown name or command) takes back
- * what its statement did and ends the script; a command whose arguments don't fit gives NULL, with a warning, and the
- * script goes on.
+ * Each statement is a step of the history of its own; a loop or branch is one step as a whole. Commands that keep steps
+ * of their own, such as undo or a run, interrupt it. A script error (syntax, an unknown name or command) takes back
+ * what its statement did and ends the script; a command whose receiver or arguments don't fit gives NULL, with a
+ * warning, and the script continues.
  *
- * Saved text is data, see FSavedTextReader. Each error in it is reported with its place, and the rest is read.
+ * Saved text is data and isn't executed, see FSavedTextReader.
  */
 class MERIX_EXPORT FCmdInput : public FCmdParser {
  public:
-    enum class Mode { Script, SavedText };
-
-    explicit FCmdInput(Mode mode = Mode::Script) : mMode(mode) {}
-
     void setVariable(const QString& name, const FExprBase& value) { mNames.setVariable(name, value); }
     const FScriptNames& getNames() const { return mNames; }
 
     /** Takes the whole of the stream; `file` is the name that messages give. */
     void readInputString(QTextStream& stream, const QString& file = QString());
-    /** Carries out what was read. False if an error ended it, or if there were errors in a saved text. */
+    /** Executes what was read. False if an error ended it. */
     bool exec();
 
-    /** Carries out a script file in between, with the same variables. Called by a running script. */
+    /** Executes a script file in between, with the same variables. Called by a running script. */
     bool include(const QString& path);
     /** Ends the running script after the present command. */
     void requestExit(int code);
     int getExitCode() const { return mExitCode; }
-    /** A path of the script's: relative to its file if such a file exists, else to the current folder. */
+    /** A path in the script: relative to its file if such a file exists, else to the current folder. */
     QString resolvePath(const QString& path) const;
 
-    /** The one at work; null if no script is being read. */
+    /** The one being executed; null if there is none. */
     static FCmdInput* current();
 
  private:
@@ -60,7 +57,6 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     bool report(const FPlace& place, const QString& message);
     bool countStep(const FPlace& place);
 
-    Mode mMode;
     QString mText;
     QString mFile;
     FScriptNames mNames;

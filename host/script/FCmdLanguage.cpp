@@ -14,6 +14,20 @@ class FCmdLanguage : public FScriptLanguage {
     void addCommandPrototypes(FClassData& data) override { FCmdManager::instance()->addTable(data); }
     void registerCommands(FClassData& data) override { FCmdManager::instance()->registerTable(data); }
 
+    std::vector<std::unique_ptr<FStateField>> attributeFields(FClassData& data) override {
+        std::vector<std::unique_ptr<FStateField>> fields;
+        forEachPlain(data, [&fields](const FCmdRow& row) { fields.push_back(row.makeField()); });
+        return fields;
+    }
+
+    void copyAttributes(FClassData& data, FObject& to, const FObject& from) override {
+        forEachPlain(data, [&](const FCmdRow& row) {
+            if (row.isCopied) {
+                row.copy(to, from);
+            }
+        });
+    }
+
     FExprBase resolve(const QString& text, QString* error) override {
         const FParsedExpression parsed = parseExpression(text);
         if (parsed.error) {
@@ -37,6 +51,21 @@ class FCmdLanguage : public FScriptLanguage {
     }
 
  private:
+    /** Acts on each plain attribute of the class itself. */
+    template <class Act>
+    static void forEachPlain(FClassData& data, Act act) {
+        FCmdManager::instance()->addTable(data);
+        const FCmdTable* table = FCmdManager::instance()->tableOf(data);
+        if (!table) {
+            return;
+        }
+        for (const auto& row : table->getRows()) {
+            if (row->makeField) {
+                act(*row);
+            }
+        }
+    }
+
     static FExprBase fail(const FSyntaxError& reason, QString* error) {
         if (error) {
             *error = reason.toString(QString());

@@ -16,7 +16,9 @@ class MERIX_EXPORT FCmdManager {
 
     /** Fills the class's table and makes the prototypes of its commands. */
     void addTable(FClassData& data);
-    /** Makes the class's commands known under their names, and carries out the table's hiding. */
+    /** The table of the class's own commands; null if it has none. */
+    const FCmdTable* tableOf(const FClassData& data) const;
+    /** Makes the class's commands known under their names, and hides those that the table says. */
     void registerTable(FClassData& data);
 
     /** Hides an inherited command for a class. A null prototype has no effect. */
@@ -48,7 +50,6 @@ class MERIX_EXPORT FCmdManager {
     QString unknownMemberOfAnyClass(const QString& name) const;
 
  private:
-    const FCmdTable* tableOf(const FClassData& data) const;
     /** The commands on objects of a class, nearest class first, without hidden ones. */
     std::vector<const FCmdRow*> visibleMembers(const FClassData& data) const;
     void addPrototype(FCmdRow& row);

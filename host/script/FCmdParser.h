@@ -3,10 +3,10 @@
 #include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
-/** The reader of a script that is at work: what commands tell it while they are carried out. */
+/** The reader of the script that is being executed, which commands report to. */
 class MERIX_EXPORT FCmdParser {
  public:
-    /** The one at work; null if no script is being read. */
+    /** The one being executed, the innermost; null if there is none. */
     static FCmdParser* currentParser();
 
     virtual ~FCmdParser() = default;
@@ -14,11 +14,8 @@ class MERIX_EXPORT FCmdParser {
     /** A creator has made an object. */
     virtual void addObject(const FExpr<FManaged>& object) { Q_UNUSED(object) }
 
-    /** An object is about to be changed by a command of the script: it becomes part of the step. */
-    static void willAct(FObject* receiver);
-
  protected:
-    /** At work for the life of the object. */
+    /** Makes a parser the current one for the life of the object. */
     class Activation {
      public:
         explicit Activation(FCmdParser* parser);

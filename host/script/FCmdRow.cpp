@@ -1,5 +1,7 @@
 #include "host/script/FCmdRow.h"
 
+#include "host/script/FCmd.h"
+
 namespace {
 
 QString argumentTypes(const FCmdRow& row) {
@@ -31,6 +33,14 @@ QString FCmdRow::className() const {
     }
     return QStringLiteral("FCmd") + name + ::className(owner, "null") + ::className(returnType.cls, "void") + method +
            types;
+}
+
+bool FCmdRow::mayTake(const Values& values, const FObject& receiver) const {
+    const QString reason = fault ? fault(values) : QString();
+    if (!reason.isEmpty()) {
+        FCmd::warnNow(receiver.toString(), reason, QStringLiteral("it stays unchanged"));
+    }
+    return reason.isEmpty();
 }
 
 QString FCmdRow::kindWord() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/core/FStateField.h"
 #include "host/script/FCmdType.h"
 
 #include <QStringList>
@@ -40,7 +41,7 @@ struct MERIX_EXPORT FCmdPresentation {
 class MERIX_EXPORT FCmdRow {
  public:
     enum class Kind { Create, CreateEntity, Attribute, Member, Global };
-    /** What carrying it out may do. Only the first two may stand in an expression that is kept. */
+    /** What its execution may do. Only the first two may appear in an expression that is kept. */
     enum class Effect { Pure, ReadsFiles, Acts };
     using Values = std::vector<std::any>;
     using Call = std::function<FExprBase(FObject* receiver, const Values& values)>;
@@ -59,14 +60,26 @@ class MERIX_EXPORT FCmdRow {
     Getter getter;    //!< for attributes: the current value
     std::function<QString(const FObject*)> creatorArguments;  //!< for creators: the arguments of the saved form
     FCmdPresentation presentation;
-    bool isData = false;       //!< may stand in a saved text
-    bool isUnwrapped = false;  //!< runs without a history transaction around it
+    bool isData = false;       //!< may appear in a saved text
+    bool isUnwrapped = false;  //!< keeps steps of its own: the open step is interrupted while it executes
+
+    // ---- of an attribute that is declared as a plain value ----
+    bool isCopied = false;                               //!< copies of the object take it over
+    bool marksClients = true;                            //!< a change marks what depends on the object
+    std::function<QString(const Values& values)> fault;  //!< why a value is refused, for the user; may be null
+    std::function<void(FObject& to, const FObject& from)> copy;
+    std::function<std::unique_ptr<FStateField>()> makeField;
+
+    /** What else could have been asked for, for a message after a null result; may be null. */
+    std::function<QStringList(const FObject* receiver)> alternatives;
 
     /** Spelled from kind, class, name and argument types; also the key under which the command can be hidden. */
     QString className() const;
     /** The root of the documentation keys. */
     QString docuRoot() const;
     bool isQuery() const { return effect != Effect::Acts; }
+    /** False, with a message, for a value that the attribute refuses. */
+    bool mayTake(const Values& values, const FObject& receiver) const;
     bool hasResult() const { return returnType.cls != nullptr; }
     bool isMember() const { return kind == Kind::Attribute || kind == Kind::Member; }
     bool isCreator() const { return kind == Kind::Create || kind == Kind::CreateEntity; }

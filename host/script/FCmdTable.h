@@ -109,6 +109,14 @@ class MERIX_EXPORT FCmdTable {
         };
         return *this;
     }
+    /**
+     * An attribute that is a plain value, declared in one place: row, undo, recording, saved form and copy follow from
+     * this. A change marks what depends on the object, unless `marksClients(false)` says otherwise; a value equal to
+     * the present one changes nothing.
+     * @param member  a data member of C, or a function that takes a C& and returns a reference to the value
+     */
+    template <class C, class M>
+    FCmdTable& plain(const char* name, M member, Names names);
     template <class C, class F>
     FCmdTable& member(const char* name, F operation, Names names = {}) {
         return addMember<C>(FCmdRow::Kind::Member, name, std::move(operation), names);
@@ -128,9 +136,26 @@ class MERIX_EXPORT FCmdTable {
     }
 
     // ---- about the row added last ----
-    /** Carrying it out changes nothing and reads no file. */
+    /** For a plain attribute: copies of the object take it over. */
+    FCmdTable& copied() { return last().isCopied = true, *this; }
+    FCmdTable& marksClients(bool marks) { return last().marksClients = marks, *this; }
+    /** For a plain attribute: `fault` gives the reason why a value is refused, or an empty text. */
+    template <class V>
+    FCmdTable& accepts(QString (*fault)(const V& value)) {
+        last().fault = [fault](const FCmdRow::Values& values) {
+            return fault(std::any_cast<const V&>(values.front()));
+        };
+        return *this;
+    }
+    /** `list` names what else the receiver has, for the message after a null result. */
+    template <class C>
+    FCmdTable& alternatives(QStringList (*list)(const C& receiver)) {
+        last().alternatives = [list](const FObject* receiver) { return list(dynamic_cast<const C&>(*receiver)); };
+        return *this;
+    }
+    /** Its execution changes nothing and reads no file. */
     FCmdTable& query() { return effect(FCmdRow::Effect::Pure); }
-    /** Carrying it out changes nothing, but may read files. */
+    /** Its execution changes nothing, but may read files. */
     FCmdTable& readsFiles() { return effect(FCmdRow::Effect::ReadsFiles); }
     FCmdTable& data() { return last().isData = true, *this; }
     FCmdTable& unwrapped() { return last().isUnwrapped = true, *this; }
@@ -171,14 +196,13 @@ class MERIX_EXPORT FCmdTable {
     }
     FCmdTable& menuIcon(const char* path) { return look().menuIcon = QString::fromLatin1(path), *this; }
 
-    /** Once all tables stand, the command of that class name is hidden for this class; an unknown name has no effect.
-     */
+    /** The command of that class name is hidden for this class once all tables are filled. A name that no command has
+     *  has no effect. */
     FCmdTable& hideInherited(const char* commandClass) {
         mHidden.append(QString::fromLatin1(commandClass));
         return *this;
     }
 
-    /** A command that has a class of its own: `make` builds its prototype. Listed with the class's own commands. */
     const std::vector<std::unique_ptr<FCmdRow>>& getRows() const { return mRows; }
     const QStringList& getHidden() const { return mHidden; }
 
@@ -227,3 +251,28 @@ class MERIX_EXPORT FCmdTable {
     std::vector<std::unique_ptr<FCmdRow>> mRows;
     QStringList mHidden;
 };
+
+template <class C, class M>
+FCmdTable& FCmdTable::plain(const char* name, M member, Names names) {
+    using V = std::remove_cvref_t<std::invoke_result_t<M, C&>>;
+    const std::function<V&(C&)> find = [member](C& object) -> V& { return std::invoke(member, object); };
+    const auto valueIn = [find](const FObject& object) -> const V& {
+        return find(const_cast<C&>(dynamic_cast<const C&>(object)));
+    };
+    add(FCmdRow::Kind::Attribute, name, {FCmdTypeOf<V>::type()}, FCmdTypeOf<void>::type(), names);
+    FCmdRow* row = &last();
+    row->isData = true;
+    row->getter = [valueIn](const FObject* object) { return FCmdTypeOf<V>::handle(valueIn(*object)); };
+    row->makeField = [find] { return std::move(FStateFields<C>().template value<V>(find).take().front()); };
+    row->copy = [find, valueIn](FObject& to, const FObject& from) { find(dynamic_cast<C&>(to)) = valueIn(from); };
+    row->call = [find, row](FObject* receiver, const FCmdRow::Values& values) {
+        const V& value = std::any_cast<const V&>(values.front());
+        V& present = find(dynamic_cast<C&>(*receiver));
+        if (row->mayTake(values, *receiver) && !(present == value)) {
+            present = value;
+            receiver->setOutOfDate(row->marksClients || receiver->isOutOfDate());
+        }
+        return FExprBase();
+    };
+    return *this;
+}

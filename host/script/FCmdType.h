@@ -16,8 +16,8 @@ struct MERIX_EXPORT FCmdType {
     /** Fills `value` with what the operation takes; false if the handle can't be read as the type. */
     using Convert = bool (*)(const FExprBase& handle, std::any& value);
 
-    QString script;                   //!< as it stands in the names of commands
-    QString docu;                     //!< as it stands in documentation keys
+    QString script;                   //!< in the names of commands
+    QString docu;                     //!< in documentation keys
     const FClassData* cls = nullptr;  //!< null for no result
     Convert convert = nullptr;
     bool isHandle = false;   //!< script `NULL` can stand for it
@@ -25,9 +25,17 @@ struct MERIX_EXPORT FCmdType {
     bool takesRest = false;  //!< takes all further arguments
 };
 
-/** An expression as it stands: the operation keeps it, so that it follows what it names. */
+/** An expression that isn't evaluated: the operation keeps it, so that it follows what it names. */
 struct MERIX_EXPORT FKeptExpression {
     FExprBase expression;
+
+    /** The expression; empty for script `NULL`. */
+    FExprBase orEmpty() const;
+};
+
+/** A list whose elements stay expressions as far as they are written as such. */
+struct MERIX_EXPORT FKeptList {
+    FExpr<FObjectList> list;
 };
 
 /** The value that a handle stands for: a parameter's number rather than the parameter. */
@@ -129,15 +137,39 @@ struct FCmdTypeOf<FExpr<FObject>> {
     static FExprBase handle(const FExprBase& handle) { return handle; }
 };
 
+namespace cmdtype {
+
+/** The class in the names of commands: all enumerations appear as FEnum. */
+template <class T>
+QString nameOf() {
+    if constexpr (std::is_base_of_v<FEnumBase, T>) {
+        return QStringLiteral("FEnum");
+    } else {
+        return T::mClass.getName();
+    }
+}
+
+/** The object of a handle as a T, converted where a T can be made of it; empty if it can't. */
+template <class T>
+FExpr<T> objectOf(const FExprBase& handle) {
+    if constexpr (FConversion<T>::exists) {
+        return FExpr<T>(static_cast<const FObject*>(valueObject(handle)));
+    } else {
+        return FExpr<T>(static_cast<const FObject*>(dynamic_cast<T*>(handle.getObject())));
+    }
+}
+
+}  // namespace cmdtype
+
 template <class T>
 struct FCmdTypeOf<FExpr<T>> {
     static FCmdType type() {
-        const QString name = T::mClass.getName();
+        const QString name = cmdtype::nameOf<T>();
         return {name, name, &T::mClass,
                 [](const FExprBase& handle, std::any& value) {
-                    auto* object = dynamic_cast<T*>(handle.getObject());
-                    value = FExpr<T>(static_cast<const FObject*>(object));
-                    return object != nullptr;
+                    const FExpr<T> object = cmdtype::objectOf<T>(handle);
+                    value = object;
+                    return !object.isEmpty();
                 },
                 true};
     }
@@ -218,6 +250,11 @@ struct FCmdTypeOf<FKeptExpression> {
         type.isKept = true;
         return type;
     }
+};
+
+template <>
+struct MERIX_EXPORT FCmdTypeOf<FKeptList> {
+    static FCmdType type();
 };
 
 /** All further arguments, evaluated. */

@@ -19,6 +19,7 @@ class FCreateCmd : public FClass<FCreateCmd, FCmd> {
 
  protected:
     FExprBase execute() const override;
+    bool keepsResult() const override { return mResult.isValid(); }
     /** Called before the object is made. */
     virtual void prepare() const {}
 

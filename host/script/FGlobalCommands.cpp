@@ -4,6 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
+#include "host/core/FObjectName.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
@@ -82,6 +83,21 @@ FExpr<FObject> getAttribute(const FExpr<FObject>& object, const QString& name) {
     return {};
 }
 
+FExpr<FManaged> renameObject(const FExpr<FManaged>& object, const QString& name) {
+    FManaged* managed = object.ptr();
+    const QString before = managed->getName();
+    managed->setName(name);
+    if (managed->getName() != name) {
+        FCmd::warnNow(managed->getClass(),
+                      QStringLiteral("rename: \"%1\" is %2")
+                          .arg(name, name.isEmpty()            ? QStringLiteral("no name")
+                                     : legalName(name) != name ? QStringLiteral("not a legal name")
+                                                               : QStringLiteral("taken")),
+                      QStringLiteral("\"%1\" is now \"%2\"").arg(before, managed->getName()));
+    }
+    return object;
+}
+
 bool exists(const QString& name) {
     return FObjectManager::instance()->find(name) != nullptr;
 }
@@ -144,6 +160,7 @@ void commands(FCmdTable& table) {
         .unwrapped();
     table.global("exists", &exists, {"name"}).query();
     table.global("destroy", &destroyObject, {"object"});
+    table.global("rename", &renameObject, {"object", "name"});
     table.global("getObjects", &getObjects, {"class"}).returns(FCmdTypeOf<QList<FExpr<FObject>>>::type()).query();
     table.global("getAttribute", &getAttribute, {"object", "attribute"}).query();
     projectCommands(table);

@@ -37,8 +37,7 @@ FExpr<FObject> greatest(const Numbers& values) {
 }
 
 FExpr<FObject> whole(double value) {
-    constexpr double mostExact = 9007199254740992.0;
-    return std::abs(value) <= mostExact ? FExpr<FObject>(new FInteger(value)) : FExpr<FObject>(new FDouble(value));
+    return FExpr<FObject>(static_cast<const FObject*>(FInteger::fit(value)));
 }
 
 FExpr<FObject> format(const FExpr<FObject>& value, const QString& pattern) {

@@ -1,7 +1,7 @@
 #include "host/script/FMemberCmd.h"
 
+#include "host/core/FHistory.h"
 #include "host/script/FCmdManager.h"
-#include "host/script/FCmdParser.h"
 #include "host/script/FListLimits.h"
 
 #include <algorithm>
@@ -77,23 +77,27 @@ bool FMemberCmd::follow(const FCmdRow& row, FObject* receiver, const FCmdRow::Va
         }
     }
     if (mFollowed.size() < sources.size()) {
-        warn(getName() + QStringLiteral(": what it asks for depends on the result itself"));
+        warn(getName() + QStringLiteral(": circular dependency: its value would be computed from itself"));
     }
     return mFollowed.size() == sources.size();
 }
 
+// ---- execution ----
+
 FExprBase FMemberCmd::execute() const {
     FObject* receiver = mReceiver.getObject();
     if (!receiver || receiver == FNull::null()) {
-        warn(getName() + QStringLiteral(": there is no object to apply it to"));
+        warnNoReceiver();
         return {};
     }
-    const auto rows = FCmdManager::instance()->findMembers(receiver->getClassData(), getName());
+    const FClassData* own = mIsOpen || !getRow() ? nullptr : getRow()->owner;
+    const auto rows = rowsFor(*receiver, own);
+    FObjectList* list = receiver->castToObjectList();
+    if (rows.empty() && list) {
+        return actOnList(*list, own);
+    }
     if (rows.empty()) {
-        if (FObjectList* list = receiver->castToObjectList()) {
-            return actOnList(*list);
-        }
-        warn(FCmdManager::instance()->unknownMember(receiver->getClassData(), getName()));
+        warnWrongReceiver(*receiver);
         return {};
     }
     FCmdRow::Values values;
@@ -101,22 +105,28 @@ FExprBase FMemberCmd::execute() const {
     return row && follow(*row, receiver, values) ? act(*row, receiver, values) : FExprBase();
 }
 
+std::vector<const FCmdRow*> FMemberCmd::rowsFor(const FObject& object, const FClassData* own) const {
+    const bool fits = !own || own->isSuperClassOf(object.getClassData());
+    return fits ? FCmdManager::instance()->findMembers(object.getClassData(), getName())
+                : std::vector<const FCmdRow*>();
+}
+
 FExprBase FMemberCmd::act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     if (!row.isQuery()) {
-        // Of which class the receiver is may show only now.
+        // The class of the receiver may show only now.
         if (isKept()) {
-            warn(QStringLiteral("%1.%2 does something and can't stand in an expression that is kept")
+            warn(QStringLiteral("%1.%2 changes something and can't be part of an expression that is kept")
                      .arg(receiver->getClass(), getName()));
             return {};
         }
-        FCmdParser::willAct(receiver);
+        FHistory::instance()->record(dynamic_cast<const FRecorded*>(receiver));
     }
     FExprBase result = callRow(row, receiver, values);
     acted(receiver);
     return result;
 }
 
-FExprBase FMemberCmd::actOnList(FObjectList& list) const {
+FExprBase FMemberCmd::actOnList(const FObjectList& list, const FClassData*& own) const {
     auto* results = new FObjectList(FObject::null());
     FExprBase keep(results);
     results->setAsSelectionSet(true);
@@ -124,25 +134,18 @@ FExprBase FMemberCmd::actOnList(FObjectList& list) const {
     const std::vector<FExpr<FObject>> elements = list.getObjects();
     for (const FExpr<FObject>& element : elements) {
         FObject* object = element.getObject();
-        const auto rows = object ? FCmdManager::instance()->findMembers(object->getClassData(), getName())
-                                 : std::vector<const FCmdRow*>();
-        if (rows.empty()) {
-            continue;
+        bool isElementKnown = false;
+        const FExprBase result = object ? actOnElement(*object, own, isElementKnown) : FExprBase();
+        if (hasWarned() || (isElementKnown && elements.size() == 1)) {
+            return hasWarned() ? FExprBase() : result;
         }
-        isKnown = true;
-        FCmdRow::Values values;
-        const FCmdRow* row = chooseRow(rows, values);
-        if (!row) {
-            return {};
+        isKnown = isKnown || isElementKnown;
+        if (isElementKnown) {
+            results->add(FExpr<FObject>(result));
         }
-        const FExprBase result = act(*row, object, values);
-        if (elements.size() == 1) {
-            return result;
-        }
-        results->add(FExpr<FObject>(result));
     }
     if (!isKnown && elements.size() == 1) {
-        warn(FCmdManager::instance()->unknownMember(list.getElementType()->getClassData(), getName()));
+        warnWrongReceiver(*list.getElementType());
         return {};
     }
     const QString fault = listFault(*results);
@@ -152,6 +155,58 @@ FExprBase FMemberCmd::actOnList(FObjectList& list) const {
     }
     return keep;
 }
+
+FExprBase FMemberCmd::actOnElement(FObject& element, const FClassData*& own, bool& isKnown) const {
+    const auto rows = rowsFor(element, own);
+    const FObjectList* nested = element.castToObjectList();
+    isKnown = !rows.empty() || nested;
+    if (rows.empty()) {
+        return nested ? actOnList(*nested, own) : FExprBase();
+    }
+    own = own ? own : rows.front()->owner;
+    FCmdRow::Values values;
+    const FCmdRow* row = chooseRow(rows, values);
+    return row ? act(*row, &element, values) : FExprBase();
+}
+
+// ---- messages ----
+
+QString FMemberCmd::writtenReceiver() const {
+    const auto* call = dynamic_cast<const FMemberCmd*>(mReceiver.getStored());
+    if (!mReceiverName.isEmpty() || !call) {
+        return mReceiverName.isEmpty() ? operandText(mReceiver) : mReceiverName;
+    }
+    return call->writtenReceiver() + QLatin1Char('.') + call->getName() + call->argumentText();
+}
+
+/** That the call gave nothing, and what it could have given. */
+QString FMemberCmd::missingResult() const {
+    const FObject* receiver = mReceiver.getObject();
+    const FCmdRow* row = getRow();
+    const bool isListed = row && row->alternatives && receiver && receiver->isTypeOf(row->owner->mpNull);
+    const QStringList known = isListed ? row->alternatives(receiver) : QStringList();
+    const QString text =
+        QStringLiteral("%1%2 of \"%3\" returned nothing").arg(getName(), argumentText(), writtenReceiver());
+    return known.isEmpty() ? text : text + QStringLiteral("; there are ") + known.join(QStringLiteral(", "));
+}
+
+void FMemberCmd::warnNoReceiver() const {
+    const auto* call = dynamic_cast<const FCmd*>(mReceiver.getStored());
+    if (call && call->hasWarned()) {
+        warnedBefore();
+        return;
+    }
+    const auto* member = dynamic_cast<const FMemberCmd*>(call);
+    const QString reason = member ? member->missingResult() : QStringLiteral("\"%1\" is NULL").arg(writtenReceiver());
+    warn(QStringLiteral("%1: there is no object to apply it to: %2").arg(getName(), reason));
+}
+
+void FMemberCmd::warnWrongReceiver(const FObject& receiver) const {
+    warn(QStringLiteral("\"%1\": %2")
+             .arg(writtenReceiver(), FCmdManager::instance()->unknownMember(receiver.getClassData(), getName())));
+}
+
+// ---- attributes ----
 
 FExprBase FAttribCmd::valueOf(const FObject* receiver) const {
     const FCmdRow* row = getRow();

@@ -10,9 +10,6 @@ FClassData FListCmd::mClass("FListCmd", &FCmd::mClass);
 
 namespace {
 
-/** Whole numbers beyond this aren't exact in a double. */
-constexpr double mostWhole = 9007199254740992.0;
-
 /** A loop that doubles a text would soon ask for more memory than there is. */
 constexpr int longestText = 100'000'000;
 
@@ -105,10 +102,7 @@ bool keepsWhole(FOperator op) {
 }
 
 FExprBase number(double value, bool whole) {
-    if (whole && std::abs(value) <= mostWhole) {
-        return FExprBase(new FInteger(value));
-    }
-    return FExprBase(new FDouble(value));
+    return FExprBase(whole ? FInteger::fit(value) : new FDouble(value));
 }
 
 const FDouble* asNumber(const FExprBase& handle) {

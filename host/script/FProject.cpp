@@ -1,5 +1,6 @@
 #include "host/script/FProject.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
@@ -31,7 +32,7 @@ QString fullPath(const QString& path) {
 }  // namespace
 
 FProject* FProject::instance() {
-    // Never destroyed: the history tells it of changes as long as there are any.
+    // Never destroyed: its autosave listens to changes as long as there are any.
     static auto* project = new FProject;
     return project;
 }
@@ -83,19 +84,15 @@ bool FProject::open(const QString& path, bool recover) {
     }
     const Stamp stamp = stampOf(file);
     create();
-    int errors = 0;
-    {
-        const FHistoryTransaction transaction(QStringLiteral("open project"));
-        FMerixCtrl::instance()->setProjectFile(file);
-        errors = text.restore();
-    }
-    FHistory::instance()->clear();
+    FMerixCtrl::instance()->setProjectFile(file);
+    const int errors = text.restore();
     if (errors > 0 && source != file) {
         keepDamaged(file, source);
     }
     mIsDamaged = errors > 0 && source == file;
     use(file, recover && hasNews);
     mStamp = stamp;
+    emit FChanges::instance()->projectOpened(file);
     if (recover && !hasNews) {
         FLogMsg::warning(file, QStringLiteral("there is no unsaved work to recover; opened as it was saved"));
     } else if (recover) {
@@ -108,8 +105,8 @@ bool FProject::open(const QString& path, bool recover) {
     }
     return errors == 0 ||
            fail(source,
-                errors == 1 ? QStringLiteral("1 error; what it is about isn't in the open project")
-                            : QStringLiteral("%1 errors; what they are about isn't in the open project").arg(errors),
+                errors == 1 ? QStringLiteral("1 error; the object concerned was not loaded")
+                            : QStringLiteral("%1 errors; the objects concerned were not loaded").arg(errors),
                 QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
 }
 
@@ -186,15 +183,15 @@ bool FProject::save(const QString& path) {
         use(file, false);
     }
     mAutosave.saved();
+    emit FChanges::instance()->projectSaved(file);
     return true;
 }
 
-QString FProject::getHolder() {
+void FProject::takeOverIfFree() {
     const QString& file = FMerixCtrl::instance()->getProjectFile();
     if (!mLock.getHolder().isEmpty() && mLock.acquire(file) == FProjectLock::State::Held) {
         mAutosave.start(file, false);
     }
-    return mLock.getHolder();
 }
 
 QString FProject::write(const QString& file) const {
@@ -219,8 +216,12 @@ QString FProject::keepPrevious(const QString& file) const {
 
 void FProject::close(bool keepUnsaved) {
     mAutosave.stop(keepUnsaved);
+    const bool wasOpen = !FMerixCtrl::instance()->getProjectFile().isEmpty();
     mLock.release();
     mIsDamaged = false;
     mStamp = Stamp();
     FMerixCtrl::instance()->setProjectFile(QString());
+    if (wasOpen) {
+        emit FChanges::instance()->projectClosed();
+    }
 }

@@ -28,11 +28,10 @@ class MERIX_EXPORT FProject {
     bool open(const QString& path, bool recover);
     /** Saves under the present name, or under another one, which is the project's from then on. */
     bool save(const QString& path);
-    /**
-     * Which other process has the project open, in words for a message; empty if none has. Once that process has let
-     * it go, the project is this one's.
-     */
-    QString getHolder();
+    /** Which other process has the project open, for a message; empty if none has. */
+    const QString& getHolder() const { return mLock.getHolder(); }
+    /** Takes the lock over if another process had the project open and has closed it. */
+    void takeOverIfFree();
     /**
      * The end of the program.
      * @param keepUnsaved  whether unsaved work stays, to be recovered; else it is given up

@@ -1,6 +1,7 @@
 #include "host/script/FProjectText.h"
 
 #include "host/core/FFile.h"
+#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
@@ -108,12 +109,9 @@ bool FProjectText::checkHeader() {
 }
 
 int FProjectText::restore() const {
+    // No step: nothing can be undone beyond the opening of a project.
+    const FHistoryBlocker blocker;
     const FProjectLoading loading;
-    const FScript script = parseScript(mText, mPath, {true, false});
-    for (const FSyntaxError& error : script.errors) {
-        FLogMsg::error(error.place.toString(mPath), error.message);
-    }
     FScriptNames names;
-    const int errors = FSavedTextReader(names, mPath).read(script.statements);
-    return mWarnings + static_cast<int>(script.errors.size()) + errors;
+    return mWarnings + FSavedTextReader::read(mText, mPath, {true, false}, names);
 }

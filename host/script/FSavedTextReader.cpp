@@ -1,13 +1,21 @@
 #include "host/script/FSavedTextReader.h"
 
-#include "host/core/FHistory.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FUpdateGraph.h"
 
+int FSavedTextReader::read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names) {
+    const FScript script = parseScript(text, file, mode);
+    for (const FSyntaxError& error : script.errors) {
+        FLogMsg::error(error.place.toString(file), error.message);
+    }
+    return static_cast<int>(script.errors.size()) + FSavedTextReader(names, file).read(script.statements);
+}
+
 int FSavedTextReader::read(const FSyntaxBody& statements) {
+    const FBusy busy;
     const FImmediateUpdateBlocker blocker;
-    const FHistoryTransaction step(QStringLiteral("read saved text"));
     announce(statements);
     for (std::size_t i = 0; i < mStatements.size(); ++i) {
         goOn(i);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/FExport.h"
 #include "host/script/FDeclarer.h"
 #include "host/script/FScriptParser.h"
 
@@ -16,11 +17,13 @@
  * Within the text a name means the object that the text declares, also where it declares it further on: what needs an
  * object that isn't there yet is carried out once it is. Time linear in the length of the text.
  */
-class FSavedTextReader {
+class MERIX_EXPORT FSavedTextReader {
  public:
     FSavedTextReader(FScriptNames& names, const QString& file)
         : mNames(names), mFile(file), mDeclarer(names, file, FBinder::Use::Saved) {}
 
+    /** Reads a text; returns how many errors there were, each of which has been reported with its place. */
+    static int read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names);
     /** Returns how many errors there were, each of which has been reported. */
     int read(const FSyntaxBody& statements);
 

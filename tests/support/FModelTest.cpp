@@ -1,12 +1,16 @@
 #include "tests/support/FModelTest.h"
 
+#include "host/core/FAssert.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
+#include "host/core/FUserStep.h"
 #include "host/script/FCmdInput.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FMemberCmd.h"
 
 #include <QTextStream>
 
@@ -23,12 +27,16 @@ FModelTest::FModelTest() {
     FPrototypes::buildPending();
     clear();
     FLogMsg::setSink([this](const FLogMsg& message) { mLog.append(message.toLine()); });
+    FAssert::setHandler([](const FAssert::Failure& failure) {
+        ADD_FAILURE() << failure.place.toStdString() << ": " << failure.message.toStdString();
+    });
 }
 
 FModelTest::~FModelTest() {
     clear();
     FMerixCtrl::instance()->setProjectFile(QString());
     FLogMsg::setSink(nullptr);
+    FAssert::setHandler(nullptr);
 }
 
 bool FModelTest::run(const QString& script) {
@@ -37,6 +45,17 @@ bool FModelTest::run(const QString& script) {
     FCmdInput input;
     input.readInputString(stream, QStringLiteral("test"));
     return input.exec();
+}
+
+void FModelTest::setAttribute(FManaged& object, const QString& attribute, const FExprBase& value) {
+    const auto rows = FCmdManager::instance()->findMembers(object.getClassData(), attribute);
+    ASSERT_FALSE(rows.empty()) << attribute.toStdString();
+    auto* command = new FAttribCmd(*rows.front());
+    const FExprBase keep(command);
+    command->setReceiver(FExprBase(&object));
+    command->setArguments({value});
+    const FUserStep step(attribute);
+    command->update();
 }
 
 FExprBase FModelTest::evaluate(const QString& expression) {
@@ -63,4 +82,8 @@ QString FModelTest::savedModel() {
         text += saved(*object);
     }
     return text;
+}
+
+FDirectTest::FDirectTest() {
+    FAssert::setHandler([](const FAssert::Failure&) {});
 }

@@ -4,6 +4,7 @@
 #include "host/design/FDefinitionBase.h"
 #include "host/design/FEntry.h"
 #include "host/design/FParameter.h"
+#include "host/run/FComputationResults.h"
 #include "tests/support/FModelTest.h"
 
 namespace {
@@ -59,18 +60,35 @@ QString objectText(const FManaged& object) {
     return holder ? text + entriesText(*holder) : text;
 }
 
+/** Results come and go with runs, outside of the history. */
+QList<const FManaged*> objectsOfHistory() {
+    QList<const FManaged*> objects;
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        if (!dynamic_cast<const FComputationResults*>(object)) {
+            objects.append(object);
+        }
+    }
+    return objects;
+}
+
 }  // namespace
 
 QString modelState() {
     // First, since a definition drops files that are gone when it is saved.
-    const QString saved = FModelTest::savedModel();
+    QString saved;
+    QStringList names;
+    for (const FManaged* object : objectsOfHistory()) {
+        saved += FModelTest::saved(*object);
+        names.append(object->getName());
+    }
+    names.sort();
     QString objects;
     // Twice, since an expression finds what it depends on when it is asked for.
     for (int i = 0; i < 2; ++i) {
         objects.clear();
-        for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
+        for (const FManaged* object : objectsOfHistory()) {
             objects += objectText(*object);
         }
     }
-    return saved + FObjectManager::instance()->getNames().join(' ') + '\n' + objects;
+    return saved + names.join(' ') + '\n' + objects;
 }

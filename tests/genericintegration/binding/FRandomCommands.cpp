@@ -1,7 +1,6 @@
 #include "tests/genericintegration/binding/FRandomCommands.h"
 
 #include "host/core/FDocuArea.h"
-#include "host/core/FHistory.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
 #include "host/core/FQuotedText.h"
@@ -120,6 +119,20 @@ QString FRandomCommands::statement() {
     return chance(50) ? listText(several) + command : "for (o in " + listText(several) + ") { o" + command + " }";
 }
 
+QString FRandomCommands::interruptedStatement() {
+    const QStringList calls{
+        "t5.run()",  "t5.cancel()",   "t5.rereadResults()", "include(" + quoteText(mFiles.last()) + ')',
+        "t2.save()", "[destroy(t6)]", "t4.setValue(t4 + 1)"};
+    QStringList given;
+    for (int i = 1 + pick(3); i > 0; --i) {
+        const FCmdRow* row = pickRow(getActingRows(), [this](const FCmdRow& candidate) {
+            return candidate.isMember() && !receivers(candidate).isEmpty();
+        });
+        given.append(!row || chance(60) ? pick(calls) : pick(receivers(*row)) + '.' + call(*row, 0));
+    }
+    return pick(QStringList{"print(%1)", "x = [%1]", "[%1]", "if (true) { [%1] }"}).arg(given.join(", "));
+}
+
 QString FRandomCommands::failingStatement() {
     const FCmdRow* creator = pickRow(getActingRows(), [](const FCmdRow& row) { return row.isCreator(); });
     return creation(*creator, true);
@@ -149,8 +162,6 @@ void FRandomCommands::editObject() {
         return;
     }
     FManaged* edited = objects[pick(objects.size())];
-    FHistoryTransaction transaction("edit");
-    transaction.addStep(edited);
     edited->setName(chance(50) ? objects[pick(objects.size())]->getName() : QString("n%1größe長さ").arg(pick(9)));
     edited->addDocu(pick(texts), static_cast<unsigned>(pick(3)));
     edited->setInProject(chance(70));

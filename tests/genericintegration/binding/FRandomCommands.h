@@ -26,6 +26,8 @@ class FRandomCommands {
     const FCmdRow* getLastRow() const { return mpLastRow; }
     /** Does something, and then fails. */
     QString failingStatement();
+    /** Calls in one expression, of which some keep steps of their own: runs, undo, an included script. */
+    QString interruptedStatement();
     /** What windows do without a command: names, documentation and flags of an object, as one step. */
     void editObject();
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-class FGenIntReaderTest : public FModelTest {
+class FGenIntReaderTest : public FDirectTest {
  protected:
     void setValues(const QString& values) { ASSERT_TRUE(run("out1.setValues(" + values + ")")); }
     void parse(const QString& directory) const { FGenIntReader::instance()->parseFile(file, table.ptr(), directory); }

@@ -4,6 +4,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FString.h"
+#include "host/core/FUserStep.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/randomCases.h"
@@ -15,7 +16,7 @@
 
 namespace {
 
-class FGenIntWriterTest : public FModelTest {
+class FGenIntWriterTest : public FDirectTest {
  protected:
     FGenIntCommandFile* add(const QString& fileName, const QString& content) {
         FGenIntCommandFile* file = FGenIntCommandFile::create(QString());
@@ -79,6 +80,7 @@ TEST_F(FGenIntWriterTest, fileNamesAreBroughtUpToDateWithoutATag) {
         return !value.getStored()->isOutOfDate();
     };
     const auto set = [this](const FExprBase& value) {
+        const FUserStep step("set entry value");
         configuration->setEntryValue("b", value);
         return value;
     };

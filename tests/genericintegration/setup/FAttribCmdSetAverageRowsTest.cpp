@@ -15,7 +15,7 @@ class FProbeEditor : public FAverageRowsEditor {
     QStringList mCalls;
 };
 
-class FAttribCmdSetAverageRowsTest : public FModelTest {
+class FAttribCmdSetAverageRowsTest : public FDirectTest {
  protected:
     void set(const FExprBase& argument) {
         mCommand->setArguments({argument});
@@ -40,10 +40,18 @@ TEST_F(FAttribCmdSetAverageRowsTest, tellsItsEditorAndShowsItsValue) {
     set(FExprBase(new FInteger(4)));
     set(FExprBase(FNull::null()));
     EXPECT_EQ(mEditor.mCalls, QStringList({"3", "4", "NULL"}));
-    set(FExprBase(new FDouble(1.5)));
     set(FExprBase(new FString("5")));
+    EXPECT_TRUE(run("parameter n(6)"));
+    FExprBase expression;
+    for (const char* text : {"n", "n+1"}) {
+        expression.resolve(text);
+        set(expression);
+    }
+    EXPECT_EQ(mEditor.mCalls, QStringList({"3", "4", "NULL", "5", "n", "n+1"}));
+    set(FExprBase(new FDouble(1.5)));
+    set(FExprBase(new FString("x")));
     set(FExprBase());
-    EXPECT_EQ(mEditor.mCalls.size(), 3) << "what is no number of rows changes nothing";
+    EXPECT_EQ(mEditor.mCalls.size(), 6) << "what is no number of rows changes nothing";
 
     EXPECT_EQ(value(), "0") << "no template";
     FGenIntResultsFile* file = FGenIntResultsFile::create("out");

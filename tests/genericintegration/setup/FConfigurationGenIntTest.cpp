@@ -7,7 +7,7 @@
 
 namespace {
 
-class FConfigurationGenIntTest : public FModelTest {
+class FConfigurationGenIntTest : public FDirectTest {
  protected:
     FConfigurationGenIntTest() {
         run("genericIntegrationCommandFile in() {\n"

@@ -5,6 +5,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
+#include "host/core/FUserStep.h"
 #include "host/design/FConfiguration.h"
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/support/FModelTest.h"
@@ -13,7 +14,7 @@ namespace {
 
 using File = FExpr<FGenIntFile>;
 
-class FDefinitionGenIntTest : public FModelTest {
+class FDefinitionGenIntTest : public FDirectTest {
  protected:
     FDefinitionGenIntTest() {
         in->setFileName("in.dat");
@@ -73,7 +74,10 @@ TEST_F(FDefinitionGenIntTest, filesGoWhereItGoesUnlessItIsADefault) {
     EXPECT_TRUE(in->isInUserConfig() && out->isInUserConfig());
     definition->setDefault(true);
     definition->setInProject(true);
-    definition->setInUserConfig(false);
+    {
+        const FUserStep step("set in user configuration");
+        definition->setInUserConfig(false);
+    }
     EXPECT_TRUE(in->isInProject());
     EXPECT_TRUE(in->isInUserConfig());
     EXPECT_FALSE(definition->isInUserConfig());
@@ -108,13 +112,15 @@ TEST_F(FDefinitionGenIntTest, deletingAFileAsksFirst) {
     EXPECT_EQ(names(definition->getFiles()), (QStringList{"in", "out"}));
     const QString before = savedModel();
     userInterface.answer = 0;
-    definition->deleteFile(File(in));
+    {
+        const FUserStep step("delete template file");
+        definition->deleteFile(File(in));
+    }
     FUserInterface::replace(nullptr);
     EXPECT_EQ(names(definition->getFiles()), QStringList{"out"});
     EXPECT_FALSE(FObject::exists(in));
     EXPECT_TRUE(FHistory::instance()->undo());
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
-    EXPECT_FALSE(FHistory::instance()->undo());
 }
 
 TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {

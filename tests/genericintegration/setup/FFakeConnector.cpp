@@ -2,12 +2,12 @@
 
 #include "host/core/FInitPrototype.h"
 
-FClassData FFakeConnectorBase::mClass("FSoftConBase", &FManaged::mClass);
-FClassData FFakeConnector::mClass("FSoftwareConnector", &FFakeConnectorBase::mClass);
+FClassData FFakeConnector::mClass("FFakeConnector", &FManaged::mClass);
 
 namespace {
 
-const FInitPrototypes<FFakeConnectorBase, FFakeConnector> types;
+const FInitPrototypes<FFakeConnector> types;
+[[maybe_unused]] const bool isRegistered = (FConnectorInterface::registerClass(FFakeConnector::mClass), true);
 
 }  // namespace
 

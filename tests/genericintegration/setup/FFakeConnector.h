@@ -5,16 +5,8 @@
 #include "host/design/FDefinition.h"
 #include "host/run/FExternComputation.h"
 
-/** Stands in for the base class of connectors, which is looked up by its name. */
-class FFakeConnectorBase : public FClass<FFakeConnectorBase, FManaged> {
- public:
-    static FClassData mClass;
-
-    explicit FFakeConnectorBase(const QString& name = QString()) : FClass(name) {}
-};
-
-/** Stands in for the connector: notes what it is asked to do, and shows one definition or computation. */
-class FFakeConnector : public FClass<FFakeConnector, FFakeConnectorBase>, public FConnectorInterface {
+/** A connector for tests: records the calls, and belongs to one definition or computation. */
+class FFakeConnector : public FClass<FFakeConnector, FManaged>, public FConnectorInterface {
  public:
     static FClassData mClass;
 
@@ -27,7 +19,7 @@ class FFakeConnector : public FClass<FFakeConnector, FFakeConnectorBase>, public
     }
     FDefinition* getDefinition() const override { return mpDefinition; }
     void disableGui(bool disable) override { mCalls << (disable ? "lock" : "unlock"); }
-    void show() override { mCalls << "show"; }
+    void showConnector() override { mCalls << "show"; }
     void refreshEditors(const FManaged* file) override { Q_UNUSED(file) }
     void refreshCommandFileEditors() override { ++mRefreshed; }
     FManaged* asManaged() override { return this; }

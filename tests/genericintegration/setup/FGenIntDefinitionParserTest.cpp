@@ -25,7 +25,7 @@ class FChooser : public FUserInterface {
     QString answer;
 };
 
-class FGenIntDefinitionParserTest : public FModelTest, public FTestFolder {
+class FGenIntDefinitionParserTest : public FDirectTest, public FTestFolder {
  public:
     FGenIntDefinitionParserTest() { FIni::setFile(path("settings.ini")); }
     ~FGenIntDefinitionParserTest() override { FIni::setFile({}); }

@@ -8,7 +8,7 @@
 
 namespace {
 
-class FGenIntFileTest : public FModelTest {
+class FGenIntFileTest : public FDirectTest {
  protected:
     FGenIntCommandFile* file = FGenIntCommandFile::create(QStringLiteral("in1"));
 };

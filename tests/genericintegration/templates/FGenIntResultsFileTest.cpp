@@ -5,7 +5,7 @@
 
 namespace {
 
-class FGenIntResultsFileTest : public FModelTest {
+class FGenIntResultsFileTest : public FDirectTest {
  protected:
     void add(const QString& name) { file->addValue(name, 0, 0, QString(), QStringLiteral("Last"), false, {}); }
     QString history() const { return file->getValues().toHistoryString(); }

@@ -40,7 +40,9 @@ TEST_F(FHistoryTest, aStepAboveTheLimitIsTold) {
 }
 
 TEST_F(FHistoryTest, whatIsBlockedIsNoPartOfALaterStep) {
-    FThing* thing = FThing::create("a");
+    run("thing a(1)");
+    auto* thing = object<FThing>("a");
+    history().clear();
     {
         const FHistoryBlocker blocker;
         thing->setNumber(3);

@@ -4,7 +4,7 @@
 
 namespace {
 
-class FUpdateGraphTest : public FModelTest {
+class FUpdateGraphTest : public FDirectTest {
  protected:
     FThing* a = FThing::create("a");
     FThing* b = FThing::create("b");

@@ -1,7 +1,10 @@
 #include "host/core/FHistory.h"
+#include "host/core/FUserStep.h"
 #include "host/design/FEntryDef.h"
+#include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
 #include "host/design/FParameter.h"
+#include "host/design/FResultsFileName.h"
 #include "tests/host/design/FEntryFixture.h"
 
 namespace {
@@ -45,7 +48,7 @@ TEST_F(FConfigurationTest, entriesCanDependOnTheirNeighbours) {
     // A path that is itself an expression is seen through only when it is evaluated.
     run("parameter which(\"third\")\nconf.setEntryValue(\"Geometry|span\", conf.getEntryValue(which))");
     EXPECT_EQ(values().front(), "nothing");
-    EXPECT_TRUE(logHolds("depends on the result itself"));
+    EXPECT_TRUE(logHolds("circular dependency"));
     run("conf.setEntryValue(\"height\", 5)\nwhich.setValue(\"height\")");
     EXPECT_EQ(values(), (QStringList{"5", "5", "6"}));
 }
@@ -106,14 +109,37 @@ TEST_F(FConfigurationTest, countsCannotFillTheMemory) {
 }
 
 TEST_F(FConfigurationTest, aValueChangedInPlaceIsUndone) {
-    run("def.addEntry(\"mesh\", inputFile(\"a.dat\"))");
+    run("def.addEntry(\"mesh\", inputFile(\"a.dat\"))\ndef.addEntry(\"out\", resultsFileName(\"b.dat\"))\n"
+        "def.addEntry(\"wing\", geometryExport(\"c.dat\"))\nparameter p(1)");
     FEntry* entry = configuration().getValueEntry("mesh");
-    const QString before = savedModel();
-    dynamic_cast<FInputFile*>(entry->getValueObject())->setSaveDirectory(FExprBase(new FString("sub")));
-    FHistory::instance()->addStep(entry);
+    auto* input = dynamic_cast<FInputFile*>(entry->getValueObject());
+    auto* output = dynamic_cast<FResultsFileName*>(configuration().getValueEntry("out")->getValueObject());
+    auto* geometry = dynamic_cast<FGeometryExport*>(configuration().getValueEntry("wing")->getValueObject());
+    const FExpr<FObjectList> objects(new FObjectList);
+    objects->add(evaluate("p"));
+    const std::function<void()> changes[] = {
+        [&] { input->setSaveDirectory(FExprBase(new FString("sub"))); },
+        [&] { output->setType(ResultsFileType::Text); },
+        [&] { geometry->setFileName("d.dat"); },
+        [&] { geometry->setKind(FGeometryExport::Kind::Feature); },
+        [&] { geometry->addGeometryObjects(objects); },
+    };
+    const auto state = [this] { return configuration().furtherSavedCommands().join('\n').toStdString(); };
+    for (const auto& change : changes) {
+        const std::string before = state();
+        {
+            const FUserStep step("change a value");
+            change();
+        }
+        EXPECT_NE(state(), before);
+        EXPECT_TRUE(configuration().isOutOfDate());
+        run("undo()");
+        EXPECT_EQ(state(), before);
+    }
     EXPECT_FALSE(definition().furtherSavedCommands().join(' ').contains("sub"));
-    run("undo()");
-    EXPECT_EQ(savedModel(), before);
+    objects->add(evaluate("conf"));
+    EXPECT_FALSE(geometry->setGeometryObjects(objects));
+    EXPECT_TRUE(logHolds("the export \"c.dat\" would depend on itself with conf"));
     // Two entries never share a value that can be changed.
     run("def.addEntry(\"mesh2\", NULL, 1, 1, false, \"\", \"FInputFile\")\n"
         "conf.setEntryValue(\"mesh2\", conf.getEntryValue(\"mesh\"))\nv = conf.getEntryValue(\"mesh\")\n"

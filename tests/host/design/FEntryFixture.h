@@ -17,7 +17,7 @@ class FNotingDefinition : public FClass<FNotingDefinition, FDefinition> {
 };
 
 /** A definition `def` with the entries `height` (40) and `Geometry|span` (10), and a configuration `conf` of it. */
-class FEntryFixture : public FModelTest {
+class FEntryFixture : public FDirectTest {
  public:
     FEntryFixture();
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-class FParameterTest : public FModelTest {};
+class FParameterTest : public FDirectTest {};
 
 /** p0 = 1, and each further one is the one before and 1. */
 std::vector<FExpr<FParameter>> chain(int length) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-class FConfigurationCustomTest : public FModelTest, public FTestFolder {
+class FConfigurationCustomTest : public FDirectTest, public FTestFolder {
  protected:
     FConfigurationCustomTest() {
         (new FDefinitionCustom("def"))->registerObject();

@@ -6,7 +6,7 @@
 
 namespace {
 
-class FCustomComputationTest : public FModelTest, public FTestFolder {
+class FCustomComputationTest : public FDirectTest, public FTestFolder {
  public:
     FCustomComputationTest() {
         FMerixCtrl::instance()->setProjectFile(path("study.mrx"));
@@ -14,7 +14,7 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
         definition->registerObject();
         mConfiguration->registerObject();
         mComputation->registerObject();
-        mComputation->setExecutable("sh");
+        set(*mComputation, "setExecutable", QString("sh"));
         EXPECT_TRUE(
             run("def.addEntry(\"span\", 12.5); def.addEntry(\"Wing|name\", \"left \\\"one\\\"\")\n"
                 "def.addEntry(\"Wing|polar\", resultsFileName(\"sub/polar.txt\"))"))
@@ -25,7 +25,7 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
 
  protected:
     bool runScript(const QString& script) {
-        mComputation->setArguments({"-c", script});
+        set(*mComputation, "setArguments", QStringList{"-c", script});
         return mComputation->run();
     }
     FConfigurationCustom* mConfiguration = new FConfigurationCustom("conf");
@@ -36,11 +36,11 @@ class FCustomComputationTest : public FModelTest, public FTestFolder {
 
 TEST_F(FCustomComputationTest, writesItsCommandFile) {
     EXPECT_TRUE(runScript("test ! -e commands")) << logText();
-    mComputation->setCmdFile("commands");
+    set(*mComputation, "setCmdFile", QString("commands"));
     EXPECT_TRUE(runScript("true"));
     EXPECT_EQ(read("study.results/baseline/comp/commands"),
               "Wing|name = left \"one\"\nWing|polar = sub/polar.txt\nspan = 12.5\n");
-    mComputation->setCmdFile("../../commands");
+    set(*mComputation, "setCmdFile", QString("../../commands"));
     EXPECT_FALSE(runScript("true"));
     EXPECT_TRUE(logHolds("command file can't be written"));
 }

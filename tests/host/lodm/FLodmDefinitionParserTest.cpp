@@ -35,7 +35,7 @@ void commands(FCmdTable& table) {
 FClassData FMadeDefinition::mClass("FMadeDefinition", &FDefinitionCustom::mClass, &commands);
 const FInitPrototypes<FMadeDefinition> types;
 
-class FLodmDefinitionParserTest : public FModelTest {
+class FLodmDefinitionParserTest : public FDirectTest {
  protected:
     static QByteArray written(const FDefinitionCustom* definition) {
         QBuffer buffer;

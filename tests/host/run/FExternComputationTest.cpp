@@ -52,12 +52,14 @@ class FProbe : public FExternComputation {
  public:
     explicit FProbe(const QString& name) : FExternComputation(name) {
         FProbeResults::initPrototype();
-        setExecutable("sh");
+        const FHistoryBlocker blocker;
+        registerObject();
+        FModelTest::set(*this, "setExecutable", QString("sh"));
     }
     const FObject* getResultType() const override { return FProbeResults::null(); }
 
     bool runScript(const QString& script) {
-        setArguments({"-c", script});
+        FModelTest::set(*this, "setArguments", QStringList{"-c", script});
         mSteps.clear();
         return run();
     }
@@ -98,12 +100,9 @@ const QStringList& allSteps() {
     return steps;
 }
 
-class FExternComputationTest : public FModelTest, public FTestFolder {
+class FExternComputationTest : public FDirectTest, public FTestFolder {
  public:
-    FExternComputationTest() {
-        FMerixCtrl::instance()->setProjectFile(path(mFolder + "/wing.mrx"));
-        mProbe->registerObject();
-    }
+    FExternComputationTest() { FMerixCtrl::instance()->setProjectFile(path(mFolder + "/wing.mrx")); }
 
  protected:
     QString runFile(const QString& name) const { return mFolder + "/wing.results/baseline/probe/" + name; }
@@ -127,9 +126,9 @@ TEST_F(FExternComputationTest, runsTheProgramInItsFolder) {
 }
 
 TEST_F(FExternComputationTest, passesSettingsOn) {
-    mProbe->setConsoleFiles(false);
-    mProbe->setEnvironment({"WEIGHT=7 kg"});
-    mProbe->setStandardInput("in.txt");
+    set(*mProbe, "setConsoleFiles", false);
+    set(*mProbe, "setEnvironment", QStringList{"WEIGHT=7 kg"});
+    set(*mProbe, "setStandardInput", QString("in.txt"));
     ASSERT_TRUE(mProbe->runScript("read x; echo $x > out.dat; echo \"$WEIGHT\" > weight")) << logText();
     EXPECT_EQ(mProbe->number(), 42);
     EXPECT_EQ(read(runFile("weight")), "7 kg\n");
@@ -138,7 +137,7 @@ TEST_F(FExternComputationTest, passesSettingsOn) {
     write("solver.sh", "#!/bin/sh\necho 3 > out.dat\n", QFile::ExeOwner);
     const QString before = QDir::currentPath();
     QDir::setCurrent(path());
-    mProbe->setExecutable("./solver.sh");
+    set(*mProbe, "setExecutable", QString("./solver.sh"));
     EXPECT_TRUE(mProbe->run()) << "a path is relative to the folder of the caller";
     QDir::setCurrent(before);
     EXPECT_EQ(mProbe->number(), 3);
@@ -184,24 +183,24 @@ TEST_F(FExternComputationTest, failsWhenOldFilesCanNotBeMovedAside) {
 }
 
 TEST_F(FExternComputationTest, tellsWhyAProgramCanNotBeStarted) {
-    mProbe->setExecutable("");
+    set(*mProbe, "setExecutable", QString(""));
     EXPECT_FALSE(mProbe->run());
     EXPECT_TRUE(logHolds("setExecutable"));
     EXPECT_FALSE(mProbe->mSteps.contains("started"));
 
-    mProbe->setExecutable("cat");
-    mProbe->setStandardInput("../../../wing.mrx");
+    set(*mProbe, "setExecutable", QString("cat"));
+    set(*mProbe, "setStandardInput", QString("../../../wing.mrx"));
     EXPECT_FALSE(mProbe->run());
     EXPECT_TRUE(logHolds("outside the folder"));
     EXPECT_EQ(mProbe->getResults()->getRun()->cause, FRunRecord::Cause::ProgramNotStarted);
 }
 
 TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
-    mProbe->setArguments({"-c", "echo $$ > pid; exec sleep 60"});
+    set(*mProbe, "setArguments", QStringList{"-c", "echo $$ > pid; exec sleep 60"});
     ASSERT_TRUE(mProbe->run(false));
     EXPECT_EQ(mProbe->getState(), "running");
     EXPECT_FALSE(mProbe->run()) << "one goes on";
-    EXPECT_TRUE(logHolds("goes on"));
+    EXPECT_TRUE(logHolds("still in progress"));
     EXPECT_FALSE(mProbe->rereadResults());
     auto* results = dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr());
     EXPECT_FALSE(results->prepareResults()) << "nothing is read before the end";
@@ -220,11 +219,12 @@ TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
 }
 
 TEST_F(FExternComputationTest, endsARunWhenItLeavesTheModel) {
-    mProbe->setArguments({"-c", "exec sleep 60"});
+    set(*mProbe, "setArguments", QStringList{"-c", "exec sleep 60"});
     bool isGone = false;
     mProbe->mAtStart = [guard = std::shared_ptr<bool>(&isGone, [](bool* flag) { *flag = true; })] {};
     ASSERT_TRUE(mProbe->run(false));
     mKeep = FExprBase();
+    FHistory::instance()->clear();
     {
         const FHistoryBlocker blocker;
         FManaged::destroy(mProbe);
@@ -239,7 +239,6 @@ TEST_F(FExternComputationTest, leavesTheFolderToTheProcessThatHasTheProject) {
     ASSERT_TRUE(other.lock());
     ASSERT_TRUE(FProject::instance()->open(project, false));
     mProbe = new FProbe("probe");
-    mProbe->registerObject();
     write(runFile("out.dat"), "9");
     EXPECT_FALSE(mProbe->runScript("echo 5 > out.dat"));
     EXPECT_EQ(mProbe->getState(), "failed");
@@ -286,9 +285,9 @@ TEST_F(FExternComputationTest, marksWhatDependsOnItAndLeavesTheHistoryAlone) {
 }
 
 TEST_F(FExternComputationTest, refusesATimeLimitBelowZero) {
-    mProbe->setTimeLimit(12.5);
-    mProbe->setTimeLimit(-1);
-    mProbe->setTimeLimit(qQNaN());
+    set(*mProbe, "setTimeLimit", double(12.5));
+    set(*mProbe, "setTimeLimit", double(-1));
+    set(*mProbe, "setTimeLimit", double(qQNaN()));
     EXPECT_EQ(mProbe->getTimeLimit(), 12.5);
     EXPECT_EQ(log().filter("time limit").size(), 2);
 }

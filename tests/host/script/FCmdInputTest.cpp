@@ -13,7 +13,7 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
         {"thng x()", "there is no creator \"thng\" (did you mean \"thing\"?)"},
         {"prnt(1)", "there is no function \"prnt\" (did you mean \"print\"?)"},
         {"span = 1", "is an object and can't be a variable"},
-        {"x = NULL\nx.setNumber(1)", "test:2:3: setNumber: there is no object to apply it to"},
+        {"span.noSuch()", "FThing has no command \"noSuch\""},
         {"thing a()\ndestroy(a)\nprint(a)", "test:3:7: the object \"a\" has been destroyed"},
     };
     for (const auto& [script, told] : errors) {
@@ -23,6 +23,11 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
     const std::pair<const char*, const char*> warnings[] = {
         {"span.setNumber(\"x\")", "test:1:6: setNumber: argument 1 (number) must be of type double, but is \"x\""},
         {"span.setNumber(NULL)", "must be of type double, but is NULL"},
+        {"x = NULL\nx.setNumber(1)", "test:2:3: setNumber: there is no object to apply it to: \"x\" is NULL"},
+        {"[].at(0).setNumber(1)",
+         "test:1:10: setNumber: there is no object to apply it to: at(0) of \"[]\" returned nothing"},
+        {"x = span\nx.at(0)", "test:2:3: \"x\": FThing has no command \"at\""},
+        {"span.at(0).count()", "test:1:6: \"span\": FThing has no command \"at\""},
         {"text = readText(\"missing.inp\")", "test:1:8: readText: can't read \"missing.inp\""},
         {"thing b()\ndestroy(b)\nundo()\nb.setNumber(\"1\")", "must be of type double, but is \"1\""},
     };

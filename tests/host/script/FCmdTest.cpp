@@ -6,7 +6,7 @@
 
 namespace {
 
-class FCmdTest : public FModelTest {
+class FCmdTest : public FDirectTest {
  protected:
     FThing* a = FThing::create("a");
     FThing* b = FThing::create("b");

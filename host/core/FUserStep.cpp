@@ -1,0 +1,33 @@
+#include "host/core/FUserStep.h"
+
+#include "host/core/FUserInterface.h"
+
+namespace {
+
+/** Text that is still in editors becomes a step of its own before the next one begins. */
+void commitEdits() {
+    static bool isCommitting = false;
+    if (isCommitting || FHistory::instance()->inTransaction()) {
+        return;
+    }
+    isCommitting = true;
+    FUserInterface::instance()->commitEdits();
+    isCommitting = false;
+}
+
+}  // namespace
+
+FUserStep::FUserStep(const QString& label) {
+    commitEdits();
+    FHistory::instance()->startUserStep(label);
+    mBlocker.emplace();
+}
+
+FUserStep::~FUserStep() {
+    if (mIsFailed) {
+        FHistory::instance()->rollbackUserStep([this] { mBlocker.reset(); });
+    } else {
+        mBlocker.reset();
+        FHistory::instance()->commitUserStep();
+    }
+}

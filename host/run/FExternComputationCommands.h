@@ -1,6 +1,0 @@
-#pragma once
-
-class FCmdTable;
-
-/** The script commands of a computation by an external program. */
-void externComputationCommands(FCmdTable& table);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** The value of the variable that a match names; the match itself if there is none. */
+/** The value of the variable that a match names, or the match itself if the variable doesn't exist. */
 QString valueOf(const QRegularExpressionMatch& match) {
     const QByteArray variable = match.captured(match.lastCapturedIndex()).toLocal8Bit();
     return qEnvironmentVariableIsSet(variable.constData()) ? qEnvironmentVariable(variable.constData())
@@ -40,4 +40,10 @@ QString FFile::openOrdinary(QFile& file, QIODevice::OpenMode mode) {
         return info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it isn't an ordinary file");
     }
     return file.open(mode) ? QString() : file.errorString();
+}
+
+QString FFile::realPath(const QString& path) {
+    const QFileInfo info(path);
+    const QString real = info.canonicalFilePath();
+    return real.isEmpty() ? info.absoluteFilePath() : real;
 }

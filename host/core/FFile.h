@@ -11,14 +11,17 @@ class QFile;
 class MERIX_EXPORT FFile {
  public:
     /**
-     * Puts the values of environment variables in place of `$NAME`, `${NAME}` and `%NAME%`, and the user's home folder
-     * in place of a leading `~`. What names no variable stays as it stands. Values aren't expanded in turn.
+     * Replaces `$NAME`, `${NAME}` and `%NAME%` by the values of environment variables, and a leading `~` by the user's
+     * home folder. References to variables that don't exist stay unchanged. Values are not expanded again.
      */
     static QString resolveEnv(const QString& name);
 
     /**
-     * Opens an ordinary file for reading. Empty, or why that can't be. Others are refused: a named pipe would wait for
-     * its writer, and a device may have no end.
+     * Opens an ordinary file for reading. Returns the reason if that fails, else an empty text. Refuses other files: a
+     * named pipe would wait for its writer, and a device may have no end.
      */
     static QString openOrdinary(QFile& file, QIODevice::OpenMode mode = QIODevice::ReadOnly);
+
+    /** The absolute path of a file. If the path leads to it through links, the path of the file itself. */
+    static QString realPath(const QString& path);
 };

@@ -1,27 +1,40 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <functional>
 
+class QFile;
+class QFileDevice;
+
 /**
- * Files of the user's, written beside their place and put there in one step: a crash leaves the old or the new.
- * Operations return what went wrong, for the user; empty if nothing did.
+ * Puts files in place in one step: the bytes are written to a temporary file in the same folder, which then replaces
+ * the old file. After a crash there is the old file or the new one. Functions return a reason for the user, or an empty
+ * text if all went well; the old file is unchanged after a failure.
  */
-class FSavedFile {
+class MERIX_EXPORT FSavedFile {
  public:
     using Step = std::function<QString()>;
 
     /**
-     * @param beforeReplacing  called when all is written and the old file is still there; a reason that it gives leaves
-     *                         that one in its place
+     * Writes a file of the user's. A link is followed, and an existing file keeps its permissions.
+     * @param beforeReplacing  called when everything is written and the old file is still in place; if it returns a
+     *                         reason, the old file stays
      */
     static QString write(const QString& path, const QByteArray& bytes, const Step& beforeReplacing = {});
-    /** A file beside another one, for the program's own use: with its permissions, and never through a link. */
+    /** Writes the rest of an open file, in the same way. */
+    static QString copy(QFile& source, const QString& path);
+    /** Writes a file of the program's own. It replaces a link, and gets the permissions of the file `original`. */
     static QString writeBeside(const QString& original, const QString& path, const QByteArray& bytes);
-    /** Keeps the bytes of a file, in the same way, under a name. */
+    /** Copies the rest of an open file, in the same way, with its permissions. The owner may always write the copy. */
+    static QString keep(QFile& original, const QString& path);
     static QString keep(const QString& original, const QString& path);
-    /** `path`, or if there is something of that name the first free one of path2, path3 … */
+
+    /** Why a file doesn't take what is written to it. Some full disks give no error code. */
+    static QString reasonOf(const QFileDevice& file);
+    /** `path`, or the first of path2, path3 … that doesn't exist, not even as a broken link. */
     static QString freeName(const QString& path);
 };

@@ -3,8 +3,8 @@
 #include "host/core/FLogMsg.h"
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
-#include "host/lodm/FRunFolderFile.h"
 #include "host/run/FPathManager.h"
+#include "host/run/FRunFolderFile.h"
 
 #include <QTextStream>
 

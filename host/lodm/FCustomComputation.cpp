@@ -1,9 +1,9 @@
 #include "host/lodm/FCustomComputation.h"
 
 #include "host/core/FLogMsg.h"
-#include "host/lodm/FRunFolderFile.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/run/FRunFolderFile.h"
 #include "host/script/FCmdTable.h"
 
 void FCustomComputation::declareCommands(FCmdTable& table) {

@@ -2,14 +2,13 @@
 
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FSavedFile.h"
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/lodm/FLodmLeftOut.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 namespace {
 
@@ -21,7 +20,7 @@ bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
     return false;
 }
 
-// Says what save() leaves to its caller.
+// The command. It reports what save() leaves to its caller.
 bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
     if (!fileName.isEmpty()) {
         definition.setSaveFileName(FFile::resolveEnv(fileName));
@@ -43,28 +42,6 @@ void commands(FCmdTable& table) {
     table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""});
 }
 
-/** The file itself where the name is that of a link to it. */
-QString realPath(const QString& name) {
-    const QString path = QFileInfo(name).canonicalFilePath();
-    return path.isEmpty() ? QFileInfo(name).absoluteFilePath() : path;
-}
-
-/** What kept the file from taking all; empty if nothing did. Closing it may forget that. */
-QString writeFault(QFile& file, bool isWritten) {
-    if (file.flush() && isWritten) {
-        return {};
-    }
-    return file.error() == QFileDevice::NoError ? QStringLiteral("not all of it could be written; is the disk full?")
-                                                : file.errorString();
-}
-
-QString moveOver(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(std::filesystem::path(from.toStdU16String()), std::filesystem::path(to.toStdU16String()),
-                            error);
-    return error ? QString::fromStdString(error.message()) : QString();
-}
-
 }  // namespace
 
 FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass, &commands);
@@ -73,28 +50,17 @@ bool FDefinitionCustom::openSaveFile(QFile& file) const {
     if (mSaveFileName.isEmpty()) {
         return false;
     }
-    const QString name = realPath(mSaveFileName) + QStringLiteral(".part");
-    // What is left of that name may be a link to another file.
-    QFile::remove(name);
-    file.setFileName(name);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    file.setFileName(FSavedFile::freeName(FFile::realPath(mSaveFileName) + QStringLiteral(".part")));
+    return file.open(QIODevice::ReadWrite | QIODevice::NewOnly);
 }
 
 bool FDefinitionCustom::closeSaveFile(QFile& file, bool isWritten) const {
-    const QString path = realPath(mSaveFileName);
-    QString reason = writeFault(file, isWritten);
+    // Closing the file forgets that bytes are missing.
+    const bool isWhole = file.flush() && isWritten && file.seek(0);
+    const QString reason = isWhole ? FSavedFile::copy(file, mSaveFileName) : FSavedFile::reasonOf(file);
     file.close();
-    if (reason.isEmpty()) {
-        if (QFileInfo::exists(path)) {
-            file.setPermissions(QFile::permissions(path));
-        }
-        reason = moveOver(file.fileName(), path);
-    }
-    if (reason.isEmpty()) {
-        return true;
-    }
     file.remove();
-    return cantSave(*this, reason);
+    return reason.isEmpty() || cantSave(*this, reason);
 }
 
 bool FDefinitionCustom::save() const {

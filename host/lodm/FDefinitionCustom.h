@@ -14,27 +14,32 @@ class MERIX_EXPORT FDefinitionCustom : public FClass<FDefinitionCustom, FDefinit
 
     explicit FDefinitionCustom(const QString& name = QString()) : FClass(name) {}
 
-    /** The exchange file, kept as long as the program runs; a project doesn't hold it. Empty if there is none yet. */
+    /** The exchange file, or an empty name if there is none. Kept until the program ends; a project doesn't save it. */
     const QString& getSaveFileName() const { return mSaveFileName; }
     void setSaveFileName(const QString& fileName) { mSaveFileName = fileName; }
 
-    /** Writes the exchange file. False, with a message, if there is none, or if it can't be written. */
+    /**
+     * Writes the exchange file. Returns false if that fails. If the definition has no exchange file, or it can't be
+     * opened, the caller reports it; any other failure is reported here.
+     */
     virtual bool save() const;
     /**
-     * The same, with further objects for which the class has a place. A file that is open is written to as it is, and
-     * stays open.
+     * The same, with further objects, if the class saves any. A file that is open is written from its present position,
+     * and stays open.
      */
     virtual bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const;
 
     /**
-     * Opens a file beside the definition's own, with ".part" behind its name. False if it can't, or the definition has
-     * no file; what to say of it is the caller's.
+     * Opens a new file beside the exchange file, named after it with ".part" and a number if that name is taken.
+     * `closeSaveFile` then puts it in place. Returns false, without a message, if the definition has no exchange file,
+     * or the new file can't be opened.
      */
     bool openSaveFile(QFile& file) const;
     /**
-     * Closes it and puts it in the place of the definition's file, in one step.
-     * @param isWritten  whether all was written to it
-     * False, with a message, if it wasn't or doesn't reach the disk; the definition's file stays as it was then.
+     * Replaces the exchange file by what was written to a file that `openSaveFile` opened, in one step, and removes
+     * that file.
+     * @param isWritten  whether everything was written to it
+     * @return false, with a message, if something is missing or the disk is full; the exchange file is unchanged then
      */
     bool closeSaveFile(QFile& file, bool isWritten) const;
 

@@ -1,6 +1,7 @@
 #include "host/script/FProject.h"
 
 #include "host/core/FChanges.h"
+#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
@@ -21,12 +22,6 @@ bool fail(const QString& source, const QString& message, const QString& advice) 
 bool holds(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     return file.size() == bytes.size() && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
-}
-
-/** The file itself where the name is that of a link to it, so that it has one lock and one folder of results. */
-QString fullPath(const QString& path) {
-    const QString real = QFileInfo(path).canonicalFilePath();
-    return real.isEmpty() ? QFileInfo(path).absoluteFilePath() : real;
 }
 
 }  // namespace
@@ -73,7 +68,8 @@ bool FProject::create() {
 }
 
 bool FProject::open(const QString& path, bool recover) {
-    const QString file = fullPath(path);
+    // The file itself, so that it has one lock and one folder of results, whatever link names it.
+    const QString file = FFile::realPath(path);
     const bool hasNews = FAutosave::isNewer(file);
     const bool isOwn = mAutosave.isOwnOf(file);
     const QString news = QFileInfo(FAutosave::pathOf(file)).lastModified().toString(Qt::ISODate);
@@ -161,7 +157,7 @@ bool FProject::mayWrite(const QString& file, FProjectLock& lock) const {
 }
 
 bool FProject::save(const QString& path) {
-    const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : fullPath(withEnding(path));
+    const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : FFile::realPath(withEnding(path));
     FProjectLock lock;
     if (!mayWrite(file, lock)) {
         return false;

@@ -106,11 +106,18 @@ TEST_F(FGenIntDefinitionParserTest, aFullDiskLeavesTheFileThatIsThere) {
     }
 }
 
-TEST_F(FGenIntDefinitionParserTest, savingFollowsNoLinkBesideTheFile) {
+TEST_F(FGenIntDefinitionParserTest, savingLeavesFilesBesideAndFollowsTheLinkThatItIsGiven) {
     write("other", "kept");
-    ASSERT_TRUE(QFile::link(path("other"), path("d.lodm.part")));
-    ASSERT_TRUE(run(integration + ("d.save(\"" + path("d.lodm") + "\")")));
-    EXPECT_EQ(read("other"), "kept");
+    write("d.lodm.part", "the user's");
+    write("d.lodm", "old");
+    ASSERT_TRUE(QFile::link(path("other"), path("d.lodm.part2")));
+    ASSERT_TRUE(QFile::link(path("d.lodm"), path("link.lodm")));
+    QFile::setPermissions(path("d.lodm"), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(run(integration + ("d.save(\"" + path("link.lodm") + "\")")));
+    EXPECT_EQ(read("other") + read("d.lodm.part"), "keptthe user's");
+    EXPECT_EQ(QDir(path()).entryList(QDir::Files),
+              (QStringList{"d.lodm", "d.lodm.part", "d.lodm.part2", "link.lodm", "other"}));
+    EXPECT_FALSE(QFile::permissions(path("d.lodm")) & QFile::ReadOther);
     EXPECT_TRUE(read("d.lodm").contains("</definition>"));
     EXPECT_TRUE(logHolds("d: the default of entry \"list\" names \"tail\", which isn't saved along"));
     EXPECT_FALSE(logHolds("\"wing\""));

@@ -261,11 +261,11 @@ TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
     ASSERT_TRUE(run("done = d.save(\"" + folder.path("d.lodm") + "\")"));
     EXPECT_EQ(folder.read("d.lodm"), written(object<FDefinitionCustom>("d")));
     EXPECT_EQ(FHistory::instance()->getLabels(), QStringList{"madeDefinition"}) << "nothing to be undone";
-    // Where the file can't be put in its place, the one that is there stays, and nothing lies about.
+    // If the file cannot be replaced, it stays, and no other file is left over.
     QDir(folder.path()).mkpath("dir.lodm/sub");
     object<FDefinitionCustom>("d")->setSaveFileName(folder.path("dir.lodm"));
     EXPECT_FALSE(object<FDefinitionCustom>("d")->save());
-    EXPECT_TRUE(logHolds("dir.lodm\": Is a directory"));
+    EXPECT_TRUE(logHolds("dir.lodm\": Filename refers to a directory"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{"d.lodm", "dir.lodm"}));
 }

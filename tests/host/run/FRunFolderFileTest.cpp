@@ -1,4 +1,4 @@
-#include "host/lodm/FRunFolderFile.h"
+#include "host/run/FRunFolderFile.h"
 
 #include "tests/support/FFileSizeLimit.h"
 #include "tests/support/FTestFolder.h"

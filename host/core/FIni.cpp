@@ -26,3 +26,10 @@ FIni::FIni() : QSettings(settingsFile(), QSettings::IniFormat) {}
 void FIni::setFile(const QString& path) {
     chosenFile() = path;
 }
+
+FExpr<FInteger> FIni::getSetting(const QString& key) {
+    bool isWhole = false;
+    // As a text, since a QVariant would round a number with a fraction.
+    const int number = FIni().value(key).toString().toInt(&isWhole);
+    return isWhole ? FExpr<FInteger>(new FInteger(number)) : FExpr<FInteger>();
+}

@@ -16,6 +16,15 @@ FUserInterface*& current() {
     return now;
 }
 
+void logNoDialog(const QString& caption, const QString& startPath, const char* consequence) {
+    FLogMsg::info(caption, QStringLiteral("no window can ask for a file in %1").arg(startPath),
+                  QString::fromLatin1(consequence));
+}
+
+QString answerOf(const QStringList& buttons, int button) {
+    return buttons.isEmpty() ? QString() : QStringLiteral("answered \"%1\"").arg(buttons.value(button));
+}
+
 }  // namespace
 
 FUserInterface* FUserInterface::instance() {
@@ -27,7 +36,12 @@ FUserInterface* FUserInterface::replace(FUserInterface* userInterface) {
 }
 
 int FUserInterface::ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) {
-    FLogMsg::info(title, text, QStringLiteral("answered \"%1\"").arg(buttons.value(defaultButton)));
+    FLogMsg::info(title, text, answerOf(buttons, defaultButton));
+    return defaultButton;
+}
+
+int FUserInterface::warn(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) {
+    FLogMsg::warning(title, text, answerOf(buttons, defaultButton));
     return defaultButton;
 }
 
@@ -37,7 +51,18 @@ void FUserInterface::tell(const QString& title, const QString& text) {
 
 QString FUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
     Q_UNUSED(filter)
-    FLogMsg::info(caption, QStringLiteral("no window can ask for a file in %1").arg(startPath),
-                  QStringLiteral("nothing is opened; give its name"));
+    logNoDialog(caption, startPath, "nothing is opened; give its name");
     return {};
+}
+
+QString FUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
+    Q_UNUSED(filter)
+    logNoDialog(caption, startPath, "nothing is saved; give its name");
+    return {};
+}
+
+void FUserInterface::showTexts(const QString& title, const QMap<QString, QString>& texts) {
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        FLogMsg::info(title, QStringLiteral("%1: %2 characters").arg(text.key()).arg(text->size()), QString());
+    }
 }

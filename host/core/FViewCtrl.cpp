@@ -1,5 +1,21 @@
 #include "host/core/FViewCtrl.h"
 
+#include "host/core/FIO.h"
+
+#include <QFileInfo>
+
+namespace {
+
+template <class Ask>
+QString inModalDialog(Ask ask) {
+    FViewCtrl::prepareModalDialog(nullptr);
+    const QString answer = ask();
+    FViewCtrl::finalizeModalDialog();
+    return answer;
+}
+
+}  // namespace
+
 FViewCtrl* FViewCtrl::instance() {
     static FViewCtrl control;
     return &control;
@@ -12,4 +28,16 @@ void FViewCtrl::prepareModalDialog(void* parent) {
 
 void FViewCtrl::finalizeModalDialog() {
     FUserInterface::instance()->setModalDialog(false);
+}
+
+QString FViewCtrl::getOpenFileName(const QString& caption, QString& directory, const QString& filter) {
+    const QString file = inModalDialog([&] { return FIO::openFileName(nullptr, caption, directory, filter); });
+    if (!file.isEmpty()) {
+        directory = QFileInfo(file).path();
+    }
+    return file;
+}
+
+QString FViewCtrl::getSaveFileName(const QString& caption, const QString& startPath, const QString& filter) {
+    return inModalDialog([&] { return FUserInterface::instance()->askSaveFile(caption, startPath, filter); });
 }

@@ -93,6 +93,18 @@ void FCmdManager::hide(const FObject* classPrototype, const FObject* commandProt
     }
 }
 
+QStringList FCmdManager::hiddenUnknownNames() const {
+    QStringList names;
+    for (const auto& table : mTables) {
+        for (const QString& name : table->getHidden()) {
+            if (!FObject::getPrototype(name)) {
+                names.append(name);
+            }
+        }
+    }
+    return names;
+}
+
 bool FCmdManager::isHidden(const FClassData& data, const FCmdRow& row) const {
     for (const FClassData* cls = &data; cls; cls = cls->getSuper()) {
         if (mHidden.value(cls).contains(row.commandClass->mpNull)) {

@@ -43,6 +43,9 @@ class MERIX_EXPORT FCmdManager {
     /** All member names of a class, hidden ones left out. */
     QStringList memberNames(const FClassData& data) const;
 
+    /** The names that tables hide but no command has, in most cases a misspelling. */
+    QStringList hiddenUnknownNames() const;
+
     /** What to say of a name that no command has, with the nearest known one. */
     QString unknownMember(const FClassData& data, const QString& name) const;
     QString unknownCreator(const QString& name) const;

@@ -196,8 +196,10 @@ class MERIX_EXPORT FCmdTable {
     }
     FCmdTable& menuIcon(const char* path) { return look().menuIcon = QString::fromLatin1(path), *this; }
 
-    /** The command of that class name is hidden for this class once all tables are filled. A name that no command has
-     *  has no effect. */
+    /**
+     * Hides the inherited command of that class name for this class, as soon as all tables exist. An unknown name has
+     * no effect; a test lists those (`FCmdManager::hiddenUnknownNames`).
+     */
     FCmdTable& hideInherited(const char* commandClass) {
         mHidden.append(QString::fromLatin1(commandClass));
         return *this;

@@ -42,9 +42,13 @@ TEST_F(CommandClassesTest, typedCommandsHideThoseOfTheHost) {
     EXPECT_EQ(offered("FGenIntComputation", "setCmdFile"), QStringList{});
     EXPECT_EQ(offered("FConfigurationGenInt", "setDefinition"),
               QStringList{"FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt"});
-    // The name that result templates ask to hide is that of no command, so this one stays.
     EXPECT_EQ(offered("FGenIntResultsFile", "setForceWindowsLineEndings"),
               QStringList{"FAttribCmdFGenIntFilesetForceWindowsLineEndingsbool"});
+}
+
+TEST_F(CommandClassesTest, whatClassesHideExists) {
+    EXPECT_EQ(FCmdManager::instance()->hiddenUnknownNames(),
+              QStringList{"FAttribCmdFGenIntCommandFilesetForceWindowsLineEndingsbool"});
 }
 
 }  // namespace

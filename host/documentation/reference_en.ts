@@ -906,6 +906,35 @@ out1.setTabSeaparator(true)</translation>
 }</translation>
     </message>
     <message>
+        <source>!FImport</source>
+        <translation>An import reads files of one kind into the project.</translation>
+    </message>
+    <message>
+        <source>!FImport.member.read(string,fileName="",bool,flag=false)</source>
+        <translation>Imports a file. A file that does not exist or cannot be opened changes nothing, without a message.</translation>
+    </message>
+    <message>
+        <source>!FImport.member.read(string,fileName="",bool,flag=false):argument0</source>
+        <translation>The file, relative to the script if it lies there, or else to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
+    </message>
+    <message>
+        <source>!FImport.member.read(string,fileName="",bool,flag=false):argument1</source>
+        <translation>An option of some kinds of import; the others ignore it.</translation>
+    </message>
+    <message>
+        <source>!FImport.member.read(string,fileName="",bool,flag=false):example</source>
+        <translation>print(getObjects("FImport").read("wing.lodm"))</translation>
+    </message>
+    <message>
+        <source>!FImport.member.read(string,fileName="",bool,flag=false):returnValue</source>
+        <comment>return type: FObjectList</comment>
+        <translation>A list, empty for most kinds of import.</translation>
+    </message>
+    <message>
+        <source>!FImport:example</source>
+        <translation>print(getObjects("FImport").read("wing.lodm"))</translation>
+    </message>
+    <message>
         <source>!FObjectList</source>
         <translation>A list of values or objects, written [a, b, c]; it can hold other lists. A command that lists don't have is carried out by each element that has it, and the results come back as a list: one result for a list of one, an empty list for an empty one. Lists don't change; a new one is written instead.</translation>
     </message>
@@ -1856,7 +1885,7 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName=""):argument0</source>
-        <translation>The file, relative to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
+        <translation>The file, relative to the script if it lies there, or else to the current folder. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it a window asks for the file; where there are no windows, nothing is read.</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName=""):example</source>

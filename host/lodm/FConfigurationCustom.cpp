@@ -6,6 +6,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmDefinitionParser.h"
+#include "host/lodm/FLodmPath.h"
 #include "host/run/FPathManager.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdManager.h"
@@ -23,12 +24,9 @@ const QString& importPathKey() {
 
 QString askForFile() {
     const QVariant last = FIni().value(importPathKey(), QVariant());
-    const QString start = last.isValid() ? last.toString() : FPathManager::instance()->getSamplesDir();
-    FViewCtrl::prepareModalDialog(nullptr);
-    const QString answer = FIO::openFileName(nullptr, QStringLiteral("Open LODM File"), start,
-                                             QStringLiteral("LODM Files (*.lodm *.xml)"));
-    FViewCtrl::finalizeModalDialog();
-    return answer;
+    QString start = last.isValid() ? last.toString() : FPathManager::instance()->getSamplesDir();
+    return FViewCtrl::getOpenFileName(QStringLiteral("Open LODM File"), start,
+                                      QStringLiteral("LODM Files (*.lodm *.xml)"));
 }
 
 void tellUnreadable(const QString& file, const QString& fault) {
@@ -82,6 +80,20 @@ QMap<QString, QString> FConfigurationCustom::getPreview() {
     return {};
 }
 
+void FConfigurationCustom::preview() {
+    FUserInterface::instance()->showTexts(QStringLiteral("Preview of %1").arg(getName()), getPreview());
+}
+
+FConfigurationCustom* FConfigurationCustom::createSetUp(const FExpr<FDefinitionCustom>& definition) {
+    setDefinition(FExpr<FDefinition>(definition));
+    initEntireStructure(true);
+    return this;
+}
+
+QObject* FConfigurationCustom::getObjectEditor() const {
+    return FUserInterface::instance()->getObjectEditor(FExprBase(this));
+}
+
 FDefinitionCustom* FConfigurationCustom::parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const {
     FLodmDefinitionParser parser(definition);
     parser.read(file);
@@ -90,7 +102,7 @@ FDefinitionCustom* FConfigurationCustom::parseFile(QFile* file, const FExpr<FDef
 
 FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefinitionCustom>& definition,
                                                               const QString& fileName) const {
-    const QString path = fileName.isEmpty() ? askForFile() : FFile::resolveEnv(fileName);
+    const QString path = fileName.isEmpty() ? askForFile() : lodmPath(fileName);
     if (path.isEmpty()) {
         return nullptr;
     }

@@ -1,6 +1,7 @@
 #include "host/lodm/FConfigurationCustom.h"
 
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FUserInterface.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
@@ -82,6 +83,38 @@ TEST_F(FConfigurationCustomTest, exportsGoIntoTheFolderOfTheRun) {
     run("conf.setEntryValue(\"g\", geometryExport(\"../one.txt\", 1, a))");
     EXPECT_FALSE(conf->doExports());
     EXPECT_TRUE(logHolds("\"../one.txt\" would lie outside the folder of the run"));
+}
+
+TEST_F(FConfigurationCustomTest, aSetUpStartsWithTheDefaultsOfItsDefinition) {
+    run("def.addEntry(\"height\", 40)\nconf.setEntryValue(\"height\", 41)");
+    auto* other = new FDefinitionCustom("other");
+    other->registerObject();
+    run("other.addEntry(\"height\", 50)\nother.addEntry(\"width\", 60)");
+    EXPECT_EQ(conf->createSetUp(FExpr<FDefinitionCustom>(other)), conf);
+    EXPECT_EQ(conf->getDefinition().ptr(), other);
+    EXPECT_EQ(textOf("[conf.getEntryValue(\"height\"), conf.getEntryValue(\"width\")]"), "[50,60]");
+    EXPECT_TRUE(conf->createSetUp({})->getEntryMap().isEmpty());
+}
+
+TEST_F(FConfigurationCustomTest, windowsShowPreviewsAndEditors) {
+    struct Previewed : FConfigurationCustom {
+        QMap<QString, QString> getPreview() override { return {{"a.inp", "span 3"}, {"b.inp", ""}}; }
+    };
+    FExpr<FConfigurationCustom>(new Previewed)->preview();
+    EXPECT_TRUE(logHolds("a.inp: 6 characters") && logHolds("b.inp: 0 characters")) << logText();
+    EXPECT_EQ(conf->getObjectEditor(), nullptr);
+    struct Windows : FUserInterface {
+        QObject* getObjectEditor(const FExprBase& object) override {
+            edited = object;
+            return &editor;
+        }
+        QObject editor;
+        FExprBase edited;
+    } windows;
+    FUserInterface::replace(&windows);
+    EXPECT_EQ(conf->getObjectEditor(), &windows.editor);
+    EXPECT_EQ(windows.edited.getStored(), conf);
+    FUserInterface::replace(nullptr);
 }
 
 }  // namespace

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FManaged.h"
+#include "host/core/FObjectList.h"
+
+class QFile;
+
+/**
+ * Imports files of one kind into the model. Derived classes set caption and filter in their constructor, and override
+ * `doImport`. An import can be used many times.
+ */
+class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
+ public:
+    static FClassData mClass;
+
+    explicit FImport(const QString& name = QString()) : FClass(name) {}
+
+    /**
+     * Imports a file. See `lodmPath` for the name; if it is empty, the user is asked. If there is no such file, or it
+     * can't be opened, nothing happens and no message is given.
+     * @param flag  for `doImport`
+     * @return a new list for the caller, empty unless a derived class fills it
+     */
+    virtual FExpr<FObjectList> read(const QString& fileName, bool flag);
+
+    /**
+     * The folder in which the user chose the last file of this import, or the folder of the samples. It is kept with
+     * the object, but not saved.
+     */
+    QString getCurrentDir() const;
+    void setCurrentDir(const QString& directory) { mCurrentDir = directory; }
+
+ protected:
+    /** Imports the open file. */
+    virtual void doImport(QFile& file, bool flag);
+    /** Called before each import. */
+    virtual void reset() {}
+    /** Finds the file of `read`, asks if there is no name, opens it, and remembers the folder that the user chose. */
+    bool open(QFile& file, const QString& fileName);
+
+    QString mCaption;  //!< of the dialog that asks for a file
+    QString mFilter;   //!< of that dialog, such as "Text (*.txt *.log)"
+
+ private:
+    QString mCurrentDir;
+};

@@ -2,11 +2,14 @@
 
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FSavedFile.h"
+#include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/lodm/FLodmLeftOut.h"
 #include "host/script/FCmdTable.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -20,19 +23,26 @@ bool cantSave(const FDefinitionCustom& definition, const QString& reason) {
     return false;
 }
 
+QString askForFile(const QString& name) {
+    const QDir folder = QFileInfo(FMerixCtrl::instance()->getProjectFile()).dir();
+    return FViewCtrl::getSaveFileName(QStringLiteral("Save LODM File"), folder.filePath(name + QStringLiteral(".lodm")),
+                                      QStringLiteral("LODM Files (*.lodm)"));
+}
+
 // The command. It reports what save() leaves to its caller.
 bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
     if (!fileName.isEmpty()) {
         definition.setSaveFileName(FFile::resolveEnv(fileName));
     }
-    if (definition.getSaveFileName().isEmpty()) {
+    if (definition.getSaveFileName().isEmpty() && !FViewCtrl::instance()->hasGui()) {
         FLogMsg::error(definition.getName(), QStringLiteral("the definition has no file to be saved in"),
                        QStringLiteral("name one: save(\"%1.lodm\")").arg(definition.getName()));
         return false;
     }
     QFile file;
     if (!definition.openSaveFile(file)) {
-        return cantSave(definition, file.errorString());
+        // Without a name, the user has cancelled.
+        return !definition.getSaveFileName().isEmpty() && cantSave(definition, file.errorString());
     }
     const bool isWritten = definition.save({}, file);
     return definition.closeSaveFile(file, isWritten);
@@ -47,6 +57,9 @@ void commands(FCmdTable& table) {
 FClassData FDefinitionCustom::mClass("FDefinitionCustom", &FDefinitionCustomBase::mClass, &commands);
 
 bool FDefinitionCustom::openSaveFile(QFile& file) const {
+    if (mSaveFileName.isEmpty() && FViewCtrl::instance()->hasGui()) {
+        mSaveFileName = askForFile(getName());
+    }
     if (mSaveFileName.isEmpty()) {
         return false;
     }

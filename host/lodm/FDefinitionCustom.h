@@ -31,8 +31,9 @@ class MERIX_EXPORT FDefinitionCustom : public FClass<FDefinitionCustom, FDefinit
 
     /**
      * Opens a new file beside the exchange file, named after it with ".part" and a number if that name is taken.
-     * `closeSaveFile` then puts it in place. Returns false, without a message, if the definition has no exchange file,
-     * or the new file can't be opened.
+     * `closeSaveFile` then puts it in place. If the definition has no exchange file and there are windows, the user
+     * chooses one, which the definition then has. Returns false, without a message, if it has none, or if the new file
+     * can't be opened.
      */
     bool openSaveFile(QFile& file) const;
     /**
@@ -47,5 +48,5 @@ class MERIX_EXPORT FDefinitionCustom : public FClass<FDefinitionCustom, FDefinit
     using FDefinitionCustomBase::init;
 
  private:
-    QString mSaveFileName;
+    mutable QString mSaveFileName;  //!< also set by the user while the definition is saved
 };

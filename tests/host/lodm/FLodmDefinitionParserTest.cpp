@@ -2,7 +2,9 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FInitPrototype.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FQuotedText.h"
+#include "host/core/FUserInterface.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryTree.h"
 #include "host/script/FCmdTable.h"
@@ -268,6 +270,30 @@ TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
     EXPECT_TRUE(logHolds("dir.lodm\": Filename refers to a directory"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{"d.lodm", "dir.lodm"}));
+}
+
+TEST_F(FLodmDefinitionParserTest, windowsAskWhereADefinitionIsSavedFirst) {
+    const FTestFolder folder;
+    struct Windows : FUserInterface {
+        bool hasGui() const override { return true; }
+        QString askSaveFile(const QString&, const QString& startPath, const QString&) override {
+            questions.append(startPath);
+            return answer;
+        }
+        QString answer;
+        QStringList questions;
+    } windows;
+    ASSERT_TRUE(run("madeDefinition d() { .addEntry(\"a\", 1) }"));
+    FMerixCtrl::instance()->setProjectFile(folder.path("p.mrx"));
+    FUserInterface::replace(&windows);
+    run("d.save()");
+    EXPECT_TRUE(log().isEmpty()) << "the user cancelled";
+    windows.answer = folder.path("chosen.lodm");
+    EXPECT_TRUE(object<FDefinitionCustom>("d")->save());
+    EXPECT_TRUE(object<FDefinitionCustom>("d")->save());
+    FUserInterface::replace(nullptr);
+    EXPECT_EQ(windows.questions, (QStringList{folder.path("d.lodm"), folder.path("d.lodm")}));
+    EXPECT_EQ(folder.read("chosen.lodm"), written(object<FDefinitionCustom>("d")));
 }
 
 }  // namespace

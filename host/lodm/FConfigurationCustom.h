@@ -39,8 +39,8 @@ class MERIX_EXPORT FConfigurationCustom : public FClass<FConfigurationCustom, FC
 
     /**
      * Makes this configuration the set-up of a definition: takes the definition and creates all entries, each with its
-     * default value. Values set before are discarded, also those of entries that the definition has in common with the
-     * previous one (`setDefinition` keeps these). An empty definition leaves no entries. Returns this configuration.
+     * default value. Values set before are discarded. An empty definition leaves no entries. Returns this
+     * configuration.
      *
      * Not for prototypes. The caller opens the undo step.
      */

@@ -12,7 +12,7 @@ FClassData FConfigurationCustomBase::mClass("FConfigurationCustomBase", &FConfig
 
 namespace {
 
-/** What an entry brings into the run directory failed. */
+/** Reports why a file of an entry isn't in the folder of the run. Returns false. */
 bool report(const FConfiguration& configuration, const FEntry& entry, const QString& reason) {
     FLogMsg::error(configuration.getName(), QStringLiteral("entry \"%1\": %2").arg(entry.getFullName(), reason),
                    QStringLiteral("the input of the run isn't complete"));
@@ -31,7 +31,7 @@ QByteArray savedText(const FGeometryExport& geometry) {
     return text.toUtf8();
 }
 
-/** Carries `bring` out for each entry with a value of class T, up to the first that gives a reason for failing. */
+/** Calls `bring` for each entry with a value of class T, until one returns a reason for a failure. */
 template <class T, class Bring>
 bool bringAll(const FConfiguration& configuration, Bring bring) {
     for (const FExpr<FEntryBase>& handle : configuration.getEntryMap()) {

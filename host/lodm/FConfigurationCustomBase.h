@@ -11,17 +11,17 @@ class MERIX_EXPORT FConfigurationCustomBase : public FClass<FConfigurationCustom
 
     explicit FConfigurationCustomBase(const QString& name = QString()) : FClass(name) {}
 
-    /** The values of the entries that name files which a run leaves. */
+    /** The values of the entries that name output files of a run. */
     QList<FExpr<FResultsFileName>> getResultsFileNames() const;
     /**
-     * Copies the files of the entries that are input files into a folder, each in one step. A relative name is one
-     * relative to the project's file, or to the current folder if there is none. Stops, with false and a message, at
-     * the first file that has no name, can't be read, or would lie outside the folder.
+     * Copies the input files that entries name into a folder, each in one step. A relative name starts at the folder of
+     * the project's file, or at the current folder if the project has no file. Stops, with false and a message, at the
+     * first file that has no name, can't be read, or would lie outside the folder.
      */
     bool copyInputFiles(const QString& folder) const;
     /**
-     * Writes what the entries export into the folder of the run in progress, as script text. False, with a message, at
-     * the first one that can't be written.
+     * Writes what the entries export into the folder of the run in progress, as script text. Stops, with
+     * false and a message, at the first one that can't be written.
      */
     bool doExports() const;
 

@@ -4,7 +4,7 @@
 #include "host/lodm/FConfigurationCustom.h"
 #include "host/run/FExternComputation.h"
 
-/** A computation whose input comes from a configuration: base of those that plug-ins bring. */
+/** A computation whose input comes from a configuration: base class for plug-ins. */
 class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExternComputation> {
  public:
     static FClassData mClass;
@@ -13,7 +13,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
 
     const FExpr<FConfigurationCustom>& getConfiguration() const { return mConfiguration; }
     /**
-     * The computation depends on it from now on. Refused, with a message, if the configuration depends on the
+     * The computation then depends on the configuration. Refused, with a message, if the configuration depends on the
      * computation.
      */
     void setConfiguration(const FExpr<FConfigurationCustom>& configuration);

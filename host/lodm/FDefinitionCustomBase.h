@@ -3,7 +3,7 @@
 #include "host/core/FExport.h"
 #include "host/design/FDefinition.h"
 
-/** A definition whose entries a user makes, rather than a program. */
+/** A definition whose entries come from a user rather than from a program. */
 class MERIX_EXPORT FDefinitionCustomBase : public FClass<FDefinitionCustomBase, FDefinition> {
  public:
     static FClassData mClass;
@@ -12,6 +12,6 @@ class MERIX_EXPORT FDefinitionCustomBase : public FClass<FDefinitionCustomBase, 
 
  protected:
     using FDefinition::init;
-    /** Takes over a copy of all entry definitions. */
+    /** Copies all entry definitions. */
     void init(const FDefinitionCustomBase* other);
 };

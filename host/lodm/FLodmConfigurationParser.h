@@ -7,9 +7,9 @@
 #include <QString>
 
 /**
- * Brings files of known kinds into objects: "text" gives an FString of the content, "table" an FTableData of its
- * numbers. Numbers are split at white space; a line without any gives no row, but names the columns if it is the first.
- * What isn't a number is NaN.
+ * Reads files of known kinds into objects: "text" gives an FString of the content, "table" an FTableData of its
+ * numbers. Words are separated by white space, and one that isn't a number becomes NaN. A line without a number gives
+ * no row, but if it is the first line, its words name the columns.
  */
 class MERIX_EXPORT FLodmConfigurationParser {
  public:
@@ -19,9 +19,8 @@ class MERIX_EXPORT FLodmConfigurationParser {
     explicit FLodmConfigurationParser(const QString& folder) : mFolder(folder) {}
 
     /**
-     * Replaces the objects by the one that a file gives, under `name`. A kind that isn't known and a file that can't be
-     * read are reported in the log and give no object. True in either case: a missing file is no reason to drop what
-     * refers to it.
+     * Replaces the objects by the one that is read from a file, under `name`. An unknown kind or an unreadable file is
+     * logged and gives no object. Always returns true: a missing file is no reason to drop what refers to it.
      */
     bool doImport(const QString& type, const QString& path, const QString& name);
     const Objects& getObjects() const { return mObjects; }

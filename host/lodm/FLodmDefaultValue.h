@@ -8,18 +8,21 @@ class FLodmDefaultValue {
  public:
     explicit FLodmDefaultValue(const FLodmEntry& entry) : mEntry(entry) {}
 
-    /** How a value is written. */
+    /** The kind as which a value is written. */
     static FLodmEntry::Default kindOf(const FObject& value);
-    /** The names in a script text, in their order; none if it is wrong. */
+    /** The names in a script text, in order; empty if its syntax is wrong. */
     static QStringList namesIn(const QString& script);
 
-    /** What is wrong with its text; empty if nothing is. */
+    /** What is wrong with its text, or an empty text. */
     QString fault() const;
-    /** Whether there are names in it, which may be those of objects that come later in the file. */
+    /** Whether it contains names, possibly of objects that come later in the file. */
     bool hasNames() const;
-    /** A name that stands for nothing; empty if there is none. */
+    /** The first name that nothing has, or an empty text. */
     QString missingName(const FScriptNames& names) const;
-    /** The value; empty if there is none, with the reason if one was wanted. Reads no file and changes nothing. */
+    /**
+     * The value; empty if the entry has no default, or if the default can't be evaluated, with the reason. Reads no
+     * file and changes nothing.
+     */
     FExprBase evaluate(const FScriptNames& names, QString& reason) const;
 
  private:

@@ -25,12 +25,12 @@ using Nodes = std::vector<FLodmEntry>;
 
 constexpr char xmlHeader[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>";
 
-/** What messages say instead of a file's name. */
+/** Used in messages instead of a file's name. */
 QString noFile() {
     return QStringLiteral("definition");
 }
 
-/** As many bytes as it takes to see that a file is too long, without asking for the memory of such a one. */
+/** Limits the bytes to read so that a file that is too long is noticed but not loaded. */
 qint64 mostToRead(const QIODevice& device) {
     constexpr qint64 leastBlock = qint64{1} << 20U;
     const qint64 most = FLodmDefinitionParser::longestFile + 1;
@@ -51,7 +51,7 @@ bool FLodmDefinitionParser::read(QIODevice* device) {
         error({}, QStringLiteral("it isn't open for reading"));
         return false;
     }
-    // Line ends inside of quoted texts of the object area belong to those.
+    // Line ends in quoted texts of the object area belong to the texts.
     const bool isText = device->isTextModeEnabled();
     device->setTextModeEnabled(false);
     const QByteArray bytes = device->read(mostToRead(*device));
@@ -97,7 +97,7 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     return true;
 }
 
-// All of it, before anything of the model is touched.
+// Parses everything before the model is changed.
 bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
     if (const auto slow = FLodmSlowTag::find(text)) {
         error(placeOf(text, slow->place), slow->reason);
@@ -172,7 +172,7 @@ void FLodmDefinitionParser::error(const FPlace& place, const QString& message) {
                    QStringLiteral("nothing was read; correct the file, or save the definition again"));
 }
 
-// A class makes objects through its creator, as a script would.
+// Objects are created by the creator command of their class, as in a script.
 bool FLodmDefinitionParser::makeDefinition() {
     const FDefinitionCustom* given = mDefinition.ptr();
     if (given && given != given->getPrototype()) {

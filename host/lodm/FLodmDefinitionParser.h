@@ -15,21 +15,20 @@ class QIODevice;
 
 /**
  * Reads and writes definitions as exchange files (docs/formats/lodm.md): XML with the entry definitions, then a marker,
- * then the object area, script text of which only the plug-in's own parser knows what to do with it.
+ * then the object area, script text that only the plug-in's own parser understands.
  *
- * A parser lives for one file.
+ * One parser reads or writes one file.
  */
 class MERIX_EXPORT FLodmDefinitionParser {
  public:
-    /** The marker. No well-formed XML holds it outside of a comment, so that no text of an entry is taken for it. */
+    /** The marker. Well-formed XML contains it only in comments, so no text of an entry is mistaken for it. */
     static const QString smObjectArea;
     /** Bytes of the longest file that is read. */
     static constexpr qint64 longestFile = qint64{512} << 20U;
 
     /**
-     * @param definition  what to read into: a definition, whose entries are replaced, while documentation that it has
-     *                    stays; or the prototype of a class of definitions, of which one is made. May be empty for
-     *                    writing.
+     * @param definition  a definition to read into: its entries are replaced, its documentation stays; or the prototype
+     *                    of the class of which to create a definition. May be empty for writing.
      */
     explicit FLodmDefinitionParser(const FExpr<FDefinitionCustom>& definition = {}) : mDefinition(definition) {}
     virtual ~FLodmDefinitionParser() = default;
@@ -37,27 +36,27 @@ class MERIX_EXPORT FLodmDefinitionParser {
     FLodmDefinitionParser& operator=(const FLodmDefinitionParser&) = default;
 
     /**
-     * Reads a definition, in one step of the history. False, with a message that tells the place, if the XML half is
-     * wrong in any way: then no definition is made, none is changed, and `getDefinition` is empty. Errors of the object
-     * area, and default values that name what isn't there, are reported and passed over.
+     * Reads a definition, in one step of the history. If the XML half has any error, returns false with a message that
+     * gives the place; then no definition is created or changed, and `getDefinition` is empty. Errors in the object
+     * area, and default values with unknown names, are reported and skipped.
      *
-     * Nothing of a file is run, and no other file is read for it. Time linear in its length, but for names of objects.
+     * Runs nothing, and reads no other file. Takes time linear in the length, except for names of objects.
      */
     bool read(QIODevice* device);
     bool read(const QString& text);
-    /** Writes the XML half to an open device; false if that didn't take all. */
+    /** Writes the XML half to an open device; false if not everything could be written. */
     bool write(QIODevice* device, const FDefinitionCustom* definition);
 
-    /** What was read; before that, what to read into. */
+    /** The definition that was read; before reading, the one to read into. */
     const FExpr<FDefinitionCustom>& getDefinition() const { return mDefinition; }
 
  protected:
-    /** Makes the objects of the object area, and leaves in `mNames` what names mean in it. */
+    /** Creates the objects of the object area, and sets `mNames` to the meaning of the names in it. */
     virtual void importObjectsFromString(const QString& text) { Q_UNUSED(text) }
 
-    /** Takes the XML apart. Faults are raised on the reader. */
+    /** Parses the XML. Errors are raised on the reader. */
     void readStructure(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
-    /** The entry definitions of what was taken apart, which stand nowhere yet. */
+    /** Makes entry definitions, not yet part of a definition, from the parsed XML. */
     QList<FExpr<FEntryBase>> buildNodes(const std::vector<FLodmEntry>& nodes) { return mBuilder.build(nodes); }
     /** See FLodmXmlReader::attribute and checkAttributes. */
     static QString getAttr(const FLodmXmlReader& xml, const char* name, const QString& byDefault = QString()) {
@@ -68,9 +67,9 @@ class MERIX_EXPORT FLodmDefinitionParser {
     void error(const FPlace& place, const QString& message);
 
     FExpr<FDefinitionCustom> mDefinition;
-    QString mSource;           //!< the name that messages give the file
+    QString mSource;           //!< name of the file in messages
     QString mName;             //!< the definition's name in the file
-    FScriptNames mNames;       //!< what names in default values mean
+    FScriptNames mNames;       //!< meaning of the names in default values
     int mObjectAreaLines = 0;  //!< lines of the file before the object area
 
  private:

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/** An entry definition as the XML half of an exchange file tells it. */
+/** An entry definition as described in the XML half of an exchange file. */
 struct MERIX_EXPORT FLodmEntry {
     /** How the text of a default value is to be read. */
     enum class Default { None, Number, Text, Truth, Script };
@@ -18,14 +18,14 @@ struct MERIX_EXPORT FLodmEntry {
     bool hidden = false;
     QString description;
     bool isGroup = false;
-    QString type;  //!< class name; may be empty where the default value tells it
+    QString type;  //!< class name; may be empty if the default value determines it
     Default kind = Default::None;
     QString value;
     FPlace valuePlace;
     std::vector<FLodmEntry> children;
 };
 
-/** The words of exchange files; tools of others write them, so that they stay as they are. */
+/** The words of exchange files. Other tools write them, so they must not change. */
 namespace lodm {
 
 constexpr int formatVersion = 1;

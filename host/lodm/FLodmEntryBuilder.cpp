@@ -35,14 +35,14 @@ FExprBase FLodmEntryBuilder::valueOf(const FLodmEntry& entry) {
     }
     QString reason;
     const FExprBase result = evaluate(entry, reason);
-    // What needs no names has been told of when it was built first.
+    // A default without names was already reported in the first build.
     if (!reason.isEmpty() && isLate == mHasNames) {
         warn(entry, reason);
     }
     return result;
 }
 
-// To tell what a missing name is like takes a look at all names there are, which is for the first few.
+// A suggestion for a missing name compares it with all names, so only the first few get one.
 FExprBase FLodmEntryBuilder::evaluate(const FLodmEntry& entry, QString& reason) const {
     constexpr int mostSuggestions = 20;
     const FLodmDefaultValue value(entry);

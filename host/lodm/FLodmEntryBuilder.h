@@ -10,24 +10,24 @@
 class FEntryBase;
 
 /**
- * Makes entry definitions from their descriptions in an exchange file. A default that can't be taken over is reported
+ * Makes entry definitions from their descriptions in an exchange file. A default that can't be evaluated is reported
  * with its place, and the entry has none.
  *
  * Defaults may name objects that come later in the file than the entries. Such an entry has no default until the
- * builder knows the names; then all entries are to be built once more.
+ * builder knows the names; then the caller builds all entries again.
  */
 class MERIX_EXPORT FLodmEntryBuilder {
  public:
-    /** @param source  the name that messages give the file */
+    /** @param source  name of the file in messages */
     explicit FLodmEntryBuilder(const QString& source = QString()) : mSource(source) {}
 
-    /** The entry definitions, which stand nowhere yet. */
+    /** Makes entry definitions, not yet part of a definition. */
     QList<FExpr<FEntryBase>> build(const std::vector<FLodmEntry>& nodes);
-    /** Whether a default of what was built waits for names. */
+    /** Whether a default of the built entries waits for names. */
     bool isWaiting() const { return mIsWaiting; }
-    /** The objects of the file are there; names in defaults mean these, or else those of the model. */
+    /** Sets the objects of the file. Names in defaults mean these, or else objects of the model. */
     void setNames(const FScriptNames& names);
-    /** Tells how many defaults there were beyond those that were reported one by one. */
+    /** Reports the number of faulty defaults beyond those that were reported one by one. */
     void reportRest() const;
 
  private:

@@ -24,7 +24,7 @@ FLodmEntry::Default kindOfWord(const QString& text) {
                : static_cast<FLodmEntry::Default>(std::distance(std::begin(lodm::kindWords), found) + 1);
 }
 
-/** A name that two of the entries have; empty if there is none. */
+/** A name that two of the entries have, or an empty text. */
 QString doubleName(const Nodes& nodes) {
     QSet<QString> names;
     for (const FLodmEntry& node : nodes) {

@@ -4,15 +4,14 @@
 
 class FLodmXmlReader;
 
-/** Reads entry definitions of the XML half of an exchange file into plain descriptions. Faults are raised on the XML.
- */
+/** Reads entry definitions from the XML half of an exchange file into descriptions. Errors are raised on the reader. */
 class FLodmEntryReader {
  public:
     explicit FLodmEntryReader(FLodmXmlReader& xml) : mXml(xml) {}
 
-    /** Adds the element at hand, with all in it, to the entries. */
+    /** Adds the present element and its children to the entries. */
     void read(std::vector<FLodmEntry>& entries) { readEntry(entries, 1); }
-    /** Raises a fault if two of the entries in the element at hand have one name. */
+    /** Raises an error if two of the entries in the present element have the same name. */
     void checkNames(const std::vector<FLodmEntry>& entries);
 
  private:

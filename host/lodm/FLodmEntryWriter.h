@@ -12,7 +12,7 @@ class FLodmEntryWriter {
     /** Writes to an open device. */
     explicit FLodmEntryWriter(QIODevice* device) : mXml(device) {}
 
-    /** False if the device didn't take all. */
+    /** False if not everything could be written. */
     bool write(const FDefinition& definition);
 
  private:

@@ -9,8 +9,8 @@
 class FDefinition;
 
 /**
- * Warns of objects that defaults of entries name and that an exchange file doesn't hold: it can be read only where such
- * objects are.
- * @param saved  what it holds beside the definition
+ * Warns if defaults of entries name objects that an exchange file doesn't contain: such a default can be read only
+ * where objects of these names exist.
+ * @param saved  the objects in the file besides the definition
  */
 MERIX_EXPORT void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved);

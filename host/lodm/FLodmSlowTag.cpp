@@ -8,7 +8,7 @@ namespace {
 constexpr int mostAttributes = 100;
 
 struct Bracket {
-    QString begin;
+    QString start;
     QString end;
 };
 
@@ -16,30 +16,30 @@ bool startsAt(const QString& xml, int place, const QString& text) {
     return xml.midRef(place, text.size()) == text;
 }
 
-/** What begins there and is no tag; null for a tag. */
+/** The comment, CDATA section or instruction that starts at that place; null for a tag. */
 const Bracket* bracketAt(const QString& xml, int place) {
     static const Bracket brackets[] = {{QStringLiteral("<!--"), QStringLiteral("-->")},
                                        {QStringLiteral("<![CDATA["), QStringLiteral("]]>")},
                                        {QStringLiteral("<?"), QStringLiteral("?>")}};
     const auto found = std::find_if(std::begin(brackets), std::end(brackets),
-                                    [&](const Bracket& bracket) { return startsAt(xml, place, bracket.begin); });
+                                    [&](const Bracket& bracket) { return startsAt(xml, place, bracket.start); });
     return found == std::end(brackets) ? nullptr : found;
 }
 
-/** Behind the next `end` from there on, or the end of the text. */
-int behind(const QString& xml, const QString& end, int from) {
+/** The place after the next `end`, or the end of the text. */
+int placeAfter(const QString& xml, const QString& end, int from) {
     const int found = xml.indexOf(end, from);
     return found < 0 ? xml.size() : found + end.size();
 }
 
-/** Goes to the end of a tag and counts the attributes. */
+/** Counts the attributes of a tag, and moves to its end. */
 int countAttributes(const QString& xml, int& place) {
     int count = 0;
     while (place < xml.size() && xml[place] != QLatin1Char('>')) {
         const QChar c = xml[place];
         count += c == QLatin1Char('=') ? 1 : 0;
         const bool isQuote = c == QLatin1Char('"') || c == QLatin1Char('\'');
-        place = isQuote ? behind(xml, c, place + 1) : place + 1;
+        place = isQuote ? placeAfter(xml, c, place + 1) : place + 1;
     }
     return count;
 }
@@ -51,7 +51,7 @@ std::optional<FLodmSlowTag> FLodmSlowTag::find(const QString& xml) {
     while (place >= 0) {
         const int tag = place;
         if (const Bracket* bracket = bracketAt(xml, place)) {
-            place = behind(xml, bracket->end, place + bracket->begin.size());
+            place = placeAfter(xml, bracket->end, place + bracket->start.size());
         } else if (startsAt(xml, place, QStringLiteral("<!"))) {
             return FLodmSlowTag{tag, QStringLiteral("a document type declaration isn't allowed; remove it")};
         } else if (countAttributes(xml, place) > mostAttributes) {

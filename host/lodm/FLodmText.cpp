@@ -6,7 +6,7 @@ namespace {
 
 constexpr int escapeLength = 6;
 
-/** The unit of an escape at the place; -1 if there is none. */
+/** The UTF-16 unit of the escape at that place, or -1. */
 int escapedUnit(const QString& text, int place) {
     static const QRegularExpression escape(QStringLiteral("\\\\u([0-9A-Fa-f]{4})"));
     if (text[place] != QLatin1Char('\\')) {
@@ -23,7 +23,7 @@ bool isPartOfPair(const QString& text, int place) {
     return other >= 0 && other < text.size() && (isHigh ? text[other].isLowSurrogate() : text[other].isHighSurrogate());
 }
 
-bool canStand(const QString& text, int place) {
+bool isPlain(const QString& text, int place) {
     const QChar c = text[place];
     if (c.isSurrogate()) {
         return isPartOfPair(text, place);
@@ -38,7 +38,7 @@ QString FLodmText::toXml(const QString& text) {
     QString xml;
     xml.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
-        if (canStand(text, i)) {
+        if (isPlain(text, i)) {
             xml += text[i];
         } else {
             xml += QStringLiteral("\\u%1").arg(text[i].unicode(), 4, 16, QLatin1Char('0'));

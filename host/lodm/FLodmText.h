@@ -5,9 +5,9 @@
 #include <QString>
 
 /**
- * Texts in XML. XML 1.0 can't hold most control characters, and line ends don't all survive it; such a character is
- * written as `\uXXXX`, its UTF-16 unit in four hexadecimal digits. A backslash that isn't the begin of one stands for
- * itself, so that paths can be written as they are.
+ * Texts in XML. XML 1.0 can't contain most control characters and doesn't preserve all line ends. Such a character is
+ * written as `\uXXXX`, its UTF-16 unit in four hexadecimal digits. Any other backslash means itself, so paths are
+ * written unchanged.
  */
 class MERIX_EXPORT FLodmText {
  public:

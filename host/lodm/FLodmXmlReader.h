@@ -6,30 +6,30 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
-/** Reads the XML half of an exchange file element by element. The first fault ends it. */
+/** Reads the XML half of an exchange file element by element, up to the first error. */
 class MERIX_EXPORT FLodmXmlReader : public QXmlStreamReader {
  public:
     explicit FLodmXmlReader(const QString& text) : QXmlStreamReader(text) {}
 
-    /** Ends the reading, unless a fault has already. */
+    /** Raises an error, which ends the reading. Later errors are ignored. */
     void raise(const QString& message);
-    /** Goes to the root; false if there is none. */
+    /** Moves to the root; false if there is none. */
     bool nextRoot();
-    /** Goes to the next element inside the one at hand; false at its end, and if there is text in it. */
+    /** Moves to the next child of the present element; false at its end, and, with an error, if it contains text. */
     bool nextChild();
-    /** The text of the element at hand, which can't have others inside, with its escapes resolved. */
+    /** The text of the present element, which must not have children, with its escapes resolved. */
     QString plainText();
 
-    /** The text of an attribute of the element at hand, with its escapes resolved. */
+    /** The text of an attribute of the present element, with its escapes resolved. */
     QString attribute(const char* attributeName, const QString& byDefault = QString()) const;
-    /** The same as a number; raises a fault if it is none. */
+    /** The same as a number; raises an error if it isn't a whole number. */
     int wholeAttribute(const char* attributeName, const QString& byDefault = QString());
-    /** Raises a fault if the element at hand has an attribute other than those. */
+    /** Raises an error if the present element has an attribute that isn't in the list. */
     void checkAttributes(const QStringList& known);
 
     bool isElement(const char* elementName) const;
-    /** The element at hand as messages name it. */
+    /** The name of the present element in messages. */
     QString tag() const;
-    /** Where the reader is: in general just behind the element at hand. */
+    /** The place of the reader, usually just after the tag of the present element. */
     FPlace place() const;
 };

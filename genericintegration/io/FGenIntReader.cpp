@@ -8,8 +8,8 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FString.h"
 #include "host/lodm/FLodmConfigurationParser.h"
-#include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/run/FSafePath.h"
 #include "host/run/FTableData.h"
 
 #include <QFile>
@@ -145,7 +145,7 @@ bool FGenIntReader::readText(const FGenIntResultsFile& file, const QString& dire
         text = FResultText::fromString(file.getPlainContent());
     } else {
         auto device = std::make_unique<QFile>(directory + QLatin1Char('/') + file.getFileName());
-        const bool leadsOut = FPathManager::leadsOut(file.getFileName());
+        const bool leadsOut = FSafePath::leadsOut(file.getFileName());
         if (leadsOut) {
             FLogMsg::info(getClass(),
                           QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
@@ -167,7 +167,7 @@ bool FGenIntReader::readText(const FGenIntResultsFile& file, const QString& dire
 }
 
 bool FGenIntReader::import(const FGenIntResultsFileValue& value, const QString& directory, const QString& found) {
-    if (FPathManager::leadsOut(found)) {
+    if (FSafePath::leadsOut(found)) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(found),
                       QStringLiteral("not imported"));
         mImportedObjects.clear();

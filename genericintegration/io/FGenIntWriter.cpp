@@ -11,7 +11,7 @@
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntry.h"
-#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,7 +34,7 @@ int lastSeparator(const QString& path) {
 }
 
 bool openForWriting(QFile& file, const QString& name) {
-    if (FPathManager::leadsOut(file.fileName().chopped(name.size()), name)) {
+    if (FSafePath::leadsOut(file.fileName().chopped(name.size()), name)) {
         FLogMsg::info(source(), QStringLiteral("\"%1\" leads out of the run directory").arg(name),
                       QStringLiteral("give the template a file name below it"));
         return false;
@@ -42,11 +42,11 @@ bool openForWriting(QFile& file, const QString& name) {
     const QString path = file.fileName();
     const int separator = lastSeparator(path);
     // Most folders are there, which an open file shows sooner than a look for the folder.
-    if (separator >= 0 && path[separator] == u'/' && FPathManager::openForWriting(file)) {
+    if (separator >= 0 && path[separator] == u'/' && FSafePath::openForWriting(file)) {
         return true;
     }
     QDir().mkpath(path.left(separator));
-    return FPathManager::openForWriting(file);
+    return FSafePath::openForWriting(file);
 }
 
 /** Files that values name reach the disk now. */

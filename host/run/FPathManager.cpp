@@ -7,11 +7,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <sys/stat.h>
 
 #include <utility>
 
@@ -78,51 +75,6 @@ QString FPathManager::getEarlierDir(const QString& computation, const FExpr<FDes
 QString FPathManager::getSamplesDir() const {
     const QDir shared(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/merix/examples"));
     return shared.exists() ? shared.canonicalPath() : QDir::homePath();
-}
-
-bool FPathManager::leadsOut(const QString& fileName) {
-    if (!fileName.contains(QLatin1String(".."))) {
-        return false;
-    }
-    QString name = fileName;
-    name.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    // The joined path starts with the folder's own slash, so a name with one at its begin stays inside.
-    const QString cleaned = QDir::cleanPath(QStringLiteral("./") + name);
-    return cleaned == QLatin1String("..") || cleaned.startsWith(QLatin1String("../"));
-}
-
-bool FPathManager::leadsOut(const QString& folder, const QString& fileName) {
-    const bool isInFolders = fileName.contains(QLatin1Char('/')) || fileName.contains(QLatin1Char('\\'));
-    if (leadsOut(fileName)) {
-        return true;
-    }
-    if (!isInFolders) {
-        return false;
-    }
-    const QString base = QDir::cleanPath(folder);
-    QString path = QFileInfo(base + QLatin1Char('/') + fileName).path();
-    // Folders that aren't there yet are made below the last one that is.
-    while (path.size() > base.size() && !QFileInfo::exists(path)) {
-        path = QFileInfo(path).path();
-    }
-    const QString root = QFileInfo(base).canonicalFilePath();
-    const QString real = QFileInfo(path).canonicalFilePath();
-    return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
-}
-
-// Asked of the system, which tells all of it in one call.
-bool FPathManager::removeLink(const QString& path) {
-    struct stat status {};
-    const bool isThere = ::lstat(QFile::encodeName(path).constData(), &status) == 0;
-    const bool isOwn = S_ISDIR(status.st_mode) || (S_ISREG(status.st_mode) && status.st_nlink == 1);
-    return !isThere || isOwn || QFile::remove(path);
-}
-
-// Mostly the file is new. If not, it is emptied, not replaced: who may read or run it stays as it is.
-bool FPathManager::openForWriting(QFile& file) {
-    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    return file.open(mode | QIODevice::NewOnly) ||
-           (removeLink(file.fileName()) && file.open(mode | QIODevice::Truncate));
 }
 
 FRunScope::FRunScope(const QString& folder) : mBefore(std::exchange(FPathManager::instance()->mRunFolder, folder)) {}

@@ -7,7 +7,6 @@
 
 class FDesign;
 class FExternComputation;
-class QFile;
 
 /**
  * The folders of the program. Runs have theirs at <results root>/<design>/<computation>; what a run reads and writes
@@ -35,21 +34,6 @@ class MERIX_EXPORT FPathManager {
     const QString& getRunFolder() const { return mRunFolder; }
     /** Folder of the samples that come with the program; the user's own if there is none. */
     QString getSamplesDir() const;
-
-    /** True for a file name that, put behind a folder, leads out of it. A backslash counts as a slash. */
-    static bool leadsOut(const QString& fileName);
-    /** The same, also through links in the folder. A link in the place of the file itself leads nowhere yet. */
-    static bool leadsOut(const QString& folder, const QString& fileName);
-    /**
-     * Removes what is there unless it is a folder or an ordinary file of that one name: to write to a link, or to a
-     * file that has other names, would change what lies elsewhere. False if it can't be removed.
-     */
-    static bool removeLink(const QString& path);
-    /**
-     * Opens a file for writing from its begin, without a buffer, in a folder that is there, after `removeLink`. False
-     * if that can't be.
-     */
-    static bool openForWriting(QFile& file);
 
  private:
     friend class FRunScope;

@@ -1,6 +1,6 @@
 #include "host/run/FProgramSettings.h"
 
-#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,7 +19,7 @@ QString FProgramSettings::fault() const {
     if (executable.isEmpty()) {
         return QStringLiteral("No program is given. Name it with setExecutable.");
     }
-    if (FPathManager::leadsOut(standardInput)) {
+    if (FSafePath::leadsOut(standardInput)) {
         return QStringLiteral(
                    "The file of the standard input, '%1', lies outside the folder of the run. Give one that is "
                    "written there.")

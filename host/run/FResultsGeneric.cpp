@@ -3,7 +3,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
-#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
@@ -107,7 +107,7 @@ QString FResultsGeneric::getResultFileName(const QString& entry) const {
             name = entry;
         }
     }
-    return name.isEmpty() || FPathManager::leadsOut(name) ? QString() : getResultPath() + name;
+    return name.isEmpty() || FSafePath::leadsOut(name) ? QString() : getResultPath() + name;
 }
 
 const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {

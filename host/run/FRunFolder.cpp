@@ -1,6 +1,6 @@
 #include "host/run/FRunFolder.h"
 
-#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -56,7 +56,7 @@ QStringList FRunFolder::readNotes() const {
 // A link in the place of a folder of ours would have us empty somebody else's.
 void FRunFolder::emptyEarlier() const {
     const QString earlier = QDir::cleanPath(mEarlier);
-    if (FPathManager::removeLink(QFileInfo(earlier).path()) && FPathManager::removeLink(earlier)) {
+    if (FSafePath::removeLink(QFileInfo(earlier).path()) && FSafePath::removeLink(earlier)) {
         QDir(earlier).removeRecursively();
     }
 }
@@ -71,7 +71,7 @@ bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
         return false;
     }
     const auto out = std::find_if(named.begin(), named.end(), [this](const QString& name) {
-        return !FPathManager::leadsOut(name) && FPathManager::leadsOut(mFolder, name);
+        return !FSafePath::leadsOut(name) && FSafePath::leadsOut(mFolder, name);
     });
     if (out == named.end()) {
         return true;
@@ -95,7 +95,7 @@ bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
     QStringList folders;
     for (const QString& name : named + readNotes()) {
         const QFileInfo entry(mFolder + name);
-        if (name.isEmpty() || FPathManager::leadsOut(mFolder, name) || !isThere(entry)) {
+        if (name.isEmpty() || FSafePath::leadsOut(mFolder, name) || !isThere(entry)) {
             continue;
         }
         if (isFolder(entry)) {
@@ -144,7 +144,7 @@ void FRunFolder::noteLeft() const {
     }
     // Not through QSaveFile, which waits for the disk: that takes longer than many a run, and half a list harms nobody.
     QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
-    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && FPathManager::openForWriting(notes)) {
+    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && FSafePath::openForWriting(notes)) {
         notes.write(names.join(separator));
     }
 }

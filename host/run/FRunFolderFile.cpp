@@ -3,7 +3,7 @@
 #include "host/core/FFile.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSavedFile.h"
-#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,7 +32,7 @@ QString FRunFolderFile::prepare() const {
     if (mName.isEmpty()) {
         return QStringLiteral("it names no file");
     }
-    if (FPathManager::leadsOut(mFolder, mName)) {
+    if (FSafePath::leadsOut(mFolder, mName)) {
         return QStringLiteral("\"%1\" would lie outside the folder of the run").arg(mName);
     }
     const QString folder = QFileInfo(mPath).path();
@@ -40,7 +40,7 @@ QString FRunFolderFile::prepare() const {
 }
 
 QString FRunFolderFile::makeRoom() const {
-    return FPathManager::removeLink(mPath) ? QString() : QStringLiteral("what is there can't be removed");
+    return FSafePath::removeLink(mPath) ? QString() : QStringLiteral("what is there can't be removed");
 }
 
 QString FRunFolderFile::copyFrom(const QString& source) const {

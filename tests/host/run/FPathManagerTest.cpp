@@ -4,13 +4,10 @@
 #include "host/design/FDesign.h"
 #include "host/run/FExternComputation.h"
 #include "tests/support/FModelTest.h"
-#include "tests/support/FTestFolder.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <unistd.h>
 
 namespace {
 
@@ -51,26 +48,4 @@ TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
     EXPECT_TRUE(QFileInfo(QFileInfo(folder).path()).isDir()) << folder.toStdString();
     EXPECT_EQ(mPaths->getDesignDir({}), folder);
     EXPECT_LE(log().size(), 1) << "told once";
-}
-
-TEST_F(FPathManagerTest, removesWhatLiesElsewhereAsWell) {
-    const FTestFolder folder;
-    folder.write("mine", "mine");
-    ASSERT_TRUE(QFile::link(folder.path("mine"), folder.path("soft")));
-    ASSERT_EQ(::link(qPrintable(folder.path("mine")), qPrintable(folder.path("hard"))), 0);
-    folder.write("own", "own");
-    for (const char* name : {"soft", "hard", "own", "missing"}) {
-        EXPECT_TRUE(FPathManager::removeLink(folder.path(name))) << name;
-    }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), (QStringList{"mine", "own"}));
-    EXPECT_EQ(folder.read("mine"), "mine");
-}
-
-TEST_F(FPathManagerTest, knowsNamesThatLeadOutOfAFolder) {
-    for (const char* name : {"..", "../a", "a/../../b", "..\\a", "a\\..\\..\\b", "./../a"}) {
-        EXPECT_TRUE(FPathManager::leadsOut(name)) << name;
-    }
-    for (const char* name : {"", "a", "a/b", "a/../b", "..a", "/a", "...", "a/.."}) {
-        EXPECT_FALSE(FPathManager::leadsOut(name)) << name;
-    }
 }

@@ -1,0 +1,52 @@
+#include "host/run/FSafePath.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+bool FSafePath::leadsOut(const QString& fileName) {
+    if (!fileName.contains(QLatin1String(".."))) {
+        return false;
+    }
+    QString name = fileName;
+    name.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    // The joined path contains the folder's own slash, so a name that starts with one stays inside.
+    const QString cleaned = QDir::cleanPath(QStringLiteral("./") + name);
+    return cleaned == QLatin1String("..") || cleaned.startsWith(QLatin1String("../"));
+}
+
+bool FSafePath::leadsOut(const QString& folder, const QString& fileName) {
+    const bool isInFolders = fileName.contains(QLatin1Char('/')) || fileName.contains(QLatin1Char('\\'));
+    if (leadsOut(fileName)) {
+        return true;
+    }
+    if (!isInFolders) {
+        return false;
+    }
+    const QString base = QDir::cleanPath(folder);
+    QString path = QFileInfo(base + QLatin1Char('/') + fileName).path();
+    // Folders that don't exist yet will be made below the last one that does.
+    while (path.size() > base.size() && !QFileInfo::exists(path)) {
+        path = QFileInfo(path).path();
+    }
+    const QString root = QFileInfo(base).canonicalFilePath();
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
+}
+
+// One call of the system gives type and number of names.
+bool FSafePath::removeLink(const QString& path) {
+    struct stat status {};
+    const bool isThere = ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+    const bool isOwn = S_ISDIR(status.st_mode) || (S_ISREG(status.st_mode) && status.st_nlink == 1);
+    return !isThere || isOwn || QFile::remove(path);
+}
+
+// In most cases the file is new. An existing file is emptied, not replaced, so that it keeps its permissions.
+bool FSafePath::openForWriting(QFile& file) {
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    return file.open(mode | QIODevice::NewOnly) ||
+           (removeLink(file.fileName()) && file.open(mode | QIODevice::Truncate));
+}

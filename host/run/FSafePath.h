@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QString>
+
+class QFile;
+
+/** Keeps what is written into a folder from changing files elsewhere. */
+class MERIX_EXPORT FSafePath {
+ public:
+    /** Whether a file name, appended to a folder, leads out of it. A backslash counts as a slash. */
+    static bool leadsOut(const QString& fileName);
+    /** The same, also through links among the folders of the name. The last part of the name isn't followed. */
+    static bool leadsOut(const QString& folder, const QString& fileName);
+    /**
+     * Removes what has that path, unless it is a folder or an ordinary file without other names: writing to a link, or
+     * to a file with other names, would change a file elsewhere. False if it can't be removed.
+     */
+    static bool removeLink(const QString& path);
+    /**
+     * Opens a file in an existing folder for writing, empty and unbuffered, after `removeLink`. False if that fails.
+     */
+    static bool openForWriting(QFile& file);
+};

@@ -113,6 +113,8 @@ void FManaged::renamed() {
     if (mInModel && mKnownName != mName) {
         const QString oldName = std::exchange(mKnownName, mName);
         FObjectManager::instance()->rename(this, oldName, mName);
+        // A value may depend on the name, such as the folder of a run.
+        setOutOfDate(true);
         emit FChanges::instance()->objectRenamed(this, oldName);
     }
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-/** The program: reads the command line and carries out one subcommand. */
+/** The program: reads the command line, loads the plug-ins and runs the chosen subcommand. */
 class FApplication {
  public:
-    /** The exit code: see FExitCode. */
+    /** Returns the exit code, see FExitCode. */
     int run(int argc, char** argv);
 };

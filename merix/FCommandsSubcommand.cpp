@@ -4,14 +4,11 @@
 #include "host/script/FCmdReference.h"
 #include "merix/FExitCode.h"
 
-#include <CLI/CLI.hpp>
-
 #include <iostream>
 
-FCommandsSubcommand::FCommandsSubcommand(CLI::App& app) {
-    CLI::App* command = app.add_subcommand("commands", "Prints the reference of all script commands.");
-    command->add_option("CLASS", mClass, "Only the commands on objects of this class; \"global\" for functions");
-    command->add_flag("--json", mJson, "As JSON");
+std::vector<FSubcommand::Argument> FCommandsSubcommand::arguments() {
+    return {{"CLASS", "Only the commands on objects of this class; \"global\" for functions", &mClass},
+            {"--json", "As JSON", &mJson}};
 }
 
 int FCommandsSubcommand::run() const {

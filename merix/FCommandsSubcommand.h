@@ -1,17 +1,14 @@
 #pragma once
 
-#include <string>
+#include "merix/FSubcommand.h"
 
-namespace CLI {
-class App;
-}
-
-/** `merix commands [CLASS] [--json]`: the reference of all commands. */
-class FCommandsSubcommand {
+/** `merix commands [CLASS] [--json]`: prints the reference of all commands. */
+class FCommandsSubcommand : public FSubcommand {
  public:
-    explicit FCommandsSubcommand(CLI::App& app);
-
-    int run() const;
+    const char* name() const override { return "commands"; }
+    const char* description() const override { return "Prints the reference of all script commands."; }
+    std::vector<Argument> arguments() override;
+    int run() const override;
 
  private:
     std::string mClass;

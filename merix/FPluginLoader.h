@@ -1,12 +1,12 @@
 #pragma once
 
-/** Loads the plug-ins: what they bring is there as soon as they are loaded. */
+/** Loads the plug-ins. Their types and commands are available as soon as they are loaded. */
 class FPluginLoader {
  public:
     /**
-     * Loads every library of the plug-in folders: those that the environment variable MERIX_PLUGIN_PATH names, or
-     * `plugins` beside the program, or `../lib/merix` of an installation. False, with a message, if one can't be
-     * loaded.
+     * Loads every library in the plug-in folders: those listed in the environment variable MERIX_PLUGIN_PATH, or, if
+     * it is empty, `plugins` beside the program and `../lib/merix` of an installation. Returns false, with a message,
+     * if one can't be loaded.
      */
     static bool loadAll();
 };

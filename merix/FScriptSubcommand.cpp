@@ -6,7 +6,6 @@
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
 
-#include <CLI/CLI.hpp>
 #include <QFile>
 
 #include <cstdio>
@@ -24,15 +23,9 @@ FExprBase textList(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-FScriptSubcommand::FScriptSubcommand(CLI::App& app)
-    : mpCommand(app.add_subcommand("script", "Carries out a script; \"-\" reads it from the standard input.")) {
-    mpCommand->add_option("FILE", mFile, "The script")->required();
-    mpCommand->add_option("ARGUMENTS", mArguments, "What the script finds in the list \"arguments\"");
-    mpCommand->positionals_at_end();
-}
-
-bool FScriptSubcommand::isChosen() const {
-    return mpCommand->parsed();
+std::vector<FSubcommand::Argument> FScriptSubcommand::arguments() {
+    return {{"FILE", "The script", &mFile, true},
+            {"ARGUMENTS", "Available to the script as the list \"arguments\"", &mArguments}};
 }
 
 int FScriptSubcommand::run() const {
@@ -52,7 +45,7 @@ int FScriptSubcommand::run() const {
     input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
     const bool done = input.exec();
     const int exitCode = done ? input.getExitCode() : FExitCode::failed;
-    // What a script that ended well didn't save wasn't meant to be.
+    // If the script succeeded, it left unsaved work unsaved on purpose.
     FProject::instance()->close(exitCode != FExitCode::done);
     return exitCode;
 }

@@ -1,22 +1,16 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include "merix/FSubcommand.h"
 
-namespace CLI {
-class App;
-}
-
-/** `merix script FILE [ARGUMENTS]`: carries out a script. */
-class FScriptSubcommand {
+/** `merix script FILE [ARGUMENTS]`: executes a script. */
+class FScriptSubcommand : public FSubcommand {
  public:
-    explicit FScriptSubcommand(CLI::App& app);
-
-    bool isChosen() const;
-    int run() const;
+    const char* name() const override { return "script"; }
+    const char* description() const override { return "Executes a script; \"-\" reads it from the standard input."; }
+    std::vector<Argument> arguments() override;
+    int run() const override;
 
  private:
-    CLI::App* mpCommand;
     std::string mFile;
     std::vector<std::string> mArguments;
 };

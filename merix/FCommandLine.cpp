@@ -1,0 +1,71 @@
+#include "merix/FCommandLine.h"
+
+#include "merix/FExitCode.h"
+#include "merix/FVersion.h"
+
+// The library is slow to compile: no other file includes it.
+#include <CLI/CLI.hpp>
+
+namespace {
+
+/** The error in the command line. CLI11 reports a word that is no subcommand as a missing subcommand. */
+std::string faultOf(const CLI::App* app, const CLI::Error& error) {
+    const bool isChosen = !app->get_subcommands().empty();
+    const std::vector<std::string> unknown = isChosen ? std::vector<std::string>() : app->remaining();
+    return unknown.empty() ? error.what() : "\"" + unknown.front() + "\" is neither a subcommand nor an option";
+}
+
+/** Adds an argument to a command of CLI11, depending on the type of its value. */
+struct Adder {
+    CLI::App* command;
+    const FSubcommand::Argument& argument;
+
+    CLI::Option* operator()(bool* flag) const { return command->add_flag(argument.name, *flag, argument.description); }
+    CLI::Option* operator()(std::string* text) const {
+        return command->add_option(argument.name, *text, argument.description);
+    }
+    CLI::Option* operator()(std::vector<std::string>* words) const {
+        command->positionals_at_end();
+        return command->add_option(argument.name, *words, argument.description);
+    }
+};
+
+CLI::App* add(CLI::App& app, FSubcommand& subcommand) {
+    CLI::App* command = app.add_subcommand(subcommand.name(), subcommand.description());
+    for (const FSubcommand::Argument& argument : subcommand.arguments()) {
+        std::visit(Adder{command, argument}, argument.value)->required(argument.isRequired);
+    }
+    return command;
+}
+
+void describe(CLI::App& app) {
+    app.set_version_flag("--version", std::string("merix ") + FVersion::text);
+    app.require_subcommand(1);
+    app.footer("Exit codes: 0 done, 1 the work failed, 2 the call was wrong, 3 a file can't be read or written.");
+    app.failure_message([](const CLI::App* called, const CLI::Error& error) {
+        return "error: merix: " + faultOf(called, error) +
+               "\nTo execute a script: \"merix script FILE\"; for everything else: \"merix --help\".\n";
+    });
+}
+
+}  // namespace
+
+FCommandLine::Outcome FCommandLine::parse(int argc, char** argv, const Subcommands& subcommands) {
+    CLI::App app{"merix couples simulation programs with parametric designs.", "merix"};
+    describe(app);
+    std::vector<CLI::App*> commands;
+    for (const auto& subcommand : subcommands) {
+        commands.push_back(add(app, *subcommand));
+    }
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return {nullptr, app.exit(error) == 0 ? FExitCode::done : FExitCode::wrongCall};
+    }
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        if (commands[i]->parsed()) {
+            return {subcommands[i].get(), FExitCode::done};
+        }
+    }
+    return {nullptr, FExitCode::wrongCall};
+}

@@ -25,7 +25,8 @@ FExprBase textList(const std::vector<std::string>& texts) {
 
 std::vector<FSubcommand::Argument> FScriptSubcommand::arguments() {
     return {{"FILE", "The script", &mFile, true},
-            {"ARGUMENTS", "Available to the script as the list \"arguments\"", &mArguments}};
+            {"ARGUMENTS", "Available to the script as the list \"arguments\"", &mArguments},
+            {"--strict", "Each warning is an error; must precede FILE", &mStrict}};
 }
 
 int FScriptSubcommand::run() const {
@@ -37,6 +38,7 @@ int FScriptSubcommand::run() const {
                        QStringLiteral("can't read the script \"%1\": %2").arg(path, file.errorString()));
         return FExitCode::fileError;
     }
+    FLogMsg::setStrict(mStrict);
     FPrototypes::buildPending();
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
@@ -47,5 +49,5 @@ int FScriptSubcommand::run() const {
     const int exitCode = done ? input.getExitCode() : FExitCode::failed;
     // If the script succeeded, it left unsaved work unsaved on purpose.
     FProject::instance()->close(exitCode != FExitCode::done);
-    return exitCode;
+    return exitCode == FExitCode::done && FLogMsg::getStrictErrors() > 0 ? FExitCode::failed : exitCode;
 }

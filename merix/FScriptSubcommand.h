@@ -2,7 +2,7 @@
 
 #include "merix/FSubcommand.h"
 
-/** `merix script FILE [ARGUMENTS]`: executes a script. */
+/** `merix script [--strict] FILE [ARGUMENTS]`: executes a script. */
 class FScriptSubcommand : public FSubcommand {
  public:
     const char* name() const override { return "script"; }
@@ -13,4 +13,5 @@ class FScriptSubcommand : public FSubcommand {
  private:
     std::string mFile;
     std::vector<std::string> mArguments;
+    bool mStrict = false;
 };

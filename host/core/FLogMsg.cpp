@@ -16,6 +16,9 @@ FLogMsg::Sink& sink() {
     return current;
 }
 
+bool strictMode = false;
+int strictErrors = 0;
+
 }  // namespace
 
 QString FLogMsg::toLine() const {
@@ -38,11 +41,25 @@ void FLogMsg::info(const QString& source, const QString& message, const QString&
 }
 
 void FLogMsg::warning(const QString& source, const QString& message, const QString& consequence, const QString& place) {
-    FLogMsg{Kind::Warning, source, message, consequence, Stream::StandardError, place}.send();
+    strictErrors += strictMode ? 1 : 0;
+    FLogMsg{strictMode ? Kind::Error : Kind::Warning, source, message, consequence, Stream::StandardError, place}
+        .send();
 }
 
 void FLogMsg::error(const QString& source, const QString& message, const QString& consequence, Stream stream) {
     FLogMsg{Kind::Error, source, message, consequence, stream, {}}.send();
+}
+
+void FLogMsg::setStrict(bool strict) {
+    strictMode = strict;
+}
+
+bool FLogMsg::isStrict() {
+    return strictMode;
+}
+
+int FLogMsg::getStrictErrors() {
+    return strictErrors;
 }
 
 FLogMsg::Sink FLogMsg::setSink(Sink fresh) {

@@ -32,6 +32,15 @@ class MERIX_EXPORT FLogMsg {
     /** Prints the message and reports it on FChanges. */
     void send() const;
 
+    /**
+     * In strict mode each warning is an error, and is counted: whoever executes something and must not accept warnings
+     * compares the count before and after.
+     */
+    static void setStrict(bool strict);
+    static bool isStrict();
+    /** The warnings that strict mode has turned into errors since the program started. */
+    static int getStrictErrors();
+
     using Sink = std::function<void(const FLogMsg&)>;
     /** Where messages are printed; the standard error as long as nothing is set. Returns the sink before. */
     static Sink setSink(Sink sink);

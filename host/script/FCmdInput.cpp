@@ -3,8 +3,8 @@
 #include "host/core/FChanges.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FUserStep.h"
 #include "host/script/FDeclarer.h"
+#include "host/script/FScriptStep.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,11 +31,6 @@ const char* blockWord(const FSyntaxStatement& statement) {
                                                                      : nullptr;
 }
 
-bool takeBack(FUserStep& step) {
-    step.rollback();
-    return false;
-}
-
 }  // namespace
 
 FCmdInput* FCmdInput::current() {
@@ -49,7 +44,8 @@ void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
 
 bool FCmdInput::exec() {
     const Activation activation(this);
-    return run(mText, mFile) && mErrors == 0;
+    const int strictBefore = FLogMsg::getStrictErrors();
+    return run(mText, mFile) && mErrors == 0 && FLogMsg::getStrictErrors() == strictBefore;
 }
 
 bool FCmdInput::run(const QString& text, const QString& file) {
@@ -133,9 +129,8 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!word) {
         return std::visit([this](const auto& content) { return run(content); }, statement.content);
     }
-    FUserStep step(QString::fromLatin1(word));
-    const bool done = std::visit([this](const auto& content) { return run(content); }, statement.content);
-    return done || takeBack(step);
+    FScriptStep step(QString::fromLatin1(word));
+    return step.end(std::visit([this](const auto& content) { return run(content); }, statement.content));
 }
 
 std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
@@ -146,34 +141,35 @@ std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
         return {};
     }
     const int errorsBefore = mErrors;
+    const int strictBefore = FLogMsg::getStrictErrors();
     FExprBase value = bound.isCmd() ? FExprBase(bound.getObject()) : bound;
     // An included script may have failed.
-    return mErrors == errorsBefore ? std::optional<FExprBase>(value) : std::nullopt;
+    const bool isClean = mErrors == errorsBefore && FLogMsg::getStrictErrors() == strictBefore;
+    return isClean ? std::optional<FExprBase>(value) : std::nullopt;
 }
 
 bool FCmdInput::run(const FSyntaxExpr& expression) {
     const FSyntaxExpr* call = topCall(expression);
-    FUserStep step(call ? call->name : QString());
-    return evaluate(expression).has_value() || takeBack(step);
+    FScriptStep step(call ? call->name : QString());
+    return step.end(evaluate(expression).has_value());
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {
     using Outcome = FDeclarer::Outcome;
-    FUserStep step(declaration.creator.name);
+    FScriptStep step(declaration.creator.name);
     FDeclarer declarer(mNames, mFile, FBinder::Use::Once);
     FExprBase object;
     Outcome outcome = declarer.create(declaration, object);
     if (outcome == Outcome::Null) {
-        return true;
+        return step.end(true);
     }
     for (std::size_t i = 0; i < declaration.block.size() && outcome != Outcome::Failed; ++i) {
         outcome = declarer.command(object, declaration.block[i]);
     }
     if (outcome == Outcome::Failed) {
         report(declarer.getError().place, declarer.getError().message);
-        return takeBack(step);
     }
-    return true;
+    return step.end(outcome != Outcome::Failed);
 }
 
 bool FCmdInput::canBeVariable(const QString& name, const FPlace& place) {
@@ -186,20 +182,20 @@ bool FCmdInput::run(const FSyntaxAssignment& assignment) {
         return false;
     }
     const FSyntaxExpr* call = topCall(assignment.value);
-    FUserStep step(call ? call->name : assignment.variable);
+    FScriptStep step(call ? call->name : assignment.variable);
     const std::optional<FExprBase> value = evaluate(assignment.value);
-    if (!value) {
-        return takeBack(step);
+    if (!step.end(value.has_value())) {
+        return false;
     }
     mNames.setVariable(assignment.variable, value->isEmpty() ? FExprBase(FNull::null()) : *value);
     return true;
 }
 
 std::optional<bool> FCmdInput::evaluateCondition(const FSyntaxExpr& expression) {
-    FUserStep step(QStringLiteral("condition"));
+    FScriptStep step(QStringLiteral("condition"));
     const std::optional<FExprBase> value = evaluate(expression);
     if (!value) {
-        step.rollback();
+        step.end(false);
         return {};
     }
     const auto* flag = dynamic_cast<const FBool*>(valueObject(*value));
@@ -207,7 +203,7 @@ std::optional<bool> FCmdInput::evaluateCondition(const FSyntaxExpr& expression) 
         FLogMsg::warning(expression.place.toString(mFile), QStringLiteral("the condition is neither true nor false"),
                          QStringLiteral("taken as false"));
     }
-    return flag && flag->getValue();
+    return step.end(true) ? std::optional<bool>(flag && flag->getValue()) : std::nullopt;
 }
 
 bool FCmdInput::run(const FSyntaxIf& branches) {

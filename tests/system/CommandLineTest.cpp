@@ -4,7 +4,7 @@ namespace {
 
 class CommandLineTest : public FProgramTest {};
 
-TEST_F(CommandLineTest, wrongCallsAreToldWithCode2) {
+TEST_F(CommandLineTest, wrongCallsAreReportedWithCode2) {
     for (const QStringList& arguments :
          {QStringList{}, QStringList{"scrpt"}, QStringList{"--no-such-option"}, QStringList{"commands", "FThng"}}) {
         const Outcome outcome = merix(arguments);
@@ -45,7 +45,37 @@ TEST_F(CommandLineTest, errorsHaveAPlaceAndCode1WarningsCode0) {
     EXPECT_TRUE(warned.errors.startsWith("warning: test.merix:1:7: sqrt: argument 1 (x) must be of type double"));
 }
 
-TEST_F(CommandLineTest, theLoadTraceIsPrintedWhenAskedFor) {
+TEST_F(CommandLineTest, strictEndsAScriptAtTheFirstStatementThatWarns) {
+    write("inner.merix", "print(sqrt(\"x\"))\nprint(\"unreached\")\n");
+    struct Case {
+        const char* statement;
+        const char* output;
+        const char* error;
+    };
+    // Each statement warns.
+    for (const Case& c : {Case{"p.setValue(sqrt(\"x\"))", "", ":2:12: sqrt: argument 1 (x) must be of type double"},
+                          Case{"if (sqrt(\"x\")) {} else { print(\"else\") }", "", ":2:5: sqrt"},
+                          Case{"for (i in [1, 2]) { p.setValue(sqrt(\"x\")); print(i) }", "", ":2:32: sqrt"},
+                          Case{"for (i in 5) {}", "", ":2:11: there is no list"},
+                          Case{"parameter p(2)", "", ":2:11: the name \"p\" is taken"},
+                          Case{"print(sqrt(\"x\"), exit(0))", "NULL NULL\n", ":2:7: sqrt"},
+                          Case{"include(\"inner.merix\")", "NULL\n", "inner.merix:1:7: sqrt"}}) {
+        const QString text = QString("parameter p(1)\n%1\nprint(\"unreached\")\n").arg(c.statement);
+        write("strict.merix", text.toUtf8());
+        const Outcome strict = merix({"script", "--strict", "strict.merix"});
+        EXPECT_EQ(strict.exitCode, 1) << c.statement;
+        EXPECT_EQ(strict.output, c.output) << c.statement;
+        EXPECT_TRUE(strict.errors.startsWith("error: ") && strict.errors.contains(c.error))
+            << strict.errors.toStdString();
+        EXPECT_EQ(strict.errors.count('\n'), 1) << strict.errors.toStdString();
+        EXPECT_EQ(merix({"script", "strict.merix"}).exitCode, 0) << c.statement;
+    }
+    const Outcome good = merix({"script", "--strict", "-", "--strict"}, "print(arguments)\n");
+    EXPECT_EQ(good.exitCode, 0);
+    EXPECT_EQ(good.output, "[--strict]\n") << "after FILE it is an argument of the script";
+}
+
+TEST_F(CommandLineTest, theLoadTraceIsPrintedOnRequest) {
     EXPECT_EQ(script("print(1)").output, "1\n");
     const QString trace = script("print(1)", {}, {"VERBOSE=1"}).output;
     const QStringList order{"init FObject prototype: FEnum<GenIntAnchorOccurrence>\n",

@@ -1,3 +1,4 @@
+#include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "tests/support/FModelTest.h"
 
@@ -34,6 +35,20 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
     for (const auto& [script, told] : warnings) {
         EXPECT_TRUE(run(script)) << script;
         EXPECT_TRUE(log().last().contains(told)) << logText();
+    }
+}
+
+TEST_F(FCmdInputTest, inStrictModeAWarningTakesItsStepBack) {
+    ASSERT_TRUE(run("thing a(1)"));
+    const QString before = savedModel();
+    for (const char* script :
+         {"x = [a.setNumber(2), sqrt(\"x\")]", "if (a.setNumber(2) == a) { a.setNumber(\"x\") }",
+          "for (i in [5,6]) {\n a.setNumber(i)\n if (i) {}\n}", "thing b(2) { .setNumber(\"x\") }"}) {
+        FLogMsg::setStrict(true);
+        EXPECT_FALSE(run(script)) << script;
+        FLogMsg::setStrict(false);
+        EXPECT_TRUE(log().last().startsWith("error: test:")) << logText();
+        EXPECT_TRUE(savedModel() == before) << script << savedModel().toStdString();
     }
 }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/core/FLogMsg.h"
+#include "host/core/FUserStep.h"
+
+/** The step of one statement of a script: taken back if the statement fails, or if strict mode made an error of a
+ * warning. */
+class FScriptStep {
+ public:
+    explicit FScriptStep(const QString& label) : mStep(label) {}
+
+    /** Ends the statement; returns whether it is good. */
+    bool end(bool good) {
+        if (FLogMsg::isStrict()) {
+            // The updates that wait for the end of the step may warn.
+            FImmediateUpdateBlocker::resume(FImmediateUpdateBlocker::suspend());
+        }
+        const bool isKept = good && FLogMsg::getStrictErrors() == mStrictErrors;
+        if (!isKept) {
+            mStep.rollback();
+        }
+        return isKept;
+    }
+
+ private:
+    FUserStep mStep;
+    int mStrictErrors = FLogMsg::getStrictErrors();
+};

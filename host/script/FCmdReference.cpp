@@ -14,7 +14,7 @@ const QString& globalWord() {
     return word;
 }
 
-/** The texts of a command by its documentation keys. */
+/** The texts of a command, found by its documentation keys. */
 struct Texts {
     QString description;
     QString example;
@@ -65,29 +65,60 @@ QString classText(const FObject& prototype) {
            indented(FTypeDocu::get(className, 2), QStringLiteral("    "));
 }
 
-QJsonObject toObject(const FCmdRow& row) {
-    const Texts texts(row);
+void insertFlags(QJsonObject& object, const FCmdRow& row) {
+    object.insert(QStringLiteral("isData"), row.isData);
+    object.insert(QStringLiteral("isQuery"), row.isQuery());
+    object.insert(QStringLiteral("isUnwrapped"), row.isUnwrapped);
+}
+
+void insertPresentation(QJsonObject& object, const FCmdPresentation& look) {
+    const auto number = [](unsigned int value) { return static_cast<qint64>(value); };
+    object.insert(QStringLiteral("attrName"), look.attrName);
+    object.insert(QStringLiteral("category"), look.category);
+    object.insert(QStringLiteral("attrRequiredCmd"), look.attrRequiredCmd);
+    object.insert(QStringLiteral("menuEntry"), look.menuEntry);
+    object.insert(QStringLiteral("menuPlace"), look.menuPlace);
+    object.insert(QStringLiteral("menuIcon"), look.menuIcon);
+    object.insert(QStringLiteral("cmdFlags"), number(look.cmdFlags));
+    object.insert(QStringLiteral("userLevel"), number(look.userLevel));
+    object.insert(QStringLiteral("systemFlag"), number(look.systemFlag));
+    object.insert(QStringLiteral("weight"), look.weight);
+    object.insert(QStringLiteral("attrAsExpr"), look.attrAsExpr);
+    object.insert(QStringLiteral("needsGuiReinit"), look.needsGuiReinit);
+    object.insert(QStringLiteral("readOnly"), look.readOnly);
+    object.insert(QStringLiteral("hidden"), look.hidden);
+    object.insert(QStringLiteral("selectOnExec"), look.selectOnExec);
+}
+
+QJsonArray argumentsOf(const FCmdRow& row, const QStringList& descriptions) {
     QJsonArray arguments;
     for (std::size_t i = 0; i < row.arguments.size(); ++i) {
         const FCmdArgument& argument = row.arguments[i];
         QJsonObject object{{"type", argument.type.script},
                            {"name", bareName(argument)},
-                           {"text", texts.arguments.value(static_cast<int>(i))}};
+                           {"text", descriptions.value(static_cast<int>(i))}};
         if (!argument.byDefault.isEmpty()) {
             object.insert(QStringLiteral("default"), defaultOf(argument));
         }
         arguments.append(object);
     }
-    return {{"command", row.className()},
-            {"class", row.owner ? row.owner->getName() : QString()},
-            {"kind", row.kindWord()},
-            {"name", row.name},
-            {"arguments", arguments},
-            {"returnType", row.hasResult() ? QJsonValue(row.returnType.script) : QJsonValue()},
-            {"hidden", row.presentation.hidden},
-            {"text", texts.description},
-            {"example", texts.example},
-            {"returnText", texts.result}};
+    return arguments;
+}
+
+QJsonObject toObject(const FCmdRow& row) {
+    const Texts texts(row);
+    QJsonObject object{{"command", row.className()},
+                       {"class", row.owner ? row.owner->getName() : QString()},
+                       {"kind", row.kindWord()},
+                       {"name", row.name},
+                       {"arguments", argumentsOf(row, texts.arguments)},
+                       {"returnType", row.hasResult() ? QJsonValue(row.returnType.script) : QJsonValue()},
+                       {"text", texts.description},
+                       {"example", texts.example},
+                       {"returnText", texts.result}};
+    insertFlags(object, row);
+    insertPresentation(object, row.presentation);
+    return object;
 }
 
 }  // namespace

@@ -3,16 +3,19 @@
 #include "host/core/FExport.h"
 #include "host/script/FCmdRow.h"
 
-/** The reference of the commands, made from their tables and documentation texts. */
+/** The reference of the commands, generated from their tables and documentation texts. */
 class MERIX_EXPORT FCmdReference {
  public:
-    /** @param className  only the commands that objects of this class have; "global" for functions; empty for all */
+    /** @param className  only the commands on objects of this class; "global" for functions; empty for all commands */
     explicit FCmdReference(const QString& className = QString());
 
+    /** True if the class is unknown or has no commands. */
     bool isEmpty() const { return mRows.empty(); }
-    /** What to say when the class isn't known, with the nearest known one. */
+    /** The error message for an unknown class, with the nearest known name. */
     QString unknownClass() const;
+    /** For reading: signature, description, arguments, result and example of each command. */
     QString toText() const;
+    /** An array with an object for each command: the same, its flags, and all settings of its presentation. */
     QString toJson() const;
 
  private:

@@ -15,22 +15,24 @@ struct MERIX_EXPORT FCmdArgument {
     FExprBase byDefault;  //!< empty if the argument has to be given
 };
 
-/** How a command shows itself to a user; defaults stand for "nothing said". */
+/** How the user interface presents a command. The defaults apply where the table sets nothing. */
 struct MERIX_EXPORT FCmdPresentation {
-    QString attrName;         //!< label of the attribute
-    QString category;         //!< group of attributes
-    QString attrRequiredCmd;  //!< script text that says when the attribute is required
-    QString menuEntry;
-    int menuPlace = 0;
+    QString attrName;  //!< label of the attribute
+    QString category;  //!< group of attributes
+    /** Script expression for when the attribute is required, with the object named `receiver`; empty for never. */
+    QString attrRequiredCmd;
+    QString menuEntry;  //!< text of its menu entry; empty for none
+    int menuPlace = 0;  //!< order of the menu entries
     QString menuIcon;
     unsigned int cmdFlags = 0;
-    unsigned int userLevel = 0;  //!< level from which the user sees it
-    unsigned int systemFlag = 0;
-    double weight = 0;  //!< place in the order of attributes
-    bool attrAsExpr = true;
-    bool needsGuiReinit = false;
+    unsigned int userLevel = 0;   //!< level from which the user sees it
+    unsigned int systemFlag = 0;  //!< bits that a user interface can filter by
+    double weight = 0;            //!< order of attributes in their category, ascending
+    bool attrAsExpr = true;       //!< edited as an expression
+    bool needsGuiReinit = false;  //!< the editor has to be rebuilt after a change
     bool readOnly = false;
     bool hidden = false;
+    bool selectOnExec = true;  //!< whether the object that a creator made from a menu becomes the selection
 };
 
 /**

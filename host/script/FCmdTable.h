@@ -190,6 +190,7 @@ class MERIX_EXPORT FCmdTable {
     FCmdTable& weight(double weight) { return look().weight = weight, *this; }
     FCmdTable& readOnly(bool readOnly = true) { return look().readOnly = readOnly, *this; }
     FCmdTable& hidden(bool hidden = true) { return look().hidden = hidden, *this; }
+    FCmdTable& selectOnExec(bool select) { return look().selectOnExec = select, *this; }
     FCmdTable& menuEntry(const char* text, int place) {
         look().menuEntry = QString::fromLatin1(text);
         return look().menuPlace = place, *this;

@@ -1,5 +1,9 @@
 #include "tests/system/FProgramTest.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace {
 
 class CommandLineTest : public FProgramTest {};
@@ -73,6 +77,36 @@ TEST_F(CommandLineTest, strictEndsAScriptAtTheFirstStatementThatWarns) {
     const Outcome good = merix({"script", "--strict", "-", "--strict"}, "print(arguments)\n");
     EXPECT_EQ(good.exitCode, 0);
     EXPECT_EQ(good.output, "[--strict]\n") << "after FILE it is an argument of the script";
+}
+
+TEST_F(CommandLineTest, theReferenceAsJsonHasThePresentation) {
+    const QJsonArray commands = QJsonDocument::fromJson(merix({"commands", "--json"}).output.toUtf8()).array();
+    const auto settings = [&](const char* command, const QStringList& keys) {
+        for (const QJsonValue& value : commands) {
+            if (value["command"].toString() == command) {
+                QJsonObject found;
+                for (const QString& key : keys) {
+                    found.insert(key, value[key]);
+                }
+                return QJsonDocument(found).toJson(QJsonDocument::Compact).toStdString();
+            }
+        }
+        return std::string("not found");
+    };
+    EXPECT_EQ(settings("FAttribCmdFGenIntComputationsetConfigurationFConfigurationGenInt",
+                       {"attrName", "category", "attrRequiredCmd", "attrAsExpr", "cmdFlags", "userLevel", "weight",
+                        "needsGuiReinit", "readOnly", "hidden", "isData", "isQuery"}),
+              R"({"attrAsExpr":false,"attrName":"Configuration","attrRequiredCmd":"true","category":)"
+              R"("Execution Settings","cmdFlags":16,"hidden":false,"isData":true,"isQuery":false,)"
+              R"("needsGuiReinit":false,"readOnly":false,"userLevel":1,"weight":5})");
+    EXPECT_EQ(settings("FMemberCmdFGenIntComputationopenSoftwareConnector",
+                       {"menuEntry", "menuPlace", "menuIcon", "systemFlag", "attrAsExpr", "selectOnExec"}),
+              R"({"attrAsExpr":true,"menuEntry":"Open Software Connector","menuIcon":":/softConIcon",)"
+              R"("menuPlace":1,"selectOnExec":true,"systemFlag":1})");
+    EXPECT_EQ(settings("FAttribCmdFConfigurationGenIntsetDefinitionFDefinitionGenInt", {"needsGuiReinit"}),
+              R"({"needsGuiReinit":true})");
+    EXPECT_EQ(settings("FCmdundonullFBoolundo", {"isUnwrapped"}), R"({"isUnwrapped":true})");
+    EXPECT_EQ(settings("FMemberCmdFManagedsetDbIdint", {"hidden"}), R"({"hidden":true})");
 }
 
 TEST_F(CommandLineTest, theLoadTraceIsPrintedOnRequest) {

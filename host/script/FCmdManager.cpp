@@ -137,14 +137,18 @@ std::vector<const FCmdRow*> FCmdManager::findMembers(const FClassData& data, con
     return found;
 }
 
-std::vector<const FObject*> FCmdManager::getAttributesByReceiver(const FObject* receiver) const {
-    std::vector<const FCmdRow*> rows = visibleMembers(receiver->getClassData());
+std::vector<const FCmdRow*> FCmdManager::membersOf(const FClassData& data) const {
+    std::vector<const FCmdRow*> rows = visibleMembers(data);
     // Nearest class first becomes base first; the rows of one class keep their order.
     std::stable_sort(rows.begin(), rows.end(), [](const FCmdRow* a, const FCmdRow* b) {
         return a->owner != b->owner && a->owner->isSuperClassOf(*b->owner);
     });
+    return rows;
+}
+
+std::vector<const FObject*> FCmdManager::getAttributesByReceiver(const FObject* receiver) const {
     std::vector<const FObject*> attributes;
-    for (const FCmdRow* row : rows) {
+    for (const FCmdRow* row : membersOf(receiver->getClassData())) {
         if (row->kind == FCmdRow::Kind::Attribute) {
             attributes.push_back(row->commandClass->mpNull);
         }

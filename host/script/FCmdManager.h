@@ -31,6 +31,8 @@ class MERIX_EXPORT FCmdManager {
     std::vector<const FCmdRow*> findCreators(const QString& name) const { return mCreators.value(name); }
     /** The member commands of that name of all classes. */
     std::vector<const FCmdRow*> findMembersOfAnyClass(const QString& name) const { return mMembers.value(name); }
+    /** All member commands on objects of the class, those of its bases first, without commands hidden for the class. */
+    std::vector<const FCmdRow*> membersOf(const FClassData& data) const;
     /** Prototypes of the attributes of the receiver's class, those of its bases first, without hidden commands. */
     std::vector<const FObject*> getAttributesByReceiver(const FObject* receiver) const;
     /** The creator of objects of exactly that class; null if there is none. */

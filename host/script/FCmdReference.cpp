@@ -14,7 +14,7 @@ const QString& globalWord() {
     return word;
 }
 
-/** The texts of a command, found by its documentation keys. */
+/** The documentation texts of a command. */
 struct Texts {
     QString description;
     QString example;

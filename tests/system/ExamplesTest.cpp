@@ -9,7 +9,7 @@ struct Example {
     const char* program;
     const char* script;
     const char* lastLine;
-    const char* setUp;  //!< the script with the definition
+    const char* setUp;  //!< the script that contains the definition
     const char* definition;
 
     friend void PrintTo(const Example& example, std::ostream* stream) { *stream << example.script; }

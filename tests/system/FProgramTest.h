@@ -12,8 +12,8 @@ inline void PrintTo(const QString& text, std::ostream* stream) {
 }
 
 /**
- * Tests of the program as a program: what it says and returns. All that it writes, temporary folders too, lies below a
- * folder of the test, whose name has blanks, quotes and an umlaut.
+ * Tests that start the program and check its output and exit code. Everything that it writes, including temporary
+ * folders, is in a folder of the test, whose name contains blanks, quotes and an umlaut.
  */
 class FProgramTest : public testing::Test, public FTestFolder {
  protected:
@@ -25,13 +25,13 @@ class FProgramTest : public testing::Test, public FTestFolder {
         QString errors;
     };
 
-    /** Starts merix as the next one does, without waiting. */
+    /** Starts merix as `merix` does, without waiting for it. */
     void start(QProcess& program, const QStringList& arguments, const QStringList& environment = {}) const;
-    /** Runs merix in the test's folder; the environment variables are set besides those of the test. */
+    /** Runs merix in the test's folder, with these environment variables ("NAME=value") in addition to the test's. */
     Outcome merix(const QStringList& arguments, const QString& input = QString(),
                   const QStringList& environment = {}) const;
-    /** Writes the script to the folder and runs it. */
+    /** Writes the script to `test.merix` in the folder and runs it. */
     Outcome script(const QString& text, const QStringList& arguments = {}, const QStringList& environment = {}) const;
-    /** The name of a file in the folder of the runs of "comp", for tests that run it in one merix only. */
+    /** The path of a file that runs of "comp" wrote, relative to the folder, if only one merix has run it. */
     QString runFile(const QString& name) const;
 };

@@ -8,7 +8,7 @@ namespace {
 
 class ProjectTest : public FProgramTest {
  protected:
-    /** The value of a parameter as the project's text has it. */
+    /** The value of a parameter in the project's text. */
     static QString valueIn(const QString& project, const QString& parameter) {
         const QRegularExpression pattern("\nparameter " + parameter + R"(\(\) \{\n[^}]*setValue\((\d+)\);\n\}\n)");
         return pattern.match(project).captured(1);

@@ -43,7 +43,7 @@ TEST_F(RunTest, stateCodeAndNumberTellHowTheProgramEnded) {
         expected += printed + "\n";
     }
     const Outcome outcome = script(text);
-    EXPECT_EQ(outcome.exitCode, 0) << "a run that failed is no fault of the script";
+    EXPECT_EQ(outcome.exitCode, 0) << "a failed run is not an error of the script";
     EXPECT_EQ(outcome.output, expected);
     int position = 0;
     for (const char* told : {"didn't write 'out.dat'", "exit code 3", "last lines of stderr.txt", "no licence",
@@ -90,7 +90,7 @@ print(t.getElementAt("comma"), readText(comp.getWorkingPath() + "stdout.txt"))
     }
     const locale_t german = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr);
     if (!german) {
-        GTEST_SKIP() << "The locale de_DE.UTF-8 isn't installed, so that decimal commas could not be tried.";
+        GTEST_SKIP() << "The locale de_DE.UTF-8 isn't installed, so decimal commas could not be tested.";
     }
     freelocale(german);
 }

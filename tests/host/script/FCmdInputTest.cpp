@@ -41,9 +41,9 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
 TEST_F(FCmdInputTest, inStrictModeAWarningTakesItsStepBack) {
     ASSERT_TRUE(run("thing a(1)"));
     const QString before = savedModel();
-    for (const char* script :
-         {"x = [a.setNumber(2), sqrt(\"x\")]", "if (a.setNumber(2) == a) { a.setNumber(\"x\") }",
-          "for (i in [5,6]) {\n a.setNumber(i)\n if (i) {}\n}", "thing b(2) { .setNumber(\"x\") }"}) {
+    for (const char* script : {"x = [a.setNumber(2), sqrt(\"x\")]", "if (a.setNumber(2) == a) { a.setNumber(\"x\") }",
+                               "for (i in [5,6]) {\n a.setNumber(i)\n if (i) {}\n}", "thing b(2) { .setNumber(\"x\") }",
+                               "x = [sqrt(\"x\"), exit(0)]"}) {
         FLogMsg::setStrict(true);
         EXPECT_FALSE(run(script)) << script;
         FLogMsg::setStrict(false);

@@ -40,7 +40,7 @@ class FChooser : public FUserInterface {
     QStringList questions;
 };
 
-class FImportTest : public FModelTest, public FTestFolder {
+class FImportTest : public FDirectTest, public FTestFolder {
  protected:
     FImportTest() { import->registerObject(); }
 

@@ -68,7 +68,7 @@ FClassData FPresented::mClass("FPresented", &FManaged::mClass, &FPresented::comm
 FClassData FPresentedBelow::mClass("FPresentedBelow", &FPresented::mClass, &FPresentedBelow::commands);
 const FInitPrototypes<FPresented, FPresentedBelow> types;
 
-class FAttributeQueryTest : public FModelTest {
+class FAttributeQueryTest : public FDirectTest {
  protected:
     FAttributeQueryTest() {
         base->registerObject();

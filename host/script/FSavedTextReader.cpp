@@ -20,12 +20,12 @@ int FSavedTextReader::read(const FSyntaxBody& statements) {
     for (std::size_t i = 0; i < mStatements.size(); ++i) {
         goOn(i);
     }
-    workOffReady();
+    workOff();
     // What is left waits for objects that need each other to be made.
     for (Statement& statement : mStatements) {
         if (!statement.isEnded && statement.declaration && statement.object.isEmpty()) {
             breakRing(statement);
-            workOffReady();
+            workOff();
         }
     }
     FUpdateGraph::forgetWaitingThatReadFiles();
@@ -62,34 +62,62 @@ void FSavedTextReader::take(const FSyntaxStatement& statement) {
     mStatements.push_back(std::move(taken));
 }
 
-void FSavedTextReader::workOffReady() {
-    while (!mReady.empty()) {
-        const std::size_t number = mReady.front();
-        mReady.pop_front();
-        goOn(number);
+void FSavedTextReader::workOff() {
+    while (!mReady.empty() || !mWaiting.empty()) {
+        if (!mReady.empty()) {
+            const std::size_t number = mReady.front();
+            mReady.pop_front();
+            goOn(number);
+        } else {
+            const std::size_t number = *mWaiting.begin();
+            mWaiting.erase(mWaiting.begin());
+            if (!mStatements[number].isEnded && !mustWaitUntilMade(number)) {
+                carryOutStep(mStatements[number]);
+                goOn(number);
+            }
+        }
     }
 }
 
 void FSavedTextReader::goOn(std::size_t number) {
-    while (!mStatements[number].isEnded && !mustWait(number)) {
-        Statement& statement = mStatements[number];
-        if (statement.command) {
-            carryOutCommand(statement);
-        } else if (statement.object.isEmpty()) {
-            create(statement);
-        } else {
-            carryOutLine(statement);
-        }
-        findNeeds(statement);
+    while (!mStatements[number].isEnded && !mustWaitUntilComplete(number)) {
+        carryOutStep(mStatements[number]);
     }
 }
 
-bool FSavedTextReader::mustWait(std::size_t number) {
+void FSavedTextReader::carryOutStep(Statement& statement) {
+    if (statement.command) {
+        carryOutCommand(statement);
+    } else if (statement.object.isEmpty()) {
+        create(statement);
+    } else {
+        carryOutLine(statement);
+    }
+    if (statement.isEnded && statement.declaration) {
+        setComplete(statement.declaration->name);
+    }
+    findNeeds(statement);
+}
+
+bool FSavedTextReader::mustWaitUntilComplete(std::size_t number) {
     Statement& statement = mStatements[number];
-    for (; statement.need < statement.needs.size(); ++statement.need) {
-        const auto awaited = mAwaited.find(statement.needs[statement.need]);
+    for (; statement.complete < statement.needs.size(); ++statement.complete) {
+        const auto awaited = mAwaited.find(statement.needs[statement.complete]);
         if (awaited != mAwaited.end()) {
-            awaited->push_back(number);
+            awaited->untilComplete.push_back(number);
+            mWaiting.insert(number);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool FSavedTextReader::mustWaitUntilMade(std::size_t number) {
+    Statement& statement = mStatements[number];
+    for (; statement.made < statement.needs.size(); ++statement.made) {
+        const auto awaited = mAwaited.find(statement.needs[statement.made]);
+        if (awaited != mAwaited.end() && !awaited->isMade) {
+            awaited->untilMade.push_back(number);
             return true;
         }
     }
@@ -98,7 +126,8 @@ bool FSavedTextReader::mustWait(std::size_t number) {
 
 void FSavedTextReader::findNeeds(Statement& statement) const {
     statement.needs.clear();
-    statement.need = 0;
+    statement.complete = 0;
+    statement.made = 0;
     if (statement.isEnded) {
         return;
     }
@@ -110,6 +139,7 @@ void FSavedTextReader::findNeeds(Statement& statement) const {
         for (const FSyntaxExpr& call : statement.declaration->block[statement.line]) {
             collectNames(call, statement.needs);
         }
+        statement.needs.removeAll(statement.declaration->name);
     }
 }
 
@@ -126,15 +156,15 @@ void FSavedTextReader::create(Statement& statement) {
     const FDeclarer::Outcome outcome = mDeclarer.create(*statement.declaration, statement.object);
     note(outcome);
     statement.isEnded = outcome != FDeclarer::Outcome::Done || statement.declaration->block.empty();
-    settle(statement.declaration->name);
+    setMade(statement.declaration->name);
 }
 
 void FSavedTextReader::breakRing(Statement& statement) {
     report({statement.declaration->creator.place,
             QStringLiteral("\"%1\" can't be made: it needs \"%2\", which in turn needs it")
-                .arg(statement.declaration->name, statement.needs[statement.need])});
+                .arg(statement.declaration->name, statement.needs[statement.made])});
     statement.isEnded = true;
-    settle(statement.declaration->name);
+    setComplete(statement.declaration->name);
 }
 
 void FSavedTextReader::carryOutLine(Statement& statement) {
@@ -148,9 +178,19 @@ void FSavedTextReader::carryOutCommand(Statement& statement) {
     statement.isEnded = true;
 }
 
-void FSavedTextReader::settle(const QString& name) {
-    const std::vector<std::size_t> waiting = mAwaited.take(name);
-    mReady.insert(mReady.end(), waiting.begin(), waiting.end());
+void FSavedTextReader::setMade(const QString& name) {
+    const auto awaited = mAwaited.find(name);
+    if (awaited != mAwaited.end()) {
+        awaited->isMade = true;
+        mWaiting.insert(awaited->untilMade.begin(), awaited->untilMade.end());
+        awaited->untilMade.clear();
+    }
+}
+
+void FSavedTextReader::setComplete(const QString& name) {
+    setMade(name);
+    const Awaited awaited = mAwaited.take(name);
+    mReady.insert(mReady.end(), awaited.untilComplete.begin(), awaited.untilComplete.end());
 }
 
 void FSavedTextReader::note(FDeclarer::Outcome outcome) {

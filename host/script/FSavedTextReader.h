@@ -7,15 +7,17 @@
 #include <QHash>
 
 #include <deque>
+#include <set>
 #include <vector>
 
 /**
  * Reads a saved text, which is data: it declares objects and sets their attributes, in the block of the declaration or
  * as `name.attribute(value)`. Anything else in it is reported,
- * with its place, and passed over; nothing is run by it, and no file is read.
+ * with its place, and skipped; the text executes nothing and reads no file.
  *
- * Within the text a name means the object that the text declares, also where it declares it further on: what needs an
- * object that isn't there yet is carried out once it is. Time linear in the length of the text.
+ * Within the text a name means the object that the text declares, also where it declares it further on. What names an
+ * object waits until the block of that object is done. Where objects wait for each other, the first one in the text
+ * goes on as soon as the objects exist that it names. Time n log n in the length of the text at most.
  */
 class MERIX_EXPORT FSavedTextReader {
  public:
@@ -34,18 +36,28 @@ class MERIX_EXPORT FSavedTextReader {
         const FSyntaxExpr* command = nullptr;  //!< the other kind of statement: commands on an object that has a name
         FExprBase object;                      //!< empty until it is made
         std::size_t line = 0;                  //!< of the block: the first that hasn't been carried out
-        QStringList needs;                     //!< names that the next thing to do needs
-        int need = 0;                          //!< the first of them for which there may be no object yet
+        QStringList needs;                     //!< names that the next step needs
+        int complete = 0;                      //!< how many of them at least stand for complete objects
+        int made = 0;                          //!< how many of them at least stand for objects
         bool isEnded = false;
+    };
+    /** A name for which there is no complete object yet, and the numbers of the statements that wait for it. */
+    struct Awaited {
+        bool isMade = false;
+        std::vector<std::size_t> untilMade;
+        std::vector<std::size_t> untilComplete;
     };
 
     void announce(const FSyntaxBody& statements);
     void take(const FSyntaxStatement& statement);
-    /** Carries out what can be; the rest waits for a name. */
+    /** Carries out the steps that need not wait. */
     void goOn(std::size_t number);
-    void workOffReady();
-    /** Whether the next thing to do has to wait; it is then known to the name that it waits for. */
-    bool mustWait(std::size_t number);
+    /** Carries out all steps that objects allow that exist. */
+    void workOff();
+    void carryOutStep(Statement& statement);
+    /** Whether the next step has to wait; the names that it waits for know it. */
+    bool mustWaitUntilComplete(std::size_t number);
+    bool mustWaitUntilMade(std::size_t number);
     void findNeeds(Statement& statement) const;
     void collectNames(const FSyntaxExpr& expression, QStringList& names) const;
     void create(Statement& statement);
@@ -53,8 +65,9 @@ class MERIX_EXPORT FSavedTextReader {
     void breakRing(Statement& statement);
     void carryOutLine(Statement& statement);
     void carryOutCommand(Statement& statement);
-    /** The name stands for an object now, or never will. */
-    void settle(const QString& name);
+    /** There is an object of that name now, or never will be. */
+    void setMade(const QString& name);
+    void setComplete(const QString& name);
     /** Takes down what didn't go well. */
     void note(FDeclarer::Outcome outcome);
     void report(const FSyntaxError& error);
@@ -63,7 +76,8 @@ class MERIX_EXPORT FSavedTextReader {
     QString mFile;
     FDeclarer mDeclarer;
     std::vector<Statement> mStatements;
-    QHash<QString, std::vector<std::size_t>> mAwaited;  // names, with the statements that wait for them
+    QHash<QString, Awaited> mAwaited;
     std::deque<std::size_t> mReady;
+    std::set<std::size_t> mWaiting;  // those that may go on once all objects exist that they name
     int mErrors = 0;
 };

@@ -60,7 +60,7 @@ TEST_F(CommandLineTest, strictEndsAScriptAtTheFirstStatementThatWarns) {
     for (const Case& c : {Case{"p.setValue(sqrt(\"x\"))", "", ":2:12: sqrt: argument 1 (x) must be of type double"},
                           Case{"if (sqrt(\"x\")) {} else { print(\"else\") }", "", ":2:5: sqrt"},
                           Case{"for (i in [1, 2]) { p.setValue(sqrt(\"x\")); print(i) }", "", ":2:32: sqrt"},
-                          Case{"for (i in 5) {}", "", ":2:11: there is no list"},
+                          Case{"for (i in 5) {}", "", ":2:11: the value after \"in\" is no list"},
                           Case{"parameter p(2)", "", ":2:11: the name \"p\" is taken"},
                           Case{"print(sqrt(\"x\"), exit(0))", "NULL NULL\n", ":2:7: sqrt"},
                           Case{"include(\"inner.merix\")", "NULL\n", "inner.merix:1:7: sqrt"}}) {

@@ -38,12 +38,14 @@ int steps() {
 class UndoTest : public FModelTest, public FTestFolder {
  public:
     ~UndoTest() override {
+        QDir::setCurrent(mWorkFolder);
         FIni::setFile({});
         history().setLimit(usualLimit);
     }
 
  protected:
     UndoTest() {
+        QDir::setCurrent(path());  // for commands that write files
         for (const QString& statement : beginning()) {
             run(statement);
         }
@@ -212,6 +214,7 @@ class UndoTest : public FModelTest, public FTestFolder {
     QVector<QString> mStates;  // by the number of steps; null where a state was passed over
     QStringList mScript;
     QHash<int, FExprBase> mHandles;
+    QString mWorkFolder = QDir::currentPath();
     QSet<const FCmdRow*> mCarriedOut;  // without a message
 };
 

@@ -1,6 +1,10 @@
 #include "host/core/FHistory.h"
 
+#include "host/core/FAssert.h"
+#include "host/core/FChanges.h"
+#include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
+#include "host/core/FUserStep.h"
 #include "tests/host/core/FThing.h"
 #include "tests/support/FModelTest.h"
 
@@ -52,6 +56,118 @@ TEST_F(FHistoryTest, whatIsBlockedIsNoPartOfALaterStep) {
     run("a.setNumber(4)");
     EXPECT_TRUE(history().undo());
     EXPECT_EQ(thing->getNumber(), 3);
+}
+
+TEST_F(FHistoryTest, aCommandIsRecordedWhoeverExecutesIt) {
+    run("thing a(1)");
+    auto* thing = object<FThing>("a");
+    set(*thing, "setNumber", 5.0);
+    run("a.setNumber(7)\na.setNumber(7)");
+    EXPECT_EQ(history().getLabels(), QStringList({"thing", "setNumber", "setNumber"}))
+        << "the last one changes nothing";
+    for (const double number : {5.0, 1.0}) {
+        EXPECT_TRUE(history().undo());
+        EXPECT_EQ(thing->getNumber(), number);
+    }
+}
+
+TEST_F(FHistoryTest, aChangeOutsideOfAnyStepIsAnError) {
+    run("thing a(1)");
+    auto* thing = object<FThing>("a");
+    QStringList failures;
+    FAssert::setHandler([&failures](const FAssert::Failure& failure) { failures << failure.message; });
+    thing->setName("b");
+    EXPECT_EQ(failures, QStringList{"\"a\" is changed outside of any step of the history"});
+    {
+        const FUserStep step("rename");
+        thing->setName("c");
+        thing->addDocu("text", 1);
+    }
+    {
+        const FHistoryBlocker blocker;
+        thing->setInProject(false);
+    }
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_TRUE(history().undo());
+    EXPECT_EQ(thing->getName(), "b") << "what no step knows isn't undone";
+    EXPECT_TRUE(thing->getDocu().isEmpty());
+    FManaged::destroy(thing);
+    FThing::create("d");
+    EXPECT_EQ(failures.size(), 3);
+}
+
+TEST_F(FHistoryTest, updatesRunInTheirStepAndAreReplayedAfterUndoAndRollback) {
+    run("thing a(1)\nthing b() { .setFriend(a) }");
+    auto* thing = object<FThing>("b");
+    thing->setUpdateOnDemand(false);
+    QStringList seen;
+    thing->mAtUpdate = [&seen] {
+        seen << QString("%1 %2").arg(history().inTransaction()).arg(history().isReplaying());
+    };
+    run("a.setNumber(2)");
+    EXPECT_EQ(seen, QStringList{"1 0"});
+    history().undo();
+    EXPECT_EQ(seen.mid(1), QStringList{"0 1"});
+    {
+        FUserStep step("taken back");
+        set(*object<FThing>("a"), "setNumber", 3.0);
+        step.rollback();
+    }
+    EXPECT_EQ(seen.mid(2), QStringList{"0 1"});
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
+}
+
+TEST_F(FHistoryTest, aKeystrokeInALongTextCostsLittle) {
+    constexpr int length = 3'000'000;
+    run("thing a()");
+    auto* thing = object<FThing>("a");
+    const QString start = QString(length, 'x') + QString(length, 'y');
+    set(*thing, "setText", start);
+    const std::size_t before = history().getSize();
+    QString text = start;
+    for (int i = 0; i < 10; ++i) {
+        text.insert(length + i, i % 2 ? 'y' : 'x');
+        set(*thing, "setText", text);
+    }
+    EXPECT_LT(history().getSize() - before, 10'000U);
+    for (const bool forward : {false, true}) {
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_TRUE(forward ? history().redo() : history().undo());
+        }
+        EXPECT_TRUE(thing->getText() == (forward ? text : start));
+    }
+}
+
+TEST_F(FHistoryTest, theChannelReportsEachStep) {
+    QStringList heard;
+    const FChanges* changes = FChanges::instance();
+    QObject listener;
+    const auto hear = [&](auto signal, const char* word) {
+        QObject::connect(changes, signal, &listener, [&heard, word](const QString& label) { heard << word + label; });
+    };
+    hear(&FChanges::stepDone, "done ");
+    hear(&FChanges::stepUndone, "undone ");
+    hear(&FChanges::stepRedone, "redone ");
+    hear(&FChanges::stepDropped, "dropped ");
+    QObject::connect(changes, &FChanges::objectEntered, &listener, [&](FManaged* o) { heard << "+" + o->getName(); });
+    QObject::connect(changes, &FChanges::objectLeft, &listener, [&](FManaged* o) { heard << "-" + o->getName(); });
+    QObject::connect(changes, &FChanges::objectChanged, &listener, [&](FManaged* o) { heard << "*" + o->getName(); });
+    QObject::connect(changes, &FChanges::objectRenamed, &listener,
+                     [&](FManaged* o, const QString& old) { heard << old + ">" + o->getName(); });
+    QObject::connect(changes, &FChanges::messageLogged, &listener, [&](const FLogMsg& m) { heard << m.place; });
+    const auto take = [&heard] { return std::exchange(heard, {}).join(' ').toStdString(); };
+    run("thing a(1)");
+    EXPECT_EQ(take(), "+a *a done thing");
+    run("[a.setNumber(1), a.setNumber(2), a.setText(\"x\"), rename(a, \"b\")]");
+    EXPECT_EQ(take(), "a>b *b done ");
+    run("undo()\nredo()");
+    EXPECT_EQ(take(), "b>a *a undone  a>b *b redone ");
+    run("b.setNumber(2)\nb.at(0)");
+    EXPECT_EQ(take(), "test:2:3");
+    run("[destroy(b), NULL.at(0).noSuch()]");
+    EXPECT_EQ(take(), "") << "an error while the statement is bound";
+    run("undo()\nb = 1\ndestroy(a)");
+    EXPECT_EQ(take(), "b>a *a undone  -a dropped  done destroy");
 }
 
 TEST_F(FHistoryTest, aStepOfAnObjectThatWentWithoutAStep) {

@@ -34,7 +34,7 @@ const FInitPrototypes<FThing> types;
 FClassData FThing::mClass("FThing", &FManaged::mClass, &commands, &FThing::fields);
 
 std::vector<std::unique_ptr<FStateField>> FThing::fields() {
-    return FStateFields<FThing>().member(&FThing::mNumber).member(&FThing::mText).linked(&FThing::mFriend).take();
+    return FStateFields<FThing>().member(&FThing::mNumber).text(&FThing::mText).linked(&FThing::mFriend).take();
 }
 
 FThing* FThing::create(const QString& name) {
@@ -60,6 +60,7 @@ void FThing::setFriend(const FExpr<FThing>& other) {
 
 bool FThing::doUpdate() const {
     ++mUpdates;
+    mAtUpdate();
     return FManaged::doUpdate();
 }
 

@@ -2,6 +2,8 @@
 
 #include "host/core/FManaged.h"
 
+#include <functional>
+
 /** A managed class of the tests: a number, a text, and a friend that it depends on and that goes with it. */
 class FThing : public FClass<FThing, FManaged> {
  public:
@@ -19,6 +21,7 @@ class FThing : public FClass<FThing, FManaged> {
 
     bool doUpdate() const override;
     mutable int mUpdates = 0;
+    std::function<void()> mAtUpdate = [] {};
 
  protected:
     explicit FThing(const QString& name = QString()) : FClass(name) {}

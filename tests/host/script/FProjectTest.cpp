@@ -1,5 +1,6 @@
 #include "host/script/FProject.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
@@ -49,6 +50,21 @@ thing Δ() { .setFriend(getObjects("FThing").at(0)) }
     EXPECT_GT(FObjectManager::instance()->find("next")->getDbId(), id);
     EXPECT_EQ(textOf("twice.getValue()"), "6");
     EXPECT_LT(read("p.mrx").indexOf("parameter last"), read("p.mrx").indexOf("parameter twice"));
+}
+
+TEST_F(FProjectTest, aLoopIsAutosavedWhileItRuns) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p"));
+    QByteArrayList saved;
+    const auto listening = QObject::connect(FChanges::instance(), &FChanges::statementDone,
+                                            [this, &saved] { saved << read("p.mrx.autosave"); });
+    ASSERT_TRUE(run("for (i in [2, 3]) { a.setNumber(i) }"));
+    QObject::disconnect(listening);
+    ASSERT_EQ(saved.size(), 2);
+    EXPECT_TRUE(saved.first().contains("setNumber(2)")) << "the step is still open";
+    EXPECT_EQ(FHistory::instance()->getLabels().last(), "for");
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
 }
 
 TEST_F(FProjectTest, namesInARingComeBack) {

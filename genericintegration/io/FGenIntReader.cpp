@@ -64,15 +64,24 @@ FSeparatorSettings separatorsOf(const FGenIntResultsFile& file) {
     return {file.getNumberSeparator(), file.getSpacesAndTabsSeparator(), file.getRegExprSeparator()};
 }
 
+/** The search for a template's values, kept with the template. */
+struct FKeptSearch : FTemplateCache {
+    FKeptSearch(std::vector<FValueDescription> values, const FSeparatorSettings& separators)
+        : search(std::move(values), separators) {}
+
+    FValueSearch search;
+};
+
 // A study reads one file after the other with the same template.
 std::shared_ptr<const FValueSearch> searchFor(const FGenIntResultsFile& file, const Values& values) {
-    std::shared_ptr<const FValueSearch>& kept = file.valueSearch();
+    auto kept = std::dynamic_pointer_cast<const FKeptSearch>(file.readerCache());
     std::vector<FValueDescription> described = describe(values);
     const FSeparatorSettings separators = separatorsOf(file);
-    if (!kept || !kept->isFor(described, separators)) {
-        kept = std::make_shared<const FValueSearch>(std::move(described), separators);
+    if (!kept || !kept->search.isFor(described, separators)) {
+        kept = std::make_shared<const FKeptSearch>(std::move(described), separators);
+        file.readerCache() = kept;
     }
-    return kept;
+    return {kept, &kept->search};
 }
 
 const FObject* typeOf(const FGenIntResultsFileValue& value) {

@@ -10,11 +10,12 @@
 
 std::shared_ptr<const FTagRows> FTagRows::of(const FConfiguration& configuration, const FTemplateOwner& definition,
                                              const QStringList& fileKeys) {
-    std::shared_ptr<const FTagRows>& kept = definition.tagRows();
-    if (!kept || kept->mEntryMapNumber != configuration.getEntryMapNumber() || kept->mFileKeys != fileKeys) {
-        kept.reset(new FTagRows(configuration, fileKeys));
+    auto rows = std::dynamic_pointer_cast<const FTagRows>(definition.writerCache());
+    if (!rows || rows->mEntryMapNumber != configuration.getEntryMapNumber() || rows->mFileKeys != fileKeys) {
+        rows.reset(new FTagRows(configuration, fileKeys));
+        definition.writerCache() = rows;
     }
-    return kept;
+    return rows;
 }
 
 FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileKeys)

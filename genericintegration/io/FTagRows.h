@@ -1,6 +1,7 @@
 #pragma once
 
 #include "genericintegration/io/FTemplateKeys.h"
+#include "genericintegration/templates/FTemplateCache.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,7 +18,7 @@ class FTemplateOwner;
  * values, so they last from one export to the next, until an entry or file comes, goes or is renamed. The entries must
  * be kept alive by whoever uses their rows.
  */
-class FTagRows {
+class FTagRows : public FTemplateCache {
  public:
     struct Row {
         const FEntry* entry;  //!< null for a file

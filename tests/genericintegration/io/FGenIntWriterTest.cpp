@@ -128,7 +128,7 @@ TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
         changes[random() % changes.size()]();
         ASSERT_TRUE(write());
         const QByteArray kept = folder.read("in.dat");
-        definition->tagRows().reset();
+        definition->writerCache().reset();
         ASSERT_TRUE(write());
         ASSERT_EQ(kept, folder.read("in.dat"));
         seen.insert(kept);

@@ -20,10 +20,10 @@
 #include <vector>
 
 #include "genericintegration/io/FGenIntReader.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FHistory.h"
+#include "host/run/FResultText.h"
 #include "host/run/FTableData.h"
 #include "tests/genericintegration/io/FLiteralReader.h"
 

@@ -1,9 +1,9 @@
 // Any bytes as an output file, and any values: numbers and texts are those of the literal reader of the tests.
 // The input: the separators in a line, a line for each value, an empty line, the file; see the functions below.
 #include "fuzz/support/FFuzzCheck.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
 #include "genericintegration/io/FValueSearch.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 #include "tests/genericintegration/io/FLiteralReader.h"
 
 #include <QStringList>

@@ -7,8 +7,8 @@
 
 #include "genericintegration/io/FAnchorWalk.h"
 #include "genericintegration/io/FByteQuads.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 FAnchorWalk::FAnchorWalk(const FAnchorAutomaton& automaton, std::string_view text)
     : mAutomaton(automaton), mText(text), mEnds(automaton.byLength().size(), {-1, -1}) {}

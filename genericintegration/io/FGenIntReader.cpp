@@ -1,6 +1,5 @@
 #include "genericintegration/io/FGenIntReader.h"
 
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/io/findValue.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
@@ -8,6 +7,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FString.h"
 #include "host/lodm/FLodmConfigurationParser.h"
+#include "host/run/FResultText.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FSafePath.h"
 #include "host/run/FTableData.h"

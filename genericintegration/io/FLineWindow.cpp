@@ -1,6 +1,6 @@
 #include "genericintegration/io/FLineWindow.h"
 
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 qint64 FLineWindow::count() const {
     if (mPart.size() == 0) {

@@ -7,7 +7,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 namespace FNumberPattern {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FLineWindow.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FSuspicion.h"
+#include "host/run/FResultText.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "genericintegration/io/FLineWindow.h"
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 namespace {
 
@@ -98,7 +98,7 @@ void FUtf8Output::putCharacter(char32_t character) {
 }
 
 void FUtf8Output::makeRoom() {
-    if (gatheredBytes - mSize < FUtf8::LongestCharacter) {
+    if (gatheredBytes - mSize < FUtf8::longestCharacter) {
         send();
     }
 }

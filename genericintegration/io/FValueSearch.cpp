@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "genericintegration/io/FColumnCursor.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FRowAverages.h"
+#include "host/run/FResultText.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <QTextCodec>
 
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 TEST(FAnchorSearchTest, aPairIsFoundAcrossThePiecesInWhichAFileIsDecoded) {
     const QString content = QString(8190, 'x') + QStringLiteral("\U00010428");

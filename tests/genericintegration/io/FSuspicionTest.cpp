@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
+#include "host/run/FResultText.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 
 #include "FLiteralReader.h"
 #include "FReaderCases.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/io/findValue.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 #include "tests/support/randomCases.h"
 
 namespace {
@@ -91,5 +91,23 @@ TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
         EXPECT_EQ(start[1], start[0]);
         EXPECT_EQ(length[1], length[0]);
         EXPECT_EQ(models.pattern(), ours.pattern());
+    }
+}
+
+TEST(FValueSearchModelTest, searchesStayWithinATextWhoseBytesChange) {
+    for (quint32 seed = 0; seed < 2000; ++seed) {
+        SCOPED_TRACE(seed);
+        FReaderCases cases(seed);
+        const QString content = cases.text(false);
+        const QByteArray before = cases.file(content);
+        const QByteArray after = cases.file(cases.text(false));
+        std::vector<char> bytes(before.begin(), before.end());
+        const FResultText text =
+            FResultText::fromFile(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+        std::copy_n(after.begin(), std::min(before.size(), after.size()), bytes.begin());
+        const std::vector<FValueDescription> values = cases.values(content);
+        for (const FFoundValue& value : FValueSearch(values, cases.separators()).find(text).values) {
+            EXPECT_LE(value.line, static_cast<qint64>(bytes.size()) + 1);
+        }
     }
 }

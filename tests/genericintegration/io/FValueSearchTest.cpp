@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 namespace {
 

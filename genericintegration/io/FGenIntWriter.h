@@ -23,13 +23,13 @@ class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
     static FClassData mClass;
     static FGenIntWriter* instance();
 
+    /** Puts the text of each input file into the map, under its file name. Touches no file. */
+    virtual bool previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts);
     /**
-     * Writes all input files. The directory ends in a separator. False, with the reason in the log, if there is no
-     * definition or a file can't be written; files that are written already stay.
+     * Writes all input files. The directory ends in a separator. Returns false and logs the reason if there is no
+     * definition or a file can't be written; files that have been written by then stay.
      */
     virtual bool exportCommandFiles(const FExpr<FConfiguration>& configuration, const QString& directory);
-    /** Puts the text of each file into the map, under its file name. No file is touched. */
-    virtual bool previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts);
     /** Appends the name of each tag of a template, repeats included. */
     virtual void getTagNames(const FExpr<FGenIntFile>& file, QStringList& names);
 

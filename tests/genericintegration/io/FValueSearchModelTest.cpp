@@ -4,8 +4,8 @@
 
 #include "FLiteralReader.h"
 #include "FReaderCases.h"
+#include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FValueSearch.h"
-#include "genericintegration/io/findValue.h"
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
 #include "tests/support/randomCases.h"
@@ -83,8 +83,8 @@ TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
         QRegExp models = separators.pattern();
         int start[2];
         int length[2];
-        const int result = findValue(start[0], length[0], ours, value.line, value.anchor.text, text, value.column,
-                                     separators.findNumbers);
+        const int result = FGenIntReader::instance()->findValue(
+            start[0], length[0], ours, value.line, value.anchor.text, text, value.column, separators.findNumbers);
         EXPECT_EQ(FLiteralReader::findValue(start[1], length[1], models, value.line, value.anchor.text, text,
                                             value.column, separators.findNumbers),
                   result);

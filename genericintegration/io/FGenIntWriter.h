@@ -15,8 +15,8 @@ class FTemplateOwner;
 class FValueTable;
 
 /**
- * Turns the input templates of a definition into text, with the values of one configuration in place of the tags. There
- * is one writer; it keeps nothing between calls.
+ * Writes the input templates of a definition with the values of one configuration in place of the tags. There is one
+ * writer; it keeps nothing between calls.
  */
 class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
  public:
@@ -34,7 +34,7 @@ class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
     virtual void getTagNames(const FExpr<FGenIntFile>& file, QStringList& names);
 
     using Output = std::function<void(QStringView piece)>;
-    /** Writes one text. A tag that names nothing is left out, with a message that names the configuration. */
+    /** Writes one text. Drops a tag that names nothing, with a message that names the configuration. */
     void writeTemplate(const Output& output, const QString& text, const FValueTable& table,
                        const FExpr<FConfiguration>& configuration, bool forceWindowsLineEndings) const;
 

@@ -23,7 +23,7 @@ FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileK
     QStringList sorted = fileKeys;
     sorted.sort();
     sorted.removeDuplicates();
-    // The length of the word with its "|", whatever the key begins with.
+    // Cuts the length of the group word with its "|", whatever the key starts with.
     const auto appendFile = [this](const QString& key) {
         append(key, {nullptr, key.mid(FExportsGroup::prefix().size())});
     };

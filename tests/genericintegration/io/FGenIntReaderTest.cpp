@@ -87,7 +87,7 @@ TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsReported) {
                     "anchor)"});
 }
 
-TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
+TEST_F(FGenIntReaderTest, aFileThatCantBeReadLeavesTheTableUnchanged) {
     setValues("[[\"a\",0,0,\"\",Last,\"FDouble\",\"\"]]");
     file->setFileName("out.dat");
     file->setContent("7");
@@ -111,7 +111,7 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
 }
 
-TEST_F(FGenIntReaderTest, whatIsKeptBetweenFilesNeverShows) {
+TEST_F(FGenIntReaderTest, theCacheBetweenFilesNeverChangesAResult) {
     setValues("[[\"a\",0,0,\"x\",First,\"FDouble\",\"\"]]");
     file->setContent("\nx 1;2 y\nx 3;4 y\n");
     const FExpr<FGenIntResultsFileValue> value(file->getValues()->at(0));

@@ -16,7 +16,7 @@ quint32 caseCount() {
     return static_cast<quint32>(randomCases(2000));
 }
 
-/** What stands in the content where a value is said to have been found. */
+/** The content at the place where a value was found. */
 QString textAt(const QString& content, const FFoundValue& value) {
     const QString line = content.section('\n', static_cast<int>(value.line - 1), static_cast<int>(value.line - 1));
     return line.mid(static_cast<int>(value.column - 1), static_cast<int>(value.length));
@@ -54,7 +54,7 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
 
 }  // namespace
 
-TEST(FValueSearchModelTest, samplesAreReadAsToldStepByStep) {
+TEST(FValueSearchModelTest, samplesAreReadAsByTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);
@@ -63,7 +63,7 @@ TEST(FValueSearchModelTest, samplesAreReadAsToldStepByStep) {
     }
 }
 
-TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsToldStepByStep) {
+TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsByTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);
@@ -72,7 +72,7 @@ TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsToldStepByStep) {
     }
 }
 
-TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
+TEST(FValueSearchModelTest, findValueAgreesWithTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);

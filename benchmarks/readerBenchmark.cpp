@@ -1,7 +1,7 @@
-// Reads values from the output of a program: of a text in memory, of one file, of many. Beside it, with the same work
-// around it: a pass that only finds every line end (bare), which no reader can beat, and a search anew for each value
-// (naive), where the text is small enough that it ends. A half of the values' anchors means the last occurrence; some
-// values stand above their anchor, some are averages.
+// Reads values from the output of a program: from a text in memory, from one file, from many. For comparison, with the
+// same work around it: a pass that only finds every line end (bare), which no reader can beat, and a separate search
+// for each value (naive), where the text is small enough for it. Half of the anchors refer to their last occurrence;
+// some values are above their anchor, some are averages.
 
 #include <benchmark/benchmark.h>
 
@@ -20,17 +20,17 @@
 #include <vector>
 
 #include "genericintegration/io/FGenIntReader.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FHistory.h"
+#include "host/run/FResultText.h"
 #include "host/run/FTableData.h"
 #include "tests/genericintegration/io/FLiteralReader.h"
 
 namespace {
 
-constexpr int AnchorCount = 600;
-constexpr int FileCount = 1000;
+constexpr int anchorCount = 600;
+constexpr int fileCount = 1000;
 
 QByteArray anchorText(int number) {
     static const char* const quantities[] = {"Total force on part", "Heat flux through wall", "Max. stress in beam",
@@ -38,7 +38,7 @@ QByteArray anchorText(int number) {
     return QByteArray(quantities[number % 4]) + " " + QByteArray::number(number) + " ";
 }
 
-/** Some lines of a solver's history, with a line of results here and there. The unit stands in each line. */
+/** Some lines of a solver's history, with a line of results here and there. Each line contains the unit. */
 QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
     std::mt19937 random(seed);
     QByteArray text;
@@ -47,7 +47,7 @@ QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
     for (int iteration = 1; text.size() < size; ++iteration) {
         const double residual = 1.0 / iteration + 1e-9 * random();
         if (iteration % 199 == 0) {
-            text += "\n  *** " + anchorText(static_cast<int>(random() % AnchorCount)).toUpper() + "= 12.5 N\n";
+            text += "\n  *** " + anchorText(static_cast<int>(random() % anchorCount)).toUpper() + "= 12.5 N\n";
         }
         text.append(line,
                     std::snprintf(line, sizeof line, "  ITER %9d   residual  %14.6e   force %12.5f %s  stress %9.3f\n",
@@ -56,7 +56,7 @@ QByteArray makeText(qint64 size, const char* unit = "N", quint32 seed = 1) {
     return text;
 }
 
-std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorCount) {
+std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = anchorCount) {
     std::vector<FValueDescription> values(static_cast<size_t>(count));
     for (int i = 0; i < count; ++i) {
         FValueDescription& value = values[static_cast<size_t>(i)];
@@ -73,7 +73,7 @@ std::vector<FValueDescription> makeValues(qint64 count, qint64 anchors = AnchorC
     return values;
 }
 
-/** Texts and files are made when they are first wished, and kept. */
+/** Texts and files are made on first use and kept. */
 const QByteArray& textOf(qint64 kilobytes) {
     static std::map<qint64, QByteArray> texts;
     QByteArray& text = texts[kilobytes];
@@ -101,7 +101,7 @@ QString fileOf(qint64 kilobytes) {
     return file;
 }
 
-/** What many programs print at the end of a run: all that is sought, in a few lines. */
+/** The summary that many programs print at the end of a run: all values in a few lines. */
 QByteArray summaryOf(const std::vector<FValueDescription>& values) {
     QByteArray text;
     for (const FValueDescription& value : values) {
@@ -115,7 +115,7 @@ QByteArray summaryOf(const std::vector<FValueDescription>& values) {
 const QStringList& manyFiles() {
     static const QStringList files = [] {
         QStringList names;
-        for (int i = 0; i < FileCount; ++i) {
+        for (int i = 0; i < fileCount; ++i) {
             names += writeFile(QString("design %1/run.log").arg(i),
                                makeText(50'000, "N", static_cast<quint32>(i)) + summaryOf(makeValues(50)));
         }
@@ -184,7 +184,7 @@ void anchorsRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), makeValues(1000, state.range(0)));
 }
 
-/** Only the ends of the anchors, which makes them short. */
+/** Only the last characters of the anchors, which makes them short. */
 void lengthsRead(benchmark::State& state) {
     std::vector<FValueDescription> values = makeValues(100);
     for (FValueDescription& value : values) {
@@ -193,7 +193,7 @@ void lengthsRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), values);
 }
 
-/** Some short anchors, of texts that users take: in each line, in few lines, in none. Alone, or among long ones. */
+/** Short anchors that users choose: in each line, in few lines, in none. Alone, or among long ones. */
 std::vector<FValueDescription> shortAnchors(int count) {
     static const char* const texts[] = {"Cd",   "= ",   "heat",   "Zn",     "lift =", "part", "Total",
                                         "*** ", "iter", "stress", "Cl",     "PMAX",   "eps",  "E+02",
@@ -214,7 +214,7 @@ void mixedRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), values);
 }
 
-/** A character in each line that isn't ASCII; in Latin 1, it isn't UTF-8 either. */
+/** Each line contains a character that isn't ASCII; in Latin 1, it isn't valid UTF-8 either. */
 void nonAsciiRead(benchmark::State& state) {
     read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
 }
@@ -259,7 +259,7 @@ void filesRead(benchmark::State& state) {
     }
 }
 
-/** As a study reads: by way of a result template, into tables. */
+/** As in a study: with a result template, into tables. */
 void filesParse(benchmark::State& state) {
     FPrototypes::buildPending();
     const FHistoryBlocker blocker;

@@ -1,5 +1,5 @@
-// Writes input files. Beside it: a bare copy of the same bytes around constant tags, which no writer can beat, and the
-// slow model of the tests, which searches anew for each tag.
+// Writes input files. For comparison: a bare copy of the same bytes around constant tags, which no writer can beat, and
+// the slow model of the tests, which searches the table for each tag.
 
 #include <benchmark/benchmark.h>
 
@@ -51,7 +51,7 @@ FTemplateKeys makeKeys(const QStringList& rows) {
     return keys;
 }
 
-/** The line again and again, with tags spread evenly over them. */
+/** Repeats the line, with tags spread evenly over the text. */
 QString makeTemplate(qint64 size, qint64 tags, qint64 names, const QString& line = numbers) {
     QString text;
     text.reserve(int(size + 100));
@@ -151,7 +151,7 @@ void naive(benchmark::State& state) {
     }
 }
 
-/** A study has a new folder for each design, so that its files are new, too. */
+/** A study has a new folder for each design, so its files are new as well. */
 template <class Write>
 void writeDesigns(benchmark::State& state, Write write) {
     for (auto _ : state) {
@@ -207,7 +207,7 @@ class Study {
     FConfigurationGenInt* mConfiguration = FConfigurationGenInt::create({}, "configuration", false, nullptr);
 };
 
-/** As a study writes: after one value has changed. The names begin as those of the bare copies. */
+/** As in a study: after one value has changed. The names start like those of the bare copies. */
 void designsExport(benchmark::State& state) {
     FPrototypes::buildPending();
     Study study(int(state.range(0)), makeTemplate(smallSize, smallTags, state.range(0)));

@@ -1,9 +1,9 @@
-// Any bytes as an output file, and any values: numbers and texts are those of the literal reader of the tests.
+// Any bytes as an output file, and any values: numbers and texts must agree with the literal reader of the tests.
 // The input: the separators in a line, a line for each value, an empty line, the file; see the functions below.
 #include "fuzz/support/FFuzzCheck.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
 #include "genericintegration/io/FValueSearch.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 #include "tests/genericintegration/io/FLiteralReader.h"
 
 #include <QStringList>
@@ -19,8 +19,8 @@ constexpr int longestForModel = 2000;
 constexpr int farthestForModel = 1000;
 
 /**
- * "n" finds numbers, "s" separates at white space; what follows is one of some regular expressions, by its number.
- * Expressions of the input's own could take exponential time.
+ * "n" finds numbers, "s" separates at white space; then the index of a regular expression.
+ * Arbitrary expressions could take exponential time.
  */
 FSeparatorSettings separatorsOf(const QString& line) {
     static const QStringList expressions = {"", ",", "[,;]", "x*", "\\b", "[", "(r)|c", "\\s*,\\s*", "\\d", "k"};

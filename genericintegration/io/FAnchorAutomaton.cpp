@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : mInside(words.size(), None) {
+FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : mInside(words.size(), noWord) {
     std::vector<Word> sorted;
     sorted.reserve(words.size());
     size_t characters = 0;
@@ -16,7 +16,7 @@ FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : m
     std::vector<Range> ranges;
     ranges.reserve(characters + 1);
     ranges.push_back({0, sorted.size(), 0});
-    addNode(0, None);
+    addNode(0, noWord);
     for (size_t node = 0; node < mNodes.size(); ++node) {
         addChildren(sorted, ranges, static_cast<int>(node));
     }
@@ -24,7 +24,7 @@ FAnchorAutomaton::FAnchorAutomaton(const std::vector<std::u32string>& words) : m
 
 void FAnchorAutomaton::addChildren(const std::vector<Word>& words, std::vector<Range>& ranges, int node) {
     auto [begin, last, depth] = ranges[static_cast<size_t>(node)];
-    if (node != Start && words[begin].text->size() == depth) {
+    if (node != startState && words[begin].text->size() == depth) {
         ++begin;
     }
     const int firstChild = static_cast<int>(mNodes.size());
@@ -34,8 +34,8 @@ void FAnchorAutomaton::addChildren(const std::vector<Word>& words, std::vector<R
         while (end < last && (*words[end].text)[depth] == c) {
             ++end;
         }
-        const int added = addNode(c, words[begin].text->size() == depth + 1 ? words[begin].number : None);
-        if (node == Start && c < mStarts.size()) {
+        const int added = addNode(c, words[begin].text->size() == depth + 1 ? words[begin].number : noWord);
+        if (node == startState && c < mStarts.size()) {
             mStarts[c] = added;
         }
         ranges.push_back({begin, end, depth + 1});
@@ -47,18 +47,18 @@ void FAnchorAutomaton::addChildren(const std::vector<Word>& words, std::vector<R
 }
 
 int FAnchorAutomaton::addNode(char32_t c, int word) {
-    mNodes.push_back({c, 0, 0, Start, word});
+    mNodes.push_back({c, 0, 0, startState, word});
     return static_cast<int>(mNodes.size()) - 1;
 }
 
-// Nodes come in the order of depth, so all that a node can fall back to stands before it, linked.
+// Nodes are ordered by depth, so every node that this one can fall back to is already linked.
 void FAnchorAutomaton::link(int node, int parent) {
     Node& self = mNodes[static_cast<size_t>(node)];
-    if (parent != Start) {
+    if (parent != startState) {
         self.fail = next(mNodes[static_cast<size_t>(parent)].fail, self.c);
     }
     const int inside = mNodes[static_cast<size_t>(self.fail)].word;
-    if (self.word == None) {
+    if (self.word == noWord) {
         self.word = inside;
     } else {
         mInside[static_cast<size_t>(self.word)] = inside;
@@ -71,5 +71,5 @@ int FAnchorAutomaton::searchChild(const Node& node, char32_t c) const {
     const auto end = begin + node.childCount;
     const auto before = [](const Node& candidate, char32_t wanted) { return candidate.c < wanted; };
     const auto at = std::lower_bound(begin, end, c, before);
-    return at != end && at->c == c ? static_cast<int>(at - mNodes.begin()) : Start;
+    return at != end && at->c == c ? static_cast<int>(at - mNodes.begin()) : startState;
 }

@@ -5,51 +5,52 @@
 #include <vector>
 
 /**
- * Finds any number of words in one walk over a text: fed with the text's characters, its state tells which words end
- * there. A walk takes time linear in the text, whatever the words; making and keeping it, linear in the words.
+ * Finds any number of words in one pass over a text: fed with the characters of the text, its state gives the words
+ * that end at the last one. A pass takes time linear in the text, whatever the words; construction takes time and
+ * memory linear in the words.
  */
 class FAnchorAutomaton {
  public:
-    static constexpr int Start = 0;
-    static constexpr int None = -1;
+    static constexpr int startState = 0;
+    static constexpr int noWord = -1;
 
-    /** The words are neither empty nor equal. */
+    /** The words must be non-empty and distinct. */
     explicit FAnchorAutomaton(const std::vector<std::u32string>& words);
 
-    /** The state after one more character. Start means that none of the words has begun. */
+    /** The state after one more character. In startState, the text read so far ends with the start of no word. */
     int next(int state, char32_t c) const {
         for (;;) {
             const int reached = child(state, c);
-            if (reached != Start || state == Start) {
+            if (reached != startState || state == startState) {
                 return reached;
             }
             state = mNodes[static_cast<size_t>(state)].fail;
         }
     }
 
-    /** The longest word that ends in a state, or None. */
+    /** The longest word that ends in a state, as its index; or noWord. */
     int wordAt(int state) const { return mNodes[static_cast<size_t>(state)].word; }
 
-    /** The longest other word that a word ends in, or None: where the one ends, the other does. */
+    /** The longest other word that is a suffix of a word, or noWord. It ends wherever the word ends. */
     int wordInside(int word) const { return mInside[static_cast<size_t>(word)]; }
 
-    /** The words, the shorter ones first. */
+    /** The indices of the words, those of shorter words first. */
     const std::vector<int>& byLength() const { return mByLength; }
 
  private:
     struct Node {
         char32_t c = 0;
-        int firstChild = 0;  //!< children stand side by side, ordered by their character
+        int firstChild = 0;  //!< children are adjacent, ordered by their character
         int childCount = 0;
-        int fail = Start;
-        int word = None;
+        int fail = startState;
+        int word = noWord;
     };
-    /** A word and its place among the words. */
+    /** A word and its index. */
     struct Word {
         const std::u32string* text;
         int number;
     };
-    /** The sorted words from begin to end pass through a node of some depth. */
+    /** The sorted words, from begin to end, that pass through a node of this depth. */
     struct Range {
         size_t begin;
         size_t end;
@@ -61,19 +62,19 @@ class FAnchorAutomaton {
     void link(int node, int parent);
     int searchChild(const Node& node, char32_t c) const;
 
-    // Behind the first characters of the words, most nodes have one child.
+    // After the first characters of the words, most nodes have one child.
     int child(int node, char32_t c) const {
-        if (node == Start && c < mStarts.size()) {
+        if (node == startState && c < mStarts.size()) {
             return mStarts[c];
         }
         const Node& self = mNodes[static_cast<size_t>(node)];
         if (self.childCount != 1) {
             return searchChild(self, c);
         }
-        return mNodes[static_cast<size_t>(self.firstChild)].c == c ? self.firstChild : Start;
+        return mNodes[static_cast<size_t>(self.firstChild)].c == c ? self.firstChild : startState;
     }
 
-    std::vector<Node> mNodes;        //!< in the order of their depth
+    std::vector<Node> mNodes;        //!< ordered by depth
     std::array<int, 128> mStarts{};  //!< children of the start by ASCII character
     std::vector<int> mInside;
     std::vector<int> mByLength;

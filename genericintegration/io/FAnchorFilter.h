@@ -7,38 +7,38 @@
 #include <vector>
 
 /**
- * Passes quickly over the parts of a text in which none of some words can stand.
+ * Skips quickly the parts of a text that can't contain any of the given words.
  *
- * It probes the text at every few bytes for a short piece of one of the words, chosen where the word is least common.
- * The words are folded; pieces are taken from their ASCII characters, and found in any case. Time is linear in the
- * text.
+ * It probes the text every few bytes for a short piece of one of the words, chosen from the rarest part of the word.
+ * The words are folded; pieces consist of their ASCII characters and match in any case. Time is linear in the text.
  */
 class FAnchorFilter {
  public:
-    /** Words with a shorter run of ASCII characters make poor pieces, and are better given to a filter of their own. */
-    static constexpr qint64 PieceSize = 4;
-    /** Bytes that a probe reads. */
-    static constexpr qint64 ProbeSize = 8;
+    /** Words with a shorter run of ASCII characters make poor pieces; give them a filter of their own. */
+    static constexpr qint64 pieceSize = 4;
+    /** Number of bytes that a probe reads. */
+    static constexpr qint64 probeSize = 8;
 
     /** Length of the longest run of ASCII characters in a word. */
     static qint64 asciiRun(std::u32string_view word);
 
-    /** Where so many characters of an ASCII word begin that are the least common in what programs print. */
+    /** Start of the part of an ASCII word, `size` characters long, that is rarest in the output of programs. */
     static size_t rarestPart(std::u32string_view word, size_t size);
 
-    /** Each word has an ASCII character. The longer the shortest run of a word, the quicker. */
+    /** Each word must have an ASCII character. The longer the shortest run of the words, the faster the search. */
     explicit FAnchorFilter(const std::vector<std::u32string>& words);
 
     bool isEmpty() const { return mEmpty; }
 
     /**
-     * The place of the first probe, from an offset on, that met a piece of a word or, if wished, a byte that isn't
-     * ASCII; -1 for none. A probe meets each word that begins at the offset or behind, if the ASCII characters of the
-     * word are such in the text, too, and the probe needn't read over the text's end.
+     * Offset of the first probe, at or after an offset, that hits a piece of a word or, with alsoNonAscii, a byte that
+     * isn't ASCII; -1 for none. Probes hit every word that starts at or after the offset, except one whose ASCII
+     * characters aren't ASCII in the text (K as the Kelvin sign), and one so near the end of the text that a probe
+     * would read beyond it.
      */
     qint64 next(std::string_view text, qint64 offset, bool alsoNonAscii) const;
 
-    /** A word whose piece was met begins at most so far before the probe. */
+    /** Maximum distance in bytes from the start of a word to the probe that hits it. */
     qint64 reach() const { return mReach; }
 
  private:
@@ -48,10 +48,10 @@ class FAnchorFilter {
     qint64 nextProbe(std::string_view text, qint64 offset) const;
     bool isPiece(quint64 piece) const;
 
-    qint64 mWidth;  //!< characters of a piece
-    qint64 mStep;   //!< from one probe to the next
+    qint64 mWidth;  //!< number of characters of a piece
+    qint64 mStep;   //!< distance between probes
     qint64 mReach = 0;
     bool mEmpty;
-    std::vector<quint64> mHashes;  //!< a bit for each hash, set for those of the pieces
-    std::vector<quint64> mSlots;   //!< each piece at its hash or right behind, at most half of them; 0 for none
+    std::vector<quint64> mHashes;  //!< a bit for each hash, set for the hashes of pieces
+    std::vector<quint64> mSlots;   //!< hash table of the pieces with linear probing, at most half full; 0 is free
 };

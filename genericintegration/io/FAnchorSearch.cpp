@@ -7,8 +7,8 @@
 
 #include "genericintegration/io/FAnchorWalk.h"
 #include "genericintegration/io/FByteQuads.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 
 namespace {
 
@@ -38,32 +38,32 @@ std::vector<std::u32string> wordsOf(const std::vector<QString>& anchors, std::ve
     return words;
 }
 
-// Nothing else beyond ASCII folds to an ASCII letter.
-constexpr std::string_view KelvinSign = "\u212A";
-constexpr std::string_view LongS = "\u017F";
+// The only characters beyond ASCII that fold to an ASCII letter.
+constexpr std::string_view kelvinSign = "\u212A";
+constexpr std::string_view longS = "\u017F";
 
 bool hasFoldingToAscii(std::string_view text) {
-    return text.find(KelvinSign) != std::string_view::npos || text.find(LongS) != std::string_view::npos;
+    return text.find(kelvinSign) != std::string_view::npos || text.find(longS) != std::string_view::npos;
 }
 
-/** The most bytes that a word can take in a text. */
+/** Maximum number of bytes of a word in a text. */
 qint64 longestForm(const std::u32string& word) {
     size_t longest = 0;
     for (const char32_t c : word) {
-        longest += c >= 0x80 ? 4 : c == U'k' ? KelvinSign.size() : c == U's' ? LongS.size() : 1;
+        longest += c >= 0x80 ? 4 : c == U'k' ? kelvinSign.size() : c == U's' ? longS.size() : 1;
     }
     return static_cast<qint64>(longest);
 }
 
-/** Neither the filters nor the search for short words look at the very end of a text. */
-constexpr qint64 UnsearchedEnd = std::max(2 * FAnchorFilter::ProbeSize, FShortWordSearch::Margin);
+/** Size of the end of a text that neither the filters nor the search for short words cover. */
+constexpr qint64 unsearchedEnd = std::max(2 * FAnchorFilter::probeSize, FShortWordSearch::margin);
 
 void scan(FAnchorWalk& walk, const FAnchorFilter& filter, std::string_view text, qint64 begin, qint64 nonAsciiReach) {
     const qint64 reach = std::max(filter.reach(), nonAsciiReach);
     qint64 walked = begin;
     qint64 probe = filter.next(text, begin, nonAsciiReach > 0);
     while (probe >= 0) {
-        walked = walk.walk(std::max(walked, probe - reach), probe + FAnchorFilter::ProbeSize - 1);
+        walked = walk.walk(std::max(walked, probe - reach), probe + FAnchorFilter::probeSize - 1);
         probe = filter.next(text, walked, nonAsciiReach > 0);
     }
 }
@@ -93,10 +93,10 @@ FAnchorSearch::FAnchorSearch(const std::vector<QString>& anchors)
         const qint64 run = FAnchorFilter::asciiRun(word);
         const bool ascii = run == static_cast<qint64>(word.size());
         mLongest = std::max(mLongest, longestForm(word));
-        mHard |= !ascii && run < FAnchorFilter::PieceSize;
+        mHard |= !ascii && run < FAnchorFilter::pieceSize;
         if (FByteQuads::isQuick() && mShortSearch.add(word)) {
             mShortWords.push_back(number);
-        } else if (run >= FAnchorFilter::PieceSize) {
+        } else if (run >= FAnchorFilter::pieceSize) {
             longer.push_back(word);
         } else if (ascii) {
             shorter.push_back(word);
@@ -125,7 +125,7 @@ std::vector<FAnchorPlaces> FAnchorSearch::findFrom(std::string_view text, qint64
         nonAsciiReach = 0;
     }
     findShortWords(walk, text, begin);
-    walk.walk(std::max(begin, walk.size() - mLongest - UnsearchedEnd), walk.size());
+    walk.walk(std::max(begin, walk.size() - mLongest - unsearchedEnd), walk.size());
 
     const std::vector<FByteRange>& ends = walk.finish();
     for (size_t anchor = 0; anchor < places.size(); ++anchor) {

@@ -13,25 +13,25 @@
 class FAnchorWalk;
 class FResultText;
 
-/** The first and the last place of an anchor; they begin at -1 when it isn't there. */
+/** The first and the last place of an anchor; they begin at -1 if the text doesn't contain it. */
 struct FAnchorPlaces {
     FByteRange first = {-1, -1};
     FByteRange last = {-1, -1};
 };
 
 /**
- * Finds the first and the last occurrence of many anchors in a text, all in one go. Case is ignored as QString does,
- * by the simple folding of each character.
+ * Finds the first and the last occurrence of many anchors in a text, all in one pass. Ignores case as QString does, by
+ * simple folding of each character.
  *
- * An anchor with half a surrogate pair is never found; no file in UTF-8 and no keyboard brings one. The time is linear
- * in the text plus the anchors' characters, whatever stands in them. An object can search any number of texts.
+ * An anchor with an unpaired surrogate is never found; neither files in UTF-8 nor keyboards produce one. Time is linear
+ * in the text plus the characters of the anchors, whatever they are. An object can search any number of texts.
  */
 class FAnchorSearch {
  public:
-    /** The anchors may be empty (and are never found then), equal, or equal but for case. */
+    /** Anchors may be empty, which are never found, and may be equal, also apart from case. */
     explicit FAnchorSearch(const std::vector<QString>& anchors);
 
-    /** The places of each anchor in a text without the white space at its end. */
+    /** The places of each anchor in a text without its trailing white space. */
     std::vector<FAnchorPlaces> findInTrimmed(const FResultText& text) const;
 
     /** The places in the whole text, given those in the trimmed one. */
@@ -45,8 +45,8 @@ class FAnchorSearch {
     std::vector<std::u32string> mWords;  //!< the anchors, folded, each once
     FAnchorAutomaton mAutomaton;
     FShortWordSearch mShortSearch;
-    std::vector<int> mShortWords;         //!< the words that the search for short ones has, by their number there
-    std::vector<FAnchorFilter> mFilters;  //!< the first one also looks for what isn't ASCII
-    qint64 mLongest = 0;                  //!< bytes that a word can take in a text
-    bool mHard = false;                   //!< there are words for which no filter has pieces
+    std::vector<int> mShortWords;         //!< the words that the search for short words finds, by their number there
+    std::vector<FAnchorFilter> mFilters;  //!< the first one also finds bytes that aren't ASCII
+    qint64 mLongest = 0;                  //!< maximum number of bytes of a word in a text
+    bool mHard = false;                   //!< there are words of which no filter has a piece
 };

@@ -2,19 +2,19 @@
 
 #include <algorithm>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 FAnchorWalk::FAnchorWalk(const FAnchorAutomaton& automaton, std::string_view text)
     : mAutomaton(automaton), mText(text), mEnds(automaton.byLength().size(), {-1, -1}) {}
 
-// Only the longest word is noted on the way; what ends inside of it is found by finish().
+// Records only the longest word at each place; finish() adds its suffixes.
 qint64 FAnchorWalk::walk(qint64 begin, qint64 over) {
-    int state = FAnchorAutomaton::Start;
+    int state = FAnchorAutomaton::startState;
     qint64 offset = begin;
-    while (offset < size() && (offset <= over || state != FAnchorAutomaton::Start)) {
+    while (offset < size() && (offset <= over || state != FAnchorAutomaton::startState)) {
         state = mAutomaton.next(state, FUtf8::foldCase(FUtf8::next(mText, offset)));
         const int word = mAutomaton.wordAt(state);
-        if (word != FAnchorAutomaton::None) {
+        if (word != FAnchorAutomaton::noWord) {
             note(word, offset, offset);
         }
     }
@@ -26,7 +26,7 @@ const std::vector<FByteRange>& FAnchorWalk::finish() {
     for (auto word = words.rbegin(); word != words.rend(); ++word) {
         const FByteRange& ends = mEnds[static_cast<size_t>(*word)];
         const int inside = mAutomaton.wordInside(*word);
-        if (inside != FAnchorAutomaton::None && ends.begin >= 0) {
+        if (inside != FAnchorAutomaton::noWord && ends.begin >= 0) {
             note(inside, ends.begin, ends.end);
         }
     }

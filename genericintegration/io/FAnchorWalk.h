@@ -7,8 +7,8 @@
 #include "genericintegration/io/FByteRange.h"
 
 /**
- * Walks an automaton over parts of a text and notes where each of its words ends first and last. Time is linear in
- * what is walked over, however many words end at a place.
+ * Feeds parts of a text to an automaton and records the first and the last end of each word. Time is linear in the
+ * size of the parts, however many words end at a place.
  */
 class FAnchorWalk {
  public:
@@ -17,13 +17,13 @@ class FAnchorWalk {
 
     qint64 size() const { return static_cast<qint64>(mText.size()); }
 
-    /** Walks from one place over another, and on until no word has begun or the text ends. Gives where it ended. */
+    /** Walks from `begin` to `over` and on until no word is pending or the text ends. Returns where it stopped. */
     qint64 walk(qint64 begin, qint64 over);
 
-    /** Notes ends of a word that were found in another way. */
+    /** Records ends of a word that were found by other means. */
     void note(int word, qint64 first, qint64 last);
 
-    /** The ends of the first and the last occurrence of each word that were walked over or noted; -1 for none. */
+    /** The ends of the first and the last recorded occurrence of each word; -1 for none. */
     const std::vector<FByteRange>& finish();
 
  private:

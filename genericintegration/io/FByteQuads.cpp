@@ -14,13 +14,13 @@ void setBit(unsigned char& bits, size_t bit, bool on) {
 }
 
 bool isReadable(std::string_view text, qint64 offset) {
-    return offset >= 0 && offset + FByteQuads::ReadSize <= static_cast<qint64>(text.size());
+    return offset >= 0 && offset + FByteQuads::readSize <= static_cast<qint64>(text.size());
 }
 
 }  // namespace
 
 void FByteQuads::assign(size_t number, const FQuadSet& set) {
-    for (size_t i = 0; i < FQuadSet::Length; ++i) {
+    for (size_t i = 0; i < FQuadSet::length; ++i) {
         for (size_t half = 0; half < mLow[i].size(); ++half) {
             setBit(mLow[i][half], number, set.hasLow(i, half));
             setBit(mHigh[i][half], number, set.hasHigh(i, half));
@@ -30,7 +30,7 @@ void FByteQuads::assign(size_t number, const FQuadSet& set) {
 
 unsigned char FByteQuads::setsAt(const char* place) const {
     unsigned char sets = 0xFF;
-    for (size_t i = 0; i < FQuadSet::Length && sets != 0; ++i) {
+    for (size_t i = 0; i < FQuadSet::length && sets != 0; ++i) {
         const unsigned char byte = static_cast<unsigned char>(place[i]);
         sets = static_cast<unsigned char>(sets & mLow[i][byte & 0x0F] & mHigh[i][byte >> 4]);
     }
@@ -53,12 +53,12 @@ qint64 FByteQuads::nextPlainly(std::string_view text, qint64 offset, qint64 step
 
 #if defined(__x86_64__)
 
-// A table of sixteen bytes fits into a register, and one instruction looks up 32 bytes in it.
+// A table of 16 bytes fits into a register, and one instruction looks up 32 bytes in it.
 __attribute__((target("avx2"))) qint64 FByteQuads::nextQuickly(std::string_view text, qint64 offset, qint64 step,
                                                                Block& met) const {
-    __m256i low[FQuadSet::Length];
-    __m256i high[FQuadSet::Length];
-    for (size_t i = 0; i < FQuadSet::Length; ++i) {
+    __m256i low[FQuadSet::length];
+    __m256i high[FQuadSet::length];
+    for (size_t i = 0; i < FQuadSet::length; ++i) {
         __m128i halves;
         std::memcpy(&halves, mLow[i].data(), sizeof halves);
         low[i] = _mm256_broadcastsi128_si256(halves);
@@ -68,7 +68,7 @@ __attribute__((target("avx2"))) qint64 FByteQuads::nextQuickly(std::string_view 
     const __m256i half = _mm256_set1_epi8(0x0F);
     for (; isReadable(text, offset); offset += step) {
         __m256i sets = _mm256_set1_epi8(-1);
-        for (size_t i = 0; i < FQuadSet::Length; ++i) {
+        for (size_t i = 0; i < FQuadSet::length; ++i) {
             __m256i bytes;
             std::memcpy(&bytes, text.data() + offset + i, sizeof bytes);
             const __m256i lower = _mm256_and_si256(bytes, half);

@@ -7,33 +7,33 @@
 
 #include "genericintegration/io/FQuadSet.h"
 
-/** Up to eight sets of four bytes in a row, which a text is compared with at 32 places at a time. */
+/** Compares a text with up to eight sets of four consecutive bytes, at 32 places at a time. */
 class FByteQuads {
  public:
-    static constexpr size_t SetCount = 8;
-    static constexpr qint64 BlockSize = 32;
-    /** Bytes that the comparison of a block reads. */
-    static constexpr qint64 ReadSize = BlockSize + qint64(FQuadSet::Length) - 1;
+    static constexpr size_t setCount = 8;
+    static constexpr qint64 blockSize = 32;
+    /** Number of bytes that the comparison of a block reads. */
+    static constexpr qint64 readSize = blockSize + qint64(FQuadSet::length) - 1;
 
-    /** What was met in a block. */
+    /** The hits in a block. */
     struct Block {
-        quint32 places = 0;                           //!< a bit for each place
-        std::array<unsigned char, BlockSize> sets{};  //!< of each place, a bit for each set
+        quint32 places = 0;                           //!< a bit for each place with a hit
+        std::array<unsigned char, blockSize> sets{};  //!< for each place, a bit for each set that matches
     };
 
-    /** Whether the processor compares many places at once. Without that, this is slow. */
+    /** Whether the processor compares many places at once; otherwise this class is slow. */
     static bool isQuick();
 
-    /** Puts a set in the place of another. */
+    /** Replaces a set. */
     void assign(size_t number, const FQuadSet& set);
 
     /**
-     * The first block with something met, of those that begin at an offset and each step further; the step may be
-     * negative. Gives the block's offset; -1 for none. Blocks that can't be read wholly are left out.
+     * Finds the first block with a hit, of those that start at an offset and at each step from it; the step may be
+     * negative. Returns the offset of the block, or -1 for none. Skips blocks that can't be read in full.
      */
     qint64 next(std::string_view text, qint64 offset, qint64 step, Block& met) const;
 
-    /** The same, without help of the processor. */
+    /** Does the same without special instructions of the processor. */
     qint64 nextPlainly(std::string_view text, qint64 offset, qint64 step, Block& met) const;
 
  private:
@@ -42,6 +42,7 @@ class FByteQuads {
     qint64 nextQuickly(std::string_view text, qint64 offset, qint64 step, Block& met) const;
     unsigned char setsAt(const char* place) const;
 
-    std::array<Halves, FQuadSet::Length> mLow{};  //!< by index and lower half of a byte, a bit for each set that has it
-    std::array<Halves, FQuadSet::Length> mHigh{};
+    std::array<Halves, FQuadSet::length>
+        mLow{};  //!< by index and lower half of a byte: a bit for each set that contains it
+    std::array<Halves, FQuadSet::length> mHigh{};
 };

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-/** A part of a text, as offsets of bytes. */
+/** A part of a text, as byte offsets. */
 struct FByteRange {
     qint64 begin = 0;
     qint64 end = 0;

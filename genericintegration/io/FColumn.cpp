@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "genericintegration/io/FNumberPattern.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FSuspicion.h"
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 
 FColumn FColumn::missing(qint64 offset, FFoundFlags flags) {
     FColumn column;

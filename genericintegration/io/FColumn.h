@@ -7,24 +7,24 @@
 
 class FResultText;
 
-/** A column of a line, or that it is missing. */
+/** A column of a line, which may be missing. */
 struct FColumn {
     bool exists = false;
     bool isNumber = false;
     double number = std::numeric_limits<double>::quiet_NaN();
-    FByteRange range{};   //!< in the whole text: the column, if it was found as a number; else a place before it
-    QString text{};       //!< of a column that wasn't found as a number
-    int units = 0;        //!< UTF-16 units from the range's begin to the column's
-    FFoundFlags flags{};  //!< the suspicious ones
+    FByteRange range{};   //!< in the whole text: the column if it was found as a number; else an empty range before it
+    QString text{};       //!< of a column between separators
+    int units = 0;        //!< UTF-16 units from the start of the range to the column
+    FFoundFlags flags{};  //!< only suspiciousFlags
 
     static FColumn missing(qint64 offset, FFoundFlags flags);
 
-    /** A number; its text isn't decoded before it is needed. */
+    /** A number. Its text is decoded only when needed. */
     static FColumn found(std::string_view text, FByteRange number, FFoundFlags flags);
 
-    /** The text between separators, which is read as a number. */
+    /** A text between separators, which is read as a number. */
     static FColumn found(const QString& text, qint64 offset, int units);
 
-    /** The column as what was found in a text, with its place there. Its line is numbered from 0. */
+    /** The column as a result of the search in a text. The line is numbered from 0. */
     FFoundValue value(const FResultText& in, qint64 line, qint64 lineBegin) const;
 };

@@ -4,7 +4,7 @@
 
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSuspicion.h"
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 FColumnCursor::FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator, bool mayBeSuspicious)
     : mText(text),

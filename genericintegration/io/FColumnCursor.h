@@ -11,19 +11,20 @@
 #include "genericintegration/io/FSeparatorWalk.h"
 
 /**
- * Finds the columns of one line as findValue does, and goes over none of them twice. While numbers are found, nothing
- * else is decoded. White space at the line's begin is passed over.
+ * Finds the columns of one line as FGenIntReader::findValue does, and passes over each only once. In find-numbers mode
+ * it decodes nothing but the numbers. It skips white space at the start of the line.
  */
 class FColumnCursor {
  public:
     /**
-     * A null separator: numbers are found. Text and separator must outlive this object. What FSuspicion would find
-     * between numbers is looked for only if there may be something.
+     * A null separator means find-numbers mode. Text and separator must outlive this object.
+     *
+     * @param mayBeSuspicious  false if FSuspicion::ofText() can't find anything in the line, to save the check
      */
     FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator, bool mayBeSuspicious = true);
     Q_DISABLE_COPY_MOVE(FColumnCursor)
 
-    /** One of the columns. Those asked for mustn't descend; one below 0 is 0. */
+    /** Returns a column; below 0 counts as 0. Each call must be for the same column as the last one, or a later one. */
     FColumn seek(int column);
 
  private:
@@ -33,10 +34,10 @@ class FColumnCursor {
 
     std::string_view mText;
     FByteRange mLine;
-    FByteRange mNumber;  //!< the last one passed
+    FByteRange mNumber;  //!< the last number passed
     QString mDecoded;
     std::optional<FSeparatorWalk> mWalk;
-    int mPassed = 0;  //!< numbers or separators
+    int mPassed = 0;  //!< number of numbers or separators passed
     bool mEnded = false;
     bool mMayBeSuspicious;
     FFoundFlags mFlags{};

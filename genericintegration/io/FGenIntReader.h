@@ -1,6 +1,5 @@
 #pragma once
 
-#include "genericintegration/io/FFoundValue.h"
 #include "host/core/FClass.h"
 #include "host/core/FExpr.h"
 #include "host/core/FObjectList.h"
@@ -9,7 +8,10 @@
 #include <QRegExp>
 #include <QString>
 
-class FGenIntFile;
+#include <memory>
+#include <optional>
+
+class QFile;
 class FGenIntResultsFile;
 class FGenIntResultsFileValue;
 class FResultText;
@@ -17,39 +19,48 @@ class FResultsGeneric;
 class FTableData;
 
 /**
- * The road from an output file of the external program to numbers: takes the text, finds each value that the template
- * describes, and fills a table with one row for each. There is one reader; between calls it keeps only what the last
- * file import brought.
+ * Reads the numbers of an output file: finds each value that a result template describes and fills a table with one row
+ * for each. There is one reader; between calls it keeps only the objects of the last file import.
  */
 class FGenIntReader : public FClass<FGenIntReader, FObject> {
  public:
     static FClassData mClass;
     static FGenIntReader* instance();
 
-    /** Adds a table named after the template's file and fills it. An empty template does nothing. */
-    virtual void readResults(const FExpr<FGenIntResultsFile>& file, const FExpr<FResultsGeneric>& results,
-                             const QString& directory);
     /**
-     * Fills the table, whose one column holds the numbers, NaN where none was found, with the values' names as headers.
-     * An empty directory stands for the template's own sample text. A file that can't be read, or an empty text, leaves
-     * the table as it was, with a message.
+     * Fills the table. Its one column holds the numbers, NaN where none was found, under the names of the values. An
+     * empty directory means the template's own sample text. A file that can't be read or an empty text is reported in
+     * the log and leaves the table unchanged.
      */
     virtual void parseFile(const FExpr<FGenIntResultsFile>& file, FTableData* table, const QString& directory);
-    /** Brings values into the order of the table; other elements drop out. An empty text changes nothing. */
+    /** Adds a table named after the template's file to the results and fills it. Does nothing without a template. */
+    virtual void readResults(const FExpr<FGenIntResultsFile>& file, const FExpr<FResultsGeneric>& results,
+                             const QString& directory);
+    /** Puts values into the order of the table; other elements are removed. An empty text changes nothing. */
     virtual void sortValues(std::vector<FExpr<FObject>>& values, const QString& text);
-    /** See the function of this name in findValue.h. */
+    /**
+     * Finds a column of one line of text. With findNumbers, the pattern of a number is loaded into the separator, and
+     * column n is the number after n others; otherwise it is the text between the n-th separator and the next one or
+     * the end of the line. If `line` is 0, the search starts after the anchor, if one is given.
+     *
+     * Sets start and length of the column, in UTF-16 units. Returns the length, or -1 if the line has no such column:
+     * then the length is 0, and the start is -1 if there were fewer than n separators or numbers.
+     */
     virtual int findValue(int& start, int& length, QRegExp& separator, int line, const QString& anchor,
                           const QString& text, int column, bool findNumbers);
-    /** Index of the value's anchor in the text, by its occurrence and in any case; -1 without one or if there is none.
+    /**
+     * Index of the value's anchor in the text: the first or last place, by its occurrence, in any case. -1 if the value
+     * has no anchor or the text doesn't contain it.
      */
     int getAnchorPosition(const FGenIntResultsFileValue& value, const QString& text) const;
 
-    /** What the last file import brought, by name. Emptied at the start of each `parseFile`. */
+    /** The objects of the last file import, by name. Each `parseFile` discards them. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const { return mImportedObjects; }
 
  private:
-    bool readText(const FGenIntResultsFile& file, const QString& directory, FResultText& text) const;
-    bool import(const FGenIntResultsFileValue& value, const QString& directory, const QString& found);
+    std::optional<FResultText> readText(const FGenIntResultsFile& file, const QString& directory) const;
+    std::unique_ptr<QFile> openFile(const FGenIntResultsFile& file, const QString& directory) const;
+    void importFile(const FGenIntResultsFileValue& value, const QString& directory, const QString& name);
 
     QHash<QString, FExpr<FObject>> mImportedObjects;
 };

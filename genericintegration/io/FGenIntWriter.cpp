@@ -22,7 +22,7 @@ FClassData FGenIntWriter::mClass("FGenIntWriter", &FObject::mClass);
 
 namespace {
 
-/** Files may be larger than a text can be; what is looked at on a screen needn't be. */
+/** In UTF-16 units. Files may be larger than a QString; a preview doesn't need to be. */
 constexpr int longestPreview = 200'000'000;
 
 QString source() {
@@ -41,7 +41,7 @@ bool openForWriting(QFile& file, const QString& name) {
     }
     const QString path = file.fileName();
     const int separator = lastSeparator(path);
-    // Most folders are there, which an open file shows sooner than a look for the folder.
+    // Most folders exist; opening the file is faster than checking for the folder.
     if (separator >= 0 && path[separator] == u'/' && FSafePath::openForWriting(file)) {
         return true;
     }
@@ -49,7 +49,7 @@ bool openForWriting(QFile& file, const QString& name) {
     return FSafePath::openForWriting(file);
 }
 
-/** Files that values name reach the disk now. */
+/** Updates the values that are file names, which writes those files. */
 void updateFileNames(const FValueTable& table) {
     for (const FEntry* entry : table.getFileNameEntries()) {
         const FObject* value = entry->getValue().getObject();
@@ -64,7 +64,7 @@ void updateFileNames(const FValueTable& table) {
 FGenIntWriter* FGenIntWriter::instance() {
     static FGenIntWriter* writer = [] {
         auto* fresh = new FGenIntWriter;
-        fresh->setOwnedElsewhere();  // a handle that ends must not take it along
+        fresh->setOwnedElsewhere();  // the last handle on it mustn't delete it
         return fresh;
     }();
     return writer;

@@ -15,26 +15,26 @@ class FTemplateOwner;
 class FValueTable;
 
 /**
- * Turns the input templates of a definition into text, with the values of one configuration in place of the tags. There
- * is one writer; it keeps nothing between calls.
+ * Writes the input templates of a definition with the values of one configuration in place of the tags. There is one
+ * writer; it keeps nothing between calls.
  */
 class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
  public:
     static FClassData mClass;
     static FGenIntWriter* instance();
 
+    /** Puts the text of each input file into the map, under its file name. Touches no file. */
+    virtual bool previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts);
     /**
-     * Writes all input files. The directory ends in a separator. False, with the reason in the log, if there is no
-     * definition or a file can't be written; files that are written already stay.
+     * Writes all input files. The directory ends in a separator. Returns false and logs the reason if there is no
+     * definition or a file can't be written; files that have been written by then stay.
      */
     virtual bool exportCommandFiles(const FExpr<FConfiguration>& configuration, const QString& directory);
-    /** Puts the text of each file into the map, under its file name. No file is touched. */
-    virtual bool previewCommandFiles(const FExpr<FConfiguration>& configuration, QMap<QString, QString>& texts);
     /** Appends the name of each tag of a template, repeats included. */
     virtual void getTagNames(const FExpr<FGenIntFile>& file, QStringList& names);
 
     using Output = std::function<void(QStringView piece)>;
-    /** Writes one text. A tag that names nothing is left out, with a message that names the configuration. */
+    /** Writes one text. Drops a tag that names nothing, with a message that names the configuration. */
     void writeTemplate(const Output& output, const QString& text, const FValueTable& table,
                        const FExpr<FConfiguration>& configuration, bool forceWindowsLineEndings) const;
 

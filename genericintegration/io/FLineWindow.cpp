@@ -1,6 +1,6 @@
 #include "genericintegration/io/FLineWindow.h"
 
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 qint64 FLineWindow::count() const {
     if (mPart.size() == 0) {
@@ -19,7 +19,7 @@ std::optional<FByteRange> FLineWindow::line(qint64 number) const {
     return withoutEnd(begin, lineFeed < 0 || lineFeed > mPart.end ? mPart.end : lineFeed);
 }
 
-// To the next few lines, it isn't far.
+// The next few lines are found faster one by one.
 qint64 FLineWindow::lineBegin(qint64 number) const {
     constexpr qint64 few = 8;
     const FTextIndex& index = mText.index();
@@ -36,7 +36,7 @@ qint64 FLineWindow::lineBegin(qint64 number) const {
 
 FByteRange FLineWindow::lineFrom(qint64& offset) const {
     const qint64 begin = offset;
-    // Files with millions of empty lines exist; a search for each end would cost more than they do.
+    // Files with millions of empty lines exist, and a search is slower than this check.
     if (mText.text()[static_cast<size_t>(begin)] == '\n') {
         ++offset;
         return {begin, begin};

@@ -9,8 +9,8 @@
 class FResultText;
 
 /**
- * A part of a text, seen as lines in the way of a text stream: a line ends at LF or CR LF; a CR at the end of all
- * isn't part of the last line; behind an LF at the end of all there is no further line.
+ * The lines of a part of a text, as a QTextStream reads them: a line ends at LF or CR LF; a CR at the end of the part
+ * isn't part of the last line; no line follows an LF at the end of the part.
  */
 class FLineWindow {
  public:
@@ -20,13 +20,11 @@ class FLineWindow {
     /** Number of lines. */
     qint64 count() const;
 
-    /**
-     * A line, from 0, without its end; nothing beyond the last one. The cost doesn't depend on where and how long it
-     * is.
-     */
+    /** A line, numbered from 0, without its end; none after the last one. Takes constant time. */
     std::optional<FByteRange> line(qint64 number) const;
 
-    /** The line that begins at an offset of the window. The offset is moved to the next one, or to the window's end. */
+    /** The line that starts at an offset of the window. Moves the offset to the next line, or to the end of the window.
+     */
     FByteRange lineFrom(qint64& offset) const;
 
  private:

@@ -7,7 +7,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 namespace FNumberPattern {
 namespace {
@@ -16,7 +16,7 @@ constexpr quint64 everyByte(unsigned char byte) {
     return byte * 0x0101010101010101U;
 }
 
-/** Of eight bytes, the upper bit of each that a number may begin with: from '+' to '9', or not ASCII. */
+/** Sets the upper bit of each of eight bytes that a number may start with: from '+' to '9', or not ASCII. */
 quint64 beginnings(quint64 bytes) {
     const quint64 ascii = bytes & everyByte(0x7F);
     const quint64 fromPlus = ascii + everyByte(0x80 - '+');
@@ -24,7 +24,7 @@ quint64 beginnings(quint64 bytes) {
     return ((fromPlus & ~behindNine) | bytes) & everyByte(0x80);
 }
 
-/** The first place, from an offset on, where a number may begin, or where fewer than eight bytes are left. */
+/** The first place, at or after an offset, where a number may start or fewer than eight bytes are left. */
 qint64 skip(std::string_view line, qint64 offset) {
     constexpr qint64 step = 8;
     for (; offset + step <= static_cast<qint64>(line.size()); offset += step) {
@@ -36,12 +36,12 @@ qint64 skip(std::string_view line, qint64 offset) {
     return offset;
 }
 
-/** Reads a number in a line. */
+/** Finds the end of a number in a line. */
 class FNumberScan {
  public:
     explicit FNumberScan(std::string_view line) : mLine(line) {}
 
-    /** End of the number that begins at an offset; the offset for none. */
+    /** End of the number that starts at an offset; the offset itself if there is none. */
     qint64 numberEnd(qint64 begin) const {
         const qint64 whole = behindSign(begin);
         qint64 end = digitsEnd(whole);
@@ -109,7 +109,7 @@ FByteRange next(std::string_view line, qint64 offset) {
     return {-1, -1};
 }
 
-// Both ways round correctly. Only a QString's own reading tells whether what is tiny counts as out of range.
+// Both functions round correctly, but only QString decides whether a tiny number is out of range.
 std::optional<double> toDouble(std::string_view number) {
     const char* const end = number.data() + number.size();
     double value = 0;

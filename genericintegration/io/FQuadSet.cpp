@@ -3,7 +3,7 @@
 #include <bit>
 
 FQuadSet::FQuadSet(const FShortWord& word) {
-    for (size_t i = 0; i < Length; ++i) {
+    for (size_t i = 0; i < length; ++i) {
         const qint64 at = word.quad() + static_cast<qint64>(i);
         if (at < word.size()) {
             add(i, word.small(at));
@@ -21,7 +21,7 @@ void FQuadSet::add(size_t index, unsigned char byte) {
 }
 
 FQuadSet& FQuadSet::operator|=(const FQuadSet& other) {
-    for (size_t i = 0; i < Length; ++i) {
+    for (size_t i = 0; i < length; ++i) {
         mLow[i] |= other.mLow[i];
         mHigh[i] |= other.mHigh[i];
     }
@@ -30,7 +30,7 @@ FQuadSet& FQuadSet::operator|=(const FQuadSet& other) {
 
 double FQuadSet::size() const {
     double size = 1;
-    for (size_t i = 0; i < Length; ++i) {
+    for (size_t i = 0; i < length; ++i) {
         size *= std::popcount(mLow[i]) * std::popcount(mHigh[i]);
     }
     return size;

@@ -8,29 +8,29 @@
 #include "genericintegration/io/FShortWord.h"
 
 /**
- * A set of four bytes in a row that is told by the halves of the bytes: it has each row whose halves each stand in
- * that place of some row that was added.
+ * A set of quads (four consecutive bytes) that keeps only the halves of the bytes: it contains each quad of which every
+ * half occurs in that position of an added quad.
  */
 class FQuadSet {
  public:
-    static constexpr size_t Length = FShortWord::QuadSize;
+    static constexpr size_t length = FShortWord::quadSize;
 
     FQuadSet() = default;
-    /** The rows by which a word is looked for: in any case, any bytes behind it. */
+    /** The quads that the search for a word looks for: in any case, with any bytes after a short word. */
     explicit FQuadSet(const FShortWord& word);
 
     FQuadSet& operator|=(const FQuadSet& other);
 
-    /** Number of rows; up to 2^32. */
+    /** Number of quads; up to 2^32. */
     double size() const;
 
-    /** Whether the set has a byte with such a half at an index. */
+    /** Whether a quad of the set has a byte with such a half at an index. */
     bool hasLow(size_t index, size_t half) const { return (mLow[index] >> half & 1) != 0; }
     bool hasHigh(size_t index, size_t half) const { return (mHigh[index] >> half & 1) != 0; }
 
  private:
     void add(size_t index, unsigned char byte);
 
-    std::array<quint16, Length> mLow{};  //!< a bit for each lower half of a byte
-    std::array<quint16, Length> mHigh{};
+    std::array<quint16, length> mLow{};  //!< a bit for each lower half of a byte
+    std::array<quint16, length> mHigh{};
 };

@@ -6,19 +6,19 @@
 
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FLineWindow.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FSuspicion.h"
+#include "host/run/FResultText.h"
 
 namespace {
 
-// A line feed at the very begin leaves no place before it, and the place after that is the text's end.
+// Before a line feed at offset 0 there is no place to count from, and counting continues at the end of the text.
 qint64 rowsBegin(const FResultText& text, quint32 rows) {
     if (text.trimmedSize() == 0) {
         return 0;
     }
     const qint64 lineFeeds = text.index().lineAt(text.trimmedSize());
-    const bool startsAnew = text.text().front() == '\n';
-    const qint64 counted = startsAnew && lineFeeds > 0 ? rows % lineFeeds : rows;
+    const bool startsWithLineFeed = text.text().front() == '\n';
+    const qint64 counted = startsWithLineFeed && lineFeeds > 0 ? rows % lineFeeds : rows;
     if (counted > lineFeeds || (counted == 0 && rows > 0)) {
         return 0;
     }
@@ -40,7 +40,7 @@ void FRowAverages::read(std::vector<FFoundValue>& found) {
     }
 }
 
-// Each average begins with a line, or at the line feed before it, so that the lines are the same for all.
+// Each average starts at a line or at the line feed before it, so that all averages see the same lines.
 void FRowAverages::readRows() {
     const qint64 size = mText.trimmedSize();
     qint64 offset = size;

@@ -11,21 +11,21 @@ class FResultText;
 class QRegExp;
 
 /**
- * Averages of columns over a text's last rows. All of them are read in one walk over the rows.
+ * Averages of columns over the last rows of a text, all read in one pass over the rows.
  *
- * A row is a line with a number in the column. The rows wished are looked for in as many last lines, the white space
- * at the text's end left out; with fewer lines than that, in all of them. But if the text begins with a line feed, the
- * lines that are wished beyond the text's are counted off from its end anew.
+ * A row is a line with a number in the column. An average over N rows reads the last N lines of the text without its
+ * trailing white space, or all lines if there are fewer. But if the text starts with a line feed and N exceeds the
+ * number of lines, counting continues from the end of the text again.
  */
 class FRowAverages {
  public:
-    /** A null separator: numbers are found. Text and separator must outlive this object. */
+    /** A null separator means find-numbers mode. Text and separator must outlive this object. */
     FRowAverages(const FResultText& text, const QRegExp* separator) : mText(text), mSeparator(separator) {}
 
-    /** Wishes an average for one of some values. */
+    /** Adds the average for a value, given by its index. */
     void add(size_t value, int column, quint32 rows);
 
-    /** Reads all averages wished and puts them in the place of their values. */
+    /** Reads all averages and stores each at the index of its value. */
     void read(std::vector<FFoundValue>& found);
 
  private:

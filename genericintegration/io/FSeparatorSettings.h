@@ -3,13 +3,13 @@
 #include <QRegExp>
 #include <QString>
 
-/** How a line is cut into columns. */
+/** How a line is divided into columns. */
 struct FSeparatorSettings {
-    bool findNumbers = true;      //!< column n is number n of the line; the others are then ignored
+    bool findNumbers = true;      //!< column n is number n of the line; the other settings are ignored
     bool spacesAndTabs = false;   //!< white space separates columns
-    QString regularExpression{};  //!< separates columns, beside white space if that is set, too
+    QString regularExpression{};  //!< separates columns, as does white space if that is set as well
 
-    /** What separates columns: empty while numbers are found. One that isn't valid never matches. */
+    /** The pattern of a separator; empty in find-numbers mode. An invalid pattern never matches. */
     QRegExp pattern() const;
 
     bool operator==(const FSeparatorSettings&) const = default;

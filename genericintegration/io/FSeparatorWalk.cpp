@@ -6,12 +6,12 @@ bool FSeparatorWalk::pass(int count) {
         if (match < 0) {
             return false;
         }
-        const int behind = match + mSeparator.matchedLength();
-        // An empty match in the same place will come again each time.
-        if (behind == mStart) {
+        const int after = match + mSeparator.matchedLength();
+        // An empty match at the same place repeats forever.
+        if (after == mStart) {
             return true;
         }
-        mStart = behind;
+        mStart = after;
     }
     return true;
 }

@@ -3,20 +3,20 @@
 #include <QRegExp>
 #include <QString>
 
-/** Walks over the separators of a line, or over its numbers. */
+/** Passes over the separators of a line. */
 class FSeparatorWalk {
  public:
     /** Separator and text must outlive this object. */
     FSeparatorWalk(const QRegExp& separator, const QString& text, int start = 0)
         : mSeparator(separator), mText(text), mStart(start) {}
 
-    /** Passes as many separators. False when there are fewer. */
+    /** Passes a number of separators. False if there are fewer. */
     bool pass(int count);
 
-    /** Where the last passed separator ended. */
+    /** End of the last separator that was passed. */
     int start() const { return mStart; }
 
-    /** Where the next separator begins, or -1. */
+    /** Start of the next separator, or -1. */
     int next() const { return mSeparator.indexIn(mText, mStart); }
 
  private:

@@ -5,12 +5,12 @@
 #include "genericintegration/io/FAnchorFilter.h"
 
 bool FShortWord::canBe(std::u32string_view word) {
-    return word.size() <= Longest && FAnchorFilter::asciiRun(word) == static_cast<qint64>(word.size());
+    return word.size() <= longest && FAnchorFilter::asciiRun(word) == static_cast<qint64>(word.size());
 }
 
 FShortWord::FShortWord(std::u32string_view word, size_t number)
     : mSize(static_cast<qint64>(word.size())),
-      mQuad(static_cast<qint64>(FAnchorFilter::rarestPart(word, std::min(word.size(), QuadSize)))),
+      mQuad(static_cast<qint64>(FAnchorFilter::rarestPart(word, std::min(word.size(), quadSize)))),
       mNumber(number) {
     for (size_t i = 0; i < word.size(); ++i) {
         mBytes |= quint64(word[i]) << (8 * i);
@@ -24,6 +24,6 @@ FShortWord::FShortWord(std::u32string_view word, size_t number)
 void FShortWord::avoidOthers() {
     constexpr double heavier = 16;
     mWeight *= heavier;
-    const qint64 quads = std::max<qint64>(mSize - static_cast<qint64>(QuadSize) + 1, 1);
+    const qint64 quads = std::max<qint64>(mSize - static_cast<qint64>(quadSize) + 1, 1);
     mQuad = (mQuad + 1) % quads;
 }

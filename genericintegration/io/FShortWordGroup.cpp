@@ -7,7 +7,7 @@ namespace {
 
 using Groups = std::vector<FShortWordGroup>;
 
-/** What one group instead of two next to each other would cost: quads of neither. */
+/** Cost of joining a group with the next one: the number of quads that belong to neither. */
 double costOfJoining(const Groups& groups, size_t first) {
     const FShortWordGroup& left = groups[first];
     const FShortWordGroup& right = groups[first + 1];
@@ -27,8 +27,8 @@ void joinNext(Groups& groups, size_t first) {
 
 }  // namespace
 
-// In their order, words that begin alike are next to each other; only such groups are joined.
-Groups FShortWordGroup::make(std::vector<FShortWord> words, size_t most) {
+// Sorting makes words with similar starts adjacent; only adjacent groups are joined.
+Groups FShortWordGroup::make(std::vector<FShortWord> words, size_t maxGroups) {
     std::sort(words.begin(), words.end(),
               [](const FShortWord& left, const FShortWord& right) { return left.rank() < right.rank(); });
     Groups groups;
@@ -40,7 +40,7 @@ Groups FShortWordGroup::make(std::vector<FShortWord> words, size_t most) {
     for (size_t i = 0; i + 1 < groups.size(); ++i) {
         costs.push_back(costOfJoining(groups, i));
     }
-    while (groups.size() > most) {
+    while (groups.size() > maxGroups) {
         const auto least = std::min_element(costs.begin(), costs.end());
         const size_t first = static_cast<size_t>(least - costs.begin());
         joinNext(groups, first);

@@ -11,15 +11,15 @@ FShortWordPass::FShortWordPass(std::string_view text, std::vector<FShortWord> wo
 }
 
 void FShortWordPass::makeGroups(std::vector<FShortWord> words) {
-    mGroups = FShortWordGroup::make(std::move(words), FByteQuads::SetCount);
+    mGroups = FShortWordGroup::make(std::move(words), FByteQuads::setCount);
     mQuads = {};
     for (size_t number = 0; number < mGroups.size(); ++number) {
         mQuads.assign(number, mGroups[number].quads);
     }
 }
 
-// With other quads, words that begin before a place and have their quad behind it could be missed, if no bytes were
-// looked at again.
+// After a change of quads, a word that starts before the current place and has its new quad there could be missed;
+// therefore a few bytes are searched again.
 std::vector<FShortWord> FShortWordPass::run(qint64 offset, qint64 step) {
     mForward = step > 0;
     FByteQuads::Block met;
@@ -27,7 +27,7 @@ std::vector<FShortWord> FShortWordPass::run(qint64 offset, qint64 step) {
         checkBlock(met, offset);
         offset += step;
         if (mIsVain) {
-            offset -= static_cast<qint64>(FShortWord::Longest);
+            offset -= static_cast<qint64>(FShortWord::longest);
         }
         if (mIsVain || mIsGroupEmpty) {
             regroup();
@@ -68,7 +68,7 @@ void FShortWordPass::checkGroup(qint64 place, size_t number) {
     mIsVain |= mForward && !found && ++group.vainly >= mMostVainly;
 }
 
-// What an empty group leaves over is of use to the others. There may be no better groups: it is tried ever less often.
+// The other groups can use the set of an empty one. Better groups may not exist, so each attempt doubles the limit.
 void FShortWordPass::regroup() {
     std::vector<FShortWord> words;
     for (FShortWordGroup& group : mGroups) {
@@ -86,7 +86,7 @@ void FShortWordPass::regroup() {
 }
 
 bool FShortWordPass::isAt(const FShortWord& word, qint64 begin) const {
-    const qint64 last = static_cast<qint64>(mText.size()) - static_cast<qint64>(FShortWord::Longest);
+    const qint64 last = static_cast<qint64>(mText.size()) - static_cast<qint64>(FShortWord::longest);
     return begin >= 0 && begin <= last && word.isAt(mText.data() + begin);
 }
 

@@ -7,18 +7,18 @@
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FShortWordGroup.h"
 
-/** One pass over a text that looks for short words, in either direction. */
+/** One pass over a text, in either direction, that searches for short words. */
 class FShortWordPass {
  public:
     /**
-     * A word found so often is looked for no longer. Text and ends, which have a place for the number of each word,
-     * must outlive this object.
+     * The search for a word ends once it was found `often` times. Text and ends must outlive this object; ends has an
+     * element for the number of each word.
      */
     FShortWordPass(std::string_view text, std::vector<FShortWord> words, int often, std::vector<FByteRange>& ends);
 
     /**
-     * The pass over the blocks from an offset on, each a step further. Widens the ends by those of the occurrences,
-     * and gives the words that were found so often.
+     * Passes over the blocks at an offset and at each step from it. Extends the ends by those of the occurrences.
+     * Returns the words that were found `often` times.
      */
     std::vector<FShortWord> run(qint64 offset, qint64 step);
 
@@ -33,12 +33,12 @@ class FShortWordPass {
     std::string_view mText;
     int mOften;
     std::vector<FByteRange>& mEnds;
-    std::vector<int> mCounts;  //!< by the words' numbers
+    std::vector<int> mCounts;  //!< by the number of the word
     FByteQuads mQuads;
     std::vector<FShortWordGroup> mGroups;
-    bool mForward = true;  //!< only then do words avoid others
+    bool mForward = true;  //!< otherwise words don't avoid the quads of others
     bool mIsGroupEmpty = false;
-    bool mIsVain = false;  //!< the quads of a group were met too often without one of its words
-    int mMostVainly = 64;  //!< how often is not too often
+    bool mIsVain = false;  //!< the quads of a group had too many hits without one of its words
+    int mMostVainly = 64;  //!< number of such hits that is too many
     std::vector<FShortWord> mCommon;
 };

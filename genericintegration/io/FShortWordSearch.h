@@ -8,22 +8,22 @@
 
 /**
  * Finds the first and the last occurrence of a few short words, for which FAnchorFilter would have to probe a text at
- * nearly every byte. Case is ignored; of the text, only ASCII characters are compared.
+ * nearly every byte. Ignores case, and compares only the ASCII characters of the text.
  *
- * A word that is often found is looked for no longer, but from the text's end. Time is linear in the text, whatever
- * stands in it; if all words are common, it is far less.
+ * A word that was found often is then searched from the end of the text. Time is linear in the text, whatever it
+ * contains, and far less if all words are common.
  */
 class FShortWordSearch {
  public:
-    static constexpr size_t MostWords = 64;
+    static constexpr size_t mostWords = 64;
 
-    /** A word that begins so many bytes before the text's end, or less, may be missed. */
-    static constexpr qint64 Margin = 64;
+    /** A word that starts this number of bytes or fewer before the end of the text may be missed. */
+    static constexpr qint64 margin = 64;
 
-    /** Adds a folded word; false if it isn't short or there are too many. */
+    /** Adds a folded word. Returns false if it isn't short or there are too many words. */
     bool add(std::u32string_view word);
 
-    /** By the order in which they were added, the ends of each word's first and last occurrence; -1 for none. */
+    /** The ends of the first and the last occurrence of each word, in the order of adding; -1 for none. */
     std::vector<FByteRange> find(std::string_view text) const;
 
  private:

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "genericintegration/io/FLineWindow.h"
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 namespace {
 
-// The first line is never counted: the second one is the furthest, whatever is wished.
+// The first line can't be reached: any line further up gives the second one.
 FSoughtLine upward(const FLineWindow& window, qint64 line) {
     FSoughtLine sought;
     const qint64 last = window.count() - 1;
@@ -25,7 +25,7 @@ FSoughtLine downward(const FLineWindow& window, qint64 line) {
     return sought;
 }
 
-/** The last line feed at a place or before it, or the text's end if there is none. */
+/** The last line feed at or before an offset, or the end of the text if there is none. */
 qint64 lineFeedBefore(const FResultText& text, qint64 offset) {
     if (text.text()[static_cast<size_t>(offset)] == '\n') {
         return offset;
@@ -45,7 +45,7 @@ FSoughtLine FSoughtLine::fromAnchor(const FResultText& text, FByteRange anchor, 
     if (line < 0) {
         return upward(FLineWindow(text, {0, lineFeedBefore(text, anchor.begin)}), line);
     }
-    // Where the text ends with the anchor, the rest of its line is empty, but it is there.
+    // If the text ends with the anchor, the rest of its line exists, but is empty.
     if (line == 0 && anchor.end == text.size()) {
         return {FByteRange{anchor.end, anchor.end}, {}};
     }

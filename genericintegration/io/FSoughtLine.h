@@ -9,15 +9,15 @@ class FResultText;
 
 /** The line that a value is read from. */
 struct FSoughtLine {
-    std::optional<FByteRange> range;  //!< nothing when there is no such line
+    std::optional<FByteRange> range;  //!< none if there is no such line
     FFoundFlags flags{};
 
-    /** Counted from the top of the trimmed text, or upward from its bottom for a line below 0: -1 is the last line. */
+    /** Counted down from the top of the trimmed text, or for a line below 0 up from its bottom: -1 is the last line. */
     static FSoughtLine inText(const FResultText& text, int line);
 
     /**
-     * Counted from an anchor: 0 is what stands behind it in its line. For a line below 0 upward from the line above
-     * the anchor's; but if there is none, from the bottom of the untrimmed text.
+     * Counted down from an anchor: 0 is the rest of its line, after the anchor. A line below 0 is counted up, -1 being
+     * the line above the anchor's; if there is none above, from the bottom of the untrimmed text.
      */
     static FSoughtLine fromAnchor(const FResultText& text, FByteRange anchor, int line);
 };

@@ -8,8 +8,8 @@
 namespace FSuspicion {
 namespace {
 
-// No number is printed with more characters; what is longer is of no use for a guess.
-constexpr qint64 Longest = 64;
+// Programs print no longer numbers.
+constexpr qint64 longest = 64;
 
 constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -26,7 +26,7 @@ constexpr bool isLetter(char c) {
 
 enum class Kind : unsigned char { Other, Digit, Letter, Star };
 
-constexpr std::array<Kind, 256> Kinds = [] {
+constexpr std::array<Kind, 256> kindsOfBytes = [] {
     std::array<Kind, 256> kinds{};
     for (size_t byte = 0; byte < 0x80; ++byte) {
         kinds[byte] = isLetter(static_cast<char>(byte))  ? Kind::Letter
@@ -38,19 +38,19 @@ constexpr std::array<Kind, 256> Kinds = [] {
 }();
 
 Kind kindOf(char c) {
-    return Kinds[static_cast<unsigned char>(c)];
+    return kindsOfBytes[static_cast<unsigned char>(c)];
 }
 
-/** Whether a word or a row of asterisks goes on. */
+/** Whether a word or a sequence of asterisks continues. */
 bool isSameRun(Kind kind, Kind next) {
     return next == kind || (kind == Kind::Letter && next == Kind::Digit);
 }
 
-/** The neighbourhood of a number. */
+/** The characters around a number. */
 class FSurroundings {
  public:
     FSurroundings(std::string_view text, FByteRange number)
-        : mText(text), mNumber(number), mDigits(number.of(text).substr(0, Longest)) {}
+        : mText(text), mNumber(number), mDigits(number.of(text).substr(0, longest)) {}
 
     FFoundFlags flags() const {
         FFoundFlags flags;
@@ -69,7 +69,7 @@ class FSurroundings {
     bool hasExponent() const { return mDigits.find_first_of("eE") != std::string_view::npos; }
 
     qint64 digitsEnd(qint64 offset) const {
-        const qint64 limit = offset + Longest;
+        const qint64 limit = offset + longest;
         while (offset < limit && isDigit(at(offset))) {
             ++offset;
         }
@@ -97,7 +97,7 @@ class FSurroundings {
         return (isSign(behind) || behind == '.') && isDigit(at(mNumber.end + 1));
     }
 
-    // With a further comma or a point next to them, the commas stand between numbers.
+    // With another comma or a point next to them, the commas separate numbers.
     bool hasCommaBehind() const {
         if (!isWhole() || at(mNumber.begin - 1) == ',' || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1))) {
             return false;
@@ -111,7 +111,7 @@ class FSurroundings {
             return false;
         }
         qint64 begin = mNumber.begin - 1;
-        while (mNumber.begin - begin < Longest && isDigit(at(begin - 1))) {
+        while (mNumber.begin - begin < longest && isDigit(at(begin - 1))) {
             --begin;
         }
         return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
@@ -163,11 +163,11 @@ FFoundFlags ofText(std::string_view text) {
     return flags;
 }
 
-// Without a branch for a byte, the compiler can look at many at once.
+// Without a branch for each byte, the compiler can vectorise the loop.
 bool mayBeIn(std::string_view text) {
-    constexpr size_t PartSize = 4096;
-    for (size_t begin = 0; begin + 1 < text.size(); begin += PartSize) {
-        const std::string_view part = text.substr(begin, PartSize + 2);
+    constexpr size_t partSize = 4096;
+    for (size_t begin = 0; begin + 1 < text.size(); begin += partSize) {
+        const std::string_view part = text.substr(begin, partSize + 2);
         unsigned char found = part.substr(part.size() - 2) == "**";
         for (size_t i = 0; i + 2 < part.size(); ++i) {
             const auto is = [&part, i](size_t ahead, char letter) -> unsigned char {
@@ -187,7 +187,7 @@ bool mayBeIn(std::string_view text) {
 }
 
 FFoundFlags ofColumn(const QString& text) {
-    const QByteArray bytes = text.left(static_cast<int>(Longest)).toUtf8();
+    const QByteArray bytes = text.left(static_cast<int>(longest)).toUtf8();
     const std::string_view view(bytes.constData(), static_cast<size_t>(bytes.size()));
     const FByteRange number = FNumberPattern::next(view, 0);
     return number.begin < 0 ? ofText(view) : ofText(view) | ofNumber(view, number);

@@ -7,19 +7,19 @@
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
 
-/** Finds signs that a number was cut, passed over, or is none. The signs change no result. */
+/** Finds signs that a number was cut off or skipped, or isn't a number. They don't change the number. */
 namespace FSuspicion {
 
-/** Of a number, from what stands right before and behind it in a text. */
+/** Signs right before and after a number in a text. */
 FFoundFlags ofNumber(std::string_view text, FByteRange number);
 
-/** Of text in which no number was found. */
+/** Signs in a text without a number. */
 FFoundFlags ofText(std::string_view text);
 
-/** Whether ofText() may find anything in a part of a text. This is quick, and errs on the side of yes. */
+/** Whether ofText() may find anything in a part of a text. Fast; may return true without need. */
 bool mayBeIn(std::string_view text);
 
-/** Of a column that isn't a finite number. */
+/** Signs in a column that isn't a finite number. */
 FFoundFlags ofColumn(const QString& text);
 
 }  // namespace FSuspicion

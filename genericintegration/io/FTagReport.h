@@ -4,24 +4,21 @@
 
 #include "genericintegration/templates/FTextPlaces.h"
 
-/** What became of a tag when its template was written. */
+/** Outcome for a tag when its template is written. */
 enum class FTagOutcome {
     Replaced,      //!< by the text of a row
-    Unknown,       //!< no row answers its name; nothing stands in its place
-    Unterminated,  //!< no closing marker: it and the rest of the template are lost
+    Unknown,       //!< no row has its name; replaced by nothing
+    Unterminated,  //!< no closing marker: it and the rest of the template are dropped
 };
 
-/** One tag of a template, and what became of it. It lasts as long as the call that tells of it. */
+/** One tag of a template and its outcome. Valid only during the call of the observer. */
 struct FTagReport {
     FTagOutcome outcome;
-    QStringView name;     //!< as it was looked up; empty for an unterminated tag
-    int row;              //!< that replaced it, or -1
+    QStringView name;     //!< as looked up; empty for an unterminated tag
+    int row;              //!< row that replaced it, or -1
     qsizetype position;   //!< of the tag in the template, in UTF-16 units
     FTextPlaces& places;  //!< of the template
 
-    /**
-     * The position as line and column. Asking for each tag takes time linear in the template, asking for none takes
-     * none.
-     */
+    /** The position as line and column. Calls for all tags of a template together take time linear in its size. */
     FTextPlace place() const { return places.at(position); }
 };

@@ -10,11 +10,12 @@
 
 std::shared_ptr<const FTagRows> FTagRows::of(const FConfiguration& configuration, const FTemplateOwner& definition,
                                              const QStringList& fileKeys) {
-    std::shared_ptr<const FTagRows>& kept = definition.tagRows();
-    if (!kept || kept->mEntryMapNumber != configuration.getEntryMapNumber() || kept->mFileKeys != fileKeys) {
-        kept.reset(new FTagRows(configuration, fileKeys));
+    auto rows = std::dynamic_pointer_cast<const FTagRows>(definition.writerCache());
+    if (!rows || rows->mEntryMapNumber != configuration.getEntryMapNumber() || rows->mFileKeys != fileKeys) {
+        rows.reset(new FTagRows(configuration, fileKeys));
+        definition.writerCache() = rows;
     }
-    return kept;
+    return rows;
 }
 
 FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileKeys)
@@ -22,7 +23,7 @@ FTagRows::FTagRows(const FConfiguration& configuration, const QStringList& fileK
     QStringList sorted = fileKeys;
     sorted.sort();
     sorted.removeDuplicates();
-    // The length of the word with its "|", whatever the key begins with.
+    // Cuts the length of the group word with its "|", whatever the key starts with.
     const auto appendFile = [this](const QString& key) {
         append(key, {nullptr, key.mid(FExportsGroup::prefix().size())});
     };

@@ -9,7 +9,7 @@ namespace {
 const QChar separator = u'|';
 const QChar indexStart = u'[';
 
-// Thousands of keys are cut for each export, so this makes no list of levels.
+// Exports cut thousands of keys, so this avoids a list of levels.
 QString cut(const QString& key) {
     QString result;
     result.reserve(key.size());
@@ -34,7 +34,7 @@ using FWord = quint64;
 constexpr qsizetype unitsOfWord = 4;
 constexpr FWord notAscii = 0xFF80'FF80'FF80'FF80, lowerCaseBits = 0x0020'0020'0020'0020;
 
-// Surrogates are all alike: they fold in pairs only, and what the hash can't tell apart the comparison does.
+// All surrogates count as equal, since they fold only in pairs; the comparison distinguishes them.
 ushort hashedUnit(QChar unit) {
     return ushort(unit.isSurrogate() ? 0 : unit.toCaseFolded().unicode() | 0x20);
 }
@@ -61,7 +61,7 @@ int FTemplateKeys::find(QStringView name) const {
     return row == mRows.end() ? notFound : row->second;
 }
 
-// Four units at once, since each tag passes through here.
+// Hashes four units at a time, since each tag is looked up.
 std::size_t FTemplateKeys::Hash::operator()(QStringView text) const {
     FWord hash = 0;
     const auto mix = [&hash](FWord word) {
@@ -78,6 +78,6 @@ std::size_t FTemplateKeys::Hash::operator()(QStringView text) const {
 }
 
 bool FTemplateKeys::Equal::operator()(QStringView left, QStringView right) const noexcept {
-    // Most tags are spelled as their key is, and this comparison is much the faster one.
+    // Most tags are spelled like their key, and this comparison is much faster.
     return left == right || left.compare(right, Qt::CaseInsensitive) == 0;
 }

@@ -6,30 +6,30 @@
 #include <unordered_map>
 
 /**
- * Finds the row of the value table that answers a tag.
+ * Finds the row of the value table for a tag.
  *
  * A key is a path of levels joined by "|", each of which may end in an index: "Wing[0]|span". A tag names it without
- * indices and ignoring case: empty levels are dropped and each level is cut at its last "[" before the comparison.
- * A case is ignored as QString::compare() does it: "ß" isn't "ss".
+ * indices and in any case: empty levels are dropped and each level is cut at its last "[" before the comparison.
+ * Case is ignored as in QString::compare(): "ß" isn't "ss".
  */
 class FTemplateKeys {
  public:
     static constexpr int notFound = -1;
 
     /**
-     * Adds the next row; rows count from 0 and come in the order of the table. A row without an object counts, but
-     * answers no tag.
+     * Adds the next row. Rows are numbered from 0, in the order of the table. A row without an object gets a number,
+     * but matches no tag.
      */
     void append(const QString& key, bool holdsObject);
 
     /**
-     * The first row with an object that answers the name of a tag, or notFound. Linear in the length of the name,
-     * whatever the number of rows.
+     * The first row with an object that matches the name of a tag, or notFound. Takes time linear in the length of the
+     * name, whatever the number of rows.
      */
     int find(QStringView name) const;
 
  private:
-    // Not noexcept: then the library keeps the hash of each key instead of computing it again and again.
+    // Not noexcept, which makes the standard library store the hash of each key instead of recomputing it.
     struct Hash {
         using is_transparent = void;
         std::size_t operator()(QStringView text) const;

@@ -9,7 +9,7 @@ FTemplateSubstitution::FTemplateSubstitution(const FTemplateKeys& keys, Values v
     : mKeys(keys), mValues(std::move(values)), mOutput(std::move(output)) {}
 
 void FTemplateSubstitution::run(const QString& text) {
-    const QString kept = text;  // a value may change the template while it is written
+    const QString kept = text;  // a value may change the template during the output
     const QStringView view = kept;
     mTexts.clear();
     FTextPlaces places(view);

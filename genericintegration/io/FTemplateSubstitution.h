@@ -15,28 +15,29 @@ struct FTemplateTag;
 /**
  * Replaces the tags of templates by texts.
  *
- * The template is walked over once, from left to right; what goes in is never searched for tags. A tag that no row
- * answers is left out. An unterminated tag is left out with all that follows it.
+ * It reads a template once, from left to right, and never searches replacements for tags. It drops a tag that no row
+ * matches, and an unterminated tag together with the text after it.
  *
- * A template takes time linear in what is read and written, whatever the number of rows. It is passed on in pieces,
- * and never copied as a whole.
+ * Time is linear in the size of input and output, whatever the number of rows. The output is passed on in pieces,
+ * without a copy of the whole.
  */
 class FTemplateSubstitution {
  public:
     /**
-     * Gives the text of a row. Called at most once for a row and template, when its first tag is reached. It may do
-     * anything, even change the template, but not run this object.
+     * Returns the text of a row. Called at most once for a row and template, when its first tag is reached. It may do
+     * anything, even change the template, except run this object.
      */
     using Values = std::function<QString(int row)>;
-    /** Takes the next piece of the result. The piece dies with the call, and may end between two surrogates. */
+    /** Takes the next piece of the result. The piece is valid only during the call, and may end between two surrogates.
+     */
     using Output = std::function<void(QStringView piece)>;
-    /** Hears of each tag, in order, after its replacement has gone out. */
+    /** Called for each tag, in order, after the output of its replacement. */
     using Observer = std::function<void(const FTagReport& report)>;
 
     /** The keys must outlive this object. */
     FTemplateSubstitution(const FTemplateKeys& keys, Values values, Output output);
 
-    /** Writes each "\n" of a template, also one in a name, as "\r\n", even behind a "\r". Values go out as they are. */
+    /** Writes each "\n" of a template, also in a name, as "\r\n", even after a "\r". Values are written unchanged. */
     void setForceWindowsLineEndings(bool force) { mForceWindowsLineEndings = force; }
 
     void setObserver(Observer observer) { mObserver = std::move(observer); }

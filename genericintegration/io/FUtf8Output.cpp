@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "genericintegration/io/FUtf8.h"
+#include "host/run/FUtf8.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ bool isPlain(char16_t unit) {
     return unit != 0 && unit < 0x80;
 }
 
-// Plain is ASCII without NUL. The test behind the loop lets the compiler use whole registers.
+// Plain is ASCII without NUL. The test after the loop lets the compiler vectorise it.
 bool copyIfPlain(const char16_t* units, qsizetype size, char* bytes) {
     quint16 bits = 0;
     for (qsizetype at = 0; at < size; ++at) {
@@ -27,8 +27,8 @@ bool copyIfPlain(const char16_t* units, qsizetype size, char* bytes) {
     return bits < 0x80;
 }
 
-// What stands behind a piece is mostly the next one. To have it fetched while this one is converted takes a third off
-// the time of a template that is larger than the caches. A fetch reads nothing, so it may lie outside.
+// The memory after a piece usually holds the next one. Prefetching it while this piece is converted saves a third of
+// the time for a template larger than the caches. A prefetch may be outside the text, since it doesn't read.
 void fetch(const char16_t* units, qsizetype size) {
     constexpr qsizetype unitsOfLine = 32;
     for (qsizetype at = 0; at < size; at += unitsOfLine) {
@@ -57,7 +57,7 @@ qsizetype FUtf8Output::putPlain(QStringView piece) {
     char* bytes = mGathered.get() + mSize;
     const qsizetype size = std::min(piece.size(), gatheredBytes - mSize);
     qsizetype done = 0;
-    // Where plain text is short, little is copied in vain.
+    // Small blocks first: if plain text is short, little is copied in vain.
     for (qsizetype block = smallestBlock; done < size; block = std::min(2 * block, largestBlock)) {
         const qsizetype part = std::min(block, size - done);
         fetch(units + done + fetchedAhead, part);
@@ -98,7 +98,7 @@ void FUtf8Output::putCharacter(char32_t character) {
 }
 
 void FUtf8Output::makeRoom() {
-    if (gatheredBytes - mSize < FUtf8::LongestCharacter) {
+    if (gatheredBytes - mSize < FUtf8::longestCharacter) {
         send();
     }
 }

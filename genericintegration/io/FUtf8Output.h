@@ -7,10 +7,10 @@
 class QIODevice;
 
 /**
- * Writes a text that comes in pieces to a device as UTF-8, up to its first NUL.
+ * Writes a text that arrives in pieces to a device as UTF-8, up to its first NUL.
  *
- * The bytes are those of the whole text: a pair of surrogates may be split between two pieces. A lone surrogate
- * becomes "?". The bytes are gathered, so a file is best opened unbuffered; finish() then tells of a full disk, too.
+ * A surrogate pair may be split between two pieces; an unpaired surrogate becomes "?". The bytes are buffered here, so
+ * files should be opened unbuffered; then finish() also reports a full disk.
  */
 class FUtf8Output {
  public:
@@ -20,7 +20,7 @@ class FUtf8Output {
 
     void write(QStringView piece);
 
-    /** Writes what is still gathered. To be called at the end. False when the device didn't take all bytes. */
+    /** Writes the rest of the buffer. Must be called at the end. False if the device didn't take all bytes. */
     bool finish();
 
  private:
@@ -33,7 +33,7 @@ class FUtf8Output {
     QIODevice& mDevice;
     std::unique_ptr<char[]> mGathered;
     qsizetype mSize = 0;
-    QChar mHighSurrogate;  //!< that the next unit may complete, or NUL
+    QChar mHighSurrogate;  //!< awaiting its low surrogate, or NUL
     bool mEnded = false;
     bool mFailed = false;
 };

@@ -5,19 +5,19 @@
 #include "genericintegration/io/FAnchor.h"
 
 /**
- * Where in an output file a value stands.
+ * Where a value is in an output file.
  *
  * Without an average, the line is counted from the anchor: 0 is the rest of its line, 1 the line below, -1 the line
- * above. With no anchor, or one that isn't in the file, 0 is the first line of the file and -1 the last one with text.
- * A line below 0 never reaches the first line of the text it counts in, but gives the second, or none.
+ * above. Without an anchor, or if the file doesn't contain it, 0 is the first line of the file and -1 the last one with
+ * text. A line below 0 never reaches the first line of the text that it counts in: it gives the second one, or none.
  */
 struct FValueDescription {
     QString name;
     int line = 0;
-    int column = 0;  //!< from 0; below 0 is 0
+    int column = 0;  //!< from 0; below 0 counts as 0
     FAnchor anchor;
-    bool average = false;     //!< of the file's last rows; line and anchor then play no part
-    quint32 averageRows = 0;  //!< how many last lines; those without a number don't count
+    bool average = false;     //!< over the last rows of the file; line and anchor are ignored
+    quint32 averageRows = 0;  //!< number of last lines; those without a number don't count
 
     bool operator==(const FValueDescription&) const = default;
 };

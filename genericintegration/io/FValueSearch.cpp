@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "genericintegration/io/FColumnCursor.h"
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FRowAverages.h"
+#include "host/run/FResultText.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ std::vector<QString> anchorsOf(const std::vector<FValueDescription>& values) {
     return anchors;
 }
 
-/** The numbers of the values by line, column and name; what is equal keeps its order. */
+/** The indices of the values, sorted by line, column and name; equal ones keep their order. */
 std::vector<int> sorted(const std::vector<FValueDescription>& values) {
     std::vector<int> numbers(values.size());
     std::iota(numbers.begin(), numbers.end(), 0);
@@ -90,7 +90,7 @@ FSoughtLine FValueSearch::seekLine(const FResultText& text, const FValueDescript
     return sought;
 }
 
-// Values of one line are read together, from its begin to its end.
+// Reads the values of one line together, from its start to its end.
 void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
                         std::vector<FFoundValue>& found) const {
     const auto key = [](const Reading& reading) {

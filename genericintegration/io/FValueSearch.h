@@ -14,17 +14,17 @@
 
 class FResultText;
 
-/** What a search found. */
+/** Result of a search. */
 struct FFoundValues {
     std::vector<FFoundValue> values;  //!< in the order of the descriptions
-    std::vector<int> order;           //!< of a table: numbers of the descriptions
+    std::vector<int> order;           //!< the order of the table, as indices of the descriptions
 };
 
 /**
  * Finds all values of a result template in the text of an output file.
  *
- * The text is searched once for all anchors together. A value then costs its line; values in the same line cost it
- * once; a row of several averages costs once. An object can be used for any number of texts.
+ * One pass over the text finds all anchors. After that, the line of a value is read once for all values in it, and so
+ * is each row of averages. An object can be used for any number of texts.
  */
 class FValueSearch {
  public:
@@ -35,26 +35,26 @@ class FValueSearch {
         return mSeparators == separators && mValues == values;
     }
 
-    /** Why the separators' regular expression isn't valid; empty if it is. One that isn't matches nothing. */
+    /** Why the regular expression of the separators is invalid; empty if valid. An invalid one matches nothing. */
     QString patternError() const;
 
     FFoundValues find(const FResultText& text) const;
 
     /**
-     * The order alone: ascending by the anchor's place (0 without one), then by line, column and name. What is equal
-     * in all of them keeps its order, and so do all values for an empty text.
+     * Only the order: ascending by the place of the anchor (0 without one), then by line, column and name. Values equal
+     * in all of them keep their order, and so do all values for an empty text.
      */
     std::vector<int> order(const FResultText& text) const;
 
  private:
-    /** A value to be read from a line. */
+    /** A value to read from a line. */
     struct Reading {
         FByteRange line;
         int column;
         size_t value;
     };
 
-    /** Lines of values without an anchor, which many share. */
+    /** Lines of values without an anchor, many of which share one. */
     using LinesInText = std::map<int, FSoughtLine>;
 
     std::vector<int> order(const FResultText& text, const std::vector<FAnchorPlaces>& trimmed) const;
@@ -64,7 +64,7 @@ class FValueSearch {
     const QRegExp* separator() const { return mSeparators.findNumbers ? nullptr : &mSeparator; }
 
     std::vector<FValueDescription> mValues;
-    std::vector<int> mSorted;  //!< numbers of the values by what orders those at the same place
+    std::vector<int> mSorted;  //!< indices of the values in the order for equal places
     FAnchorSearch mAnchors;
     FSeparatorSettings mSeparators;
     QRegExp mSeparator;

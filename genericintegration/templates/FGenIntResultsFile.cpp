@@ -109,7 +109,7 @@ FGenIntResultsFile& FGenIntResultsFile::operator=(const FGenIntResultsFile& othe
         mCurValue = element == other.mCurValue ? FExpr<FGenIntResultsFileValue>(copy) : mCurValue;
     }
     mValues = fresh;
-    mValueSearch = nullptr;
+    mReaderCache = nullptr;
     return *this;
 }
 

@@ -2,12 +2,12 @@
 
 #include "genericintegration/templates/FGenIntFile.h"
 #include "genericintegration/templates/FGenIntResultsFileValue.h"
+#include "genericintegration/templates/FTemplateCache.h"
 
 #include <memory>
 
 class FCmdTable;
 class FParameter;
-class FValueSearch;
 
 /**
  * A result template: one output file of the external program, how its lines are cut into columns, and the values to
@@ -81,8 +81,8 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
      */
     FExpr<FParameter> createParam(const QString& valueName, const QString& ownerName, bool highlight) const;
 
-    /** What the reader keeps here from one file to the next; nobody else's. */
-    std::shared_ptr<const FValueSearch>& valueSearch() const { return mValueSearch; }
+    /** The reader's cache; only the reader sets it. */
+    std::shared_ptr<const FTemplateCache>& readerCache() const { return mReaderCache; }
 
  protected:
     explicit FGenIntResultsFile(const QString& name = QString());
@@ -99,5 +99,5 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     QString mRegExprSeparator;
     FExpr<FObjectList> mValues;
     FExpr<FGenIntResultsFileValue> mCurValue;
-    mutable std::shared_ptr<const FValueSearch> mValueSearch;
+    mutable std::shared_ptr<const FTemplateCache> mReaderCache;
 };

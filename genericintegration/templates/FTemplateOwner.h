@@ -1,5 +1,6 @@
 #pragma once
 
+#include "genericintegration/templates/FTemplateCache.h"
 #include "host/core/FExpr.h"
 
 #include <QList>
@@ -7,7 +8,6 @@
 #include <memory>
 
 class FGenIntFile;
-class FTagRows;
 
 /** What templates and the writer need of the definition that holds the templates. */
 class FTemplateOwner {
@@ -16,14 +16,14 @@ class FTemplateOwner {
 
     /** All template files in the order of adding. */
     virtual const QList<FExpr<FGenIntFile>>& getFiles() const = 0;
-    /** Digits behind the point of real numbers that a text stream writes. */
+    /** Number of digits after the decimal point. */
     virtual int getOutputPrecision() const = 0;
-    /** An entry, or a file that tags name, has a new name: tags follow. */
+    /** Renames an entry, or a file that tags name, in the tags of all templates. */
     virtual void updateCommandFiles(const QString& oldName, const QString& newName) = 0;
 
-    /** What the writer keeps here from one call to the next; nobody else's. */
-    std::shared_ptr<const FTagRows>& tagRows() const { return mTagRows; }
+    /** The writer's cache; only the writer sets it. */
+    std::shared_ptr<const FTemplateCache>& writerCache() const { return mWriterCache; }
 
  private:
-    mutable std::shared_ptr<const FTagRows> mTagRows;
+    mutable std::shared_ptr<const FTemplateCache> mWriterCache;
 };

@@ -16,6 +16,19 @@
 
 namespace {
 
+/** A number of rows whose evaluation does something first. */
+class FBusyRows : public FUnsigned {
+ public:
+    explicit FBusyRows(std::function<void()> task) : FUnsigned(1), mTask(std::move(task)) {}
+    FObject* getValueObject() const override {
+        mTask();
+        return FUnsigned::getValueObject();
+    }
+
+ private:
+    std::function<void()> mTask;
+};
+
 class FGenIntReaderTest : public FDirectTest {
  protected:
     void setValues(const QString& values) { ASSERT_TRUE(run("out1.setValues(" + values + ")")); }
@@ -42,7 +55,24 @@ TEST_F(FGenIntReaderTest, theTableHoldsNamesNumbersAndTypesInTheOrderOfTheFile) 
         << "the template keeps its order";
 }
 
-TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsToldOf) {
+TEST_F(FGenIntReaderTest, theNumberOfAverageRowsMayBeAnExpression) {
+    setValues("[[\"mean\",0,0,\"\",Last,\"FDouble\",\"\",true,1]]");
+    file->setContent("1\n2\n3\n6\n");
+    ASSERT_TRUE(run("parameter n(1)"));
+    const FExpr<FGenIntResultsFileValue> value(file->getValues()->at(0));
+    const std::pair<const char*, double> cases[] = {{"n+1", 4.5}, {"n*4", 3}, {"n*1.5", NAN}, {"n-2", NAN}};
+    for (const auto& [expression, mean] : cases) {
+        FExpr<FUnsigned> rows;
+        rows = QString(expression);
+        ASSERT_TRUE(rows) << expression;
+        value->setNumAverageRows(rows);
+        parse(QString());
+        const double number = table->getElementAt("mean", 0);
+        EXPECT_TRUE(number == mean || (std::isnan(number) && std::isnan(mean))) << number << " for " << expression;
+    }
+}
+
+TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsReported) {
     setValues(
         "[[\"drag\",1,0,\"Drag\",Last,\"FDouble\",\"\"],[\"none\",0,0,\"Drag\",Last,\"FDouble\",\"\"],"
         "[\"lift\",0,0,\"Lift\",Last,\"FDouble\",\"\"]]");
@@ -57,7 +87,7 @@ TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsToldOf) {
                     "anchor)"});
 }
 
-TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
+TEST_F(FGenIntReaderTest, aFileThatCantBeReadLeavesTheTableUnchanged) {
     setValues("[[\"a\",0,0,\"\",Last,\"FDouble\",\"\"]]");
     file->setFileName("out.dat");
     file->setContent("7");
@@ -81,7 +111,7 @@ TEST_F(FGenIntReaderTest, whatCantBeReadLeavesTheTableAsItWas) {
     EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
 }
 
-TEST_F(FGenIntReaderTest, whatIsKeptBetweenFilesNeverShows) {
+TEST_F(FGenIntReaderTest, theCacheBetweenFilesNeverChangesAResult) {
     setValues("[[\"a\",0,0,\"x\",First,\"FDouble\",\"\"]]");
     file->setContent("\nx 1;2 y\nx 3;4 y\n");
     const FExpr<FGenIntResultsFileValue> value(file->getValues()->at(0));
@@ -100,7 +130,7 @@ TEST_F(FGenIntReaderTest, whatIsKeptBetweenFilesNeverShows) {
     }
 }
 
-TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsToldOnce) {
+TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsReportedOnce) {
     setValues("[[\"a\",0,1,\"\",Last,\"FDouble\",\"\"],[\"b\",0,0,\"\",Last,\"FDouble\",\"\"]]");
     run("out1.setRegExpSeparator(\"(\")");
     file->setContent("1(2");
@@ -127,6 +157,28 @@ TEST_F(FGenIntReaderTest, filesAreImportedFromTheDirectoryOnly) {
     parse(folder.path() + "/");
     EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
     EXPECT_EQ(table->getRowCount(), 1);
+}
+
+TEST_F(FGenIntReaderTest, anEvaluationOfRowsThatReadsOtherFilesLeavesNoneOfTheirImports) {
+    folder.write("out.dat", "grid.txt\n");
+    folder.write("grid.txt", "1 2");
+    const FExpr<FGenIntResultsFile> other(FGenIntResultsFile::create("out2"));
+    other->setFileName("out.dat");
+    run("out2.setValues([[\"mesh\",0,0,\"\",Last,\"FFileName\",\"text\",0,NULL]]); out2.setSpaceSeparator(true)");
+    setValues("[[\"mean\",0,0,\"\",Last,\"FDouble\",\"\",true,1]]");
+    file->setContent("7\n");
+    int imports = 0;
+    const FExpr<FObject> rows(new FBusyRows([&] {
+        FTableData otherTable;
+        FGenIntReader::instance()->parseFile(other, &otherTable, folder.path() + "/");
+        imports = FGenIntReader::instance()->getImportedObjects().size();
+        run("out1.setValues([])");
+    }));
+    FExpr<FGenIntResultsFileValue>(file->getValues()->at(0))->setNumAverageRows(FExpr<FUnsigned>(rows));
+    parse(QString());
+    EXPECT_EQ(imports, 1);
+    EXPECT_TRUE(FGenIntReader::instance()->getImportedObjects().isEmpty());
+    EXPECT_EQ(table->getElementAt("mean", 0), 7) << "the values at the start of the call are read";
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ TEST_F(FGenIntWriterTest, filesAreNamedDifferentlyInExportAndPreview) {
     EXPECT_EQ(preview().keys(), (QStringList{"out[1].txt", "run.dat"}));
 }
 
-TEST_F(FGenIntWriterTest, forcedLineEndsConcernTheTemplateInExportsOnly) {
+TEST_F(FGenIntWriterTest, forcedLineEndsApplyToTheTemplateInExportsOnly) {
     run("def.addEntry(\"lines\", \"1\n2\")");
     add("in.dat", "a\n<entry>lines</entry>\r\n")->setForceWindowsLineEndings(true);
     ASSERT_TRUE(write());
@@ -93,7 +93,7 @@ TEST_F(FGenIntWriterTest, fileNamesAreBroughtUpToDateWithoutATag) {
     EXPECT_TRUE(isBroughtUpToDate(name));
 }
 
-TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
+TEST_F(FGenIntWriterTest, theCacheBetweenExportsNeverChangesAResult) {
     FConfigurationGenInt* other = FConfigurationGenInt::create({}, "other", false, definition);
     const QString tags =
         "<entry>a</entry>,<entry>b</entry>,<entry>c</entry>,<entry>g|a</entry>,<entry>Exports|x</entry>,"
@@ -128,7 +128,7 @@ TEST_F(FGenIntWriterTest, whatIsKeptBetweenExportsNeverShows) {
         changes[random() % changes.size()]();
         ASSERT_TRUE(write());
         const QByteArray kept = folder.read("in.dat");
-        definition->tagRows().reset();
+        definition->writerCache().reset();
         ASSERT_TRUE(write());
         ASSERT_EQ(kept, folder.read("in.dat"));
         seen.insert(kept);
@@ -160,7 +160,8 @@ TEST_F(FGenIntWriterTest, nothingIsWrittenOutsideOfTheDirectory) {
     EXPECT_EQ(folder.read("link"), "x");
     EXPECT_EQ(folder.read("hard link"), "y");
     EXPECT_EQ(other.read("kept"), "kept");
-    const QString stray = QFileInfo(folder.path()).fileName() + "-stray";  // beside it, where others have files, too
+    const QString stray =
+        QFileInfo(folder.path()).fileName() + "-stray";  // next to it, where there may be files of others
     for (const QString& name : {QString("out/new/file"), "../" + stray, "a/../../" + stray, "..\\" + stray}) {
         file->setFileName(name);
         EXPECT_FALSE(write());

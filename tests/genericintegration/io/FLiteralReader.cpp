@@ -12,7 +12,7 @@
 namespace FLiteralReader {
 namespace {
 
-constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 QString trimmed(QString content) {
     return content.remove(QRegExp("\\s*$"));
@@ -86,7 +86,7 @@ Found average(const QString& content, const FValueDescription& value, const FSep
             break;
         }
     }
-    found.number = count > 0 ? found.number / count : NaN;
+    found.number = count > 0 ? found.number / count : notANumber;
     return found;
 }
 
@@ -138,7 +138,7 @@ Found find(const QString& content, const FValueDescription& value, const FSepara
     if (value.average) {
         return average(content, value, separators);
     }
-    Found found = {NaN, textOf(lineOf(content, value), value, separators)};
+    Found found = {notANumber, textOf(lineOf(content, value), value, separators)};
     bool isNumber = false;
     const double number = found.text.toDouble(&isNumber);
     if (isNumber) {

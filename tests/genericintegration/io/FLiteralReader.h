@@ -9,7 +9,7 @@
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueDescription.h"
 
-/** The rules of the reader told step by step, as slowly as they are told, on a decoded text and for each value anew. */
+/** A second, slow implementation of the reader: step by step, on a decoded text, separately for each value. */
 namespace FLiteralReader {
 
 struct Found {

@@ -4,7 +4,7 @@
 
 namespace {
 
-const QStringList Words = {"force",
+const QStringList words = {"force",
                            "FORCE",
                            "Force:",
                            "total residual norm",
@@ -31,19 +31,19 @@ const QStringList Words = {"force",
                            "\u0130",
                            "\u00B5\u03BC",
                            "kk\u212Aks"};
-const QStringList Numbers = {"1",   "-2.5", "+.5e3", "1.0D+05", "1.2-105", "7.", "..3", "3,14",    "1e400", "\u0663",
+const QStringList numbers = {"1",   "-2.5", "+.5e3", "1.0D+05", "1.2-105", "7.", "..3", "3,14",    "1e400", "\u0663",
                              "nan", "-inf", "****",  "1\u0660", "0x1F",    "e5", "--1", "2E-3E+4", "1.2.3"};
-const QStringList Blanks = {" ",  " ",      " ",      "  ",     "\t",     "\u00A0", "\u2003",    ",",
+const QStringList blanks = {" ",  " ",      " ",      "  ",     "\t",     "\u00A0", "\u2003",    ",",
                             ";",  "\n",     "\n",     "\n",     "\n\n",   "\r\n",   "\r\n",      "\r",
                             "\v", "\u0085", "\u2028", "\uFEFF", "\r\r\n", "\n \n",  "          "};
 
-const QStringList Alphabets = {
+const QStringList alphabets = {
     "aAb ", "ab \n", "kK\u212Aab ", "\u00E4\u00C4ab", "abcdefghijklmnopqrstuvwxyz\u017F ", "        x"};
 
 }  // namespace
 
 QString FReaderCases::letters() {
-    const QString alphabet = pick(Alphabets);
+    const QString alphabet = pick(alphabets);
     QString text;
     while (text.size() < 6000) {
         text += alphabet.at(below(alphabet.size()));
@@ -51,21 +51,21 @@ QString FReaderCases::letters() {
     return text;
 }
 
-QString FReaderCases::text(bool halfPairs) {
+QString FReaderCases::text(bool unpaired) {
     if (below(15) == 0) {
         return letters();
     }
     QString text = below(6) == 0 ? "\n" : "";
     const int parts = below(12) == 0 ? 700 : below(40);
     for (int i = 0; i < parts; ++i) {
-        text += below(2) == 0 ? pick(Words) : pick(Numbers);
+        text += below(2) == 0 ? pick(words) : pick(numbers);
         if (below(4) != 0) {
-            text += pick(Blanks);
+            text += pick(blanks);
         }
         if (below(40) == 0) {
             text += QChar(QChar::Null);
         }
-        if (halfPairs && below(10) == 0) {
+        if (unpaired && below(10) == 0) {
             text += QChar(below(2) == 0 ? 0xD801 : 0xDC00);
         }
     }
@@ -87,7 +87,7 @@ QByteArray FReaderCases::file(const QString& text) {
     if (below(8) == 0) {
         bytes.chop(below(3));
     }
-    // Across the pieces in which a text stream decodes.
+    // Invalid sequences across the pieces in which a text stream decodes.
     if (below(30) == 0) {
         bytes.prepend(QByteArray("x\n").repeated(8192 - below(3) * below(bytes.size() / 2 + 1)));
     }
@@ -101,10 +101,10 @@ FSeparatorSettings FReaderCases::separators() {
 
 QString FReaderCases::anchor(const QString& text) {
     if (below(3) == 0) {
-        return pick(Words);
+        return pick(words);
     }
     static const int lengths[] = {4, 4, 4, 9, 20, 70};
-    const int longest = lengths[below(6)];  // longer ones are searched in longer steps
+    const int longest = lengths[below(6)];  // the search takes longer steps for longer ones
     QString part = text.mid(below(text.size() + 1), 1 + below(longest));
     if (below(2) == 0) {
         part = below(2) == 0 ? part.toLower() : part.toUpper();

@@ -7,7 +7,7 @@
 
 #include "genericintegration/io/FByteQuads.h"
 
-// What it is looked for by changes where it begins, from its end to its begin.
+// The quad of the word changes from its end to its start, at the place where the word starts.
 TEST(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {
     FShortWordSearch search;
     ASSERT_TRUE(search.add(U"aeiowxyz"));
@@ -17,14 +17,14 @@ TEST(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {
             content += "wxyz ";
         }
         const qint64 end = static_cast<qint64>(content.size()) + 8;
-        content += "aeiowxyz" + std::string(FShortWordSearch::Margin, ' ');
+        content += "aeiowxyz" + std::string(FShortWordSearch::margin, ' ');
         EXPECT_EQ(end, search.find(content).front().begin) << before;
     }
 }
 
-TEST(FShortWordSearchTest, theProcessorsHelpChangesNothing) {
+TEST(FShortWordSearchTest, specialInstructionsDontChangeTheResult) {
     FByteQuads quads;
-    for (size_t set = 0; set < FByteQuads::SetCount; ++set) {
+    for (size_t set = 0; set < FByteQuads::setCount; ++set) {
         quads.assign(set, FQuadSet(FShortWord(std::u32string(1 + set % 4, U'a' + char32_t(set % 3)), set)));
     }
     const std::string_view letters = "aAbBcC \n0123\xE1";

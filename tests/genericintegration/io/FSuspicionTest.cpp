@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "genericintegration/io/FResultText.h"
 #include "genericintegration/io/FValueSearch.h"
+#include "host/run/FResultText.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ FFoundFlags flagsOf(const QString& line, int column, const FSeparatorSettings& s
 
 }  // namespace
 
-TEST(FSuspicionTest, numbersThatWereCutPassedOverOrTouchSomething) {
+TEST(FSuspicionTest, numbersThatWereCutOrSkippedOrTouchText) {
     const struct {
         const char* line;
         int column;
@@ -44,10 +44,10 @@ TEST(FSuspicionTest, numbersThatWereCutPassedOverOrTouchSomething) {
         EXPECT_EQ(row.flags, flagsOf(row.line, row.column, {true, false, ""})) << row.line << " column " << row.column;
     }
     EXPECT_EQ(FFoundFlag::ColumnMissing | FFoundFlag::Stars, flagsOf("1 ****", 1, {true, false, ""}));
-    EXPECT_EQ(FFoundFlags(FFoundFlag::Stars), flagsOf("1 ****", 1, {true, false, ""}) & SuspiciousFlags);
+    EXPECT_EQ(FFoundFlags(FFoundFlag::Stars), flagsOf("1 ****", 1, {true, false, ""}) & suspiciousFlags);
 }
 
-TEST(FSuspicionTest, separatedColumnsThatAreNoNumbers) {
+TEST(FSuspicionTest, separatedColumnsThatArentNumbers) {
     const FSeparatorSettings whiteSpace = {false, true, ""};
     EXPECT_EQ(FFoundFlag::NotANumber | FFoundFlag::CutExponent, flagsOf("1.0D+05 2", 0, whiteSpace));
     EXPECT_EQ(FFoundFlag::NotANumber | FFoundFlag::DecimalComma, flagsOf("1 3,14", 1, whiteSpace));

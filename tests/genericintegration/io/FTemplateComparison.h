@@ -9,7 +9,7 @@
 #include "genericintegration/io/FTemplateSubstitution.h"
 #include "tests/genericintegration/io/SlowTemplateModel.h"
 
-/** Templates as the writer writes them, beside what the slow model makes of them. For tests and fuzz targets. */
+/** Compares the writer with the slow model. For tests and fuzz targets. */
 namespace FTemplateComparison {
 
 using Table = QMap<QString, SlowTemplateModel::Row>;
@@ -30,9 +30,9 @@ struct Written {
 
 Written write(const QString& text, const Table& table, bool force);
 
-/** Where what was written isn't the model's; empty if they agree. */
+/** Describes the first difference between the output and the model's; empty if there is none. */
 QString difference(const Written& written, const QString& text, const Table& table, bool force);
-/** The same for the names that stand in tags, and for renaming one. */
+/** The same for the names in tags, and for renaming one. */
 QString differenceOfNames(const QString& text, const QString& name);
 
 }  // namespace FTemplateComparison

@@ -11,7 +11,7 @@
 
 namespace {
 
-TEST(FTemplateSubstitutionTest, tellsWhatBecameOfEachTag) {
+TEST(FTemplateSubstitutionTest, reportsTheOutcomeOfEachTag) {
     const auto written = FTemplateComparison::write("a\r\n <entry>typo\n</entry><entry>x</entry>\n\n.<entry>lost",
                                                     {{"w", {}}, {"x", {"1"}}}, true);
     EXPECT_EQ(written.text, "a\r\r\n 1\r\n\r\n.");
@@ -46,7 +46,7 @@ TEST(FTemplateSubstitutionTest, survivesAValueThatChangesTheTemplate) {
     EXPECT_EQ(output, "11end");
 }
 
-/** Texts made of few pieces, so that names, keys and half tags meet often. */
+/** Texts made of few pieces, so that names, keys and incomplete tags often match. */
 class RandomTexts {
  public:
     explicit RandomTexts(unsigned seed) : mRandom(seed) {}
@@ -87,7 +87,7 @@ class RandomTexts {
     const QStringList mNamePieces{"x1", "X1", "0", " ", "a", "A", "|", "\n", "ß", "ẞ", "ss", "ſ", "s", "k", "K",
                                   "\u212a", "İ", "i", "I", "ı", "Σ", "ς", "σ", "é", "É", "Ω", "\u2126", "µ", "μ",
                                   QString(QChar('\0')),
-                                  // letters with two cases outside the basic plane, and their halves
+                                  // letters with two cases outside the basic plane, and their surrogates
                                   "𐐀", "𐐨", QString(QChar(0xd801)), QString(QChar(0xdc00)), QString(QChar(0xdc28))};
 };
 
@@ -110,7 +110,7 @@ TEST(FTemplateSubstitutionTest, agreesWithTheSlowModelOnRandomTemplates) {
         replaced += std::count_if(written.reports.begin(), written.reports.end(),
                                   [](const auto& report) { return report.outcome == FTagOutcome::Replaced; });
     }
-    EXPECT_GT(replaced, rounds) << "the random keys and names hardly ever meet";
+    EXPECT_GT(replaced, rounds) << "the random keys and names hardly ever match";
 }
 
 }  // namespace

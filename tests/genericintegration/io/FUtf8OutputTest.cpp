@@ -12,7 +12,7 @@
 
 namespace {
 
-/** The bytes of a text that is written in pieces of the given lengths, the last one being repeated. */
+/** The bytes of a text written in pieces of the given lengths; the last length is repeated. */
 QByteArray bytesOf(QStringView text, const std::vector<int>& lengths) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -26,12 +26,12 @@ QByteArray bytesOf(QStringView text, const std::vector<int>& lengths) {
     return buffer.data();
 }
 
-/** Runs of units of one kind each, so that plain blocks begin and end anywhere. */
+/** Runs of units of one kind each, so that plain blocks start and end anywhere. */
 QString randomText(std::mt19937& random) {
     static const QString kinds[] = {"a~ \n\x7f", QString::fromUtf8("\u0080äß\u07ff"),
                                     QString::fromUtf8("\u0800€\uffff"), QString::fromUtf8("😀𐀀"),
                                     QString(QChar(0xd83d)) + QChar(0xde00) + "x"};
-    QString text(random() % 50 == 0 ? int(32700 + random() % 80) : 0, 'x');  // about as much as is gathered
+    QString text(random() % 50 == 0 ? int(32700 + random() % 80) : 0, 'x');  // about the size of the buffer
     for (unsigned run = random() % 6; run > 0; --run) {
         const QString& kind = kinds[random() % 5];
         for (unsigned unit = random() % 150; unit > 0; --unit) {
@@ -54,7 +54,7 @@ TEST(FUtf8OutputTest, agreesWithQtOnRandomTexts) {
     }
 }
 
-TEST(FUtf8OutputTest, tellsOfAFullDisk) {
+TEST(FUtf8OutputTest, reportsAFullDisk) {
     QFile full("/dev/full");
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     FUtf8Output output(full);

@@ -4,10 +4,10 @@
 
 #include "FLiteralReader.h"
 #include "FReaderCases.h"
-#include "genericintegration/io/FResultText.h"
-#include "genericintegration/io/FUtf8.h"
+#include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FValueSearch.h"
-#include "genericintegration/io/findValue.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 #include "tests/support/randomCases.h"
 
 namespace {
@@ -16,7 +16,7 @@ quint32 caseCount() {
     return static_cast<quint32>(randomCases(2000));
 }
 
-/** What stands in the content where a value is said to have been found. */
+/** The content at the place where a value was found. */
 QString textAt(const QString& content, const FFoundValue& value) {
     const QString line = content.section('\n', static_cast<int>(value.line - 1), static_cast<int>(value.line - 1));
     return line.mid(static_cast<int>(value.column - 1), static_cast<int>(value.length));
@@ -54,7 +54,7 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
 
 }  // namespace
 
-TEST(FValueSearchModelTest, samplesAreReadAsToldStepByStep) {
+TEST(FValueSearchModelTest, samplesAreReadAsByTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);
@@ -63,7 +63,7 @@ TEST(FValueSearchModelTest, samplesAreReadAsToldStepByStep) {
     }
 }
 
-TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsToldStepByStep) {
+TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsByTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);
@@ -72,7 +72,7 @@ TEST(FValueSearchModelTest, filesOfAnyBytesAreReadAsToldStepByStep) {
     }
 }
 
-TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
+TEST(FValueSearchModelTest, findValueAgreesWithTheLiteralReader) {
     for (quint32 seed = 0; seed < caseCount(); ++seed) {
         SCOPED_TRACE(seed);
         FReaderCases cases(seed);
@@ -83,13 +83,31 @@ TEST(FValueSearchModelTest, findValueEqualsItsSteps) {
         QRegExp models = separators.pattern();
         int start[2];
         int length[2];
-        const int result = findValue(start[0], length[0], ours, value.line, value.anchor.text, text, value.column,
-                                     separators.findNumbers);
+        const int result = FGenIntReader::instance()->findValue(
+            start[0], length[0], ours, value.line, value.anchor.text, text, value.column, separators.findNumbers);
         EXPECT_EQ(FLiteralReader::findValue(start[1], length[1], models, value.line, value.anchor.text, text,
                                             value.column, separators.findNumbers),
                   result);
         EXPECT_EQ(start[1], start[0]);
         EXPECT_EQ(length[1], length[0]);
         EXPECT_EQ(models.pattern(), ours.pattern());
+    }
+}
+
+TEST(FValueSearchModelTest, searchesStayWithinATextWhoseBytesChange) {
+    for (quint32 seed = 0; seed < 2000; ++seed) {
+        SCOPED_TRACE(seed);
+        FReaderCases cases(seed);
+        const QString content = cases.text(false);
+        const QByteArray before = cases.file(content);
+        const QByteArray after = cases.file(cases.text(false));
+        std::vector<char> bytes(before.begin(), before.end());
+        const FResultText text =
+            FResultText::fromFile(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+        std::copy_n(after.begin(), std::min(before.size(), after.size()), bytes.begin());
+        const std::vector<FValueDescription> values = cases.values(content);
+        for (const FFoundValue& value : FValueSearch(values, cases.separators()).find(text).values) {
+            EXPECT_LE(value.line, static_cast<qint64>(bytes.size()) + 1);
+        }
     }
 }

@@ -4,11 +4,11 @@
 
 #include <cmath>
 
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
 
 namespace {
 
-const FSeparatorSettings Numbers = {true, false, ""};
+const FSeparatorSettings numberColumns = {true, false, ""};
 
 FValueDescription at(int line, int column, const QString& anchor = {}) {
     return {"value", line, column, {anchor, FAnchorOccurrence::Last}, false, 0};
@@ -18,7 +18,8 @@ FValueDescription lastRows(quint32 rows) {
     return {"value", 0, 0, {}, true, rows};
 }
 
-FFoundValue find(const QString& text, const FValueDescription& value, const FSeparatorSettings& separators = Numbers) {
+FFoundValue find(const QString& text, const FValueDescription& value,
+                 const FSeparatorSettings& separators = numberColumns) {
     return FValueSearch({value}, separators).find(FResultText::fromString(text)).values.front();
 }
 
@@ -28,7 +29,7 @@ std::vector<qint64> placeOf(const FFoundValue& value) {
 
 }  // namespace
 
-TEST(FValueSearchTest, whatIsNotFoundHasItsReason) {
+TEST(FValueSearchTest, aValueThatIsntFoundHasAReason) {
     const FFoundValue missing = find("a\n", at(3, 0));
     EXPECT_TRUE(std::isnan(missing.number));
     EXPECT_EQ(FFoundFlags(FFoundFlag::LineBeyondEnd), missing.flags);
@@ -44,13 +45,13 @@ TEST(FValueSearchTest, whatIsNotFoundHasItsReason) {
     EXPECT_EQ(FFoundFlags(FFoundFlag::NotANumber), find("1e400", at(0, 0)).flags);
 }
 
-TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {
+TEST(FValueSearchTest, aHugeLineIsReadOnceForAllItsValues) {
     const QByteArray text = QByteArray("12.5, abc;").repeated(2'000'000);
     std::vector<FValueDescription> values(1000);
     for (int i = 0; i < 1000; ++i) {
         values[static_cast<size_t>(i)] = at(-i % 3, 1999 * (i + 1), i % 2 == 0 ? "none" : "");
     }
-    for (const FSeparatorSettings& separators : {Numbers, FSeparatorSettings{false, false, ";"}}) {
+    for (const FSeparatorSettings& separators : {numberColumns, FSeparatorSettings{false, false, ";"}}) {
         const FResultText file = FResultText::fromFile(text);
         const FFoundValues found = FValueSearch(values, separators).find(file);
         EXPECT_EQ(separators.findNumbers ? "12.5" : "12.5, abc", found.values[999].textIn(file).toStdString());
@@ -58,7 +59,7 @@ TEST(FValueSearchTest, valuesOfOneHugeLineCostItOnce) {
     }
 }
 
-TEST(FValueSearchTest, aFileOfEmptyLinesIsNotReadAnewForEachValue) {
+TEST(FValueSearchTest, aFileOfEmptyLinesIsNotReadAgainForEachValue) {
     const QByteArray text(4'000'000, '\n');
     std::vector<FValueDescription> values(1000);
     for (int i = 0; i < 1000; ++i) {
@@ -66,7 +67,7 @@ TEST(FValueSearchTest, aFileOfEmptyLinesIsNotReadAnewForEachValue) {
     }
     values.push_back(lastRows(4'294'967'295));
     for (const QByteArray& end : {QByteArray(), QByteArray("7")}) {
-        const FFoundValues found = FValueSearch(values, Numbers).find(FResultText::fromFile(text + end));
+        const FFoundValues found = FValueSearch(values, numberColumns).find(FResultText::fromFile(text + end));
         EXPECT_EQ(end.isEmpty(), std::isnan(found.values.back().number));
     }
 }

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/** The rules of template writing once more, step by step and slowly: what the fast writer must agree with. */
+/** A second, slow implementation of template writing, step by step. The fast writer must agree with it. */
 struct SlowTemplateModel {
     struct Row {
         QString text;

@@ -1,26 +1,26 @@
-#include "genericintegration/io/FTextIndex.h"
+#include "host/run/FTextIndex.h"
+
+#include "host/run/FUtf8.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstring>
 
-#include "genericintegration/io/FUtf8.h"
-
 namespace {
 
-constexpr qint64 BlockSize = 2048;
+constexpr qint64 blockSize = 2048;
 
 struct Count {
     qint64 lineFeeds;
     bool isAscii;
 };
 
-constexpr size_t Lanes = 32;
-using Bytes = std::array<unsigned char, Lanes>;
-using Words = std::array<quint64, Lanes / 8>;
+constexpr size_t lanes = 32;
+using Bytes = std::array<unsigned char, lanes>;
+using Words = std::array<quint64, lanes / 8>;
 
-// All bytes together fit into two.
+// The sum of all bytes must fit into 16 bits.
 qint64 sumOf(const Bytes& bytes) {
     constexpr quint64 even = 0x00FF00FF00FF00FF;
     quint64 sums = 0;
@@ -38,9 +38,9 @@ bool isAscii(const Bytes& bits) {
     return (all & 0x8080808080808080) == 0;
 }
 
-// Of at most a block. Lanes of a byte can't overflow then, and let the compiler look at many bytes at once.
+// For at most one block, so that the lanes of one byte can't overflow. They let the compiler vectorise the loop.
 Count countIn(std::string_view text) {
-    static_assert(BlockSize / Lanes + 1 < 0x100);
+    static_assert(blockSize / lanes + 1 < 0x100);
     Bytes lineFeeds{};
     Bytes bits{};
     const auto take = [&](size_t lane, char byte) {
@@ -48,8 +48,8 @@ Count countIn(std::string_view text) {
         bits[lane] |= static_cast<unsigned char>(byte);
     };
     size_t offset = 0;
-    for (; offset + Lanes <= text.size(); offset += Lanes) {
-        for (size_t lane = 0; lane < Lanes; ++lane) {
+    for (; offset + lanes <= text.size(); offset += lanes) {
+        for (size_t lane = 0; lane < lanes; ++lane) {
             take(lane, text[offset + lane]);
         }
     }
@@ -63,13 +63,13 @@ Count countIn(std::string_view text) {
 
 FTextIndex::FTextIndex(std::string_view text) : mText(text) {
     const qint64 size = static_cast<qint64>(text.size());
-    const size_t blocks = static_cast<size_t>(size / BlockSize) + 1;
+    const size_t blocks = static_cast<size_t>(size / blockSize) + 1;
     mLines.reserve(blocks);
     mUnits.reserve(blocks);
     qint64 lines = 0;
     qint64 units = 0;
-    for (qint64 begin = 0; begin <= size; begin += BlockSize) {
-        const std::string_view part = block(begin, std::min(begin + BlockSize, size));
+    for (qint64 begin = 0; begin <= size; begin += blockSize) {
+        const std::string_view part = block(begin, std::min(begin + blockSize, size));
         mLines.push_back(lines);
         mUnits.push_back(units);
         const Count count = countIn(part);
@@ -83,11 +83,11 @@ std::string_view FTextIndex::block(qint64 begin, qint64 end) const {
     return mText.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
 }
 
-// From the nearer end of the block.
+// Counts from the nearer end of the block.
 qint64 FTextIndex::lineAt(qint64 offset) const {
-    const qint64 begin = offset / BlockSize * BlockSize;
-    const qint64 end = begin + BlockSize;
-    const size_t number = static_cast<size_t>(offset / BlockSize);
+    const qint64 begin = offset / blockSize * blockSize;
+    const qint64 end = begin + blockSize;
+    const size_t number = static_cast<size_t>(offset / blockSize);
     if (end - offset < offset - begin && number + 1 < mLines.size()) {
         return mLines[number + 1] - countIn(block(offset, end)).lineFeeds;
     }
@@ -100,7 +100,7 @@ qint64 FTextIndex::lineStart(qint64 line) const {
     }
     const auto above = std::lower_bound(mLines.begin(), mLines.end(), line);
     const qint64 number = above - mLines.begin() - 1;
-    size_t offset = static_cast<size_t>(number * BlockSize);
+    size_t offset = static_cast<size_t>(number * blockSize);
     for (qint64 missing = line - mLines[static_cast<size_t>(number)]; missing > 0; --missing, ++offset) {
         offset = mText.find('\n', offset);
         if (offset == std::string_view::npos) {
@@ -110,9 +110,9 @@ qint64 FTextIndex::lineStart(qint64 line) const {
     return static_cast<qint64>(offset);
 }
 
-// Most lines begin and end in the same block. A question for one that doesn't mustn't cost its length.
+// Most lines start and end in the same block. For one that doesn't, the cost mustn't depend on its length.
 qint64 FTextIndex::lineBegin(qint64 offset) const {
-    const qint64 begin = offset / BlockSize * BlockSize;
+    const qint64 begin = offset / blockSize * blockSize;
     const void* const before = ::memrchr(mText.data() + begin, '\n', static_cast<size_t>(offset - begin));
     if (before != nullptr) {
         return static_cast<const char*>(before) - mText.data() + 1;
@@ -121,7 +121,7 @@ qint64 FTextIndex::lineBegin(qint64 offset) const {
 }
 
 qint64 FTextIndex::lineFeed(qint64 offset) const {
-    const qint64 end = std::min((offset / BlockSize + 1) * BlockSize, static_cast<qint64>(mText.size()));
+    const qint64 end = std::min((offset / blockSize + 1) * blockSize, static_cast<qint64>(mText.size()));
     const size_t at = block(offset, end).find('\n');
     if (at != std::string_view::npos) {
         return offset + static_cast<qint64>(at);
@@ -131,6 +131,6 @@ qint64 FTextIndex::lineFeed(qint64 offset) const {
 }
 
 qint64 FTextIndex::utf16InText(qint64 offset) const {
-    const qint64 number = offset / BlockSize;
-    return mUnits[static_cast<size_t>(number)] + FUtf8::utf16Length(block(number * BlockSize, offset));
+    const qint64 number = offset / blockSize;
+    return mUnits[static_cast<size_t>(number)] + FUtf8::utf16Length(block(number * blockSize, offset));
 }

@@ -1,4 +1,4 @@
-#include "genericintegration/io/FMappingGuard.h"
+#include "host/run/FMappingGuard.h"
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 
 namespace {
 
-/** A guarded range of addresses. A handler of signals may use nothing but this. */
+/** A guarded range of addresses. The signal handler uses nothing else. */
 struct Slot {
     std::atomic<bool> taken = false;
     std::atomic<bool> hit = false;
@@ -36,7 +36,7 @@ void passOn(int signal, siginfo_t* info, void* context) {
     } else if (previousAction.sa_handler != SIG_DFL && previousAction.sa_handler != SIG_IGN) {
         previousAction.sa_handler(signal);
     } else {
-        ::sigaction(signal, &previousAction, nullptr);  // what raised the signal is tried again, and raises it again
+        ::sigaction(signal, &previousAction, nullptr);  // the instruction runs again and raises the signal again
     }
 }
 

@@ -1,21 +1,22 @@
 #pragma once
 
+#include "host/core/FExport.h"
+#include "host/run/FFileBytes.h"
+#include "host/run/FTextIndex.h"
+
 #include <QString>
 
 #include <string_view>
 #include <vector>
 
-#include "genericintegration/io/FFileBytes.h"
-#include "genericintegration/io/FTextIndex.h"
-
 /**
- * The text in which values are searched: that of an output file, or a sample.
+ * The text of an output file, or of a sample of one, with an index of its lines.
  *
- * It is held in the encoding of FUtf8; the bytes of a file that is UTF-8 are used as they stand, any other bytes are
- * decoded as a text stream does and never fail. Making it takes time linear in the text. It can be moved, not copied.
- * The bytes of a file may change meanwhile; what is found then may be wrong, but is searched for within the text.
+ * It is in the encoding of FUtf8: the bytes of a file in UTF-8 are used without a copy, any others are decoded as a
+ * QTextStream does, which never fails. Construction takes time linear in the text. Objects can be moved, not copied.
+ * The bytes of a mapped file may change later; searches may then give wrong results, but stay within the text.
  */
-class FResultText {
+class MERIX_EXPORT FResultText {
  public:
     static FResultText fromFile(FFileBytes bytes);
     static FResultText fromString(const QString& text);
@@ -25,12 +26,13 @@ class FResultText {
     Q_DISABLE_COPY(FResultText)
 
     bool isEmpty() const { return mText.empty(); }
-    /** False when the file was cut meanwhile. */
+    /** False if the file has been truncated since. */
     bool isWhole() const { return mFile.isWhole(); }
     std::string_view text() const { return mText; }
+    /** Size in bytes. */
     qint64 size() const { return static_cast<qint64>(mText.size()); }
 
-    /** Size of the text without the white space at its end. */
+    /** Size in bytes without trailing white space. */
     qint64 trimmedSize() const { return mTrimmedSize; }
     const FTextIndex& index() const { return mIndex; }
 

@@ -1,4 +1,6 @@
-#include "genericintegration/io/FFileDecoding.h"
+#include "host/run/FFileDecoding.h"
+
+#include "host/run/FUtf8.h"
 
 #include <QByteArray>
 #include <QTextCodec>
@@ -7,18 +9,16 @@
 
 #include <algorithm>
 
-#include "genericintegration/io/FUtf8.h"
-
 namespace FFileDecoding {
 namespace {
 
-// A text stream decodes in pieces of this size. What becomes of an invalid sequence depends on where a piece ends.
-constexpr size_t PieceSize = 16384;
+// A text stream decodes in pieces of this size, and the result for an invalid sequence depends on where a piece ends.
+constexpr size_t pieceSize = 16384;
 
-constexpr std::string_view Mark = "\xEF\xBB\xBF";
+constexpr std::string_view mark = "\xEF\xBB\xBF";
 
 QTextCodec* codecOf(std::string_view file) {
-    const QByteArray head = QByteArray::fromRawData(file.data(), static_cast<int>(std::min(file.size(), PieceSize)));
+    const QByteArray head = QByteArray::fromRawData(file.data(), static_cast<int>(std::min(file.size(), pieceSize)));
     return QTextCodec::codecForUtfText(head, QTextCodec::codecForName("UTF-8"));
 }
 
@@ -26,11 +26,11 @@ QString decodePiece(const QTextCodec& codec, std::string_view piece, QTextCodec:
     return codec.toUnicode(piece.data(), static_cast<int>(piece.size()), &state);
 }
 
-// A text stream loses a mark that ends in a later piece as its first character, too, if all before it is ASCII.
+// A text stream also drops a mark that is the first character to end in a later piece, if all before it is ASCII.
 bool hasLaterMark(std::string_view file) {
-    constexpr size_t reach = Mark.size() - 1;
-    for (size_t offset = PieceSize; offset < file.size(); offset += PieceSize) {
-        if (file.substr(offset - reach, reach + Mark.size()).find(Mark) != std::string_view::npos) {
+    constexpr size_t reach = mark.size() - 1;
+    for (size_t offset = pieceSize; offset < file.size(); offset += pieceSize) {
+        if (file.substr(offset - reach, reach + mark.size()).find(mark) != std::string_view::npos) {
             return true;
         }
     }
@@ -44,7 +44,7 @@ int plainTextOffset(std::string_view file) {
     if (!simdjson::validate_utf8(file.data(), file.size()) || hasLaterMark(file)) {
         return -1;
     }
-    return file.substr(0, Mark.size()) == Mark ? static_cast<int>(Mark.size()) : 0;
+    return file.substr(0, mark.size()) == mark ? static_cast<int>(mark.size()) : 0;
 }
 
 std::vector<char> decode(std::string_view file) {
@@ -53,8 +53,8 @@ std::vector<char> decode(std::string_view file) {
     std::vector<char> text;
     text.reserve(file.size());
     QString pending;
-    for (size_t offset = 0; offset < file.size(); offset += PieceSize) {
-        QString piece = pending + decodePiece(*codec, file.substr(offset, PieceSize), state);
+    for (size_t offset = 0; offset < file.size(); offset += pieceSize) {
+        QString piece = pending + decodePiece(*codec, file.substr(offset, pieceSize), state);
         pending.clear();
         if (!piece.isEmpty() && piece.at(piece.size() - 1).isHighSurrogate()) {
             pending = piece.right(1);

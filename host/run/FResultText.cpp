@@ -1,9 +1,9 @@
-#include "genericintegration/io/FResultText.h"
+#include "host/run/FResultText.h"
+
+#include "host/run/FFileDecoding.h"
+#include "host/run/FUtf8.h"
 
 #include <utility>
-
-#include "genericintegration/io/FFileDecoding.h"
-#include "genericintegration/io/FUtf8.h"
 
 FResultText FResultText::fromFile(FFileBytes bytes) {
     const std::string_view file = bytes.view();

@@ -1,4 +1,4 @@
-#include "genericintegration/io/FFileBytes.h"
+#include "host/run/FFileBytes.h"
 
 #include <utility>
 
@@ -23,7 +23,7 @@ FFileBytes::FFileBytes(std::unique_ptr<QFile> file) : mFile(std::move(file)) {
 
 bool FFileBytes::map() {
     const qint64 size = mFile->size();
-    if (size < MappedSize) {
+    if (size < mappedSize) {
         return false;
     }
     uchar* const begin = mFile->map(0, size);

@@ -256,9 +256,9 @@ class MERIX_EXPORT FCmdTable {
 };
 
 template <class C, class M>
-FCmdTable& FCmdTable::plain(const char* name, M member, Names names) {
+FCmdTable& FCmdTable::plain(const char* name, M place, Names names) {
     using V = std::remove_cvref_t<std::invoke_result_t<M, C&>>;
-    const std::function<V&(C&)> find = [member](C& object) -> V& { return std::invoke(member, object); };
+    const std::function<V&(C&)> find = [place](C& object) -> V& { return std::invoke(place, object); };
     const auto valueIn = [find](const FObject& object) -> const V& {
         return find(const_cast<C&>(dynamic_cast<const C&>(object)));
     };

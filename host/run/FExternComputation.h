@@ -2,7 +2,7 @@
 
 #include "host/core/FExport.h"
 #include "host/core/FManaged.h"
-#include "host/run/FComputationResults.h"
+#include "host/run/FCurrentResults.h"
 #include "host/run/FProgramSettings.h"
 
 #include <QObject>
@@ -10,15 +10,15 @@
 
 #include <memory>
 
-class FRun;
+class FRunAttempt;
 
 /**
  * A computation by an external program: the program's settings, and its runs.
  *
- * The steps of a run, in this order: what an earlier run left moves aside; input files are copied, exported and
- * written; `computationStarted`; the program; `computationFinished`, once on every way out after the start; output
- * handles. Each run has results of its own, also one that fails before its program starts. What goes into the files is
- * the business of derived classes; for the time of their steps FPathManager knows the run's folder.
+ * A run executes these steps in this order: it moves the files of an earlier run aside; it copies input files, exports
+ * and writes; `computationStarted`; the program; `computationFinished`, exactly once if `computationStarted` was
+ * called; output handles. Each run has its own results, even if it fails before its program starts. Derived classes
+ * decide what the input files contain; during the steps FPathManager knows the folder of the run.
  */
 class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObject, FManaged> {
     Q_OBJECT
@@ -29,40 +29,34 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     explicit FExternComputation(const QString& name = QString());
     ~FExternComputation() override;
 
-    // ---- settings of the program; each is set through its attribute ----
-    /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
-    const QString& getExecutable() const { return mProgram.executable; }
-    const QStringList& getArguments() const { return mProgram.arguments; }
-    /** Seconds from the start of the program; 0 is no limit. A number below 0 is refused with a message. */
-    double getTimeLimit() const { return mProgram.timeLimit; }
-    /** Texts "NAME=value", added to the environment or replacing what is there. */
-    const QStringList& getEnvironment() const { return mProgram.environment; }
-    /** A file in the folder of the run; empty for none. */
-    const QString& getStandardInput() const { return mProgram.standardInput; }
-    /** Whether what the program prints goes to "stdout.txt" and "stderr.txt" in the folder of the run. */
-    bool getConsoleFiles() const { return mProgram.consoleFiles; }
+    /** How the program is started. Attributes of the command table set it. */
+    const FProgramSettings& getProgram() const { return mProgram; }
 
     // ---- runs ----
-    /** False while a run goes on. */
+    /** False while a run is in progress. */
     bool canRun() const { return !mAttempt; }
-    /** What keeps the program from being started, for the user; empty if nothing does. */
+    /** Why the program can't be started, for the user; empty if nothing prevents it. */
     virtual QString checkSetup() const { return mProgram.fault(); }
     /**
-     * Runs the program. Refused, with a message, while a run goes on.
-     * @param wait  true: returns, after a local event loop, with whether the run succeeded. False: returns at once,
-     * with whether the program is being started.
+     * Runs the program. Refused, with a message, while a run is in progress.
+     * @param wait  true: returns, after a local event loop, whether the run succeeded. False: returns at once whether
+     *              the program is being started.
      */
     bool run(bool wait = true);
     /** Starts a run from a window, which doesn't wait for it. */
     void guiRun() { run(false); }
-    /** Asks to end the run; false if there is none. */
+    /**
+     * Starts a run as soon as control is back in the event loop, and doesn't wait for it. Calls until then count as
+     * one. Nothing happens if the computation can't run by then, or is no longer in the model.
+     */
+    void triggerRunByTimer();
+    /** Requests the end of the run; false if there is none. */
     bool cancel();
     void cancelExternalProcess() { cancel(); }
-    bool wasAborted() const;
-    /** In words, see FRunRecord. */
-    QString getState() const;
-    /** Of the last run; -1 if there is none. */
-    int getExitCode() const;
+    /** Whether the last run was cancelled. */
+    bool wasAborted() const { return getLastRun().cause == FRunRecord::Cause::Cancelled; }
+    /** The run in progress, else the last one; in state `Ready` before the first. */
+    const FRunRecord& getLastRun() const;
     /** Folder of the run in progress, else of the last one, else of the next; with a slash at its end. */
     QString getWorkingPath() const;
 
@@ -70,12 +64,20 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     /** Prototype of the results; each run makes its own from it. */
     virtual const FObject* getResultType() const;
     /** Results of the last run, or of the one in progress. Empty before the first. */
-    virtual FExpr<FComputationResults> getResults() const { return mResults; }
-    const FExpr<FComputationResults>& getCurrentResults() const { return mResults; }
+    virtual FExpr<FComputationResults> getResults() const { return mResults.get(); }
+    const FExpr<FComputationResults>& getCurrentResults() const { return mResults.get(); }
+    /** Reads what the current results haven't read yet; false if there are none or nothing can be read. */
+    bool prepareResults() const;
+    /** Whether there are results, or files to read them from, and no run is in progress. */
     bool canRereadResults() const;
     /**
-     * Has the present files read again, with the present set-up; runs nothing. False, with a message, if nothing says
-     * what to read, or if a file isn't there; what is there is read all the same.
+     * The next access to the results reads the files again, with the present set-up. Runs nothing, and doesn't check
+     * the files. False if `canRereadResults` is.
+     */
+    bool refetchResults();
+    /**
+     * As `refetchResults`, with a message if that isn't possible. Also returns false, with a message, if no file is
+     * named or a file is missing; the other files are read all the same.
      */
     bool rereadResults();
     virtual bool isGeneric() const { return false; }
@@ -86,7 +88,10 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     }
 
  signals:
-    /** The state of the run is another one: writing, running, over; also when the program couldn't be started. */
+    /**
+     * The state of the run has changed: writing, running, over; also if the program couldn't be started. FChanges
+     * then reports the computation and the results as changed.
+     */
     void runChanged();
 
  protected:
@@ -94,18 +99,20 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     void leaveModel() override;
 
     // ---- steps of a run, for derived classes ----
-    /** Before anything is written: makes room in the folder. Returns what went wrong, for the user. Idle without a run.
-     */
+    /** Before anything is written: makes room in the folder. Returns what went wrong, for the user. Does nothing
+     *  without a run. */
     virtual QString prepareRun() const;
     virtual bool copyInputFiles(const QString& folder) const;
     virtual bool doExports() const { return true; }
     /** Writes the input files. */
     virtual bool writeOutputFile() const { return true; }
     virtual void computationStarted() const {}
+    /** Starts the program, which then runs on its own. Does nothing without a run. */
+    void runExternalProcess(FComputationResults* results);
     virtual void computationFinished() const {}
-    /** After the program: notes what it left. Idle without a run. */
+    /** After the program: notes which files it left. Does nothing without a run. */
     virtual void finalizeRun() const;
-    /** Gives the results what they are read with. */
+    /** Gives the results the templates that they are read with. */
     virtual void applyOutputHandles(FComputationResults* results) const { Q_UNUSED(results) }
     /** The same when results are read again without a run. */
     virtual void processReread(FComputationResults* results) { results->setOutOfDate(true); }
@@ -113,22 +120,20 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual QStringList getReadFiles() const { return {}; }
 
  private:
-    struct Attempt;
+    friend class FRunAttempt;
 
     static void declareCommands(FCmdTable& table);
     template <auto Member>
     static auto& inProgram(FExternComputation& computation);
-    void stateChanged();
-    void makeResults();
-    void startRun();
-    QString writeInput() const;
-    void runExternalProcess();
-    void finishRun();
-    void report() const;
-    QString rereadProblem() const;
+
+    // For the run in progress.
+    FComputationResults* takeRun(const std::shared_ptr<const FRunRecord>& run);
+    std::shared_ptr<FRunAttempt> endRun();
+    void stateChanged(FComputationResults* results);
 
     FProgramSettings mProgram;
-    std::shared_ptr<Attempt> mAttempt;  // null when no run goes on
+    std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
     std::shared_ptr<const FRunRecord> mRecord;
-    FExpr<FComputationResults> mResults;
+    FCurrentResults mResults;
+    bool mIsTriggered = false;
 };

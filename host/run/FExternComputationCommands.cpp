@@ -39,7 +39,13 @@ void FExternComputation::declareCommands(FCmdTable& table) {
         .unwrapped();
     table.member<F>("rereadResults", &F::rereadResults);
     table.member<F>("cancel", &F::cancel);
-    table.member<F>("getState", &F::getState).query();
-    table.member<F>("getExitCode", &F::getExitCode).query();
+    table
+        .member<F>(
+            "getState", +[](const F& computation) { return computation.getLastRun().stateName(); })
+        .query();
+    table
+        .member<F>(
+            "getExitCode", +[](const F& computation) { return computation.getLastRun().exitCode; })
+        .query();
     table.member<F>("getWorkingPath", &F::getWorkingPath).query();
 }

@@ -7,24 +7,24 @@
 
 /** How an external program ended. */
 struct MERIX_EXPORT FProcessOutcome {
-    /** What the program can be blamed for, or what ended it. */
+    /** What kept it from success. If there are several causes, the first in this list counts. */
     enum class Cause {
         None,               //!< it ended by itself with exit code 0
-        ProgramNotStarted,  //!< also: its folder or one of its files can't be used, the supervisor is missing
+        InputNotWritten,    //!< of a run: also if files of an earlier run can't be moved aside
+        ProgramNotStarted,  //!< not found, not executable, or a file or setting of its start is wrong
         TimeLimit,
         Signal,
-        ExitCode,   //!< not 0
-        Cancelled,  //!< by FProcess::cancel(), or by a signal to its supervisor
+        ExitCode,     //!< not 0
+        FileMissing,  //!< of a run: the program succeeded, but didn't write a file that results are read from
+        Cancelled,    //!< by FProcess::cancel(), or by a signal to the supervisor
     };
 
-    bool isSuccess() const { return cause == Cause::None; }
-
     Cause cause = Cause::None;
-    int exitCode = -1;     //!< -1 if there is none; also after a time limit or cancelling it tells how it ended
+    int exitCode = -1;     //!< -1 if there is none; may be set after a time limit or cancelling, too
     int signal = 0;        //!< 0 if no signal ended it
     qint64 processId = 0;  //!< 0 if it was not started
     QDateTime start;       //!< of the program; invalid if it was not started
-    QDateTime end;         //!< of the program itself; what it left behind may have ended later
+    QDateTime end;         //!< of the program itself; processes that it started may have ended later
     QString program;       //!< path as started; as given if it was not found
-    QString message;       //!< what happened, where, what to do; empty after a success that left nothing behind
+    QString message;       //!< what happened, where, what to do; empty after a success that left no processes
 };

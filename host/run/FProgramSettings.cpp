@@ -46,11 +46,3 @@ FProcessSetup FProgramSettings::setupIn(const QString& folder) const {
     }
     return setup;
 }
-
-std::size_t FProgramSettings::heldMemory() const {
-    std::size_t units = 0;
-    for (const QString& text : QStringList{executable, standardInput} + arguments + environment) {
-        units += static_cast<std::size_t>(text.size());
-    }
-    return sizeof(*this) + units * sizeof(QChar);
-}

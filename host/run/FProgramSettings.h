@@ -3,25 +3,22 @@
 #include "host/core/FExport.h"
 #include "host/run/FProcessSetup.h"
 
-/** How a computation starts its program; the same from run to run. What each means stands at FExternComputation. */
+/** How a computation starts its program. */
 struct MERIX_EXPORT FProgramSettings {
+    /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
     QString executable;
     QStringList arguments;
-    double timeLimit = 0;
-    QStringList environment;
-    QString standardInput;
-    bool consoleFiles = true;
+    double timeLimit = 0;      //!< seconds from the start of the program, from 0; 0 is no limit
+    QStringList environment;   //!< texts "NAME=value", which extend or replace the environment
+    QString standardInput;     //!< a file in the folder of the run; empty for none
+    bool consoleFiles = true;  //!< whether the output of the program goes to `outputFile` and `errorFile`
 
-    bool operator==(const FProgramSettings&) const = default;
-
-    /** What the program prints goes to these files in the folder of the run. */
+    /** Files in the folder of the run for the output and the error output of the program. */
     static const QString& outputFile();
     static const QString& errorFile();
 
-    /** What keeps the program from being started, for the user; empty if nothing does. */
+    /** Why the program can't be started, for the user; empty if nothing prevents it. */
     QString fault() const;
-    /** What it is started with in a folder, given without a slash at its end. */
+    /** The same for the start in a folder, whose path has no slash at its end. */
     FProcessSetup setupIn(const QString& folder) const;
-    /** About how many bytes they take, see FStateField. */
-    std::size_t heldMemory() const;
 };

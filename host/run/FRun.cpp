@@ -12,24 +12,6 @@ namespace {
 
 constexpr int mostLines = 5;
 
-Cause causeOf(FProcessOutcome::Cause cause) {
-    switch (cause) {
-        case FProcessOutcome::Cause::None:
-            return Cause::None;
-        case FProcessOutcome::Cause::ProgramNotStarted:
-            return Cause::ProgramNotStarted;
-        case FProcessOutcome::Cause::TimeLimit:
-            return Cause::TimeLimit;
-        case FProcessOutcome::Cause::Signal:
-            return Cause::Signal;
-        case FProcessOutcome::Cause::ExitCode:
-            return Cause::ExitCode;
-        case FProcessOutcome::Cause::Cancelled:
-            break;
-    }
-    return Cause::Cancelled;
-}
-
 State stateOf(Cause cause) {
     switch (cause) {
         case Cause::None:
@@ -60,14 +42,15 @@ void FRun::fail(Cause cause, const QString& message) {
     conclude();
 }
 
-void FRun::start() {
-    mRecord->state = State::Running;
+bool FRun::start() {
     if (mIsCancelled) {
-        const auto end = [this] { fail(Cause::Cancelled, QStringLiteral("The run was cancelled before it began.")); };
+        const auto end = [this] { fail(Cause::Cancelled, QStringLiteral("The run was cancelled before it started.")); };
         QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
-    } else {
-        mProcess.start();
+        return false;
     }
+    mRecord->state = State::Running;
+    mProcess.start();
+    return true;
 }
 
 void FRun::cancel() {
@@ -76,13 +59,7 @@ void FRun::cancel() {
 }
 
 void FRun::takeOutcome(const FProcessOutcome& outcome) {
-    mRecord->program = outcome.program;
-    mRecord->cause = causeOf(outcome.cause);
-    mRecord->start = outcome.start;
-    mRecord->end = outcome.end;
-    mRecord->exitCode = outcome.exitCode;
-    mRecord->signal = outcome.signal;
-    mRecord->message = outcome.message;
+    static_cast<FProcessOutcome&>(*mRecord) = outcome;
     findMissingFiles();
     if (mRecord->cause != Cause::None && outcome.start.isValid()) {
         keepLastLines();

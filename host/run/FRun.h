@@ -6,36 +6,36 @@
 #include <memory>
 
 /**
- * One attempt to run a program: it keeps the record, watches the process, and tells once when all is over. What is
- * written before the program starts is the caller's business, who says with `fail` that it went wrong.
+ * The process and the record of one run. The caller writes the input files between `startWriting` and `start`, and
+ * calls `fail` if that goes wrong. The end is reported once.
  */
 class FRun : public QObject {
     Q_OBJECT
 
  public:
     /**
-     * @param setup      what the program is started with; its folder is the run's
+     * @param setup      how the program is started; its working folder is the folder of the run
      * @param readFiles  files in the folder that results are read from: the program has to write them
      */
     FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles);
 
-    /** Those of the files that aren't in the folder, quoted for a message; empty if all are there. */
+    /** The files that are missing in the folder, quoted for a message; empty if none is. */
     static QString missingFiles(const QString& folder, const QStringList& files);
 
     const FRunRecord& record() const { return *mRecord; }
-    /** The record as results keep it: it follows the run. */
+    /** The same record for results to keep; it is updated during the run. */
     std::shared_ptr<const FRunRecord> sharedRecord() const { return mRecord; }
 
     void startWriting() { mRecord->state = FRunRecord::State::Writing; }
     /** Ends the run before its program was started. */
     void fail(FRunRecord::Cause cause, const QString& message);
-    /** Starts the program. */
-    void start();
-    /** Asks to end the program; one that hasn't been started yet never will be. */
+    /** Starts the program. False if the run was cancelled before; it then ends without the program. */
+    bool start();
+    /** Requests the end of the program; one that hasn't been started yet never will be. */
     void cancel();
 
  signals:
-    /** All is over and the record complete. Once for each run. */
+    /** The run is over, and its record is complete. Emitted once. */
     void ended();
 
  private:

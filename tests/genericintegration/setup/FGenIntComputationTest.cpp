@@ -62,7 +62,7 @@ TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {
     ASSERT_TRUE(run("ok = comp.run(); comp.setConfiguration(NULL); again = comp.run()"));
     EXPECT_TRUE(logHolds("No configuration found")) << logText();
     EXPECT_EQ(mSignals, QStringList({"started", "ended"})) << "the second one never started";
-    EXPECT_EQ(computation()->getState(), "failed");
+    EXPECT_EQ(computation()->getLastRun().stateName(), "failed");
 }
 
 TEST_F(FGenIntComputationTest, outlivesWhatHappensInTheMiddleOfARun) {

@@ -118,8 +118,8 @@ TEST_F(FExternComputationTest, runsTheProgramInItsFolder) {
     ASSERT_TRUE(mProbe->runScript("cat in.txt > out.dat; echo said; echo wrong >&2")) << logText();
     EXPECT_EQ(mProbe->mSteps, allSteps());
     EXPECT_EQ(mProbe->number(), 42);
-    EXPECT_EQ(mProbe->getState(), "finished");
-    EXPECT_EQ(mProbe->getExitCode(), 0);
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "finished");
+    EXPECT_EQ(mProbe->getLastRun().exitCode, 0);
     EXPECT_TRUE(mProbe->getResults()->getRun()->program.endsWith("/sh"));
     EXPECT_EQ(read(runFile("stdout.txt")), "said\n");
     EXPECT_EQ(logText(), "");
@@ -198,7 +198,7 @@ TEST_F(FExternComputationTest, tellsWhyAProgramCanNotBeStarted) {
 TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
     set(*mProbe, "setArguments", QStringList{"-c", "echo $$ > pid; exec sleep 60"});
     ASSERT_TRUE(mProbe->run(false));
-    EXPECT_EQ(mProbe->getState(), "running");
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "running");
     EXPECT_FALSE(mProbe->run()) << "one goes on";
     EXPECT_TRUE(logHolds("still in progress"));
     EXPECT_FALSE(mProbe->rereadResults());
@@ -206,7 +206,7 @@ TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
     EXPECT_FALSE(results->prepareResults()) << "nothing is read before the end";
     EXPECT_TRUE(mProbe->cancel());
     EXPECT_TRUE(waitUntil([this] { return mProbe->canRun(); }));
-    EXPECT_EQ(mProbe->getState(), "cancelled");
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "cancelled");
     EXPECT_TRUE(mProbe->wasAborted());
     EXPECT_EQ(mProbe->mSteps, allSteps());
     EXPECT_EQ(log().filter("cancelled").size(), 1) << logText();
@@ -214,7 +214,7 @@ TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
 
     mProbe->mAtStart = [this] { mProbe->cancel(); };
     EXPECT_FALSE(mProbe->runScript("sleep 60")) << "cancelled by a step before the program";
-    EXPECT_EQ(mProbe->getState(), "cancelled");
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "cancelled");
     EXPECT_EQ(mProbe->mSteps, allSteps());
 }
 
@@ -241,7 +241,7 @@ TEST_F(FExternComputationTest, leavesTheFolderToTheProcessThatHasTheProject) {
     mProbe = new FProbe("probe");
     write(runFile("out.dat"), "9");
     EXPECT_FALSE(mProbe->runScript("echo 5 > out.dat"));
-    EXPECT_EQ(mProbe->getState(), "failed");
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "failed");
     EXPECT_FALSE(dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr())->getData("out.dat"));
     EXPECT_TRUE(logHolds("error: probe: The project is open elsewhere (")) << logText();
     EXPECT_EQ(read(runFile("out.dat")), "9");
@@ -279,7 +279,7 @@ TEST_F(FExternComputationTest, marksWhatDependsOnItAndLeavesTheHistoryAlone) {
     EXPECT_EQ(FHistory::instance()->getLabels().size(), steps + 1) << "the setting alone";
     const FExpr<FComputationResults> results = mProbe->getResults();
     EXPECT_TRUE(FHistory::instance()->undo());
-    EXPECT_EQ(mProbe->getArguments(), QStringList({"-c", "exit 1"}));
+    EXPECT_EQ(mProbe->getProgram().arguments, QStringList({"-c", "exit 1"}));
     EXPECT_EQ(mProbe->getResults(), results);
     EXPECT_EQ(mProbe->number(), 8);
 }
@@ -288,6 +288,6 @@ TEST_F(FExternComputationTest, refusesATimeLimitBelowZero) {
     set(*mProbe, "setTimeLimit", double(12.5));
     set(*mProbe, "setTimeLimit", double(-1));
     set(*mProbe, "setTimeLimit", double(qQNaN()));
-    EXPECT_EQ(mProbe->getTimeLimit(), 12.5);
+    EXPECT_EQ(mProbe->getProgram().timeLimit, 12.5);
     EXPECT_EQ(log().filter("time limit").size(), 2);
 }

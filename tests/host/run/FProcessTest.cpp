@@ -103,7 +103,7 @@ TEST_F(FProcessTest, tellsHowTheProgramEnded) {
     process.start();
     const FProcessOutcome success = finish(process);
     EXPECT_TRUE(hasStarted);
-    EXPECT_TRUE(success.isSuccess());
+    EXPECT_EQ(success.cause, Cause::None);
     const FProcessOutcome code = run(shell("exit 3"));
     EXPECT_EQ(code.cause, Cause::ExitCode);
     EXPECT_EQ(code.exitCode, 3);
@@ -154,7 +154,7 @@ TEST_F(FProcessTest, passesAllOnUnchanged) {
     setup.environment = QStringList{QString::fromUtf8("WORD=a=b ü")};
     write("in.txt", QByteArray("bytes \0 \xff\xfe\n", 11));
     setup.standardInputFile = "in.txt";
-    EXPECT_TRUE(run(setup).isSuccess());
+    EXPECT_EQ(run(setup).cause, Cause::None);
     QByteArray expected = "<" + arguments.join("><").toUtf8() + "><a=b \xc3\xbc>";
     expected += QByteArray("bytes \0 \xff\xfe\n", 11) + path().toUtf8() + "\n0\n1\n2\n3\n";
     EXPECT_EQ(read("stdout.txt"), expected);
@@ -165,7 +165,7 @@ TEST_F(FProcessTest, passesAllOnUnchanged) {
     FProcessSetup bare = shell("");
     bare.program = "tool";
     bare.environment = QStringList{"PATH=sub:/usr/bin:"};
-    EXPECT_TRUE(run(bare).isSuccess());
+    EXPECT_EQ(run(bare).cause, Cause::None);
     EXPECT_EQ(read("stdout.txt"), "own tool\n");
 }
 
@@ -279,7 +279,7 @@ TEST_F(FProcessTest, runsSideBySide) {
 }
 
 TEST_F(FProcessTest, leavesNoDescriptorAndNoZombie) {
-    EXPECT_TRUE(run(shell("exit 0")).isSuccess());
+    EXPECT_EQ(run(shell("exit 0")).cause, Cause::None);
     const int before = openDescriptors();
     for (int i = 0; i < 30; ++i) {
         run(shell("exit 1"));

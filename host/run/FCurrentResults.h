@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/run/FComputationResults.h"
+
+#include <memory>
+
+class FExternComputation;
+
+/** The results of a computation's last run, or of the run in progress; none before the first one. */
+class FCurrentResults {
+ public:
+    const FExpr<FComputationResults>& get() const { return mResults; }
+    /**
+     * Makes new results in the model, of the class that the computation's runs have.
+     * @param run  the run that they belong to; null to read the files of an earlier session
+     */
+    void make(const FExternComputation& computation, const std::shared_ptr<const FRunRecord>& run);
+    /** Why these files can't all be read again, for the user; empty if they can. */
+    QString rereadProblem(const QStringList& files) const;
+
+ private:
+    FExpr<FComputationResults> mResults;
+};

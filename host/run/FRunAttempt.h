@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/core/FExpr.h"
+#include "host/run/FRun.h"
+#include "host/run/FRunFolder.h"
+
+class FComputationResults;
+class FExternComputation;
+
+/**
+ * A run in progress: executes the steps of its computation in order, in the folder of the run. It keeps the computation
+ * alive, which may leave the model meanwhile.
+ */
+class FRunAttempt : public QObject {
+ public:
+    /**
+     * @param setup      how the program is started; its working folder is the folder of the run
+     * @param earlier    folder for the files of the run before, without a slash at its end
+     * @param readFiles  files in the folder that results are read from
+     */
+    FRunAttempt(FExternComputation* computation, const FProcessSetup& setup, const QString& earlier,
+                const QStringList& readFiles);
+
+    std::shared_ptr<const FRunRecord> record() const { return mRun.sharedRecord(); }
+
+    /** Starts the run, and waits for its end if requested. True if the run succeeded, or else was started. */
+    bool execute(bool wait);
+    void cancel() { mRun.cancel(); }
+
+    // ---- parts of the computation's steps ----
+    /** Moves the files of an earlier run aside. Returns what went wrong, for the user. */
+    QString makeRoom();
+    /** Starts the program; false if the run was cancelled before. Ends the run if the set-up has a fault. */
+    bool startProgram();
+    /** Notes which files the program has left. */
+    void noteLeft() const { mFolder.noteLeft(); }
+
+ private:
+    void start();
+    QString writeInput(FComputationResults* results);
+    void finish();
+    void report() const;
+
+    FExprBase mKeep;  // an FExpr of a computation that has left the model is null
+    FExternComputation* mComputation;
+    FRun mRun;
+    QString mHolder;  // another process that uses the folder; empty if there is none
+    QString mEarlier;
+    QStringList mReadFiles;
+    FRunFolder mFolder;
+    bool mIsStarted = false;  // computationStarted was called
+};

@@ -6,7 +6,10 @@
 /** What kind of file a result file is. */
 enum class ResultsFileType : unsigned int {
     Any = 0,
-    Text = 3,  //!< pure text
+    Table = 1,
+    Image = 2,
+    Text = 3,  //!< plain text
+    Mesh = 4,
 };
 
 /** A file that a run leaves in the run directory. */

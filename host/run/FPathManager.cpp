@@ -14,7 +14,7 @@
 
 namespace {
 
-/** Where temporary folders are made; without this, those of a TMPDIR that isn't there would be made in the root. */
+/** The folder for temporary folders. QDir gives an empty one for a TMPDIR that doesn't exist, which would be "/". */
 QString temporaryPlace() {
     const QString place = QDir::tempPath();
     return place.isEmpty() ? QStringLiteral("/tmp") : place;
@@ -38,7 +38,7 @@ QString FPathManager::resultsRoot() {
         QTemporaryDir folder(place + QStringLiteral("/merix-XXXXXX"));
         folder.setAutoRemove(false);
         if (!folder.isValid()) {
-            // Can't be made either, so that the run tells where it should have been.
+            // It can't be created either, so the run reports its path.
             return place + QStringLiteral("/merix-%1").arg(QCoreApplication::applicationPid());
         }
         mTemporaryRoot = folder.path();
@@ -49,19 +49,36 @@ QString FPathManager::resultsRoot() {
     return mTemporaryRoot;
 }
 
+QString FPathManager::designDir(const FDesign* design) {
+    return resultsRoot() + QLatin1Char('/') + (design ? design->getName() : QStringLiteral("baseline"));
+}
+
+QString FPathManager::currentRunFolder() {
+    if (!mRunFolder.isEmpty() || mLastRunFolder.isEmpty()) {
+        return mRunFolder;
+    }
+    const bool isOfProject = mLastRunFolder.startsWith(resultsRoot() + QLatin1Char('/'));
+    return isOfProject ? mLastRunFolder : QString();
+}
+
+QString FPathManager::getProjectDir() {
+    const QString& project = FMerixCtrl::instance()->getProjectFile();
+    return project.isEmpty() ? QDir::currentPath() : QFileInfo(project).absolutePath();
+}
+
 QString FPathManager::getDesignDir(const FExpr<FDesign>& design) {
-    const FDesign* object = design.ptr();
-    return resultsRoot() + QLatin1Char('/') + (object ? object->getName() : QStringLiteral("baseline"));
+    const QString folder = design ? QString() : currentRunFolder();
+    return folder.isEmpty() ? designDir(design.ptr()) : QFileInfo(QDir::cleanPath(folder)).path();
 }
 
 QString FPathManager::getResultsDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
     const FExternComputation* object = computation.ptr();
-    return getDesignDir(design) + (object ? QLatin1Char('/') + object->getName() : QString());
+    return object ? designDir(design.ptr()) + QLatin1Char('/') + object->getName() : getDesignDir(design);
 }
 
 QString FPathManager::getInputDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
-    const bool ofRun = !computation && !design && !mRunFolder.isEmpty();
-    return ofRun ? mRunFolder : getResultsDir(computation, design) + QLatin1Char('/');
+    const QString folder = computation || design ? QString() : currentRunFolder();
+    return folder.isEmpty() ? getResultsDir(computation, design) + QLatin1Char('/') : folder;
 }
 
 QString FPathManager::getResultPath(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
@@ -69,7 +86,7 @@ QString FPathManager::getResultPath(const FExpr<FExternComputation>& computation
 }
 
 QString FPathManager::getEarlierDir(const QString& computation, const FExpr<FDesign>& design) {
-    return getDesignDir(design) + QStringLiteral("/.earlier/") + computation;
+    return designDir(design.ptr()) + QStringLiteral("/.earlier/") + computation;
 }
 
 QString FPathManager::getSamplesDir() const {

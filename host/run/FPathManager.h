@@ -9,28 +9,37 @@ class FDesign;
 class FExternComputation;
 
 /**
- * The folders of the program. Runs have theirs at <results root>/<design>/<computation>; what a run reads and writes
- * lies in the same one. The root is "<project>.results" beside the project's file. A project without a file has a
- * temporary folder instead, which stays after the end of the program; its path is logged when it is made.
+ * The folders of the program. The folder of a run is <results root>/<design>/<computation>; it contains both the input
+ * and the output files. The root is "<project>.results" next to the project's file. A project without a file has a
+ * temporary folder instead, which stays after the end of the program; its path is logged when it is created.
  *
- * An empty design stands for the current one, which is called "baseline". An empty computation stands for the one whose
- * run the steps at work belong to (FRunScope). Paths are absolute; nothing but the temporary folder is made here.
+ * A computation without a design has its runs in "baseline". Without a computation and a design, the paths are those of
+ * the current run: the one whose steps are being executed (FRunScope), else the last one that was started for this
+ * project. If there is none, they are those of "baseline". Paths are absolute; only the temporary folder is created
+ * here.
  */
 class MERIX_EXPORT FPathManager {
  public:
     static FPathManager* instance();
 
-    /** Folder of a design, without a slash at its end. */
+    /** Folder of the project's file, or the current folder if it has no file; without a slash at its end. */
+    static QString getProjectDir();
+    /** Folder of a design, or of the current run's design; without a slash at its end. */
     QString getDesignDir(const FExpr<FDesign>& design);
-    /** Folder of a computation's results, or of all of a design for an empty computation. No slash at its end. */
+    /**
+     * Folder of a computation's results in a design. Without a computation: of all results of the design, see
+     * `getDesignDir`. No slash at its end.
+     */
     QString getResultsDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design);
-    /** Folder of a computation's input files, with a slash at its end; the design's if there is no computation. */
+    /** Folder of a computation's input files, or of the current run's; with a slash at its end. */
     QString getInputDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design);
-    /** Folder of a computation's output files, with a slash at its end. It is the one of the input files. */
+    /** Folder of the output files: the same as that of the input files. */
     QString getResultPath(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design);
-    /** Where the run before the last one is kept, without a slash at its end. */
+    /** Folder for the files of the run before the last one, without a slash at its end. */
     QString getEarlierDir(const QString& computation, const FExpr<FDesign>& design);
-    /** Folder of the run whose steps are at work, with a slash at its end; empty if there is none. */
+    /** A run in that folder, given with a slash at its end, is being started: it is the last one from now on. */
+    void setLastRun(const QString& folder) { mLastRunFolder = folder; }
+    /** Folder of the run whose steps are being executed, with a slash at its end; empty if there is none. */
     const QString& getRunFolder() const { return mRunFolder; }
     /** Folder of the samples that come with the program; the user's own if there is none. */
     QString getSamplesDir() const;
@@ -39,12 +48,15 @@ class MERIX_EXPORT FPathManager {
     friend class FRunScope;
 
     QString resultsRoot();
+    QString designDir(const FDesign* design);
+    QString currentRunFolder();
 
     QString mTemporaryRoot;
     QString mRunFolder;
+    QString mLastRunFolder;
 };
 
-/** The steps at work belong to the run in that folder, for the life of the object. */
+/** While one exists, the steps of the run in that folder are being executed. */
 class MERIX_EXPORT FRunScope {
  public:
     explicit FRunScope(const QString& folder);

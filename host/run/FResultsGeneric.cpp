@@ -3,8 +3,11 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/run/FSafePath.h"
 #include "host/script/FCmdTable.h"
+
+#include <QFileInfo>
 
 namespace {
 
@@ -73,6 +76,14 @@ void FResultsGeneric::detachFromFiles() {
     mDetached = true;
 }
 
+void FResultsGeneric::becameOutOfDate() const {
+    if (!FResultsOutOfDateBlocker::isBlocked()) {
+        forgetReading();
+    } else if (mFilesRead) {
+        setOutOfDate(false);
+    }
+}
+
 FTableData* FResultsGeneric::addTable(const QString& name, unsigned int rows, unsigned int columns) {
     auto* table = new FTableData(name, rows, columns);
     table->setOwner(this);
@@ -97,6 +108,19 @@ QStringList FResultsGeneric::getTableNames() const {
         names.append(table->getName());
     }
     return names;
+}
+
+ResultsFileType FResultsGeneric::getResultsFileType(const QString& name) {
+    using Type = ResultsFileType;
+    static const QHash<QString, Type> types{
+        {QStringLiteral("text"), Type::Text}, {QStringLiteral("txt"), Type::Text},
+        {QStringLiteral("log"), Type::Text},  {QStringLiteral("out"), Type::Text},
+        {QStringLiteral("err"), Type::Text},  {QStringLiteral("lst"), Type::Text},
+        {QStringLiteral("msg"), Type::Text},  {QStringLiteral("csv"), Type::Table},
+        {QStringLiteral("png"), Type::Image}, {QStringLiteral("jpg"), Type::Image},
+        {QStringLiteral("vtk"), Type::Mesh},  {QStringLiteral("vtu"), Type::Mesh},
+    };
+    return types.value(QFileInfo(name).suffix().toLower(), Type::Any);
 }
 
 QString FResultsGeneric::getResultFileName(const QString& entry) const {

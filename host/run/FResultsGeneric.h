@@ -37,6 +37,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
 
     /** The files that entries of the configuration name as results. */
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
+    /** Kind of a file by the suffix of its name, in any case; `Any` for other suffixes. */
+    static ResultsFileType getResultsFileType(const QString& name);
     /** Path of one of these files, given by its entry's path or its name; empty if there is none. */
     QString getResultFileName(const QString& entry) const;
     /** What file imports have brought, by the name of the value. */
@@ -50,7 +52,7 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     virtual void readOutputFiles() const;
     /** The next question reads the files again. */
     void forgetReading() const { mFilesRead = false; }
-    void becameOutOfDate() const override { forgetReading(); }
+    void becameOutOfDate() const override;
     const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
     mutable QHash<QString, FExpr<FObject>> mImportedObjects;

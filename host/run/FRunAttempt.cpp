@@ -44,6 +44,7 @@ bool FRunAttempt::execute(bool wait) {
 }
 
 void FRunAttempt::start() {
+    FPathManager::instance()->setLastRun(record()->folder);
     const FRunScope scope(record()->folder);
     // Files of another process's run must not be moved.
     if (mHolder.isEmpty()) {

@@ -33,6 +33,26 @@ TEST_F(FPathManagerTest, stepsOfARunAreInItsFolder) {
     EXPECT_EQ(mPaths->getInputDir({}, {}), baseline);
 }
 
+TEST_F(FPathManagerTest, knowsTheDesignOfTheCurrentRun) {
+    FMerixCtrl::instance()->setProjectFile("/home/anna/study.mrx");
+    EXPECT_EQ(mPaths->getProjectDir(), "/home/anna");
+    auto* computation = new FExternComputation("solver");
+    const FExpr<FExternComputation> solver(computation);
+    const QString root = "/home/anna/study.results";
+    mPaths->setLastRun(root + "/wide/mesher/");
+    EXPECT_EQ(mPaths->getDesignDir({}), root + "/wide");
+    EXPECT_EQ(mPaths->getResultsDir({}, {}), root + "/wide");
+    EXPECT_EQ(mPaths->getResultPath({}, {}), root + "/wide/mesher/");
+    EXPECT_EQ(mPaths->getResultsDir(solver, {}), root + "/baseline/solver") << "a computation has its own design";
+    EXPECT_EQ(mPaths->getEarlierDir("solver", {}), root + "/baseline/.earlier/solver");
+    {
+        const FRunScope scope(root + "/narrow/solver/");
+        EXPECT_EQ(mPaths->getResultsDir({}, {}), root + "/narrow") << "its steps are being executed";
+    }
+    FMerixCtrl::instance()->setProjectFile("/home/anna/other.mrx");
+    EXPECT_EQ(mPaths->getDesignDir({}), "/home/anna/other.results/baseline") << "that was another project's run";
+}
+
 TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
     // The folder stays, but not that of a test.
     const QTemporaryDir place;

@@ -1,0 +1,3 @@
+#include "host/run/FResultsOutOfDateBlocker.h"
+
+int FResultsOutOfDateBlocker::mCount = 0;

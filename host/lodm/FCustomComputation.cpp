@@ -42,6 +42,24 @@ void FCustomComputation::setConfiguration(const FExpr<FConfigurationCustom>& con
     setOutOfDate(true);
 }
 
+FCustomComputation* FCustomComputation::cloneSetup() const {
+    const FConfigurationCustom* source = mConfiguration.ptr();
+    const FExpr<FConfigurationCustom> configuration(
+        dynamic_cast<const FConfigurationCustom*>(source ? source->clone() : nullptr));
+    if (source && !configuration) {
+        return nullptr;
+    }
+    auto* copy = dynamic_cast<FCustomComputation*>(clone());
+    if (copy) {
+        copy->registerObject();
+    }
+    if (copy && configuration) {
+        configuration->registerObject();
+        copy->setConfiguration(configuration);
+    }
+    return copy;
+}
+
 QString FCustomComputation::getResultFile(const QString& path) const {
     const FConfigurationCustom* configuration = mConfiguration.ptr();
     const FEntry* entry = configuration ? configuration->getValueEntry(path) : nullptr;

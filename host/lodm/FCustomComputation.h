@@ -20,6 +20,14 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     /** A file in the folder of the run that gets a line "path = value" for each entry; empty for none. */
     const QString& getCmdFile() const { return mCmdFile; }
 
+    /**
+     * Makes a set-up of its own for another run: a clone of the computation with a clone of its configuration. Both
+     * configurations share the definition, so that templates and entries stay common; values and settings of the clones
+     * are independent. The caller opens the undo step.
+     * @return the new computation, in the model; null if the class of either object can't be cloned
+     */
+    FCustomComputation* cloneSetup() const;
+
     QString getResultFile(const QString& entry) const override;
 
  protected:

@@ -2,6 +2,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FUserInterface.h"
+#include "host/core/FUserStep.h"
 #include "tests/genericintegration/setup/FFakeConnector.h"
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 
@@ -56,6 +57,26 @@ TEST_F(FGenIntComputationTest, runsFromEntriesToNumbers) {
     EXPECT_EQ(FExprBase(number.getObject()).toString(), "NaN") << "not the number of the run before";
     EXPECT_EQ(mSignals.count("ended"), 3) << "also after a failure";
     EXPECT_EQ(textOf("comp.getExitCode()"), "3");
+}
+
+TEST_F(FGenIntComputationTest, clonesItsSetUpForAnotherRun) {
+    FCustomComputation* copy = nullptr;
+    {
+        const FUserStep step("clone set-up");
+        copy = computation()->cloneSetup();
+    }
+    ASSERT_NE(copy, nullptr);
+    const FConfigurationCustom* configuration = copy->getConfiguration().ptr();
+    ASSERT_NE(configuration, nullptr);
+    EXPECT_EQ(configuration->getDefinition(), computation()->getConfiguration()->getDefinition());
+    ASSERT_TRUE(
+        run(configuration->getName() + ".setEntryValue(\"x\", 5); ok = comp.run(); ok = " + copy->getName() + ".run()"))
+        << logText();
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(\"f\",0)"), "4") << "values are independent";
+    EXPECT_EQ(textOf(copy->getName() + ".getResults().getDataAt(\"f\",0)"), "25");
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(savedModel(), mSaved) << "one step made both objects";
 }
 
 TEST_F(FGenIntComputationTest, failsWithoutAConfiguration) {

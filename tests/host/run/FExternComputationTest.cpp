@@ -1,16 +1,20 @@
 #include "host/run/FExternComputation.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/script/FProject.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/waitUntil.h"
 
+#include <QCoreApplication>
 #include <QLockFile>
+#include <QTimer>
 
 #include <cmath>
 #include <cstdlib>
@@ -218,6 +222,59 @@ TEST_F(FExternComputationTest, runsOnceAtATimeAndCanBeCancelled) {
     EXPECT_EQ(mProbe->mSteps, allSteps());
 }
 
+TEST_F(FExternComputationTest, reportsEachChangeOfState) {
+    QStringList states;
+    QStringList changed;
+    QObject listener;
+    QObject::connect(mProbe, &FExternComputation::runChanged, &listener,
+                     [&] { states.append(mProbe->getLastRun().stateName() + (mProbe->canRun() ? "" : "...")); });
+    QObject::connect(FChanges::instance(), &FChanges::objectChanged, &listener, [&](FManaged* object) {
+        changed.append(object == mProbe ? "computation" : object == mProbe->getResults().ptr() ? "results" : "other");
+    });
+    const auto seen = [&](const QString& script) {
+        states.clear();
+        mProbe->runScript(script);
+        return states.join(' ').toStdString();
+    };
+    EXPECT_EQ(seen("echo 1 > out.dat"), "writing... running... finished");
+    changed.clear();
+    EXPECT_EQ(seen("exit 3"), "writing... running... failed");
+    changed.removeFirst();  // the arguments
+    EXPECT_EQ(changed.join(' '), "computation results computation results computation results");
+    mProbe->mAtStart = [this] { mProbe->cancel(); };
+    EXPECT_EQ(seen("sleep 60"), "writing... cancelled") << "before the program starts";
+    mProbe->mAtStart = [this] { QTimer::singleShot(0, mProbe, [this] { mProbe->cancel(); }); };
+    EXPECT_EQ(seen("sleep 60"), "writing... running... cancelled");
+    mProbe->mAtStart = [] {};
+    mProbe->mCanWrite = false;
+    EXPECT_EQ(seen(""), "writing... failed");
+    mProbe->mCanWrite = true;
+    set(*mProbe, "setExecutable", QString("no such program"));
+    EXPECT_EQ(seen(""), "writing... running... failed") << "its search is part of its start";
+    set(*mProbe, "setExecutable", QString(""));
+    EXPECT_EQ(seen(""), "writing... failed");
+}
+
+TEST_F(FExternComputationTest, runsByTimerFromTheEventLoop) {
+    const auto countRuns = [this] { return read(runFile("../../../runs")).size(); };
+    set(*mProbe, "setArguments", QStringList{"-c", "echo >> ../../../runs; echo 1 > out.dat"});
+    mProbe->triggerRunByTimer();
+    mProbe->triggerRunByTimer();
+    EXPECT_TRUE(mProbe->canRun()) << "not before control is back in the event loop";
+    EXPECT_TRUE(waitUntil([this] { return mProbe->getLastRun().isSuccess(); })) << logText();
+    EXPECT_EQ(countRuns(), 1);
+    mProbe->triggerRunByTimer();
+    EXPECT_TRUE(mProbe->run());
+    EXPECT_EQ(countRuns(), 2) << "it can't run when its time comes";
+    EXPECT_EQ(logText(), "");
+
+    mProbe->triggerRunByTimer();
+    FManaged::destroy(mProbe);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(mProbe->canRun());
+    EXPECT_EQ(countRuns(), 2);
+}
+
 TEST_F(FExternComputationTest, endsARunWhenItLeavesTheModel) {
     set(*mProbe, "setArguments", QStringList{"-c", "exec sleep 60"});
     bool isGone = false;
@@ -265,6 +322,28 @@ TEST_F(FExternComputationTest, readsFilesOfAnEarlierSessionAgain) {
     EXPECT_FALSE(mProbe->rereadResults());
     EXPECT_TRUE(logHolds("baseline/probe/': 'out.dat'"));
     EXPECT_EQ(mProbe->mSteps, QStringList());
+}
+
+TEST_F(FExternComputationTest, preparesItsResultsOnceAndAgainAfterRefetching) {
+    EXPECT_FALSE(mProbe->prepareResults());
+    EXPECT_FALSE(mProbe->refetchResults());
+    ASSERT_TRUE(mProbe->runScript("echo 1 > out.dat"));
+    EXPECT_TRUE(mProbe->prepareResults());
+    write(runFile("out.dat"), "2");
+    EXPECT_EQ(mProbe->number(), 1) << "read before the file changed";
+    EXPECT_TRUE(mProbe->refetchResults());
+    write(runFile("out.dat"), "3");
+    EXPECT_EQ(mProbe->number(), 3) << "read at the next access";
+    write(runFile("out.dat"), "4");
+    {
+        const FResultsOutOfDateBlocker blocker;
+        mProbe->getResults()->setOutOfDate(true);
+        EXPECT_FALSE(mProbe->getResults()->isOutOfDate());
+    }
+    EXPECT_EQ(mProbe->number(), 3) << "it wasn't out of date";
+    ASSERT_TRUE(QFile::remove(path(runFile("out.dat"))));
+    EXPECT_TRUE(mProbe->refetchResults());
+    EXPECT_EQ(logText(), "") << "files are not checked";
 }
 
 TEST_F(FExternComputationTest, marksWhatDependsOnItAndLeavesTheHistoryAlone) {

@@ -181,7 +181,7 @@ solver.setConfiguration(cruise)</translation>
     </message>
     <message>
         <source>!FCustomComputation.member.getResults()</source>
-        <translation>The results of the last run, or of the one that goes on. After a new run the earlier object keeps its numbers.</translation>
+        <translation>The results of the last run, or of the run in progress. After a new run the earlier object keeps its numbers.</translation>
     </message>
     <message>
         <source>!FCustomComputation.member.getResults():example</source>
@@ -414,11 +414,11 @@ print(wing.getEntryNames())</translation>
     </message>
     <message>
         <source>!FExternComputation</source>
-        <translation>A computation by an external program: which program is started with what, and its runs. The program is started without a shell, in a folder of its own: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; beside the project file, or in a temporary folder as long as the project isn't saved. When merix ends, in whichever way, so does a program that it has started, with all its children.</translation>
+        <translation>A computation by an external program: the settings of the program, and its runs. The program is started without a shell, in its own folder: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; next to the project file, or a temporary folder until the project is saved. When merix ends, even by a crash, the programs that it has started end too, with all their child processes.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments)</source>
-        <translation>Sets the arguments of the program. Each text of the list reaches the program as one argument, exactly as it stands: no shell sees it, so that blanks and quotes need no care, and $ and * mean nothing special. Numbers are taken as their texts. The program runs in the folder of the run, so that input files need no path.</translation>
+        <translation>Sets the arguments of the program. Each text of the list is passed to the program as one argument, unchanged. No shell is involved: blanks and quotes need no escaping, and $ and * have no special meaning. Numbers are converted to text. The program runs in the folder of the run, so input files need no path.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments):argument0</source>
@@ -431,11 +431,11 @@ solver.setArguments(["-i", "cantilever"])</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setConsoleFiles(bool,checked)</source>
-        <translation>Whether what the program prints is kept, as stdout.txt and stderr.txt in the folder of the run. Result templates can read these files like any other. Without them, a failed run can't show the last lines that the program printed.</translation>
+        <translation>Whether the output of the program is kept, as stdout.txt and stderr.txt in the folder of the run. Result templates can read these files like any other. Without them, the message about a failed run can't show the last lines of the output.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setConsoleFiles(bool,checked):argument0</source>
-        <translation>True, the state of a new computation, to keep it; false to throw it away.</translation>
+        <translation>True, the default, to keep it; false to discard it.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setConsoleFiles(bool,checked):example</source>
@@ -444,7 +444,7 @@ solver.setConsoleFiles(false)</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables)</source>
-        <translation>Sets environment variables for the program, beside those of merix itself; one that exists is replaced. The list replaces the one that was set before. A text without "=" fails the run.</translation>
+        <translation>Sets environment variables for the program, in addition to those of merix itself; an existing variable is replaced. The list replaces the one that was set before. A text without "=" makes the run fail.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables):argument0</source>
@@ -457,11 +457,11 @@ solver.setEnvironment(["OMP_NUM_THREADS=4", "LICENSE_FILE=27000@server"])</trans
     </message>
     <message>
         <source>!FExternComputation.attribute.setExecutable(string,program)</source>
-        <translation>Sets the program. A bare name is searched in the folders of PATH, those of setEnvironment included. A name with a slash is a path; if it is relative, it starts at the folder in which merix was started. Whether the program is there is found out at the run: a message then tells where it was searched.</translation>
+        <translation>Sets the program. A bare name is searched in the folders of PATH, those of setEnvironment included. A name with a slash is a path; if it is relative, it starts at the folder in which merix was started. A missing program is reported when the run starts, with the places where it was searched.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setExecutable(string,program):argument0</source>
-        <translation>The name or path. It holds no arguments; blanks in it are part of the name.</translation>
+        <translation>The name or path, without arguments; blanks in it are part of the name.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setExecutable(string,program):example</source>
@@ -470,7 +470,7 @@ solver.setExecutable("ccx")</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setStandardInput(string,fileName)</source>
-        <translation>Sets the file that the program reads as its standard input. It lies in the folder of the run, in general as the file of an input template. Without one the program reads an empty input. A name that leads out of the folder, or a file that isn't there when the program starts, fails the run.</translation>
+        <translation>Sets the file that the program reads as its standard input. It is in the folder of the run, usually the file of an input template. Without a file, the input is empty. The run fails if the name leads out of the folder, or if the file is missing when the program starts.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setStandardInput(string,fileName):argument0</source>
@@ -483,11 +483,11 @@ solver.setStandardInput("commands.txt")</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setTimeLimit(double,seconds)</source>
-        <translation>Sets after how long the program is ended. The time counts from its start. The program and its children are asked to end first and killed five seconds later; the state is then "timed out", and what was written so far can be read. A number below 0 is refused with a message.</translation>
+        <translation>Sets the time after which the program is ended, counted from its start. The program and its child processes are first requested to end, and killed five seconds later; the state is then "timed out", and the files written until then can be read. A number below 0 is refused with a message.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setTimeLimit(double,seconds):argument0</source>
-        <translation>The limit in seconds; 0, the state of a new computation, is none.</translation>
+        <translation>The limit in seconds; 0, the default, is no limit.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setTimeLimit(double,seconds):example</source>
@@ -496,7 +496,7 @@ solver.setTimeLimit(300)</translation>
     </message>
     <message>
         <source>!FExternComputation.member.cancel()</source>
-        <translation>Ends the run that goes on: the program and its children are asked to end, and killed five seconds later. The state is then "cancelled". In a script it makes sense only for runs that were started from a window, since run() waits for the end.</translation>
+        <translation>Ends the run in progress: the program and its child processes are requested to end, and killed five seconds later. The state is then "cancelled". In a script this is useful only for runs that were started from a window, since run() waits for the end.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.cancel():example</source>
@@ -508,11 +508,11 @@ print(solver.cancel())</translation>
     <message>
         <source>!FExternComputation.member.cancel():returnValue</source>
         <comment>return type: bool</comment>
-        <translation>False if no run goes on.</translation>
+        <translation>False if no run is in progress.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getExitCode()</source>
-        <translation>The exit code of the program in the last run; by custom 0 is success. A program that wasn't started or was ended by a signal has none.</translation>
+        <translation>The exit code of the program in the last run; by convention, 0 is success. A program that wasn't started or was ended by a signal has none.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getExitCode():example</source>
@@ -529,7 +529,7 @@ print(solver.getExitCode())</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getState()</source>
-        <translation>The state of the last run, or of the one that goes on: "ready" before the first run, "writing" while the input is written, "running", then "finished" after success, "failed", "cancelled" or "timed out".</translation>
+        <translation>The state of the last run, or of the run in progress: "ready" before the first run, "writing" while the input is written, "running", then "finished" after success, "failed", "cancelled" or "timed out".</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getState():example</source>
@@ -542,11 +542,11 @@ print(solver.getState())</translation>
     <message>
         <source>!FExternComputation.member.getState():returnValue</source>
         <comment>return type: string</comment>
-        <translation>The state in one of these words.</translation>
+        <translation>One of these words.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getWorkingPath()</source>
-        <translation>The folder of the run that goes on, else of the last one, else the one of the next. The input files, the output files and what the program printed lie there.</translation>
+        <translation>The folder of the run in progress, else of the last run, else of the next one. It contains the input files, the output files and stdout.txt and stderr.txt.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.getWorkingPath():example</source>
@@ -563,7 +563,7 @@ print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
     </message>
     <message>
         <source>!FExternComputation.member.rereadResults()</source>
-        <translation>Has the results read again from the files that lie there, with the result templates as they are now; no program runs. For templates that were changed after a run. While a run goes on, it is refused. A file that is missing is told in a message; what is there is read all the same.</translation>
+        <translation>Reads the results again from the existing files, with the present result templates, without running the program. Use it after changing templates. It is refused while a run is in progress. A missing file is reported in a message; the other files are read all the same.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.rereadResults():example</source>
@@ -578,11 +578,11 @@ print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translati
     <message>
         <source>!FExternComputation.member.rereadResults():returnValue</source>
         <comment>return type: bool</comment>
-        <translation>True if all files are there that results are read from, and there is at least one.</translation>
+        <translation>True if all files that results are read from exist, and there is at least one.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.run()</source>
-        <translation>Runs the program and waits for its end. Before, the files of an earlier run move aside to .earlier, so that nothing old is read as new; then files are copied, exports and input templates written. A run fails if the input can't be written, the program isn't found, ends by a signal or with an exit code other than 0, or doesn't write a file that results are read from. The message then names the cause, the last lines that the program printed and the folder; the script goes on. While a run goes on, a second one is refused.</translation>
+        <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code other than 0, or if it doesn't write a file that results are read from. The message then gives the cause, the last lines of the output and the folder; the script continues. While a run is in progress, a second one is refused.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.run():example</source>
@@ -673,7 +673,7 @@ print(solver.run())</translation>
     </message>
     <message>
         <source>!FGenIntComputation.member.getResults()</source>
-        <translation>The results of the last run, or of the one that goes on. Each run has an object of its own: one that is kept in a variable keeps its numbers when the computation runs again.</translation>
+        <translation>The results of the last run, or of the run in progress. Each run has its own object: one that is stored in a variable keeps its numbers when the computation runs again.</translation>
     </message>
     <message>
         <source>!FGenIntComputation.member.getResults():example</source>
@@ -1109,11 +1109,11 @@ print(solver.getResults().getAverageOfLastRows(2))</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(double,row,string,column header)</source>
-        <translation>The number in a row and the column of a name of the first table: that of the first result template. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+        <translation>The number in a row and the column of a name of the first table: that of the first result template. Tables of result templates have no column names, so it is NaN for them.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):argument0</source>
-        <translation>The row, from 0; what stands behind the decimal point is dropped.</translation>
+        <translation>The row, from 0; decimals are dropped.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(double,row,string,column header):argument1</source>
@@ -1135,7 +1135,7 @@ print(solver.getResults().getDataAt(0, "x"))</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header)</source>
-        <translation>The number in the row and the column of these names of the first table: that of the first result template. Tables of result templates have no names of columns, so that it is NaN there.</translation>
+        <translation>The number in the row and the column of these names of the first table: that of the first result template. Tables of result templates have no column names, so it is NaN for them.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(string,row header,string,column header):argument0</source>
@@ -1289,11 +1289,11 @@ print(results.getDataAt("CL", 0), results.getTable("stdout.txt").getElementAt("C
     </message>
     <message>
         <source>!FResultsGeneric</source>
-        <translation>The results of one run, as tables of numbers. The files are read when a result is first asked for, and not again when marks or separators of a template change: rereadResults of the computation does that. Results of a run that failed can be read, with one warning; what the program didn't write is NaN. While the run goes on there are no results.</translation>
+        <translation>The results of one run, as tables of numbers. The files are read at the first access to a result, and not again when marks or separators of a template change: rereadResults of the computation does that. Results of a run that failed can be read, with one warning; values that the program didn't write are NaN. While the run is in progress there are no results.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getResultFileName(string,entry)</source>
-        <translation>The path of a result file of the run: one that an entry of the configuration names with resultsFileName. The file needn't be there. As the name of an inputFile it links another computation to this one.</translation>
+        <translation>The path of a result file of the run, which an entry of the configuration names with resultsFileName. The file needn't exist. As the name of an inputFile, the path links another computation to this one.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getResultFileName(string,entry):argument0</source>
@@ -1312,7 +1312,7 @@ print(readText(solver.getResults().getResultFileName("log")))</translation>
     <message>
         <source>!FResultsGeneric.member.getResultFileName(string,entry):returnValue</source>
         <comment>return type: string</comment>
-        <translation>The path; "" if there is no such file or it lies outside of the folder.</translation>
+        <translation>The path; "" if no entry names such a file, or if it is outside the folder.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getTable(string,name)</source>
@@ -1365,7 +1365,7 @@ print(solver.getResults().getTableNames())</translation>
     </message>
     <message>
         <source>!FTableData</source>
-        <translation>A table of numbers with a name; its rows, and sometimes its columns, have names, too. The table of a result template has one row for each value, with the value's name, and one column. The rows stand in the order in which the values' anchors stand in the file. Whatever isn't in the table reads as NaN.</translation>
+        <translation>A table of numbers with a name; its rows, and sometimes its columns, have names, too. The table of a result template has one row for each value, with the value's name, and one column. The rows have the order in which the values' anchors appear in the file. A place outside the table reads as NaN.</translation>
     </message>
     <message>
         <source>!FTableData.member.getColumnCount()</source>
@@ -1391,7 +1391,7 @@ print(solver.getResults().getTable("stdout.txt").getColumnCount())</translation>
     </message>
     <message>
         <source>!FTableData.member.getElementAt(double,row,string,column header):argument0</source>
-        <translation>The row, from 0; what stands behind the decimal point is dropped.</translation>
+        <translation>The row, from 0; decimals are dropped.</translation>
     </message>
     <message>
         <source>!FTableData.member.getElementAt(double,row,string,column header):argument1</source>
@@ -1439,7 +1439,7 @@ print(solver.getResults().getTable("stdout.txt").getElementAt("CL", "x"))</trans
     </message>
     <message>
         <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0)</source>
-        <translation>The number in the row of a name: of a result file, the value of that name. Of several rows with the name the first counts. A name that isn't there gives NaN.</translation>
+        <translation>The number in the row of a name: for a result file, the value of that name. If several rows have the name, the first counts. An unknown name gives NaN.</translation>
     </message>
     <message>
         <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):argument0</source>

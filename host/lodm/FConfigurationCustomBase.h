@@ -16,7 +16,7 @@ class MERIX_EXPORT FConfigurationCustomBase : public FClass<FConfigurationCustom
     /**
      * Copies the input files that entries name into a folder, each in one step. A relative name starts at the folder of
      * the project's file, or at the current folder if the project has no file. Stops, with false and a message, at the
-     * first file that has no name, can't be read, or would lie outside the folder.
+     * first file that has no name, can't be read, or would be outside the folder.
      */
     bool copyInputFiles(const QString& folder) const;
     /**

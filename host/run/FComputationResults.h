@@ -8,7 +8,7 @@
 
 class FExternComputation;
 
-/** Results of a computation. They belong to one run, and know how it ended. */
+/** Results of a computation. They belong to one run, whose record tells how it ended. */
 class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FResults> {
  public:
     static FClassData mClass;
@@ -16,37 +16,39 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
     FComputationResults() = default;
     FComputationResults(const QString& name, const FExpr<FDesign>& variant,
                         const FExpr<FExternComputation>& computation);
-    /** For results whose computation is known by its number only: those of a saved project. */
+    /** For results of a saved project, which know only the number of their computation. */
     FComputationResults(const QString& name, const FExpr<FDesign>& variant, int computationId)
         : FClass(name, variant), mComputationId(computationId) {}
 
-    /** Makes results of this class, in the model; called on the prototype. Null for a class that can't be made so. */
+    /** Creates results of this class in the model; called on the prototype. Null for a class that doesn't support it.
+     */
     virtual FComputationResults* createResults(const FExpr<FDesign>& variant,
                                                const FExpr<FExternComputation>& computation) const;
 
-    /** Empty if the computation is gone. */
+    /** Empty if the computation is no longer in the model. */
     FExpr<FExternComputation> getComputation() const;
     /** Number of the computation; 0 if it is unknown. */
     int getComputationId() const { return mComputationId; }
-    /** As given; else the computation's folder, for results that come from no run of this session. */
+    /** The path that was set; otherwise, for results that come from no run of this session, the computation's folder.
+     */
     QString getResultPath() const override;
 
     /** Results of a run aren't saved: an expression finds those of the last run through their computation. */
     QString getKeptText(QString& fault) const override;
 
-    /** The run that they belong to; null for those of an earlier session. It goes on while the run does. */
+    /** The run that they belong to, which may be in progress; null for results of an earlier session. */
     const std::shared_ptr<const FRunRecord>& getRun() const { return mRun; }
     void setRun(const std::shared_ptr<const FRunRecord>& run) { mRun = run; }
 
-    /** Reads what isn't read yet. False if nothing may be read: the run still goes on, or there is no folder. */
+    /** Reads what isn't read yet. False if nothing may be read: the run is in progress, or there is no folder. */
     virtual bool prepareResults() const;
-    /** The files are about to be removed: what was read stays, and nothing is read any more. */
+    /** The files are about to be removed: reads them now if they weren't, and never again. */
     virtual void detachFromFiles() {}
 
     /**
-     * The files in a folder are about to be moved to another one, where all is replaced: results that are read from
-     * the one follow. Those of the other one are detached; they are destroyed if a run made them and nobody has a
-     * handle on them.
+     * The files in a folder are about to move to another folder and replace its contents. Results of the first folder
+     * get the new path. Results of the other folder are detached from its files, or destroyed if a run created them and
+     * there is no handle on them.
      */
     static void followFiles(const QString& from, const QString& to);
 

@@ -14,7 +14,7 @@ void FCurrentResults::make(const FExternComputation& computation, const std::sha
 
 QString FCurrentResults::rereadProblem(const QStringList& files) const {
     if (files.isEmpty()) {
-        return QStringLiteral("no file is named that they are read from. Give the definition a result template.");
+        return QStringLiteral("no file to read is named. Add a result template to the definition.");
     }
     const QString folder = mResults->getResultPath();
     if (folder.isEmpty()) {

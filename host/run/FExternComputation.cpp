@@ -142,13 +142,13 @@ bool FExternComputation::refetchResults() {
 
 bool FExternComputation::rereadResults() {
     if (!refetchResults()) {
-        FLogMsg::warning(getName(), QStringLiteral("There are no results that could be read again"),
+        FLogMsg::warning(getName(), QStringLiteral("There are no results that can be read again"),
                          canRun() ? QStringLiteral("run it first") : QStringLiteral("wait for the end of the run"));
         return false;
     }
     const QString problem = mResults.rereadProblem(getReadFiles());
     if (!problem.isEmpty()) {
-        FLogMsg::warning(getName(), QStringLiteral("Its results can't all be read again: ") + problem);
+        FLogMsg::warning(getName(), QStringLiteral("Not all of its results can be read again: ") + problem);
     }
     return problem.isEmpty();
 }

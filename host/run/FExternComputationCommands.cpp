@@ -5,14 +5,15 @@ namespace {
 
 using F = FExternComputation;
 
-/** How the setting added last is shown and kept. */
+/** Presentation and copying of the setting that was added last. */
 FCmdTable& setting(FCmdTable& row, const char* label) {
     return row.copied().attrName(label).category("Execution Settings");
 }
 
 QString faultOfTimeLimit(const double& seconds) {
     return seconds >= 0 ? QString()
-                        : QStringLiteral("the time limit can't be %1 s; it is 0, for no limit, or more").arg(seconds);
+                        : QStringLiteral("the time limit can't be %1 s; give a number from 0, where 0 means no limit")
+                              .arg(seconds);
 }
 
 }  // namespace

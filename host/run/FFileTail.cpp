@@ -19,7 +19,7 @@ void replaceControls(QString& text) {
     }
 }
 
-// A carriage return alone is what progress bars write: each of their states is a line.
+// Progress bars write a carriage return alone: each of their states is a line.
 QStringList splitLines(QString text) {
     text.replace('\r', '\n');
     replaceControls(text);
@@ -39,10 +39,10 @@ QString fileTail(const QString& file, int lines) {
     const qint64 start = std::max<qint64>(source.size() - mostBytes, 0);
     source.seek(start);
     const QByteArray bytes = source.read(mostBytes);
-    // With its size, since the text ends at a null byte otherwise.
+    // With the size, since the text would otherwise end at a null byte.
     QStringList all = splitLines(QString::fromUtf8(bytes.constData(), bytes.size()));
     if (start > 0 && all.size() > 1) {
-        all.removeFirst();  // most likely cut
+        all.removeFirst();  // probably incomplete
     }
     return all.mid(std::max(0, static_cast<int>(all.size()) - lines)).join('\n');
 }

@@ -43,8 +43,8 @@ QString FPathManager::resultsRoot() {
         }
         mTemporaryRoot = folder.path();
         FLogMsg::info(QStringLiteral("merix"),
-                      QStringLiteral("The project has no file yet; its runs are kept in %1").arg(mTemporaryRoot),
-                      QStringLiteral("they stay there; remove the folder when you no longer need it"));
+                      QStringLiteral("The project has no file yet; the folder of its runs is %1").arg(mTemporaryRoot),
+                      QStringLiteral("the folder is kept after exit; remove it when you no longer need it"));
     }
     return mTemporaryRoot;
 }

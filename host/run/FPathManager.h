@@ -41,7 +41,7 @@ class MERIX_EXPORT FPathManager {
     void setLastRun(const QString& folder) { mLastRunFolder = folder; }
     /** Folder of the run whose steps are being executed, with a slash at its end; empty if there is none. */
     const QString& getRunFolder() const { return mRunFolder; }
-    /** Folder of the samples that come with the program; the user's own if there is none. */
+    /** Folder of the examples that come with the program; the home folder if there is none. */
     QString getSamplesDir() const;
 
  private:

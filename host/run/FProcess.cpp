@@ -13,10 +13,10 @@
 
 namespace {
 
-// More than the supervisor takes to give up on processes that can't be killed.
+// More than the time after which the supervisor gives up on processes that can't be killed.
 constexpr int killMilliseconds = 8000;
 
-// Rounded up, since the supervisor takes zero as no limit.
+// Rounded up, since zero means no limit to the supervisor.
 qint64 milliseconds(double seconds) {
     return seconds > 0 ? static_cast<qint64>(std::ceil(std::min(seconds, 1e12) * 1000)) : 0;
 }
@@ -47,7 +47,7 @@ FProcess::FProcess(const FProcessSetup& setup, QObject* parent) : QObject(parent
             &FProcess::onSupervisorFinished);
 }
 
-// Otherwise the supervisor would be killed, and could not end the program any more.
+// Otherwise QProcess would kill the supervisor, which could then no longer end the program.
 FProcess::~FProcess() {
     mSupervisor.disconnect(this);
     mSupervisor.closeWriteChannel();
@@ -90,7 +90,7 @@ bool FProcess::prepareEnvironment() {
 }
 
 bool FProcess::findProgram() {
-    // The folders that the system searches without a PATH.
+    // Without a PATH, the system searches these folders.
     const QString path =
         mSupervisor.processEnvironment().value(QStringLiteral("PATH"), QStringLiteral("/bin:/usr/bin"));
     const FProgramSearch search = FProgramSearch::search(mSetup.program, mSetup.workingFolder, path);
@@ -190,7 +190,7 @@ void FProcess::onSupervisorFinished() {
     conclude();
 }
 
-// By way of the event loop, so that a caller may connect after the start, and nothing of ours is on the stack.
+// From the event loop, so that a caller can connect after the start and may delete this object in its slot.
 void FProcess::conclude() {
     const auto report = [this] {
         mState = State::Finished;

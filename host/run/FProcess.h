@@ -10,10 +10,10 @@
 /**
  * One run of an external program, asynchronous on the event loop of its thread.
  *
- * The program is started by its path and arguments, without a shell, under a supervisor process that ends it and all
- * that it started (whatever their group or session): at the time limit, by cancel(), when the program itself has ended,
- * and when this process is gone, however it died. They are asked first (SIGTERM) and killed after the grace. The
- * streams go straight to their files.
+ * The program is started by its path and arguments, without a shell, under a supervisor process. The supervisor ends
+ * the program and all processes that it started (whatever their group or session): at the time limit, on cancel(), when
+ * the program itself has ended, and when this process has ended, even by a crash. It sends SIGTERM first, and SIGKILL
+ * after the grace period. The program writes its output directly to the files.
  *
  * The supervisor is the file named by the environment variable MERIX_SUPERVISOR, else "merix-supervisor" in the folder
  * of the running application.
@@ -24,30 +24,30 @@ class MERIX_EXPORT FProcess : public QObject {
  public:
     explicit FProcess(const FProcessSetup& setup, QObject* parent = nullptr);
     /**
-     * Ends a program that still runs, and waits for its end: up to the grace and some seconds for one that ignores the
-     * request. To avoid the waiting, cancel and delete after finished().
+     * Ends a program that is still running, and waits for its end: for one that ignores the request, up to the grace
+     * period and a few seconds. To avoid waiting, cancel, and delete this object after finished().
      */
     ~FProcess() override;
 
     /**
-     * Starts the program; does nothing after the first time. Each start leads to exactly one finished(), never before
-     * control is back in the event loop, also if the program can't be started.
+     * Starts the program; further calls do nothing. finished() follows exactly once, from the event loop, even if the
+     * program can't be started.
      */
     void start();
-    /** Asks to end the program; finished() follows. Does nothing if it does not run. */
+    /** Requests the end of the program; finished() follows. Does nothing if it isn't running. */
     void cancel();
 
     /** True from start() to finished(). */
     bool isRunning() const { return mState == State::Running; }
-    /** As given, with an absolute working folder. */
+    /** The set-up passed to the constructor, with an absolute working folder. */
     const FProcessSetup& setup() const { return mSetup; }
-    /** Start and process from started() on, all of it from finished() on. */
+    /** Start time and process are valid from started() on, everything else from finished() on. */
     const FProcessOutcome& outcome() const { return mOutcome; }
 
  signals:
-    /** The program runs. */
+    /** The program is running. */
     void started();
-    /** The program and all that it started are gone, or it could not be started. */
+    /** The program and all processes that it started have ended, or it could not be started. */
     void finished(const FProcessOutcome& outcome);
 
  private:

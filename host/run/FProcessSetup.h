@@ -5,17 +5,17 @@
 #include <QString>
 #include <QStringList>
 
-/** What an external program is started with. Relative files lie in the working folder. */
+/** How an external program is started. Relative file names start at the working folder. */
 struct MERIX_EXPORT FProcessSetup {
-    /** A path, absolute or with a slash and then relative to the working folder; a bare name is searched in PATH. */
+    /** A bare name is searched in PATH; a relative path with a slash starts at the working folder. */
     QString program;
-    QStringList arguments;  //!< passed on as they are; no shell sees them
+    QStringList arguments;  //!< passed on unchanged, without a shell
     QString workingFolder;  //!< empty for the current one
-    /** Texts "NAME=value", added to the environment of this program or replacing what is there. PATH counts too. */
+    /** Texts "NAME=value", which extend or replace the environment of this process; PATH affects the search, too. */
     QStringList environment;
     QString standardInputFile;   //!< empty: the program reads an empty input
-    QString standardOutputFile;  //!< made or emptied at the start; empty: thrown away
+    QString standardOutputFile;  //!< created or emptied at the start; empty: output is discarded
     QString standardErrorFile;   //!< likewise; may be the file of the standard output
-    double timeLimit = 0;        //!< seconds from the start of the program; 0 is none
-    double grace = 5;            //!< seconds between asking a program to end and killing it
+    double timeLimit = 0;        //!< seconds from the start of the program; 0 is no limit
+    double grace = 5;            //!< seconds between SIGTERM and SIGKILL
 };

@@ -35,8 +35,8 @@ QString executionFailure(const QString& program, int errorNumber) {
                 .arg(program);
         case ENOEXEC:
             return QStringLiteral(
-                       "The program '%1' can't be started: it is no program of this machine, nor a script with a "
-                       "first line such as '#!/bin/sh'. Add that line, or give another program.")
+                       "The program '%1' can't be started: it is neither an executable for this machine nor a script "
+                       "with a first line such as '#!/bin/sh'. Add that line, or choose another program.")
                 .arg(program);
         case E2BIG:
             return QStringLiteral(
@@ -69,9 +69,10 @@ QString FProcessText::ending(const FProcessSetup& setup, const FProcessOutcome& 
     const QString& place = setup.workingFolder;
     switch (outcome.cause) {
         case FProcessOutcome::Cause::TimeLimit: {
-            // The shortest text that is that number, never with an exponent.
+            // The shortest exact text, without an exponent.
             const QString limit = QLocale::c().toString(setup.timeLimit, 'f', QLocale::FloatingPointShortest);
-            return QStringLiteral("'%1' in '%2' was ended by its time limit of %3 s. Give it more time if it needs it.")
+            return QStringLiteral(
+                       "'%1' in '%2' was ended by its time limit of %3 s. Raise the limit if it needs more time.")
                        .arg(outcome.program, place, limit) +
                    errorOutputHint(setup);
         }
@@ -127,13 +128,13 @@ QString FProcessText::supervisorFailure(const QString& program, const QString& r
 QString FProcessText::supervisorLost(const QString& program) {
     return QStringLiteral(
                "The supervisor of '%1' was killed, and the program with it. Look for processes that the "
-               "program may have left, then run it again.")
+               "program may have left, and run it again.")
         .arg(program);
 }
 
 QString FProcessText::remaining(const QString& program, int count) {
     return QStringLiteral(
-               "Processes of '%1' are left that could not be killed (number: %2) and may still write files. End them "
-               "by hand.")
+               "Some processes of '%1' could not be killed (number: %2) and may still write files. End them "
+               "manually.")
         .arg(program, QString::number(count));
 }

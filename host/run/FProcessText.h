@@ -5,28 +5,28 @@
 struct FProcessOutcome;
 struct FProcessSetup;
 
-/** The texts about external programs that a user reads. The working folder of a setup is absolute here. */
+/** Messages to the user about external programs. Set-ups passed here have an absolute working folder. */
 namespace FProcessText {
 
 /** A signal in words and by name, such as "killed (SIGKILL)"; "signal 40" for one without a name. */
 QString signalName(int signal);
 
-/** What ended a started program, in which folder, what can be done. Empty for a success. */
+/** How a program ended, in which folder, and what to do. Empty for a success. */
 QString ending(const FProcessSetup& setup, const FProcessOutcome& outcome);
 
-/** Why a program that was found could not be started; step and errno are those of the supervisor's report. */
+/** Why a program that was found could not be started; step and error number as the supervisor reports them. */
 QString startFailure(const FProcessSetup& setup, const QString& program, const QString& step, int errorNumber);
 
-/** That there is no supervisor at that place. */
+/** The supervisor's file is missing or not executable. */
 QString supervisorMissing(const QString& program, const QString& supervisor);
 
 /** Why the system could not start the supervisor. */
 QString supervisorFailure(const QString& program, const QString& reason);
 
-/** That the supervisor of a running program has gone without a report. */
+/** The supervisor of a running program ended without a report. */
 QString supervisorLost(const QString& program);
 
-/** That processes of the program are still there although they were killed. */
+/** Some processes of the program could not be killed. */
 QString remaining(const QString& program, int count);
 
 }  // namespace FProcessText

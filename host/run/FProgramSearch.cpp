@@ -5,7 +5,7 @@
 
 namespace {
 
-// True if the search ends here.
+// True if the program was found.
 bool look(FProgramSearch& search, const QString& file) {
     const QFileInfo info(file);
     if (info.isFile() && info.isExecutable()) {
@@ -44,13 +44,14 @@ QString FProgramSearch::message() const {
         return QString();
     }
     if (program.isEmpty()) {
-        return QStringLiteral("No program is named. Give its name or its path.");
+        return QStringLiteral("No program is given. Give its name or its path.");
     }
     if (QFileInfo(notExecutable).isDir()) {
         return QStringLiteral("'%1' is a folder, not a program. Give the path of a program in it.").arg(notExecutable);
     }
     if (!notExecutable.isEmpty()) {
-        return QStringLiteral("The file '%1' is not executable. Make it so (chmod +x), or give another program.")
+        return QStringLiteral(
+                   "The file '%1' is not executable. Make it executable (chmod +x), or choose another program.")
             .arg(notExecutable);
     }
     if (!place.isEmpty()) {

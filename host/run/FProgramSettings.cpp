@@ -17,12 +17,12 @@ const QString& FProgramSettings::errorFile() {
 
 QString FProgramSettings::fault() const {
     if (executable.isEmpty()) {
-        return QStringLiteral("No program is given. Name it with setExecutable.");
+        return QStringLiteral("No program is given. Set it with setExecutable.");
     }
     if (FSafePath::leadsOut(standardInput)) {
         return QStringLiteral(
-                   "The file of the standard input, '%1', lies outside the folder of the run. Give one that is "
-                   "written there.")
+                   "The file of the standard input, '%1', is outside the folder of the run. Choose a file "
+                   "inside it.")
             .arg(standardInput);
     }
     return {};
@@ -31,7 +31,7 @@ QString FProgramSettings::fault() const {
 FProcessSetup FProgramSettings::setupIn(const QString& folder) const {
     FProcessSetup setup;
     setup.workingFolder = folder;
-    // The program is started in the folder of its run, so a path is made independent of that before.
+    // The program starts in the folder of its run, but a relative path starts at the current folder.
     const bool isPath = executable.contains(QLatin1Char('/'));
     setup.program = isPath ? QFileInfo(executable).absoluteFilePath() : executable;
     setup.arguments = arguments;

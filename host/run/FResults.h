@@ -4,7 +4,7 @@
 #include "host/core/FManaged.h"
 #include "host/design/FDesign.h"
 
-/** What came out of a design: it lies in a folder. Results aren't part of the history. */
+/** The results of a design, which are files in a folder. The history doesn't record them. */
 class MERIX_EXPORT FResults : public FClass<FResults, FManaged> {
  public:
     static FClassData mClass;
@@ -13,12 +13,12 @@ class MERIX_EXPORT FResults : public FClass<FResults, FManaged> {
         : FClass(name), mVariant(variant) {}
 
     using FManaged::init;
-    /** A new object reads from no folder until it gets one. Called when the object was registered. */
+    /** Clears the path, so that a new object reads nothing until it gets one. Called after registration. */
     void init() { mResultPath.clear(); }
 
     /** The design; empty for the current one. */
     const FExpr<FDesign>& getVariant() const { return mVariant; }
-    /** Folder of the files that are read, with a slash at its end. Empty if there is none, so that nothing is read. */
+    /** Folder of the files, with a slash at its end. If it is empty, nothing is read. */
     virtual QString getResultPath() const { return mResultPath; }
     void setResultPath(const QString& path) { mResultPath = path; }
 

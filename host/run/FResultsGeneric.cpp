@@ -66,9 +66,9 @@ void FResultsGeneric::warnOfFailedRun() const {
     }
     mWarned = true;
     FLogMsg::warning(getRun()->computation,
-                     QStringLiteral("The results in %1 come from a run that didn't succeed (%2)")
+                     QStringLiteral("The results in %1 come from a run that failed (%2)")
                          .arg(getResultPath(), getRun()->stateName()),
-                     QStringLiteral("what the run didn't write is NaN"));
+                     QStringLiteral("values that the run didn't write are NaN"));
 }
 
 void FResultsGeneric::detachFromFiles() {

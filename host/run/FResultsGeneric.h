@@ -9,8 +9,8 @@
 #include <QList>
 
 /**
- * Results as tables of numbers. They are read from the files of the run when they are first asked for, and again when
- * what they are read with has changed. Until then nothing is read, and each further question costs no file access.
+ * Results as tables of numbers. The first access reads them from the files of the run. Further accesses read no file,
+ * until the results become out of date.
  */
 class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputationResults> {
  public:
@@ -25,11 +25,11 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     FComputationResults* createResults(const FExpr<FDesign>& variant,
                                        const FExpr<FExternComputation>& computation) const override;
 
-    /** Reads the files unless that has been done; says once in the log if they come from a run that failed. */
+    /** Reads the files if necessary; logs a warning, once, if they come from a run that failed. */
     bool prepareResults() const override;
     void detachFromFiles() override;
 
-    /** Adds a table of that size, filled with NaN; a second one of a name stands behind the first. */
+    /** Appends a table of that size, filled with NaN. Tables may have equal names. */
     FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
     /** The first table of that name; an empty handle if there is none. */
     virtual FExpr<FTableData> getData(const QString& name);
@@ -41,16 +41,16 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     static ResultsFileType getResultsFileType(const QString& name);
     /** Path of one of these files, given by its entry's path or its name; empty if there is none. */
     QString getResultFileName(const QString& entry) const;
-    /** What file imports have brought, by the name of the value. */
+    /** Objects that file imports created, by the name of the value. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const;
 
  protected:
     using FComputationResults::init;
     void init(const FResultsGeneric* other);
 
-    /** Reads what there is; overrides end in the base's, which notes that it is done. */
+    /** Reads the files. Overrides end with a call of the base's, which notes that the files were read. */
     virtual void readOutputFiles() const;
-    /** The next question reads the files again. */
+    /** The next access reads the files again. */
     void forgetReading() const { mFilesRead = false; }
     void becameOutOfDate() const override;
     const QList<FExpr<FTableData>>& tables() const { return mTables; }

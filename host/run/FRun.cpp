@@ -67,7 +67,7 @@ void FRun::takeOutcome(const FProcessOutcome& outcome) {
     conclude();
 }
 
-// Not every program uses its error output for errors.
+// Some programs report errors in their standard output.
 void FRun::keepLastLines() {
     for (const QString& file : {mProcess.setup().standardErrorFile, mProcess.setup().standardOutputFile}) {
         if (mRecord->lastLines.isEmpty() && !file.isEmpty()) {
@@ -92,8 +92,8 @@ void FRun::findMissingFiles() {
     if (mRecord->cause == Cause::None && !missing.isEmpty()) {
         mRecord->cause = Cause::FileMissing;
         mRecord->message = QStringLiteral(
-                               "'%1' ended well, but didn't write %2. Check the file name of the result "
-                               "template, and what the program says.")
+                               "'%1' succeeded, but didn't write %2. Check the file name of the result "
+                               "template, and the output of the program.")
                                .arg(mRecord->program, missing);
     }
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-// File names hold any character but this one.
+// The only character that file names can't contain.
 constexpr char separator = '\0';
 
 bool isFolder(const QFileInfo& entry) {
@@ -35,7 +35,7 @@ QHash<QString, FRunFolder::Stamp> FRunFolder::list() const {
     while (walk.hasNext()) {
         const QString name = walk.next().mid(mFolder.size());
         const QFileInfo entry = walk.fileInfo();
-        // A folder changes with what is in it; what counts is that it is there.
+        // A folder's time changes with its contents; only its existence counts.
         entries.insert(name, isFolder(entry) ? Stamp{-1, {}} : Stamp{entry.size(), entry.lastModified()});
     }
     return entries;
@@ -53,7 +53,7 @@ QStringList FRunFolder::readNotes() const {
     return names;
 }
 
-// A link in the place of a folder of ours would have us empty somebody else's.
+// If one of these folders were a link, the folder that it points to would be emptied.
 void FRunFolder::emptyEarlier() const {
     const QString earlier = QDir::cleanPath(mEarlier);
     if (FSafePath::removeLink(QFileInfo(earlier).path()) && FSafePath::removeLink(earlier)) {
@@ -65,7 +65,7 @@ bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
     const QFileInfo folder(QDir::cleanPath(mFolder));
     if (folder.isSymLink()) {
         reason = QStringLiteral(
-                     "The folder of the run, '%1', is a link to '%2', where files would be moved away and replaced. "
+                     "The folder of the run, '%1', is a link to '%2', whose files would be moved and replaced. "
                      "Remove the link.")
                      .arg(folder.filePath(), folder.symLinkTarget());
         return false;
@@ -76,9 +76,9 @@ bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
     if (out == named.end()) {
         return true;
     }
-    reason =
-        QStringLiteral("'%1' would lie outside the folder of the run, '%2': a folder in it is a link. Remove the link.")
-            .arg(*out, mFolder);
+    reason = QStringLiteral(
+                 "'%1' would be outside the folder of the run, '%2': a folder in its path is a link. Remove the link.")
+                 .arg(*out, mFolder);
     return false;
 }
 
@@ -88,8 +88,8 @@ bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
     }
     emptyEarlier();
     if (!QDir().mkpath(mFolder)) {
-        reason =
-            QStringLiteral("The folder '%1' can't be made. Check the rights of the folders above it.").arg(mFolder);
+        reason = QStringLiteral("The folder '%1' can't be created. Check the permissions of the folders above it.")
+                     .arg(mFolder);
         return false;
     }
     QStringList folders;
@@ -116,7 +116,7 @@ bool FRunFolder::moveFile(const QString& name, QString& reason) const {
         return true;
     }
     reason = QStringLiteral(
-                 "'%1' is left of an earlier run and can't be moved to '%2' (%3). Close the program that has "
+                 "'%1' is left from an earlier run and can't be moved to '%2' (%3). Close the program that has "
                  "it open, or remove it.")
                  .arg(mFolder + name, target, file.errorString());
     return false;
@@ -142,7 +142,8 @@ void FRunFolder::noteLeft() const {
             names.append(entry.key().toUtf8());
         }
     }
-    // Not through QSaveFile, which waits for the disk: that takes longer than many a run, and half a list harms nobody.
+    // Not with QSaveFile, which waits for the disk: that takes longer than many runs, and an incomplete list does no
+    // harm.
     QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
     if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && FSafePath::openForWriting(notes)) {
         notes.write(names.join(separator));

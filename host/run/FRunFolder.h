@@ -10,9 +10,9 @@
 #include <optional>
 
 /**
- * The folder of a computation's runs, and the one beside it for what the run before left. Files that a user has put
- * into the folder stay where they are; what a run has written moves on before the next one. Both are the program's own,
- * and no links; the folders above may be, so that runs can lie on another disk.
+ * The folder of a computation's runs, and another one for the files of the run before. Files that a user has put into
+ * the folder stay there; files that a run has written move to the other folder before the next run. Neither folder may
+ * be a link, but the folders above may, so that runs can be kept on another disk.
  */
 class MERIX_EXPORT FRunFolder {
  public:
@@ -20,14 +20,14 @@ class MERIX_EXPORT FRunFolder {
     FRunFolder(const QString& folder, const QString& earlier);
 
     /**
-     * Before a run: makes the folder, and replaces what is in the earlier one by the named files and by all that the
-     * last run left. False, with the reason for the user, if the folder is a link, or if a file can't be moved: it must
-     * not be read as new.
-     * @param named  files relative to the folder; those whose names lead out of it are passed over, and one that does
-     *               so through a link in the folder is a reason to fail
+     * Before a run: creates the folder, and moves the named files and all files that the last run left to the earlier
+     * folder, whose contents they replace. False, with the reason for the user, if the folder is a link or a file can't
+     * be moved, since it could be mistaken for a new one.
+     * @param named  files relative to the folder. A name that leads out of the folder is ignored, but one that does so
+     *               through a link in the folder is an error.
      */
     bool moveAside(const QStringList& named, QString& reason);
-    /** After a run: notes what it has made or changed since `moveAside`, if that succeeded. */
+    /** After a run: notes which files were created or changed since `moveAside`, if that succeeded. */
     void noteLeft() const;
 
  private:

@@ -22,7 +22,7 @@ QString cant(const char* what, const QString& path, const QString& reason) {
 
 }  // namespace
 
-// A name that starts with a slash is in the folder, too.
+// A name that starts with a slash is relative to the folder, too.
 FRunFolderFile::FRunFolderFile(const QString& folder, const QString& name)
     : mFolder(folder),
       mName(name),
@@ -30,23 +30,23 @@ FRunFolderFile::FRunFolderFile(const QString& folder, const QString& name)
 
 QString FRunFolderFile::prepare() const {
     if (mName.isEmpty()) {
-        return QStringLiteral("it names no file");
+        return QStringLiteral("no file is named");
     }
     if (FSafePath::leadsOut(mFolder, mName)) {
-        return QStringLiteral("\"%1\" would lie outside the folder of the run").arg(mName);
+        return QStringLiteral("\"%1\" would be outside the folder of the run").arg(mName);
     }
     const QString folder = QFileInfo(mPath).path();
-    return QDir().mkpath(folder) ? QString() : QStringLiteral("can't make the folder \"%1\"").arg(folder);
+    return QDir().mkpath(folder) ? QString() : QStringLiteral("can't create the folder \"%1\"").arg(folder);
 }
 
 QString FRunFolderFile::makeRoom() const {
-    return FSafePath::removeLink(mPath) ? QString() : QStringLiteral("what is there can't be removed");
+    return FSafePath::removeLink(mPath) ? QString() : QStringLiteral("the existing file can't be removed");
 }
 
 QString FRunFolderFile::copyFrom(const QString& source) const {
     QFile from(fromProject(source));
     if (source.isEmpty()) {
-        return QStringLiteral("it names no file");
+        return QStringLiteral("no file is named");
     }
     if (const QString fault = FFile::openOrdinary(from); !fault.isEmpty()) {
         return cant("read", QFileInfo(from).absoluteFilePath(), fault);

@@ -6,14 +6,14 @@
 #include <QString>
 
 /**
- * A file to put into the folder of a run, in one step (see FSavedFile), with the folders that it needs. Functions
- * return a reason for the user, or an empty text if all went well.
+ * A file that is put into the folder of a run in one step (see FSavedFile); missing folders are created. Functions
+ * return the reason of a failure, for the user, or an empty text.
  */
 class MERIX_EXPORT FRunFolderFile {
  public:
     /**
-     * @param name  relative to the folder. A name that leads out of the folder is refused, also one that does so
-     * through a link in the folder. The file replaces a link of its own name.
+     * @param name  relative to the folder. A name that leads out of the folder, also through a link in it, is refused.
+     *              A link of that name is replaced.
      */
     FRunFolderFile(const QString& folder, const QString& name);
 

@@ -27,7 +27,7 @@ bool FSafePath::leadsOut(const QString& folder, const QString& fileName) {
     }
     const QString base = QDir::cleanPath(folder);
     QString path = QFileInfo(base + QLatin1Char('/') + fileName).path();
-    // Folders that don't exist yet will be made below the last one that does.
+    // Folders that don't exist yet will be created below the last one that does.
     while (path.size() > base.size() && !QFileInfo::exists(path)) {
         path = QFileInfo(path).path();
     }
@@ -36,7 +36,7 @@ bool FSafePath::leadsOut(const QString& folder, const QString& fileName) {
     return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
 }
 
-// One call of the system gives type and number of names.
+// One system call gives both the type and the number of hard links.
 bool FSafePath::removeLink(const QString& path) {
     struct stat status {};
     const bool isThere = ::lstat(QFile::encodeName(path).constData(), &status) == 0;

@@ -6,7 +6,7 @@
 
 class QFile;
 
-/** Keeps what is written into a folder from changing files elsewhere. */
+/** Prevents writing into a folder from changing files elsewhere. */
 class MERIX_EXPORT FSafePath {
  public:
     /** Whether a file name, appended to a folder, leads out of it. A backslash counts as a slash. */
@@ -14,8 +14,8 @@ class MERIX_EXPORT FSafePath {
     /** The same, also through links among the folders of the name. The last part of the name isn't followed. */
     static bool leadsOut(const QString& folder, const QString& fileName);
     /**
-     * Removes what has that path, unless it is a folder or an ordinary file without other names: writing to a link, or
-     * to a file with other names, would change a file elsewhere. False if it can't be removed.
+     * Removes a link, or a file with several names (hard links): writing to it would change a file elsewhere. Folders
+     * and other files stay. False if it can't be removed.
      */
     static bool removeLink(const QString& path);
     /**

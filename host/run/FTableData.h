@@ -13,8 +13,8 @@ class FManaged;
 /**
  * A table of numbers with a name, with headers for rows and columns that may be missing. Rows may differ in length.
  *
- * Whatever isn't there reads as the quiet NaN: a place outside the table, an unknown header. Of equal headers the first
- * one counts; case matters. Every look-up costs the same, however large the table is.
+ * A place outside the table or an unknown header gives the quiet NaN. Of equal headers the first one counts; case
+ * matters. The time of a look-up doesn't depend on the size of the table.
  */
 class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
  public:
@@ -26,12 +26,12 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
 
     const QString& getName() const { return mName; }
     QString toString() const override { return mName; }
-    /** The results that the table belongs to; a table on its own has none. */
+    /** The results that the table belongs to; null if it belongs to none. */
     void setOwner(const FManaged* results);
-    /** A table is found through its results. */
+    /** An expression that finds the table through its results. */
     QString getKeptText(QString& fault) const override;
 
-    // ---- filling; each call replaces what was there ----
+    // ---- filling; each call replaces the earlier contents ----
     void setData(const Rows& rows);
     void setAllVerticalHeaders(const QStringList& headers);
     void setAllVerticalHeadersTooltips(const QStringList& tooltips) { mRowTooltips = tooltips; }
@@ -40,7 +40,7 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     void setOrigins(const QVector<FNumberOrigin>& origins) { mOrigins = origins; }
 
     // ---- numbers ----
-    /** @param found  if given, tells whether there is such a place */
+    /** @param found  if given, receives whether there is such a place */
     double getElementAt(int row, int column, bool* found = nullptr) const;
     double getElementAt(const QString& rowHeader, int column) const;
     double getElementAt(int row, const QString& columnHeader) const;
@@ -58,13 +58,13 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     int getColumnCount() const { return mColumnCount; }
     /** The same. */
     int count() const { return getColumnCount(); }
-    /** Empty where there is none. */
+    /** Empty if the row has no name. */
     QString getRowName(int row) const { return mRowHeaders.value(row); }
     const QStringList& getRowNames() const { return mRowHeaders; }
     QString getRowTooltip(int row) const { return mRowTooltips.value(row); }
     FNumberOrigin getOrigin(int row) const { return mOrigins.value(row); }
 
-    /** The number of a row given as a double: truncated; -1, which is in no table, for what fits no integer. */
+    /** The number of a row given as a double, truncated; -1, which no table has, if it doesn't fit an integer. */
     static int rowNumber(double row);
 
  private:

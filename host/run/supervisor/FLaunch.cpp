@@ -14,7 +14,7 @@ FLaunchResult failure(const char* step, int errorNumber) {
     return {-1, step, errorNumber};
 }
 
-// A named pipe without a partner would block the opening for ever, hence O_NONBLOCK; the program doesn't expect it.
+// Opening a named pipe without a partner would block for ever, hence O_NONBLOCK, which the program doesn't expect.
 bool redirect(const char* file, int flags, int target) {
     const int opened = open(file, flags | O_NONBLOCK | O_CLOEXEC, 0666);
     if (opened < 0) {
@@ -26,7 +26,7 @@ bool redirect(const char* file, int flags, int target) {
     return done;
 }
 
-// Appending lets both output streams share a file.
+// O_APPEND lets both output streams share a file.
 constexpr int outputFlags = O_WRONLY | O_CREAT | O_TRUNC | O_APPEND;
 
 [[noreturn]] void becomeProgram(char** command, int failurePipe) {
@@ -42,7 +42,7 @@ constexpr int outputFlags = O_WRONLY | O_CREAT | O_TRUNC | O_APPEND;
     _exit(written == sizeof errorNumber ? 0 : 1);
 }
 
-// The pipe closes silently when the program has taken over.
+// The pipe closes without data when execv succeeds.
 int readFailure(int pipe) {
     int errorNumber = 0;
     return read(pipe, &errorNumber, sizeof errorNumber) == sizeof errorNumber ? errorNumber : 0;

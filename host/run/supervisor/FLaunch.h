@@ -3,8 +3,8 @@
 #include <sys/types.h>
 
 /**
- * What is started: the folder it works in, the files of its three streams (relative ones lie in that folder) and the
- * program's path followed by its arguments, ended by a null pointer.
+ * A program to start: its working folder, the files of its three streams (relative names start at that folder), and its
+ * path followed by its arguments, ended by a null pointer.
  */
 struct FLaunch {
     const char* folder;
@@ -22,8 +22,8 @@ struct FLaunchResult {
 };
 
 /**
- * Starts the program without a shell, as the leader of its own process group, with the streams redirected and no
- * other descriptor of ours. Returns when the program runs or can't. Folder and streams of the calling process become
- * those of the program. An output file is made or emptied, and written at its end.
+ * Starts the program without a shell, as the leader of its own process group, with the streams redirected and no other
+ * open descriptor. Returns when the program is running or couldn't be started. The calling process takes over the
+ * folder and the streams, too. An output file is created or emptied, and opened for appending.
  */
 FLaunchResult launch(const FLaunch& what);

@@ -10,7 +10,7 @@ namespace {
 
 using Children = std::multimap<pid_t, FProcessEntry>;
 
-// "pid (name) state parent group …", where the name may hold blanks and parentheses.
+// "pid (name) state parent group …", where the name can contain blanks and parentheses.
 void addProcess(const std::filesystem::path& folder, Children& children) {
     const pid_t pid = std::atoi(folder.filename().c_str());
     if (pid <= 0) {
@@ -42,7 +42,7 @@ void takeChildren(pid_t parent, Children& children, std::vector<FProcessEntry>& 
     for (auto child = first; child != last; ++child) {
         result.push_back(child->second);
     }
-    // Taken out, so that a number that was given anew while reading can't lead in a circle.
+    // Removed, since a process number that was reused while reading could otherwise cause an endless loop.
     children.erase(first, last);
 }
 

@@ -10,7 +10,7 @@ struct FProcessEntry {
 };
 
 /**
- * The processes that descend from one, parents before their children, without that one itself, in whatever group or
- * session they are. Reads the state of all processes of the machine once; what starts or ends meanwhile may be missed.
+ * The descendants of a process, parents before their children, in any group or session. Reads the state of all
+ * processes of the machine once; processes that start or end meanwhile may be missed.
  */
 std::vector<FProcessEntry> descendants(pid_t ancestor);

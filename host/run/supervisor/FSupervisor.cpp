@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto killInterval = 20ms;
-// Nothing survives SIGKILL for long but what waits for a dead disk or belongs to another user.
+// Only a process that waits for a dead disk, or belongs to another user, survives SIGKILL for long.
 constexpr auto killTime = 5s;
 
 int openSignals() {
@@ -38,7 +38,7 @@ bool readStopSignal(int signals) {
     return stop;
 }
 
-// A stopped process learns of the request only when it goes on. A negative number is a group.
+// A stopped process handles SIGTERM only after SIGCONT. A negative number is a group.
 void ask(pid_t process) {
     kill(process, SIGTERM);
     kill(process, SIGCONT);
@@ -72,7 +72,7 @@ FProgramEnd FSupervisor::watch(pid_t program) {
     return mEnd;
 }
 
-// Orphans come to this process, so that no child left means no descendant left.
+// This process adopts orphans, so when it has no children, there are no descendants left.
 bool FSupervisor::reap() {
     for (;;) {
         siginfo_t info{};
@@ -89,7 +89,7 @@ bool FSupervisor::reap() {
     }
 }
 
-// The number of the group is the program's and free for others once its leader is reaped: now is the last chance.
+// The group has the number of its leader, which can be reused once the leader is reaped: this is the last chance.
 void FSupervisor::noteEnd(bool exited, int value) {
     mEnd.exited = exited;
     mEnd.value = value;
@@ -113,7 +113,8 @@ void FSupervisor::advance() {
     }
 }
 
-// Each is asked once: a second request often means "at once" to programs, and what they start to clean up is let be.
+// Each process gets SIGTERM once: many programs take a second one as "at once". Processes that they start to clean up
+// get none.
 void FSupervisor::beginEnding(const char* reason) {
     mEnd.reason = reason;
     mPhase = Phase::Asked;
@@ -128,7 +129,7 @@ void FSupervisor::beginEnding(const char* reason) {
     }
 }
 
-// Repeated, since a process may have been started while the others were looked for.
+// Repeated, since a process may start while the others are being searched.
 void FSupervisor::killAll() {
     if (mPhase == Phase::Asked) {
         mPhase = Phase::Killing;
@@ -151,7 +152,7 @@ void FSupervisor::waitForEvent() {
     poll(events, 2, static_cast<int>(std::max<long long>(timeout, 0)));
     if (events[0].revents != 0) {
         mIsStopWanted = true;
-        mControl = -1;  // a closed pipe would wake us again and again; a negative number is passed over
+        mControl = -1;  // a closed pipe would wake poll again and again; poll ignores negative numbers
     }
     if (readStopSignal(mSignals)) {
         mIsStopWanted = true;

@@ -7,27 +7,27 @@
 
 /** How a program ended. */
 struct FProgramEnd {
-    const char* reason = "itself";  //!< or "limit", "stop": what ended it
+    const char* reason = "itself";  //!< what ended it: "itself", "limit" or "stop"
     bool exited = true;             //!< false if it died by a signal
-    int value = -1;                 //!< exit code, or number of the signal; -1 if it could not be ended
-    long long time = 0;             //!< of that, or of giving up; milliseconds since 1970
+    int value = -1;                 //!< exit code or number of the signal; -1 if it could not be ended
+    long long time = 0;             //!< of its end, or of giving up; milliseconds since 1970
     std::size_t remaining = 0;      //!< processes that could not be killed
 };
 
 /**
- * Watches a started program until it and all its descendants are gone.
+ * Watches a started program until it and all its descendants have ended.
  *
- * They are asked to end (SIGTERM), and after the grace killed, when the time limit is reached, when the control pipe
- * is closed, when a signal asks this process to end, and when the program has ended but left processes behind.
+ * It sends them SIGTERM, and SIGKILL after the grace period, when the time limit is reached, when the control pipe is
+ * closed, when this process gets a signal to end, and when the program has ended but has left processes.
  */
 class FSupervisor {
  public:
     using Milliseconds = std::chrono::milliseconds;
 
-    /** Adopts the orphans of the program to come and blocks the signals that it waits for. A limit of 0 is none. */
+    /** Makes this process adopt orphans, and blocks the signals that it waits for. A limit of 0 is no limit. */
     FSupervisor(int control, Milliseconds limit, Milliseconds grace);
 
-    /** Watches the leader of a process group, started after this object was made. To be called once. */
+    /** Watches the leader of a process group, which was started after the construction of this object. Call it once. */
     FProgramEnd watch(pid_t program);
 
  private:

@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-// Runs one program to its end, with nothing of it left behind. Standard input is the control pipe: its end closing asks
-// to end the program. Standard output takes the report, a line an event:
+// Runs one program until it and all its descendants have ended. Standard input is the control pipe: closing its other
+// end requests the end of the program. The report goes to standard output, one line per event:
 //   failed STEP ERRNO                             not started; STEP as in FLaunchResult
 //   started PID TIME                              milliseconds since 1970
 //   ended REASON exit|signal VALUE TIME REMAINING as in FProgramEnd
@@ -25,7 +25,7 @@ FSupervisor::Milliseconds duration(const char* text) {
     return FSupervisor::Milliseconds(std::clamp(std::atoll(text), 0LL, 100 * year));
 }
 
-// A session of its own keeps away the signals that a terminal sends to the group of whoever started this.
+// In its own session, this process gets no signals that a terminal sends to the group of its parent.
 void detachFromTerminal() {
     setsid();
     signal(SIGPIPE, SIG_IGN);
@@ -50,7 +50,7 @@ int supervise(char** argv, int control, int report) {
 
 int main(int argc, char** argv) {
     if (argc <= Program) {
-        std::fputs("merix-supervisor: started by merix to run a program; not meant to be started by hand\n", stderr);
+        std::fputs("merix-supervisor: merix starts this to run a program; don't start it manually\n", stderr);
         return 2;
     }
     detachFromTerminal();

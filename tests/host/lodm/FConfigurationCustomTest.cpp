@@ -53,12 +53,12 @@ TEST_F(FConfigurationCustomTest, whatCannotBeCopiedIsToldAndStops) {
     write("taken", "a file where a folder has to be");
     const QList<QStringList> failures{{"inputFile(\"" + path("none.dat") + "\")", "can't read \"" + path("none.dat")},
                                       {"inputFile(\"" + path() + "\")", "it is a folder"},
-                                      {"inputFile(NULL)", "names no file"},
-                                      {"inputFile(\"" + mesh + "\",\"..\")", "\"../mesh.dat\" would lie outside"},
-                                      {"inputFile(\"" + mesh + "\",\"a/../../b\")", "would lie outside"},
-                                      {"inputFile(\"" + mesh + "\",\"..\\\\\")", "would lie outside"},
-                                      {"inputFile(\"" + mesh + "\",\"../taken/x\")", "would lie outside"},
-                                      {"inputFile(\"" + mesh + "\",\"mesh.dat/x\")", "can't make the folder"}};
+                                      {"inputFile(NULL)", "no file is named"},
+                                      {"inputFile(\"" + mesh + "\",\"..\")", "\"../mesh.dat\" would be outside"},
+                                      {"inputFile(\"" + mesh + "\",\"a/../../b\")", "would be outside"},
+                                      {"inputFile(\"" + mesh + "\",\"..\\\\\")", "would be outside"},
+                                      {"inputFile(\"" + mesh + "\",\"../taken/x\")", "would be outside"},
+                                      {"inputFile(\"" + mesh + "\",\"mesh.dat/x\")", "can't create the folder"}};
     ASSERT_TRUE(copy(QStringLiteral("inputFile(\"%1\")").arg(mesh)));
     for (const QStringList& failure : failures) {
         EXPECT_FALSE(copy(failure[0])) << failure[0].toStdString();
@@ -82,7 +82,7 @@ TEST_F(FConfigurationCustomTest, exportsGoIntoTheFolderOfTheRun) {
     EXPECT_EQ(log(), QStringList());
     run("conf.setEntryValue(\"g\", geometryExport(\"../one.txt\", 1, a))");
     EXPECT_FALSE(conf->doExports());
-    EXPECT_TRUE(logHolds("\"../one.txt\" would lie outside the folder of the run"));
+    EXPECT_TRUE(logHolds("\"../one.txt\" would be outside the folder of the run"));
 }
 
 TEST_F(FConfigurationCustomTest, aSetUpStartsWithTheDefaultsOfItsDefinition) {

@@ -69,7 +69,7 @@ TEST_F(FRunFolderTest, followsNoLinkToWhatIsNotItsOwn) {
     ASSERT_TRUE(QFile::link(path("other/run"), path("run/out")));
     FRunFolder through = folder();
     EXPECT_FALSE(moveAside(through, {"own.dat", "out/mine.txt"}));
-    EXPECT_TRUE(mReason.contains("'out/mine.txt' would lie outside")) << mReason.toStdString();
+    EXPECT_TRUE(mReason.contains("'out/mine.txt' would be outside")) << mReason.toStdString();
     for (const char* link : {".earlier", ".earlier/run"}) {
         QDir(path(".earlier")).removeRecursively();
         QDir(path()).mkpath(QFileInfo(path(link)).path());

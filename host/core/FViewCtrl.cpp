@@ -17,8 +17,14 @@ QString inModalDialog(Ask ask) {
 }  // namespace
 
 FViewCtrl* FViewCtrl::instance() {
-    static FViewCtrl control;
-    return &control;
+    static auto* control = new FViewCtrl;  // never destroyed: windows may be connected to the end
+    return control;
+}
+
+bool FViewCtrl::hasSmallScreen() {
+    constexpr int smallHeight = 800;
+    const int height = FUserInterface::instance()->getScreenHeight();
+    return height > 0 && height < smallHeight;
 }
 
 void FViewCtrl::prepareModalDialog(void* parent) {

@@ -3,12 +3,20 @@
 #include "host/core/FExport.h"
 #include "host/core/FUserInterface.h"
 
-/** Whether there are windows, and dialogs that block the others. */
-class MERIX_EXPORT FViewCtrl {
+#include <QObject>
+
+/** What the windows of the program have in common. */
+class MERIX_EXPORT FViewCtrl : public QObject {
+    Q_OBJECT
+
  public:
     static FViewCtrl* instance();
 
     bool hasGui() const { return FUserInterface::instance()->hasGui(); }
+    /** True on a screen less than 800 pixels high; false without windows. */
+    static bool hasSmallScreen();
+    /** Shows the model as of a design; null shows the base design. Without windows nothing happens. */
+    static void displayVariant(FManaged* design) { FUserInterface::instance()->displayVariant(design); }
     /** Called before and after a dialog that blocks the other windows. */
     static void prepareModalDialog(void* parent);
     static void finalizeModalDialog();
@@ -19,11 +27,8 @@ class MERIX_EXPORT FViewCtrl {
     static QString getOpenFileName(const QString& caption, QString& directory, const QString& filter);
     /** The file that the user chose to save to; empty if the dialog was cancelled. */
     static QString getSaveFileName(const QString& caption, const QString& startPath, const QString& filter);
-};
 
-/** The tree of all objects. */
-class MERIX_EXPORT FObjectTree {
- public:
-    /** Shows the objects in the tree. */
-    static void highlight(const QList<FExprBase>& objects) { FUserInterface::instance()->highlight(objects); }
+ signals:
+    /** Emitted by the windows when the user has chosen another font. */
+    void applicationFontChanged();
 };

@@ -1,8 +1,14 @@
+#include "host/core/FHold.h"
 #include "host/core/FIO.h"
 #include "host/core/FIni.h"
+#include "host/core/FObjectEditorWgt.h"
 #include "host/core/FViewCtrl.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
+
+#include <QCoreApplication>
+
+#include <optional>
 
 namespace {
 
@@ -18,6 +24,21 @@ class FClosed : public FUserInterface {
     }
 
     int answer = 1;
+};
+
+/** Windows that note what is requested of them. */
+class FNoted : public FUserInterface {
+ public:
+    FNoted() { FUserInterface::replace(this); }
+    ~FNoted() override { FUserInterface::replace(nullptr); }
+    void reinitializeEditor(bool all) override { mNotes.append(all ? "all" : "selected"); }
+    void hold(What what, bool isHeld) override {
+        mNotes.append(QString(isHeld ? "hold %1" : "release %1").arg(static_cast<int>(what)));
+    }
+    int getScreenHeight() const override { return mHeight; }
+
+    QStringList mNotes;
+    int mHeight = 0;
 };
 
 class FUserInterfaceTest : public FModelTest {
@@ -45,6 +66,39 @@ TEST_F(FUserInterfaceTest, withoutWindowsNothingIsChosen) {
     EXPECT_EQ(FViewCtrl::getOpenFileName("Open It", directory, "") + directory, "/data");
     EXPECT_EQ(FViewCtrl::getSaveFileName("Save It", "/data/a", ""), "");
     EXPECT_TRUE(logHolds("Open It") && logHolds("Save It"));
+}
+
+TEST_F(FUserInterfaceTest, theObjectEditorIsRebuiltOnceForAllRequests) {
+    FNoted windows;
+    FObjectEditorWgt::instance()->reinitialize();
+    FObjectEditorWgt::instance()->reinitializeAll();
+    FObjectEditorWgt::instance()->reinitialize();
+    EXPECT_TRUE(windows.mNotes.isEmpty()) << "not before the event loop";
+    QCoreApplication::processEvents();
+    FObjectEditorWgt::instance()->reinitialize();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(windows.mNotes, (QStringList{"all", "selected"}));
+}
+
+TEST_F(FUserInterfaceTest, holdsOfAPartNest) {
+    FNoted windows;
+    std::optional<FEditorUpdateBlocker> editors(std::in_place);
+    {
+        const FEditorUpdateBlocker inner;
+        const FObjectTreeBlocker tree;
+    }
+    EXPECT_EQ(windows.mNotes, (QStringList{"hold 1", "hold 2", "release 2"}));
+    editors.reset();
+    EXPECT_EQ(windows.mNotes.last(), "release 1");
+}
+
+TEST_F(FUserInterfaceTest, aScreenIsSmallBelow800Pixels) {
+    EXPECT_FALSE(FViewCtrl::hasSmallScreen());
+    FNoted windows;
+    for (const auto& [height, isSmall] : {std::pair(799, true), {800, false}}) {
+        windows.mHeight = height;
+        EXPECT_EQ(FViewCtrl::hasSmallScreen(), isSmall) << height;
+    }
 }
 
 TEST(FIniTest, aSettingIsAWholeNumberOrEmpty) {

@@ -33,6 +33,9 @@ class MERIX_EXPORT FExprBase {
 
     /** What was put in, not evaluated; null if it is gone. */
     FObject* getStored() const { return mpBlock ? mpBlock->live() : nullptr; }
+    FObject* getExpr() const { return getStored(); }
+    /** True if something was put in that is gone. */
+    bool isDetached() const { return !isEmpty() && !isValid(); }
     /** True if the handle stands for a command. */
     bool isCmd() const;
     /** The object behind the handle; an expression is brought up to date for it. */

@@ -185,3 +185,11 @@ std::vector<FObject*> FObject::getClients() const {
 std::vector<FObject*> FObject::getSuppliers() const {
     return FUpdateGraph::suppliersOf(this);
 }
+
+std::vector<FObject*> FObject::getClientsCmdHelper(const std::vector<const FObject*>& types) const {
+    return FUpdateGraph::allOf(this, types, &FUpdateGraph::reachedBy);
+}
+
+std::vector<FObject*> FObject::getSuppliersCmdHelper(const std::vector<const FObject*>& types) const {
+    return FUpdateGraph::allOf(this, types, &FUpdateGraph::suppliersOf);
+}

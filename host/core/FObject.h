@@ -148,6 +148,17 @@ class MERIX_EXPORT FObject {
     /** The objects that depend on this one directly, in the order in which they were linked. */
     std::vector<FObject*> getClients() const;
     std::vector<FObject*> getSuppliers() const;
+    /**
+     * All objects of the model that depend on this one, at any distance, and are of one of the types, given as
+     * prototypes: what a mark reaches, through kept commands and from entries to their configuration. The nearest come
+     * first.
+     */
+    std::vector<FObject*> getClientsCmdHelper(const std::vector<const FObject*>& types) const;
+    /**
+     * All objects of those types that this one is linked to, at any distance, through kept commands. What a
+     * configuration's entries depend on doesn't count as a supplier of the configuration.
+     */
+    std::vector<FObject*> getSuppliersCmdHelper(const std::vector<const FObject*>& types) const;
 
     FObjectBlock* getBlock() const { return mpBlock; }
 

@@ -196,6 +196,25 @@ std::vector<FObject*> FUpdateGraph::reachedBy(const FObject* object) {
     return reached;
 }
 
+std::vector<FObject*> FUpdateGraph::allOf(const FObject* start, const std::vector<const FObject*>& types,
+                                          std::vector<FObject*> (*next)(const FObject* object)) {
+    std::vector<const FObject*> todo{start};
+    std::unordered_set<const FObject*> seen{start};
+    std::vector<FObject*> found;
+    for (std::size_t i = 0; i < todo.size(); ++i) {
+        for (FObject* object : next(todo[i])) {
+            if (!object->getBlock()->live() || !seen.insert(object).second) {
+                continue;
+            }
+            todo.push_back(object);
+            if (std::any_of(types.begin(), types.end(), [&](const FObject* type) { return object->isTypeOf(type); })) {
+                found.push_back(object);
+            }
+        }
+    }
+    return found;
+}
+
 void FUpdateGraph::link(FObject* client, FObject* supplier) {
     for (FObject* object : {client, supplier}) {
         if (!object->mpLinks) {

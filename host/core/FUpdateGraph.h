@@ -23,12 +23,18 @@ class FUpdateGraph {
 
     static std::vector<FObject*> clientsOf(const FObject* object);
     static std::vector<FObject*> suppliersOf(const FObject* object);
+    /** What goes out of date with an object: its clients, and the whole that it is a part of. */
+    static std::vector<FObject*> reachedBy(const FObject* object);
+    /**
+     * What `next` leads to from an object, step by step, and is of one of the types, each once. Objects that have left
+     * the model are passed over with all behind them.
+     */
+    static std::vector<FObject*> allOf(const FObject* start, const std::vector<const FObject*>& types,
+                                       std::vector<FObject*> (*next)(const FObject* object));
 
  private:
     friend class FImmediateUpdateBlocker;
 
-    /** What goes out of date with an object: its clients, and the whole that it is a part of. */
-    static std::vector<FObject*> reachedBy(const FObject* object);
     static void updateWaiting();
     /** Those of the objects, and of all that evaluating them evaluates, that read files. */
     static std::unordered_set<const FObject*> thoseThatReadFiles(std::vector<const FObject*> all);

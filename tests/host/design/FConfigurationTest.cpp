@@ -176,4 +176,31 @@ TEST_F(FConfigurationTest, anEntryCanBeCreatedByName) {
     EXPECT_EQ(values(), (QStringList{"10", "7", "7", "40"}));
 }
 
+TEST_F(FConfigurationTest, clientsAndSuppliersOfATypeAreFoundThroughExpressionsAndEntries) {
+    ASSERT_TRUE(
+        run("parameter a(2)\nparameter b(3*a)\nparameter c(max(b,1)+a)\nparameter gone(a)\n"
+            "conf.setEntryValue(\"height\",c)\ndestroy(gone)"));
+    const auto names = [](const std::vector<FObject*>& objects) {
+        QStringList list;
+        for (const FObject* object : objects) {
+            list.append(object->toString());
+        }
+        list.sort();
+        return list.join(' ');
+    };
+    const auto* first = object<FParameter>("a");
+    EXPECT_EQ(names(first->getClientsCmdHelper({FParameter::null()})), "b c");
+    EXPECT_EQ(names(first->getClientsCmdHelper({FParameter::null(), FConfiguration::null()})), "b c conf");
+    EXPECT_EQ(names(object<FParameter>("c")->getSuppliersCmdHelper({FEntity::null()})), "a b");
+}
+
+TEST_F(FConfigurationTest, aHandleOnADestroyedObjectIsDetached) {
+    const FExprBase handle(FParameter::create({}, "a", {}));
+    EXPECT_FALSE(handle.isDetached() || FExprBase().isDetached());
+    run("destroy(a)");
+    EXPECT_TRUE(handle.isDetached());
+    FHistory::instance()->undo();
+    EXPECT_FALSE(handle.isDetached());
+}
+
 }  // namespace

@@ -9,7 +9,8 @@ const FEnumTable& FEnum<FDocuArea>::table() {
                                   {{0, QStringLiteral("DocuName")},
                                    {1, QStringLiteral("DocuDescription")},
                                    {2, QStringLiteral("DocuExample")},
-                                   {3, QStringLiteral("DocuResult")}});
+                                   {3, QStringLiteral("DocuResult")},
+                                   {5, QStringLiteral("DocuHelp")}});
     return texts;
 }
 

@@ -3,7 +3,7 @@
 #include "host/core/FEnum.h"
 
 /** Which part of an object's or command's documentation a text is. */
-enum class FDocuArea { Name = 0, Description = 1, Example = 2, Result = 3 };
+enum class FDocuArea { Name = 0, Description = 1, Example = 2, Result = 3, Help = 5 };
 
 template <>
 FClassData FEnum<FDocuArea>::mClass;

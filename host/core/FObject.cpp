@@ -1,5 +1,6 @@
 #include "host/core/FObject.h"
 
+#include "host/core/FDocuArea.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FManaged.h"
 #include "host/core/FObjectManager.h"
@@ -89,6 +90,14 @@ void FObject::initTypeDocu() const {
 
 void FObject::addTypeDocu(const QString& text, int area) const {
     FTypeDocu::add(getClass(), text, area);
+}
+
+QString FObject::getDocuString(int area) const {
+    initCmds();  // may add texts
+    initTypeDocu();
+    const QString text = FTypeDocu::get(getClass(), area);
+    const bool isDescription = area == static_cast<int>(FDocuArea::Description);
+    return isDescription ? text + FTypeDocu::get(getClass(), static_cast<int>(FDocuArea::Help)) : text;
 }
 
 void FObject::addPrototype(const FObject* prototype) {

@@ -74,6 +74,10 @@ class MERIX_EXPORT FObject {
     void initCmds() const;
     virtual void initTypeDocu() const;
     void addTypeDocu(const QString& text, int area) const;
+    /** Adds a text to the documentation of the object's class; see FDocuArea. */
+    void addDocu(const QString& text, int area) const { addTypeDocu(text, area); }
+    /** The documentation of the object's class. The description ends with the help that the class's windows show. */
+    QString getDocuString(int area) const;
 
     // ---- prototypes ----
     static void addPrototype(const FObject* prototype);

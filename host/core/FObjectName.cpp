@@ -65,8 +65,11 @@ QString legalName(const QString& text) {
         }
         i += c.units;
     }
-    const bool isLegal = nameLength(name, 0) == name.size() && reservedWord(name) == FReservedWord::None;
-    return isLegal ? name : QLatin1Char('_') + name;
+    return name.isEmpty() || FObjectName::isLegal(name) ? name : QLatin1Char('_') + name;
+}
+
+bool FObjectName::isLegal(const QString& name) {
+    return !name.isEmpty() && canBecomeLegal(name) && reservedWord(name) == FReservedWord::None;
 }
 
 QString numberedName(const QString& base, int number) {

@@ -24,6 +24,16 @@ MERIX_EXPORT int nameLength(QStringView text, int from);
  */
 MERIX_EXPORT QString legalName(const QString& text);
 
+/** Names of objects as a user types them. */
+class MERIX_EXPORT FObjectName {
+ public:
+    /** Makes a text a legal name, as `legalName`. */
+    static void correctName(QString& name) { name = legalName(name); }
+    static bool isLegal(const QString& name);
+    /** Whether the text is a legal name or becomes one when more is typed, for the validator of a field. */
+    static bool canBecomeLegal(const QString& text) { return nameLength(text, 0) == text.size(); }
+};
+
 /** `base` for 0, else `base` with the suffix that the number has in a series of equal names: _01 … _09, _10, _11 … */
 MERIX_EXPORT QString numberedName(const QString& base, int number);
 

@@ -8,7 +8,7 @@ class FTypeDocu {
     /** The text of a key, from the translation file of the host; the key itself if it has none. */
     static QString translate(const QString& key, const QString& disambiguation = QString());
 
-    /** Adds a text to a class's documentation. Area 1 is the description, area 2 the example. */
+    /** Adds a text to a class's documentation. Areas are those of FDocuArea. */
     static void add(const QString& className, const QString& text, int area);
     /** Empty if nothing was added. */
     static QString get(const QString& className, int area);

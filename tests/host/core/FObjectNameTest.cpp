@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QSet>
+#include <tuple>
 #include <utility>
 
 TEST(FObjectNameTest, illegalTextsAreCorrected) {
@@ -21,6 +22,18 @@ TEST(FObjectNameTest, illegalTextsAreCorrected) {
         const QString legal = legalName(QString::fromUtf16(text));
         EXPECT_EQ(legal.toStdString(), QString::fromUtf16(name).toStdString());
         EXPECT_EQ(legalName(legal), legal);
+        EXPECT_EQ(FObjectName::isLegal(legal), !legal.isEmpty());
+    }
+}
+
+TEST(FObjectNameTest, aReservedWordOrNothingMayBecomeAName) {
+    for (const auto& [text, isLegal, canBecome] : {std::tuple("span_1", true, true),
+                                                   {"", false, true},
+                                                   {"while", false, true},
+                                                   {"1st", false, false},
+                                                   {"a b", false, false}}) {
+        EXPECT_EQ(FObjectName::isLegal(text), isLegal) << text;
+        EXPECT_EQ(FObjectName::canBecomeLegal(text), canBecome) << text;
     }
 }
 

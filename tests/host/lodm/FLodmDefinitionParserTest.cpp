@@ -137,7 +137,7 @@ TEST_F(FLodmDefinitionParserTest, faultsAreToldWithTheirPlaceAndLeaveNothing) {
     expectRefused("<definition version=\"1\" nam=\"x\"/>", "no attribute \"nam\" (did you mean \"name\"?)");
     expectRefused("<definition version=\"1\"/><definition version=\"1\"/>", "Extra content");
     expectRefused(file("<docu area=\"DocuNaem\"/>"),
-                  "DocuExample, DocuResult as \"area\" of <docu>, found \"DocuNaem\"");
+                  "DocuExample, DocuResult, DocuHelp as \"area\" of <docu>, found \"DocuNaem\"");
     expectRefused(file(QString("<docu area=\"DocuName\"/>").repeated(2)), "two texts of DocuName");
     expectRefused(file("stray"), "definition:4:2: the definition can't be read: expected an element, found the text");
     expectRefused(file("<entry name=\"a\"/>"), "the type of entry \"a\" isn't told");

@@ -9,6 +9,11 @@ class MERIX_EXPORT FEntity : public FClass<FEntity, FManaged> {
     static FClassData mClass;
 
     explicit FEntity(const QString& name = QString()) : FClass(name) {}
+
+    /** Whether the entity is geometry that a view can show. */
+    virtual bool isDrawable() const { return false; }
+    /** For feature definitions: whether what they make can be exported. */
+    virtual bool isExportable() const { return true; }
 };
 
 /** A scope: the space in which names are unique. The working scope is the one of the whole project. */

@@ -2257,7 +2257,7 @@ print(span.getValue())</translation>
     </message>
     <message>
         <source>!FManaged.member.addDocu(string,text,string,area):argument1</source>
-        <translation>What the text is: DocuName, DocuDescription, DocuExample or DocuResult.</translation>
+        <translation>What the text is: DocuName, DocuDescription, DocuExample, DocuResult or DocuHelp.</translation>
     </message>
     <message>
         <source>!FManaged.member.addDocu(string,text,string,area):example</source>
@@ -2407,6 +2407,331 @@ print(exists("slender"))</translation>
     <message>
         <source>!Global.rename(FManaged,object,string,name):argument1</source>
         <translation>The new name: letters, digits and underscores, and no digit first.</translation>
+    </message>
+    <message>
+        <source>!FPoint</source>
+        <translation>A point in space, as geometry to export.</translation>
+    </message>
+    <message>
+        <source>!FPoint:example</source>
+        <translation>point tip(0, 12.5, 0.4)</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0)</source>
+        <translation>Makes a point.</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0):argument0</source>
+        <translation>The first coordinate, in the unit of length of the model.</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0):argument1</source>
+        <translation>The second coordinate.</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0):argument2</source>
+        <translation>The third coordinate.</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0):example</source>
+        <translation>point tip(0, 12.5, 0.4)</translation>
+    </message>
+    <message>
+        <source>!FPoint.creator.point(double,x=0,double,y=0,double,z=0):returnValue</source>
+        <comment>return type: FPoint</comment>
+        <translation>The new point.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setX(double,x)</source>
+        <translation>Sets the first coordinate.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setX(double,x):argument0</source>
+        <translation>The coordinate, in the unit of length of the model.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setX(double,x):example</source>
+        <translation>point tip(0, 12.5, 0.4)
+tip.setX(1.5)
+print(getAttribute(tip, "setX"))</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setY(double,y)</source>
+        <translation>Sets the second coordinate.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setY(double,y):argument0</source>
+        <translation>The coordinate, in the unit of length of the model.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setY(double,y):example</source>
+        <translation>point tip(0, 12.5, 0.4)
+tip.setY(1.5)
+print(getAttribute(tip, "setY"))</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setZ(double,z)</source>
+        <translation>Sets the third coordinate.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setZ(double,z):argument0</source>
+        <translation>The coordinate, in the unit of length of the model.</translation>
+    </message>
+    <message>
+        <source>!FPoint.attribute.setZ(double,z):example</source>
+        <translation>point tip(0, 12.5, 0.4)
+tip.setZ(1.5)
+print(getAttribute(tip, "setZ"))</translation>
+    </message>
+    <message>
+        <source>!FGeometryFile</source>
+        <translation>Geometry that a file describes. Curves and surfaces of triangles are of this class.</translation>
+    </message>
+    <message>
+        <source>!FGeometryFile:example</source>
+        <translation>curve edge("edge.csv")</translation>
+    </message>
+    <message>
+        <source>!FGeometryFile.attribute.setFileName(string,fileName)</source>
+        <translation>Sets the file that describes the geometry. The file is not read.</translation>
+    </message>
+    <message>
+        <source>!FGeometryFile.attribute.setFileName(string,fileName):argument0</source>
+        <translation>The file.</translation>
+    </message>
+    <message>
+        <source>!FGeometryFile.attribute.setFileName(string,fileName):example</source>
+        <translation>curve edge()
+edge.setFileName("edge.csv")
+print(getAttribute(edge, "setFileName"))</translation>
+    </message>
+    <message>
+        <source>!FCurve</source>
+        <translation>A curve that a file of points describes, as geometry to export.</translation>
+    </message>
+    <message>
+        <source>!FCurve:example</source>
+        <translation>curve edge("edge.csv")</translation>
+    </message>
+    <message>
+        <source>!FCurve.creator.curve(string,fileName="")</source>
+        <translation>Makes a curve.</translation>
+    </message>
+    <message>
+        <source>!FCurve.creator.curve(string,fileName=""):argument0</source>
+        <translation>A file with one point a line: three numbers, separated by commas.</translation>
+    </message>
+    <message>
+        <source>!FCurve.creator.curve(string,fileName=""):example</source>
+        <translation>curve edge("edge.csv")</translation>
+    </message>
+    <message>
+        <source>!FCurve.creator.curve(string,fileName=""):returnValue</source>
+        <comment>return type: FCurve</comment>
+        <translation>The new curve.</translation>
+    </message>
+    <message>
+        <source>!FTriangles</source>
+        <translation>A surface of triangles that a file describes, as geometry to export.</translation>
+    </message>
+    <message>
+        <source>!FTriangles:example</source>
+        <translation>triangles hull("hull.stl")</translation>
+    </message>
+    <message>
+        <source>!FTriangles.creator.triangles(string,fileName="")</source>
+        <translation>Makes a surface of triangles.</translation>
+    </message>
+    <message>
+        <source>!FTriangles.creator.triangles(string,fileName=""):argument0</source>
+        <translation>A file in STL format.</translation>
+    </message>
+    <message>
+        <source>!FTriangles.creator.triangles(string,fileName=""):example</source>
+        <translation>triangles hull("hull.stl")</translation>
+    </message>
+    <message>
+        <source>!FTriangles.creator.triangles(string,fileName=""):returnValue</source>
+        <comment>return type: FTriangles</comment>
+        <translation>The new surface.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup</source>
+        <translation>Entities that are exported together.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup:example</source>
+        <translation>point a(0, 0, 0)
+point b(1, 0, 0)
+entityGroup ends() { .setEntities([a, b]) }</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.creator.entityGroup()</source>
+        <translation>Makes a group without entities.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.creator.entityGroup():example</source>
+        <translation>entityGroup ends()</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.creator.entityGroup():returnValue</source>
+        <comment>return type: FEntityGroup</comment>
+        <translation>The new group.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.attribute.setEntities(FCONTAINER,entities)</source>
+        <translation>Replaces the entities of the group. An entity that depends on the group is left out, with a warning.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.attribute.setEntities(FCONTAINER,entities):argument0</source>
+        <translation>The entities. NULL elements are left out.</translation>
+    </message>
+    <message>
+        <source>!FEntityGroup.attribute.setEntities(FCONTAINER,entities):example</source>
+        <translation>point a(0, 0, 0)
+entityGroup ends()
+ends.setEntities([a])
+print(getAttribute(ends, "setEntities"))</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition</source>
+        <translation>Defines geometry as a list of entities, to be exported as a whole.</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition:example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing() { .setEntities([edge]) }</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.creator.featureDefinition()</source>
+        <translation>Makes a feature definition without entities.</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.creator.featureDefinition():example</source>
+        <translation>featureDefinition wing()</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.creator.featureDefinition():returnValue</source>
+        <comment>return type: FFeatureDefinition</comment>
+        <translation>The new feature definition.</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.attribute.setEntities(FCONTAINER,entities)</source>
+        <translation>Replaces the entities that the feature definition makes. An entity that depends on the feature definition is left out, with a warning.</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.attribute.setEntities(FCONTAINER,entities):argument0</source>
+        <translation>The entities. NULL elements are left out.</translation>
+    </message>
+    <message>
+        <source>!FFeatureDefinition.attribute.setEntities(FCONTAINER,entities):example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing()
+wing.setEntities([edge])
+print(getAttribute(wing, "setEntities"))</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember</source>
+        <translation>Names one of the entities that a feature definition makes.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember:example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing() { .setEntities([edge]) }
+featureMember front() { .setFeature(wing) }</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.creator.featureMember()</source>
+        <translation>Makes a member that names nothing yet.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.creator.featureMember():example</source>
+        <translation>featureMember front()</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.creator.featureMember():returnValue</source>
+        <comment>return type: FFeatureMember</comment>
+        <translation>The new member.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setFeature(FFeatureDefinitionBase,feature)</source>
+        <translation>Sets the feature definition. One that depends on the member is refused with a warning.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setFeature(FFeatureDefinitionBase,feature):argument0</source>
+        <translation>The feature definition.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setFeature(FFeatureDefinitionBase,feature):example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing() { .setEntities([edge]) }
+featureMember front()
+front.setFeature(wing)</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setIndex(int,index)</source>
+        <translation>Sets which of the entities of the feature definition is meant.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setIndex(int,index):argument0</source>
+        <translation>The place in the list of entities, from 0.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.attribute.setIndex(int,index):example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing() { .setEntities([edge]) }
+featureMember front() { .setFeature(wing) }
+front.setIndex(0)
+print(front.getEntity())</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.member.getEntity()</source>
+        <translation>The entity that the member names.</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.member.getEntity():example</source>
+        <translation>curve edge("edge.csv")
+featureDefinition wing() { .setEntities([edge]) }
+featureMember front() { .setFeature(wing) }
+print(front.getEntity())</translation>
+    </message>
+    <message>
+        <source>!FFeatureMember.member.getEntity():returnValue</source>
+        <comment>return type: FEntity</comment>
+        <translation>The entity; NULL if there is none at the index.</translation>
+    </message>
+    <message>
+        <source>!FGenIntReader</source>
+        <translation>Reads the numbers of an output file into a table, each at the place that its result value describes. It has no commands: a computation uses it when results are requested.</translation>
+    </message>
+    <message>
+        <source>!FGenIntReader:example</source>
+        <translation>print(comp.getResults().getTable("out.dat").getElementAt("CD"))</translation>
+    </message>
+    <message>
+        <source>!FGenIntWriter</source>
+        <translation>Writes input files from their templates: each tag is replaced by the value of its entry. It has no commands: a computation uses it before a run.</translation>
+    </message>
+    <message>
+        <source>!FGenIntWriter:example</source>
+        <translation>genericIntegrationCommandFile input() { .setContent("span = &lt;entry&gt;span&lt;/entry&gt;") }</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFileValue</source>
+        <translation>Describes where a number is in an output file: line and column from 0, counted from an anchor text or from the top of the file, and whether the average of the last rows is taken. It has no commands; a results file holds a list of them.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFileValue:example</source>
+        <translation>genericIntegrationResultsFile drag() { .setFileName("out.dat") }
+print(getAttribute(drag, "setValues"))</translation>
+    </message>
+    <message>
+        <source>!FEnum&lt;GenIntAnchorOccurrence&gt;</source>
+        <translation>Which occurrence of its anchor text a result value is counted from: First or Last. It has no commands; the words are used in the values of a results file.</translation>
+    </message>
+    <message>
+        <source>!FEnum&lt;GenIntAnchorOccurrence&gt;:example</source>
+        <translation>print(First, Last)</translation>
     </message>
 </context>
 </TS>

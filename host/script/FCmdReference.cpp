@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 const QString& globalWord() {
@@ -63,6 +65,15 @@ QString classText(const FObject& prototype) {
     const QString className = prototype.getClass();
     return FTypeDocu::get(className, 1) + QLatin1Char('\n') +
            indented(FTypeDocu::get(className, 2), QStringLiteral("    "));
+}
+
+bool isDescribed(const QString& className) {
+    const QString key = QLatin1Char('!') + className;
+    return FTypeDocu::translate(key) != key;
+}
+
+QString headingOf(const QString& name) {
+    return name + QLatin1Char('\n') + QString(name.size(), QLatin1Char('=')) + QLatin1Char('\n');
 }
 
 void insertFlags(QJsonObject& object, const FCmdRow& row) {
@@ -135,6 +146,10 @@ FCmdReference::FCmdReference(const QString& className) : mClassName(className) {
             mRows.push_back(row);
         }
     }
+    const bool hasOwnRows = std::any_of(mRows.begin(), mRows.end(), [prototype](const FCmdRow* row) {
+        return prototype && row->owner == &prototype->getClassData();
+    });
+    mpDescribed = prototype && !hasOwnRows && isDescribed(className) ? prototype : nullptr;
 }
 
 QString FCmdReference::unknownClass() const {
@@ -148,14 +163,13 @@ QString FCmdReference::unknownClass() const {
 }
 
 QString FCmdReference::toText() const {
-    QString text;
+    QString text = mpDescribed ? headingOf(mClassName) + classText(*mpDescribed) : QString();
     QString heading;
     for (const FCmdRow* row : mRows) {
         const QString owner = row->kind == FCmdRow::Kind::Global ? QStringLiteral("Functions") : row->owner->getName();
         if (owner != heading) {
             heading = owner;
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + heading + QLatin1Char('\n') +
-                    QString(heading.size(), QLatin1Char('=')) + QLatin1Char('\n');
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + headingOf(heading);
             text += row->kind == FCmdRow::Kind::Global ? QString() : classText(*row->owner->mpNull);
         }
         const Texts texts(*row);

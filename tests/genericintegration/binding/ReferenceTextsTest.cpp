@@ -1,3 +1,4 @@
+#include "host/core/FPrototypes.h"
 #include "host/script/FCmdManager.h"
 #include "tests/support/FModelTest.h"
 
@@ -6,6 +7,11 @@
 #include <QSet>
 
 namespace {
+
+void addClass(QSet<QString>& keys, const QString& name) {
+    keys.insert(QLatin1Char('!') + name + QLatin1Char('|'));
+    keys.insert(QLatin1Char('!') + name + QStringLiteral(":example|"));
+}
 
 /** The keys of the texts that are translated, with their disambiguations. */
 QSet<QString> keysWithText() {
@@ -16,7 +22,8 @@ QSet<QString> keysWithText() {
     QSet<QString> keys;
     for (auto match = message.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();) {
         const QRegularExpressionMatch found = match.next();
-        keys.insert(found.captured(1) + QLatin1Char('|') + found.captured(2));
+        const QString key = found.captured(1) + QLatin1Char('|') + found.captured(2);
+        keys.insert(QString(key).replace("&lt;", "<").replace("&gt;", ">"));
     }
     return keys;
 }
@@ -29,8 +36,13 @@ QSet<QString> keysOfCommands() {
         }
         // A class that has commands is described as well.
         if (row->owner && row->kind != FCmdRow::Kind::Global) {
-            keys.insert(QLatin1Char('!') + row->owner->getName() + QLatin1Char('|'));
-            keys.insert(QLatin1Char('!') + row->owner->getName() + QStringLiteral(":example|"));
+            addClass(keys, row->owner->getName());
+        }
+    }
+    // So is each class of the plug-in, which has "GenInt" in its name.
+    for (const QString& name : FPrototypes::getNames()) {
+        if (name.contains(QStringLiteral("GenInt")) && !name.contains(QStringLiteral("Cmd"))) {
+            addClass(keys, name);
         }
     }
     return keys;

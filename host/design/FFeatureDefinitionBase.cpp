@@ -1,0 +1,3 @@
+#include "host/design/FFeatureDefinitionBase.h"
+
+FClassData FFeatureDefinitionBase::mClass("FFeatureDefinitionBase", &FEntity::mClass);

@@ -2,7 +2,7 @@
 
 #include "host/core/FExport.h"
 
-/** While one exists, objects with immediate update wait; they are updated when the last one goes. */
+/** While one exists, immediate updates are deferred; the end of the last one executes them. */
 class MERIX_EXPORT FImmediateUpdateBlocker {
  public:
     FImmediateUpdateBlocker();
@@ -12,7 +12,7 @@ class MERIX_EXPORT FImmediateUpdateBlocker {
 
     static bool isBlocked();
 
-    /** Has what waits updated now, whatever blockers there are; returns their number, for `resume`. */
+    /** Executes deferred updates now in spite of blockers; returns the number of blockers, for `resume`. */
     static int suspend();
     static void resume(int blockers);
 };

@@ -30,7 +30,7 @@ class MERIX_EXPORT FObjectManager : public QObject {
                                 bool exactClass = false) const;
     /** The objects registered under a parent registration, in the order of creation. */
     QList<FManaged*> getChildrenOf(const FObject* parent) const;
-    /** The scope in which new objects are made: null stands for the project itself. */
+    /** The scope in which new objects are created. An empty handle means the project itself. */
     FExpr<FScope> getWorkingScope() const { return {}; }
 
     /** `name`, with a suffix if an object other than `self` has it already. */
@@ -41,7 +41,7 @@ class MERIX_EXPORT FObjectManager : public QObject {
     int nextId() { return ++mLastId; }
     int lastId() const { return mLastId; }
     void renumber(FManaged* object, int from, int to);
-    /** Numbers start anew behind those of the objects that are there. */
+    /** Restarts the numbering after the highest number in use. */
     void restartIds() { mLastId = mById.isEmpty() ? 0 : mById.lastKey(); }
     void enter(FManaged* object);
     void leave(FManaged* object, const QString& name);

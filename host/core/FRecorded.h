@@ -9,8 +9,8 @@ class FManaged;
 class FState;
 
 /**
- * What the history keeps the state of, one by one: managed objects, and those of their parts that are too many to be
- * kept with the whole.
+ * Base of everything whose state the history saves individually: managed objects, and parts too numerous to be saved
+ * with their owner.
  */
 class MERIX_EXPORT FRecorded : public FObject {
  public:

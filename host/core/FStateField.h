@@ -76,7 +76,7 @@ struct MERIX_EXPORT FTextChange {
 
     /** Replaces two different texts by the parts in which they differ. */
     static void shrink(std::any& before, std::any& after);
-    /** The text that a value stands for, given the other one of the two. */
+    /** The complete text of a value; `known` is the other value of the pair. */
     static QString whole(const std::any& value, const std::any& known);
     static bool equal(const std::any& a, const std::any& b);
     static std::size_t size(const std::any& value);
@@ -104,7 +104,8 @@ class MERIX_EXPORT FStateFields {
         mFields.push_back(std::make_unique<TextField>(std::mem_fn(member), std::move(after)));
         return *this;
     }
-    /** A handle, or a list of handles, on which this object depends: it is made their client anew when written back. */
+    /** A handle, or a list of handles, on which this object depends. Writing it back registers the object as their
+     * client again. */
     template <class V>
     FStateFields& linked(V C::*member, After after = nullptr) {
         mFields.push_back(std::make_unique<LinkedField<V>>(std::mem_fn(member), std::move(after)));
@@ -280,7 +281,7 @@ class MERIX_EXPORT FStateFields {
      public:
         explicit OwnedObjectListField(FExpr<FObjectList> C::*member) : mMember(member) {}
         std::any read(const FObject& object) const override {
-            // The list itself stands first: `setValues` makes a new one, and undo brings back the old.
+            // The list object comes first: `setValues` creates a new one, and undo restores the old one.
             const FExpr<FObjectList>& list = static_cast<const C&>(object).*mMember;
             std::vector<FExprBase> objects{list};
             if (const FObjectList* live = list.ptr()) {

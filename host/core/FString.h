@@ -3,7 +3,7 @@
 #include "host/core/FBasicType.h"
 #include "host/core/FExport.h"
 
-/** A text. Bare in `toString`, quoted where it stands in a script. */
+/** A text. Bare in `toString`, quoted in a script. */
 class MERIX_EXPORT FString : public FClass<FString, FBasicType> {
  public:
     static FClassData mClass;

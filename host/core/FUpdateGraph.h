@@ -12,7 +12,10 @@ class FUpdateGraph {
     static void markOutOfDate(FObject* start);
     /** Updates what the object depends on and is out of date, suppliers before clients; then the object itself. */
     static bool update(FObject* object);
-    /** What waits for a blocker to go stays out of date if updating it would read files; asking for it updates it. */
+    /**
+     * Removes from the queue of deferred updates all objects whose update would read files. They stay out of date and
+     * update on demand.
+     */
     static void forgetWaitingThatReadFiles();
     static bool reaches(const FObject* from, const FObject* supplier);
 
@@ -27,7 +30,7 @@ class FUpdateGraph {
     static std::vector<FObject*> reachedBy(const FObject* object);
     /**
      * What `next` leads to from an object, step by step, and is of one of the types, each once. Objects that have left
-     * the model are passed over with all behind them.
+     * the model are skipped, and so is what only they lead to.
      */
     static std::vector<FObject*> allOf(const FObject* start, const std::vector<const FObject*>& types,
                                        std::vector<FObject*> (*next)(const FObject* object));

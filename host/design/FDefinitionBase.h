@@ -15,10 +15,10 @@ class MERIX_EXPORT FDefinitionBase : public FClass<FDefinitionBase, FEntity>, pu
 
     /**
      * The entries that hold values, by their paths; groups have no row. Of two with the same path the first counts.
-     * Built anew only after a change of the structure; a reference to it lasts until then.
+     * Rebuilt only after a change of the structure; a reference to it is valid until then.
      */
     const QMap<QString, FExpr<FEntryBase>>& getEntryMap() const;
-    /** A number that stands for the present entry map: whenever a map is built, it gets one that none had before. */
+    /** Identifies the present entry map: each rebuilt map gets a number that no other map had. */
     quint64 getEntryMapNumber() const;
     /** The entry or group of that path; null if there is none. */
     FEntryBase* getEntryOfScope(const QString& path) const;

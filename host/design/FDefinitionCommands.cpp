@@ -15,7 +15,7 @@ FExpr<FDefinition> refuse(const FDefinition& definition, const QString& message)
     return {};
 }
 
-/** What a script says of a new entry behind its path. */
+/** The arguments of a new entry that follow its path. */
 struct NewEntry {
     FExpr<FObject> value;
     int most;

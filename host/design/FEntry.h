@@ -17,7 +17,7 @@ class MERIX_EXPORT FEntry : public FClass<FEntry, FEntryBase> {
     static int getCount() { return mCount; }
 
     /**
-     * Adds an entry behind the others of a configuration or group. The entry definition of that name in what the parent
+     * Appends an entry to a configuration or group. The entry definition of that name in what the parent
      * is defined by becomes its definition, as its next occurrence.
      * @param initialize  whether it gets its default value, or the entries of its group
      */
@@ -58,7 +58,7 @@ class MERIX_EXPORT FEntry : public FClass<FEntry, FEntryBase> {
     static void reassign(const QList<FExpr<FEntryBase>>& entries, const QList<FExpr<FEntryBase>>& definitions);
     /** This entry, and each below it, takes the name of that entry definition if it belongs to it. */
     void followName(const FEntryDef* definition);
-    /** A copy of the entry with all below it, which stands nowhere. */
+    /** A copy of the entry with all below it, which has no parent. */
     FExpr<FEntryBase> copy() const;
 
  protected:

@@ -26,9 +26,9 @@ class MERIX_EXPORT FEntryBase : public FClass<FEntryBase, FRecorded>, public FEn
     /** The entry of a handle in a holder's list, which is always there: without the checks of a handle. */
     static FEntryBase* of(const FExpr<FEntryBase>& handle) { return static_cast<FEntryBase*>(handle.getStored()); }
 
-    /** What the entry stands in; null if it stands nowhere. */
+    /** The holder of the entry; null if it has no parent. */
     FEntryHolder* getHolder() const { return mpHolder; }
-    /** The group that the entry stands in; null outside of groups. */
+    /** The group that contains the entry; null outside of groups. */
     FEntryBase* getParent() const { return dynamic_cast<FEntryBase*>(mpHolder); }
     FDefinitionBase* getRoot() const override { return mpHolder ? mpHolder->getRoot() : nullptr; }
     int getLevel() const override { return mpHolder ? mpHolder->getLevel() + 1 : 1; }
@@ -42,7 +42,7 @@ class MERIX_EXPORT FEntryBase : public FClass<FEntryBase, FRecorded>, public FEn
 
  protected:
     FObject* getWhole() const override;
-    /** Gives the name as it stands; its legality and uniqueness are the caller's matter. */
+    /** Sets the name unchanged; the caller ensures that it is legal and unique. */
     void rename(const QString& name);
 
  private:

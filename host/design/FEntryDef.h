@@ -27,7 +27,8 @@ class MERIX_EXPORT FEntryDef : public FClass<FEntryDef, FEntryBase> {
     static FEntryDef* create(const QString& name, FEntryHolder* parent, int least, int most, bool hidden,
                              bool hasDefault, const QString& description, const FExprBase& valueOrType);
 
-    /** An entry as `create` makes it, which stands nowhere. Whoever builds a tree of such sees to the names. */
+    /** An entry as `create` makes it, but without a parent. The caller ensures that names in a tree of them are unique.
+     */
     static FExpr<FEntryBase> make(const QString& name, int least, int most, bool hidden, bool hasDefault,
                                   const QString& description, const FExprBase& valueOrType);
 
@@ -49,7 +50,7 @@ class MERIX_EXPORT FEntryDef : public FClass<FEntryDef, FEntryBase> {
     void setName(const QString& name);
     /** The paths of the entries that hold values, from the definition on: of this one, or of those below a group. */
     QStringList getLeafPaths() const;
-    /** A copy with all below it, which stands nowhere. */
+    /** A copy with all below it, which has no parent. */
     FExpr<FEntryBase> copy() const;
     /** The call of `addEntry` from which the entry comes back; empty for a group that its entries bring along. */
     QString toSavedCommand() const;

@@ -11,7 +11,7 @@ class FEntryBase;
 class FRecorded;
 
 /**
- * What entries stand in: a definition, a configuration, or a group of one of these. It keeps its entries alive, and
+ * What contains entries: a definition, a configuration, or a group of one of these. It keeps its entries alive, and
  * each of them knows it. Every change is recorded in the history and marks the definition or configuration.
  */
 class MERIX_EXPORT FEntryHolder {
@@ -27,7 +27,7 @@ class MERIX_EXPORT FEntryHolder {
     /** `name` made legal, with a suffix if an entry other than `self` has it. */
     QString freeEntryName(const QString& name, const FEntryBase* self) const;
 
-    /** Appends an entry. An empty handle, and an entry that stands somewhere already, change nothing. */
+    /** Appends an entry. An empty handle, and an entry that has a parent already, change nothing. */
     virtual void addEntry(const FExpr<FEntryBase>& entry);
     /** Takes an entry out; false if it doesn't stand here. */
     virtual bool removeEntry(const FExpr<FEntryBase>& entry);
@@ -38,7 +38,7 @@ class MERIX_EXPORT FEntryHolder {
 
     /** The definition or configuration that all of it belongs to; null if there is none. */
     virtual FDefinitionBase* getRoot() const = 0;
-    /** How many groups an entry of this holder stands in. */
+    /** How many groups contain an entry of this holder. */
     virtual int getLevel() const { return 0; }
 
     /** Grows with each change of a list or name of any entry. */

@@ -20,7 +20,7 @@ class MERIX_EXPORT FInputFile : public FClass<FInputFile, FFileReference> {
     const FExprBase& getSaveDirectory() const { return mSaveDirectory; }
     bool setSaveDirectory(const FExprBase& directory) { return set(mSaveDirectory, directory); }
 
-    /** The file's name without its folders, behind the folder that it is saved in. */
+    /** The file's name without its folders, after the folder that it is saved in. */
     QString toPlainString() const override;
     QString toExpressionString() const override;
 

@@ -4,6 +4,7 @@
 #include "genericintegration/io/FGenIntWriter.h"
 #include "genericintegration/setup/FAttribCmdSetAverageRows.h"
 #include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FConnectorClass.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/setup/FResultsGenInt.h"
@@ -15,7 +16,7 @@ namespace {
 
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
                       FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FResultsGenInt,
-                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation>
+                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass>
     types;
 
 }  // namespace

@@ -33,7 +33,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     virtual void finalizeRun() { std::as_const(*this).finalizeRun(); }
 
     virtual FGenIntCompSignalRapper* getSignalRapper() const { return mpSignalRapper.get(); }
-    /** Shows the connector of this computation, and makes one if there is none. Without windows nothing happens. */
+    /** Shows the connector of this computation, and makes one if there is none. Without windows it shows nothing. */
     virtual void openSoftwareConnector() const;
     bool doubleClickedInTree() override;
 

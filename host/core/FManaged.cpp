@@ -239,7 +239,9 @@ const FObject* currentParentReg() {
 
 void destroyChildrenOf(const FObject* parent) {
     const QList<FManaged*> children = FObjectManager::instance()->getChildrenOf(parent);
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        FManaged::destroy(*child, true);
+    // One child may take others along.
+    const std::vector<FExprBase> handles(children.begin(), children.end());
+    for (auto child = handles.rbegin(); child != handles.rend(); ++child) {
+        FManaged::destroy(static_cast<FManaged*>(child->getStored()), true);
     }
 }

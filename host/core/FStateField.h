@@ -108,7 +108,12 @@ class MERIX_EXPORT FStateFields {
      * client again. */
     template <class V>
     FStateFields& linked(V C::*member, After after = nullptr) {
-        mFields.push_back(std::make_unique<LinkedField<V>>(std::mem_fn(member), std::move(after)));
+        return linked<V>(std::mem_fn(member), std::move(after));
+    }
+    /** The same for a value that a function finds in the object. */
+    template <class V>
+    FStateFields& linked(std::function<V&(C&)> find, After after = nullptr) {
+        mFields.push_back(std::make_unique<LinkedField<V>>(std::move(find), std::move(after)));
         return *this;
     }
     /** A handle on a value that this object owns and depends on: linked, and the value's own fields are kept with it.

@@ -49,3 +49,10 @@ FConnectorInterface* FConnectorInterface::create(const QString& name, const FExp
     const auto* connector = dynamic_cast<const FConnectorInterface*>(prototype);
     return connector ? connector->createConnector(name, computation) : nullptr;
 }
+
+void FConnectorInterface::refreshAll() {
+    for (FConnectorInterface* connector : getConnectors()) {
+        connector->asManaged()->update();
+        connector->refreshCommandFileEditors();
+    }
+}

@@ -12,8 +12,9 @@ class FExternComputation;
 class FManaged;
 
 /**
- * A software connector without its widget: the view on one computation with its files. Connectors are managed objects.
- * A class of connectors registers itself while its library is loaded; without such a class there are none.
+ * A software connector as other classes see it, with or without a window: the view of one computation with its files.
+ * Connectors are managed objects. A class of connectors registers itself while its library is loaded; without such a
+ * class there are none.
  */
 class MERIX_EXPORT FConnectorInterface {
  public:
@@ -40,7 +41,10 @@ class MERIX_EXPORT FConnectorInterface {
     virtual FConnectorInterface* createConnector(const QString& name,
                                                  const FExpr<FExternComputation>& computation) const = 0;
 
-    /** Makes a class known, derived from this one. The one registered last makes new connectors. */
+    /**
+     * Makes a class known that is derived from this one. All registered classes have the same name; new connectors are
+     * of the class whose prototype has that name.
+     */
     static void registerClass(FClassData& data);
     /** All connectors, in the order of their creation. */
     static QList<FConnectorInterface*> getConnectors();
@@ -48,4 +52,6 @@ class MERIX_EXPORT FConnectorInterface {
     static QList<FConnectorInterface*> getConnectors(const FDefinition* definition);
     /** Makes a connector; null if there is no class of connectors. */
     static FConnectorInterface* create(const QString& name, const FExpr<FExternComputation>& computation);
+    /** Updates all connectors and has their editors of input templates show the present content. */
+    static void refreshAll();
 };

@@ -2732,6 +2732,89 @@ print(getAttribute(drag, "setValues"))</translation>
     <message>
         <source>!FEnum&lt;GenIntAnchorOccurrence&gt;:example</source>
         <translation>print(First, Last)</translation>
+        <source>!FSoftwareConnector</source>
+        <translation>The view in which a user sets up one external program. It owns one computation with its configuration, its definition and the templates that no other definition lists: destroying the connector destroys them all, and so does destroying the computation. In a program without windows it shows nothing, but keeps all of this.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector:example</source>
+        <translation>softwareConnector wing()
+print(getAttribute(wing, "setComputation"))</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setComputation(FExternComputation,computation)</source>
+        <translation>Sets the computation that the connector shows. One without a configuration gets a new one with a new definition. A computation that a connector has already is refused, with a message. The computation set before stays in the model and no longer belongs to the connector.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setComputation(FExternComputation,computation):argument0</source>
+        <translation>The computation; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setComputation(FExternComputation,computation):example</source>
+        <translation>genericIntegrationComputation solver()
+softwareConnector wing()
+wing.setComputation(solver)
+print(getAttribute(wing, "setComputation"))</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setItemSize(FEnum,size)</source>
+        <translation>Sets the size of the items in the connector. It has no effect on a run.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setItemSize(FEnum,size):argument0</source>
+        <translation>Large, Medium or Small.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setItemSize(FEnum,size):example</source>
+        <translation>softwareConnector wing()
+wing.setItemSize(Small)</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setResultsPath(string,resultsPath)</source>
+        <translation>Sets the folder in which the dialog for result files starts. It has no effect on a run.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setResultsPath(string,resultsPath):argument0</source>
+        <translation>A folder; "" for none.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.attribute.setResultsPath(string,resultsPath):example</source>
+        <translation>softwareConnector wing()
+wing.setResultsPath("/data/wing")</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.creator.softwareConnector()</source>
+        <translation>Makes a connector, with a computation named "Runner" and its configuration and definition. The items have the size Medium.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.creator.softwareConnector():example</source>
+        <translation>softwareConnector wing()
+Runner.setExecutable("solver")</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnector.creator.softwareConnector():returnValue</source>
+        <comment>return type: FSoftwareConnector</comment>
+        <translation>The connector.</translation>
+    </message>
+    <message>
+        <source>!Global.chooseResultsFile()</source>
+        <translation>Has the user choose a result file of another connector. Without windows it gives NULL, with a message.</translation>
+    </message>
+    <message>
+        <source>!Global.chooseResultsFile():example</source>
+        <translation>file = chooseResultsFile()</translation>
+    </message>
+    <message>
+        <source>!Global.chooseResultsFile():returnValue</source>
+        <comment>return type: FString</comment>
+        <translation>The expression that names the file; NULL if none was chosen.</translation>
+    </message>
+    <message>
+        <source>!Global.refreshAllSoftCons()</source>
+        <translation>Updates all connectors and has their editors of input templates show the present content.</translation>
+    </message>
+    <message>
+        <source>!Global.refreshAllSoftCons():example</source>
+        <translation>refreshAllSoftCons()</translation>
     </message>
 </context>
 </TS>

@@ -176,6 +176,21 @@ struct FCmdTypeOf<FExpr<T>> {
     static FExprBase handle(const FExprBase& handle) { return handle; }
 };
 
+/** A C++ enumeration with a script type. */
+template <class E>
+requires std::is_enum_v<E>
+struct FCmdTypeOf<E> {
+    static FCmdType type() {
+        const QString name = cmdtype::nameOf<FEnum<E>>();
+        return {name, name, &FEnum<E>::mClass, [](const FExprBase& handle, std::any& value) {
+                    const FExpr<FEnum<E>> object = cmdtype::objectOf<FEnum<E>>(handle);
+                    value = object ? object->get() : E();
+                    return static_cast<bool>(object);
+                }};
+    }
+    static FExprBase handle(E value) { return FExprBase(new FEnum<E>(value)); }
+};
+
 template <class T>
 requires std::is_base_of_v<FObject, T>
 struct FCmdTypeOf<T*> : FCmdTypeOf<FExpr<T>> {

@@ -17,8 +17,9 @@
 void FModelTest::clear() {
     const FHistoryBlocker blocker;
     const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
-    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
-        FManaged::destroy(*object, false);
+    const QList<FExpr<FManaged>> handles(objects.begin(), objects.end());
+    for (auto object = handles.rbegin(); object != handles.rend(); ++object) {
+        FManaged::destroy(object->ptr(), false);
     }
     FHistory::instance()->clear();
 }

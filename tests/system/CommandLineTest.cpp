@@ -117,7 +117,12 @@ TEST_F(CommandLineTest, theLoadTraceIsPrintedOnRequest) {
                             "init FManaged prototype: FGenIntCommandFile\n",
                             "init FObject prototype: FAttribCmdFGenIntFilesetContentstring\n",
                             "init FObject prototype: FMemberCmdFGenIntResultsFilesetTabSeaparatorbool\n",
-                            "init FManaged prototype: FGenIntResultsFile\n"};
+                            "init FManaged prototype: FGenIntResultsFile\n",
+                            "init FManaged prototype: FGenIntComputation\n",
+                            "init FObject prototype: FCreateCmdFSoftwareConnectorsoftwareConnector\n",
+                            "init FObject prototype: FCmdchooseResultsFilenullFStringchooseResultsFileCommand\n",
+                            "init FObject prototype: FEnum<SoftConItemSize>\n",
+                            "init FView prototype: FSoftwareConnector\n"};
     int last = -1;
     for (const QString& line : order) {
         EXPECT_EQ(trace.count(line), 1) << line.toStdString();

@@ -46,4 +46,26 @@ TEST_F(ProjectTest, aKillWhileSavingLeavesTheOldFileOrTheNewOne) {
     EXPECT_EQ(opened.output, "true\ntrue true\n") << opened.errors.toStdString();
 }
 
+TEST_F(ProjectTest, connectorsSurviveAProgramWithoutWindows) {
+    write("make.merix", R"(
+genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["f", 0, 0, "f", First, "FDouble", ""]]) }
+softwareConnector wing()
+softwareConnector tail() { .setItemSize(Small); .setResultsPath("/data/ä") }
+for (c in [Runner, Runner_01]) { c.setExecutable("echo"); c.setArguments(["f 7"]) }
+definitionGenInt.addEntry("x", 1)
+definitionGenInt.setFiles([out1])
+saveProject("p.mrx")
+)");
+    ASSERT_EQ(merix({"script", "make.merix"}).exitCode, 0);
+    QStringList lines = QString::fromUtf8(read("p.mrx")).split('\n');
+    const Outcome batch = script(
+        "x = openProject(\"p.mrx\")\nconfigurationGenInt.setEntryValue(\"x\", 50)\n"
+        "print(Runner.run(), Runner_01.run(), Runner.getResults().getDataAt(\"f\", 0))\nx = saveProject()\n");
+    EXPECT_EQ(batch.output, "true true 7\n") << batch.errors.toStdString();
+    for (const QString& line : QString::fromUtf8(read("p.mrx")).split('\n')) {
+        EXPECT_TRUE(lines.removeOne(line) || line == "    .setEntryValue(\"x\",50);") << line.toStdString();
+    }
+    EXPECT_EQ(lines, QStringList()) << "lines that are gone";
+}
+
 }  // namespace

@@ -14,6 +14,9 @@ const QStringList commandClasses{
     "FCmdimportGenIntDefinitionFConfigurationGenIntFDefinitionGenIntimportGenIntDefinitionstring",
     "FCreateCmdFDefinitionGenIntgenericIntegrationDefinition",
     "FAttribCmdFDefinitionGenIntsetFilesFGenIntFileContainer",
+    "FAttribCmdFSoftwareConnectorsetComputationFExternComputation",
+    "FAttribCmdFSoftwareConnectorsetItemSizeFEnum",
+    "FCmdrefreshAllSoftConsFSoftwareConnectorvoidrefreshAll",
     "FMemberCmdFGenIntComputationgetResults",
 };
 

@@ -194,6 +194,9 @@ QString FRandomCommands::argument(const FCmdArgument& argument, int depth) {
     if (type.cls->getName() == "FInteger" || type.script == "unsigned" || type.script == "double") {
         return number();
     }
+    if (const auto* enumeration = dynamic_cast<const FEnumBase*>(type.cls->mpNull)) {
+        return pick(enumeration->getStringValues());
+    }
     if (type.cls->getName() == "FObjectList") {
         return listArgument(type, depth);
     }

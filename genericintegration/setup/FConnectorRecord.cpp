@@ -1,0 +1,27 @@
+#include "genericintegration/setup/FConnectorRecord.h"
+
+#include "genericintegration/setup/FConnectorCommands.h"
+
+FClassData FConnectorRecord::mClass("FSoftwareConnector", &FView::mClass, &connectorCommands<FConnectorRecord>,
+                                    &connectorFields<FConnectorRecord>);
+
+FConnectorRecord::FConnectorRecord(const QString& name) : FClass(name), mSetUp(*this) {
+    setImediateUpdate(!isInitializingPrototype());
+}
+
+FConnectorRecord* FConnectorRecord::create(const QString& name, const FExpr<FExternComputation>& computation) {
+    auto* connector = new FConnectorRecord(name);
+    connector->mSetUp.start(computation);
+    connector->registerObject();
+    return connector;
+}
+
+bool FConnectorRecord::doUpdate() const {
+    mSetUp.follow();
+    return FView::doUpdate();
+}
+
+void FConnectorRecord::leaveModel() {
+    mSetUp.destroyAll();
+    FView::leaveModel();
+}

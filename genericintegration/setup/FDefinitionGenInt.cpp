@@ -3,8 +3,7 @@
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenIntCommands.h"
 #include "genericintegration/setup/FGenIntObjectArea.h"
-#include "genericintegration/templates/FGenIntCommandFile.h"
-#include "genericintegration/templates/FTemplateTags.h"
+#include "genericintegration/setup/FTemplateTagEditor.h"
 #include "host/core/FIO.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FConnectorInterface.h"
@@ -21,23 +20,7 @@ using Files = QList<FExpr<FGenIntFile>>;
 
 constexpr unsigned int shownInDefinitions = 1;
 
-bool isCommandFile(const FExpr<FGenIntFile>& file) {
-    const FGenIntFile* object = file.ptr();
-    return object && object->isTypeOf(FGenIntCommandFile::null());
-}
-
-/** Removes all handles on the first object of the list that is gone; returns how many. */
-template <class IsGone>
-int dropFirstGone(Files& files, FExpr<FGenIntFile>& gone, IsGone isGone) {
-    const auto found = std::find_if(files.begin(), files.end(), isGone);
-    if (found == files.end()) {
-        return 0;
-    }
-    gone = *found;
-    return files.removeAll(gone);
-}
-
-/** Where a definition is kept, its files are kept, too. */
+/** Files belong to what their definition belongs to. */
 void passOn(void (FManaged::*set)(bool), bool flag, const Files& files) {
     for (const FExpr<FGenIntFile>& file : files) {
         if (file) {
@@ -55,11 +38,11 @@ std::vector<std::unique_ptr<FStateField>> FDefinitionGenInt::fields() {
     using F = FDefinitionGenInt;
     return FStateFields<F>()
         .member(&F::mOutputPrecision)
-        .linked(&F::mFiles)
+        .linked<Files>([](F& definition) -> Files& { return definition.mTemplates.mAll; })
         .member(&F::mCurFile)
         .member(&F::mLastFile)
-        .member(&F::mCommandFiles)
-        .member(&F::mResultsFiles)
+        .value<Files>([](F& definition) -> Files& { return definition.mTemplates.mCommandFiles; })
+        .value<Files>([](F& definition) -> Files& { return definition.mTemplates.mResultsFiles; })
         .take();
 }
 
@@ -90,23 +73,14 @@ void FDefinitionGenInt::filesChanged() {
 }
 
 void FDefinitionGenInt::addFile(const FExpr<FGenIntFile>& file) {
-    if (!file) {
-        return;
+    if (file) {
+        mTemplates.add(file);
+        filesChanged();
     }
-    mFiles.append(file);
-    mFiles.last().registerClient(this, false);
-    (isCommandFile(file) ? mCommandFiles : mResultsFiles).append(file);
-    filesChanged();
 }
 
 void FDefinitionGenInt::removeFile(const FExpr<FGenIntFile>& file) {
-    // The handle given may be one of the lists' own.
-    const FExpr<FGenIntFile> removed = file;
-    for (int count = mFiles.removeAll(removed); count > 0; --count) {
-        removed.unregisterClient(this);
-    }
-    mCommandFiles.removeAll(removed);
-    mResultsFiles.removeAll(removed);
+    mTemplates.remove(file);
     filesChanged();
 }
 
@@ -126,14 +100,9 @@ void FDefinitionGenInt::deleteFile(FExpr<FGenIntFile> file) {
 }
 
 void FDefinitionGenInt::setFiles(const Files& files) {
-    // The list given may be one of the definition's own.
+    // The list may be one of the definition's own.
     const Files wanted = files;
-    for (const FExpr<FGenIntFile>& file : mFiles) {
-        file.unregisterClient(this);
-    }
-    mFiles.clear();
-    mCommandFiles.clear();
-    mResultsFiles.clear();
+    mTemplates.clear();
     for (const FExpr<FGenIntFile>& file : wanted) {
         addFile(file);
     }
@@ -141,43 +110,21 @@ void FDefinitionGenInt::setFiles(const Files& files) {
 }
 
 FExpr<FGenIntFile> FDefinitionGenInt::getFile(const QString& fileName) const {
-    const auto found = std::find_if(mFiles.begin(), mFiles.end(), [&fileName](const FExpr<FGenIntFile>& file) {
-        return file && file->getFileName() == fileName;
-    });
-    return fileName.isEmpty() || found == mFiles.end() ? FExpr<FGenIntFile>() : *found;
+    return mTemplates.find(fileName);
 }
 
 const Files& FDefinitionGenInt::getFiles() const {
-    clearFileStorages();
-    return mFiles;
+    mTemplates.dropGone();
+    return mTemplates.mAll;
 }
 
 const Files& FDefinitionGenInt::getFiles(unsigned int kind) const {
-    clearFileStorages();
-    return kind == 0 ? mCommandFiles : mResultsFiles;
-}
-
-// Each list is walked to its first hit only, so several files that went away go one at a time.
-void FDefinitionGenInt::clearFileStorages() const {
-    const auto isDead = [](const FExpr<FGenIntFile>& file) { return !file.ptr(); };
-    FExpr<FGenIntFile> gone;
-    int count =
-        dropFirstGone(mFiles, gone, [](const FExpr<FGenIntFile>& file) { return !FObject::exists(file.ptr()); });
-    for (; count > 0; --count) {
-        gone.unregisterClient(this);
-    }
-    dropFirstGone(mCommandFiles, gone, isDead);
-    dropFirstGone(mResultsFiles, gone, isDead);
+    mTemplates.dropGone();
+    return kind == 0 ? mTemplates.mCommandFiles : mTemplates.mResultsFiles;
 }
 
 QStringList FDefinitionGenInt::getReadFiles() const {
-    QStringList names;
-    for (const FExpr<FGenIntFile>& file : mResultsFiles) {
-        if (file) {
-            names.append(file->getFileName());
-        }
-    }
-    return names;
+    return mTemplates.getReadFiles();
 }
 
 void FDefinitionGenInt::setCurFile(const FExpr<FGenIntFile>& file) {
@@ -191,7 +138,7 @@ void FDefinitionGenInt::setLastFile(const FExpr<FGenIntFile>& file) {
 }
 
 bool FDefinitionGenInt::isCurCommandFile() const {
-    return isCommandFile(mCurFile);
+    return FTemplateFiles::isCommandFile(mCurFile);
 }
 
 void FDefinitionGenInt::addEntry(const FExpr<FEntryBase>& entry) {
@@ -216,14 +163,14 @@ bool FDefinitionGenInt::findAndRemoveEntry(const FExpr<FEntryBase>& entry) {
     if (removeEntry(entry)) {
         return true;
     }
-    // Taken before, since an entry that stands nowhere has a path of its name alone.
+    // Taken before, since the path of an entry outside of any group is its name alone.
     const QString path = entry ? entry->getFullName() : QString();
     const QList<FExpr<FEntryBase>> groups = getEntries();
     const bool found = std::any_of(groups.begin(), groups.end(), [&entry](const FExpr<FEntryBase>& group) {
         return group->findAndRemoveEntry(entry);
     });
     if (found) {
-        putInPlaceOfTags(path, entry);
+        replaceTags(path, entry);
         reinitConfigurations(false);
     }
     return found;
@@ -239,7 +186,7 @@ QList<FConfigurationGenInt*> FDefinitionGenInt::ownConfigurations() const {
     return own;
 }
 
-// A configuration of another class that has this definition follows when it is asked to.
+// Configurations of other classes that have this definition follow on request.
 void FDefinitionGenInt::reinitConfigurations(bool reset) {
     if (FMerixCtrl::instance()->isLoadingProject()) {
         return;
@@ -257,12 +204,7 @@ void FDefinitionGenInt::reinitConfigurations(bool reset) {
 
 void FDefinitionGenInt::updateCommandFiles(const QString& oldName, const QString& newName) {
     const QList<FConnectorInterface*> connectors = FConnectorInterface::getConnectors(this);
-    const Files files = mCommandFiles;
-    for (const FExpr<FGenIntFile>& file : files) {
-        if (auto* commandFile = dynamic_cast<FGenIntCommandFile*>(file.ptr())) {
-            commandFile->updateFile(oldName, newName);
-        }
-    }
+    FTemplateTagEditor(mTemplates.mCommandFiles).renameTags(oldName, newName);
     for (FConnectorInterface* connector : connectors) {
         connector->refreshCommandFileEditors();
     }
@@ -270,29 +212,20 @@ void FDefinitionGenInt::updateCommandFiles(const QString& oldName, const QString
 
 bool FDefinitionGenInt::commandFileReferencesEntry(const FExpr<FEntryBase>& entry) const {
     const auto* definition = dynamic_cast<const FEntryDef*>(entry.ptr());
-    return definition && std::any_of(mCommandFiles.begin(), mCommandFiles.end(), [&](const FExpr<FGenIntFile>& file) {
-               return file && FTemplateTags::containsTag(file->getPlainContent(), definition->getFullName());
-           });
+    return definition && FTemplateTagEditor(mTemplates.mCommandFiles).containTag(definition->getFullName());
 }
 
 void FDefinitionGenInt::removeEntryFromCommandFiles(const FExpr<FEntryBase>& entry) {
     if (entry) {
-        putInPlaceOfTags(entry->getFullName(), entry);
+        replaceTags(entry->getFullName(), entry);
     }
 }
 
-void FDefinitionGenInt::putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry) {
+void FDefinitionGenInt::replaceTags(const QString& path, const FExpr<FEntryBase>& entry) {
     const auto* definition = dynamic_cast<const FEntryDef*>(entry.ptr());
     const FExpr<FBasicType> value(definition ? definition->getDefaultValue() : FExprBase());
-    if (!value) {
-        return;
-    }
-    const QString text = value->toString();
-    const Files files = mCommandFiles;
-    for (const FExpr<FGenIntFile>& file : files) {
-        if (file) {
-            file->setContent(FTemplateTags::replaceTag(file->getPlainContent(), path, text));
-        }
+    if (value) {
+        FTemplateTagEditor(mTemplates.mCommandFiles).replaceTags(path, value->toString());
     }
 }
 
@@ -325,10 +258,10 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
 
 void FDefinitionGenInt::setInProject(bool inProject) {
     FManaged::setInProject(inProject);
-    passOn(&FManaged::setInProject, inProject, mFiles);
+    passOn(&FManaged::setInProject, inProject, mTemplates.mAll);
 }
 
 void FDefinitionGenInt::setInUserConfig(bool inUserConfig) {
     FManaged::setInUserConfig(inUserConfig);
-    passOn(&FManaged::setInUserConfig, inUserConfig, isDefault() ? Files() : mFiles);
+    passOn(&FManaged::setInUserConfig, inUserConfig, isDefault() ? Files() : mTemplates.mAll);
 }

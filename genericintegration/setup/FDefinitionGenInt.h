@@ -1,6 +1,6 @@
 #pragma once
 
-#include "genericintegration/templates/FGenIntFile.h"
+#include "genericintegration/setup/FTemplateFiles.h"
 #include "genericintegration/templates/FTemplateOwner.h"
 #include "host/lodm/FDefinitionCustom.h"
 
@@ -8,11 +8,11 @@ class FConfigurationGenInt;
 class FParser;
 
 /**
- * The description of one integration of an external program: which entries there are, and the template files that use
- * them. What changes in one of the two is followed by the other, and by the configurations.
+ * The description of one integration of an external program: its entries, and the template files that use them. A
+ * change of one also changes the other and the configurations.
  *
- * Files that were destroyed stay in the lists as dead handles until the lists are read: each reading of a list drops
- * one of them. A reference to a list doesn't outlast the next reading.
+ * Destroyed files remain in the lists as dead handles; each call of `getFiles` removes one of them from each list. A
+ * reference to a list is valid until the next call.
  */
 class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, public FTemplateOwner {
  public:
@@ -21,32 +21,32 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     static FDefinitionGenInt* create(const FExpr<FScope>& scope, const QString& name, const FExpr<FParser>& parser);
     /** A new definition of the model with a copy of the entries, without files. */
     FObject* clone() const override;
-    /** Takes over what definitions of all kinds have in common; no file. */
+    /** Copies what all kinds of definitions have in common, but no files. */
     virtual void init(const FDefinitionGenInt* other);
 
-    /** Precision that the writer sets on its text stream. Only text passes through that, so no output depends on it. */
+    /** No output depends on it, since the writer writes only text. */
     int getOutputPrecision() const override { return mOutputPrecision; }
     void setOutputPrecision(int precision) { mOutputPrecision = precision; }
 
     // ---- files ----
-    /** Appends a file, also one that is in the list already. An empty handle is ignored. */
+    /** Appends a file, even if it is in the list already. Ignores an empty handle. */
     void addFile(const FExpr<FGenIntFile>& file);
-    /** Takes a file out of the lists, wherever it stands; the object lives on. */
+    /** Removes all occurrences of a file from the lists. The object remains in the model. */
     void removeFile(const FExpr<FGenIntFile>& file);
     /** Asks the user, then removes the file and destroys it. */
     void deleteFile(FExpr<FGenIntFile> file);
     void setFiles(const QList<FExpr<FGenIntFile>>& files);
-    /** The first file of exactly that file name; an empty handle for an empty one, or if there is none. */
+    /** The first file with exactly that file name; an empty handle for an empty name, or if there is none. */
     FExpr<FGenIntFile> getFile(const QString& fileName) const;
     /** All files, in the order of adding. */
     const QList<FExpr<FGenIntFile>>& getFiles() const override;
     /** The input templates for 0, the result templates for any other kind. */
     const QList<FExpr<FGenIntFile>>& getFiles(unsigned int kind) const;
-    const QList<FExpr<FGenIntFile>>& getCommandFiles() const { return mCommandFiles; }
-    const QList<FExpr<FGenIntFile>>& getResultsFiles() const { return mResultsFiles; }
+    const QList<FExpr<FGenIntFile>>& getCommandFiles() const { return mTemplates.mCommandFiles; }
+    const QList<FExpr<FGenIntFile>>& getResultsFiles() const { return mTemplates.mResultsFiles; }
     QStringList getReadFiles() const override;
 
-    /** The file that the connector's editor shows at present, and the one before. */
+    /** The file that the connector's editor shows, and the one before it. */
     const FExpr<FGenIntFile>& getCurFile() const { return mCurFile; }
     void setCurFile(const FExpr<FGenIntFile>& file);
     const FExpr<FGenIntFile>& getLastFile() const { return mLastFile; }
@@ -55,19 +55,19 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
 
     // ---- entries ----
     void addEntry(const FExpr<FEntryBase>& entry) override;
-    /** Also puts the default value in place of the entry's tags. Configurations don't follow yet. */
+    /** Also replaces the entry's tags by its default value. Doesn't update configurations. */
     bool removeEntry(const FExpr<FEntryBase>& entry) override;
-    /** The same for an entry in a group; configurations follow then. */
+    /** The same for an entry in a group; this also updates configurations. */
     bool findAndRemoveEntry(const FExpr<FEntryBase>& entry) override;
     void reinitConfigurations(bool reset) override;
-    /** A name in tags is another one now: the input templates and their editors follow. */
+    /** Renames tags in the input templates and has their editors show it. */
     void updateCommandFiles(const QString& oldName, const QString& newName) override;
     /** Whether an input template has a tag of the entry, in any case. */
     bool commandFileReferencesEntry(const FExpr<FEntryBase>& entry) const;
-    /** Puts the entry's default value in place of its tags; without one they stay. */
+    /** Replaces the entry's tags by its default value; without one they stay. */
     void removeEntryFromCommandFiles(const FExpr<FEntryBase>& entry);
     bool setEntryDefsFromDB(const QString& text) override;
-    /** The entries of all configurations belong to the present entry definitions again. */
+    /** Assigns the entries of all configurations to the present entry definitions. */
     void reassignEntryDefs();
 
     /**
@@ -77,7 +77,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     bool save() const override;
     bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const override;
 
-    /** Files go where their definition goes; those of a default definition stay out of the user's configuration. */
+    /** Also applies to the files, except that setInUserConfig leaves the files of a default definition unchanged. */
     void setInProject(bool inProject) override;
     void setInUserConfig(bool inUserConfig) override;
 
@@ -89,14 +89,11 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
 
     static std::vector<std::unique_ptr<FStateField>> fields();
     void filesChanged();
-    void clearFileStorages() const;
-    void putInPlaceOfTags(const QString& path, const FExpr<FEntryBase>& entry);
+    void replaceTags(const QString& path, const FExpr<FEntryBase>& entry);
     QList<FConfigurationGenInt*> ownConfigurations() const;
 
     int mOutputPrecision = 6;
-    mutable QList<FExpr<FGenIntFile>> mFiles;  // this definition depends on each of them
+    mutable FTemplateFiles mTemplates{*this};  //!< reading drops destroyed files
     FExpr<FGenIntFile> mCurFile;
     FExpr<FGenIntFile> mLastFile;
-    mutable QList<FExpr<FGenIntFile>> mCommandFiles;
-    mutable QList<FExpr<FGenIntFile>> mResultsFiles;
 };

@@ -4,14 +4,14 @@
 #include "host/script/FMemberCmd.h"
 
 /**
- * Sets over how many rows a result value is averaged. It belongs to one editor, as the command behind one of its
- * fields, and not to a class. Its one argument has no name; the rows, or NULL.
+ * Sets over how many rows a result value is averaged. It belongs to one field of an editor and not to a class. Its
+ * only argument has no name: the number of rows, or NULL.
  */
 class FAttribCmdSetAverageRows : public FClass<FAttribCmdSetAverageRows, FAttribCmd> {
  public:
     static FClassData mClass;
 
-    /** @param editor  may be null: the command then does nothing; else it outlives the command */
+    /** @param editor  outlives the command; null: the command does nothing */
     explicit FAttribCmdSetAverageRows(FAverageRowsEditor* editor = nullptr) : mpEditor(editor) {}
     FObject* clone() const override { return new FAttribCmdSetAverageRows(mpEditor); }
 

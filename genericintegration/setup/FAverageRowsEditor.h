@@ -5,13 +5,13 @@
 
 class FGenIntResultsFile;
 
-/** What the command that sets a number of rows needs of the editor it belongs to. */
+/** What FAttribCmdSetAverageRows needs from its editor. */
 class FAverageRowsEditor {
  public:
     virtual ~FAverageRowsEditor() = default;
 
     /** The template that is edited; may be empty. */
     virtual FExpr<FGenIntResultsFile> getResultsFile() const = 0;
-    /** The value at work is to be averaged over that many rows; empty for none. */
+    /** Averages the current value over that many rows; an empty handle for no average. */
     virtual void averageChanged(const FExpr<FUnsigned>& rows) = 0;
 };

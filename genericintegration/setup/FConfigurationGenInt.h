@@ -9,7 +9,7 @@ class FConfigurationGenInt : public FClass<FConfigurationGenInt, FConfigurationC
  public:
     static FClassData mClass;
 
-    /** The definition may be null. @param initialize  whether the entries are made at once */
+    /** The definition may be null. @param initialize  whether the entries are made immediately */
     static FConfigurationGenInt* create(const FExpr<FScope>& scope, const QString& name, bool initialize,
                                         const FDefinitionGenInt* definition);
     /** A copy with values of its own; the caller brings it into the model. */
@@ -21,12 +21,12 @@ class FConfigurationGenInt : public FClass<FConfigurationGenInt, FConfigurationC
     QMap<QString, QString> getPreview() override;
     void setSyntaxHighlighter(QTextDocument* document) override { Q_UNUSED(document) }
     FDefinitionCustom* parseFile(QFile* file, const FExpr<FDefinitionCustom>& definition) const override;
-    /** Makes a definition of an exchange file, see FConfigurationCustom::importLodmDefinition. */
+    /** Makes a definition from an exchange file; see FConfigurationCustom::importLodmDefinition. */
     virtual FDefinitionGenInt* importGenIntDefinition(const QString& fileName) const;
 
     /**
-     * After the entry definitions were rebuilt: an entry whose own is gone takes the first of the same name, or keeps
-     * the old one.
+     * Call it after the entry definitions were rebuilt. An entry whose definition is gone takes the first one of the
+     * same name; without one it keeps the old definition.
      */
     void reassignEntryDefs();
 

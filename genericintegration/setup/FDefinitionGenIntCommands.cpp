@@ -10,7 +10,7 @@ namespace {
 
 using Files = QList<FExpr<FGenIntFile>>;
 
-/** Files that are gone can't be saved. */
+/** Destroyed files can't be saved. */
 Files liveFiles(const FDefinitionGenInt& definition) {
     Files live;
     const Files files = definition.getFiles();
@@ -19,7 +19,7 @@ Files liveFiles(const FDefinitionGenInt& definition) {
     return live;
 }
 
-/** The attribute added last is there for saving and restoring a project, and no user sees it. */
+/** The attribute added last only saves and restores projects; users never see it. */
 void keepForProjects(FCmdTable& attribute, const char* label) {
     attribute.attrName(label).readOnly().systemFlag(2).hidden().data();
 }

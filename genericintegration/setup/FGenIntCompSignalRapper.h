@@ -4,7 +4,7 @@
 
 class FGenIntComputation;
 
-/** Tells of the runs of a computation to those who show it. */
+/** Reports the runs of a computation to the objects that show it. */
 class FGenIntCompSignalRapper : public QObject {
     Q_OBJECT
 
@@ -15,9 +15,9 @@ class FGenIntCompSignalRapper : public QObject {
 
  signals:
     void genIntRunStarted();
-    /** Always with true: whether the run succeeded is a question to its results. */
+    /** The argument is always true; ask the results whether the run succeeded. */
     void genIntRunEnded(bool scan);
-    /** The computation goes, and is still whole. */
+    /** The computation is about to leave the model and is still usable. */
     void genIntCompDestroyed();
 
  private:

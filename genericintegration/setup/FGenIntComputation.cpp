@@ -71,7 +71,7 @@ FObject* FGenIntComputation::clone() const {
 }
 
 void FGenIntComputation::init(const FGenIntComputation* other) {
-    // Past FCustomComputation on purpose: a copy starts without a configuration.
+    // Deliberately skips FCustomComputation: a copy starts without a configuration.
     FExternComputation::init(other);
 }
 
@@ -123,7 +123,7 @@ void FGenIntComputation::applyOutputHandles(FComputationResults* results) const 
     auto* ofIntegration = dynamic_cast<FResultsGenInt*>(results);
     FDefinitionGenInt* described = definition();
     if (described && ofIntegration) {
-        // Part of the run, and no step of the history.
+        // Part of the run, not a step of the history.
         const FHistoryBlocker blocker;
         ofIntegration->setOutputHandles(described->getFiles(1));
         FHistory::instance()->record(ofIntegration);

@@ -23,17 +23,17 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     /** A new computation of this name with the program's settings, but without a configuration. */
     FObject* clone() const override;
     virtual void init(const FGenIntComputation* other);
-    /** Renames, and tells so through the object manager, but while a project is loaded. */
+    /** Renames, and reports it through the object manager unless a project is being loaded. */
     FManaged* setName(const QString& name) override;
 
-    // Steps of their own beside those that the host takes.
+    // Not overrides: the host's run doesn't call them.
     using FCustomComputation::finalizeRun;
     using FCustomComputation::prepareRun;
     virtual QString prepareRun() { return std::as_const(*this).prepareRun(); }
     virtual void finalizeRun() { std::as_const(*this).finalizeRun(); }
 
     virtual FGenIntCompSignalRapper* getSignalRapper() const { return mpSignalRapper.get(); }
-    /** Shows the connector of this computation, and makes one if there is none. Without windows it shows nothing. */
+    /** Shows the connector of this computation, and makes one if there is none. Without windows nothing is shown. */
     virtual void openSoftwareConnector() const;
     bool doubleClickedInTree() override;
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-/** The name behind the first label of that kind, up to the first white space; empty if there is none. */
+/** The name after the first label of that kind, up to the first white space; empty if there is none. */
 QString nameBehind(const QString& text, const QString& label) {
     static const QRegularExpression blank(QStringLiteral("\\s"));
     const int found = text.indexOf(label);
@@ -24,7 +24,7 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     if (text.isEmpty() || !definition) {
         return;
     }
-    // After as many line ends as there are lines before it, so that messages name the lines of the file.
+    // The text starts with as many line ends as there are lines before it, so that messages give lines of the file.
     const QString area = QString(mObjectAreaLines, QLatin1Char('\n')) + text;
     // Objects that were saved along with the definition may name it.
     if (!mName.isEmpty()) {
@@ -33,7 +33,7 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     startParentReg(definition);
     FSavedTextReader::read(area, mSource, {true, true}, mNames);
     stopParentReg();
-    // An object has another name than in the file where that was taken.
+    // An object whose name was taken has a different name than in the file.
     const FExprBase current = mNames.find(nameBehind(text, QStringLiteral("curFile : ")));
     const FExprBase last = mNames.find(nameBehind(text, QStringLiteral("lastFile : ")));
     takeFiles(*definition, current, last);

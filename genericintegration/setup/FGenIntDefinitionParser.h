@@ -5,17 +5,17 @@
 class FDefinitionGenInt;
 
 /**
- * Reads and writes the exchange files of integrations. Their object area holds the templates, which become children of
- * the definition and its files, and further objects, which become children, too, and are left to the caller.
+ * Reads and writes the exchange files of integrations. Templates in the object area become
+ * files and children of the definition; further objects only become its children.
  */
 class FGenIntDefinitionParser : public FLodmDefinitionParser {
  public:
-    /** With the prototype of FDefinitionGenInt when a new definition is to be made. */
+    /** @param definition  the prototype of FDefinitionGenInt makes a new definition */
     explicit FGenIntDefinitionParser(const FExpr<FDefinitionCustom>& definition = {})
         : FLodmDefinitionParser(definition) {}
 
  protected:
-    /** Other definitions than those of integrations, and an empty text, are left alone. */
+    /** Ignores definitions of other kinds, and an empty text. */
     void importObjectsFromString(const QString& text) override;
 
  private:

@@ -14,7 +14,7 @@ namespace {
 
 using Objects = QSet<FExpr<FManaged>>;
 
-/** The objects in the order of their ids; those that are gone are left out. */
+/** The objects in the order of their ids; destroyed ones are skipped. */
 std::vector<const FManaged*> inOrder(const Objects& objects) {
     std::vector<const FManaged*> ordered;
     for (const FExpr<FManaged>& object : objects) {
@@ -39,7 +39,7 @@ QString nameOf(const FExpr<FGenIntFile>& file) {
     return file ? file->getName() : QStringLiteral("NULL");
 }
 
-/** What the entries need so that they can export it in another project, too. */
+/** The objects without which the entries could not export in another project. */
 Objects exportedObjects(const FDefinitionGenInt& definition) {
     Objects objects;
     for (const FExpr<FEntryBase>& entry : definition.getEntryMap()) {
@@ -57,7 +57,7 @@ Objects exportedObjects(const FDefinitionGenInt& definition) {
 }  // namespace
 
 bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects) {
-    // Not to the device at once: a stream takes a short write for a good one.
+    // Not directly to the device, since a stream doesn't notice a short write.
     QString text;
     QTextStream stream(&text);
     stream << '\n' << FLodmDefinitionParser::smObjectArea << '\n';

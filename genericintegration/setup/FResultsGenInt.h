@@ -4,7 +4,7 @@
 #include "host/run/FResultsGeneric.h"
 
 /**
- * The results of one run of an integration: a table for each result template, read when it is first asked for. The
+ * The results of one run of an integration: a table for each result template, read at the first access. The
  * numbers without a table's name are those of the first table.
  */
 class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
@@ -17,7 +17,7 @@ class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
                                        const FExpr<FExternComputation>& computation) const override;
     virtual void init(const FResultsGenInt* other);
 
-    /** The result templates: the definition's own objects. Setting them has the files read again. */
+    /** The result templates: the definition's own objects. The files are then read again at the next access. */
     virtual void setOutputHandles(const QList<FExpr<FGenIntFile>>& files);
     virtual const QList<FExpr<FGenIntFile>>& getOutputHandles() const { return mOutputHandles; }
 
@@ -31,7 +31,7 @@ class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
     double getLastDataOfColumn(int column) const;
     double getAverageOfLastRows(int numberOfRows, int column) const;
 
-    /** The table of that name, else that of the result template of that name, which is found in any case. */
+    /** The table of that name, otherwise that of the result template of that name in any case. */
     FExpr<FTableData> getData(const QString& name) override;
     /** Path of a file in the results' folder; empty if it isn't the file of a result template. */
     QString getResultTemplateName(const QString& fileName) const;

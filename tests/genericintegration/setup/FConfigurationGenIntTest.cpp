@@ -46,7 +46,7 @@ TEST_F(FConfigurationGenIntTest, entriesFindTheirRebuiltDefinitions) {
     FConfigurationGenInt::create({}, "empty", false, nullptr)->reassignEntryDefs();
     run("d.addEntry(\"G|H|deep\", 5)\nd.addEntry(\"gone\", 6)\nc.setEntryValue(\"G|span\", 11)\n"
         "c.setEntryValue(\"G|H|deep\", 12)");
-    // The entry definitions are rebuilt behind the configuration's back: new objects, one missing, one name twice.
+    // Rebuild the entry definitions without notifying the configuration: new objects, one missing, one name twice.
     const QList<FExpr<FEntryBase>> old = def().getEntries();
     QList<FExpr<FEntryBase>> fresh;
     for (const FExpr<FEntryBase>& entry : old) {
@@ -65,7 +65,7 @@ TEST_F(FConfigurationGenIntTest, entriesFindTheirRebuiltDefinitions) {
     EXPECT_EQ(definitionOf("G|H|deep"), def().getEntryOfScope("G|H|deep"));
     EXPECT_EQ(definitionOf("gone"), old[2].ptr());
     EXPECT_EQ(textOf("c.getEntryValue(\"G|H|deep\")"), "12");
-    // With their definitions found again, the values survive the next look.
+    // The values survive, since their definitions were found again.
     conf().reinit(false);
     EXPECT_EQ(textOf("c.getEntryValue(\"G|span\")"), "11");
     EXPECT_EQ(textOf("c.getEntryValue(\"height\")"), "41");

@@ -141,7 +141,7 @@ TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
     EXPECT_EQ(in->getPlainContent(), "1.5 1.5 <entry>x1</entry> 2 text <entry>none</entry>");
     EXPECT_EQ(out->getPlainContent(), "<entry>x</entry>");
     EXPECT_EQ(textOf("d.getEntryNames()"), "[]");
-    // While a project is read nothing follows.
+    // While a project is loaded, nothing else changes.
     run("d.addEntry(\"x1\", 7)");
     const FProjectLoading loading;
     EXPECT_TRUE(definition->findAndRemoveEntry(entry("x1")));

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Answers as somebody who chooses a file. */
+/** A user who chooses a file. */
 class FChooser : public FUserInterface {
  public:
     FChooser() { replace(this); }
@@ -31,7 +31,7 @@ class FGenIntDefinitionParserTest : public FDirectTest, public FTestFolder {
     ~FGenIntDefinitionParserTest() override { FIni::setFile({}); }
 
  protected:
-    /** What is read from an object area. */
+    /** The objects that an object area contains. */
     static FDefinitionGenInt* readObjects(const QString& objects) {
         FGenIntDefinitionParser parser{FExpr<FDefinitionCustom>(FDefinitionGenInt::null())};
         parser.read("<definition version=\"1\" name=\"d\"/>\n\n" + FLodmDefinitionParser::smObjectArea + "\n" +
@@ -71,7 +71,7 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
     EXPECT_TRUE(saved.contains("</definition>\n\n" + FLodmDefinitionParser::smObjectArea + "\n"));
     EXPECT_TRUE(saved.endsWith("}\ncurFile : a\nlastFile : b\n"));
     EXPECT_FALSE(saved.contains("parameter tail"));
-    // Names of the file mean its own objects.
+    // Names in the file refer to its own objects.
     ASSERT_TRUE(run("copy = importGenIntDefinition(\"" + path("d.lodm") + "\")"));
     EXPECT_TRUE(logHolds("d.lodm: the name \"d\" is taken; the new definition is \"d_01\""));
     const auto* copy = object<FDefinitionGenInt>("d_01");
@@ -89,7 +89,7 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
 TEST_F(FGenIntDefinitionParserTest, aFullDiskLeavesTheFileThatIsThere) {
     ASSERT_TRUE(run(integration + ("d.save(\"" + path("d.lodm") + "\")")));
     const QString saved = read("d.lodm");
-    // Cut in the entries, in the object area, in its last bytes; with more than what is gathered before it is written.
+    // Cut in the entries, in the object area, in its last bytes; with more data than one buffer holds.
     for (const int length : {0, 50'000}) {
         ASSERT_TRUE(run("b.setContent(\"" + QString(length, 'x') + "\")"));
         for (const int limit : {100, saved.toUtf8().size() - 200 + length * 4 / 3}) {

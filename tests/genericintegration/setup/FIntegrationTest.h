@@ -7,7 +7,7 @@
 
 /**
  * Tests on one integration: the program squares the entry "x", and prints it to a file and to the console. Its project
- * lies in a folder of its own.
+ * is in a folder of its own.
  */
 class FIntegrationTest : public FDirectTest, public FTestFolder {
  public:

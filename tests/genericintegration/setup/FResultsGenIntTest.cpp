@@ -25,7 +25,7 @@ TEST_F(FResultsGenIntTest, readsNumbersOfTheFirstTable) {
         EXPECT_EQ(textOf("comp.getResults()." + call), "9") << call.toStdString();
     }
     EXPECT_EQ(textOf("comp.getResults().getDataAt(5,0)"), "NaN");
-    EXPECT_EQ(textOf("comp.getResults().getDataAt(\"s\",0)"), "NaN") << "it stands in the second table";
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(\"s\",0)"), "NaN") << "it is in the second table";
     EXPECT_EQ(textOf("comp.getResults().getDataAt(comp,0)"), "NULL");
 }
 

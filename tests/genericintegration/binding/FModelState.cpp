@@ -5,17 +5,24 @@
 #include "host/design/FEntry.h"
 #include "host/design/FParameter.h"
 #include "host/run/FComputationResults.h"
+#include "host/run/FExternComputation.h"
 #include "tests/support/FModelTest.h"
+
+#include <QSet>
+
+#include <algorithm>
 
 namespace {
 
 QString labelOf(const FObject& object, int depth = 0);
 
-/** The suppliers in an order that doesn't tell when they were linked. */
+/** The suppliers in an order that doesn't tell when they were linked; which results are in use isn't of the history. */
 QString suppliersOf(const FObject& object, int depth) {
     QStringList labels;
     for (const FObject* supplier : object.getSuppliers()) {
-        labels.append(labelOf(*supplier, depth + 1));
+        if (!dynamic_cast<const FComputationResults*>(supplier)) {
+            labels.append(labelOf(*supplier, depth + 1));
+        }
     }
     labels.sort();
     return labels.isEmpty() ? QString() : " <- {" + labels.join(", ") + '}';
@@ -29,7 +36,23 @@ QString labelOf(const FObject& object, int depth) {
     return dynamic_cast<const FEntryBase*>(&object) || depth > 5 ? label : label + suppliersOf(object, depth);
 }
 
+/** Whether a value is computed from a run, whose results undo leaves as they are. */
+bool isOfRun(const FObject& object, QSet<const FObject*>& seen) {
+    if (seen.contains(&object)) {
+        return false;
+    }
+    seen.insert(&object);
+    const auto& suppliers = object.getSuppliers();
+    return dynamic_cast<const FExternComputation*>(&object) || dynamic_cast<const FComputationResults*>(&object) ||
+           std::any_of(suppliers.begin(), suppliers.end(),
+                       [&seen](const FObject* next) { return isOfRun(*next, seen); });
+}
+
 QString worth(const FObject& object) {
+    QSet<const FObject*> seen;
+    if (isOfRun(object, seen)) {
+        return QStringLiteral("of a run");
+    }
     const FObject* value = object.getValueObject();
     return value ? labelOf(*value, 6) : QStringLiteral("nothing");
 }

@@ -5,6 +5,7 @@
 #include "host/core/FUserStep.h"
 #include "host/script/FProject.h"
 #include "host/script/FProjectText.h"
+#include "tests/genericintegration/binding/FModelMirror.h"
 #include "tests/genericintegration/binding/FModelState.h"
 #include "tests/genericintegration/binding/FRandomCommands.h"
 #include "tests/support/FModelTest.h"
@@ -23,7 +24,7 @@ constexpr std::size_t usualLimit = std::size_t{256} << 20U;
 constexpr int sequenceLength = 60;
 
 int caseCount() {
-    return randomCases(60);
+    return randomCases(80);
 }
 
 FHistory& history() {
@@ -104,6 +105,7 @@ class UndoTest : public FModelTest, public FTestFolder {
 
     /** A number always means the very same object, also after that was destroyed and came back. */
     void checkHandles() {
+        EXPECT_EQ(mMirror.differences().toStdString(), "") << scriptText();
         for (const FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
             FExprBase& handle = mHandles[object->getDbId()];
             handle = handle.isEmpty() ? FExprBase(object) : handle;
@@ -215,6 +217,7 @@ class UndoTest : public FModelTest, public FTestFolder {
     QVector<QString> mStates;  // by the number of steps; null where a state was passed over
     QStringList mScript;
     QHash<int, FExprBase> mHandles;
+    FModelMirror mMirror;
     QString mWorkFolder = QDir::currentPath();
     QSet<const FCmdRow*> mCarriedOut;  // without a message
 };
@@ -283,7 +286,7 @@ TEST_F(UndoTest, projectsComeBack) {
         for (int i = 0; i < sequenceLength && !HasFailure(); ++i) {
             act(commands);
         }
-        const auto blocker = std::make_unique<FHistoryBlocker>();
+        auto blocker = std::make_unique<FHistoryBlocker>();
         for (FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
             // Else what is saved might name what isn't, and what stays would have its name.
             object->setInProject(true);
@@ -295,12 +298,14 @@ TEST_F(UndoTest, projectsComeBack) {
                 FManaged::destroy(object);
             }
         }
+        blocker.reset();
         const QByteArray text = FProjectText::write();
         const int logged = log().size();
         EXPECT_TRUE(FProject::instance()->save(file));
         EXPECT_TRUE(FProject::instance()->open(file, false))
             << log().mid(logged).join('\n').toStdString() << text.toStdString() << scriptText();
         EXPECT_EQ(FProjectText::write().toStdString(), text.toStdString()) << scriptText();
+        EXPECT_EQ(mMirror.differences().toStdString(), "") << scriptText();
         FProject::instance()->create();
     }
 }

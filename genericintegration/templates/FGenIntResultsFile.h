@@ -63,7 +63,7 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     const QString& getRegExprSeparator() const { return mRegExprSeparator; }
     void setRegExprSeparator(const QString& expression) { mRegExprSeparator = expression; }
 
-    // The older names, beside those above.
+    // Script commands with names and effects of their own, beside those above.
     /** As `setRegExprSeparator`; a filled expression also ends find-numbers mode. */
     void setRegExpSeparator(const QString& expression);
     QString getRegExpSeparator() const { return {}; }

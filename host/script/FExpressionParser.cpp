@@ -14,32 +14,12 @@ namespace {
 using Kind = FToken::Kind;
 using Node = FSyntaxExpr::Kind;
 
-struct FTokenOperator {
-    Kind token;
-    FOperator kind;
-};
-
-using FOperatorLevel = std::initializer_list<FTokenOperator>;
-
-/** Operators of rows, those that bind least first. */
-const FOperatorLevel rowLevels[] = {
-    {{Kind::Or, FOperator::Or}},
-    {{Kind::And, FOperator::And}},
-    {{Kind::Equal, FOperator::Equal},
-     {Kind::NotEqual, FOperator::NotEqual},
-     {Kind::Less, FOperator::Less},
-     {Kind::LessEqual, FOperator::LessEqual},
-     {Kind::Greater, FOperator::Greater},
-     {Kind::GreaterEqual, FOperator::GreaterEqual}},
-    {{Kind::Plus, FOperator::Add}, {Kind::Minus, FOperator::Subtract}},
-    {{Kind::Star, FOperator::Multiply}, {Kind::Slash, FOperator::Divide}, {Kind::Percent, FOperator::Modulo}}};
-
-const FOperatorLevel prefixes = {
-    {Kind::Minus, FOperator::Minus}, {Kind::Plus, FOperator::Plus}, {Kind::Not, FOperator::Not}};
-
-std::optional<FOperator> findOperator(const FOperatorLevel& level, Kind token) {
-    const auto* found = std::find_if(level.begin(), level.end(), [token](auto op) { return op.token == token; });
-    return found == level.end() ? std::nullopt : std::optional(found->kind);
+/** The operator that a token is, either between two operands or before one. */
+std::optional<FOperator> findOperator(int priority, Kind token) {
+    const auto* found = std::find_if(operatorRows.begin(), operatorRows.end(), [priority, token](const auto& row) {
+        return row.priority == priority && row.token == token;
+    });
+    return found == operatorRows.end() ? std::nullopt : std::optional(found->kind);
 }
 
 FLiteral numberValue(QStringView text) {
@@ -56,22 +36,22 @@ FLiteral numberValue(QStringView text) {
 
 FSyntaxExpr FExpressionParser::expression() {
     const FTokenStream::Level level(mTokens);
-    return row(0);
+    return row(leastPriority);
 }
 
-FSyntaxExpr FExpressionParser::row(std::size_t level) {
-    if (level == std::size(rowLevels)) {
+FSyntaxExpr FExpressionParser::row(int priority) {
+    if (priority == prefixPriority) {
         return unary();
     }
-    FSyntaxExpr first = row(level + 1);
-    std::optional<FOperator> op = findOperator(rowLevels[level], mTokens.kind());
+    FSyntaxExpr first = row(priority + 1);
+    std::optional<FOperator> op = findOperator(priority, mTokens.kind());
     if (!op) {
         return first;
     }
     FSyntaxExpr row = beginRow(Node::Row, std::move(first));
-    for (; op; op = findOperator(rowLevels[level], mTokens.kind())) {
+    for (; op; op = findOperator(priority, mTokens.kind())) {
         addOperator(row, *op);
-        FSyntaxExpr operand = this->row(level + 1);
+        FSyntaxExpr operand = this->row(priority + 1);
         const int height = std::max(row.height, operand.height) + 1;
         addOperand(row, std::move(operand), height);
     }
@@ -79,7 +59,7 @@ FSyntaxExpr FExpressionParser::row(std::size_t level) {
 }
 
 FSyntaxExpr FExpressionParser::unary() {
-    const std::optional<FOperator> op = findOperator(prefixes, mTokens.kind());
+    const std::optional<FOperator> op = findOperator(prefixPriority, mTokens.kind());
     if (!op) {
         return power();
     }

@@ -23,7 +23,7 @@ class FExpressionParser {
     void arguments(FSyntaxExpr& call, const char* expectedParen);
 
  private:
-    FSyntaxExpr row(std::size_t level);
+    FSyntaxExpr row(int priority);
     FSyntaxExpr unary();
     FSyntaxExpr power();
     FSyntaxExpr chain();

@@ -2,6 +2,9 @@
 
 #include "host/core/FObjectName.h"
 #include "host/core/FQuotedText.h"
+#include "host/script/FOperator.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -33,40 +36,21 @@ Kind kindOfWord(QStringView word) {
     return Kind::Name;
 }
 
-Kind kindOfPair(QChar first, QChar second) {
-    if (first == '&' && second == '&') {
-        return Kind::And;
-    }
-    if (first == '|' && second == '|') {
-        return Kind::Or;
-    }
-    if (second != '=') {
-        return Kind::BadCharacter;
-    }
-    switch (first.unicode()) {
-        case '=':
-            return Kind::Equal;
-        case '!':
-            return Kind::NotEqual;
-        case '<':
-            return Kind::LessEqual;
-        case '>':
-            return Kind::GreaterEqual;
-        default:
-            return Kind::BadCharacter;
-    }
+/** The operator that one or two signs are. */
+Kind kindOfOperator(QStringView signs) {
+    const auto* found = std::find_if(operatorRows.begin(), operatorRows.end(),
+                                     [signs](const auto& row) { return signs == QLatin1String(row.text); });
+    return found == operatorRows.end() ? Kind::BadCharacter : found->token;
 }
 
-Kind kindOfSign(QChar sign) {
-    static constexpr QStringView signs = u"()[]{}.,;:&=<>+-*/%^!";
-    static constexpr Kind kinds[] = {
-        Kind::LeftParen, Kind::RightParen, Kind::LeftBracket, Kind::RightBracket, Kind::LeftBrace, Kind::RightBrace,
-        Kind::Dot,       Kind::Comma,      Kind::Semicolon,   Kind::Colon,        Kind::Ampersand, Kind::Assign,
-        Kind::Less,      Kind::Greater,    Kind::Plus,        Kind::Minus,        Kind::Star,      Kind::Slash,
-        Kind::Percent,   Kind::Caret,      Kind::Not};
-    static_assert(signs.size() == std::size(kinds));
-    const auto index = signs.indexOf(sign);
-    return index < 0 ? Kind::BadCharacter : kinds[index];
+Kind kindOfSign(QStringView sign) {
+    static constexpr QStringView others = u"()[]{}.,;:&=";
+    static constexpr Kind kinds[] = {Kind::LeftParen, Kind::RightParen, Kind::LeftBracket, Kind::RightBracket,
+                                     Kind::LeftBrace, Kind::RightBrace, Kind::Dot,         Kind::Comma,
+                                     Kind::Semicolon, Kind::Colon,      Kind::Ampersand,   Kind::Assign};
+    static_assert(others.size() == std::size(kinds));
+    const auto index = others.indexOf(sign.front());
+    return index < 0 ? kindOfOperator(sign) : kinds[index];
 }
 
 /** Whether a text that ended at `quote` would end where another one usually begins, as in `name("`. */
@@ -163,12 +147,13 @@ FToken FLexer::takeWord(int length) {
 }
 
 FToken FLexer::takeSymbol() {
-    const Kind pair = kindOfPair(at(mPosition), at(mPosition + 1));
+    const QStringView signs = mText.mid(mPosition, 2);
+    const Kind pair = signs.size() == 2 ? kindOfOperator(signs) : Kind::BadCharacter;
     if (pair != Kind::BadCharacter) {
         return take(pair, 2);
     }
     const bool isSurrogatePair = at(mPosition).isHighSurrogate() && at(mPosition + 1).isLowSurrogate();
-    const FToken token = take(kindOfSign(at(mPosition)), isSurrogatePair ? 2 : 1);
+    const FToken token = take(kindOfSign(signs.left(1)), isSurrogatePair ? 2 : 1);
     if (token.kind == Kind::LeftParen || token.kind == Kind::LeftBracket) {
         ++mBrackets;
     } else if (mBrackets > 0 && (token.kind == Kind::RightParen || token.kind == Kind::RightBracket)) {

@@ -13,53 +13,8 @@ namespace {
 /** A loop that doubles a text would soon ask for more memory than there is. */
 constexpr int longestText = 100'000'000;
 
-struct OperatorText {
-    const char* text;
-    int priority;  // as in the grammar, higher binds tighter
-};
-
-OperatorText textOf(FOperator op) {
-    switch (op) {
-        case FOperator::Or:
-            return {"||", 1};
-        case FOperator::And:
-            return {"&&", 2};
-        case FOperator::Equal:
-            return {"==", 3};
-        case FOperator::NotEqual:
-            return {"!=", 3};
-        case FOperator::Less:
-            return {"<", 3};
-        case FOperator::LessEqual:
-            return {"<=", 3};
-        case FOperator::Greater:
-            return {">", 3};
-        case FOperator::GreaterEqual:
-            return {">=", 3};
-        case FOperator::Add:
-            return {"+", 4};
-        case FOperator::Subtract:
-            return {"-", 4};
-        case FOperator::Multiply:
-            return {"*", 5};
-        case FOperator::Divide:
-            return {"/", 5};
-        case FOperator::Modulo:
-            return {"%", 5};
-        case FOperator::Plus:
-            return {"+", 6};
-        case FOperator::Minus:
-            return {"-", 6};
-        case FOperator::Not:
-            return {"!", 6};
-        case FOperator::Power:
-            return {"^", 7};
-    }
-    return {"", 0};
-}
-
 bool isComparison(FOperator op) {
-    return textOf(op).priority == 3;
+    return rowOf(op).priority == comparisonPriority;
 }
 
 template <class T>
@@ -122,7 +77,7 @@ bool isWhole(const FDouble* value) {
 
 FOperatorCmd::FOperatorCmd(std::vector<FOperator> operators, std::vector<FExprBase> operands)
     : mOperators(std::move(operators)) {
-    setName(QString::fromLatin1(textOf(mOperators.front()).text));
+    setName(QString::fromLatin1(rowOf(mOperators.front()).text));
     setArguments(std::move(operands));
     setOutOfDate(true);
 }
@@ -133,7 +88,7 @@ const FObject* FOperatorCmd::getEvaluatedType() const {
 }
 
 int FOperatorCmd::priority() const {
-    return textOf(mOperators.front()).priority;
+    return rowOf(mOperators.front()).priority;
 }
 
 QString FOperatorCmd::operandInBrackets(std::size_t index) const {
@@ -153,7 +108,7 @@ QString FOperatorCmd::operandInBrackets(std::size_t index) const {
 QString FOperatorCmd::toExpressionString() const {
     QString text = isUnary() ? getName() : QString();
     for (std::size_t i = 0; i < getArguments().size(); ++i) {
-        text += i > 0 ? QString::fromLatin1(textOf(mOperators[i - 1]).text) : QString();
+        text += i > 0 ? QString::fromLatin1(rowOf(mOperators[i - 1]).text) : QString();
         text += operandInBrackets(i);
     }
     return text;
@@ -166,7 +121,7 @@ FExprBase FOperatorCmd::refuse(FOperator op, std::initializer_list<FExprBase> op
         types.append(object ? object->getClass() : QStringLiteral("NULL"));
     }
     warn(QStringLiteral("\"%1\" can't be applied to %2")
-             .arg(QString::fromLatin1(textOf(op).text), types.join(QStringLiteral(" and "))));
+             .arg(QString::fromLatin1(rowOf(op).text), types.join(QStringLiteral(" and "))));
     return {};
 }
 

@@ -6,27 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "host/script/FOperator.h"
 #include "host/script/FPlace.h"
-
-enum class FOperator {
-    Or,
-    And,
-    Equal,
-    NotEqual,
-    Less,
-    LessEqual,
-    Greater,
-    GreaterEqual,
-    Add,
-    Subtract,
-    Multiply,
-    Divide,
-    Modulo,
-    Power,
-    Plus,
-    Minus,
-    Not
-};
 
 struct MERIX_EXPORT FSyntaxOperator {
     FOperator kind;

@@ -4,7 +4,7 @@
 namespace {
 
 // One for each way to form a name. Under such names commands are hidden, looked up and documented; a change of one
-// breaks scripts and other plug-ins.
+// breaks scripts that name it.
 const QStringList commandClasses{
     "FAttribCmdFGenIntResultsFilesetSpacesAndTabsSeparatorbool",
     "FMemberCmdFGenIntResultsFilesetTabSeaparatorbool",

@@ -19,10 +19,10 @@ enum class FOperator {
     Multiply,
     Divide,
     Modulo,
+    Power,
     Plus,
     Minus,
-    Not,
-    Power
+    Not
 };
 
 /** How an operator is written and parsed. */
@@ -52,10 +52,10 @@ constexpr std::array operatorRows{
     FOperatorRow{FOperator::Multiply, FToken::Kind::Star, "*", 5},
     FOperatorRow{FOperator::Divide, FToken::Kind::Slash, "/", 5},
     FOperatorRow{FOperator::Modulo, FToken::Kind::Percent, "%", 5},
+    FOperatorRow{FOperator::Power, FToken::Kind::Caret, "^", 7},
     FOperatorRow{FOperator::Plus, FToken::Kind::Plus, "+", prefixPriority},
     FOperatorRow{FOperator::Minus, FToken::Kind::Minus, "-", prefixPriority},
     FOperatorRow{FOperator::Not, FToken::Kind::Not, "!", prefixPriority},
-    FOperatorRow{FOperator::Power, FToken::Kind::Caret, "^", 7},
 };
 
 constexpr const FOperatorRow& rowOf(FOperator op) {

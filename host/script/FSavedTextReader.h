@@ -12,12 +12,12 @@
 
 /**
  * Reads a saved text, which is data: it declares objects and sets their attributes, in the block of the declaration or
- * as `name.attribute(value)`. Anything else in it is reported,
- * with its place, and skipped; the text executes nothing and reads no file.
+ * as `name.attribute(value)`. Anything else is reported with its place and skipped. The text executes nothing and
+ * reads no file.
  *
- * Within the text a name means the object that the text declares, also where it declares it further on. What names an
- * object waits until the block of that object is done. Where objects wait for each other, the first one in the text
- * goes on as soon as the objects exist that it names. Time n log n in the length of the text at most.
+ * Within the text a name means the object that the text declares, also if the declaration comes later. A line that
+ * names an object waits until the block of that object is done. Where objects wait for each other, the first one in the
+ * text goes on as soon as the objects exist that it names. Time n log n in the length of the text at most.
  */
 class MERIX_EXPORT FSavedTextReader {
  public:
@@ -30,15 +30,15 @@ class MERIX_EXPORT FSavedTextReader {
     int read(const FSyntaxBody& statements);
 
  private:
-    /** A statement as far as it has been carried out. */
+    /** A statement and how much of it has been executed. */
     struct Statement {
         const FSyntaxDeclaration* declaration = nullptr;
         const FSyntaxExpr* command = nullptr;  //!< the other kind of statement: commands on an object that has a name
         FExprBase object;                      //!< empty until it is made
-        std::size_t line = 0;                  //!< of the block: the first that hasn't been carried out
+        std::size_t line = 0;                  //!< of the block: the first that hasn't been executed
         QStringList needs;                     //!< names that the next step needs
-        int complete = 0;                      //!< how many of them at least stand for complete objects
-        int made = 0;                          //!< how many of them at least stand for objects
+        int complete = 0;                      //!< at least so many of them are names of complete objects
+        int made = 0;                          //!< at least so many of them are names of objects
         bool isEnded = false;
     };
     /** A name for which there is no complete object yet, and the numbers of the statements that wait for it. */
@@ -50,9 +50,9 @@ class MERIX_EXPORT FSavedTextReader {
 
     void announce(const FSyntaxBody& statements);
     void take(const FSyntaxStatement& statement);
-    /** Carries out the steps that need not wait. */
+    /** Executes the steps that need not wait. */
     void goOn(std::size_t number);
-    /** Carries out all steps that objects allow that exist. */
+    /** Executes all steps whose objects exist. */
     void workOff();
     void carryOutStep(Statement& statement);
     /** Whether the next step has to wait; the names that it waits for know it. */
@@ -68,7 +68,7 @@ class MERIX_EXPORT FSavedTextReader {
     /** There is an object of that name now, or never will be. */
     void setMade(const QString& name);
     void setComplete(const QString& name);
-    /** Takes down what didn't go well. */
+    /** Counts and reports what failed. */
     void note(FDeclarer::Outcome outcome);
     void report(const FSyntaxError& error);
 

@@ -35,7 +35,7 @@ F* original(F* /*replacement*/, const char* name) {
 
 }  // namespace
 
-// These stand before those of the C library, also for the calls that Qt makes.
+// These replace the functions of the C library, also for the calls that Qt makes.
 extern "C" {
 
 int open64(const char* path, int flags, ...) {

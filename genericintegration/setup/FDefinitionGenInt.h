@@ -26,7 +26,10 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
 
     /** No output depends on it, since the writer writes only text. */
     int getOutputPrecision() const override { return mOutputPrecision; }
-    void setOutputPrecision(int precision) { mOutputPrecision = precision; }
+    void setOutputPrecision(int precision) {
+        recordChange();
+        mOutputPrecision = precision;
+    }
 
     // ---- files ----
     /** Appends a file, even if it is in the list already. Ignores an empty handle. */

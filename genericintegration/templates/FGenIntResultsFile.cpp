@@ -76,6 +76,12 @@ FGenIntResultsFile* FGenIntResultsFile::create(const QString& name) {
     return file;
 }
 
+// The rows of an average may name a computation, and so keep what keeps this template.
+void FGenIntResultsFile::letGo() {
+    mValues = FExpr<FObjectList>(new FObjectList);
+    mCurValue = {};
+}
+
 FObject* FGenIntResultsFile::clone() const {
     FGenIntResultsFile* copy = create(QString());
     copy->init(this);
@@ -198,6 +204,7 @@ QString FGenIntResultsFile::getCurrentAnchor() const {
 
 void FGenIntResultsFile::setCurrentAnchor(const QString& anchor) {
     if (mCurValue) {
+        recordChange();
         mCurValue->mAnchor = anchor;
     }
 }
@@ -208,16 +215,33 @@ GenIntAnchorOccurrence FGenIntResultsFile::getCurrentOccurrence() const {
 
 void FGenIntResultsFile::setCurrentOccurrence(GenIntAnchorOccurrence occurrence) {
     if (mCurValue) {
+        recordChange();
         mCurValue->mOccurrence = FEnum<GenIntAnchorOccurrence>(occurrence);
     }
 }
 
-void FGenIntResultsFile::setRegExpSeparator(const QString& expression) {
+void FGenIntResultsFile::setNumberSeparator(bool numbers) {
+    recordChange();
+    mNumberSeparator = numbers;
+}
+
+void FGenIntResultsFile::setSpacesAndTabsSeparator(bool spacesAndTabs) {
+    recordChange();
+    mSpacesAndTabsSeparator = spacesAndTabs;
+}
+
+void FGenIntResultsFile::setRegExprSeparator(const QString& expression) {
+    recordChange();
     mRegExprSeparator = expression;
+}
+
+void FGenIntResultsFile::setRegExpSeparator(const QString& expression) {
+    setRegExprSeparator(expression);
     mNumberSeparator = mNumberSeparator && expression.isEmpty();
 }
 
 void FGenIntResultsFile::setSpaceSeparator(bool space) {
+    recordChange();
     mNumberSeparator = mNumberSeparator && !space;
     mSpacesAndTabsSeparator = mSpacesAndTabsSeparator || space;
 }

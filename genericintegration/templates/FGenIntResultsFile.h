@@ -57,11 +57,11 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
 
     // ---- separators ----
     bool getNumberSeparator() const { return mNumberSeparator; }
-    void setNumberSeparator(bool numbers) { mNumberSeparator = numbers; }
+    void setNumberSeparator(bool numbers);
     bool getSpacesAndTabsSeparator() const { return mSpacesAndTabsSeparator; }
-    void setSpacesAndTabsSeparator(bool spacesAndTabs) { mSpacesAndTabsSeparator = spacesAndTabs; }
+    void setSpacesAndTabsSeparator(bool spacesAndTabs);
     const QString& getRegExprSeparator() const { return mRegExprSeparator; }
-    void setRegExprSeparator(const QString& expression) { mRegExprSeparator = expression; }
+    void setRegExprSeparator(const QString& expression);
 
     // Script commands with names and effects of their own, beside those above.
     /** As `setRegExprSeparator`; a filled expression also ends find-numbers mode. */
@@ -87,6 +87,7 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
  protected:
     explicit FGenIntResultsFile(const QString& name = QString());
     FGenIntResultsFile(const FGenIntResultsFile& other);
+    void letGo() override;
 
  private:
     friend class FClass<FGenIntResultsFile, FGenIntFile>;

@@ -32,6 +32,8 @@ class MERIX_EXPORT FChanges : public QObject {
     void stepDone(const QString& label);
     void stepUndone(const QString& label);
     void stepRedone(const QString& label);
+    /** A step that was open failed; what it had changed is as before. */
+    void stepTakenBack(const QString& label);
     /** The step can be neither undone nor redone any more. */
     void stepDropped(const QString& label);
     /** A statement inside a loop or branch has ended, and its step is still open. */

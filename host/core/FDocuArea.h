@@ -6,6 +6,6 @@
 enum class FDocuArea { Name = 0, Description = 1, Example = 2, Result = 3, Help = 5 };
 
 template <>
-FClassData FEnum<FDocuArea>::mClass;
+MERIX_EXPORT FClassData FEnum<FDocuArea>::mClass;
 template <>
-const FEnumTable& FEnum<FDocuArea>::table();
+MERIX_EXPORT const FEnumTable& FEnum<FDocuArea>::table();

@@ -112,13 +112,13 @@ void FHistory::close() {
     if (step.isEmpty()) {
         return;
     }
-    const Objects changed = objectsOf(step);
     forgetChangesOfNew(step);
     std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
     dropUnchanged(step);
     if (step.isEmpty()) {
         return;
     }
+    const Objects changed = objectsOf(step);
     dropUndone();
     const QString label = step.label;
     keep(std::move(step), true);
@@ -135,6 +135,7 @@ void FHistory::takeBack() {
     Transaction step = takeOpen();
     std::for_each(step.objects.begin(), step.objects.end(), &keepDifference);
     replay(step, false);
+    emit FChanges::instance()->stepTakenBack(step.label);
 }
 
 // Only what changed is of interest to a listener; a new object has changed in any case.
@@ -419,9 +420,10 @@ void FHistory::trim() {
 
 FHistoryPause::FHistoryPause() {
     FHistory& history = *FHistory::instance();
-    if (history.mDepth == 0 || history.mUserSteps != history.mDepth || history.mReplaying || history.mBlockers > 0) {
+    if (history.mUserSteps != history.mDepth || history.mReplaying || history.mBlockers > 0) {
         return;
     }
+    mIsPaused = true;
     mBlockers = FImmediateUpdateBlocker::suspend();
     mDepth = history.mDepth;
     mLabel = history.mOpen.label;
@@ -430,11 +432,12 @@ FHistoryPause::FHistoryPause() {
 }
 
 FHistoryPause::~FHistoryPause() {
-    if (mDepth > 0) {
-        FHistory& history = *FHistory::instance();
-        history.mDepth = mDepth;
-        history.mUserSteps = mDepth;
-        history.mOpen.label = mLabel;
-        FImmediateUpdateBlocker::resume(mBlockers);
+    if (!mIsPaused) {
+        return;
     }
+    FHistory& history = *FHistory::instance();
+    history.mDepth = mDepth;
+    history.mUserSteps = mDepth;
+    history.mOpen.label = mLabel;
+    FImmediateUpdateBlocker::resume(mBlockers);
 }

@@ -174,7 +174,8 @@ class FHistoryBlocker {
 
 /**
  * Interrupts the open user steps for a command that keeps steps of its own, such as undo or a run: what was done before
- * becomes a step, and what comes after it another one. Has no effect inside other transactions.
+ * becomes a step, and what comes after it another one. Deferred updates are executed first. Has no effect inside other
+ * transactions.
  */
 class MERIX_EXPORT FHistoryPause {
  public:
@@ -184,6 +185,7 @@ class MERIX_EXPORT FHistoryPause {
     FHistoryPause& operator=(const FHistoryPause&) = delete;
 
  private:
+    bool mIsPaused = false;
     int mDepth = 0;
     int mBlockers = 0;
     QString mLabel;

@@ -1,8 +1,30 @@
 #include "host/core/FStateField.h"
 
+#include "host/core/FBasicType.h"
 #include "host/core/FRecorded.h"
 
 #include <algorithm>
+
+bool isSameValue(const FExprBase& a, const FExprBase& b) {
+    if (a == b) {
+        return true;
+    }
+    const FObject* one = a.getStored();
+    const FObject* other = b.getStored();
+    if (!one || !other || one->getPrototype() != other->getPrototype()) {
+        return false;
+    }
+    if (const auto* list = dynamic_cast<const FObjectList*>(one)) {
+        const auto& elements = list->getObjects();
+        const auto& others = static_cast<const FObjectList*>(other)->getObjects();
+        return std::equal(elements.begin(), elements.end(), others.begin(), others.end(), &isSameValue);
+    }
+    if (!dynamic_cast<const FBasicType*>(one)) {
+        return false;
+    }
+    return one->getClassData().getFields().empty() ? one->toHistoryString() == other->toHistoryString()
+                                                   : FState::capture(*one).equals(FState::capture(*other), *one);
+}
 
 FState FState::capture(const FObject& object) {
     FState state;
@@ -121,16 +143,18 @@ void FOwnedState::restoreElements() const {
 }
 
 bool FOwnedState::equals(const FOwnedState& other) const {
-    if (objects != other.objects) {
-        return false;
-    }
-    for (std::size_t i = 0; i < objects.size(); ++i) {
+    const auto same = [&](std::size_t i) {
         const FObject* stored = objects[i].getStored();
-        if (stored && !states[i].equals(other.states[i], *stored)) {
-            return false;
-        }
+        const FObject* otherStored = other.objects[i].getStored();
+        const bool isComparable = stored && otherStored && stored->getPrototype() == otherStored->getPrototype() &&
+                                  !states[i].values.empty() && !other.states[i].values.empty();
+        return isComparable ? states[i].equals(other.states[i], *stored) : isSameValue(objects[i], other.objects[i]);
+    };
+    bool isSame = objects.size() == other.objects.size();
+    for (std::size_t i = 0; isSame && i < objects.size(); ++i) {
+        isSame = same(i);
     }
-    return true;
+    return isSame;
 }
 
 std::size_t FOwnedState::size() const {

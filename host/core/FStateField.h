@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <any>
 #include <functional>
 #include <memory>
@@ -39,6 +40,13 @@ class MERIX_EXPORT FStateField {
     /** About how many bytes a kept value holds that the model doesn't. */
     virtual std::size_t size(const std::any& value) const = 0;
 };
+
+/**
+ * Whether an object with the one value is in the same state as with the other: the values are the same object, or plain
+ * values that read alike, or lists of such. Objects that refer to others, such as expressions, are the same only if
+ * they are identical.
+ */
+MERIX_EXPORT bool isSameValue(const FExprBase& a, const FExprBase& b);
 
 /** The state of one object: the values of its raw fields in the order of its class. */
 class MERIX_EXPORT FState {
@@ -214,6 +222,11 @@ class MERIX_EXPORT FStateFields {
                 handle.restoreClient(&object);
             }
             MemberField<V>::write(object, value);
+        }
+        bool equal(const std::any& a, const std::any& b) const override {
+            const auto before = handles(std::any_cast<const V&>(a));
+            const auto after = handles(std::any_cast<const V&>(b));
+            return std::equal(before.begin(), before.end(), after.begin(), after.end(), &isSameValue);
         }
 
      private:

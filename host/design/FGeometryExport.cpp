@@ -34,6 +34,18 @@ void commands(FCmdTable& table) {
     table.global("geometryExport", &makeExport, {"fileName", "kind=0", "source=NULL"}).query();
 }
 
+/** A change of an export: its entry becomes part of the step, and what depends on it is marked at the end. */
+class Change {
+ public:
+    explicit Change(const FGeometryExport& changed) : mExport(changed) { entryValueChanges(changed); }
+    ~Change() { mExport.setOutOfDate(true); }
+    Change(const Change&) = delete;
+    Change& operator=(const Change&) = delete;
+
+ private:
+    const FGeometryExport& mExport;
+};
+
 }  // namespace
 
 FClassData FGeometryExport::mClass("FGeometryExport", &FObject::mClass, &commands, &FGeometryExport::fields);
@@ -58,12 +70,6 @@ std::vector<std::unique_ptr<FStateField>> FGeometryExport::fields() {
         .take();
 }
 
-// The entry that holds the export becomes part of the step, and what depends on it is marked.
-void FGeometryExport::changes() {
-    entryValueChanges(*this);
-    setOutOfDate(true);
-}
-
 bool FGeometryExport::refuse(const FExprBase& object) const {
     FCmd::warnNow(
         getClass(),
@@ -73,17 +79,17 @@ bool FGeometryExport::refuse(const FExprBase& object) const {
 }
 
 void FGeometryExport::setFileName(const QString& fileName) {
-    changes();
+    const Change change(*this);
     mFileName = fileName;
 }
 
 void FGeometryExport::setKind(Kind kind) {
-    changes();
+    const Change change(*this);
     mKind = kind;
 }
 
 bool FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
-    changes();
+    const Change change(*this);
     for (const FExpr<FObject>& object : mObjects) {
         object.unregisterClient(this);
     }
@@ -92,7 +98,7 @@ bool FGeometryExport::setGeometryObjects(const FExpr<FObjectList>& objects) {
 }
 
 bool FGeometryExport::addGeometryObjects(const FExpr<FObjectList>& objects) {
-    changes();
+    const Change change(*this);
     bool isTaken = true;
     for (const FExpr<FObject>& object : objects ? objects->getObjects() : std::vector<FExpr<FObject>>()) {
         if (!object || mObjects.contains(object)) {
@@ -108,7 +114,7 @@ bool FGeometryExport::addGeometryObjects(const FExpr<FObjectList>& objects) {
 }
 
 bool FGeometryExport::setFeatureDefinition(const FExpr<FObject>& feature) {
-    changes();
+    const Change change(*this);
     return mSource.assignFor(this, feature) || refuse(feature);
 }
 

@@ -47,7 +47,6 @@ class MERIX_EXPORT FGeometryExport : public FClass<FGeometryExport, FObject> {
 
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
-    void changes();
     bool refuse(const FExprBase& object) const;
 
     QString mFileName;

@@ -17,8 +17,6 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
      * computation.
      */
     void setConfiguration(const FExpr<FConfigurationCustom>& configuration);
-    /** A file in the folder of the run that gets a line "path = value" for each entry; empty for none. */
-    const QString& getCmdFile() const { return mCmdFile; }
 
     /**
      * Makes a set-up of its own for another run: a clone of the computation with a clone of its configuration. Both
@@ -46,5 +44,5 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     static void declareCommands(FCmdTable& table);
     static std::vector<std::unique_ptr<FStateField>> fields();
 
-    QString mCmdFile;
+    QString mCmdFile;  //!< in the folder of the run: gets a line "path = value" for each entry; empty for none
 };

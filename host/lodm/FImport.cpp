@@ -1,6 +1,8 @@
 #include "host/lodm/FImport.h"
 
 #include "host/core/FFile.h"
+#include "host/core/FHold.h"
+#include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmPath.h"
 #include "host/run/FPathManager.h"
@@ -21,7 +23,12 @@ FClassData FImport::mClass("FImport", &FManaged::mClass, &commands);
 FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     QFile file;
     if (open(file, fileName)) {
+        const FWaitCursor cursor;
         reset();
+        const FGlUpdateBlocker picture;
+        const FEditorUpdateBlocker editors;
+        const FImmediateUpdateBlocker updates;
+        const FObjectTreeBlocker tree;
         doImport(file, flag);
     }
     return FExpr<FObjectList>(new FObjectList);

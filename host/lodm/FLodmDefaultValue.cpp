@@ -16,15 +16,6 @@ namespace {
 
 using Kind = FLodmEntry::Default;
 
-void collectNames(const FSyntaxExpr& expression, QStringList& names) {
-    if (expression.kind == FSyntaxExpr::Kind::Name) {
-        names.append(expression.name);
-    }
-    for (const FSyntaxExpr& operand : expression.operands) {
-        collectNames(operand, names);
-    }
-}
-
 bool isTruth(const QString& text) {
     return text == QLatin1String(lodm::trueWord) || text == QLatin1String(lodm::falseWord);
 }
@@ -54,9 +45,7 @@ Kind FLodmDefaultValue::kindOf(const FObject& value) {
 }
 
 QStringList FLodmDefaultValue::namesIn(const QString& script) {
-    QStringList names;
-    collectNames(parseExpression(script).expression, names);
-    return names;
+    return parseExpression(script).expression.getNames();
 }
 
 QString FLodmDefaultValue::fault() const {

@@ -39,8 +39,6 @@ class MERIX_EXPORT FPathManager {
     QString getEarlierDir(const QString& computation, const FExpr<FDesign>& design);
     /** A run in that folder, given with a slash at its end, is being started: it is the last one from now on. */
     void setLastRun(const QString& folder) { mLastRunFolder = folder; }
-    /** Folder of the run whose steps are being executed, with a slash at its end; empty if there is none. */
-    const QString& getRunFolder() const { return mRunFolder; }
     /** Folder of the examples that come with the program; the home folder if there is none. */
     QString getSamplesDir() const;
 
@@ -52,7 +50,7 @@ class MERIX_EXPORT FPathManager {
     QString currentRunFolder();
 
     QString mTemporaryRoot;
-    QString mRunFolder;
+    QString mRunFolder;  //!< of the run whose steps are being executed, with a slash at its end; empty if there is none
     QString mLastRunFolder;
 };
 

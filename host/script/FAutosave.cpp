@@ -27,6 +27,7 @@ FAutosave::FAutosave() {
     for (const auto signal : {&FChanges::stepDone, &FChanges::stepUndone, &FChanges::stepRedone}) {
         QObject::connect(changes, signal, this, &FAutosave::changed);
     }
+    QObject::connect(changes, &FChanges::stepTakenBack, this, &FAutosave::takenBack);
     QObject::connect(changes, &FChanges::statementDone, this, &FAutosave::saveIfDue);
 }
 
@@ -78,6 +79,13 @@ void FAutosave::changed() {
 void FAutosave::saveIfDue() {
     if (!mProject.isEmpty() && wait() <= 0 && FHistory::instance()->hasOpenChanges()) {
         save();
+        mHasOpenStep = true;
+    }
+}
+
+void FAutosave::takenBack() {
+    if (mHasOpenStep && !mProject.isEmpty()) {
+        save();
     }
 }
 
@@ -95,6 +103,7 @@ void FAutosave::saveSoon() {
 }
 
 void FAutosave::save() {
+    mHasOpenStep = false;
     moveForeignAside();
     QElapsedTimer duration;
     duration.start();

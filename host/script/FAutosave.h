@@ -36,6 +36,8 @@ class MERIX_EXPORT FAutosave : public QObject {
     void changed();
     /** Saves inside an open step if the pause since the last save is over. */
     void saveIfDue();
+    /** What was saved inside a step that failed is replaced by what the model has now. */
+    void takenBack();
     /** Milliseconds until the next save is due; 0 or less if it is now. */
     qint64 wait() const;
     void saveSoon();
@@ -47,7 +49,8 @@ class MERIX_EXPORT FAutosave : public QObject {
     bool mIsOwn = false;
     bool mIsRecovered = false;
     bool mHasFailed = false;
-    qint64 mPause = 0;  //!< shortest time from one save to the next, in ms
+    bool mHasOpenStep = false;  //!< the last save was inside a step that is still open
+    qint64 mPause = 0;          //!< shortest time from one save to the next, in ms
     QElapsedTimer mSinceSave;
     QTimer mTimer;
 };

@@ -5,6 +5,7 @@
 #include "host/script/FOperator.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 

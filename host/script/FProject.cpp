@@ -3,6 +3,7 @@
 #include "host/core/FChanges.h"
 #include "host/core/FFile.h"
 #include "host/core/FHistory.h"
+#include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
@@ -46,6 +47,8 @@ bool FProject::isIdle(const char* command) {
 
 void FProject::clearModel() {
     const FHistoryBlocker blocker;
+    // Nothing is evaluated while the model is taken apart.
+    const FImmediateUpdateBlocker updates;
     const QList<FManaged*> objects = FObjectManager::instance()->getManaged(FManaged::null());
     const QList<FExpr<FManaged>> handles(objects.begin(), objects.end());
     for (auto object = handles.rbegin(); object != handles.rend(); ++object) {

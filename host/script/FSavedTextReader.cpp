@@ -144,11 +144,10 @@ void FSavedTextReader::findNeeds(Statement& statement) const {
 }
 
 void FSavedTextReader::collectNames(const FSyntaxExpr& expression, QStringList& names) const {
-    if (expression.kind == FSyntaxExpr::Kind::Name && mAwaited.contains(expression.name)) {
-        names.append(expression.name);
-    }
-    for (const FSyntaxExpr& operand : expression.operands) {
-        collectNames(operand, names);
+    for (const QString& name : expression.getNames()) {
+        if (mAwaited.contains(name)) {
+            names.append(name);
+        }
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "host/core/FExport.h"
 
-#include <QString>
+#include <QStringList>
 #include <variant>
 #include <vector>
 
@@ -36,4 +36,7 @@ struct MERIX_EXPORT FSyntaxExpr {
     QString name;
     std::vector<FSyntaxExpr> operands;
     std::vector<FSyntaxOperator> operators;
+
+    /** The names in the expression and in its operands, in the order of the text; a name may occur again. */
+    QStringList getNames() const;
 };

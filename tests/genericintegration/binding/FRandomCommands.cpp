@@ -96,6 +96,10 @@ QStringList FRandomCommands::receivers(const FCmdRow& row) const {
 QString FRandomCommands::statement() {
     const std::vector<const FCmdRow*> rows = getActingRows();
     const int kind = pick(100);
+    if (kind < 2) {
+        mpLastRow = nullptr;
+        return pick(QStringList{"r = t5.getResults()", "k = t5.getResults().getTable(\"out.dat\")"});
+    }
     const bool creates = kind < 15;
     const FCmdRow* row = pickRow(rows, [&](const FCmdRow& candidate) {
         return creates     ? candidate.isCreator()
@@ -260,7 +264,7 @@ QString FRandomCommands::number() {
 }
 
 QString FRandomCommands::value(int depth) {
-    const int kind = depth > 2 ? pick(3) : pick(9);
+    const int kind = depth > 2 ? pick(3) : pick(10);
     switch (kind) {
         case 0:
             return number();
@@ -276,6 +280,11 @@ QString FRandomCommands::value(int depth) {
             return object(FPrototypes::find("FParameter")) + pick(QStringList{" + ", " * ", " / "}) + value(depth + 1);
         case 6:
             return listOf(2, [&] { return value(depth + 1); });
+        case 7:
+            return pick(QStringList{"t5.getResults()", "r"}) + ".getDataAt(" + pick(QStringList{"\"v1\"", "0"}) +
+                   ", 0)";
+        case 8:
+            return "k.getElementAt(0)";
         default:
             return query(depth + 1);
     }

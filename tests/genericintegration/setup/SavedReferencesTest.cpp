@@ -29,7 +29,9 @@ TEST_F(SavedReferencesTest, resultsInAVariableAreThoseOfTheLastRun) {
         << logText();
     EXPECT_EQ(textOf("p + 0"), "18");
     const QString before = savedModel();
+    const int logged = log().size();
     EXPECT_EQ(opened().toStdString(), before.toStdString());
+    EXPECT_EQ(log().mid(logged), QStringList()) << "closing evaluates nothing";
 }
 
 TEST_F(SavedReferencesTest, expressionsAsAverageRowsAreKept) {

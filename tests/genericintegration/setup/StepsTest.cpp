@@ -62,10 +62,19 @@ TEST_F(StepsTest, anErrorTakesBackWhatFollowsTheLastInterruption) {
 // An object that only the row records leaves the step if it is unchanged; what the operation adds stays.
 TEST_F(StepsTest, whatChangesNothingIsAStepOnlyIfTheOperationSaysSo) {
     const std::pair<const char*, int> cases[] = {
-        {"input.setFileName(\"sub/in.txt\")", 0},      {"comp.setTimeLimit(0)", 0},
-        {"def.setFiles([input, square, console])", 0}, {"input.setContent(\"x=<entry>x</entry>\")", 1},
-        {"def.renameEntry(\"x\", \"x\")", 0},          {"square.setForceWindowsLineEndings(false)", 1},
+        {"input.setFileName(\"sub/in.txt\")", 0},
+        {"comp.setTimeLimit(0)", 0},
+        {"def.setFiles([input, square, console])", 0},
+        {"input.setContent(\"x=<entry>x</entry>\")", 1},
+        {"def.renameEntry(\"x\", \"x\")", 0},
+        {"square.setForceWindowsLineEndings(false)", 1},
+        {"p.setValue([1, \"a\"])", 0},
+        {"conf.setEntryValue(\"x\", 4)", 0},
+        {"square.setValues([[\"v\", 1, 2, \"v \", First, \"FDouble\", \"\"]])", 0},
     };
+    ASSERT_TRUE(
+        run("parameter p([1, \"a\"])\nconf.setEntryValue(\"x\", 4)\n"
+            "square.setValues([[\"v\", 1, 2, \"v \", First, \"FDouble\", \"\"]])"));
     for (const auto& [statement, count] : cases) {
         const int before = steps();
         const QString saved = savedModel();

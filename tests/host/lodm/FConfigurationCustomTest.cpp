@@ -100,7 +100,9 @@ TEST_F(FConfigurationCustomTest, windowsShowPreviewsAndEditors) {
     struct Previewed : FConfigurationCustom {
         QMap<QString, QString> getPreview() override { return {{"a.inp", "span 3"}, {"b.inp", ""}}; }
     };
-    FExpr<FConfigurationCustom>(new Previewed)->preview();
+    auto* previewed = new Previewed;
+    previewed->registerObject();
+    previewed->preview();
     EXPECT_TRUE(logHolds("a.inp: 6 characters") && logHolds("b.inp: 0 characters")) << logText();
     EXPECT_EQ(conf->getObjectEditor(), nullptr);
     struct Windows : FUserInterface {

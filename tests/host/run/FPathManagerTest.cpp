@@ -1,5 +1,6 @@
 #include "host/run/FPathManager.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FDesign.h"
 #include "host/run/FExternComputation.h"
@@ -37,6 +38,10 @@ TEST_F(FPathManagerTest, knowsTheDesignOfTheCurrentRun) {
     FMerixCtrl::instance()->setProjectFile("/home/anna/study.mrx");
     EXPECT_EQ(mPaths->getProjectDir(), "/home/anna");
     auto* computation = new FExternComputation("solver");
+    {
+        const FHistoryBlocker blocker;
+        computation->registerObject();
+    }
     const FExpr<FExternComputation> solver(computation);
     const QString root = "/home/anna/study.results";
     mPaths->setLastRun(root + "/wide/mesher/");

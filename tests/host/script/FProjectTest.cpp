@@ -67,6 +67,14 @@ TEST_F(FProjectTest, aLoopIsAutosavedWhileItRuns) {
     EXPECT_EQ(textOf("a.getNumber()"), "1");
 }
 
+TEST_F(FProjectTest, whatALoopThatFailedHadAutosavedGoes) {
+    ASSERT_TRUE(run("thing a(1)"));
+    ASSERT_TRUE(save("p"));
+    EXPECT_FALSE(run("for (i in [2, 3]) { a.setNumber(i); noSuch() }"));
+    EXPECT_EQ(textOf("a.getNumber()"), "1");
+    EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(1)"));
+}
+
 TEST_F(FProjectTest, namesInARingComeBack) {
     auto* a = FObjectManager::instance();
     ASSERT_TRUE(run("thing a(1)\nthing b(2)\nthing c(3) { .setFriend(a) }\nthing d(4)"));

@@ -13,6 +13,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTextCodec>
 
 namespace {
 
@@ -76,10 +77,9 @@ QString FGenIntFile::decode(const QString& stored) const {
                                                  "it is kept")
                                       .arg(getName()));
     }
-    // With its size, since a conversion without it ends at the first NUL; and one drops a leading mark of byte order.
-    const bool hasMark = bytes.startsWith("\xEF\xBB\xBF");
-    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
-    return hasMark && !text.startsWith(QChar::ByteOrderMark) ? QChar(QChar::ByteOrderMark) + text : text;
+    // A mark of byte order at the start is a part of the text.
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
 void FGenIntFile::markOutOfDate() {

@@ -4,6 +4,7 @@
 #include "host/core/FNull.h"
 #include "host/core/FObjectList.h"
 #include "host/core/FQuotedText.h"
+#include "host/script/FSavedTextReader.h"
 
 #include <algorithm>
 
@@ -18,9 +19,9 @@ QString bareQuoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-/** Whether an element of a list may be evaluated: the list may come from a saved text, which reads no files. */
+/** Whether an element of a list may be evaluated: a saved text reads no files. */
 bool isReadable(const FExpr<FObject>& element) {
-    return element.canSafelyBeUpdated(false);
+    return !FSavedTextReader::isReading() || element.canSafelyBeUpdated(false);
 }
 
 /** The element of a list as a value; null if there is none. */

@@ -5,6 +5,7 @@
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FUserStep.h"
 
 #include <QSet>
 #include <QStringList>
@@ -303,10 +304,12 @@ void FHistory::recordDestruction(FManaged* object, const std::vector<FObject*>& 
 // ---- undo and redo ----
 
 bool FHistory::undo() {
+    FUserStep::commitEdits();
     return move(mDone, false);
 }
 
 bool FHistory::redo() {
+    FUserStep::commitEdits();
     return move(mUndone, true);
 }
 

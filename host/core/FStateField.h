@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <any>
+#include <bit>
 #include <functional>
 #include <memory>
 #include <type_traits>
@@ -187,7 +188,12 @@ class MERIX_EXPORT FStateFields {
             }
         }
         bool equal(const std::any& a, const std::any& b) const override {
-            return std::any_cast<const V&>(a) == std::any_cast<const V&>(b);
+            if constexpr (std::is_same_v<V, double>) {
+                // Two that aren't a number are the same state, and 0 and -0 aren't.
+                return std::bit_cast<quint64>(std::any_cast<V>(a)) == std::bit_cast<quint64>(std::any_cast<V>(b));
+            } else {
+                return std::any_cast<const V&>(a) == std::any_cast<const V&>(b);
+            }
         }
         std::size_t size(const std::any& value) const override { return sizeOf(std::any_cast<const V&>(value)); }
 

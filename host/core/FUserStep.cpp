@@ -2,10 +2,7 @@
 
 #include "host/core/FUserInterface.h"
 
-namespace {
-
-/** Text that is still in editors becomes a step of its own before the next one begins. */
-void commitEdits() {
+void FUserStep::commitEdits() {
     static bool isCommitting = false;
     if (isCommitting || FHistory::instance()->inTransaction()) {
         return;
@@ -14,8 +11,6 @@ void commitEdits() {
     FUserInterface::instance()->commitEdits();
     isCommitting = false;
 }
-
-}  // namespace
 
 FUserStep::FUserStep(const QString& label) {
     commitEdits();

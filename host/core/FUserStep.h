@@ -20,6 +20,12 @@ class MERIX_EXPORT FUserStep {
     /** Takes back at the end of the step what was done in it. */
     void rollback() { mIsFailed = true; }
 
+    /**
+     * Takes over text that is still in editors, as a step of its own; nothing happens in an open step. Whatever reads
+     * the model as a whole without a step calls it first: undo, redo and saving.
+     */
+    static void commitEdits();
+
  private:
     std::optional<FImmediateUpdateBlocker> mBlocker;
     bool mIsFailed = false;

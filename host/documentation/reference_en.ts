@@ -2732,6 +2732,8 @@ print(getAttribute(drag, "setValues"))</translation>
     <message>
         <source>!FEnum&lt;GenIntAnchorOccurrence&gt;:example</source>
         <translation>print(First, Last)</translation>
+    </message>
+    <message>
         <source>!FSoftwareConnector</source>
         <translation>The view in which a user sets up one external program. It owns one computation with its configuration, its definition and the templates that no other definition lists: destroying the connector destroys them all, and so does destroying the computation. In a program without windows it shows nothing, but keeps all of this.</translation>
     </message>

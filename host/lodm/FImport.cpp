@@ -3,6 +3,7 @@
 #include "host/core/FFile.h"
 #include "host/core/FHold.h"
 #include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmPath.h"
 #include "host/run/FPathManager.h"
@@ -23,6 +24,7 @@ FClassData FImport::mClass("FImport", &FManaged::mClass, &commands);
 FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     QFile file;
     if (open(file, fileName)) {
+        const FBusy busy;
         const FWaitCursor cursor;
         reset();
         const FGlUpdateBlocker picture;

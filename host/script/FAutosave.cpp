@@ -4,6 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FSavedFile.h"
+#include "host/core/FUserStep.h"
 #include "host/script/FProjectText.h"
 
 #include <QDateTime>
@@ -96,6 +97,7 @@ qint64 FAutosave::wait() const {
 void FAutosave::saveSoon() {
     const qint64 wait = this->wait();
     if (wait <= 0 && !FHistory::instance()->inTransaction()) {
+        FUserStep::commitEdits();
         save();
     } else if (!mTimer.isActive()) {
         mTimer.start(static_cast<int>(std::max(wait, qint64{100})));

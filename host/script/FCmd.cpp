@@ -90,6 +90,7 @@ bool FCmd::doUpdate() const {
     if (mUseParentReg && !keepsResult()) {
         destroyChildrenOf(this);
     }
+    mHasWarned = false;
     mResult = execute();
     return FObject::doUpdate();
 }

@@ -184,7 +184,7 @@ QString didYouMean(const QString& name, const QStringList& known) {
 
 QString FCmdManager::unknownMember(const FClassData& data, const QString& name) const {
     if (&data == &FNull::mClass) {
-        return QStringLiteral("%1: there is no object to apply it to, what stands before it is NULL").arg(name);
+        return QStringLiteral("%1: there is no object to apply it to: its receiver is NULL").arg(name);
     }
     return QStringLiteral("%1 has no command \"%2\"%3").arg(data.getName(), name, didYouMean(name, memberNames(data)));
 }

@@ -5,6 +5,7 @@
 #include "host/script/FListLimits.h"
 
 #include <algorithm>
+#include <utility>
 
 FClassData FMemberCmd::mClass("FMemberCmd", &FCmd::mClass);
 FClassData FAttribCmd::mClass("FAttribCmd", &FMemberCmd::mClass);
@@ -53,33 +54,41 @@ void FMemberCmd::followKnownParts(FObject* receiver) const {
         FCmdRow::Values values;
         QString reason;
         if (isConstant && convertArguments(*row, values, reason)) {
-            follow(*row, receiver, values);
+            followOnly(sourcesOf(*row, receiver, values));
             return;
         }
     }
 }
 
-bool FMemberCmd::follow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
-    if (!isKept() || (!row.sources && !mReceiver.isCmd())) {
-        return true;
+std::vector<FExprBase> FMemberCmd::sourcesOf(const FCmdRow& row, FObject* receiver,
+                                             const FCmdRow::Values& values) const {
+    // What was registered with the receiver when the expression was kept isn't followed again.
+    if (!isKept() || (!row.sources && receiver == mReceiver.getStored())) {
+        return {};
     }
-    std::vector<FExprBase> sources = row.sources ? row.sources(receiver, values) : std::vector{FExprBase(receiver)};
-    if (sources == mFollowed) {
-        return true;
-    }
-    for (const FExprBase& before : mFollowed) {
+    return row.sources ? row.sources(receiver, values) : std::vector{FExprBase(receiver)};
+}
+
+bool FMemberCmd::followOnly(const std::vector<FExprBase>& sources) const {
+    return sources == mFollowed || followAlso(sources, std::exchange(mFollowed, {}));
+}
+
+bool FMemberCmd::followAlso(const std::vector<FExprBase>& sources, const std::vector<FExprBase>& noLonger) const {
+    for (const FExprBase& before : noLonger) {
         before.unregisterClient(this);
     }
-    mFollowed.clear();
+    bool isAcyclic = true;
     for (const FExprBase& source : sources) {
         if (source.registerClient(this)) {
             mFollowed.push_back(source);
+        } else {
+            isAcyclic = false;
         }
     }
-    if (mFollowed.size() < sources.size()) {
+    if (!isAcyclic) {
         warn(getName() + QStringLiteral(": circular dependency: its value would be computed from itself"));
     }
-    return mFollowed.size() == sources.size();
+    return isAcyclic;
 }
 
 // ---- execution ----
@@ -102,7 +111,7 @@ FExprBase FMemberCmd::execute() const {
     }
     FCmdRow::Values values;
     const FCmdRow* row = chooseRow(rows, values);
-    return row && follow(*row, receiver, values) ? act(*row, receiver, values) : FExprBase();
+    return row && followOnly(sourcesOf(*row, receiver, values)) ? act(*row, receiver, values) : FExprBase();
 }
 
 std::vector<const FCmdRow*> FMemberCmd::rowsFor(const FObject& object, const FClassData* own) const {
@@ -126,47 +135,52 @@ FExprBase FMemberCmd::act(const FCmdRow& row, FObject* receiver, const FCmdRow::
     return result;
 }
 
-FExprBase FMemberCmd::actOnList(const FObjectList& list, const FClassData*& own) const {
+FExprBase FMemberCmd::actOnList(const FObjectList& list, const FClassData* own) const {
+    Traversal traversal{own, std::exchange(mFollowed, {})};
+    const std::optional<FExprBase> result = actOnElements(list, traversal);
+    for (const FExprBase& before : traversal.followedBefore) {
+        before.unregisterClient(this);
+    }
+    if (!result) {
+        warnWrongReceiver(*list.getElementType());
+    }
+    return result && !traversal.isRefused ? *result : FExprBase();
+}
+
+std::optional<FExprBase> FMemberCmd::actOnElements(const FObjectList& list, Traversal& traversal) const {
     auto* results = new FObjectList(FObject::null());
     FExprBase keep(results);
     results->setAsSelectionSet(true);
-    bool isKnown = false;
+    // The command may change the list.
     const std::vector<FExpr<FObject>> elements = list.getObjects();
-    for (const FExpr<FObject>& element : elements) {
-        FObject* object = element.getObject();
-        bool isElementKnown = false;
-        const FExprBase result = object ? actOnElement(*object, own, isElementKnown) : FExprBase();
-        if (hasWarned() || (isElementKnown && elements.size() == 1)) {
-            return hasWarned() ? FExprBase() : result;
-        }
-        isKnown = isKnown || isElementKnown;
-        if (isElementKnown) {
-            results->add(FExpr<FObject>(result));
+    for (auto element = elements.begin(); element != elements.end() && !traversal.isRefused; ++element) {
+        FObject* object = element->getObject();
+        if (const auto result = object ? actOnElement(*object, traversal) : std::nullopt) {
+            results->add(FExpr<FObject>(*result));
         }
     }
-    if (!isKnown && elements.size() == 1) {
-        warnWrongReceiver(*list.getElementType());
-        return {};
+    if (elements.size() == 1) {
+        return results->count() == 1 ? std::optional<FExprBase>(results->at(0)) : std::nullopt;
     }
     const QString fault = listFault(*results);
     if (!fault.isEmpty()) {
         warn(fault);
-        return {};
+        traversal.isRefused = true;
     }
     return keep;
 }
 
-FExprBase FMemberCmd::actOnElement(FObject& element, const FClassData*& own, bool& isKnown) const {
-    const auto rows = rowsFor(element, own);
-    const FObjectList* nested = element.castToObjectList();
-    isKnown = !rows.empty() || nested;
+std::optional<FExprBase> FMemberCmd::actOnElement(FObject& element, Traversal& traversal) const {
+    const auto rows = rowsFor(element, traversal.own);
     if (rows.empty()) {
-        return nested ? actOnList(*nested, own) : FExprBase();
+        const FObjectList* nested = element.castToObjectList();
+        return nested ? actOnElements(*nested, traversal) : std::nullopt;
     }
-    own = own ? own : rows.front()->owner;
+    traversal.own = traversal.own ? traversal.own : rows.front()->owner;
     FCmdRow::Values values;
     const FCmdRow* row = chooseRow(rows, values);
-    return row ? act(*row, &element, values) : FExprBase();
+    traversal.isRefused = !row || !followAlso(sourcesOf(*row, &element, values), {});
+    return traversal.isRefused ? FExprBase() : act(*row, &element, values);
 }
 
 // ---- messages ----

@@ -3,6 +3,8 @@
 #include "host/core/FExport.h"
 #include "host/script/FCmd.h"
 
+#include <optional>
+
 /**
  * A command on a receiver. On a list it acts on each element of its class, also in lists within the list, and gives the
  * list of the results as a selection set; a list of one element behaves like the element.
@@ -41,8 +43,17 @@ class MERIX_EXPORT FMemberCmd : public FClass<FMemberCmd, FCmd> {
 
  private:
     FExprBase act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
-    FExprBase actOnList(const FObjectList& list, const FClassData*& own) const;
-    FExprBase actOnElement(FObject& element, const FClassData*& own, bool& isKnown) const;
+    /** The way through a list and the lists in it. */
+    struct Traversal {
+        const FClassData* own;                  //!< decided by the first element that knows the command; null before
+        std::vector<FExprBase> followedBefore;  //!< what the result of the last execution was read from
+        bool isRefused = false;                 //!< the command can't be executed; that was reported
+    };
+
+    FExprBase actOnList(const FObjectList& list, const FClassData* own) const;
+    /** The results of all elements, or that of a single one; none if a single element doesn't know the command. */
+    std::optional<FExprBase> actOnElements(const FObjectList& list, Traversal& traversal) const;
+    std::optional<FExprBase> actOnElement(FObject& element, Traversal& traversal) const;
     std::vector<const FCmdRow*> rowsFor(const FObject& object, const FClassData* own) const;
     void warnNoReceiver() const;
     void warnWrongReceiver(const FObject& receiver) const;
@@ -50,7 +61,11 @@ class MERIX_EXPORT FMemberCmd : public FClass<FMemberCmd, FCmd> {
     QString missingResult() const;
     bool readsFromParts(const FObject& receiver) const;
     void followKnownParts(FObject* receiver) const;
-    bool follow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    /** What a kept expression reads its result from, besides its receiver and its arguments. */
+    std::vector<FExprBase> sourcesOf(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    /** The expression becomes out of date with these, and no others; false, with a warning, if that is a cycle. */
+    bool followOnly(const std::vector<FExprBase>& sources) const;
+    bool followAlso(const std::vector<FExprBase>& sources, const std::vector<FExprBase>& noLonger) const;
 
     FExprBase mReceiver;
     QString mReceiverName;

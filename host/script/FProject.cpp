@@ -8,6 +8,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FSavedFile.h"
+#include "host/core/FUserStep.h"
 #include "host/script/FProjectText.h"
 
 #include <QFile>
@@ -160,6 +161,7 @@ bool FProject::mayWrite(const QString& file, FProjectLock& lock) const {
 }
 
 bool FProject::save(const QString& path) {
+    FUserStep::commitEdits();
     const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : FFile::realPath(withEnding(path));
     FProjectLock lock;
     if (!mayWrite(file, lock)) {

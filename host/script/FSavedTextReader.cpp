@@ -13,8 +13,30 @@ int FSavedTextReader::read(const QString& text, const QString& file, const FPars
     return static_cast<int>(script.errors.size()) + FSavedTextReader(names, file).read(script.statements);
 }
 
+namespace {
+
+/** How many saved texts are being read, each within the one before. */
+int nested = 0;
+
+class Reading {
+ public:
+    Reading() { ++nested; }
+    ~Reading() { --nested; }
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+ private:
+    const FBusy mBusy;
+};
+
+}  // namespace
+
+bool FSavedTextReader::isReading() {
+    return nested > 0;
+}
+
 int FSavedTextReader::read(const FSyntaxBody& statements) {
-    const FBusy busy;
+    const Reading reading;
     const FImmediateUpdateBlocker blocker;
     announce(statements);
     for (std::size_t i = 0; i < mStatements.size(); ++i) {

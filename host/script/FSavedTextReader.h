@@ -28,6 +28,8 @@ class MERIX_EXPORT FSavedTextReader {
     static int read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names);
     /** Returns how many errors there were, each of which has been reported. */
     int read(const FSyntaxBody& statements);
+    /** True while a saved text is being read. */
+    static bool isReading();
 
  private:
     /** A statement and how much of it has been executed. */

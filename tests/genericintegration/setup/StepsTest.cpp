@@ -84,6 +84,19 @@ TEST_F(StepsTest, whatChangesNothingIsAStepOnlyIfTheOperationSaysSo) {
     }
 }
 
+// What an operation reports for one element is no reason to leave out the next one.
+TEST_F(StepsTest, aWarningOfOneElementDoesntStopAList) {
+    ASSERT_TRUE(run("genericIntegrationConfiguration none()"));
+    for (const char* list : {"[none, conf]", "[conf, none]", "[[none], conf]"}) {
+        ASSERT_TRUE(run("conf.setEntryValue(\"x\", 1)\n" + QString(list) + ".setEntryValue(\"x\", 7)"));
+        EXPECT_EQ(textOf("conf.getEntryValue(\"x\")"), "7") << list;
+    }
+    ASSERT_TRUE(run("parameter name(\"zz\")\nparameter p(conf.getEntryValue(name))"));
+    EXPECT_EQ(textOf("p + 0"), "NULL");
+    ASSERT_TRUE(run("name.setValue(\"x\")"));
+    EXPECT_EQ(textOf("p + 0"), "7");
+}
+
 TEST_F(StepsTest, undoOfAContentTellsTheEditors) {
     ASSERT_TRUE(run("input.setContent(\"y\")"));
     auto* file = object<FGenIntFile>("input");

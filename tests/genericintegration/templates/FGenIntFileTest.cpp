@@ -16,8 +16,12 @@ class FGenIntFileTest : public FDirectTest {
 TEST_F(FGenIntFileTest, storedFormKeepsEveryText) {
     EXPECT_EQ(file->getContent(), "[B64]");
     EXPECT_EQ(file->setContent(file->getContent())->getPlainContent(), "");
-    const QStringList texts{"a <entry>x</entry>\r\nb\n", QString::fromUtf8("Größe \u20ac \\n"),
-                            QString(QLatin1String("nul\0l", 5)), "[B64", "\"quoted\" \\"};
+    const QStringList texts{"a <entry>x</entry>\r\nb\n",
+                            QString::fromUtf8("Größe \u20ac \\n"),
+                            QString(QLatin1String("nul\0l", 5)),
+                            "\uFEFF\uFEFFa",
+                            "[B64",
+                            "\"quoted\" \\"};
     for (const QString& text : texts) {
         file->setContent(text);
         const QString stored = file->getContent();

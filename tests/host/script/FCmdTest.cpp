@@ -35,6 +35,12 @@ TEST_F(FCmdTest, aListActsOnItsElements) {
     EXPECT_EQ(textOf("[7,8].getNumber()"), "[]");
     EXPECT_EQ(textOf("[7].getNumber()"), "NULL");
     EXPECT_EQ(textOf("[a,7,b].getNumber()"), "[1,2]");
+    EXPECT_EQ(textOf("[[7],[a],[b,a]].getNumber()"), "[1,[2,1]]");
+    FExpr<FObject> numbers;
+    ASSERT_TRUE(numbers.resolve("[a,[b]].getNumber()"));
+    EXPECT_EQ(numbers.getObject()->toString(), "[1,2]");
+    run("b.setNumber(5)");
+    EXPECT_EQ(numbers.getObject()->toString(), "[1,5]");
     EXPECT_EQ(textOf("[a,b].count()"), "2");
     EXPECT_TRUE(run("[a,b].setNumber(9)"));
     EXPECT_EQ(b->getNumber(), 9);

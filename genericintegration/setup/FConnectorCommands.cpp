@@ -5,6 +5,6 @@
 FExpr<FString> chooseResultsFile() {
     FLogMsg::info(QStringLiteral("chooseResultsFile"),
                   QStringLiteral("a result file of another connector can be chosen only in a window"),
-                  QStringLiteral("name it with getResults().getResultFileName() of its computation instead"));
+                  QStringLiteral("Name it with getResults().getResultFileName() of its computation instead"));
     return {};
 }

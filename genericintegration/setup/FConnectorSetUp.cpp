@@ -71,8 +71,8 @@ void FConnectorSetUp::setComputation(const FExpr<FExternComputation>& computatio
     if (!mComputation.assignFor(connector, FExpr<FExternComputation>(computation.ptr()))) {
         FLogMsg::warning(
             connector->getName(),
-            QStringLiteral("Its computation can't be %1, which depends on this connector").arg(computation->getName()),
-            QStringLiteral("it stays unchanged"));
+            QStringLiteral("its computation can't be %1, which depends on this connector").arg(computation->getName()),
+            QStringLiteral("It stays unchanged"));
         return;
     }
     listen();

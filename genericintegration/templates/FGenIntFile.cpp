@@ -73,9 +73,8 @@ QString FGenIntFile::decode(const QString& stored) const {
     const QByteArray bytes = QByteArray::fromBase64(base64);
     // What can be read is taken in any case.
     if (FMerixCtrl::instance()->isLoadingProject() && !isBase64(base64)) {
-        FCmd::warnNow(getClass(), QStringLiteral("the content of %1 is damaged: it isn't Base64; what could be read of "
-                                                 "it is kept")
-                                      .arg(getName()));
+        FCmd::warnNow(getClass(), QStringLiteral("the content of %1 is damaged: it isn't Base64").arg(getName()),
+                      QStringLiteral("What could be read of it is kept"));
     }
     // A mark of byte order at the start is a part of the text.
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
@@ -115,7 +114,7 @@ void FGenIntFile::initFromFile(const QString& path) {
     const int badLine = FTextDecoder::firstInvalidLine(bytes);
     if (badLine > 0) {
         FLogMsg::warning(getClass(), QStringLiteral("\"%1\" isn't valid UTF-8 in line %2").arg(path).arg(badLine),
-                         QStringLiteral("what can't be read is replaced; save the file as UTF-8"));
+                         QStringLiteral("What can't be read is replaced; save the file as UTF-8"));
     }
     setContent(FTextDecoder::decode(bytes));
     const QString name = QFileInfo(path).fileName();

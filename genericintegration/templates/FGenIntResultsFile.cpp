@@ -148,7 +148,7 @@ void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
             FExpr<FGenIntResultsFileValue>(element) ? QString() : FGenIntResultsFileValue::faultOf(element);
         if (!fault.isEmpty()) {
             FCmd::warnNow(getClass(), QStringLiteral("value %1 of %2 ").arg(fresh->count()).arg(getName()) + fault,
-                          QStringLiteral("values count from 0; correct it in the list of setValues"));
+                          QStringLiteral("Values count from 0; correct it in the list of setValues"));
         }
         const FExpr<FGenIntResultsFileValue> value(new FGenIntResultsFileValue);
         value->setPrimitiveValue(element);

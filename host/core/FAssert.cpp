@@ -11,8 +11,9 @@ namespace {
 
 void reportFailure(const FAssert::Failure& failure) {
     FLogMsg::error(failure.place, QStringLiteral("assertion failed: %1: %2").arg(failure.expression, failure.message),
-                   QStringLiteral("this is a fault of the program; please report it"));
+                   QStringLiteral("This is a fault of the program; please report it"));
 #ifdef MERIX_ASSERTIONS
+    FLogMsg::endLine();
     std::abort();
 #endif
 }

@@ -126,7 +126,7 @@ void FHistory::close() {
     if (mDone.empty()) {
         FLogMsg::warning(QStringLiteral("FHistory"),
                          QStringLiteral("\"%1\" needs more memory than all steps may have together").arg(label),
-                         QStringLiteral("it can't be undone, and no step before it"));
+                         QStringLiteral("Neither it nor any step before it can be undone"));
     }
     announceChanged(changed);
     emit FChanges::instance()->stepDone(label);

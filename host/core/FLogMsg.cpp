@@ -7,8 +7,48 @@
 
 namespace {
 
+/**
+ * The standard error. A line is written at once, but ended only when the next one differs or something else wants to
+ * write, so that its repeats are counted in it and no end of the program loses it.
+ */
+class FOpenLine {
+ public:
+    ~FOpenLine() { end(); }
+
+    void print(const QString& line) {
+        if (mCount > 0 && line == mLine) {
+            ++mCount;
+            return;
+        }
+        end();
+        std::cerr << line.toStdString() << std::flush;
+        mLine = line;
+        mCount = 1;
+    }
+
+    void end() {
+        if (mCount == 0) {
+            return;
+        }
+        if (mCount > 1) {
+            std::cerr << " (" << mCount << " times)";
+        }
+        std::cerr << std::endl;
+        mCount = 0;
+    }
+
+ private:
+    QString mLine;
+    int mCount = 0;
+};
+
+FOpenLine& openLine() {
+    static FOpenLine line;
+    return line;
+}
+
 void print(const FLogMsg& message) {
-    std::cerr << message.toLine().toStdString() << std::endl;
+    openLine().print(message.toLine());
 }
 
 FLogMsg::Sink& sink() {
@@ -19,16 +59,46 @@ FLogMsg::Sink& sink() {
 bool strictMode = false;
 int strictErrors = 0;
 
+const char* wordOf(FLogMsg::Kind kind) {
+    return kind == FLogMsg::Kind::Error ? "error: " : kind == FLogMsg::Kind::Warning ? "warning: " : "note: ";
+}
+
+/** Whether a text contains a name, not just its letters in the middle of another word. */
+bool containsWord(const QString& text, const QString& word) {
+    const auto isInWord = [&text](int index) {
+        return index >= 0 && index < text.size() && (text[index].isLetterOrNumber() || text[index] == QLatin1Char('_'));
+    };
+    for (int found = text.indexOf(word); found >= 0; found = text.indexOf(word, found + 1)) {
+        if (!isInWord(found - 1) && !isInWord(found + word.size())) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool endsSentence(const QString& text) {
+    return !text.isEmpty() && QStringLiteral(".!?:\n").contains(text.back());
+}
+
 }  // namespace
 
 QString FLogMsg::toLine() const {
-    const QString prefix = kind == Kind::Error     ? QStringLiteral("error: ")
-                           : kind == Kind::Warning ? QStringLiteral("warning: ")
-                                                   : QString();
-    const QString& origin = place.isEmpty() ? source : place;
-    const QString from = origin.isEmpty() ? QString() : origin + QStringLiteral(": ");
-    const QString tail = consequence.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(consequence);
-    return prefix + from + message + tail;
+    QString line = QString::fromLatin1(wordOf(kind));
+    if (!place.isEmpty()) {
+        line += place + QStringLiteral(": ");
+    }
+    if (!source.isEmpty() && (place.isEmpty() || !(containsWord(message, source) || place.startsWith(source)))) {
+        line += source + QStringLiteral(": ");
+    }
+    line += message;
+    if (consequence.isEmpty()) {
+        return line;
+    }
+    return line + (endsSentence(message) ? QStringLiteral(" ") : QStringLiteral(". ")) + consequence;
+}
+
+void FLogMsg::endLine() {
+    openLine().end();
 }
 
 void FLogMsg::send() const {

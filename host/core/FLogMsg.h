@@ -13,13 +13,16 @@ class MERIX_EXPORT FLogMsg {
     enum class Stream { StandardOutput, StandardError };
 
     Kind kind;
-    QString source;       //!< the class or object that reports it
-    QString message;      //!< what happened, to which thing, where
-    QString consequence;  //!< what follows, or what can be done
+    QString source;       //!< the name of the object concerned, or of the class or command that reports it
+    QString message;      //!< what happened, to which thing; a sentence without its final full stop
+    QString consequence;  //!< what follows or what to do; a sentence with a capital letter, without its full stop
     Stream stream;        //!< the channel that it was sent to
-    QString place;        //!< of the text that it is about, as file:line:column; empty if there is none
+    QString place;        //!< of the text that it is about, as file:line:column or file:line; empty if there is none
 
-    /** One line: the place, or else the source, the message and the consequence. */
+    /**
+     * "error|warning|note: PLACE: what. remedy". PLACE is the place, or else the source; with a place, the source
+     * follows it unless the message names it.
+     */
     QString toLine() const;
 
     static void info(const QString& source, const QString& message, const QString& consequence,
@@ -33,6 +36,12 @@ class MERIX_EXPORT FLogMsg {
     void send() const;
 
     /**
+     * Ends the last line on the standard error, which stays open to count its repeats. Whoever writes something else to
+     * the terminal, ends a statement or starts a program calls it first.
+     */
+    static void endLine();
+
+    /**
      * In strict mode each warning is an error, and is counted: whoever executes something and must not accept warnings
      * compares the count before and after.
      */
@@ -42,6 +51,7 @@ class MERIX_EXPORT FLogMsg {
     static int getStrictErrors();
 
     using Sink = std::function<void(const FLogMsg&)>;
-    /** Where messages are printed; the standard error as long as nothing is set. Returns the sink before. */
+    /** Where messages are printed; by default the standard error, where a message and its direct repeats take one line.
+     * Returns the sink before. */
     static Sink setSink(Sink sink);
 };

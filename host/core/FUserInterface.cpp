@@ -22,7 +22,7 @@ void logNoDialog(const QString& caption, const QString& startPath, const char* c
 }
 
 QString answerOf(const QStringList& buttons, int button) {
-    return buttons.isEmpty() ? QString() : QStringLiteral("answered \"%1\"").arg(buttons.value(button));
+    return buttons.isEmpty() ? QString() : QStringLiteral("Answered \"%1\"").arg(buttons.value(button));
 }
 
 }  // namespace
@@ -51,13 +51,13 @@ void FUserInterface::tell(const QString& title, const QString& text) {
 
 QString FUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
     Q_UNUSED(filter)
-    logNoDialog(caption, startPath, "nothing is opened; give its name");
+    logNoDialog(caption, startPath, "Nothing is opened; give its name");
     return {};
 }
 
 QString FUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
     Q_UNUSED(filter)
-    logNoDialog(caption, startPath, "nothing is saved; give its name");
+    logNoDialog(caption, startPath, "Nothing is saved; give its name");
     return {};
 }
 

@@ -29,8 +29,8 @@ bool readEntries(const QString& creator, const QString& text, QList<FExpr<FEntry
     const QString name = QStringLiteral("entries");
     QString saved = creator + QLatin1Char(' ') + name + QStringLiteral("() {\n") + text + QStringLiteral("\n}\n");
     if (parseScript(saved, name).statements.size() > 1) {
-        FLogMsg::error(name, QStringLiteral("the text holds more than the entries of one definition"),
-                       QStringLiteral("the entries stay as they were"));
+        FLogMsg::error(name, QStringLiteral("the text contains more than the entries of one definition"),
+                       QStringLiteral("The entries stay unchanged"));
         return false;
     }
     const FHistoryBlocker blocker;

@@ -18,7 +18,7 @@ void FEntityLinks::replace(const FManaged& owner, QList<FExpr<FEntity>>& list, c
         } else {
             FCmd::warnNow(owner.getClass(),
                           QStringLiteral("%1 would depend on itself with %2").arg(owner.getName(), entity.toString()),
-                          QStringLiteral("it is left out"));
+                          QStringLiteral("It is left out"));
         }
     }
 }

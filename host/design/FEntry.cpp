@@ -73,8 +73,9 @@ bool FEntry::setValue(const FExprBase& value) {
     FHistory::instance()->record(this);
     if (!mValue.assignFor(this, taken)) {
         FCmd::warnNow(getClass(),
-                      QStringLiteral("entry \"%1\" would depend on itself if it were %2; its value stays %3")
-                          .arg(getFullName(), taken.toHistoryString(), mValue.toHistoryString()));
+                      QStringLiteral("entry \"%1\" would depend on itself if it were %2")
+                          .arg(getFullName(), taken.toHistoryString()),
+                      QStringLiteral("Its value stays %1").arg(mValue.toHistoryString()));
         return false;
     }
     if (mayHaveGiven != mayGiveFileName()) {

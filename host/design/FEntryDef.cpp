@@ -22,10 +22,10 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
     if (!mayHold(parent)) {
         FLogMsg::warning(
             QStringLiteral("FEntryDef"),
-            QStringLiteral("entry \"%1\" has no definition or group of one, of at most %2 levels, to stand in")
+            QStringLiteral("entry \"%1\" isn't in a definition, or in a group of one with at most %2 levels")
                 .arg(name)
                 .arg(mostEntryLevels),
-            QStringLiteral("not created"));
+            QStringLiteral("It isn't created"));
         return nullptr;
     }
     const FExpr<FEntryBase> handle =

@@ -65,10 +65,11 @@ bool FEntryTree::mayMakeOneMore(const FEntryDef& definition) {
         const bool isOwn = mCount > mostEntries;
         FCmd::warnNow(QStringLiteral("FConfiguration"),
                       QStringLiteral("the counts of its entries would make more than %1 entries in %2; stopped at "
-                                     "\"%3\"; lower the counts")
+                                     "\"%3\"")
                           .arg(isOwn ? mostEntries : mostInAll)
                           .arg(isOwn ? QStringLiteral("a configuration") : QStringLiteral("all configurations"),
-                               definition.getFullName()));
+                               definition.getFullName()),
+                      QStringLiteral("Lower the counts"));
     }
     mStopped = true;
     return false;

@@ -30,7 +30,7 @@ void FFeatureMember::setFeature(const FExpr<FFeatureDefinitionBase>& feature) {
     if (!mFeature.assignFor(this, feature)) {
         FCmd::warnNow(getClass(),
                       QStringLiteral("%1 would depend on itself with %2").arg(getName(), feature.toString()),
-                      QStringLiteral("its feature stays"));
+                      QStringLiteral("Its feature stays unchanged"));
     }
     setOutOfDate(true);
 }

@@ -15,7 +15,7 @@ bool FFileReference::set(FExprBase& member, const FExprBase& value) {
     if (!member.assignFor(this, value)) {
         FCmd::warnNow(getClass(),
                       QStringLiteral("a file name would depend on itself if it were %1").arg(value.toHistoryString()),
-                      QStringLiteral("it stays %1").arg(member.toHistoryString()));
+                      QStringLiteral("It stays %1").arg(member.toHistoryString()));
         return false;
     }
     setOutOfDate(true);

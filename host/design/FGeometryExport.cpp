@@ -74,7 +74,7 @@ bool FGeometryExport::refuse(const FExprBase& object) const {
     FCmd::warnNow(
         getClass(),
         QStringLiteral("the export \"%1\" would depend on itself with %2").arg(mFileName, object.toHistoryString()),
-        QStringLiteral("it isn't exported"));
+        QStringLiteral("It isn't exported"));
     return false;
 }
 

@@ -60,8 +60,9 @@ FParameter* FParameter::create(const FExpr<FScope>& scope, const QString& name, 
 bool FParameter::setValue(const FExprBase& value) {
     recordChange();
     if (!mValue.assignFor(this, value)) {
-        FCmd::warnNow(getClass(), QStringLiteral("%1 would depend on itself if it were %2; its value stays %3")
-                                      .arg(getName(), value.toHistoryString(), mValue.toHistoryString()));
+        FCmd::warnNow(getClass(),
+                      QStringLiteral("%1 would depend on itself if it were %2").arg(getName(), value.toHistoryString()),
+                      QStringLiteral("Its value stays %1").arg(mValue.toHistoryString()));
         return false;
     }
     setOutOfDate(true);

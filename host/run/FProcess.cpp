@@ -1,5 +1,6 @@
 #include "host/run/FProcess.h"
 
+#include "host/core/FLogMsg.h"
 #include "host/run/FProcessText.h"
 #include "host/run/FProgramSearch.h"
 
@@ -60,6 +61,7 @@ void FProcess::start() {
         return;
     }
     mState = State::Running;
+    FLogMsg::endLine();
     if (prepareEnvironment() && findProgram() && findSupervisor()) {
         mSupervisor.setArguments(supervisorArguments());
         mSupervisor.start();

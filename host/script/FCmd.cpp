@@ -179,7 +179,7 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
 
 void FCmd::warn(const QString& message, const QString& consequence) const {
     mHasWarned = true;
-    FLogMsg::warning(mName, message, consequence.isEmpty() ? QStringLiteral("result is NULL") : consequence,
+    FLogMsg::warning(mName, message, consequence.isEmpty() ? QStringLiteral("The result is NULL") : consequence,
                      mPlace.toString(mFile));
 }
 

@@ -108,6 +108,8 @@ bool FCmdInput::runBody(const FSyntaxBody& body) {
         const bool done = runStatement(statement);
         if (FHistory::instance()->inTransaction()) {
             emit FChanges::instance()->statementDone();
+        } else {
+            FLogMsg::endLine();
         }
         if (mExiting) {
             return true;
@@ -201,7 +203,7 @@ std::optional<bool> FCmdInput::evaluateCondition(const FSyntaxExpr& expression) 
     const auto* flag = dynamic_cast<const FBool*>(valueObject(*value));
     if (!flag) {
         FLogMsg::warning(expression.place.toString(mFile), QStringLiteral("the condition is neither true nor false"),
-                         QStringLiteral("taken as false"));
+                         QStringLiteral("It is taken as false"));
     }
     return step.end(true) ? std::optional<bool>(flag && flag->getValue()) : std::nullopt;
 }

@@ -38,7 +38,7 @@ QString FCmdRow::className() const {
 bool FCmdRow::mayTake(const Values& values, const FObject& receiver) const {
     const QString reason = fault ? fault(values) : QString();
     if (!reason.isEmpty()) {
-        FCmd::warnNow(receiver.toString(), reason, QStringLiteral("it stays unchanged"));
+        FCmd::warnNow(receiver.toString(), reason, QStringLiteral("It stays unchanged"));
     }
     return reason.isEmpty();
 }

@@ -30,6 +30,7 @@ void print(const std::vector<FExprBase>& values) {
     for (const FExprBase& value : values) {
         texts.append(plainText(value));
     }
+    FLogMsg::endLine();
     std::cout << texts.join(QLatin1Char(' ')).toStdString() << std::endl;
 }
 

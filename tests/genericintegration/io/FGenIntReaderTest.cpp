@@ -83,8 +83,8 @@ TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsReported) {
     EXPECT_EQ(
         log(),
         QStringList{"warning: out1: the anchor \"Drag\" of the value \"drag\" isn't in out.dat; 3 was read from line "
-                    "2, counted from the top of the file (look at the file of the run and correct the "
-                    "anchor)"});
+                    "2, counted from the top of the file. look at the file of the run and correct the "
+                    "anchor"});
 }
 
 TEST_F(FGenIntReaderTest, aFileThatCantBeReadLeavesTheTableUnchanged) {
@@ -94,13 +94,13 @@ TEST_F(FGenIntReaderTest, aFileThatCantBeReadLeavesTheTableUnchanged) {
     parse(QString());
     parse(folder.path());
     EXPECT_TRUE(logHolds("FGenIntReader: Could not open file " + folder.path("out.dat") +
-                         " for reading (parsing process aborted)"));
+                         " for reading. parsing process aborted"));
     ASSERT_EQ(::mkfifo(qPrintable(folder.path("out.dat")), 0600), 0);
     parse(folder.path());
     QFile::remove(folder.path("out.dat"));
     folder.write("out.dat", "");
     parse(folder.path());
-    EXPECT_TRUE(logHolds("FGenIntReader: Empty content, nothing to parse (parsing process aborted)"));
+    EXPECT_TRUE(logHolds("FGenIntReader: Empty content, nothing to parse. parsing process aborted"));
     file->setFileName("../out.dat");
     parse(folder.path() + "/");
     EXPECT_TRUE(logHolds("leads out of the result directory"));

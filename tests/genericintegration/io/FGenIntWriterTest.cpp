@@ -47,8 +47,9 @@ TEST_F(FGenIntWriterTest, valuesReplaceTagsWhateverTheirKind) {
     ASSERT_TRUE(write()) << logText();
     EXPECT_EQ(folder.read("sub/in.dat"), "s=8.5\r\nn=a \\ <entry>name</entry> o=true x=.");
     EXPECT_EQ(folder.read("tail.dat"), "a");
-    EXPECT_EQ(log(),
-              QStringList{"Generic Integration Writer: Entry none is not part of configuration conf (Entry skipped)"});
+    EXPECT_EQ(
+        log(),
+        QStringList{"note: Generic Integration Writer: Entry none is not part of configuration conf. Entry skipped"});
     run("p.setValue(6)");
     ASSERT_TRUE(write());
     EXPECT_TRUE(folder.read("sub/in.dat").startsWith("s=12.5\r\n"));
@@ -142,8 +143,8 @@ TEST_F(FGenIntWriterTest, aFileThatCantBeOpenedEndsTheExport) {
     add("blocked.dat", "2");
     add("last.dat", "3");
     EXPECT_FALSE(write());
-    EXPECT_EQ(log(), QStringList{"Generic Integration Writer: Could not open file " + folder.path("blocked.dat") +
-                                 " for writing. (Writing process aborted.)"});
+    EXPECT_EQ(log(), QStringList{"note: Generic Integration Writer: Could not open file " + folder.path("blocked.dat") +
+                                 " for writing. Writing process aborted."});
     EXPECT_EQ(folder.read("first.dat"), "1");
     EXPECT_FALSE(QFile::exists(folder.path("last.dat")));
 }

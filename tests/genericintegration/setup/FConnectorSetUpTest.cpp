@@ -104,7 +104,7 @@ TEST_F(FConnectorSetUpTest, aConnectorCantDependOnItself) {
     ASSERT_TRUE(
         run("configurationGenInt.setEntryValue(\"e\", getAttribute(c, \"setResultsPath\")); c.setComputation(other)"));
     EXPECT_EQ(computationOf("c"), "NULL");
-    EXPECT_TRUE(logHolds("Its computation can't be other, which depends on this connector")) << logText();
+    EXPECT_TRUE(logHolds("its computation can't be other, which depends on this connector")) << logText();
 }
 
 TEST_F(FConnectorSetUpTest, aResultFileIsChosenOnlyInAWindow) {

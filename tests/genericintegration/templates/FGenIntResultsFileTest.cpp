@@ -65,7 +65,7 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
     EXPECT_EQ(copy->getValues()->count(), 1);
     EXPECT_EQ(log().size(), 2) << "a copy isn't told of";
     run("out1.setValues([\"v\", [\"v\", 0, 0, \"\", \"Frist\", \"FDouble\", \"\"]])");
-    EXPECT_TRUE(logHolds("test:1:6: value 0 of out1 is no list"));
+    EXPECT_TRUE(logHolds("test:1:6: setValues: value 0 of out1 is no list"));
     EXPECT_TRUE(logHolds("value 1 of out1 has the occurrence \"Frist\""));
     EXPECT_EQ(FExpr<FGenIntResultsFileValue>(copy->getValues()->at(0))->mName, "");
 }

@@ -53,7 +53,7 @@ TEST_F(FUserInterfaceTest, aClosedDialogAnswersWithItsEscapeButNoDialogWithTheDe
     EXPECT_EQ(answers(1), (QList<int>{0, 0}));
     EXPECT_EQ(FIO::warning(nullptr, "T", "only told"), 0);
     EXPECT_EQ(log().size(), 3);
-    EXPECT_TRUE(logHolds("text!") && logHolds("answered \"Yes\"") && !logHolds("answered \"\"")) << logText();
+    EXPECT_TRUE(logHolds("text!") && logHolds("Answered \"Yes\"") && !logHolds("Answered \"\"")) << logText();
     FClosed windows;
     EXPECT_EQ(answers(1), (QList<int>{1, 1})) << "the second button";
     windows.answer = 3;

@@ -24,10 +24,11 @@ TEST_F(FConfigurationTest, anUnknownPathIsToldWithTheNearestOne) {
     ASSERT_TRUE(
         run("r = conf.setEntryValue(\"Geometry|spam\", 1)\nif (r != NULL) { exit(1) }\n"
             "s = conf.getEntryValue(\"Height\")\nif (s != NULL) { exit(1) }"));
-    EXPECT_EQ(log(), (QStringList{"warning: test:1:10: conf has no entry \"Geometry|spam\" (did you mean "
-                                  "\"Geometry|span\"?) (result is NULL)",
-                                  "warning: test:3:10: conf has no entry \"Height\" (did you mean \"height\"?) "
-                                  "(result is NULL)"}));
+    EXPECT_EQ(log(), (QStringList{
+                         "warning: test:1:10: setEntryValue: conf has no entry \"Geometry|spam\" (did you mean "
+                         "\"Geometry|span\"?). The result is NULL",
+                         "warning: test:3:10: getEntryValue: conf has no entry \"Height\" (did you mean \"height\"?). "
+                         "The result is NULL"}));
 }
 
 TEST_F(FConfigurationTest, entriesCanDependOnTheirNeighbours) {

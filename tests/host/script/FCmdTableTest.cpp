@@ -67,7 +67,7 @@ TEST_F(FCmdTableTest, aPlainAttributeNeedsOneDeclaration) {
 
     const int steps = FHistory::instance()->getLabels().size();
     EXPECT_TRUE(run("a.setWeight(-1)"));
-    EXPECT_TRUE(logHolds("too light (it stays unchanged)")) << logText();
+    EXPECT_TRUE(logHolds("too light. It stays unchanged")) << logText();
     EXPECT_EQ(FHistory::instance()->getLabels().size(), steps);
     EXPECT_TRUE(run("undo()\nundo()"));
     EXPECT_EQ(attribute("setWeight"), "1");

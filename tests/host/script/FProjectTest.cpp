@@ -102,7 +102,7 @@ TEST_F(FProjectTest, namesInARingComeBack) {
 
 TEST_F(FProjectTest, theVersionBeforeIsKept) {
     EXPECT_FALSE(save());
-    EXPECT_TRUE(logHolds("the project has no file yet (give a file name)"));
+    EXPECT_TRUE(logHolds("the project has no file yet"));
     saveAndChange();
     ASSERT_TRUE(save());
     ASSERT_TRUE(save());

@@ -7,6 +7,7 @@
 #include "genericintegration/setup/FConnectorClass.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/setup/FPreviewCommands.h"
 #include "genericintegration/setup/FResultsGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
@@ -16,7 +17,7 @@ namespace {
 
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
                       FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FResultsGenInt,
-                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass>
+                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass, FPreviewCommands>
     types;
 
 }  // namespace

@@ -7,29 +7,25 @@
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
 
-FColumn FColumn::missing(qint64 offset, FFoundFlags flags) {
+FColumn FColumn::missing(qint64 offset) {
     FColumn column;
     column.range = {offset, offset};
-    column.flags = flags;
     return column;
 }
 
-FColumn FColumn::found(std::string_view text, FByteRange number, FFoundFlags flags) {
+FColumn FColumn::found(std::string_view text, FByteRange number) {
     FColumn column;
     column.exists = true;
     column.range = number;
-    column.flags = flags;
     if (const std::optional<double> value = FNumberPattern::toDouble(number.of(text))) {
         column.isNumber = true;
         column.number = *value;
-    } else {
-        column.flags |= FSuspicion::ofColumn(FUtf8::decode(number.of(text)));
     }
     return column;
 }
 
 FColumn FColumn::found(const QString& text, qint64 offset, int units) {
-    FColumn column = missing(offset, {});
+    FColumn column = missing(offset);
     column.exists = true;
     column.text = text;
     column.units = units;
@@ -39,6 +35,7 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units) {
     }
     if (!std::isfinite(column.number)) {
         column.flags |= FSuspicion::ofColumn(text);
+        column.oddity = text.trimmed();
     }
     return column;
 }
@@ -47,6 +44,7 @@ FFoundValue FColumn::value(const FResultText& in, qint64 line, qint64 lineBegin)
     FFoundValue value;
     value.line = line + 1;
     value.flags = flags;
+    value.oddity = oddity;
     value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
     value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);
     if (exists) {
@@ -54,7 +52,7 @@ FFoundValue FColumn::value(const FResultText& in, qint64 line, qint64 lineBegin)
         const qint64 begin = index.utf16At(range.begin);
         value.number = number;
         value.range = range;
-        value.separated = text;
+        value.text = text;
         value.column = begin - index.utf16At(lineBegin) + units + 1;
         value.length = index.utf16At(range.end) - begin + text.size();
     }

@@ -15,12 +15,13 @@ struct FColumn {
     FByteRange range{};   //!< in the whole text: the column if it was found as a number; else an empty range before it
     QString text{};       //!< of a column between separators
     int units = 0;        //!< UTF-16 units from the start of the range to the column
-    FFoundFlags flags{};  //!< only suspiciousFlags
+    FFoundFlags flags{};  //!< only of the line
+    QString oddity{};     //!< the text that raised a flag
 
-    static FColumn missing(qint64 offset, FFoundFlags flags);
+    static FColumn missing(qint64 offset);
 
-    /** A number. Its text is decoded only when needed. */
-    static FColumn found(std::string_view text, FByteRange number, FFoundFlags flags);
+    /** A number, without flags. Its text is decoded only when needed. */
+    static FColumn found(std::string_view text, FByteRange number);
 
     /** A text between separators, which is read as a number. */
     static FColumn found(const QString& text, qint64 offset, int units);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QRegExp>
 #include <QString>
 
 #include <optional>
@@ -21,7 +20,7 @@ class FColumnCursor {
      *
      * @param mayBeSuspicious  false if FSuspicion::ofText() can't find anything in the line, to save the check
      */
-    FColumnCursor(std::string_view text, FByteRange line, const QRegExp* separator, bool mayBeSuspicious = true);
+    FColumnCursor(std::string_view text, FByteRange line, const FSeparator* separator, bool mayBeSuspicious = true);
     Q_DISABLE_COPY_MOVE(FColumnCursor)
 
     /** Returns a column; below 0 counts as 0. Each call must be for the same column as the last one, or a later one. */
@@ -31,6 +30,8 @@ class FColumnCursor {
     FColumn seekNumber(int column);
     FColumn seekSeparated(int column);
     void passNumber();
+    void noteShift(FFoundFlags flags, const QString& oddity);
+    void seekFused(int begin, int end);
 
     std::string_view mText;
     FByteRange mLine;
@@ -40,5 +41,7 @@ class FColumnCursor {
     int mPassed = 0;  //!< number of numbers or separators passed
     bool mEnded = false;
     bool mMayBeSuspicious;
-    FFoundFlags mFlags{};
+    bool mIsSplitAtBlanks = false;
+    FFoundFlags mFlags{};  //!< of the line so far
+    QString mOddity;       //!< the text that raised the first of them
 };

@@ -15,7 +15,6 @@
 
 #include <QFile>
 
-#include <cmath>
 #include <utility>
 
 FClassData FGenIntReader::mClass("FGenIntReader", &FObject::mClass);
@@ -46,29 +45,6 @@ QString aborted() {
     return QStringLiteral("parsing process aborted");
 }
 
-void warnOfPattern(const QString& source, const FGenIntResultsFile& file, const QString& error) {
-    if (!error.isEmpty()) {
-        FLogMsg::warning(source,
-                         QStringLiteral("the separator \"%1\" of %2 isn't a valid regular expression: %3")
-                             .arg(file.getRegExprSeparator(), file.getName(), error),
-                         QStringLiteral("it separates nothing"));
-    }
-}
-
-// Such a number looks like any other, but most likely isn't the one that was marked.
-void warnOfMissingAnchor(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value, const FFoundValue& found,
-                         const QString& text) {
-    if (found.flags.testFlag(FFoundFlag::AnchorMissing) && !std::isnan(found.number)) {
-        FLogMsg::warning(
-            file.getName(),
-            QStringLiteral("the anchor \"%1\" of the value \"%2\" isn't in %3; %4 was read from line %5, counted from "
-                           "the %6 of the file")
-                .arg(value.mAnchor, value.mName, file.getFileName(), text, QString::number(found.line),
-                     value.mLine < 0 ? QStringLiteral("bottom") : QStringLiteral("top")),
-            QStringLiteral("look at the file of the run and correct the anchor"));
-    }
-}
-
 }  // namespace
 
 FGenIntReader* FGenIntReader::instance() {
@@ -93,7 +69,6 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
     if (!text) {
         return;
     }
-    warnOfPattern(getClass(), *file.ptr(), search->patternError());
     const FFoundValues found = search->find(*text);
     if (!text->isWhole()) {
         FLogMsg::info(getClass(),
@@ -109,7 +84,6 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
         const QString foundText = result.textIn(*text);
         rows.append(value, result, foundText);
         if (!directory.isEmpty()) {
-            warnOfMissingAnchor(*file.ptr(), value, result, foundText);
             importFile(value, directory, foundText);
         }
     }
@@ -199,7 +173,9 @@ int FGenIntReader::findValue(int& start, int& length, QRegExp& separator, int li
     if (line == 0 && !anchor.isEmpty()) {
         start = text.indexOf(anchor, 0, Qt::CaseInsensitive) + anchor.length();
     }
-    FSeparatorWalk walk(separator, text, start);
+    FSeparatorMatches::startText();
+    const std::shared_ptr<const FSeparator> known = FSeparator::of(separator.pattern());
+    FSeparatorWalk walk(*known, text, start);
     const bool passed = walk.pass(column);
     start = passed ? walk.start() : -1;
     const int match = passed ? walk.next() : -1;
@@ -208,7 +184,7 @@ int FGenIntReader::findValue(int& start, int& length, QRegExp& separator, int li
     }
     if (findNumbers) {
         start = match;
-        length = separator.matchedLength();
+        length = walk.matchedLength();
     } else {
         length = (match < 0 ? text.length() : match) - start;
     }

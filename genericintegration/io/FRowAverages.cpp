@@ -29,6 +29,8 @@ qint64 rowsBegin(const FResultText& text, quint32 rows) {
 
 void FRowAverages::add(size_t value, int column, quint32 rows) {
     mAverages.push_back({value, column, rows, rowsBegin(mText, rows)});
+    mAverages.back().kept = std::make_shared<FAverageRows>();
+    mAverages.back().kept->wanted = rows;
 }
 
 void FRowAverages::read(std::vector<FFoundValue>& found) {
@@ -48,7 +50,8 @@ void FRowAverages::readRows() {
         offset = std::min(offset, average.begin);
     }
     const FLineWindow window(mText, {offset, size});
-    while (offset < size) {
+    qint64 number = offset < size ? mText.index().lineAt(offset) : 0;
+    for (; offset < size; ++number) {
         const FByteRange line = window.lineFrom(offset);
         if (line.size() == 0) {
             continue;
@@ -60,18 +63,32 @@ void FRowAverages::readRows() {
                 continue;
             }
             const bool isSame = previous != nullptr && previous->column == average.column;
-            addRow(average, isSame ? previous->last : cursor.seek(average.column));
+            addRow(average, isSame ? previous->last : cursor.seek(average.column), number + 1, line.begin);
             previous = &average;
         }
     }
 }
 
-void FRowAverages::addRow(Average& average, FColumn column) {
+void FRowAverages::addRow(Average& average, FColumn column, qint64 line, qint64 lineBegin) const {
     average.last = std::move(column);
-    average.flags |= average.last.flags;
-    if (average.last.isNumber) {
-        average.sum += average.last.number;
-        ++average.count;
+    const FColumn& last = average.last;
+    if (last.flags && !average.flags) {
+        average.oddity = last.oddity;
+        average.oddLine = line;
+    }
+    average.flags |= last.flags;
+    if (!last.isNumber) {
+        return;
+    }
+    average.sum += last.number;
+    ++average.count;
+    FAverageRows& kept = *average.kept;
+    if (kept.rows.size() < FAverageRows::most) {
+        const std::string_view text = last.range.of(mText.text());
+        kept.texts += text.empty() ? last.text.toStdString() : std::string(text);
+        const qint64 column =
+            mText.index().utf16At(last.range.begin) - mText.index().utf16At(lineBegin) + last.units + 1;
+        kept.rows.push_back({line, column, last.number, last.flags, static_cast<qint64>(kept.texts.size())});
     }
 }
 
@@ -84,7 +101,12 @@ FFoundValue FRowAverages::result(const Average& average) const {
     const double mean = average.sum / average.count;
     value.number = std::isnan(mean) ? std::numeric_limits<double>::quiet_NaN() : mean;
     value.flags = average.flags;
-    value.flags.setFlag(FFoundFlag::ColumnMissing, average.count == 0);
+    value.flags.setFlag(FFoundFlag::NoRows, average.rows == 0);
+    value.flags.setFlag(FFoundFlag::ColumnMissing, average.count == 0 && average.rows > 0);
     value.flags.setFlag(FFoundFlag::FewerRows, average.count < average.rows);
+    value.oddity = average.oddity;
+    value.oddLine = average.oddLine;
+    average.kept->count = average.count;
+    value.rows = average.kept;
     return value;
 }

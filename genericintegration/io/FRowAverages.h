@@ -2,13 +2,14 @@
 
 #include <QtGlobal>
 
+#include <memory>
 #include <vector>
 
 #include "genericintegration/io/FColumn.h"
 #include "genericintegration/io/FFoundValue.h"
 
 class FResultText;
-class QRegExp;
+class FSeparator;
 
 /**
  * Averages of columns over the last rows of a text, all read in one pass over the rows.
@@ -20,7 +21,7 @@ class QRegExp;
 class FRowAverages {
  public:
     /** A null separator means find-numbers mode. Text and separator must outlive this object. */
-    FRowAverages(const FResultText& text, const QRegExp* separator) : mText(text), mSeparator(separator) {}
+    FRowAverages(const FResultText& text, const FSeparator* separator) : mText(text), mSeparator(separator) {}
 
     /** Adds the average for a value, given by its index. */
     void add(size_t value, int column, quint32 rows);
@@ -36,14 +37,17 @@ class FRowAverages {
         qint64 begin;
         FColumn last{};
         FFoundFlags flags{};
+        QString oddity{};  //!< of the first row with flags
+        qint64 oddLine = -1;
+        std::shared_ptr<FAverageRows> kept{};
         double sum = 0;
         quint32 count = 0;
     };
     void readRows();
-    static void addRow(Average& average, FColumn column);
+    void addRow(Average& average, FColumn column, qint64 line, qint64 lineBegin) const;
     FFoundValue result(const Average& average) const;
 
     const FResultText& mText;
-    const QRegExp* mSeparator;
+    const FSeparator* mSeparator;
     std::vector<Average> mAverages;
 };

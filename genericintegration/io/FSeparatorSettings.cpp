@@ -1,6 +1,6 @@
 #include "genericintegration/io/FSeparatorSettings.h"
 
-QRegExp FSeparatorSettings::pattern() const {
+QString FSeparatorSettings::expression() const {
     if (findNumbers) {
         return {};
     }
@@ -11,5 +11,5 @@ QRegExp FSeparatorSettings::pattern() const {
     if (!text.isEmpty() && !regularExpression.isEmpty()) {
         text += QLatin1Char('|');
     }
-    return QRegExp(text + regularExpression);
+    return text + regularExpression;
 }

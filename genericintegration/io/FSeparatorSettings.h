@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QRegExp>
 #include <QString>
 
 /** How a line is divided into columns. */
@@ -9,8 +8,8 @@ struct FSeparatorSettings {
     bool spacesAndTabs = false;   //!< white space separates columns
     QString regularExpression{};  //!< separates columns, as does white space if that is set as well
 
-    /** The pattern of a separator; empty in find-numbers mode. An invalid pattern never matches. */
-    QRegExp pattern() const;
+    /** The regular expression of a separator; empty in find-numbers mode. */
+    QString expression() const;
 
     bool operator==(const FSeparatorSettings&) const = default;
 };

@@ -6,7 +6,7 @@ bool FSeparatorWalk::pass(int count) {
         if (match < 0) {
             return false;
         }
-        const int after = match + mSeparator.matchedLength();
+        const int after = match + mMatches.matchedLength();
         // An empty match at the same place repeats forever.
         if (after == mStart) {
             return true;

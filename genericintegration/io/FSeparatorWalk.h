@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QRegExp>
 #include <QString>
+
+#include "genericintegration/io/FSeparatorMatches.h"
 
 /** Passes over the separators of a line. */
 class FSeparatorWalk {
  public:
     /** Separator and text must outlive this object. */
-    FSeparatorWalk(const QRegExp& separator, const QString& text, int start = 0)
-        : mSeparator(separator), mText(text), mStart(start) {}
+    FSeparatorWalk(const FSeparator& separator, const QString& text, int start = 0)
+        : mMatches(separator, text), mStart(start) {}
 
     /** Passes a number of separators. False if there are fewer. */
     bool pass(int count);
@@ -17,10 +18,14 @@ class FSeparatorWalk {
     int start() const { return mStart; }
 
     /** Start of the next separator, or -1. */
-    int next() const { return mSeparator.indexIn(mText, mStart); }
+    int next() { return mMatches.find(mStart); }
+    /** Length of the separator that `next` found last. */
+    int matchedLength() const { return mMatches.matchedLength(); }
+
+    /** Whether the line was given up because it may take too long: it counts as one column. */
+    bool isGivenUp() const { return mMatches.isGivenUp(); }
 
  private:
-    const QRegExp& mSeparator;
-    const QString& mText;
+    FSeparatorMatches mMatches;
     int mStart;
 };

@@ -2,27 +2,20 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
+#include "genericintegration/io/FAsciiText.h"
 #include "genericintegration/io/FNumberPattern.h"
+#include "genericintegration/io/FNumberSurroundings.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
+
+using namespace FAsciiText;
 
 namespace FSuspicion {
 namespace {
 
-// Programs print no longer numbers.
-constexpr qint64 longest = 64;
-
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isSign(char c) {
-    return c == '+' || c == '-';
-}
-constexpr char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-constexpr bool isLetter(char c) {
-    return (lower(c) >= 'a' && lower(c) <= 'z') || c == '_';
-}
+constexpr int longest = 64;
 
 enum class Kind : unsigned char { Other, Digit, Letter, Star };
 
@@ -46,119 +39,106 @@ bool isSameRun(Kind kind, Kind next) {
     return next == kind || (kind == Kind::Letter && next == Kind::Digit);
 }
 
-/** The characters around a number. */
-class FSurroundings {
- public:
-    FSurroundings(std::string_view text, FByteRange number)
-        : mText(text), mNumber(number), mDigits(number.of(text).substr(0, longest)) {}
-
-    FFoundFlags flags() const {
-        FFoundFlags flags;
-        flags.setFlag(FFoundFlag::CutExponent, hasCutExponent());
-        flags.setFlag(FFoundFlag::DecimalComma, hasCommaBehind() || hasCommaBefore());
-        flags.setFlag(FFoundFlag::TouchesText, !hasCutExponent() && (touchesBefore() || touchesBehind()));
-        flags.setFlag(FFoundFlag::Stars, at(mNumber.end) == '*' && at(mNumber.end + 1) == '*');
-        return flags;
-    }
-
- private:
-    char at(qint64 offset) const {
-        return offset >= 0 && offset < static_cast<qint64>(mText.size()) ? mText[static_cast<size_t>(offset)] : ' ';
-    }
-    bool isWhole() const { return mDigits.find_first_of(".eE") == std::string_view::npos; }
-    bool hasExponent() const { return mDigits.find_first_of("eE") != std::string_view::npos; }
-
-    qint64 digitsEnd(qint64 offset) const {
-        const qint64 limit = offset + longest;
-        while (offset < limit && isDigit(at(offset))) {
-            ++offset;
-        }
-        return offset;
-    }
-
-    bool hasCutExponent() const {
-        if (hasExponent()) {
-            return false;
-        }
-        const qint64 behind = mNumber.end;
-        if (lower(at(behind)) == 'd') {
-            return isDigit(at(behind + 1)) || (isSign(at(behind + 1)) && isDigit(at(behind + 2)));
-        }
-        return !isWhole() && isSign(at(behind)) && isDigit(at(behind + 1)) && at(digitsEnd(behind + 1)) != '.';
-    }
-
-    bool touchesBefore() const {
-        const char before = at(mNumber.begin - 1);
-        return isLetter(before) || isDigit(before) || (before == '.' && isDigit(at(mNumber.begin - 2)));
-    }
-
-    bool touchesBehind() const {
-        const char behind = at(mNumber.end);
-        return (isSign(behind) || behind == '.') && isDigit(at(mNumber.end + 1));
-    }
-
-    // With another comma or a point next to them, the commas separate numbers.
-    bool hasCommaBehind() const {
-        if (!isWhole() || at(mNumber.begin - 1) == ',' || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1))) {
-            return false;
-        }
-        const char behind = at(digitsEnd(mNumber.end + 1));
-        return behind != ',' && behind != '.';
-    }
-
-    bool hasCommaBefore() const {
-        if (!isWhole() || at(mNumber.end) == ',' || at(mNumber.begin - 1) != ',') {
-            return false;
-        }
-        qint64 begin = mNumber.begin - 1;
-        while (mNumber.begin - begin < longest && isDigit(at(begin - 1))) {
-            --begin;
-        }
-        return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
-    }
-
-    std::string_view mText;
-    FByteRange mNumber;
-    std::string_view mDigits;
-};
-
 bool isNanOrInf(std::string_view word) {
-    constexpr std::string_view words[] = {"nan", "inf", "infinity"};
+    constexpr std::string_view words[] = {"nan", "inf", "infinity", "qnan", "snan"};
     const auto same = [](char left, char right) { return lower(left) == right; };
     return std::any_of(std::begin(words), std::end(words), [&](std::string_view candidate) {
         return std::equal(word.begin(), word.end(), candidate.begin(), candidate.end(), same);
     });
 }
 
-}  // namespace
-
-FFoundFlags ofNumber(std::string_view text, FByteRange number) {
-    const auto isBlank = [text](qint64 offset) {
-        return offset < 0 || offset >= static_cast<qint64>(text.size()) || text[static_cast<size_t>(offset)] == ' ' ||
-               text[static_cast<size_t>(offset)] == '\n';
-    };
-    if (isBlank(number.begin - 1) && isBlank(number.end)) {
-        return {};
+/** A word or a sequence of asterisks in a text, with the line around it. */
+class FRunInLine {
+ public:
+    FRunInLine(std::string_view text, FByteRange run) : mText(text), mRun(run) {
+        mBegin = run.begin;
+        while (mBegin > std::max<qint64>(run.begin - most, 0) && at(mBegin - 1) != '\n') {
+            --mBegin;
+        }
+        mEnd = run.end;
+        while (mEnd < std::min(run.end + most, static_cast<qint64>(text.size())) && at(mEnd) != '\n') {
+            ++mEnd;
+        }
     }
-    return FSurroundings(text, number).flags();
+
+    /** Asterisks in place of a number; not those of a title, a comment or a line between parts. */
+    bool isNumber() const {
+        constexpr qint64 widestNumber = 24;
+        const char before = lastOf({mBegin, mRun.begin});
+        const char after = firstOf({mRun.end, mEnd});
+        const bool startsWithStar = firstOf({mBegin, mEnd}) == '*';
+        if (before == '\n' && after == '\n') {
+            return mRun.size() > 2 && mRun.size() <= widestNumber;
+        }
+        if (before == '\n') {
+            return (isDigit(after) || isSign(after) || after == '.') && lastOf({mBegin, mEnd}) != '*';
+        }
+        return isDigit(before) || !startsWithStar;
+    }
+
+    /** A word that isn't the level of a message, such as "[INF]" or "INF:". */
+    bool isValue() const { return at(mRun.begin - 1) != '[' && at(mRun.end) != ']' && at(mRun.end) != ':'; }
+
+ private:
+    static constexpr qint64 most = 512;
+
+    char at(qint64 offset) const {
+        return offset >= 0 && offset < static_cast<qint64>(mText.size()) ? mText[static_cast<size_t>(offset)] : '\n';
+    }
+    // A line feed if there is none but blanks.
+    char firstOf(FByteRange part) const {
+        while (part.begin < part.end && isBlank(at(part.begin))) {
+            ++part.begin;
+        }
+        return part.begin < part.end ? at(part.begin) : '\n';
+    }
+    char lastOf(FByteRange part) const {
+        while (part.begin < part.end && isBlank(at(part.end - 1))) {
+            --part.end;
+        }
+        return part.begin < part.end ? at(part.end - 1) : '\n';
+    }
+
+    std::string_view mText;
+    FByteRange mRun;
+    qint64 mBegin = 0;
+    qint64 mEnd = 0;
+};
+
+FFoundFlags ofRun(std::string_view text, FByteRange run, Kind kind) {
+    if (kind == Kind::Star) {
+        return run.size() > 1 && FRunInLine(text, run).isNumber() ? FFoundFlag::Stars : FFoundFlags();
+    }
+    return isNanOrInf(run.of(text)) && FRunInLine(text, run).isValue() ? FFoundFlag::NanOrInf : FFoundFlags();
 }
 
-FFoundFlags ofText(std::string_view text) {
+}  // namespace
+
+FFoundFlags ofNumber(std::string_view text, FByteRange number, qint64 lineBegin) {
+    const FNumberSurroundings around(text, number, lineBegin);
+    return around.arePlain() ? FFoundFlags() : around.flags();
+}
+
+bool mayShift(std::string_view text, qint64 numberEnd) {
+    return !FNumberSurroundings::isPlainAfter(text, numberEnd);
+}
+
+FFoundFlags ofGap(std::string_view text, FByteRange gap, FByteRange& oddity) {
     FFoundFlags flags;
-    for (size_t end = 0; end < text.size();) {
-        const size_t begin = end++;
-        const Kind kind = kindOf(text[begin]);
+    for (qint64 end = gap.begin; end < gap.end;) {
+        const qint64 begin = end++;
+        const Kind kind = kindOf(text[static_cast<size_t>(begin)]);
         if (kind <= Kind::Digit) {
             continue;
         }
-        while (end < text.size() && isSameRun(kind, kindOf(text[end]))) {
+        while (end < gap.end && isSameRun(kind, kindOf(text[static_cast<size_t>(end)]))) {
             ++end;
         }
-        if (kind == Kind::Star) {
-            flags.setFlag(FFoundFlag::Stars, flags.testFlag(FFoundFlag::Stars) || end - begin > 1);
-        } else if (isNanOrInf(text.substr(begin, end - begin))) {
-            flags |= FFoundFlag::NanOrInf;
+        const FFoundFlags found = ofRun(text, {begin, end}, kind);
+        if (found && oddity.size() == 0) {
+            oddity = {begin, end};
         }
+        flags |= found;
     }
     return flags;
 }
@@ -187,10 +167,67 @@ bool mayBeIn(std::string_view text) {
 }
 
 FFoundFlags ofColumn(const QString& text) {
-    const QByteArray bytes = text.left(static_cast<int>(longest)).toUtf8();
+    const QByteArray bytes = text.left(longest).toUtf8();
     const std::string_view view(bytes.constData(), static_cast<size_t>(bytes.size()));
     const FByteRange number = FNumberPattern::next(view, 0);
-    return number.begin < 0 ? ofText(view) : ofText(view) | ofNumber(view, number);
+    FByteRange oddity{};
+    const FFoundFlags flags = ofGap(view, {0, number.begin < 0 ? bytes.size() : number.begin}, oddity);
+    return number.begin < 0 ? flags : flags | ofNumber(view, number, 0);
+}
+
+FFoundFlags around(const QString& line, int begin, int end) {
+    const int from = std::max(begin - longest, 0);
+    const QByteArray before = line.mid(from, begin - from).toUtf8();
+    const QByteArray number = line.mid(begin, end - begin).toUtf8();
+    const QByteArray text = before + number + line.mid(end, longest).toUtf8();
+    const std::string_view view(text.constData(), static_cast<size_t>(text.size()));
+    const FFoundFlags flags = ofNumber(view, {before.size(), before.size() + number.size()}, 0);
+    FFoundFlags found = flags & (FFoundFlag::SpacedExponent | FFoundFlag::SpacedSign);
+    // A separator that can be part of a number may have cut one.
+    const auto cuts = [&line](int place) {
+        const QChar c = place >= 0 && place < line.size() ? line.at(place) : QChar(' ');
+        return c.isDigit() || c == QLatin1Char('.');
+    };
+    found.setFlag(FFoundFlag::CutAtEdge, cuts(begin - 1) || cuts(end));
+    return found;
+}
+
+QString fusedIn(const QString& part) {
+    static const QRegExp fused(QStringLiteral("\\d*\\.\\d+([Ee][-+]?\\d+)?([-+]\\d*\\.\\d|\\*\\*+)|\\d\\*\\*+"));
+    const bool may =
+        part.contains(QLatin1String("**")) || part.contains(QLatin1Char('-')) || part.contains(QLatin1Char('+'));
+    QRegExp search(fused);
+    if (!may || part.size() > 1000 || search.indexIn(part) < 0) {
+        return {};
+    }
+    return part.mid(search.pos(0)).section(QLatin1Char(' '), 0, 0);
+}
+
+QString beside(std::string_view text, FByteRange number, FFoundFlags flags) {
+    const FNumberSurroundings around(text, number, 0);
+    if (flags & (FFoundFlag::DecimalComma | FFoundFlag::CutAtEdge)) {
+        return around.whole();
+    }
+    if (flags.testFlag(FFoundFlag::SpacedExponent)) {
+        return around.spacedExponent();
+    }
+    const FFoundFlags after = FFoundFlag::CutExponent | FFoundFlag::PointExponent | FFoundFlag::LetterAfter |
+                              FFoundFlag::Stars | FFoundFlag::NanOrInf;
+    return flags & after ? around.after() : around.before();
+}
+
+FFoundFlags ofLine(std::string_view line) {
+    constexpr size_t headSize = 4096;
+    const bool hasZero = line.substr(0, headSize).find('\0') != std::string_view::npos;
+    return hasZero ? FFoundFlag::ZeroBytes : FFoundFlags();
+}
+
+FFoundFlags ofFile(const FResultText& text) {
+    FFoundFlags flags = ofLine(text.text());
+    const size_t size = static_cast<size_t>(text.trimmedSize());
+    const bool isOneLine = size > 0 && text.index().lineFeed(0) < 0;
+    flags.setFlag(FFoundFlag::OnlyCarriageReturns, isOneLine && std::memchr(text.text().data(), '\r', size) != nullptr);
+    return flags;
 }
 
 }  // namespace FSuspicion

@@ -7,19 +7,43 @@
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
 
+class FResultText;
+
 /** Finds signs that a number was cut off or skipped, or isn't a number. They don't change the number. */
 namespace FSuspicion {
 
-/** Signs right before and after a number in a text. */
-FFoundFlags ofNumber(std::string_view text, FByteRange number);
+/** Flags of a number that count as several columns, or as none. */
+constexpr FFoundFlags shiftingFlags = FFoundFlag::CutExponent | FFoundFlag::PointExponent | FFoundFlag::SpacedExponent |
+                                      FFoundFlag::DecimalComma | FFoundFlag::Stars | FFoundFlag::NanOrInf;
 
-/** Signs in a text without a number. */
-FFoundFlags ofText(std::string_view text);
+/** Signs around a number of a line. The line may begin after an anchor. */
+FFoundFlags ofNumber(std::string_view text, FByteRange number, qint64 lineBegin);
 
-/** Whether ofText() may find anything in a part of a text. Fast; may return true without need. */
+/** Whether a number may have shifting flags; a fast check. */
+bool mayShift(std::string_view text, qint64 numberEnd);
+
+/** Signs in a part of a line without a number. `oddity` becomes the range of the first one, if it is empty. */
+FFoundFlags ofGap(std::string_view text, FByteRange gap, FByteRange& oddity);
+
+/** Whether ofGap() may find anything in a part of a text. Fast; may return true without need. */
 bool mayBeIn(std::string_view text);
 
-/** Signs in a column that isn't a finite number. */
+/** Signs in a column between separators that isn't a finite number. */
 FFoundFlags ofColumn(const QString& text);
+
+/** Signs around a number that is a column between separators. */
+FFoundFlags around(const QString& line, int begin, int end);
+
+/** Columns of a part of a line that contain two numbers each: "1.234-5.678", "12.5****". The first one, or empty. */
+QString fusedIn(const QString& part);
+
+/** The text to show for the flags of a number: what is beside it. */
+QString beside(std::string_view text, FByteRange number, FFoundFlags flags);
+
+/** Flags of a line from which a value is read. Fast. */
+FFoundFlags ofLine(std::string_view line);
+
+/** Flags of a whole text; it is unusual for an output file. Fast. */
+FFoundFlags ofFile(const FResultText& text);
 
 }  // namespace FSuspicion

@@ -4,33 +4,7 @@
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/templates/FGenIntResultsFileValue.h"
 
-#include <utility>
-
 namespace {
-
-QStringList oddities(FFoundFlags flags) {
-    static const std::pair<FFoundFlag, const char*> words[] = {
-        {FFoundFlag::AnchorMissing, "anchor not found, counted from the top or the bottom of the file"},
-        {FFoundFlag::LineBeyondEnd, "line beyond the end"},
-        {FFoundFlag::ColumnMissing, "column missing"},
-        {FFoundFlag::NotANumber, "not a number"},
-        {FFoundFlag::FewerRows, "fewer rows than wished"},
-        {FFoundFlag::CutExponent, "number cut before its exponent"},
-        {FFoundFlag::Stars, "asterisks in place of a number"},
-        {FFoundFlag::NanOrInf, "NaN or Inf in the file"},
-        {FFoundFlag::DecimalComma, "decimal comma"},
-        {FFoundFlag::TouchesText, "number touches a letter or another number"}};
-    QStringList texts;
-    if (!flags) {
-        return texts;
-    }
-    for (const auto& [flag, text] : words) {
-        if (flags.testFlag(flag)) {
-            texts.append(QString::fromLatin1(text));
-        }
-    }
-    return texts;
-}
 
 /** The class of the value's type; followed by the text if the type isn't a number. */
 QString tooltip(const FGenIntResultsFileValue& value, const QString& text) {
@@ -51,7 +25,8 @@ void FValueRows::append(const FGenIntResultsFileValue& value, const FFoundValue&
     mHeaders.append(value.mName);
     mTooltips.append(tooltip(value, text));
     mRows.append(QVector<double>{found.number});
-    mOrigins.append({text, found.line, found.column, found.length, oddities(found.flags)});
+    mOrigins.append(found);
+    mOrigins.last().text = text;
 }
 
 void FValueRows::fill(FTableData& table) const {

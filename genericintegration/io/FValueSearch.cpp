@@ -1,6 +1,7 @@
 #include "genericintegration/io/FValueSearch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <optional>
 #include <tuple>
@@ -8,6 +9,8 @@
 
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FRowAverages.h"
+#include "genericintegration/io/FSeparatorMatches.h"
+#include "genericintegration/io/FSuspicion.h"
 #include "host/run/FResultText.h"
 
 namespace {
@@ -44,15 +47,12 @@ FValueSearch::FValueSearch(std::vector<FValueDescription> values, const FSeparat
       mSorted(sorted(mValues)),
       mAnchors(anchorsOf(mValues)),
       mSeparators(separators),
-      mSeparator(separators.pattern()) {}
-
-QString FValueSearch::patternError() const {
-    return mSeparator.isValid() ? QString() : mSeparator.errorString();
-}
+      mSeparator(separators.findNumbers ? nullptr : FSeparator::of(separators.expression())) {}
 
 FFoundValues FValueSearch::find(const FResultText& text) const {
     FFoundValues found;
     found.values.resize(mValues.size());
+    FSeparatorMatches::startText();
     const std::vector<FAnchorPlaces> places = mAnchors.findInTrimmed(text);
     std::vector<Reading> readings;
     readings.reserve(mValues.size());
@@ -71,8 +71,42 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
     }
     read(text, readings, found.values);
     averages.read(found.values);
+    notePlaces(text, places, found.values);
+    noteText(text, found.values);
     found.order = order(text, places);
     return found;
+}
+
+// The line of an anchor follows from that of its value, in most cases, which saves a search for each value.
+void FValueSearch::notePlaces(const FResultText& text, const std::vector<FAnchorPlaces>& places,
+                              std::vector<FFoundValue>& found) const {
+    for (size_t i = 0; i < mValues.size(); ++i) {
+        FFoundValue& value = found[i];
+        value.valueNumber = static_cast<int>(i);
+        value.markLine = mValues[i].line;
+        value.anchor = mValues[i].average ? QString() : mValues[i].anchor.text;
+        const FByteRange anchor = value.anchor.isEmpty() ? FByteRange{-1, -1} : placeOf(mValues[i].anchor, places[i]);
+        if (anchor.begin < 0) {
+            continue;
+        }
+        const qint64 lineBegin = text.index().lineBegin(anchor.begin);
+        const bool follows = value.line > 0 && !value.flags.testFlag(FFoundFlag::LineBeyondEnd) &&
+                             (mValues[i].line >= 0 || lineBegin > 0) && !value.anchor.contains(QLatin1Char('\n'));
+        value.anchorLine = follows ? value.line - mValues[i].line : text.index().lineAt(anchor.begin) + 1;
+        value.anchorColumn = text.index().utf16At(anchor.begin) - text.index().utf16At(lineBegin) + 1;
+    }
+}
+
+void FValueSearch::noteText(const FResultText& text, std::vector<FFoundValue>& found) const {
+    FFoundFlags flags = FSuspicion::ofFile(text);
+    const QString error = patternError();
+    flags.setFlag(FFoundFlag::SeparatorInvalid, !error.isEmpty());
+    for (FFoundValue& value : found) {
+        value.flags |= flags;
+        value.flags.setFlag(FFoundFlag::NotANumber,
+                            value.flags.testFlag(FFoundFlag::NotANumber) || (std::isnan(value.number) && !value.flags));
+        value.oddity = error.isEmpty() ? value.oddity : error;
+    }
 }
 
 FSoughtLine FValueSearch::seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places,
@@ -101,17 +135,19 @@ void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
     std::optional<FColumnCursor> cursor;
     qint64 line = 0;
     qint64 lineBegin = 0;
+    FFoundFlags lineFlags;
     for (size_t i = 0; i < readings.size(); ++i) {
         const Reading& reading = readings[i];
         if (i == 0 || !(readings[i - 1].line == reading.line)) {
             cursor.emplace(text.text(), reading.line, separator());
             line = text.index().lineAt(reading.line.begin);
             lineBegin = text.index().lineBegin(reading.line.begin);
+            lineFlags = FSuspicion::ofLine(reading.line.of(text.text()));
         }
         FFoundValue& value = found[reading.value];
         const FFoundFlags flags = value.flags;
         value = cursor->seek(reading.column).value(text, line, lineBegin);
-        value.flags |= flags;
+        value.flags |= flags | lineFlags;
     }
 }
 

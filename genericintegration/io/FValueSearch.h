@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QRegExp>
 #include <QString>
 
 #include <map>
+#include <memory>
 #include <vector>
 
 #include "genericintegration/io/FAnchorSearch.h"
 #include "genericintegration/io/FFoundValue.h"
+#include "genericintegration/io/FSeparator.h"
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FSoughtLine.h"
 #include "genericintegration/io/FValueDescription.h"
@@ -36,7 +37,7 @@ class FValueSearch {
     }
 
     /** Why the regular expression of the separators is invalid; empty if valid. An invalid one matches nothing. */
-    QString patternError() const;
+    QString patternError() const { return mSeparator ? mSeparator->error() : QString(); }
 
     FFoundValues find(const FResultText& text) const;
 
@@ -61,11 +62,14 @@ class FValueSearch {
     FSoughtLine seekLine(const FResultText& text, const FValueDescription& value, const FAnchorPlaces& places,
                          LinesInText& lines) const;
     void read(const FResultText& text, std::vector<Reading>& readings, std::vector<FFoundValue>& found) const;
-    const QRegExp* separator() const { return mSeparators.findNumbers ? nullptr : &mSeparator; }
+    void notePlaces(const FResultText& text, const std::vector<FAnchorPlaces>& places,
+                    std::vector<FFoundValue>& found) const;
+    void noteText(const FResultText& text, std::vector<FFoundValue>& found) const;
+    const FSeparator* separator() const { return mSeparator.get(); }
 
     std::vector<FValueDescription> mValues;
     std::vector<int> mSorted;  //!< indices of the values in the order for equal places
     FAnchorSearch mAnchors;
     FSeparatorSettings mSeparators;
-    QRegExp mSeparator;
+    std::shared_ptr<const FSeparator> mSeparator;  //!< null in find-numbers mode
 };

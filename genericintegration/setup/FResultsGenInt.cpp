@@ -4,6 +4,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/run/FTableCommands.h"
 #include "host/script/FCmdTable.h"
 
 #include <limits>
@@ -15,16 +16,37 @@ QString savedArguments(const FObject* object) {
     return results.getVariant().toString() + QLatin1Char(',') + QString::number(results.getComputationId());
 }
 
+// The numbers without a table's name are those of the first table.
+void checkFirst(const FResultsGenInt& results, const QString& row) {
+    if (const FExpr<FTableData> table = results.getTableAt(0)) {
+        FTableCommands::checkRow(*table.ptr(), row);
+    }
+}
+
+double dataAt(const FResultsGenInt& results, const QString& row, unsigned int column) {
+    checkFirst(results, row);
+    return results.getDataAt(row, column);
+}
+
+double dataAtNames(const FResultsGenInt& results, const QString& row, const QString& column) {
+    checkFirst(results, row);
+    return results.getDataAt(row, column);
+}
+
+double dataAtNumbers(const FResultsGenInt& results, unsigned int row, unsigned int column) {
+    if (const FExpr<FTableData> table = results.getTableAt(0)) {
+        FTableCommands::checkPlace(*table.ptr(), row, column);
+    }
+    return results.getDataAt(row, column);
+}
+
 void dataCommands(FCmdTable& table) {
     using F = FResultsGenInt;
     const char* const name = "getDataAt";
-    table.member<F>(name, qConstOverload<unsigned int, unsigned int>(&F::getDataAt), {"row", "column"}).readsFiles();
-    table.member<F>(name, qConstOverload<const QString&, unsigned int>(&F::getDataAt), {"row header", "column"})
-        .readsFiles();
+    table.member<F>(name, &dataAtNumbers, {"row", "column"}).readsFiles();
+    table.member<F>(name, &dataAt, {"row header", "column"}).readsFiles();
     table.member<F>(name, qConstOverload<double, const QString&>(&F::getDataAt), {"row", "column header"}).readsFiles();
-    table
-        .member<F>(name, qConstOverload<const QString&, const QString&>(&F::getDataAt), {"row header", "column header"})
-        .readsFiles();
+    table.member<F>(name, &dataAtNames, {"row header", "column header"}).readsFiles();
     table.member<F>("getLastDataOfRow", &F::getLastDataOfRow, {"row=0"}).readsFiles();
     table.member<F>("getLastDataOfColumn", &F::getLastDataOfColumn, {"column=0"}).readsFiles();
     table.member<F>("getAverageOfLastRows", &F::getAverageOfLastRows, {"numberOfRows", "column=0"}).readsFiles();

@@ -7,6 +7,7 @@
 #include "host/script/FSavedTextReader.h"
 
 #include <algorithm>
+#include <utility>
 
 FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
                                            &FGenIntResultsFileValue::fields);
@@ -35,6 +36,25 @@ void readText(const FExpr<FObject>& element, QString& text) {
     if (const FBasicType* value = valueOf(element)) {
         text = value->toString();
     }
+}
+
+/** Why an element isn't a whole number; empty if it is one, or missing. */
+QString wholeNumberFault(const FExpr<FObject>& element, const QString& what) {
+    const FBasicType* value = valueOf(element);
+    if (!value) {
+        return {};
+    }
+    const auto* number = dynamic_cast<const FDouble*>(value);
+    if (!number) {
+        return QStringLiteral("has the %1 \"%2\", which isn't a number, and takes %3")
+            .arg(what, value->toString())
+            .arg(value->toInt());
+    }
+    return number->toDouble() == number->toInt()
+               ? QString()
+               : QStringLiteral("has the %1 %2, which isn't a whole number, and takes %3")
+                     .arg(what, number->toString())
+                     .arg(number->toInt());
 }
 
 void readInt(const FExpr<FObject>& element, int& number) {
@@ -127,6 +147,12 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
     if (unreadable != elements.begin() + std::min<std::ptrdiff_t>(8, list->count())) {
         return QStringLiteral("has the element %1, which reads files, and takes the default for it")
             .arg(unreadable->toString());
+    }
+    for (const auto& [element, what] : {std::pair(elements[1], "line"), std::pair(elements[2], "column")}) {
+        const QString fault = wholeNumberFault(element, QString::fromLatin1(what));
+        if (!fault.isEmpty()) {
+            return fault;
+        }
     }
     QString occurrence = FEnum<GenIntAnchorOccurrence>().toString();
     readText(elements[4], occurrence);

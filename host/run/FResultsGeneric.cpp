@@ -5,6 +5,7 @@
 #include "host/run/FExternComputation.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/run/FSafePath.h"
+#include "host/run/FValueReport.h"
 #include "host/script/FCmdTable.h"
 
 #include <QFileInfo>
@@ -14,6 +15,9 @@ namespace {
 void commands(FCmdTable& table) {
     using F = FResultsGeneric;
     table.member<F>("getTable", &F::getData, {"name"}).readsFiles().alternatives<F>(+[](const F& results) {
+        return results.getTableNames();
+    });
+    table.member<F>("getTableAt", &F::getTableAt, {"number"}).readsFiles().alternatives<F>(+[](const F& results) {
         return results.getTableNames();
     });
     table.member<F>("getTableNames", &F::getTableNames).readsFiles();
@@ -40,20 +44,37 @@ bool FResultsGeneric::prepareResults() const {
     if (mReading || !FComputationResults::prepareResults()) {
         return false;
     }
-    if (mFilesRead || mDetached) {
-        return true;
+    if (!mFilesRead && !mDetached) {
+        readAll();
     }
+    report();
+    return true;
+}
+
+void FResultsGeneric::readAll() const {
     const FHistoryBlocker blocker;
     auto* self = const_cast<FResultsGeneric*>(this);
     mReading = true;
     destroyChildrenOf(this);
     self->mTables.clear();
     mImportedObjects.clear();
-    warnOfFailedRun();
     readOutputFiles();
     setOutOfDate(false);
     mReading = false;
-    return true;
+    mIsReported = false;
+}
+
+void FResultsGeneric::report() const {
+    if (mIsReported) {
+        return;
+    }
+    mIsReported = true;
+    warnOfFailedRun();
+    const FExpr<FExternComputation> computation = getComputation();
+    const bool hasFailed = getRun() && !getRun()->isSuccess();
+    for (int i = 0; i < mTables.size(); ++i) {
+        FValueReport::log(*mTables[i].ptr(), computation ? computation->getName() : getName(), hasFailed, mReports[i]);
+    }
 }
 
 void FResultsGeneric::readOutputFiles() const {
@@ -71,8 +92,11 @@ void FResultsGeneric::warnOfFailedRun() const {
                      QStringLiteral("values that the run didn't write are NaN"));
 }
 
+// Nothing is reported until somebody requests a number.
 void FResultsGeneric::detachFromFiles() {
-    prepareResults();
+    if (!mReading && !mFilesRead && !mDetached && FComputationResults::prepareResults()) {
+        readAll();
+    }
     mDetached = true;
 }
 
@@ -99,6 +123,11 @@ FExpr<FTableData> FResultsGeneric::getData(const QString& name) {
         }
     }
     return {};
+}
+
+FExpr<FTableData> FResultsGeneric::getTableAt(unsigned int number) const {
+    prepareResults();
+    return mTables.value(static_cast<int>(number));
 }
 
 QStringList FResultsGeneric::getTableNames() const {

@@ -25,7 +25,10 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     FComputationResults* createResults(const FExpr<FDesign>& variant,
                                        const FExpr<FExternComputation>& computation) const override;
 
-    /** Reads the files if necessary; logs a warning, once, if they come from a run that failed. */
+    /**
+     * Reads the files if necessary. Logs a warning, once, if they come from a run that failed, and after each reading a
+     * message for each table with suspicious or missing numbers.
+     */
     bool prepareResults() const override;
     void detachFromFiles() override;
 
@@ -33,6 +36,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
     /** The first table of that name; an empty handle if there is none. */
     virtual FExpr<FTableData> getData(const QString& name);
+    /** The table of that number, in the order of the result templates, from 0; an empty handle if there is none. */
+    FExpr<FTableData> getTableAt(unsigned int number) const;
     QStringList getTableNames() const;
 
     /** The files that entries of the configuration name as results. */
@@ -58,12 +63,16 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     mutable QHash<QString, FExpr<FObject>> mImportedObjects;
 
  private:
+    void readAll() const;
     void warnOfFailedRun() const;
+    void report() const;
 
     QList<FExpr<FTableData>> mTables;
     QList<FExpr<FResultsFileName>> mResultFiles;
     mutable bool mFilesRead = false;
     mutable bool mReading = false;
     mutable bool mWarned = false;
+    mutable bool mIsReported = true;
+    mutable QHash<int, QString> mReports;  //!< by the number of the table
     bool mDetached = false;
 };

@@ -1,9 +1,11 @@
 #include "host/run/FTableData.h"
 
 #include "host/core/FManaged.h"
+#include "host/core/FNumberText.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FQuotedText.h"
-#include "host/script/FCmdTable.h"
+#include "host/run/FCsv.h"
+#include "host/run/FTableCommands.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,45 +23,9 @@ QHash<QString, int> firstOfEach(const QStringList& headers) {
     return places;
 }
 
-void commands(FCmdTable& table) {
-    using F = FTableData;
-    const char* const name = "getElementAt";
-    table
-        .member<F>(name,
-                   +[](const F& data, unsigned int row, unsigned int column) {
-                       return data.getElementAt(static_cast<int>(row), static_cast<int>(column));
-                   },
-                   {"row", "column=0"})
-        .query();
-    table
-        .member<F>(name,
-                   +[](const F& data, const QString& row, unsigned int column) {
-                       return data.getElementAt(row, static_cast<int>(column));
-                   },
-                   {"row header", "column=0"})
-        .query();
-    table
-        .member<F>(name,
-                   +[](const F& data, double row, const QString& column) {
-                       return data.getElementAt(F::rowNumber(row), column);
-                   },
-                   {"row", "column header"})
-        .query();
-    table
-        .member<F>(
-            name,
-            +[](const F& data, const QString& row, const QString& column) { return data.getElementAt(row, column); },
-            {"row header", "column header"})
-        .query();
-    table.member<F>("getRowCount", &F::getRowCount).query();
-    table.member<F>("getColumnCount", &F::getColumnCount).query();
-    table.member<F>("getRowName", &F::getRowName, {"row"}).query();
-    table.member<F>("getRowNames", &F::getRowNames).query();
-}
-
 }  // namespace
 
-FClassData FTableData::mClass("FTableData", &FObject::mClass, &commands);
+FClassData FTableData::mClass("FTableData", &FObject::mClass, &FTableCommands::declare);
 
 FTableData::FTableData(const QString& name, unsigned int rows, unsigned int columns) : mName(name) {
     setData(Rows(static_cast<int>(rows), QVector<double>(static_cast<int>(columns), notANumber)));
@@ -135,6 +101,41 @@ double FTableData::getAverageOfLastRows(int rows, int column) const {
         sum += getElementAt(row, column);
     }
     return sum / used;
+}
+
+const FNumberOrigin& FTableData::getOrigin(int row) const {
+    static const FNumberOrigin unknown;
+    return row >= 0 && row < mOrigins.size() ? mOrigins[row] : unknown;
+}
+
+QVector<double> FTableData::getColumn(int column) const {
+    QVector<double> numbers;
+    numbers.reserve(mRows.size());
+    for (int row = 0; row < mRows.size(); ++row) {
+        numbers.append(getElementAt(row, column));
+    }
+    return numbers;
+}
+
+QString FTableData::toCsv() const {
+    const bool hasNames = !mRowHeaders.isEmpty();
+    QStringList header;
+    if (hasNames) {
+        header.append(QStringLiteral("name"));
+    }
+    for (int column = 0; column < mColumnCount; ++column) {
+        const QString name = mColumnOfHeader.key(column);
+        header.append(!name.isEmpty() ? name : mColumnCount == 1 ? QStringLiteral("value") : QString::number(column));
+    }
+    QString text = FCsv::line(header);
+    for (int row = 0; row < mRows.size(); ++row) {
+        QStringList fields = hasNames ? QStringList(getRowName(row)) : QStringList();
+        for (int column = 0; column < mColumnCount; ++column) {
+            fields.append(column < mRows[row].size() ? numberText(mRows[row][column]) : QString());
+        }
+        text += FCsv::line(fields);
+    }
+    return text;
 }
 
 int FTableData::rowNumber(double row) {

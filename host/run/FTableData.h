@@ -62,7 +62,14 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     QString getRowName(int row) const { return mRowHeaders.value(row); }
     const QStringList& getRowNames() const { return mRowHeaders; }
     QString getRowTooltip(int row) const { return mRowTooltips.value(row); }
-    FNumberOrigin getOrigin(int row) const { return mOrigins.value(row); }
+    /** Number of the first row of that name; -1 if there is none. */
+    int findRow(const QString& rowHeader) const { return mRowOfHeader.value(rowHeader, -1); }
+    /** Where the first number of a row comes from; without a place if that isn't known. */
+    const FNumberOrigin& getOrigin(int row) const;
+    /** The numbers of a column; NaN for a row that ends before it. */
+    QVector<double> getColumn(int column) const;
+    /** A line for each row: its name, if rows have names, and its numbers; before it a line of headers. */
+    QString toCsv() const;
 
     /** The number of a row given as a double, truncated; -1, which no table has, if it doesn't fit an integer. */
     static int rowNumber(double row);

@@ -3,8 +3,11 @@
 #include "host/core/FDocuArea.h"
 #include "host/core/FManaged.h"
 #include "host/core/FObjectList.h"
+#include "host/core/FString.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
+
+#include <QRegularExpression>
 
 namespace {
 
@@ -29,9 +32,35 @@ void listCommands(FCmdTable& table) {
     table.member<FObjectList>("at", &FObjectList::at, {"index"}).query();
 }
 
+bool contains(const FString& text, const QString& part) {
+    return text.getValue().contains(part);
+}
+
+int find(const FString& text, const QString& part, unsigned int from) {
+    const bool isInside = from <= static_cast<unsigned int>(text.getValue().size());
+    return isInside ? text.getValue().indexOf(part, static_cast<int>(from)) : -1;
+}
+
+QStringList split(const FString& text, const QString& separator) {
+    static const QRegularExpression whiteSpace(QStringLiteral("\\s+"));
+    return separator.isEmpty() ? text.getValue().split(whiteSpace, Qt::SkipEmptyParts)
+                               : text.getValue().split(separator);
+}
+
+void textCommands(FCmdTable& table) {
+    table.member<FString>("contains", &contains, {"text"}).query();
+    table
+        .member<FString>(
+            "length", +[](const FString& text) { return text.getValue().size(); })
+        .query();
+    table.member<FString>("find", &find, {"text", "from=0"}).query();
+    table.member<FString>("split", &split, {"separator=\"\""}).query();
+}
+
 }  // namespace
 
 void registerCoreCommands() {
     FManaged::mClass.setCommands(&managedCommands);
     FObjectList::mClass.setCommands(&listCommands);
+    FString::mClass.setCommands(&textCommands);
 }

@@ -2,6 +2,7 @@
 
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FTableData.h"
+#include "host/run/FValueRemark.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 
@@ -50,7 +51,7 @@ TEST_F(FGenIntReaderTest, theTableHoldsNamesNumbersAndTypesInTheOrderOfTheFile) 
     EXPECT_TRUE(std::isnan(table->getElementAt("none", 0)));
     EXPECT_EQ(table->getRowTooltip(0), "FString|1");
     EXPECT_EQ(table->getOrigin(1).column, 9);
-    EXPECT_FALSE(table->getOrigin(3).oddities.isEmpty());
+    EXPECT_EQ(table->getOrigin(3).flags, FNumberFlags(FNumberFlag::ColumnMissing));
     EXPECT_EQ(FExpr<FGenIntResultsFileValue>(file->getValues()->at(0))->mName, "late")
         << "the template keeps its order";
 }
@@ -72,7 +73,7 @@ TEST_F(FGenIntReaderTest, theNumberOfAverageRowsMayBeAnExpression) {
     }
 }
 
-TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsReported) {
+TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsFlagged) {
     setValues(
         "[[\"drag\",1,0,\"Drag\",Last,\"FDouble\",\"\"],[\"none\",0,0,\"Drag\",Last,\"FDouble\",\"\"],"
         "[\"lift\",0,0,\"Lift\",Last,\"FDouble\",\"\"]]");
@@ -80,11 +81,16 @@ TEST_F(FGenIntReaderTest, aNumberReadWithoutItsAnchorIsReported) {
     folder.write("out.dat", "title\nLift 3\n");
     parse(folder.path());
     EXPECT_EQ(table->getElementAt("drag", 0), 3);
-    EXPECT_EQ(
-        log(),
-        QStringList{"warning: out1: the anchor \"Drag\" of the value \"drag\" isn't in out.dat; 3 was read from line "
-                    "2, counted from the top of the file. look at the file of the run and correct the "
-                    "anchor"});
+    EXPECT_EQ(log(), QStringList()) << "the host reports it";
+    const FNumberOrigin drag = table->getOrigin(table->findRow("drag"));
+    EXPECT_EQ(drag.flags, FNumberFlags(FNumberFlag::AnchorMissing));
+    EXPECT_EQ(FValueRemark::text(drag, 3),
+              "was read from line 2, counted from the top of the file, since the anchor \"Drag\" isn't in the file");
+    EXPECT_EQ(FValueRemark::text(table->getOrigin(table->findRow("none")), NAN),
+              "the anchor \"Drag\" isn't in the file");
+    const FNumberOrigin lift = table->getOrigin(table->findRow("lift"));
+    EXPECT_EQ((std::vector<qint64>{lift.anchorLine, lift.anchorColumn, lift.valueNumber}),
+              (std::vector<qint64>{2, 1, 2}));
 }
 
 TEST_F(FGenIntReaderTest, aFileThatCantBeReadLeavesTheTableUnchanged) {
@@ -130,14 +136,14 @@ TEST_F(FGenIntReaderTest, theCacheBetweenFilesNeverChangesAResult) {
     }
 }
 
-TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsReportedOnce) {
+TEST_F(FGenIntReaderTest, anInvalidExpressionSeparatesNothingAndIsFlagged) {
     setValues("[[\"a\",0,1,\"\",Last,\"FDouble\",\"\"],[\"b\",0,0,\"\",Last,\"FDouble\",\"\"]]");
     run("out1.setRegExpSeparator(\"(\")");
     file->setContent("1(2");
     parse(QString());
     EXPECT_TRUE(std::isnan(table->getElementAt("a", 0)));
-    EXPECT_EQ(log().size(), 1);
-    EXPECT_TRUE(logHolds("isn't a valid regular expression"));
+    EXPECT_TRUE(table->getOrigin(0).flags.testFlag(FNumberFlag::SeparatorInvalid));
+    EXPECT_FALSE(table->getOrigin(0).oddity.isEmpty());
 }
 
 TEST_F(FGenIntReaderTest, filesAreImportedFromTheDirectoryOnly) {

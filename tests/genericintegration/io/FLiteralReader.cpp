@@ -20,7 +20,7 @@ QString trimmed(QString content) {
 
 QString textOf(QString line, const FValueDescription& value, const FSeparatorSettings& separators) {
     line.remove(QRegExp("^\\s*"));
-    QRegExp separator = separators.pattern();
+    QRegExp separator(separators.expression());
     int start = 0;
     int length = 0;
     findValue(start, length, separator, value.line, "", line, value.column, separators.findNumbers);

@@ -15,43 +15,125 @@ FFoundFlags flagsOf(const QString& line, int column, const FSeparatorSettings& s
 }  // namespace
 
 TEST(FSuspicionTest, numbersThatWereCutOrSkippedOrTouchText) {
+    using F = FFoundFlag;
     const struct {
         const char* line;
         int column;
         FFoundFlags flags;
     } cases[] = {
-        {"1.0D+05 2", 0, FFoundFlag::CutExponent},
-        {"1.0d5", 0, FFoundFlag::CutExponent},
-        {"0.5771964-104", 0, FFoundFlag::CutExponent},
-        {"-1.234-5.678", 0, FFoundFlag::TouchesText},
-        {"-1.234-5.678", 1, FFoundFlag::TouchesText},
-        {"1.2.3", 0, FFoundFlag::TouchesText},
-        {"CO2 7", 0, FFoundFlag::TouchesText},
+        {"1.0D+05 2", 0, F::CutExponent},
+        {"1.0D+05 2", 2, F::Shifted},
+        {"1.0d5", 0, F::CutExponent},
+        {"1.0Q-05", 0, F::CutExponent},
+        {"0.5771964-104", 0, F::CutExponent},
+        {"0.5771964-104 7", 2, F::Shifted},
+        {"1.E+6 2", 0, F::PointExponent},
+        {"1.E+6 2", 2, F::Shifted},
+        {"1.5 E+06", 0, F::SpacedExponent},
+        {"1.5E +06", 0, F::SpacedExponent},
+        {"1.5E+ 06", 0, F::SpacedExponent},
+        {"1.5D 06 3", 0, F::SpacedExponent},
+        {"1.5 E+06 3", 2, F::Shifted},
+        {"x = - 1.5", 0, F::SpacedSign},
+        {"- 1.5", 0, F::SpacedSign},
+        {"energy  - 1.5", 0, F::SpacedSign},
+        {"12.5MPa 3", 0, F::LetterAfter},
+        {"12.5MPa 3", 1, {}},
+        {"12.5\u00B5m", 0, F::LetterAfter},
+        {"0x1F", 0, F::LetterAfter},
+        {"-1.234-5.678", 0, F::CutAtEdge},
+        {"-1.234-5.678", 1, F::CutAtEdge},
+        {"123.4567890.123", 0, F::CutAtEdge},
+        {"1.2.3", 0, F::CutAtEdge},
+        {"CO2 7", 0, F::LetterBefore},
         {"CO2 7", 1, {}},
-        {"3,14 2", 0, FFoundFlag::DecimalComma},
-        {"3,14 2", 1, FFoundFlag::DecimalComma},
-        {"3,14 2", 2, {}},
-        {"1,2,3", 1, {}},
-        {"1.5,2.5", 0, {}},
-        {"**** 1", 0, FFoundFlag::Stars},
-        {"12***", 0, FFoundFlag::Stars},
-        {"2*3", 0, {}},
-        {"1 NaN -Infinity 2", 1, FFoundFlag::NanOrInf},
-        {"1 information 2", 1, {}},
-        {" 1.5 -2e-3 [m] 30s 5%", 3, {}},
+        {"3,14 2", 0, F::DecimalComma},
+        {"3,14 2", 1, F::DecimalComma | F::Shifted},
+        {"3,14 2", 2, F::Shifted},
+        {"**** 1", 0, F::Stars | F::Shifted},
+        {"p = ****  T = 3.5", 0, F::Stars | F::Shifted},
+        {"1.5 ****** 3", 1, F::Stars | F::Shifted},
+        {"12***", 0, F::Stars},
+        {"1 NaN -Infinity 2", 1, F::NanOrInf | F::Shifted},
+        {"1.#QNAN 2", 0, F::NanOrInf},
+        {"1 ****", 1, F::ColumnMissing | F::Stars},
+        {"1 nan", 1, F::ColumnMissing | F::NanOrInf},
     };
     for (const auto& row : cases) {
-        EXPECT_EQ(row.flags, flagsOf(row.line, row.column, {true, false, ""})) << row.line << " column " << row.column;
+        const QString line = QString::fromUtf8(row.line);
+        EXPECT_EQ(row.flags, flagsOf(line, row.column, {true, false, ""})) << row.line << " column " << row.column;
     }
-    EXPECT_EQ(FFoundFlag::ColumnMissing | FFoundFlag::Stars, flagsOf("1 ****", 1, {true, false, ""}));
-    EXPECT_EQ(FFoundFlags(FFoundFlag::Stars), flagsOf("1 ****", 1, {true, false, ""}) & suspiciousFlags);
 }
 
-TEST(FSuspicionTest, separatedColumnsThatArentNumbers) {
+TEST(FSuspicionTest, ordinaryLinesAreNotSuspicious) {
+    const struct {
+        const char* line;
+        QList<int> columns;
+    } cases[] = {
+        {"1 -2 +3.5 .5 6. 7.5e3 8.5E-03 1.e3x", {0, 1, 2, 3, 4, 5, 6}},
+        {"1,2,3", {0, 1, 2}},
+        {"1.5,2.5\t3.5;4.5", {0, 1, 2, 3}},
+        {"(1,2) [3,4] x=5 y:-6 <7>", {0, 1, 2, 3, 4, 5, 6}},
+        {"  1   0.10000E+01  -0.2000E-02", {0, 1, 2}},
+        {"***** ITERATION 5 *****", {0}},
+        {"** 12 nodes", {}},
+        {"*** WARNING *** 3 elements", {0}},
+        {"*******************************************", {}},
+        {"[INF] 12 messages", {0}},
+        {"INF: 12 messages", {0}},
+        {"information 12, infinite 3, nano 4", {0, 1, 2}},
+        {"2*3 4**5", {0, 1}},
+        {"10 - 20", {0, 1}},
+        {"- 12 nodes", {0}},
+        {"-- 1.5 --", {0}},
+        {"a - b 1.5", {0}},
+        {"12:30:45 5% $7 #8 1/2", {0, 1, 2, 3, 4, 5, 6, 7}},
+        {"step 3 e = 1.5 d = 2", {0, 1, 2}},
+    };
+    for (const auto& row : cases) {
+        for (const int column : row.columns) {
+            EXPECT_EQ(FFoundFlags(), flagsOf(row.line, column, {true, false, ""})) << row.line << " column " << column;
+        }
+    }
+}
+
+TEST(FSuspicionTest, separatedColumns) {
+    using F = FFoundFlag;
     const FSeparatorSettings whiteSpace = {false, true, ""};
-    EXPECT_EQ(FFoundFlag::NotANumber | FFoundFlag::CutExponent, flagsOf("1.0D+05 2", 0, whiteSpace));
-    EXPECT_EQ(FFoundFlag::NotANumber | FFoundFlag::DecimalComma, flagsOf("1 3,14", 1, whiteSpace));
-    EXPECT_EQ(FFoundFlag::NotANumber | FFoundFlag::Stars, flagsOf("1 ****", 1, whiteSpace));
-    EXPECT_EQ(FFoundFlags(FFoundFlag::NanOrInf), flagsOf("1 inf", 1, whiteSpace));
-    EXPECT_EQ(FFoundFlags(), flagsOf("1.0D+05 2", 1, whiteSpace));
+    const struct {
+        const char* line;
+        int column;
+        FSeparatorSettings separators;
+        FFoundFlags flags;
+    } cases[] = {
+        {"1.0D+05 2", 0, whiteSpace, F::NotANumber | F::CutExponent},
+        {"1 3,14", 1, whiteSpace, F::NotANumber | F::DecimalComma},
+        {"1 ****", 1, whiteSpace, F::NotANumber | F::Stars},
+        {"1 inf", 1, whiteSpace, F::NanOrInf},
+        {"1.0D+05 2", 1, whiteSpace, {}},
+        {"1.5 E+06", 0, whiteSpace, F::SpacedExponent},
+        {"x - 1.5", 2, whiteSpace, F::SpacedSign},
+        {"1.234-5.678 9", 1, whiteSpace, F::Shifted},
+        {"12.5**** 9", 1, whiteSpace, F::Shifted},
+        {"2024-01-15 -2.5e-3 9", 2, whiteSpace, {}},
+        {"a,,b", 1, {false, false, ","}, F::NotANumber},
+        {"2024-01-15,1.5", 1, {false, false, ","}, {}},
+        {"12345678", 0, {false, false, "5"}, F::CutAtEdge},
+        {"1x2", 0, {false, false, "("}, F::NotANumber | F::LetterAfter | F::SeparatorInvalid},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(row.flags, flagsOf(row.line, row.column, row.separators)) << row.line << " column " << row.column;
+    }
+}
+
+TEST(FSuspicionTest, filesOfAnotherKind) {
+    const FSeparatorSettings numbers = {true, false, ""};
+    EXPECT_EQ(FFoundFlags(FFoundFlag::OnlyCarriageReturns), flagsOf("1 2\r3 4\r", 0, numbers));
+    EXPECT_EQ(FFoundFlags(), flagsOf("1 2\r\n3 4\r\n", 0, numbers));
+    const QByteArray bytes("1\0002\000.\0005\000\n\000", 10);
+    const FValueDescription value = {"value", 0, 0, {}, false, 0};
+    EXPECT_TRUE(FValueSearch({value}, numbers)
+                    .find(FResultText::fromFile(bytes))
+                    .values.front()
+                    .flags.testFlag(FFoundFlag::ZeroBytes));
 }

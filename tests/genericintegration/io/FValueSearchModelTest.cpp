@@ -38,7 +38,7 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
                                   .arg(values[i].column)
                                   .arg(values[i].average)
                                   .arg(values[i].averageRows)
-                                  .arg(separators.pattern().pattern());
+                                  .arg(separators.expression());
         const QString foundText = value.textIn(text);
         EXPECT_EQ(wanted.text, foundText) << about.toStdString();
         const quint64 bits =
@@ -79,8 +79,8 @@ TEST(FValueSearchModelTest, findValueAgreesWithTheLiteralReader) {
         const QString text = cases.text(true);
         const FSeparatorSettings separators = cases.separators();
         const FValueDescription value = cases.values(text).front();
-        QRegExp ours = separators.pattern();
-        QRegExp models = separators.pattern();
+        QRegExp ours(separators.expression());
+        QRegExp models(separators.expression());
         int start[2];
         int length[2];
         const int result = FGenIntReader::instance()->findValue(

@@ -1,0 +1,195 @@
+#include "genericintegration/io/FNumberSurroundings.h"
+
+#include <QChar>
+
+#include "genericintegration/io/FAsciiText.h"
+#include "host/run/FUtf8.h"
+
+using namespace FAsciiText;
+
+bool FNumberSurroundings::isPlainAfter(std::string_view text, qint64 end) {
+    if (!isBlank(at(text, end))) {
+        return false;
+    }
+    const qint64 limit = end + 3;
+    while (end < limit && at(text, end) == ' ' && end < static_cast<qint64>(text.size())) {
+        ++end;
+    }
+    return !isExponentLetter(at(text, end));
+}
+
+bool FNumberSurroundings::isPlainBefore() const {
+    const qint64 before = mNumber.begin - 1;
+    if (mNumber.begin == mLineBegin) {
+        return !isDigit(at(before)) && at(before) != '.';
+    }
+    return isBlank(at(before)) && at(blanksBegin(mNumber.begin) - 1) != '-';
+}
+
+FFoundFlags FNumberSurroundings::flags() const {
+    FFoundFlags flags;
+    const bool isCut = hasCutExponent();
+    const bool isCutAtPoint = hasPointExponent();
+    const bool isSpaced = spacedExponentEnd() > 0;
+    flags.setFlag(FFoundFlag::CutExponent, isCut);
+    flags.setFlag(FFoundFlag::PointExponent, isCutAtPoint);
+    flags.setFlag(FFoundFlag::SpacedExponent, isSpaced);
+    flags.setFlag(FFoundFlag::SpacedSign, hasSpacedSign());
+    flags.setFlag(FFoundFlag::DecimalComma, hasCommaAfter() || hasCommaBefore());
+    flags.setFlag(FFoundFlag::LetterBefore, hasLetterBefore());
+    flags.setFlag(FFoundFlag::LetterAfter, !isCut && !isSpaced && hasLetterAfter());
+    flags.setFlag(FFoundFlag::CutAtEdge, !isCut && isCutAtEdge());
+    flags.setFlag(FFoundFlag::Stars, at(mNumber.end) == '*' && at(mNumber.end + 1) == '*');
+    flags.setFlag(FFoundFlag::NanOrInf, at(mNumber.end) == '.' && at(mNumber.end + 1) == '#');
+    return flags;
+}
+
+qint64 FNumberSurroundings::digitsEnd(qint64 offset) const {
+    const qint64 limit = offset + longest;
+    while (offset < limit && isDigit(at(offset))) {
+        ++offset;
+    }
+    return offset;
+}
+
+qint64 FNumberSurroundings::blanksEnd(qint64 offset) const {
+    const qint64 limit = std::min(offset + longest, static_cast<qint64>(mText.size()));
+    while (offset < limit && (at(offset) == ' ' || at(offset) == '\t')) {
+        ++offset;
+    }
+    return offset;
+}
+
+/** Start of the blanks that end before an offset, within the line. */
+qint64 FNumberSurroundings::blanksBegin(qint64 offset) const {
+    const qint64 limit = std::max(offset - longest, mLineBegin);
+    while (offset > limit && (at(offset - 1) == ' ' || at(offset - 1) == '\t')) {
+        --offset;
+    }
+    return offset;
+}
+
+/** Whether a letter of an exponent, with digits after it, is at an offset. */
+bool FNumberSurroundings::isExponentAt(qint64 offset) const {
+    return isExponentLetter(at(offset)) && isDigit(at(offset + 1 + isSign(at(offset + 1))));
+}
+
+bool FNumberSurroundings::hasCutExponent() const {
+    if (hasExponent()) {
+        return false;
+    }
+    const qint64 end = mNumber.end;
+    return isExponentAt(end) ||
+           (!isWhole() && isSign(at(end)) && isDigit(at(end + 1)) && at(digitsEnd(end + 1)) != '.');
+}
+
+bool FNumberSurroundings::hasPointExponent() const {
+    return isWhole() && at(mNumber.end) == '.' && isExponentAt(mNumber.end + 1);
+}
+
+/** End of an exponent with blanks before or after its letter or sign; 0 if there is none. */
+qint64 FNumberSurroundings::spacedExponentEnd() const {
+    const qint64 letter = blanksEnd(mNumber.end);
+    if (hasExponent() || letter - mNumber.end > 3 || !isExponentLetter(at(letter))) {
+        return 0;
+    }
+    const qint64 sign = blanksEnd(letter + 1);
+    const bool hasSign = isSign(at(sign));
+    const qint64 digits = blanksEnd(sign + hasSign);
+    const qint64 end = digitsEnd(digits);
+    const bool isSpaced = letter > mNumber.end || digits > letter + 1 + hasSign;
+    const bool endsThere = !isLetter(at(end)) && at(end) != '.';
+    // Without a sign, a letter may also be that of a direction or a column; with blanks on both sides it is a word.
+    const bool isLikely = hasSign ? letter == mNumber.end || sign == letter + 1 : letter == mNumber.end && !isWhole();
+    return end > digits && isSpaced && endsThere && isLikely ? end : 0;
+}
+
+// The minus of a subtraction, a range or a list isn't a sign; before a whole number it is most likely one of these.
+bool FNumberSurroundings::hasSpacedSign() const {
+    const qint64 blanks = blanksBegin(mNumber.begin);
+    const qint64 minus = blanks - 1;
+    if (isSign(at(mNumber.begin)) || blanks == mNumber.begin || minus < mLineBegin || at(minus) != '-') {
+        return false;
+    }
+    qint64 before = minus;
+    while (before > 0 && minus - before < longest && (at(before - 1) == ' ' || at(before - 1) == '\t')) {
+        --before;
+    }
+    const char c = before > 0 ? at(before - 1) : '\n';
+    constexpr std::string_view opening = "=:([,;|";
+    return opening.find(c) != std::string_view::npos || ((c == '\n' || isLetter(c)) && !isWhole());
+}
+
+bool FNumberSurroundings::hasLetterBefore() const {
+    return mNumber.begin != mLineBegin && isLetter(at(mNumber.begin - 1));
+}
+
+bool FNumberSurroundings::hasLetterAfter() const {
+    const char next = at(mNumber.end);
+    if (FUtf8::isAscii(next)) {
+        return isLetter(next);
+    }
+    qint64 offset = mNumber.end;
+    const char32_t c = FUtf8::next(mText, offset);
+    return c != FUtf8::noCharacter && QChar::isLetter(c);
+}
+
+bool FNumberSurroundings::isCutAtEdge() const {
+    const char before = at(mNumber.begin - 1);
+    const char after = at(mNumber.end);
+    return isDigit(before) || (before == '.' && isDigit(at(mNumber.begin - 2))) ||
+           ((isSign(after) || after == '.') && isDigit(at(mNumber.end + 1)));
+}
+
+// With another comma or a point next to them, the commas separate numbers; in brackets, too.
+bool FNumberSurroundings::hasCommaAfter() const {
+    const char before = at(mNumber.begin - 1);
+    if (!isWhole() || before == ',' || isOpening(before) || at(mNumber.end) != ',' || !isDigit(at(mNumber.end + 1))) {
+        return false;
+    }
+    const char after = at(digitsEnd(mNumber.end + 1));
+    return after != ',' && after != '.';
+}
+
+bool FNumberSurroundings::hasCommaBefore() const {
+    const char after = at(mNumber.end);
+    if (!isWhole() || after == ',' || isClosing(after) || at(mNumber.begin - 1) != ',' || isSign(at(mNumber.begin))) {
+        return false;
+    }
+    qint64 begin = mNumber.begin - 1;
+    while (mNumber.begin - begin < longest && isDigit(at(begin - 1))) {
+        --begin;
+    }
+    return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
+}
+
+// ---- texts for messages ----
+
+QString FNumberSurroundings::decoded(qint64 begin, qint64 end) const {
+    return FUtf8::decode(FByteRange{begin, end}.of(mText)).trimmed();
+}
+
+QString FNumberSurroundings::before() const {
+    qint64 begin = mNumber.begin;
+    while (begin > 0 && mNumber.begin - begin < longest && !isBlank(at(begin - 1))) {
+        --begin;
+    }
+    return decoded(begin, mNumber.begin);
+}
+
+QString FNumberSurroundings::after() const {
+    const qint64 limit = std::min(mNumber.end + longest, static_cast<qint64>(mText.size()));
+    qint64 end = mNumber.end;
+    while (end < limit && !isBlank(at(end))) {
+        ++end;
+    }
+    return decoded(mNumber.end, end);
+}
+
+QString FNumberSurroundings::whole() const {
+    return before() + decoded(mNumber.begin, mNumber.end) + after();
+}
+
+QString FNumberSurroundings::spacedExponent() const {
+    return decoded(mNumber.end, spacedExponentEnd());
+}

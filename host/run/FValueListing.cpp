@@ -1,0 +1,116 @@
+#include "host/run/FValueListing.h"
+
+#include "host/core/FNumberText.h"
+#include "host/run/FCsv.h"
+#include "host/run/FTableData.h"
+#include "host/run/FValueRemark.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+struct FValueListing::FRow {
+    QString name;
+    double number;
+    QString file;
+    FNumberOrigin origin;
+
+    QString place() const {
+        return origin.line < 0     ? file
+               : origin.column < 0 ? QStringLiteral("%1:%2").arg(file).arg(origin.line)
+                                   : QStringLiteral("%1:%2:%3").arg(file).arg(origin.line).arg(origin.column);
+    }
+    QStringList fields() const {
+        return {name, numberText(number), place(), origin.text, namesOf(origin.flags).join(QStringLiteral(", "))};
+    }
+};
+
+namespace {
+
+QStringList header() {
+    return {QStringLiteral("name"), QStringLiteral("value"), QStringLiteral("place"), QStringLiteral("text"),
+            QStringLiteral("flags")};
+}
+
+QString aligned(const std::vector<QStringList>& lines) {
+    std::vector<int> widths;
+    for (const QStringList& line : lines) {
+        widths.resize(static_cast<size_t>(line.size()), 0);
+        for (int i = 0; i < line.size(); ++i) {
+            widths[static_cast<size_t>(i)] = std::max(widths[static_cast<size_t>(i)], line[i].size());
+        }
+    }
+    QString text;
+    for (const QStringList& line : lines) {
+        QString row;
+        for (int i = 0; i < line.size(); ++i) {
+            row += line[i].leftJustified(widths[static_cast<size_t>(i)] + 2);
+        }
+        while (row.endsWith(QLatin1Char(' '))) {
+            row.chop(1);
+        }
+        text += row + QLatin1Char('\n');
+    }
+    return text;
+}
+
+// A text between separators may contain anything.
+QString onOneLine(QString text) {
+    constexpr int longest = 60;
+    if (text.size() > longest) {
+        text = text.left(longest - 3) + QStringLiteral("...");
+    }
+    return text.replace(QLatin1Char('\t'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+}
+
+}  // namespace
+
+std::vector<FValueListing::FRow> FValueListing::rows() const {
+    std::vector<FRow> rows;
+    for (const FTableData* table : mTables) {
+        for (int row = 0; row < table->getRowCount(); ++row) {
+            rows.push_back(
+                {table->getRowName(row), table->getElementAt(row, 0), table->getName(), table->getOrigin(row)});
+        }
+    }
+    return rows;
+}
+
+QString FValueListing::toText() const {
+    std::vector<QStringList> lines{header()};
+    for (const FRow& row : rows()) {
+        QStringList fields = row.fields();
+        fields[3] = onOneLine(fields[3]);
+        lines.push_back(fields);
+    }
+    return aligned(lines);
+}
+
+QString FValueListing::toCsv() const {
+    QString text = FCsv::line(header());
+    for (const FRow& row : rows()) {
+        text += FCsv::line(row.fields());
+    }
+    return text;
+}
+
+QJsonArray FValueListing::toJson() const {
+    QJsonArray values;
+    for (const FRow& row : rows()) {
+        const QString reason = FValueRemark::text(row.origin, row.number);
+        const auto orNull = [](qint64 number) { return number < 0 ? QJsonValue() : QJsonValue(number); };
+        values.append(
+            QJsonObject{{QStringLiteral("name"), row.name},
+                        {QStringLiteral("value"), std::isfinite(row.number) ? QJsonValue(row.number) : QJsonValue()},
+                        {QStringLiteral("file"), row.file},
+                        {QStringLiteral("line"), orNull(row.origin.line)},
+                        {QStringLiteral("column"), orNull(row.origin.column)},
+                        {QStringLiteral("text"), row.origin.text},
+                        {QStringLiteral("flags"), QJsonArray::fromStringList(namesOf(row.origin.flags))},
+                        {QStringLiteral("reason"), reason}});
+    }
+    return values;
+}

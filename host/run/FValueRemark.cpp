@@ -1,0 +1,142 @@
+#include "host/run/FValueRemark.h"
+
+#include <cmath>
+#include <functional>
+
+namespace FValueRemark {
+namespace {
+
+using F = FNumberFlag;
+
+QString lineOf(const FNumberOrigin& origin) {
+    return origin.line > 0 ? QStringLiteral("line %1").arg(origin.line) : QStringLiteral("a line beyond the end");
+}
+
+// Each flag has words of its own for a number and for NaN.
+QString anchor(const FNumberOrigin& origin, double number) {
+    const QString missing = QStringLiteral("the anchor \"%1\" isn't in the file").arg(origin.anchor);
+    return std::isnan(number)
+               ? missing
+               : QStringLiteral("was read from %1, counted from the %2 of the file, since ")
+                         .arg(lineOf(origin), origin.markLine < 0 ? QStringLiteral("bottom") : QStringLiteral("top")) +
+                     missing;
+}
+
+QString line(const FNumberOrigin&, double number) {
+    return std::isnan(number) ? QStringLiteral("its line is beyond the end of the text")
+                              : QStringLiteral("is from the second line, since there are fewer lines to count up");
+}
+
+QString column(const FNumberOrigin& origin, double) {
+    if (origin.rows) {
+        return QStringLiteral("none of the last %1 lines has such a column").arg(origin.rows->wanted);
+    }
+    const QString gap = origin.oddity.isEmpty() ? QString() : QStringLiteral(" (it contains %1)").arg(origin.oddity);
+    return QStringLiteral("%1 ends before the column%2").arg(lineOf(origin), gap);
+}
+
+QString notANumber(const FNumberOrigin& origin, double) {
+    return origin.text.isEmpty() ? QStringLiteral("the column is empty")
+                                 : QStringLiteral("the text \"%1\" isn't a number").arg(origin.text);
+}
+
+QString rows(const FNumberOrigin& origin, double) {
+    return QStringLiteral("is the mean of %1 rows instead of %2")
+        .arg(origin.rows ? origin.rows->count : 0)
+        .arg(origin.rows ? origin.rows->wanted : 0);
+}
+
+/** Words for a flag. %1 is the text beside the number. */
+struct FWords {
+    FNumberFlag flag;
+    std::function<QString(const FNumberOrigin&, double)> make;  //!< empty: `words`
+    const char* words;
+    const char* remedy;
+};
+
+// The cause of a NaN comes first, then what is most likely wrong.
+const FWords& wordsOf(FNumberFlags flags) {
+    static const FWords all[] = {
+        {F::SeparatorInvalid,
+         {},
+         "the separator isn't a valid regular expression: %1",
+         "It separates nothing. Correct it"},
+        {F::ZeroBytes,
+         {},
+         "the file contains zero bytes, as UTF-16 without a byte order mark does",
+         "Have the program write UTF-8, or a byte order mark"},
+        {F::OnlyCarriageReturns,
+         {},
+         "the lines of the file end with CR alone, so that it counts as one line",
+         "Have the program end its lines with LF or CR LF"},
+        {F::SeparatorTooSlow,
+         {},
+         "the separator needs too much time for this line, which counts as one column",
+         "Use a simpler separator"},
+        {F::AnchorMissing, &anchor, "", "Look at the file, and correct the anchor"},
+        {F::NoRows, {}, "a mean over 0 rows was requested", "Set the number of rows"},
+        {F::LineBeyondEnd, &line, "", "Look at the file, and correct the line of the mark"},
+        {F::ColumnMissing, &column, "", "Look at the line, and correct the column of the mark or the separator"},
+        {F::CutExponent,
+         {},
+         "is followed by %1",
+         "Only an exponent with E is read. Change the program's format, or "
+         "multiply by the power of ten"},
+        {F::PointExponent,
+         {},
+         "is followed by %1",
+         "An exponent after a bare point isn't read. Change the program's "
+         "format, or multiply by the power of ten"},
+        {F::SpacedExponent,
+         {},
+         "is followed by an exponent after blanks (%1)",
+         "Such an exponent isn't read. Change the program's format, or multiply by the power of ten"},
+        {F::SpacedSign,
+         {},
+         "has a minus sign before it, separated by blanks, which isn't read",
+         "Change the program's format, or the sign of the value"},
+        {F::DecimalComma,
+         {},
+         "is next to a comma (%1)",
+         "A comma isn't a decimal point. If it separates columns, set it as the separator"},
+        {F::CutAtEdge,
+         {},
+         "touches other digits (%1)",
+         "It may be cut, or two columns may have run together. Look at the line"},
+        {F::Shifted, {}, "comes after %1 in its line, which may shift the columns", "Look at the line"},
+        {F::Stars,
+         {},
+         "is in place of asterisks, a number too wide to print (%1)",
+         "Change the program's format. Look at the line"},
+        {F::NanOrInf, {}, "is from a line with NaN or Inf (%1)", "The program had no number there"},
+        {F::LetterBefore, {}, "follows letters (%1)", "It may be part of a word. Look at the line"},
+        {F::LetterAfter, {}, "is followed by %1", "If this is a unit, check that it is the one you expect"},
+        {F::NotANumber, &notANumber, "", "Look at the line, and correct the mark"},
+        {F::FewerRows, &rows, "", "Look at the end of the file, or reduce the number of rows"},
+    };
+    for (const FWords& words : all) {
+        if (flags.testFlag(words.flag)) {
+            return words;
+        }
+    }
+    static const FWords none{F::NotANumber, {}, "", ""};
+    return none;
+}
+
+}  // namespace
+
+QString text(const FNumberOrigin& origin, double number) {
+    constexpr FNumberFlags reasons = F::NotANumber | F::ColumnMissing | F::LineBeyondEnd;
+    const bool hasReason = std::isnan(number) && (origin.flags & reasons);
+    const FWords& words = wordsOf(hasReason ? origin.flags & ~suspiciousFlags : origin.flags);
+    const QString plain = QString::fromLatin1(words.words);
+    return words.make                            ? words.make(origin, number)
+           : plain.contains(QLatin1String("%1")) ? plain.arg(origin.oddity)
+                                                 : plain;
+}
+
+QString remedy(FNumberFlags flags) {
+    return QString::fromLatin1(wordsOf(flags).remedy);
+}
+
+}  // namespace FValueRemark

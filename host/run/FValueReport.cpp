@@ -1,0 +1,114 @@
+#include "host/run/FValueReport.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/core/FNumberText.h"
+#include "host/run/FTableData.h"
+#include "host/run/FValueRemark.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <cmath>
+
+namespace FValueReport {
+namespace {
+
+constexpr int mostListed = 3;
+
+QString placeIn(const FTableData& table, const FNumberOrigin& origin) {
+    return origin.lineToShow() > 0 ? QStringLiteral("%1:%2").arg(table.getName()).arg(origin.lineToShow())
+                                   : table.getName();
+}
+
+/** The values of a table that have flags, and for the message the first few of them. */
+struct FGroup {
+    int count = 0;
+    QStringList texts{};
+    FNumberFlags flags{};
+    QString place{};
+
+    void add(const FTableData& table, int row, const FNumberOrigin& origin) {
+        if (++count == 1) {
+            flags = origin.flags;
+            place = placeIn(table, origin);
+        }
+        if (count > mostListed) {
+            return;
+        }
+        const double number = table.getElementAt(row, 0);
+        FNumberOrigin own = origin;
+        own.flags &= ~fileFlags;
+        const QString value = std::isnan(number) ? QStringLiteral(":") : QLatin1Char(' ') + numberText(number);
+        texts.append(QStringLiteral("\"%1\"%2 %3 in %4")
+                         .arg(table.getRowName(row), value, FValueRemark::text(own, number), placeIn(table, origin)));
+    }
+    QString text(const QString& kind) const {
+        const QString rest = count > mostListed ? QStringLiteral("; and %1 more").arg(count - mostListed) : QString();
+        return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, texts.join(QStringLiteral("; ")), rest);
+    }
+};
+
+void send(bool isNote, const QString& source, const QString& message, const QString& remedy, const QString& place) {
+    if (isNote) {
+        FLogMsg::info(source, place + QStringLiteral(": ") + message, remedy);
+    } else {
+        FLogMsg::warning(source, message, remedy, place);
+    }
+}
+
+bool isNewSeparator(const FTableData& table, const FNumberOrigin& origin) {
+    static QSet<QString> reported;
+    const QString key = table.getName() + QLatin1Char('\n') + origin.oddity;
+    const bool isNew = !reported.contains(key);
+    reported.insert(key);
+    return isNew;
+}
+
+// All values have these flags, so that one of them is enough.
+void logFile(const FTableData& table, const QString& source, bool isNote, const FNumberOrigin& origin) {
+    for (const FNumberFlag flag :
+         {FNumberFlag::SeparatorInvalid, FNumberFlag::ZeroBytes, FNumberFlag::OnlyCarriageReturns}) {
+        if (origin.flags.testFlag(flag) && (flag != FNumberFlag::SeparatorInvalid || isNewSeparator(table, origin))) {
+            FNumberOrigin one = origin;
+            one.flags = flag;
+            send(isNote, source, FValueRemark::text(one, 0), FValueRemark::remedy(flag), table.getName());
+        }
+    }
+}
+
+}  // namespace
+
+void log(const FTableData& table, const QString& source, bool isNote, QString& earlier) {
+    FGroup suspicious;
+    FGroup missing;
+    FNumberOrigin ofFile;
+    for (int row = 0; row < table.getRowCount(); ++row) {
+        const FNumberOrigin& origin = table.getOrigin(row);
+        if (origin.flags & fileFlags) {
+            ofFile = origin;
+        }
+        if (origin.flags & ~fileFlags) {
+            (std::isnan(table.getElementAt(row, 0)) ? missing : suspicious).add(table, row, origin);
+        }
+    }
+    QStringList groups;
+    if (suspicious.count > 0) {
+        groups.append(suspicious.text(QStringLiteral("suspicious")));
+    }
+    if (missing.count > 0) {
+        groups.append(missing.text(QStringLiteral("without a number")));
+    }
+    const QString text = QStringLiteral("%1 values: ").arg(table.getRowCount()) + groups.join(QStringLiteral("; "));
+    const QString key = text + QString::number(ofFile.flags) + ofFile.oddity;
+    if (key == earlier) {
+        return;
+    }
+    earlier = key;
+    logFile(table, source, isNote, ofFile);
+    if (!groups.isEmpty()) {
+        const FGroup& first = suspicious.count > 0 ? suspicious : missing;
+        send(isNote, source, text, FValueRemark::remedy(first.flags & ~fileFlags), first.place);
+    }
+}
+
+}  // namespace FValueReport

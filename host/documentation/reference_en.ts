@@ -1439,7 +1439,7 @@ print(solver.getResults().getTable("stdout.txt").getElementAt("CL", "x"))</trans
     </message>
     <message>
         <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0)</source>
-        <translation>The number in the row of a name: for a result file, the value of that name. If several rows have the name, the first counts. An unknown name gives NaN.</translation>
+        <translation>The number in the row of a name: for a result file, the value of that name. If several rows have the name, the first counts. An unknown name gives NaN, with a warning.</translation>
     </message>
     <message>
         <source>!FTableData.member.getElementAt(string,row header,unsigned,column=0):argument0</source>
@@ -1465,7 +1465,7 @@ print(solver.getResults().getTable("stdout.txt").getElementAt("CL"))</translatio
     </message>
     <message>
         <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0)</source>
-        <translation>The number in a row and a column. Outside of the table it is NaN.</translation>
+        <translation>The number in a row and a column. Outside of the table it is NaN, with a warning.</translation>
     </message>
     <message>
         <source>!FTableData.member.getElementAt(unsigned,row,unsigned,column=0):argument0</source>
@@ -1506,6 +1506,339 @@ print(solver.getResults().getTable("stdout.txt").getRowCount())</translation>
         <source>!FTableData.member.getRowCount():returnValue</source>
         <comment>return type: int</comment>
         <translation>The number, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableAt(unsigned,number)</source>
+        <translation>The table of a number, in the order of the result templates of the definition. It also finds the tables of several templates that read the same file, which have the same name.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableAt(unsigned,number):argument0</source>
+        <translation>The number, from 0.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableAt(unsigned,number):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTableAt(0).getElementAt("CL"))</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getTableAt(unsigned,number):returnValue</source>
+        <comment>return type: FTableData</comment>
+        <translation>The table, or NULL.</translation>
+    </message>
+    <message>
+        <source>!FString</source>
+        <translation>A text. Its characters are counted from 0; the commands don't change it.</translation>
+    </message>
+    <message>
+        <source>!FString:example</source>
+        <translation>state = "NOT CONVERGED after 50"
+if (state.contains("NOT CONVERGED")) { print("failed:", state) }</translation>
+    </message>
+    <message>
+        <source>!FString.member.contains(string,text)</source>
+        <translation>Whether the text contains another one. Case matters.</translation>
+    </message>
+    <message>
+        <source>!FString.member.contains(string,text):argument0</source>
+        <translation>The text to look for; every text contains "".</translation>
+    </message>
+    <message>
+        <source>!FString.member.contains(string,text):example</source>
+        <translation>print("NOT CONVERGED".contains("CONVERGED"))</translation>
+    </message>
+    <message>
+        <source>!FString.member.contains(string,text):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>True if it does.</translation>
+    </message>
+    <message>
+        <source>!FString.member.find(string,text,unsigned,from=0)</source>
+        <translation>The place of the first occurrence of another text. Case matters.</translation>
+    </message>
+    <message>
+        <source>!FString.member.find(string,text,unsigned,from=0):argument0</source>
+        <translation>The text to look for.</translation>
+    </message>
+    <message>
+        <source>!FString.member.find(string,text,unsigned,from=0):argument1</source>
+        <translation>The place to start from, counted from 0.</translation>
+    </message>
+    <message>
+        <source>!FString.member.find(string,text,unsigned,from=0):example</source>
+        <translation>print("v4.2, 2024".find("20"))</translation>
+    </message>
+    <message>
+        <source>!FString.member.find(string,text,unsigned,from=0):returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The place of its first character, from 0; -1 if the text doesn't contain it.</translation>
+    </message>
+    <message>
+        <source>!FString.member.length()</source>
+        <translation>The number of characters.</translation>
+    </message>
+    <message>
+        <source>!FString.member.length():example</source>
+        <translation>print("CONVERGED".length())</translation>
+    </message>
+    <message>
+        <source>!FString.member.length():returnValue</source>
+        <comment>return type: int</comment>
+        <translation>The number, from 0. A character beyond the first 65536 of Unicode counts as two.</translation>
+    </message>
+    <message>
+        <source>!FString.member.split(string,separator="")</source>
+        <translation>The parts of the text between separators. Two separators in a row have an empty part between them.</translation>
+    </message>
+    <message>
+        <source>!FString.member.split(string,separator=""):argument0</source>
+        <translation>The separator; "" for white space of any length, which then gives no empty parts.</translation>
+    </message>
+    <message>
+        <source>!FString.member.split(string,separator=""):example</source>
+        <translation>print("4.2;7;9".split(";").at(1))</translation>
+    </message>
+    <message>
+        <source>!FString.member.split(string,separator=""):returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The parts, as texts; number() turns one into a number.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumn(unsigned,column=0)</source>
+        <translation>The numbers of a column, from the first row to the last.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumn(unsigned,column=0):argument0</source>
+        <translation>The column, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumn(unsigned,column=0):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getColumn())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getColumn(unsigned,column=0):returnValue</source>
+        <comment>return type: FObjectContainer</comment>
+        <translation>A list of numbers; NaN for a row that has no such column.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getListing()</source>
+        <translation>A listing of the values for people: name, value, place, text and flags, in aligned columns. The place is file:line:column. A flag names something unusual, such as "exponent" for 1.0D+05, of which only 1.0 is read.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getListing():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getListing())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getListing():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The listing, one line for each value after a line of headers.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(string,row header)</source>
+        <translation>Where a number comes from: file, line, column and text, what was unusual about it, the place of the anchor, and for an average all its rows.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(string,row header):argument0</source>
+        <translation>The name of the row; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(string,row header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+origin = solver.getResults().getTable("stdout.txt").getOrigin("CL")
+print(origin)
+print(origin.get("line"), origin.get("flags").count())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(string,row header):returnValue</source>
+        <comment>return type: FValueOrigin</comment>
+        <translation>An origin: a record of the names that getNames lists. NULL, with a warning, if there is no such row.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(string,row header)</source>
+        <translation>The text that was found for a value. With a separator, it may be a word, a unit or a version, which isn't a number and reads as NaN. For an average, it is the text of its last row.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(string,row header):argument0</source>
+        <translation>The name of the row; case matters.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(string,row header):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getText("CL"))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(string,row header):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The text; "" if nothing was found.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(unsigned,row)</source>
+        <translation>Where a number comes from: file, line, column and text, what was unusual about it, the place of the anchor, and for an average all its rows.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(unsigned,row):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(unsigned,row):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+origin = solver.getResults().getTable("stdout.txt").getOrigin(0)
+print(origin)
+print(origin.get("line"), origin.get("flags").count())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getOrigin(unsigned,row):returnValue</source>
+        <comment>return type: FValueOrigin</comment>
+        <translation>An origin: a record of the names that getNames lists. NULL, with a warning, if there is no such row.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(unsigned,row)</source>
+        <translation>The text that was found for a value. With a separator, it may be a word, a unit or a version, which isn't a number and reads as NaN. For an average, it is the text of its last row.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(unsigned,row):argument0</source>
+        <translation>The row, from 0.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(unsigned,row):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").getText(0))</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.getText(unsigned,row):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The text; "" if nothing was found.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.toCsv()</source>
+        <translation>The table as comma-separated values, for a spreadsheet: a line of headers, then a line for each row with its name and its numbers.</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.toCsv():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+print(solver.getResults().getTable("stdout.txt").toCsv())</translation>
+    </message>
+    <message>
+        <source>!FTableData.member.toCsv():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The lines, each with a line feed at its end. A name with a comma or a quote is quoted.</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin</source>
+        <translation>Where a number of a result table comes from. Printed, it is one line: the place as file:line:column, the text, and the flags in brackets. It describes the reading that it was taken from; later readings don't change it.</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin:example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+origin = solver.getResults().getTable("stdout.txt").getOrigin("CL")
+print(origin)</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.get(string,name)</source>
+        <translation>A part of the origin:
+
+name: the name of the row
+value: the number
+file, line, column: the place, the last two counted from 1; -1 if nothing was found
+text: the text found
+flags: a list of texts, empty for a number that isn't unusual: anchor missing, line beyond end, column missing, not a number, fewer rows, no rows, invalid separator, slow separator, exponent, asterisks, NaN or Inf, comma, letter before, point before exponent, blank before exponent, blank after sign, unit, cut, shifted, zero bytes, CR line ends
+reason: the same as a sentence, for the most important flag
+anchor, anchorLine, anchorColumn: the anchor and its place; -1 if it wasn't found
+number: the number of the value in its template, from 0
+rows: for an average, a list of origins, one for each row with a number, at most 10000; otherwise empty</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.get(string,name):argument0</source>
+        <translation>The name of the part; case matters.</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.get(string,name):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+origin = solver.getResults().getTable("stdout.txt").getOrigin("CL")
+print(origin.get("line"), origin.get("column"), origin.get("text"))</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.get(string,name):returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The text, number or list; NULL, with a warning, for another name.</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.getNames()</source>
+        <translation>The names of all parts of an origin.</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.getNames():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setValues([["CL", 0, 0, "", Last, "FDouble", ""], ["CD", 0, 1, "", Last, "FDouble", ""]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
+solver.run()
+origin = solver.getResults().getTable("stdout.txt").getOrigin("CL")
+print(origin.getNames())</translation>
+    </message>
+    <message>
+        <source>!FValueOrigin.member.getNames():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The names.</translation>
+    </message>
+    <message>
+        <source>!Global.preview(FGenIntResultsFile,template)</source>
+        <translation>Tries the marks of a result template on its sample content, without a run. Nothing is stored.</translation>
+    </message>
+    <message>
+        <source>!Global.preview(FGenIntResultsFile,template):argument0</source>
+        <translation>The result template; its sample is set with setContent.</translation>
+    </message>
+    <message>
+        <source>!Global.preview(FGenIntResultsFile,template):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("out.dat"); .setContent("Force 0.52 1.0D-02"); .setValues([["CL", 0, 0, "Force", Last, "FDouble", ""], ["CD", 0, 1, "Force", Last, "FDouble", ""]]) }
+print(preview(out1))</translation>
+    </message>
+    <message>
+        <source>!Global.preview(FGenIntResultsFile,template):returnValue</source>
+        <comment>return type: string</comment>
+        <translation>A listing as of getListing: name, value, place, text and flags of each value.</translation>
     </message>
     <message>
         <source>!FTableData.member.getRowName(int,row)</source>

@@ -3,6 +3,7 @@
 
 #include <bit>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -64,6 +65,67 @@ TEST_F(FResultsGenIntTest, readsOnceUntilSomethingChanges) {
     results()->setOutputHandles(results()->getOutputHandles());
     EXPECT_TRUE(std::isnan(results()->getDataAt("f", 0U)));
     EXPECT_TRUE(results()->getData("Out.txt"));
+}
+
+TEST_F(FResultsGenIntTest, reportsSuspiciousAndMissingNumbersOncePerReading) {
+    write("Out.txt", "title\nf -5.013907D-01\n");
+    EXPECT_EQ(results()->getDataAt("f", 0U), -5.013907);
+    EXPECT_EQ(results()->getDataAt("g", 0U), -1);
+    ASSERT_TRUE(logHolds("2 values: 2 suspicious: \"f\" -5.013907 is followed by D-01 in Out.txt:2; \"g\" -1 "))
+        << logText();
+    EXPECT_EQ(log().size(), 1);
+    results()->setOutputHandles(results()->getOutputHandles());
+    EXPECT_EQ(results()->getDataAt("f", 0U), -5.013907);
+    EXPECT_EQ(log().size(), 1) << "the same message isn't repeated";
+    write("Out.txt", "title\nf abc\n");
+    write("stdout.txt", "3");
+    results()->setOutputHandles(results()->getOutputHandles());
+    results()->detachFromFiles();
+    EXPECT_EQ(log().size(), 1) << "nobody has requested a number";
+    EXPECT_TRUE(std::isnan(results()->getDataAt("f", 0U)));
+    EXPECT_TRUE(logHolds("2 values: 2 without a number: \"f\": line 2 ends before the column in Out.txt:2"))
+        << logText();
+    EXPECT_TRUE(
+        logHolds("\"s\" 3 was read from line 1, counted from the top of the file, since the anchor \"said\" "
+                 "isn't in the file in stdout.txt:1"))
+        << logText();
+}
+
+TEST_F(FResultsGenIntTest, answersQueriesOfScripts) {
+    ASSERT_TRUE(
+        run("square.setValues([[\"f\", 0, 0, \"force\", First, \"FDouble\", \"\"],"
+            "[\"mean\", 0, 1, \"\", Last, \"FDouble\", \"\", 1, 2], [\"a,b\", 9, 0, \"\", Last, \"FDouble\", \"\"]])"));
+    write("Out.txt", "  Force 1.5E +02\nx 1 2\nx 1 4.50\n");
+    const std::pair<const char*, const char*> cases[] = {
+        {"getOrigin(\"f\")", "Out.txt:1:9 \"1.5\" (blank before exponent)"},
+        {"getOrigin(\"f\").get(\"line\")", "1"},
+        {"getOrigin(\"f\").get(\"anchorColumn\")", "3"},
+        {"getOrigin(\"a,b\").get(\"number\")", "2"},
+        {"getOrigin(\"a,b\").get(\"flags\").at(0)", "line beyond end"},
+        {"getOrigin(\"mean\").get(\"rows\")", "[Out.txt:2:5 \"2\",Out.txt:3:5 \"4.50\"]"},
+        {"getOrigin(\"mean\").get(\"rows\").at(1).get(\"value\")", "4.5"},
+        {"getText(\"mean\")", "4.50"},
+        {"getText(0).length()", "4"},
+        {"getColumn()", "[3.25,NaN,1.5]"},
+        {"toCsv()", "name,value\nmean,3.25\n\"a,b\",NaN\nf,1.5\n"},
+        {"getListing()",
+         "name  value  place        text  flags\nmean  3.25   Out.txt:3:5  4.50\n"
+         "a,b   NaN    Out.txt            line beyond end\nf     1.5    Out.txt:1:9  1.5   blank before exponent\n"},
+    };
+    for (const auto& [query, text] : cases) {
+        EXPECT_EQ(textOf(QString("comp.getResults().getTableAt(0).") + query), text) << query;
+    }
+    EXPECT_EQ(textOf("comp.getResults().getTableAt(1).getRowNames()"), "[s]");
+    EXPECT_EQ(textOf("comp.getResults().getTableAt(2)"), "NULL");
+    EXPECT_EQ(
+        textOf("preview(square)"),
+        "name  value  place          text  flags\na,b   NaN    Out.txt              line beyond end\n"
+        "f     0      Out.txt:1:3    0     anchor missing\nmean  NaN    Out.txt:1            column missing, fewer "
+        "rows\n");
+    EXPECT_EQ(textOf("comp.getResults().getDataAt(\"meen\", 0)"), "NaN");
+    EXPECT_TRUE(logHolds("Out.txt has no value \"meen\" (did you mean \"mean\"?)"));
+    EXPECT_EQ(textOf("comp.getResults().getTableAt(0).getElementAt(1, 3)"), "NaN");
+    EXPECT_TRUE(logHolds("Out.txt has no column 3; it has 3 rows and 1 columns")) << logText();
 }
 
 TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {

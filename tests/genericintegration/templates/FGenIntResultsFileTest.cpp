@@ -64,6 +64,10 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
     const auto* copy = dynamic_cast<FGenIntResultsFile*>(file->clone());
     EXPECT_EQ(copy->getValues()->count(), 1);
     EXPECT_EQ(log().size(), 2) << "a copy isn't told of";
+    run("out1.setValues([[\"flow\", \"-1\", 0, \"\", Last, \"FDouble\", \"\"], [\"v\", 0, 1.5, \"\", Last, "
+        "\"FDouble\", \"\"]])");
+    EXPECT_TRUE(logHolds("value 0 of out1 has the line \"-1\", which isn't a number, and takes 0")) << logText();
+    EXPECT_TRUE(logHolds("value 1 of out1 has the column 1.5, which isn't a whole number, and takes 1"));
     run("out1.setValues([\"v\", [\"v\", 0, 0, \"\", \"Frist\", \"FDouble\", \"\"]])");
     EXPECT_TRUE(logHolds("test:1:6: setValues: value 0 of out1 is no list"));
     EXPECT_TRUE(logHolds("value 1 of out1 has the occurrence \"Frist\""));

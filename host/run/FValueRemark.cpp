@@ -129,10 +129,13 @@ QString text(const FNumberOrigin& origin, double number) {
     constexpr FNumberFlags reasons = F::NotANumber | F::ColumnMissing | F::LineBeyondEnd;
     const bool hasReason = std::isnan(number) && (origin.flags & reasons);
     const FWords& words = wordsOf(hasReason ? origin.flags & ~suspiciousFlags : origin.flags);
-    const QString plain = QString::fromLatin1(words.words);
-    return words.make                            ? words.make(origin, number)
-           : plain.contains(QLatin1String("%1")) ? plain.arg(origin.oddity)
-                                                 : plain;
+    if (words.make) {
+        return words.make(origin, number);
+    }
+    const bool isOfRow = origin.rows && suspiciousFlags.testFlag(words.flag);
+    const QString plain =
+        (isOfRow ? QStringLiteral("is a mean, one of whose numbers ") : QString()) + QString::fromLatin1(words.words);
+    return plain.contains(QLatin1String("%1")) ? plain.arg(origin.oddity) : plain;
 }
 
 QString remedy(FNumberFlags flags) {

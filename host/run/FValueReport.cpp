@@ -5,6 +5,7 @@
 #include "host/run/FTableData.h"
 #include "host/run/FValueRemark.h"
 
+#include <QHash>
 #include <QSet>
 #include <QStringList>
 
@@ -13,18 +14,20 @@
 namespace FValueReport {
 namespace {
 
-constexpr int mostListed = 3;
+constexpr int mostOfAKind = 3;
+constexpr int mostListed = 30;
 
 QString placeIn(const FTableData& table, const FNumberOrigin& origin) {
     return origin.lineToShow() > 0 ? QStringLiteral("%1:%2").arg(table.getName()).arg(origin.lineToShow())
                                    : table.getName();
 }
 
-/** The values of a table that have flags, and for the message the first few of them. */
+/** The values of a table that have flags, and for the message the first few of each kind. */
 struct FGroup {
     int count = 0;
     QStringList texts{};
-    FNumberFlags flags{};
+    QHash<QString, int> kinds{};  //!< number of values by what can be done about them
+    FNumberFlags flags{};         //!< of the first value
     QString place{};
 
     void add(const FTableData& table, int row, const FNumberOrigin& origin) {
@@ -32,18 +35,19 @@ struct FGroup {
             flags = origin.flags;
             place = placeIn(table, origin);
         }
-        if (count > mostListed) {
-            return;
-        }
         const double number = table.getElementAt(row, 0);
         FNumberOrigin own = origin;
         own.flags &= ~fileFlags;
+        if (++kinds[FValueRemark::remedy(own.flags)] > mostOfAKind || texts.size() >= mostListed) {
+            return;
+        }
         const QString value = std::isnan(number) ? QStringLiteral(":") : QLatin1Char(' ') + numberText(number);
         texts.append(QStringLiteral("\"%1\"%2 %3 in %4")
                          .arg(table.getRowName(row), value, FValueRemark::text(own, number), placeIn(table, origin)));
     }
     QString text(const QString& kind) const {
-        const QString rest = count > mostListed ? QStringLiteral("; and %1 more").arg(count - mostListed) : QString();
+        const int others = count - texts.size();
+        const QString rest = others > 0 ? QStringLiteral("; and %1 more").arg(others) : QString();
         return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, texts.join(QStringLiteral("; ")), rest);
     }
 };

@@ -117,11 +117,10 @@ TEST_F(FResultsGenIntTest, answersQueriesOfScripts) {
     }
     EXPECT_EQ(textOf("comp.getResults().getTableAt(1).getRowNames()"), "[s]");
     EXPECT_EQ(textOf("comp.getResults().getTableAt(2)"), "NULL");
-    EXPECT_EQ(
-        textOf("preview(square)"),
-        "name  value  place          text  flags\na,b   NaN    Out.txt              line beyond end\n"
-        "f     0      Out.txt:1:3    0     anchor missing\nmean  NaN    Out.txt:1            column missing, fewer "
-        "rows\n");
+    EXPECT_EQ(textOf("preview(square)"),
+              "name  value  place        text  flags\nf     0      Out.txt:1:3  0     anchor missing\n"
+              "mean  NaN    Out.txt:1          column missing, fewer rows\n"
+              "a,b   NaN    Out.txt            line beyond end\n");
     EXPECT_EQ(textOf("comp.getResults().getDataAt(\"meen\", 0)"), "NaN");
     EXPECT_TRUE(logHolds("Out.txt has no value \"meen\" (did you mean \"mean\"?)"));
     EXPECT_EQ(textOf("comp.getResults().getTableAt(0).getElementAt(1, 3)"), "NaN");

@@ -18,7 +18,7 @@ TEST_F(FStringTest, textsAnswerQueries) {
         {"\"abcab\".find(\"ab\", 4)", "-1"},
         {"\"ab\".find(\"a\", 4294967295)", "-1"},
         {"\"4.2;7;;9\".split(\";\")", "[4.2,7,,9]"},
-        {"\"  a \\t b\".split()", "[a,b]"},
+        {"\"  a \t b\".split()", "[a,b]"},
         {"\"\".split().count()", "0"},
         {"fileName(\"a.txt\").contains(\".txt\")", "true"},
     };

@@ -790,7 +790,7 @@ out1.setSpacesAndTabsSeparator(true)</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setRegExprSeparator(string,regularExpression)</source>
-        <translation>Sets a regular expression that separates columns; "" for none. It takes effect only after setNumberSeparator(false), which this command doesn't do by itself. Two separators in a row have an empty column between them, which is NaN. An expression that isn't valid separates nothing, with a warning when the file is read.</translation>
+        <translation>Sets a regular expression that separates columns; "" for none. It takes effect only after setNumberSeparator(false), which this command doesn't do by itself. Two separators in a row have an empty column between them, which is NaN. An expression that isn't valid separates nothing, with a warning when the file is read. With a back reference (\1) or a look-ahead, (?=…) or (?!…), a line of more than 10000 characters counts as one column, with a warning; so does each further line of a file for which such an expression needs more than 10 seconds.</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setRegExprSeparator(string,regularExpression):argument0</source>

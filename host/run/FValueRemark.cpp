@@ -1,7 +1,6 @@
 #include "host/run/FValueRemark.h"
 
 #include <cmath>
-#include <functional>
 
 namespace FValueRemark {
 namespace {
@@ -49,77 +48,56 @@ QString rows(const FNumberOrigin& origin, double) {
 /** Words for a flag. %1 is the text beside the number. */
 struct FWords {
     FNumberFlag flag;
-    std::function<QString(const FNumberOrigin&, double)> make;  //!< empty: `words`
+    QString (*make)(const FNumberOrigin&, double);  //!< null: `words`
     const char* words;
     const char* remedy;
 };
 
 // The cause of a NaN comes first, then what is most likely wrong.
+constexpr FWords allWords[] = {
+    {F::SeparatorInvalid, nullptr, "the separator isn't a valid regular expression: %1",
+     "It separates nothing. Correct it"},
+    {F::ZeroBytes, nullptr, "the file contains zero bytes, as UTF-16 without a byte order mark does",
+     "Have the program write UTF-8, or a byte order mark"},
+    {F::OnlyCarriageReturns, nullptr, "the lines of the file end with CR alone, so that it counts as one line",
+     "Have the program end its lines with LF or CR LF"},
+    {F::SeparatorTooSlow, nullptr, "the separator needs too much time for this line, which counts as one column",
+     "Use a simpler separator"},
+    {F::AnchorMissing, &anchor, "", "Look at the file, and correct the anchor"},
+    {F::NoRows, nullptr, "a mean over 0 rows was requested", "Set the number of rows"},
+    {F::LineBeyondEnd, &line, "", "Look at the file, and correct the line of the mark"},
+    {F::ColumnMissing, &column, "", "Look at the line, and correct the column of the mark or the separator"},
+    {F::CutExponent, nullptr, "is followed by %1",
+     "Only an exponent with E is read. Change the program's format, or "
+     "multiply by the power of ten"},
+    {F::PointExponent, nullptr, "is followed by %1",
+     "An exponent after a bare point isn't read. Change the program's "
+     "format, or multiply by the power of ten"},
+    {F::SpacedExponent, nullptr, "is followed by an exponent after blanks (%1)",
+     "Such an exponent isn't read. Change the program's format, or multiply by the power of ten"},
+    {F::SpacedSign, nullptr, "has a minus sign before it, separated by blanks, which isn't read",
+     "Change the program's format, or the sign of the value"},
+    {F::DecimalComma, nullptr, "is next to a comma (%1)",
+     "A comma isn't a decimal point. If it separates columns, set it as the separator"},
+    {F::CutAtEdge, nullptr, "touches other digits (%1)",
+     "It may be cut, or two columns may have run together. Look at the line"},
+    {F::Shifted, nullptr, "comes after %1 in its line, which may shift the columns", "Look at the line"},
+    {F::Stars, nullptr, "is in place of asterisks, a number too wide to print (%1)",
+     "Change the program's format. Look at the line"},
+    {F::NanOrInf, nullptr, "is from a line with NaN or Inf (%1)", "The program had no number there"},
+    {F::LetterBefore, nullptr, "follows letters (%1)", "It may be part of a word. Look at the line"},
+    {F::LetterAfter, nullptr, "is followed by %1", "If this is a unit, check that it is the one you expect"},
+    {F::NotANumber, &notANumber, "", "Look at the line, and correct the mark"},
+    {F::FewerRows, &rows, "", "Look at the end of the file, or reduce the number of rows"},
+};
+
 const FWords& wordsOf(FNumberFlags flags) {
-    static const FWords all[] = {
-        {F::SeparatorInvalid,
-         {},
-         "the separator isn't a valid regular expression: %1",
-         "It separates nothing. Correct it"},
-        {F::ZeroBytes,
-         {},
-         "the file contains zero bytes, as UTF-16 without a byte order mark does",
-         "Have the program write UTF-8, or a byte order mark"},
-        {F::OnlyCarriageReturns,
-         {},
-         "the lines of the file end with CR alone, so that it counts as one line",
-         "Have the program end its lines with LF or CR LF"},
-        {F::SeparatorTooSlow,
-         {},
-         "the separator needs too much time for this line, which counts as one column",
-         "Use a simpler separator"},
-        {F::AnchorMissing, &anchor, "", "Look at the file, and correct the anchor"},
-        {F::NoRows, {}, "a mean over 0 rows was requested", "Set the number of rows"},
-        {F::LineBeyondEnd, &line, "", "Look at the file, and correct the line of the mark"},
-        {F::ColumnMissing, &column, "", "Look at the line, and correct the column of the mark or the separator"},
-        {F::CutExponent,
-         {},
-         "is followed by %1",
-         "Only an exponent with E is read. Change the program's format, or "
-         "multiply by the power of ten"},
-        {F::PointExponent,
-         {},
-         "is followed by %1",
-         "An exponent after a bare point isn't read. Change the program's "
-         "format, or multiply by the power of ten"},
-        {F::SpacedExponent,
-         {},
-         "is followed by an exponent after blanks (%1)",
-         "Such an exponent isn't read. Change the program's format, or multiply by the power of ten"},
-        {F::SpacedSign,
-         {},
-         "has a minus sign before it, separated by blanks, which isn't read",
-         "Change the program's format, or the sign of the value"},
-        {F::DecimalComma,
-         {},
-         "is next to a comma (%1)",
-         "A comma isn't a decimal point. If it separates columns, set it as the separator"},
-        {F::CutAtEdge,
-         {},
-         "touches other digits (%1)",
-         "It may be cut, or two columns may have run together. Look at the line"},
-        {F::Shifted, {}, "comes after %1 in its line, which may shift the columns", "Look at the line"},
-        {F::Stars,
-         {},
-         "is in place of asterisks, a number too wide to print (%1)",
-         "Change the program's format. Look at the line"},
-        {F::NanOrInf, {}, "is from a line with NaN or Inf (%1)", "The program had no number there"},
-        {F::LetterBefore, {}, "follows letters (%1)", "It may be part of a word. Look at the line"},
-        {F::LetterAfter, {}, "is followed by %1", "If this is a unit, check that it is the one you expect"},
-        {F::NotANumber, &notANumber, "", "Look at the line, and correct the mark"},
-        {F::FewerRows, &rows, "", "Look at the end of the file, or reduce the number of rows"},
-    };
-    for (const FWords& words : all) {
+    for (const FWords& words : allWords) {
         if (flags.testFlag(words.flag)) {
             return words;
         }
     }
-    static const FWords none{F::NotANumber, {}, "", ""};
+    static constexpr FWords none{F::NotANumber, nullptr, "", ""};
     return none;
 }
 

@@ -34,6 +34,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** The first table of that name; an empty handle if there is none. */
     virtual FExpr<FTableData> getData(const QString& name);
     QStringList getTableNames() const;
+    /** What was read so far. */
+    const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
     /** The files that entries of the configuration name as results. */
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
@@ -53,7 +55,6 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** The next access reads the files again. */
     void forgetReading() const { mFilesRead = false; }
     void becameOutOfDate() const override;
-    const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
     mutable QHash<QString, FExpr<FObject>> mImportedObjects;
 

@@ -673,7 +673,7 @@ print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translati
     </message>
     <message>
         <source>!FExternComputation.member.run()</source>
-        <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code other than 0, or if it doesn't write a file that results are read from. The message then gives the cause, the last lines of the output and the folder; the script continues. While a run is in progress, a second one is refused.</translation>
+        <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code that isn't allowed, if it doesn't write a file that results are read from, or if a rule of the computation is broken. The message then gives the cause, the entries that differ from the run before, the lines of the output that look like a cause, and the folder; the script continues. A script that ignores the result of a failed run ends with code 1. While a run is in progress, a second one is refused.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.run():example</source>

@@ -29,7 +29,7 @@ bool reportIgnoredFailures(const FCmdInput& input, const QString& script) {
         FLogMsg::error(script,
                        QStringLiteral("%1 failed, and the script didn't use the result of run()")
                            .arg(count == 1 ? QStringLiteral("1 run") : QStringLiteral("%1 runs").arg(count)),
-                       QStringLiteral("use it, as in \"if (!solver.run()) { ... }\", or end the script with exit(0)"));
+                       QStringLiteral("Use it, as in \"if (!solver.run()) { ... }\", or end the script with exit(0)"));
     }
     return count > 0;
 }

@@ -32,7 +32,7 @@ FRunAttempt::FRunAttempt(FExternComputation* computation, const FProcessSetup& s
       mReadFiles(readFiles),
       mRules(computation->getSuccessRules()),
       mInterruptLine(computation->getName(), QStringLiteral("Interrupted while its run was in progress"),
-                     QStringLiteral("the unfinished files are in '%1'").arg(record()->folder)),
+                     QStringLiteral("Its unfinished files are in '%1'").arg(record()->folder)),
       mFolder(setup.workingFolder, earlier) {
     connect(&mRun, &FRun::ended, this, &FRunAttempt::finish);
 }

@@ -2,6 +2,7 @@
 
 #include "host/core/FLogMsg.h"
 #include "host/core/FPrototypes.h"
+#include "host/run/FInterruptLine.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
@@ -19,6 +20,18 @@ FExprBase textList(const std::vector<std::string>& texts) {
         list->add(FExpr<FObject>(new FString(QString::fromStdString(text))));
     }
     return handle;
+}
+
+// Otherwise a batch job would look as if it had succeeded.
+bool reportIgnoredFailures(const FCmdInput& input, const QString& script) {
+    const int count = input.getIgnoredFailures();
+    if (count > 0) {
+        FLogMsg::error(script,
+                       QStringLiteral("%1 failed, and the script didn't use the result of run()")
+                           .arg(count == 1 ? QStringLiteral("1 run") : QStringLiteral("%1 runs").arg(count)),
+                       QStringLiteral("Use it, as in \"if (!solver.run()) { ... }\", or end the script with exit(0)"));
+    }
+    return count > 0;
 }
 
 }  // namespace
@@ -45,9 +58,14 @@ int FScriptSubcommand::run() const {
     FCmdInput input;
     input.setVariable(QStringLiteral("arguments"), textList(mArguments));
     input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
+    FInterruptLine::install();
+    const FInterruptLine interruptLine(path, QStringLiteral("Interrupted while no run was in progress"), QString());
     const bool done = input.exec();
     const int exitCode = done ? input.getExitCode() : FExitCode::failed;
     // If the script succeeded, it left unsaved work unsaved on purpose.
     FProject::instance()->close(exitCode != FExitCode::done);
-    return exitCode == FExitCode::done && FLogMsg::getStrictErrors() > 0 ? FExitCode::failed : exitCode;
+    if (exitCode != FExitCode::done || input.isExiting()) {
+        return exitCode == FExitCode::done && FLogMsg::getStrictErrors() > 0 ? FExitCode::failed : exitCode;
+    }
+    return reportIgnoredFailures(input, path) || FLogMsg::getStrictErrors() > 0 ? FExitCode::failed : FExitCode::done;
 }

@@ -417,6 +417,19 @@ print(wing.getEntryNames())</translation>
         <translation>A computation by an external program: the settings of the program, and its runs. The program is started without a shell, in its own folder: &lt;project&gt;.results/baseline/&lt;name of the computation&gt; next to the project file, or a temporary folder until the project is saved. When merix ends, even by a crash, the programs that it has started end too, with all their child processes.</translation>
     </message>
     <message>
+        <source>!FExternComputation.attribute.setAllowedExitCodes(FCONTAINER,codes)</source>
+        <translation>Sets the exit codes with which the program succeeds. With any other code the run fails. An empty list, and numbers below 0 or above 255, are refused with a message.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setAllowedExitCodes(FCONTAINER,codes):argument0</source>
+        <translation>The exit codes; [0] by default.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setAllowedExitCodes(FCONTAINER,codes):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setAllowedExitCodes([0, 2])</translation>
+    </message>
+    <message>
         <source>!FExternComputation.attribute.setArguments(FCONTAINER,arguments)</source>
         <translation>Sets the arguments of the program. Each text of the list is passed to the program as one argument, unchanged. No shell is involved: blanks and quotes need no escaping, and $ and * have no special meaning. Numbers are converted to text. The program runs in the folder of the run, so input files need no path.</translation>
     </message>
@@ -469,6 +482,71 @@ solver.setEnvironment(["OMP_NUM_THREADS=4", "LICENSE_FILE=27000@server"])</trans
 solver.setExecutable("ccx")</translation>
     </message>
     <message>
+        <source>!FExternComputation.attribute.setForbiddenTexts(FCONTAINER,texts)</source>
+        <translation>Sets texts that mustn't appear in a file after the run, such as the message of a solver that ends with exit code 0 although it didn't converge. If one appears, the run fails, and the message gives the line. Upper and lower case differ. A run also fails if the file is missing, unless it is one of the optional files. The files are searched only if the program was started; they are moved aside before the next run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setForbiddenTexts(FCONTAINER,texts):argument0</source>
+        <translation>A list of rules. Each is a list of a file name, relative to the folder of the run, and a text. "stdout.txt" and "stderr.txt" are the output of the program.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setForbiddenTexts(FCONTAINER,texts):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setForbiddenTexts([["stdout.txt", "NOT CONVERGED"], ["solver.log", "FATAL"]])</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setMissingAnchors(string,treatment)</source>
+        <translation>Sets what it means if a value's anchor isn't in the file. The value is then counted from the start of the file, and is most likely wrong. With "fail", the results are read at the end of the run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setMissingAnchors(string,treatment):argument0</source>
+        <translation>"accept": nothing; "warn", the default: a warning when the results are read; "fail": the run fails.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setMissingAnchors(string,treatment):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setMissingAnchors("fail")</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setOptionalFiles(FCONTAINER,files)</source>
+        <translation>Sets files that may be missing after a run, although a result template or a rule about texts names them. The values of such a template are NaN.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setOptionalFiles(FCONTAINER,files):argument0</source>
+        <translation>File names relative to the folder of the run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setOptionalFiles(FCONTAINER,files):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setOptionalFiles(["buckling.dat"])</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredTexts(FCONTAINER,texts)</source>
+        <translation>Sets texts that must appear in a file after the run. If one is missing, the run fails. Upper and lower case differ. The files are moved aside before the next run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredTexts(FCONTAINER,texts):argument0</source>
+        <translation>A list of rules. Each is a list of a file name, relative to the folder of the run, and a text.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredTexts(FCONTAINER,texts):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setRequiredTexts([["stdout.txt", "JOB COMPLETED"]])</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredValues(FCONTAINER,values)</source>
+        <translation>Sets results that mustn't be NaN. If one is, or if no result template has a value of that name, the run fails. The results are then read at the end of the run instead of at their first use.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredValues(FCONTAINER,values):argument0</source>
+        <translation>Names of values; "*" stands for all values of all result templates.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setRequiredValues(FCONTAINER,values):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setRequiredValues(["mass", "frequency"])</translation>
+    </message>
+    <message>
         <source>!FExternComputation.attribute.setStandardInput(string,fileName)</source>
         <translation>Sets the file that the program reads as its standard input. It is in the folder of the run, usually the file of an input template. Without a file, the input is empty. The run fails if the name leads out of the folder, or if the file is missing when the program starts.</translation>
     </message>
@@ -480,6 +558,19 @@ solver.setExecutable("ccx")</translation>
         <source>!FExternComputation.attribute.setStandardInput(string,fileName):example</source>
         <translation>genericIntegrationComputation solver()
 solver.setStandardInput("commands.txt")</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setSuspiciousNumbers(string,treatment)</source>
+        <translation>Sets what a suspicious number means, one that most likely isn't the number that the program wrote: cut before an exponent with D, in place of asterisks, beside a decimal comma and the like. With "fail", the results are read at the end of the run.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setSuspiciousNumbers(string,treatment):argument0</source>
+        <translation>"accept": nothing; "warn", the default: a warning when the results are read; "fail": the run fails.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setSuspiciousNumbers(string,treatment):example</source>
+        <translation>genericIntegrationComputation solver()
+solver.setSuspiciousNumbers("fail")</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setTimeLimit(double,seconds)</source>
@@ -582,7 +673,7 @@ print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translati
     </message>
     <message>
         <source>!FExternComputation.member.run()</source>
-        <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code other than 0, or if it doesn't write a file that results are read from. The message then gives the cause, the last lines of the output and the folder; the script continues. While a run is in progress, a second one is refused.</translation>
+        <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code that isn't allowed, if it doesn't write a file that results are read from, or if a rule of the computation is broken. The message then gives the cause, the entries that differ from the run before, the lines of the output that look like a cause, and the folder; the script continues. A script that ignores the result of a failed run ends with code 1. While a run is in progress, a second one is refused.</translation>
     </message>
     <message>
         <source>!FExternComputation.member.run():example</source>

@@ -6,6 +6,13 @@
 #include "host/run/FRunFolderFile.h"
 #include "host/script/FCmdTable.h"
 
+namespace {
+
+/** More entries aren't compared between runs, which would take as long as writing them. */
+constexpr int mostCompared = 10'000;
+
+}  // namespace
+
 void FCustomComputation::declareCommands(FCmdTable& table) {
     using F = FCustomComputation;
     table.member<F>("getResults", &F::getResults).query();
@@ -108,4 +115,19 @@ QStringList FCustomComputation::getReadFiles() const {
     const FConfigurationCustom* configuration = mConfiguration.ptr();
     const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
     return definition ? definition->getReadFiles() : QStringList();
+}
+
+QMap<QString, QString> FCustomComputation::getWrittenValues() const {
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    const QMap<QString, FExpr<FEntryBase>> entries =
+        configuration ? configuration->getEntryMap() : QMap<QString, FExpr<FEntryBase>>();
+    QMap<QString, QString> values;
+    // An entry that is out of date wasn't written, and its evaluation might read files.
+    for (auto row = entries.begin(); row != entries.end() && entries.size() <= mostCompared; ++row) {
+        const FObject* value = row.value()->isOutOfDate() ? nullptr : row.value()->getValueObject();
+        if (const auto* basic = dynamic_cast<const FBasicType*>(value)) {
+            values.insert(row.key(), basic->toPlainString());
+        }
+    }
+    return values;
 }

@@ -37,6 +37,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     bool writeOutputFile() const override;
     void finalizeRun() const override;
     QStringList getReadFiles() const override;
+    QMap<QString, QString> getWrittenValues() const override;
 
     FExpr<FConfigurationCustom> mConfiguration;
 

@@ -12,7 +12,7 @@ void FCurrentResults::make(const FExternComputation& computation, const std::sha
     mResults->setRun(run);
 }
 
-QString FCurrentResults::rereadProblem(const QStringList& files) const {
+QString FCurrentResults::rereadProblem(const QStringList& files, const FSuccessRules& rules) const {
     if (files.isEmpty()) {
         return QStringLiteral("no file to read is named. Add a result template to the definition.");
     }
@@ -20,7 +20,7 @@ QString FCurrentResults::rereadProblem(const QStringList& files) const {
     if (folder.isEmpty()) {
         return QStringLiteral("the last run couldn't start. Run it again.");
     }
-    const QString missing = FRun::missingFiles(folder, files);
+    const QString missing = FRun::missingFiles(folder, rules.withoutOptional(files));
     return missing.isEmpty()
                ? QString()
                : QStringLiteral("not in '%1': %2. Run it, or correct the file names of the result templates.")

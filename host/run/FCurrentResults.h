@@ -5,6 +5,7 @@
 #include <memory>
 
 class FExternComputation;
+struct FSuccessRules;
 
 /** The results of a computation's last run, or of the run in progress; none before the first one. */
 class FCurrentResults {
@@ -15,8 +16,8 @@ class FCurrentResults {
      * @param run  the run that they belong to; null to read the files of an earlier session
      */
     void make(const FExternComputation& computation, const std::shared_ptr<const FRunRecord>& run);
-    /** Why these files can't all be read again, for the user; empty if they can. */
-    QString rereadProblem(const QStringList& files) const;
+    /** Why these files, apart from the optional ones, can't all be read again, for the user; empty if they can. */
+    QString rereadProblem(const QStringList& files, const FSuccessRules& rules) const;
 
  private:
     FExpr<FComputationResults> mResults;

@@ -38,8 +38,10 @@ bool FExternComputation::run(bool wait) {
     }
     FPathManager* paths = FPathManager::instance();
     const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), {});
-    const auto attempt = std::make_shared<FRunAttempt>(this, mProgram.setupIn(folder),
-                                                       paths->getEarlierDir(getName(), {}), getReadFiles());
+    FProcessSetup setup = mProgram.setupIn(folder);
+    setup.exitCodes = mRules.exitCodes;
+    const auto attempt =
+        std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(getName(), {}), getReadFiles());
     mAttempt = attempt;
     return attempt->execute(wait);
 }
@@ -74,6 +76,11 @@ void FExternComputation::stateChanged(FComputationResults* results) {
             emit FChanges::instance()->objectChanged(object);
         }
     }
+}
+
+QString FExternComputation::compareInput() {
+    mInput.take(getWrittenValues());
+    return mInput.text();
 }
 
 QString FExternComputation::prepareRun() const {
@@ -146,7 +153,7 @@ bool FExternComputation::rereadResults() {
                          canRun() ? QStringLiteral("run it first") : QStringLiteral("wait for the end of the run"));
         return false;
     }
-    const QString problem = mResults.rereadProblem(getReadFiles());
+    const QString problem = mResults.rereadProblem(getReadFiles(), mRules);
     if (!problem.isEmpty()) {
         FLogMsg::warning(getName(), QStringLiteral("Not all of its results can be read again: ") + problem);
     }

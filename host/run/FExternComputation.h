@@ -3,7 +3,9 @@
 #include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 #include "host/run/FCurrentResults.h"
+#include "host/run/FInputChanges.h"
 #include "host/run/FProgramSettings.h"
+#include "host/run/FSuccessRules.h"
 
 #include <QObject>
 #include <QStringList>
@@ -31,6 +33,9 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
 
     /** How the program is started. Attributes of the command table set it. */
     const FProgramSettings& getProgram() const { return mProgram; }
+
+    /** What counts as success. Attributes of the command table set it. */
+    const FSuccessRules& getSuccessRules() const { return mRules; }
 
     // ---- runs ----
     /** False while a run is in progress. */
@@ -118,6 +123,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual void processReread(FComputationResults* results) { results->setOutOfDate(true); }
     /** Files in the folder, relative to it, that results are read from. */
     virtual QStringList getReadFiles() const { return {}; }
+    /** The values that were written for the run, by the names of their entries. */
+    virtual QMap<QString, QString> getWrittenValues() const { return {}; }
 
  private:
     friend class FRunAttempt;
@@ -125,13 +132,20 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     static void declareCommands(FCmdTable& table);
     template <auto Member>
     static auto& inProgram(FExternComputation& computation);
+    template <auto Member>
+    static auto& inRules(FExternComputation& computation);
+    static void declareRules(FCmdTable& table);
 
     // For the run in progress.
     FComputationResults* takeRun(const std::shared_ptr<const FRunRecord>& run);
     std::shared_ptr<FRunAttempt> endRun();
     void stateChanged(FComputationResults* results);
+    /** The entries whose values differ from those of the run before, for the user. */
+    QString compareInput();
 
     FProgramSettings mProgram;
+    FSuccessRules mRules;
+    FInputChanges mInput;
     std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
     std::shared_ptr<const FRunRecord> mRecord;
     FCurrentResults mResults;

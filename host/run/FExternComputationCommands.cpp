@@ -24,6 +24,32 @@ auto& FExternComputation::inProgram(FExternComputation& computation) {
     return computation.mProgram.*Member;
 }
 
+/** A member of the rules, as a function on the computation. */
+template <auto Member>
+auto& FExternComputation::inRules(FExternComputation& computation) {
+    return computation.mRules.*Member;
+}
+
+void FExternComputation::declareRules(FCmdTable& table) {
+    using S = FSuccessRules;
+    const auto rule = [](FCmdTable& row, const char* label) -> FCmdTable& {
+        return row.copied().attrName(label).category("Success");
+    };
+    rule(table.plain<F>("setAllowedExitCodes", &inRules<&S::exitCodes>, {"codes"}), "Allowed Exit Codes")
+        .accepts(&S::faultOfExitCodes);
+    rule(table.plain<F>("setRequiredTexts", &inRules<&S::requiredTexts>, {"texts"}), "Required Texts")
+        .accepts(&S::faultOfTexts);
+    rule(table.plain<F>("setForbiddenTexts", &inRules<&S::forbiddenTexts>, {"texts"}), "Forbidden Texts")
+        .accepts(&S::faultOfTexts);
+    rule(table.plain<F>("setOptionalFiles", &inRules<&S::optionalFiles>, {"files"}), "Optional Files")
+        .accepts(&S::faultOfFiles);
+    rule(table.plain<F>("setRequiredValues", &inRules<&S::requiredValues>, {"values"}), "Required Values");
+    rule(table.plain<F>("setSuspiciousNumbers", &inRules<&S::suspiciousNumbers>, {"treatment"}), "Suspicious Numbers")
+        .accepts(&S::faultOfTreatment);
+    rule(table.plain<F>("setMissingAnchors", &inRules<&S::missingAnchors>, {"treatment"}), "Missing Anchors")
+        .accepts(&S::faultOfTreatment);
+}
+
 void FExternComputation::declareCommands(FCmdTable& table) {
     using S = FProgramSettings;
     setting(table.plain<F>("setExecutable", &inProgram<&S::executable>, {"program"}), "Executable")
@@ -34,10 +60,12 @@ void FExternComputation::declareCommands(FCmdTable& table) {
     setting(table.plain<F>("setEnvironment", &inProgram<&S::environment>, {"variables"}), "Environment");
     setting(table.plain<F>("setStandardInput", &inProgram<&S::standardInput>, {"fileName"}), "Standard Input");
     setting(table.plain<F>("setConsoleFiles", &inProgram<&S::consoleFiles>, {"checked"}), "Console Files");
+    declareRules(table);
     table
         .member<F>(
             "run", +[](F& computation) { return computation.run(); })
-        .unwrapped();
+        .unwrapped()
+        .outcome();
     table.member<F>("rereadResults", &F::rereadResults);
     table.member<F>("cancel", &F::cancel);
     table

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <csignal>
+#include <utility>
 
 namespace {
 
@@ -28,6 +29,12 @@ QString fileOrNull(const QString& file) {
 
 QDateTime timeOf(const QString& text) {
     return QDateTime::fromMSecsSinceEpoch(text.toLongLong());
+}
+
+// In a series of runs, the first message is enough for the long list.
+bool hasSaidFolders(const QString& path) {
+    static QString said;
+    return std::exchange(said, path) == path;
 }
 
 QString supervisorFile() {
@@ -99,7 +106,7 @@ bool FProcess::findProgram() {
     if (search.isFound()) {
         mOutcome.program = search.file;
     } else {
-        failToStart(search.message());
+        failToStart(search.message(!hasSaidFolders(path)));
     }
     return search.isFound();
 }
@@ -167,7 +174,7 @@ void FProcess::takeEnd(const QStringList& event) {
     } else if (!exited) {
         mOutcome.cause = Cause::Signal;
     } else {
-        mOutcome.cause = value == 0 ? Cause::None : Cause::ExitCode;
+        mOutcome.cause = mSetup.exitCodes.contains(value) ? Cause::None : Cause::ExitCode;
     }
     mOutcome.message = FProcessText::ending(mSetup, mOutcome);
     if (const int count = event[5].toInt(); count > 0) {

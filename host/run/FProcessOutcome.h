@@ -9,13 +9,15 @@
 struct MERIX_EXPORT FProcessOutcome {
     /** What kept it from success. If there are several causes, the first in this list counts. */
     enum class Cause {
-        None,               //!< it ended by itself with exit code 0
+        None,               //!< it ended by itself with an exit code of a success
         InputNotWritten,    //!< of a run: also if files of an earlier run can't be moved aside
         ProgramNotStarted,  //!< not found, not executable, or a file or setting of its start is wrong
         TimeLimit,
         Signal,
-        ExitCode,     //!< not 0
+        ExitCode,     //!< not among those of a success
+        TextRule,     //!< of a run: a rule about a text in a file is broken
         FileMissing,  //!< of a run: the program succeeded, but didn't write a file that results are read from
+        NumberRule,   //!< of a run: a rule about the numbers that were read is broken
         Cancelled,    //!< by FProcess::cancel(), or by a signal to the supervisor
     };
 

@@ -2,6 +2,7 @@
 
 #include "host/core/FExport.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,7 @@ struct MERIX_EXPORT FProcessSetup {
     QString standardInputFile;   //!< empty: the program reads an empty input
     QString standardOutputFile;  //!< created or emptied at the start; empty: output is discarded
     QString standardErrorFile;   //!< likewise; may be the file of the standard output
+    QList<int> exitCodes{0};     //!< those of a success
     double timeLimit = 0;        //!< seconds from the start of the program; 0 is no limit
     double grace = 5;            //!< seconds between SIGTERM and SIGKILL
 };

@@ -22,6 +22,30 @@ QString errorOutputHint(const FProcessSetup& setup) {
     return QStringLiteral(" Its error output is in '%1'.").arg(absoluteFile(setup, setup.standardErrorFile));
 }
 
+/** What an exit code usually means; empty if nothing is known about it. */
+QString codeNote(const FProcessSetup& setup, const FProcessOutcome& outcome) {
+    const int code = outcome.exitCode;
+    const int signal = code - 128;
+    if (signal > 0 && sigabbrev_np(signal) != nullptr) {
+        return QStringLiteral(" (128 + %1: most likely a process that it had started was ended by a signal, %2)")
+            .arg(QString::number(signal), FProcessText::signalName(signal));
+    }
+    if (code == 127) {
+        return QStringLiteral(" (most likely a command that it calls was not found)");
+    }
+    if (code == 126) {
+        return QStringLiteral(" (most likely a command that it calls is not executable)");
+    }
+    if (setup.exitCodes == QList<int>{0}) {
+        return {};
+    }
+    QStringList allowed;
+    for (const int success : setup.exitCodes) {
+        allowed.append(QString::number(success));
+    }
+    return QStringLiteral(" (allowed: %1)").arg(allowed.join(QStringLiteral(", ")));
+}
+
 QString reasonOfSystem(int errorNumber) {
     return QString::fromLocal8Bit(std::strerror(errorNumber));
 }
@@ -81,8 +105,8 @@ QString FProcessText::ending(const FProcessSetup& setup, const FProcessOutcome& 
                        .arg(outcome.program, place, signalName(outcome.signal)) +
                    errorOutputHint(setup);
         case FProcessOutcome::Cause::ExitCode:
-            return QStringLiteral("'%1' in '%2' failed with exit code %3.")
-                       .arg(outcome.program, place, QString::number(outcome.exitCode)) +
+            return QStringLiteral("'%1' in '%2' failed with exit code %3%4.")
+                       .arg(outcome.program, place, QString::number(outcome.exitCode), codeNote(setup, outcome)) +
                    errorOutputHint(setup);
         case FProcessOutcome::Cause::Cancelled:
             return QStringLiteral("'%1' in '%2' was cancelled.").arg(outcome.program, place);

@@ -16,6 +16,17 @@ bool look(FProgramSearch& search, const QString& file) {
     return search.isFound();
 }
 
+/** For a program that was given with its arguments; else empty. */
+QString argumentHint(const QString& program) {
+    const QStringList words = program.simplified().split(QLatin1Char(' '));
+    if (words.size() < 2) {
+        return {};
+    }
+    const QStringList arguments = words.mid(1);
+    return QStringLiteral("Arguments belong into setArguments: setExecutable(\"%1\"), setArguments([\"%2\"]).")
+        .arg(words.first(), arguments.join(QStringLiteral("\", \"")));
+}
+
 }  // namespace
 
 FProgramSearch FProgramSearch::search(const QString& program, const QString& workingFolder, const QString& path) {
@@ -39,7 +50,7 @@ FProgramSearch FProgramSearch::search(const QString& program, const QString& wor
     return result;
 }
 
-QString FProgramSearch::message() const {
+QString FProgramSearch::message(bool withFolders) const {
     if (isFound()) {
         return QString();
     }
@@ -54,11 +65,14 @@ QString FProgramSearch::message() const {
                    "The file '%1' is not executable. Make it executable (chmod +x), or choose another program.")
             .arg(notExecutable);
     }
+    const QString remedy = argumentHint(program);
     if (!place.isEmpty()) {
-        return QStringLiteral("The program '%1' was not found: there is no file '%2'. Check the path.")
-            .arg(program, place);
+        return QStringLiteral("The program '%1' was not found: there is no file '%2'. %3")
+            .arg(program, place, remedy.isEmpty() ? QStringLiteral("Check the path.") : remedy);
     }
-    return QStringLiteral(
-               "The program '%1' was not found in the folders of PATH: %2. Install it, or give its full path.")
-        .arg(program, folders.join(QStringLiteral(", ")));
+    if (!remedy.isEmpty()) {
+        return QStringLiteral("The program '%1' was not found. %2").arg(program, remedy);
+    }
+    return QStringLiteral("The program '%1' was not found in the folders of PATH%2. Install it, or give its full path.")
+        .arg(program, withFolders ? QStringLiteral(": ") + folders.join(QStringLiteral(", ")) : QString());
 }

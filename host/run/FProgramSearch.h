@@ -12,8 +12,11 @@ struct FProgramSearch {
     static FProgramSearch search(const QString& program, const QString& workingFolder, const QString& path);
 
     bool isFound() const { return !file.isEmpty(); }
-    /** For the user: where the program was searched, what was found instead, what to do. Empty if it was found. */
-    QString message() const;
+    /**
+     * For the user: where the program was searched, what was found instead, what to do. Empty if it was found.
+     * @param withFolders  false leaves out the list of the folders, which an earlier message gave
+     */
+    QString message(bool withFolders = true) const;
 
     QString program;        //!< the name that was searched
     QString place;          //!< absolute path of a name with a slash; empty for a bare name

@@ -39,6 +39,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** The table of that number, in the order of the result templates, from 0; an empty handle if there is none. */
     FExpr<FTableData> getTableAt(unsigned int number) const;
     QStringList getTableNames() const;
+    /** What was read so far. */
+    const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
     /** The files that entries of the configuration name as results. */
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
@@ -58,7 +60,6 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** The next access reads the files again. */
     void forgetReading() const { mFilesRead = false; }
     void becameOutOfDate() const override;
-    const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
     mutable QHash<QString, FExpr<FObject>> mImportedObjects;
 

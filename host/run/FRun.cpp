@@ -1,6 +1,7 @@
 #include "host/run/FRun.h"
 
-#include "host/run/FFileTail.h"
+#include "host/run/FCauseLines.h"
+#include "host/run/FTextCheck.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -9,8 +10,6 @@ using Cause = FRunRecord::Cause;
 using State = FRunRecord::State;
 
 namespace {
-
-constexpr int mostLines = 5;
 
 State stateOf(Cause cause) {
     switch (cause) {
@@ -27,8 +26,12 @@ State stateOf(Cause cause) {
 
 }  // namespace
 
-FRun::FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles)
-    : mRecord(std::make_shared<FRunRecord>()), mReadFiles(readFiles), mProcess(setup) {
+FRun::FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles,
+           const FSuccessRules& rules)
+    : mRecord(std::make_shared<FRunRecord>()),
+      mReadFiles(rules.withoutOptional(readFiles)),
+      mRules(rules),
+      mProcess(setup) {
     mRecord->computation = computation;
     mRecord->folder = mProcess.setup().workingFolder + QLatin1Char('/');
     mRecord->program = setup.program;
@@ -49,6 +52,7 @@ bool FRun::start() {
         return false;
     }
     mRecord->state = State::Running;
+    mWritten.emplace(mRecord->folder);
     mProcess.start();
     return true;
 }
@@ -60,21 +64,40 @@ void FRun::cancel() {
 
 void FRun::takeOutcome(const FProcessOutcome& outcome) {
     static_cast<FProcessOutcome&>(*mRecord) = outcome;
-    findMissingFiles();
-    if (mRecord->cause != Cause::None && outcome.start.isValid()) {
-        keepLastLines();
+    if (outcome.start.isValid() && mRecord->cause != Cause::Cancelled) {
+        checkTexts();
+        findMissingFiles();
+        keepCauseLines();
     }
     conclude();
 }
 
+void FRun::checkTexts() {
+    for (const QString& fault : FTextCheck::faults(mRules, mRecord->folder)) {
+        mRecord->addCause(Cause::TextRule, fault);
+    }
+}
+
+void FRun::addNumberFaults(const QStringList& faults) {
+    for (const QString& fault : faults) {
+        mRecord->addCause(Cause::NumberRule, fault);
+    }
+    mRecord->state = stateOf(mRecord->cause);
+    keepCauseLines();
+}
+
 // Some programs report errors in their standard output.
-void FRun::keepLastLines() {
+void FRun::keepCauseLines() {
+    if (mRecord->cause == Cause::None) {
+        return;
+    }
+    FCauseLines lines;
     for (const QString& file : {mProcess.setup().standardErrorFile, mProcess.setup().standardOutputFile}) {
-        if (mRecord->lastLines.isEmpty() && !file.isEmpty()) {
-            mRecord->lastLines = fileTail(QDir(mRecord->folder).filePath(file), mostLines);
-            mRecord->lastLinesFile = file;
+        if (!file.isEmpty()) {
+            lines.add(mRecord->folder, file);
         }
     }
+    mRecord->causeLines = lines.toText();
 }
 
 QString FRun::missingFiles(const QString& folder, const QStringList& files) {
@@ -89,13 +112,28 @@ QString FRun::missingFiles(const QString& folder, const QStringList& files) {
 
 void FRun::findMissingFiles() {
     const QString missing = missingFiles(mRecord->folder, mReadFiles);
-    if (mRecord->cause == Cause::None && !missing.isEmpty()) {
-        mRecord->cause = Cause::FileMissing;
-        mRecord->message = QStringLiteral(
-                               "'%1' succeeded, but didn't write %2. Check the file name of the result "
-                               "template, and the output of the program.")
-                               .arg(mRecord->program, missing);
+    if (missing.isEmpty()) {
+        return;
     }
+    const QString what = mRecord->cause == Cause::None
+                             ? QStringLiteral("'%1' succeeded, but didn't write %2.").arg(mRecord->program, missing)
+                             : QStringLiteral("It didn't write %1.").arg(missing);
+    mRecord->addCause(Cause::FileMissing, what,
+                      similarFiles() + QStringLiteral("Check the file name of the result template, and the output of "
+                                                      "the program."));
+}
+
+QString FRun::similarFiles() const {
+    QStringList names;
+    for (const QString& file : mReadFiles) {
+        if (mWritten && !QFileInfo::exists(mRecord->folder + file)) {
+            names += mWritten->similarTo(file);
+        }
+    }
+    names.removeDuplicates();
+    return names.isEmpty()
+               ? QString()
+               : QStringLiteral("It wrote files with similar names: '%1'. ").arg(names.join(QStringLiteral("', '")));
 }
 
 void FRun::conclude() {

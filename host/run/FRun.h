@@ -2,8 +2,11 @@
 
 #include "host/run/FProcess.h"
 #include "host/run/FRunRecord.h"
+#include "host/run/FSuccessRules.h"
+#include "host/run/FWrittenFiles.h"
 
 #include <memory>
+#include <optional>
 
 /**
  * The process and the record of one run. The caller writes the input files between `startWriting` and `start`, and
@@ -16,8 +19,10 @@ class FRun : public QObject {
     /**
      * @param setup      how the program is started; its working folder is the folder of the run
      * @param readFiles  files in the folder that results are read from: the program has to write them
+     * @param rules      what else counts as success
      */
-    FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles);
+    FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles,
+         const FSuccessRules& rules);
 
     /** The files that are missing in the folder, quoted for a message; empty if none is. */
     static QString missingFiles(const QString& folder, const QStringList& files);
@@ -31,6 +36,10 @@ class FRun : public QObject {
     void fail(FRunRecord::Cause cause, const QString& message);
     /** Starts the program. False if the run was cancelled before; it then ends without the program. */
     bool start();
+    /** Notes which entries differ from those of the run before. */
+    void noteChangedInput(const QString& entries) { mRecord->changedInput = entries; }
+    /** The run, which has ended, fails if rules about its numbers are broken. Each fault is a sentence. */
+    void addNumberFaults(const QStringList& faults);
     /** Requests the end of the program; one that hasn't been started yet never will be. */
     void cancel();
 
@@ -40,12 +49,17 @@ class FRun : public QObject {
 
  private:
     void takeOutcome(const FProcessOutcome& outcome);
+    void checkTexts();
     void findMissingFiles();
-    void keepLastLines();
+    /** A sentence about written files with names similar to those of missing ones; empty if there are none. */
+    QString similarFiles() const;
+    void keepCauseLines();
     void conclude();
 
     std::shared_ptr<FRunRecord> mRecord;
     QStringList mReadFiles;
+    FSuccessRules mRules;
+    std::optional<FWrittenFiles> mWritten;
     FProcess mProcess;
     bool mIsCancelled = false;
 };

@@ -2,7 +2,9 @@
 
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FNumberCheck.h"
 #include "host/run/FPathManager.h"
+#include "host/run/FResultsGeneric.h"
 #include "host/script/FProject.h"
 
 #include <QCoreApplication>
@@ -24,10 +26,13 @@ FRunAttempt::FRunAttempt(FExternComputation* computation, const FProcessSetup& s
                          const QStringList& readFiles)
     : mKeep(computation),
       mComputation(computation),
-      mRun(computation->getName(), setup, readFiles),
+      mRun(computation->getName(), setup, readFiles, computation->getSuccessRules()),
       mHolder(holderOfProject()),
       mEarlier(earlier),
       mReadFiles(readFiles),
+      mRules(computation->getSuccessRules()),
+      mInterruptLine(computation->getName(), QStringLiteral("Interrupted while its run was in progress"),
+                     QStringLiteral("Its unfinished files are in '%1'").arg(record()->folder)),
       mFolder(setup.workingFolder, earlier) {
     connect(&mRun, &FRun::ended, this, &FRunAttempt::finish);
 }
@@ -73,6 +78,7 @@ QString FRunAttempt::writeInput(FComputationResults* results) {
         return QStringLiteral(
             "The input files of the run could not be written; see the messages above for the reason.");
     }
+    mRun.noteChangedInput(mComputation->compareInput());
     return {};
 }
 
@@ -84,7 +90,9 @@ QString FRunAttempt::makeRoom() {
             .arg(mHolder);
     }
     QString reason;
-    mFolder.moveAside(mReadFiles + QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()}, reason);
+    mFolder.moveAside(
+        mReadFiles + mRules.textFiles() + QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()},
+        reason);
     return reason;
 }
 
@@ -109,12 +117,20 @@ void FRunAttempt::finish() {
     if (results) {
         mComputation->applyOutputHandles(results);
     }
+    checkNumbers(results);
     report();
     // This object is the receiver of the signal being handled, and may hold the last handle on the computation.
     const std::shared_ptr<FRunAttempt> self = mComputation->endRun();
     mComputation->stateChanged(results);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [self] {}, Qt::QueuedConnection);
+}
+
+void FRunAttempt::checkNumbers(const FComputationResults* results) {
+    const auto* tables = dynamic_cast<const FResultsGeneric*>(results);
+    if (tables && mRules.needsNumbers() && record()->isSuccess() && tables->prepareResults()) {
+        mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->tables()));
+    }
 }
 
 void FRunAttempt::report() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExpr.h"
+#include "host/run/FInterruptLine.h"
 #include "host/run/FRun.h"
 #include "host/run/FRunFolder.h"
 
@@ -39,6 +40,7 @@ class FRunAttempt : public QObject {
     void start();
     QString writeInput(FComputationResults* results);
     void finish();
+    void checkNumbers(const FComputationResults* results);
     void report() const;
 
     FExprBase mKeep;  // an FExpr of a computation that has left the model is null
@@ -47,6 +49,8 @@ class FRunAttempt : public QObject {
     QString mHolder;  // another process that uses the folder; empty if there is none
     QString mEarlier;
     QStringList mReadFiles;
+    FSuccessRules mRules;
+    FInterruptLine mInterruptLine;
     FRunFolder mFolder;
     bool mIsStarted = false;  // computationStarted was called
 };

@@ -20,15 +20,33 @@ QString FRunRecord::stateName() const {
     return QStringLiteral("timed out");
 }
 
+void FRunRecord::addCause(Cause added, const QString& what, const QString& advice) {
+    if (cause != Cause::None) {
+        furtherCauses.append(what);
+        return;
+    }
+    cause = added;
+    message = message.isEmpty() ? what : what + QLatin1Char(' ') + message;
+    remedy = advice;
+}
+
 QString FRunRecord::failureText() const {
     if (cause == Cause::None) {
         return {};
     }
-    QString text = message;
-    if (!lastLines.isEmpty()) {
-        QString lines = lastLines;
-        lines.replace(QLatin1Char('\n'), QStringLiteral("\n    "));
-        text += QStringLiteral("\nThe last lines of %1:\n    ").arg(lastLinesFile) + lines;
+    QStringList parts{message};
+    if (!changedInput.isEmpty()) {
+        parts.append(QStringLiteral("Changed since the run before: ") + changedInput);
     }
-    return text + QStringLiteral("\nFolder of the run: ") + folder;
+    if (!causeLines.isEmpty()) {
+        parts.append(QStringLiteral("From the output of the program:\n") + causeLines);
+    }
+    for (const QString& further : furtherCauses) {
+        parts.append(QStringLiteral("Also: ") + further);
+    }
+    if (!remedy.isEmpty()) {
+        parts.append(remedy);
+    }
+    parts.append(QStringLiteral("Folder of the run: ") + folder);
+    return parts.join(QLatin1Char('\n'));
 }

@@ -3,6 +3,8 @@
 #include "host/core/FExport.h"
 #include "host/run/FProcessOutcome.h"
 
+#include <QStringList>
+
 /** One attempt to run the program of a computation: its state, and how the program ended. */
 struct MERIX_EXPORT FRunRecord : FProcessOutcome {
     enum class State { Ready, Writing, Running, Finished, Failed, Cancelled, TimedOut };
@@ -12,12 +14,19 @@ struct MERIX_EXPORT FRunRecord : FProcessOutcome {
     /** The state in words, as scripts see it: "ready", "writing", "running", "finished", "failed", "cancelled",
      *  "timed out". */
     QString stateName() const;
-    /** For the user: what happened, the last lines of the error output, the folder. Empty unless the run failed. */
+    /**
+     * Adds a cause of failure. The first one is that of the run; further ones are listed below it.
+     * @param advice  what to do; shown below the output of the program
+     */
+    void addCause(Cause added, const QString& what, const QString& advice = QString());
+    /** For the user: what happened, the output of the program, what to do, the folder. Empty unless the run failed. */
     QString failureText() const;
 
     State state = State::Ready;
-    QString computation;    //!< name of the computation
-    QString folder;         //!< absolute, with a slash at its end
-    QString lastLines;      //!< the last lines that the program printed, if it failed
-    QString lastLinesFile;  //!< the file that contains them
+    QString computation;        //!< name of the computation
+    QString folder;             //!< absolute, with a slash at its end
+    QString changedInput;       //!< the entries that differ from the run before, with their values; may be empty
+    QStringList furtherCauses;  //!< sentences
+    QString causeLines;         //!< lines of the program's output that best show why it failed
+    QString remedy;             //!< of the cause, apart from what its message says
 };

@@ -7,6 +7,7 @@
 #include "host/core/FQuotedText.h"
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
+#include "host/script/FFailedOutcomes.h"
 
 #include <optional>
 #include <utility>
@@ -103,6 +104,17 @@ FExprBase FCmd::execute() const {
     return row ? callRow(*row, receiver, values) : FExprBase();
 }
 
+namespace {
+
+void noteOutcome(const FCmdRow& row, const FExprBase& result) {
+    const auto* done = dynamic_cast<const FBool*>(result.getObject());
+    if (done && !done->getValue()) {
+        FFailedOutcomes::add(row.name);
+    }
+}
+
+}  // namespace
+
 FExprBase FCmd::callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
     std::optional<FHistoryPause> pause;
     if (row.isUnwrapped) {
@@ -121,6 +133,9 @@ FExprBase FCmd::callWatched(const FCmdRow& row, FObject* receiver, const FCmdRow
     const FCmd* outer = std::exchange(running, this);
     FExprBase result = row.call(receiver, values);
     running = outer;
+    if (row.isOutcome) {
+        noteOutcome(row, result);
+    }
     return result;
 }
 

@@ -4,6 +4,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/script/FDeclarer.h"
+#include "host/script/FFailedOutcomes.h"
 #include "host/script/FScriptStep.h"
 
 #include <QDir>
@@ -152,8 +153,12 @@ std::optional<FExprBase> FCmdInput::evaluate(const FSyntaxExpr& expression) {
 
 bool FCmdInput::run(const FSyntaxExpr& expression) {
     const FSyntaxExpr* call = topCall(expression);
-    FScriptStep step(call ? call->name : QString());
-    return step.end(evaluate(expression).has_value());
+    const QString command = call ? call->name : QString();
+    FScriptStep step(command);
+    const int failuresBefore = FFailedOutcomes::count(command);
+    const bool done = evaluate(expression).has_value();
+    mIgnoredFailures += FFailedOutcomes::count(command) - failuresBefore;
+    return step.end(done);
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {

@@ -32,6 +32,10 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     /** Ends the running script after the present command. */
     void requestExit(int code);
     int getExitCode() const { return mExitCode; }
+    /** Whether the script has ended itself. */
+    bool isExiting() const { return mExiting; }
+    /** Failures of commands such as `run`, whose result is false then, that the script ignored. */
+    int getIgnoredFailures() const { return mIgnoredFailures; }
     /** A path in the script: relative to its file if such a file exists, else to the current folder. */
     QString resolvePath(const QString& path) const;
 
@@ -64,5 +68,6 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     int mIncludes = 0;
     qint64 mSteps = 0;
     int mExitCode = 0;
+    int mIgnoredFailures = 0;
     bool mExiting = false;
 };

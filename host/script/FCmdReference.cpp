@@ -79,6 +79,7 @@ QString headingOf(const QString& name) {
 void insertFlags(QJsonObject& object, const FCmdRow& row) {
     object.insert(QStringLiteral("isData"), row.isData);
     object.insert(QStringLiteral("isQuery"), row.isQuery());
+    object.insert(QStringLiteral("isOutcome"), row.isOutcome);
     object.insert(QStringLiteral("isUnwrapped"), row.isUnwrapped);
 }
 

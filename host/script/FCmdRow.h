@@ -63,6 +63,7 @@ class MERIX_EXPORT FCmdRow {
     std::function<QString(const FObject*)> creatorArguments;  //!< for creators: the arguments of the saved form
     FCmdPresentation presentation;
     bool isData = false;       //!< may appear in a saved text
+    bool isOutcome = false;    //!< its result is true or false, and must not be ignored if it is false
     bool isUnwrapped = false;  //!< keeps steps of its own: the open step is interrupted while it executes
 
     // ---- of an attribute that is declared as a plain value ----

@@ -158,6 +158,8 @@ class MERIX_EXPORT FCmdTable {
     /** Its execution changes nothing, but may read files. */
     FCmdTable& readsFiles() { return effect(FCmdRow::Effect::ReadsFiles); }
     FCmdTable& data() { return last().isData = true, *this; }
+    /** The result tells whether it succeeded; a script that ignores a failure fails, see FFailedOutcomes. */
+    FCmdTable& outcome() { return last().isOutcome = true, *this; }
     FCmdTable& unwrapped() { return last().isUnwrapped = true, *this; }
     /**
      * The result is read from the parts of the receiver that `find` gives, as handles, for the same arguments. Kept,

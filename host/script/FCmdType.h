@@ -254,6 +254,70 @@ struct FCmdTypeOf<QStringList> {
     }
 };
 
+namespace cmdtype {
+
+/** A list whose elements are converted one by one. */
+template <class T>
+bool listOf(const FExprBase& handle, std::any& value) {
+    QList<T> list;
+    FObject* object = handle.getObject();
+    const FObjectList* source = object ? object->castToObjectList() : nullptr;
+    bool fits = source != nullptr;
+    const FCmdType element = FCmdTypeOf<T>::type();
+    for (const FExpr<FObject>& each : source ? source->getObjects() : std::vector<FExpr<FObject>>()) {
+        std::any converted;
+        fits = element.convert(each, converted) && fits;
+        list.append(std::any_cast<T>(converted));
+    }
+    value = list;
+    return fits;
+}
+
+template <class T>
+FExprBase listHandle(const FObject* prototype, const QList<T>& list) {
+    auto* objects = new FObjectList(prototype);
+    for (const T& each : list) {
+        objects->add(FExpr<FObject>(FCmdTypeOf<T>::handle(each).getObject()));
+    }
+    return FExprBase(objects);
+}
+
+}  // namespace cmdtype
+
+template <>
+struct FCmdTypeOf<QList<int>> {
+    static FCmdType type() {
+        return {QStringLiteral("intContainer"), QStringLiteral("FCONTAINER"), &FObjectList::mClass,
+                &cmdtype::listOf<int>};
+    }
+    static FExprBase handle(const QList<int>& list) { return cmdtype::listHandle(FInteger::null(), list); }
+};
+
+/** A list of lists of texts. A text counts as a list of one. */
+template <>
+struct FCmdTypeOf<QList<QStringList>> {
+    static FCmdType type() {
+        return {QStringLiteral("stringContainerContainer"), QStringLiteral("FCONTAINER"), &FObjectList::mClass,
+                [](const FExprBase& handle, std::any& value) {
+                    QList<QStringList> lists;
+                    FObject* object = handle.getObject();
+                    const FObjectList* source = object ? object->castToObjectList() : nullptr;
+                    bool fits = source != nullptr;
+                    for (const FExpr<FObject>& each : source ? source->getObjects() : std::vector<FExpr<FObject>>()) {
+                        std::any texts;
+                        const auto* text = dynamic_cast<const FString*>(valueObject(each));
+                        fits = fits && (text || FCmdTypeOf<QStringList>::type().convert(each, texts));
+                        lists.append(text                ? QStringList(text->getValue())
+                                     : texts.has_value() ? std::any_cast<QStringList>(texts)
+                                                         : QStringList());
+                    }
+                    value = lists;
+                    return fits;
+                }};
+    }
+    static FExprBase handle(const QList<QStringList>& list) { return cmdtype::listHandle(FObjectList::null(), list); }
+};
+
 template <>
 struct FCmdTypeOf<FKeptExpression> {
     static FCmdType type() {

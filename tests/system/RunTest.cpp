@@ -46,8 +46,8 @@ TEST_F(RunTest, stateCodeAndNumberTellHowTheProgramEnded) {
     EXPECT_EQ(outcome.exitCode, 0) << "a failed run is not an error of the script";
     EXPECT_EQ(outcome.output, expected);
     int position = 0;
-    for (const char* told : {"didn't write 'out.dat'", "exit code 3", "last lines of stderr.txt", "no licence",
-                             "no-such-solver", "/bin", "time limit of 1.5 s", "segmentation fault (SIGSEGV)"}) {
+    for (const char* told : {"didn't write 'out.dat'", "exit code 3", "stderr.txt:1: no licence", "no-such-solver",
+                             "/bin", "time limit of 1.5 s", "segmentation fault (SIGSEGV)"}) {
         position = outcome.errors.indexOf(told, position);
         ASSERT_GE(position, 0) << told << "\n" << outcome.errors.toStdString();
     }

@@ -130,7 +130,15 @@ TEST_F(FProcessTest, tellsWhyTheProgramDidNotStart) {
     const auto ofProgram = [&](const QString& program) {
         return failure([&](FProcessSetup& setup) { setup.program = program; });
     };
-    EXPECT_THAT(ofProgram("no-such-program"), HasSubstr("/bin"));
+    const auto searched = [&](FProcessSetup& setup) {
+        setup.program = "no-such-program";
+        setup.environment << "PATH=/first/bin:/bin";
+    };
+    EXPECT_THAT(failure(searched), HasSubstr("PATH: /first/bin, /bin."));
+    EXPECT_THAT(failure(searched), HasSubstr("PATH. Install")) << "the list isn't repeated";
+    EXPECT_THAT(ofProgram("python3 pump.py -v"), HasSubstr("not found. Arguments belong into setArguments: "
+                                                           "setExecutable(\"python3\"), "
+                                                           "setArguments([\"pump.py\", \"-v\"])."));
     EXPECT_THAT(ofProgram("./none"), HasSubstr(path("./none").toStdString()));
     EXPECT_THAT(ofProgram("./plain.sh"), HasSubstr("not executable"));
     EXPECT_THAT(ofProgram(path()), HasSubstr("is a folder"));

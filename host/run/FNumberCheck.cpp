@@ -1,0 +1,121 @@
+#include "host/run/FNumberCheck.h"
+
+#include "host/core/FNearestName.h"
+#include "host/run/FSuccessRules.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+namespace {
+
+using Tables = QList<FExpr<FTableData>>;
+
+/** Values that a message lists. */
+constexpr int mostListed = 5;
+
+QString listed(const QStringList& texts) {
+    const QString more =
+        texts.size() > mostListed ? QStringLiteral(" and %1 more").arg(texts.size() - mostListed) : QString();
+    return QStringList(texts.mid(0, mostListed)).join(QStringLiteral("; ")) + more;
+}
+
+bool isAnchorOddity(const QString& oddity) {
+    return oddity.startsWith(QLatin1String("anchor"));
+}
+
+// These make a value NaN.
+bool isMissingOddity(const QString& oddity) {
+    return oddity == QLatin1String("line beyond the end") || oddity == QLatin1String("column missing") ||
+           oddity == QLatin1String("not a number");
+}
+
+bool isSuspiciousOddity(const QString& oddity) {
+    return !isAnchorOddity(oddity) && !isMissingOddity(oddity);
+}
+
+QString describe(const FTableData& table, int row, const QStringList& oddities) {
+    const FNumberOrigin origin = table.getOrigin(row);
+    const QString line = origin.line > 0 ? QStringLiteral(":%1").arg(origin.line) : QString();
+    return QStringLiteral("\"%1\" in %2%3: %4")
+        .arg(table.getRowName(row), table.getName(), line, oddities.join(QStringLiteral(", ")));
+}
+
+QStringList oddValues(const Tables& tables, bool (*isOdd)(const QString&)) {
+    QStringList values;
+    for (const FExpr<FTableData>& table : tables) {
+        for (int row = 0; row < table->getRowCount(); ++row) {
+            const QStringList all = table->getOrigin(row).oddities;
+            QStringList odd;
+            std::copy_if(all.begin(), all.end(), std::back_inserter(odd), isOdd);
+            if (!odd.isEmpty()) {
+                values.append(describe(*table.ptr(), row, odd));
+            }
+        }
+    }
+    return values;
+}
+
+bool isNan(const FTableData& table, int row) {
+    bool exists = true;
+    double number = table.getElementAt(row, 0, &exists);
+    bool anyNan = !exists;
+    for (int column = 0; exists && !anyNan; number = table.getElementAt(row, ++column, &exists)) {
+        anyNan = std::isnan(number);
+    }
+    return anyNan;
+}
+
+QStringList nanValues(const FSuccessRules& rules, const Tables& tables) {
+    const bool all = rules.requiredValues.contains(FSuccessRules::allValues());
+    QStringList values;
+    for (const FExpr<FTableData>& table : tables) {
+        for (int row = 0; row < table->getRowCount(); ++row) {
+            const QString name = table->getRowName(row);
+            if ((all || rules.requiredValues.contains(name)) && isNan(*table.ptr(), row)) {
+                values.append(QStringLiteral("\"%1\" in %2").arg(name, table->getName()));
+            }
+        }
+    }
+    return values;
+}
+
+QStringList unknownValues(const FSuccessRules& rules, const Tables& tables) {
+    QStringList known;
+    for (const FExpr<FTableData>& table : tables) {
+        known += table->getRowNames();
+    }
+    QStringList unknown;
+    for (const QString& name : rules.requiredValues) {
+        if (name == FSuccessRules::allValues() ? known.isEmpty() : !known.contains(name)) {
+            const QString nearest = nearestName(name, known);
+            unknown.append(QLatin1Char('"') + name + QLatin1Char('"') +
+                           (nearest.isEmpty() ? QString() : QStringLiteral(" (did you mean \"%1\"?)").arg(nearest)));
+        }
+    }
+    return unknown;
+}
+
+}  // namespace
+
+QStringList FNumberCheck::faults(const FSuccessRules& rules, const QList<FExpr<FTableData>>& tables) {
+    QStringList faults;
+    const auto add = [&faults](const QString& what, const QStringList& values) {
+        if (!values.isEmpty()) {
+            faults.append(what.arg(listed(values)));
+        }
+    };
+    if (rules.missingAnchors == FSuccessRules::fails()) {
+        add(QStringLiteral("An anchor is missing (setMissingAnchors is \"fail\"): %1."),
+            oddValues(tables, &isAnchorOddity));
+    }
+    if (rules.suspiciousNumbers == FSuccessRules::fails()) {
+        add(QStringLiteral("A number is suspicious (setSuspiciousNumbers is \"fail\"): %1."),
+            oddValues(tables, &isSuspiciousOddity));
+    }
+    if (!rules.requiredValues.isEmpty()) {
+        add(QStringLiteral("No result has the required value: %1."), unknownValues(rules, tables));
+        add(QStringLiteral("A required value is NaN: %1."), nanValues(rules, tables));
+    }
+    return faults;
+}

@@ -7,6 +7,7 @@
 #include "host/script/FSavedTextReader.h"
 
 #include <algorithm>
+#include <utility>
 
 FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
                                            &FGenIntResultsFileValue::fields);
@@ -35,6 +36,25 @@ void readText(const FExpr<FObject>& element, QString& text) {
     if (const FBasicType* value = valueOf(element)) {
         text = value->toString();
     }
+}
+
+/** Why an element isn't a whole number; empty if it is one, or missing. */
+QString wholeNumberFault(const FExpr<FObject>& element, const QString& what) {
+    const FBasicType* value = valueOf(element);
+    if (!value) {
+        return {};
+    }
+    const auto* number = dynamic_cast<const FDouble*>(value);
+    if (!number) {
+        return QStringLiteral("has the %1 \"%2\", which isn't a number, and takes %3")
+            .arg(what, value->toString())
+            .arg(value->toInt());
+    }
+    return number->toDouble() == number->toInt()
+               ? QString()
+               : QStringLiteral("has the %1 %2, which isn't a whole number, and takes %3")
+                     .arg(what, number->toString())
+                     .arg(number->toInt());
 }
 
 void readInt(const FExpr<FObject>& element, int& number) {
@@ -69,7 +89,8 @@ FGenIntResultsFileValue::FGenIntResultsFileValue(const FGenIntResultsFileValue& 
       mOccurrence(other.mOccurrence),
       mType(other.mType),
       mImportType(other.mImportType),
-      mCalcAverage(other.mCalcAverage) {
+      mCalcAverage(other.mCalcAverage),
+      mPlaceFault(other.mPlaceFault) {
     setNumAverageRows(other.mNumAverageRows);
 }
 
@@ -84,6 +105,7 @@ FGenIntResultsFileValue& FGenIntResultsFileValue::operator=(const FGenIntResults
         mType = other.mType;
         mImportType = other.mImportType;
         mCalcAverage = other.mCalcAverage;
+        mPlaceFault = other.mPlaceFault;
         setNumAverageRows(other.mNumAverageRows);
     }
     return *this;
@@ -101,6 +123,7 @@ std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
         .member(&Self::mImportType)
         .member(&Self::mCalcAverage)
         .linked(&Self::mNumAverageRows)
+        .member(&Self::mPlaceFault)
         .take();
 }
 
@@ -128,6 +151,12 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
         return QStringLiteral("has the element %1, which reads files, and takes the default for it")
             .arg(unreadable->toString());
     }
+    for (const auto& [element, what] : {std::pair(elements[1], "line"), std::pair(elements[2], "column")}) {
+        const QString fault = wholeNumberFault(element, QString::fromLatin1(what));
+        if (!fault.isEmpty()) {
+            return fault;
+        }
+    }
     QString occurrence = FEnum<GenIntAnchorOccurrence>().toString();
     readText(elements[4], occurrence);
     if (!FEnum<GenIntAnchorOccurrence>().FEnumBase::setValue(occurrence)) {
@@ -151,6 +180,8 @@ void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {
     readText(elements[0], mName);
     readInt(elements[1], mLine);
     readInt(elements[2], mColumn);
+    const QString ofLine = wholeNumberFault(elements[1], QStringLiteral("line"));
+    mPlaceFault = ofLine.isEmpty() ? wholeNumberFault(elements[2], QStringLiteral("column")) : ofLine;
     readText(elements[3], mAnchor);
     QString occurrence;
     readText(elements[4], occurrence);

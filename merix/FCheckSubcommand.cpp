@@ -78,6 +78,7 @@ int FCheckSubcommand::run() const {
     const int exitCode = isProject(path) ? checkProject(path, problems) : checkScript(path, problems);
     const FProblemOutput output(problems);
     if (exitCode == FExitCode::done || !problems.isEmpty()) {
+        FLogMsg::endLine();
         std::cout << (mJson ? output.toJson() : output.toText()).toStdString();
     }
     return exitCode == FExitCode::done && output.hasErrors() ? FExitCode::failed : exitCode;

@@ -39,6 +39,7 @@ int FReadSubcommand::run() const {
     }
     using Form = FTableOutput::Form;
     const Form form = mJson ? Form::Json : mCsv ? Form::Csv : mExplain ? Form::Explained : Form::Text;
+    FLogMsg::endLine();
     std::cout << FTableOutput::of(*read, form).toStdString();
     return isWhole ? FExitCode::done : FExitCode::failed;
 }

@@ -1,5 +1,6 @@
 #include "merix/FRunSubcommand.h"
 
+#include "host/core/FLogMsg.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FProject.h"
@@ -23,6 +24,7 @@ int FRunSubcommand::run() const {
     const bool isDone = computation.run();
     auto* results = dynamic_cast<FResultsGeneric*>(computation.getCurrentResults().ptr());
     if (isDone && results && results->prepareResults()) {
+        FLogMsg::endLine();
         std::cout
             << FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text).toStdString();
     }

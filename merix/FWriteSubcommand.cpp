@@ -34,6 +34,7 @@ int FWriteSubcommand::run() const {
     int notReplaced = 0;
     for (const FSetUpInput& input : FSetUpCheck::inputsOf(computation)) {
         notReplaced += input.notReplaced;
+        FLogMsg::endLine();
         std::cout << QStringLiteral("%1: %2 tags replaced, %3 not replaced\n")
                          .arg(folder.filePath(input.file))
                          .arg(input.replaced)

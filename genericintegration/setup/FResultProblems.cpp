@@ -32,13 +32,17 @@ void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FPr
 }
 
 void FResultProblems::findName(const FGenIntFile& file, FProblemList& problems) {
-    if (file.getFileName().isEmpty()) {
+    const QString& name = file.getFileName();
+    const QString last = name.mid(name.lastIndexOf(u'/') + 1);
+    if (name.isEmpty()) {
         problems.error(file.getName(), QStringLiteral("the result template has no file name, so nothing is read"),
                        QStringLiteral("Name the file that the program writes with setFileName"));
-    } else if (FSafePath::leadsOut(file.getFileName())) {
-        problems.error(file.getName(),
-                       QStringLiteral("the file \"%1\" is outside the folder of the run").arg(file.getFileName()),
+    } else if (FSafePath::leadsOut(name)) {
+        problems.error(file.getName(), QStringLiteral("the file \"%1\" is outside the folder of the run").arg(name),
                        QStringLiteral("Give a path below the folder with setFileName"));
+    } else if (last.isEmpty() || last == QLatin1String(".") || name.contains(QChar::Null)) {
+        problems.error(file.getName(), QStringLiteral("\"%1\" is no name of a file").arg(name),
+                       QStringLiteral("Name the file that the program writes with setFileName"));
     }
 }
 

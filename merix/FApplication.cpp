@@ -1,10 +1,14 @@
 #include "merix/FApplication.h"
 
+#include "merix/FCheckSubcommand.h"
 #include "merix/FCommandLine.h"
 #include "merix/FCommandsSubcommand.h"
 #include "merix/FExitCode.h"
 #include "merix/FPluginLoader.h"
+#include "merix/FReadSubcommand.h"
+#include "merix/FRunSubcommand.h"
 #include "merix/FScriptSubcommand.h"
+#include "merix/FWriteSubcommand.h"
 
 #include <QCoreApplication>
 
@@ -14,6 +18,10 @@ namespace {
 FCommandLine::Subcommands allSubcommands() {
     FCommandLine::Subcommands all;
     all.push_back(std::make_unique<FScriptSubcommand>());
+    all.push_back(std::make_unique<FCheckSubcommand>());
+    all.push_back(std::make_unique<FWriteSubcommand>());
+    all.push_back(std::make_unique<FReadSubcommand>());
+    all.push_back(std::make_unique<FRunSubcommand>());
     all.push_back(std::make_unique<FCommandsSubcommand>());
     return all;
 }

@@ -21,12 +21,23 @@ struct Adder {
     const FSubcommand::Argument& argument;
 
     CLI::Option* operator()(bool* flag) const { return command->add_flag(argument.name, *flag, argument.description); }
-    CLI::Option* operator()(std::string* text) const {
-        return command->add_option(argument.name, *text, argument.description);
-    }
+    CLI::Option* operator()(std::string* text) const { return option(*text); }
     CLI::Option* operator()(std::vector<std::string>* words) const {
+        if (isOption()) {
+            // One value each time, so that positions can follow.
+            return option(*words)->allow_extra_args(false)->take_all();
+        }
         command->positionals_at_end();
-        return command->add_option(argument.name, *words, argument.description);
+        return option(*words);
+    }
+
+    bool isOption() const { return argument.name[0] == '-'; }
+    template <class Value>
+    CLI::Option* option(Value& value) const {
+        const std::string name = argument.name;
+        const std::size_t blank = name.find(' ');
+        CLI::Option* added = command->add_option(name.substr(0, blank), value, argument.description);
+        return blank == std::string::npos ? added : added->type_name(name.substr(blank + 1));
     }
 };
 

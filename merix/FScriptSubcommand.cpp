@@ -6,21 +6,13 @@
 #include "host/script/FCmdInput.h"
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
+#include "merix/textList.h"
 
 #include <QFile>
 
 #include <cstdio>
 
 namespace {
-
-FExprBase textList(const std::vector<std::string>& texts) {
-    auto* list = new FObjectList(FString::null());
-    FExprBase handle(list);
-    for (const std::string& text : texts) {
-        list->add(FExpr<FObject>(new FString(QString::fromStdString(text))));
-    }
-    return handle;
-}
 
 // Otherwise a batch job would look as if it had succeeded.
 bool reportIgnoredFailures(const FCmdInput& input, const QString& script) {

@@ -12,10 +12,11 @@ class FSubcommand {
  public:
     /** An argument on the command line, and the member that receives its value. */
     struct Argument {
-        /** A flag; a text; or a list of all remaining words, including those that look like options. */
+        /** A flag; a text; or a list: of the values of a repeated option, or for a position of all remaining words,
+         *  including those that look like options. */
         using Value = std::variant<bool*, std::string*, std::vector<std::string>*>;
 
-        const char* name;  //!< "FILE" for a position, "--json" for an option
+        const char* name;  //!< "FILE" for a position, "--json" for a flag, "--out DIR" for an option with a value
         const char* description;
         Value value;
         bool isRequired = false;

@@ -6,6 +6,7 @@
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FConnectorClass.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntCheck.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/setup/FPreviewCommands.h"
 #include "genericintegration/setup/FResultsGenInt.h"
@@ -19,5 +20,7 @@ const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FA
                       FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FResultsGenInt,
                       FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass, FPreviewCommands>
     types;
+
+const bool isChecked = FGenIntCheck::enable();
 
 }  // namespace

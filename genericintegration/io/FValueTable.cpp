@@ -36,6 +36,10 @@ const std::vector<const FEntry*>& FValueTable::getFileNameEntries() const {
     return mRows->getFileNameEntries();
 }
 
+const FEntry* FValueTable::entryOf(int row) const {
+    return mRows->at(row).entry;
+}
+
 QString FValueTable::textOf(int row) const {
     const FTagRows::Row& found = mRows->at(row);
     return found.entry ? entryText(*found.entry) : found.fileName;

@@ -30,6 +30,8 @@ class FValueTable {
     const FTemplateKeys& getKeys() const;
     /** The text that replaces a tag of the row. */
     QString textOf(int row) const;
+    /** The entry of a row; null for a file. */
+    const FEntry* entryOf(int row) const;
     /** The entries whose values may be file names. */
     const std::vector<const FEntry*>& getFileNameEntries() const;
 

@@ -89,7 +89,8 @@ FGenIntResultsFileValue::FGenIntResultsFileValue(const FGenIntResultsFileValue& 
       mOccurrence(other.mOccurrence),
       mType(other.mType),
       mImportType(other.mImportType),
-      mCalcAverage(other.mCalcAverage) {
+      mCalcAverage(other.mCalcAverage),
+      mPlaceFault(other.mPlaceFault) {
     setNumAverageRows(other.mNumAverageRows);
 }
 
@@ -104,6 +105,7 @@ FGenIntResultsFileValue& FGenIntResultsFileValue::operator=(const FGenIntResults
         mType = other.mType;
         mImportType = other.mImportType;
         mCalcAverage = other.mCalcAverage;
+        mPlaceFault = other.mPlaceFault;
         setNumAverageRows(other.mNumAverageRows);
     }
     return *this;
@@ -121,6 +123,7 @@ std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
         .member(&Self::mImportType)
         .member(&Self::mCalcAverage)
         .linked(&Self::mNumAverageRows)
+        .member(&Self::mPlaceFault)
         .take();
 }
 
@@ -177,6 +180,8 @@ void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {
     readText(elements[0], mName);
     readInt(elements[1], mLine);
     readInt(elements[2], mColumn);
+    const QString ofLine = wholeNumberFault(elements[1], QStringLiteral("line"));
+    mPlaceFault = ofLine.isEmpty() ? wholeNumberFault(elements[2], QStringLiteral("column")) : ofLine;
     readText(elements[3], mAnchor);
     QString occurrence;
     readText(elements[4], occurrence);

@@ -46,6 +46,7 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
     QString mImportType;                     //!< for the name of a file to import: its format
     bool mCalcAverage = false;               //!< the average of the last rows instead of one place
     FExpr<FUnsigned> mNumAverageRows;
+    QString mPlaceFault;  //!< "has the line …": what the text form had in place of a whole number; empty if nothing
 
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();

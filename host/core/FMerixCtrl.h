@@ -20,6 +20,12 @@ class MERIX_EXPORT FMerixCtrl {
     /** Path of the project's file; empty for one that was never saved. */
     const QString& getProjectFile() const { return mProjectFile; }
     void setProjectFile(const QString& path) { mProjectFile = path; }
+    /**
+     * While true, nothing is written to disk: saving does nothing and succeeds, and projects are opened without a lock
+     * and without keeping unsaved work.
+     */
+    bool isReadOnly() const { return mIsReadOnly; }
+    void setReadOnly(bool readOnly) { mIsReadOnly = readOnly; }
 
  private:
     friend class FBusy;
@@ -27,6 +33,7 @@ class MERIX_EXPORT FMerixCtrl {
 
     int mLoading = 0;
     int mBusy = 0;
+    bool mIsReadOnly = false;
     QString mProjectFile;
 };
 

@@ -1,5 +1,7 @@
 #include "host/core/FSavedFile.h"
 
+#include "host/core/FMerixCtrl.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -33,6 +35,9 @@ Fill restOf(QFile& source) {
 }
 
 QString replace(const QString& path, const Fill& fill, const FSavedFile::Step& beforeReplacing = {}) {
+    if (FMerixCtrl::instance()->isReadOnly()) {
+        return {};
+    }
     QSaveFile file(path);
     // A commit overlooks that its own flush failed.
     if (!file.open(QIODevice::WriteOnly) || !fill(file) || !file.flush()) {

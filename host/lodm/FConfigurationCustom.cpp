@@ -106,7 +106,9 @@ FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefin
     if (path.isEmpty()) {
         return nullptr;
     }
-    FIni().setValue(importPathKey(), path);
+    if (!FMerixCtrl::instance()->isReadOnly()) {
+        FIni().setValue(importPathKey(), path);
+    }
     QFile file(path);
     const QString fault = FFile::openOrdinary(file, QIODevice::ReadOnly | QIODevice::Text);
     if (!fault.isEmpty()) {

@@ -39,6 +39,9 @@ bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
                        QStringLiteral("name one: save(\"%1.lodm\")").arg(definition.getName()));
         return false;
     }
+    if (FMerixCtrl::instance()->isReadOnly()) {
+        return true;
+    }
     QFile file;
     if (!definition.openSaveFile(file)) {
         // Without a name, the user has cancelled.

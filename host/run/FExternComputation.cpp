@@ -1,6 +1,7 @@
 #include "host/run/FExternComputation.h"
 
 #include "host/core/FChanges.h"
+#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
@@ -31,11 +32,15 @@ void FExternComputation::leaveModel() {
 // ---- runs ----
 
 bool FExternComputation::run(bool wait) {
+    if (FSetUpCheck::substituteRun(*this)) {
+        return false;
+    }
     if (!canRun()) {
         FLogMsg::warning(getName(), QStringLiteral("A run is still in progress"),
                          QStringLiteral("start another when it has ended, or cancel it"));
         return false;
     }
+    mSetUpReport.log(FSetUpCheck::problemsOf(*this, true));
     FPathManager* paths = FPathManager::instance();
     const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), {});
     FProcessSetup setup = mProgram.setupIn(folder);
@@ -105,6 +110,11 @@ void FExternComputation::finalizeRun() const {
     }
 }
 
+bool FExternComputation::writeInput(const QString& folder) const {
+    const FRunScope scope(folder);
+    return copyInputFiles(folder) && doExports() && writeOutputFile();
+}
+
 bool FExternComputation::cancel() {
     if (mAttempt) {
         mAttempt->cancel();
@@ -147,7 +157,21 @@ bool FExternComputation::refetchResults() {
     return true;
 }
 
+FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder) {
+    const FHistoryBlocker blocker;
+    const auto* type = dynamic_cast<const FComputationResults*>(getResultType());
+    FExpr<FComputationResults> results(type ? type->createResults({}, FExpr<FExternComputation>(this)) : nullptr);
+    if (results) {
+        results->setResultPath(folder);
+        processReread(results.ptr());
+    }
+    return results;
+}
+
 bool FExternComputation::rereadResults() {
+    if (FSetUpCheck::substituteRun(*this)) {
+        return false;
+    }
     if (!refetchResults()) {
         FLogMsg::warning(getName(), QStringLiteral("There are no results that can be read again"),
                          canRun() ? QStringLiteral("run it first") : QStringLiteral("wait for the end of the run"));

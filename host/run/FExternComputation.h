@@ -5,6 +5,7 @@
 #include "host/run/FCurrentResults.h"
 #include "host/run/FInputChanges.h"
 #include "host/run/FProgramSettings.h"
+#include "host/run/FSetUpReport.h"
 #include "host/run/FSuccessRules.h"
 
 #include <QObject>
@@ -58,6 +59,12 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     /** Requests the end of the run; false if there is none. */
     bool cancel();
     void cancelExternalProcess() { cancel(); }
+    /**
+     * Writes all files that the program reads into an existing folder, and starts nothing. False, with a message, if
+     * one can't be written.
+     * @param folder  absolute, with a slash at its end
+     */
+    bool writeInput(const QString& folder) const;
     /** Whether the last run was cancelled. */
     bool wasAborted() const { return getLastRun().cause == FRunRecord::Cause::Cancelled; }
     /** The run in progress, else the last one; in state `Ready` before the first. */
@@ -85,6 +92,12 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
      * named or a file is missing; the other files are read all the same.
      */
     bool rereadResults();
+    /**
+     * New results that are read from the files in a folder, with the present set-up. The folder and the results of
+     * runs stay as they are.
+     * @param folder  absolute, with a slash at its end
+     */
+    FExpr<FComputationResults> readFolder(const QString& folder);
     virtual bool isGeneric() const { return false; }
     /** Name of the result file that an entry of that path holds; empty if there is none. */
     virtual QString getResultFile(const QString& entry) const {
@@ -149,5 +162,6 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
     std::shared_ptr<const FRunRecord> mRecord;
     FCurrentResults mResults;
+    FSetUpReport mSetUpReport;
     bool mIsTriggered = false;
 };

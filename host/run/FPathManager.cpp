@@ -35,6 +35,9 @@ QString FPathManager::resultsRoot() {
     }
     if (mTemporaryRoot.isEmpty()) {
         const QString place = temporaryPlace();
+        if (FMerixCtrl::instance()->isReadOnly()) {
+            return place + QStringLiteral("/merix-none");
+        }
         QTemporaryDir folder(place + QStringLiteral("/merix-XXXXXX"));
         folder.setAutoRemove(false);
         if (!folder.isValid()) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <QString>
 #include <QStringList>
 
 /** The search for a program, and its result. */
-struct FProgramSearch {
+struct MERIX_EXPORT FProgramSearch {
     /**
      * Searches a bare name in the folders of a PATH, given as in the environment; relative and empty folders in it
      * start at the working folder. A name with a slash is a path. The working folder is absolute.

@@ -126,6 +126,9 @@ void FProject::keepDamaged(const QString& file, const QString& source) {
 
 void FProject::use(const QString& file, bool recovered) {
     FMerixCtrl::instance()->setProjectFile(file);
+    if (FMerixCtrl::instance()->isReadOnly()) {
+        return;
+    }
     switch (mLock.acquire(file)) {
         case FProjectLock::State::Held:
             mAutosave.start(file, recovered);
@@ -163,6 +166,10 @@ bool FProject::mayWrite(const QString& file, FProjectLock& lock) const {
 bool FProject::save(const QString& path) {
     FUserStep::commitEdits();
     const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : FFile::realPath(withEnding(path));
+    if (FMerixCtrl::instance()->isReadOnly()) {
+        FMerixCtrl::instance()->setProjectFile(file);
+        return true;
+    }
     FProjectLock lock;
     if (!mayWrite(file, lock)) {
         return false;

@@ -1,0 +1,210 @@
+#include "genericintegration/setup/FEntryProblems.h"
+
+#include "genericintegration/io/FTemplateKeys.h"
+#include "genericintegration/io/FValueTable.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/templates/FTemplateTags.h"
+#include "host/core/FNumber.h"
+#include "host/core/FString.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FFileReference.h"
+#include "host/design/FGeometryExport.h"
+#include "host/design/FInputFile.h"
+#include "host/design/FResultsFileName.h"
+#include "host/run/FPathManager.h"
+#include "host/run/FSafePath.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cmath>
+
+namespace {
+
+constexpr int mostNames = 10;
+
+/** The name of an entry as tags spell it. */
+QString tagName(const FEntry& entry) {
+    const FEntryDef* definition = entry.getDefinition().ptr();
+    return definition ? definition->getFullName() : entry.getFullName();
+}
+
+QString entryText(const FEntry& entry) {
+    return QStringLiteral("the entry \"%1\" ").arg(entry.getFullName());
+}
+
+QString setRemedy(const FEntry& entry) {
+    return QStringLiteral("Give it a value with setEntryValue(\"%1\", …)").arg(entry.getFullName());
+}
+
+/** Whether a value does something in a run even if no template names its entry. */
+bool worksByItself(const FEntry& entry) {
+    const FObject* type = entry.getDefinition() ? entry.getDefinition()->getType() : nullptr;
+    const FObject* stored = entry.getValue().getStored();
+    const auto works = [](const FObject* object) {
+        return object && (object->isTypeOf(FFileReference::null()) || object->isTypeOf(FGeometryExport::null()) ||
+                          object->isTypeOf(FFileName::null()));
+    };
+    return works(type) || works(stored) || works(entry.getValue().getType());
+}
+
+}  // namespace
+
+struct FEntryProblems::FUse {
+    QString place;        //!< of the first tag; empty if no template names the entry
+    QString columnPlace;  //!< of the first tag with more text in its line; empty if there is none
+};
+
+FEntryProblems::FEntryProblems(const FConfiguration& configuration, bool mayReadFiles)
+    : mConfiguration(configuration), mMayReadFiles(mayReadFiles) {}
+
+void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable& table, const FTagUses& uses,
+                          FProblemList& problems) const {
+    QStringList unused;
+    QString lastName;
+    // A copy, since the evaluation of a value may change the entries.
+    const QMap<QString, FExpr<FEntryBase>> entries = mConfiguration.getEntryMap();
+    for (const FExpr<FEntryBase>& handle : entries) {
+        const auto& entry = static_cast<const FEntry&>(*FEntryBase::of(handle));
+        const QString name = tagName(entry);
+        const int row = table.getKeys().find(name);
+        // Of several occurrences, tags name the first.
+        const bool isNamed = row != FTemplateKeys::notFound && table.entryOf(row) == &entry;
+        findValue(entry, isNamed ? FUse{uses.places.value(row), uses.columnPlaces.value(row)} : FUse(), problems);
+        if (!uses.places.contains(row) && name != lastName && !worksByItself(entry)) {
+            unused.append(name);
+            lastName = name;
+        }
+    }
+    if (unused.isEmpty() || uses.isCut || definition.getFiles().isEmpty()) {
+        return;
+    }
+    const QStringList first = unused.mid(0, mostNames);
+    const QString more = unused.size() > mostNames ? QStringLiteral(" …") : QString();
+    problems.warning(definition.getName(),
+                     unused.size() == 1
+                         ? QStringLiteral("no input template has a tag of the entry \"%1\"").arg(unused.first())
+                         : QStringLiteral("no input template has a tag of these %1 entries: %2")
+                               .arg(QString::number(unused.size()),
+                                    QLatin1Char('"') + first.join(QStringLiteral("\", \"")) + QLatin1Char('"') + more),
+                     QStringLiteral("Write \"%1\" where the value belongs, or remove the entry")
+                         .arg(FTemplateTags::tagOf(unused.first())));
+}
+
+void FEntryProblems::findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const {
+    const FExprBase& value = entry.getValue();
+    if (value.isDetached()) {
+        problems
+            .error(mConfiguration.getName(), entryText(entry) + QStringLiteral("refers to an object that is gone"),
+                   setRemedy(entry), use.place)
+            .isOfValue = true;
+        return;
+    }
+    if (!mMayReadFiles && !value.canSafelyBeUpdated(false)) {
+        return;
+    }
+    const FObject* object = entry.getValueObject();
+    findFile(entry, object, problems);
+    if (!use.place.isEmpty()) {
+        findWritten(entry, object, use, problems);
+    }
+}
+
+void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, const FUse& use,
+                                 FProblemList& problems) const {
+    const auto* basic = objectCast<FBasicType>(value);
+    if (!value) {
+        problems
+            .error(mConfiguration.getName(),
+                   entryText(entry) + QStringLiteral("is NULL, and \"SHOULD_BE_EXPORTED\" is written for it"),
+                   setRemedy(entry), use.place)
+            .isOfValue = true;
+    } else if (!basic) {
+        const bool isList = const_cast<FObject*>(value)->castToObjectList() != nullptr;
+        problems
+            .error(mConfiguration.getName(),
+                   entryText(entry) + QStringLiteral("holds %1, and \"SHOULD_BE_EXPORTED\" is written for it")
+                                          .arg(isList ? QStringLiteral("a list")
+                                                      : QStringLiteral("an object (%1)").arg(value->getClass())),
+                   QStringLiteral("Give it a number or a text with setEntryValue(\"%1\", …)").arg(entry.getFullName()),
+                   use.place)
+            .isOfValue = true;
+    } else if (basic->isTypeOf(FDouble::null()) && std::isnan(basic->toDouble())) {
+        problems
+            .warning(
+                mConfiguration.getName(),
+                entryText(entry) +
+                    QStringLiteral("is not a number (NaN), and \"%1\" is written for it").arg(basic->toPlainString()),
+                setRemedy(entry), use.place)
+            .isOfValue = true;
+    } else if (!use.columnPlace.isEmpty()) {
+        findTooLong(entry, basic->toPlainString(), use.columnPlace, problems);
+    }
+}
+
+void FEntryProblems::findTooLong(const FEntry& entry, const QString& text, const QString& place,
+                                 FProblemList& problems) const {
+    const FEntryDef* definition = entry.getDefinition().ptr();
+    const FExprBase standard = definition ? definition->getDefaultValue() : FExprBase();
+    const bool isReadable = standard.isValid() && standard.canSafelyBeUpdated(false);
+    const auto* value = isReadable ? objectCast<FBasicType>(standard.getObject()) : nullptr;
+    const QString fitting = value ? value->toPlainString() : text;
+    if (text.size() > fitting.size()) {
+        problems
+            .warning(mConfiguration.getName(),
+                     entryText(entry) +
+                         QStringLiteral("is written as \"%1\", which is longer than its default, \"%2\", so that "
+                                        "the text after the tag moves")
+                             .arg(text, fitting),
+                     QStringLiteral("If the program reads fixed columns, set it as format(…, \"%%1g\") for \"%2\"")
+                         .arg(QString::number(fitting.size()), entry.getFullName()),
+                     place)
+            .isOfValue = true;
+    }
+}
+
+void FEntryProblems::findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const {
+    if (const auto* input = dynamic_cast<const FInputFile*>(value)) {
+        findInputFile(entry, *input, problems);
+    } else if (const auto* geometry = dynamic_cast<const FGeometryExport*>(value)) {
+        addOutside(entry, geometry->getFileName(), true, problems);
+    } else if (const auto* result = dynamic_cast<const FResultsFileName*>(value)) {
+        addOutside(entry, result->getFileNameText(), false, problems);
+    }
+}
+
+void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const {
+    const FExprBase& name = file.getFileName();
+    if (!name.isDetached() && !mMayReadFiles && !name.canSafelyBeUpdated(false)) {
+        return;
+    }
+    const QString path = name.isDetached() ? QString() : file.getFileNameText();
+    QString fault;
+    if (path.isEmpty()) {
+        fault = QStringLiteral("links to no file: %1 gives no name").arg(name.toHistoryString());
+    } else if (const QFileInfo info(QDir(FPathManager::getProjectDir()), path); !info.isFile()) {
+        fault = QStringLiteral("links to a file that doesn't exist: %1").arg(info.absoluteFilePath());
+    }
+    if (!fault.isEmpty()) {
+        FSetUpProblem& problem =
+            problems.error(mConfiguration.getName(), entryText(entry) + fault,
+                           QStringLiteral("Name an existing file for \"%1\"").arg(entry.getFullName()));
+        problem.isOfValue = true;
+        problem.isReportedByRun = true;
+        return;
+    }
+    addOutside(entry, file.toPlainString(), true, problems);
+}
+
+void FEntryProblems::addOutside(const FEntry& entry, const QString& file, bool isReportedByRun,
+                                FProblemList& problems) const {
+    if (FSafePath::leadsOut(file)) {
+        FSetUpProblem& problem = problems.error(
+            mConfiguration.getName(),
+            entryText(entry) + QStringLiteral("names \"%1\", which is outside the folder of the run").arg(file),
+            QStringLiteral("Give \"%1\" a path below the folder").arg(entry.getFullName()));
+        problem.isOfValue = true;
+        problem.isReportedByRun = isReportedByRun;
+    }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "genericintegration/setup/FProblemList.h"
+#include "genericintegration/setup/FTagUses.h"
+
+class FConfiguration;
+class FDefinitionGenInt;
+class FEntry;
+class FInputFile;
+class FObject;
+class FValueTable;
+
+/** Finds the problems of the values of a configuration's entries, and of entries that nothing uses. */
+class FEntryProblems {
+ public:
+    /** @param mayReadFiles  whether values are evaluated that read files */
+    FEntryProblems(const FConfiguration& configuration, bool mayReadFiles);
+
+    void find(const FDefinitionGenInt& definition, const FValueTable& table, const FTagUses& uses,
+              FProblemList& problems) const;
+
+ private:
+    struct FUse;
+
+    void findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const;
+    void findWritten(const FEntry& entry, const FObject* value, const FUse& use, FProblemList& problems) const;
+    void findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const;
+    void findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const;
+    void findTooLong(const FEntry& entry, const QString& text, const QString& place, FProblemList& problems) const;
+    void addOutside(const FEntry& entry, const QString& file, bool isReportedByRun, FProblemList& problems) const;
+
+    const FConfiguration& mConfiguration;
+    bool mMayReadFiles;
+};

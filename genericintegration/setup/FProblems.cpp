@@ -1,0 +1,143 @@
+#include "genericintegration/setup/FProblems.h"
+
+#include "genericintegration/io/FValueTable.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FEntryProblems.h"
+#include "genericintegration/setup/FResultProblems.h"
+#include "genericintegration/setup/FTagProblems.h"
+#include "genericintegration/templates/FExportsGroup.h"
+#include "host/design/FConfiguration.h"
+#include "host/run/FExternComputation.h"
+#include "host/run/FProgramSearch.h"
+#include "host/run/FSafePath.h"
+
+#include <QDir>
+#include <QHash>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+/** The PATH that the program is searched in: the environment, or what the settings put in its place. */
+QString pathOf(const FProgramSettings& program) {
+    QString path = qEnvironmentVariable("PATH", QStringLiteral("/bin:/usr/bin"));
+    const QString start = QStringLiteral("PATH=");
+    for (const QString& variable : program.environment) {
+        path = variable.startsWith(start) ? variable.mid(start.size()) : path;
+    }
+    return path;
+}
+
+}  // namespace
+
+FProblems::FProblems(const FExternComputation* computation, const FConfiguration* configuration,
+                     const FDefinitionGenInt* definition, bool mayReadFiles)
+    : mComputation(computation), mConfiguration(configuration), mDefinition(definition), mMayReadFiles(mayReadFiles) {}
+
+FSetUpCheck::Problems FProblems::find() {
+    if (mComputation) {
+        findProgram();
+    }
+    if (findMissing()) {
+        return mProblems.all();
+    }
+    findTemplateNames();
+    std::optional<FValueTable> table;
+    if (mConfiguration) {
+        table.emplace(*mConfiguration, *mDefinition, FValueTable::Use::Export);
+    }
+    FTagUses uses;
+    findTags(table ? &*table : nullptr, uses);
+    FResultProblems::find(mDefinition->getResultsFiles(), mProblems);
+    if (table) {
+        FEntryProblems(*mConfiguration, mMayReadFiles).find(*mDefinition, *table, uses, mProblems);
+    }
+    return mProblems.all();
+}
+
+FSetUpCheck::Inputs FProblems::inputs() {
+    if (mConfiguration && mDefinition) {
+        const FValueTable table(*mConfiguration, *mDefinition, FValueTable::Use::Export);
+        FTagUses uses;
+        findTags(&table, uses);
+    }
+    return mInputs;
+}
+
+/** Returns whether the definition is missing, without which nothing else is known. */
+bool FProblems::findMissing() {
+    if (mComputation && !mConfiguration) {
+        mProblems.error(mComputation->getName(), QStringLiteral("the computation has no configuration"),
+                        QStringLiteral("Set one with setConfiguration"));
+    } else if (mConfiguration && !mDefinition) {
+        mProblems.error(mConfiguration->getName(), QStringLiteral("the configuration has no definition"),
+                        QStringLiteral("Set one with setDefinition"));
+    } else if (mDefinition && mDefinition->getFiles().isEmpty()) {
+        mProblems.warning(mDefinition->getName(),
+                          QStringLiteral("the definition has no files, so nothing is written and no number is read"),
+                          QStringLiteral("Add its templates with setFiles"));
+    }
+    return !mDefinition;
+}
+
+void FProblems::findProgram() {
+    const FProgramSettings& program = mComputation->getProgram();
+    QString fault = program.fault();
+    if (fault.isEmpty()) {
+        fault = FProgramSearch::search(program.executable, QDir::currentPath(), pathOf(program)).message();
+    }
+    if (!fault.isEmpty()) {
+        // Sentences, the last of which says what to do.
+        const int end = fault.lastIndexOf(QStringLiteral(". "));
+        mProblems
+            .error(mComputation->getName(), end < 0 ? fault : fault.left(end),
+                   end < 0 ? QString() : fault.mid(end + 2).chopped(fault.endsWith(u'.') ? 1 : 0))
+            .isReportedByRun = true;
+    }
+}
+
+void FProblems::findTemplateNames() {
+    QHash<QString, QString> writers;
+    for (const FExpr<FGenIntFile>& handle : mDefinition->getCommandFiles()) {
+        const FGenIntFile* file = handle.ptr();
+        const QString fileName = file ? file->getFileName() : QString();
+        if (file && fileName.isEmpty()) {
+            mProblems.error(file->getName(), QStringLiteral("the input template has no file name"),
+                            QStringLiteral("Name the file that the program reads with setFileName"));
+        } else if (FSafePath::leadsOut(fileName)) {
+            mProblems.error(file->getName(),
+                            QStringLiteral("the file \"%1\" is outside the folder of the run").arg(fileName),
+                            QStringLiteral("Give a path below the folder with setFileName"));
+        } else if (file && writers.contains(fileName)) {
+            mProblems.error(file->getName(),
+                            QStringLiteral("it writes %1, as \"%2\" does, and replaces what that writes")
+                                .arg(fileName, writers.value(fileName)),
+                            QStringLiteral("Give one of them another file name with setFileName"));
+        } else if (file) {
+            writers.insert(fileName, file->getName());
+        }
+    }
+}
+
+void FProblems::findTags(const FValueTable* table, FTagUses& uses) {
+    const QStringList names = tagNames();
+    for (const FExpr<FGenIntFile>& handle : mDefinition->getCommandFiles()) {
+        if (const FGenIntFile* file = handle.ptr()) {
+            FTagProblems tags(*file, table ? &table->getKeys() : nullptr, names);
+            tags.find(mProblems, uses);
+            mInputs.append(tags.getInput());
+        }
+    }
+}
+
+/** Everything that a tag can name. */
+QStringList FProblems::tagNames() const {
+    QStringList names = mDefinition->getEntryMap().keys();
+    for (const FExpr<FGenIntFile>& file : mDefinition->getFiles()) {
+        if (file) {
+            names.append(FExportsGroup::prefix() + file->getFileName());
+        }
+    }
+    return names;
+}

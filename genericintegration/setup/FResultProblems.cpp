@@ -1,0 +1,89 @@
+#include "genericintegration/setup/FResultProblems.h"
+
+#include "genericintegration/io/FTemplateValues.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/run/FSafePath.h"
+
+#include <QHash>
+
+void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FProblemList& problems) {
+    QHash<QString, QString> readers;
+    int number = -1;
+    for (const FExpr<FGenIntFile>& handle : resultTemplates) {
+        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
+        if (!file) {
+            continue;
+        }
+        ++number;
+        findName(*file, problems);
+        findSeparators(*file, problems);
+        findValues(*file, problems);
+        const QString name = file->getFileName().toCaseFolded();
+        if (!name.isEmpty() && readers.contains(name)) {
+            problems.warning(file->getName(),
+                             QStringLiteral("it reads %1, as \"%2\" does, and getTable gives the table of \"%2\" for "
+                                            "both")
+                                 .arg(file->getFileName(), readers.value(name)),
+                             QStringLiteral("Its table is getTableAt(%1)").arg(number));
+        } else {
+            readers.insert(name, file->getName());
+        }
+    }
+}
+
+void FResultProblems::findName(const FGenIntFile& file, FProblemList& problems) {
+    const QString& name = file.getFileName();
+    const QString last = name.mid(name.lastIndexOf(u'/') + 1);
+    if (name.isEmpty()) {
+        problems.error(file.getName(), QStringLiteral("the result template has no file name, so nothing is read"),
+                       QStringLiteral("Name the file that the program writes with setFileName"));
+    } else if (FSafePath::leadsOut(name)) {
+        problems.error(file.getName(), QStringLiteral("the file \"%1\" is outside the folder of the run").arg(name),
+                       QStringLiteral("Give a path below the folder with setFileName"));
+    } else if (last.isEmpty() || last == QLatin1String(".") || name.contains(QChar::Null)) {
+        problems.error(file.getName(), QStringLiteral("\"%1\" is no name of a file").arg(name),
+                       QStringLiteral("Name the file that the program writes with setFileName"));
+    }
+}
+
+void FResultProblems::findSeparators(const FGenIntResultsFile& file, FProblemList& problems) {
+    const bool hasExpression = !file.getRegExprSeparator().isEmpty();
+    if (file.getNumberSeparator() && hasExpression) {
+        problems.warning(file.getName(),
+                         QStringLiteral("the separator \"%1\" has no effect, because numbers are searched for")
+                             .arg(file.getRegExprSeparator()),
+                         QStringLiteral("To separate columns by it, use setNumberSeparator(false)"));
+    }
+    if (!file.getNumberSeparator() && !hasExpression && !file.getSpacesAndTabsSeparator()) {
+        problems.error(file.getName(),
+                       QStringLiteral("neither numbers are searched for nor is there a separator, so no column is "
+                                      "found"),
+                       QStringLiteral("Use setNumberSeparator(true), setSpacesAndTabsSeparator(true) or "
+                                      "setRegExprSeparator"));
+    }
+}
+
+void FResultProblems::findValues(const FGenIntResultsFile& file, FProblemList& problems) {
+    QHash<QString, int> numbers;
+    const QString remedy = QStringLiteral("Values count from 0; correct it in the list of setValues");
+    int number = 0;
+    for (const FGenIntResultsFileValue* value : FTemplateValues::among(file.getValues()->getObjects())) {
+        const QString which = QStringLiteral("value %1, \"%2\", ").arg(QString::number(number), value->mName);
+        if (numbers.contains(value->mName)) {
+            problems.warning(
+                file.getName(),
+                QStringLiteral("values %1 and %2 have the name \"%3\"; by name, only the first can be read")
+                    .arg(QString::number(numbers.value(value->mName)), QString::number(number), value->mName),
+                QStringLiteral("Give each value a name of its own in the list of setValues"));
+        } else {
+            numbers.insert(value->mName, number);
+        }
+        if (!value->mPlaceFault.isEmpty()) {
+            problems.error(file.getName(), which + value->mPlaceFault, remedy);
+        } else if (value->mColumn < 0) {
+            problems.error(file.getName(), which + QStringLiteral("has the column %1").arg(value->mColumn),
+                           QStringLiteral("Columns count from 0; correct it in the list of setValues"));
+        }
+        ++number;
+    }
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "genericintegration/setup/FProblemList.h"
+#include "host/core/FExpr.h"
+
+#include <QList>
+
+class FGenIntFile;
+class FGenIntResultsFile;
+
+/** Finds the problems of the result templates of a definition. */
+class FResultProblems {
+ public:
+    static void find(const QList<FExpr<FGenIntFile>>& resultTemplates, FProblemList& problems);
+
+ private:
+    static void findName(const FGenIntFile& file, FProblemList& problems);
+    static void findSeparators(const FGenIntResultsFile& file, FProblemList& problems);
+    static void findValues(const FGenIntResultsFile& file, FProblemList& problems);
+};

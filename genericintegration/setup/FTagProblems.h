@@ -1,0 +1,50 @@
+#pragma once
+
+#include "genericintegration/setup/FProblemList.h"
+#include "genericintegration/setup/FTagUses.h"
+#include "genericintegration/templates/FTextPlaces.h"
+
+#include <QSet>
+#include <QStringList>
+
+class FGenIntFile;
+class FTemplateKeys;
+struct FTemplateTag;
+
+/**
+ * Finds the problems of the tags of one input template, in time linear in the size of its text. What a tag names is
+ * looked up as the writer does it.
+ */
+class FTagProblems {
+ public:
+    /**
+     * @param keys   what tags can name; null if that isn't known, and then no tag is reported as unknown
+     * @param names  the same as tags spell it, for suggestions
+     */
+    FTagProblems(const FGenIntFile& file, const FTemplateKeys* keys, const QStringList& names);
+
+    /** Adds the problems, and what the tags name. */
+    void find(FProblemList& problems, FTagUses& uses);
+    /** How many tags get a value, known after `find`. */
+    const FSetUpInput& getInput() const { return mInput; }
+
+ private:
+    void look(const FTemplateTag& tag, FProblemList& problems, FTagUses& uses);
+    void findUnclosed(qsizetype position, FProblemList& problems);
+    void findUnknown(const FTemplateTag& tag, const QString& place, FProblemList& problems);
+    void findMisspelledMarker(FProblemList& problems);
+    void findForeignBytes(FProblemList& problems);
+    QString remedyFor(const QString& name) const;
+    QString placeOf(qsizetype position);
+    bool isColumn(const FTemplateTag& tag) const;
+
+    const FGenIntFile& mFile;
+    const QString mText;
+    const FTemplateKeys* mKeys;
+    const QStringList& mNames;
+    FTextPlaces mPlaces;
+    FSetUpInput mInput;
+    QSet<QString> mUnknown;
+    bool mHasCapitals = false;
+    qsizetype mEnd = 0;  // of the tag before
+};

@@ -1,0 +1,50 @@
+#include "host/run/FSetUpCheck.h"
+
+#include <utility>
+#include <vector>
+
+namespace {
+
+std::vector<const FSetUpCheck*>& checks() {
+    static std::vector<const FSetUpCheck*> all;
+    return all;
+}
+
+FSetUpCheck::Substitute& substitute() {
+    static FSetUpCheck::Substitute current;
+    return current;
+}
+
+}  // namespace
+
+void FSetUpCheck::add(const FSetUpCheck* check) {
+    checks().push_back(check);
+}
+
+FSetUpCheck::Problems FSetUpCheck::problemsOf(const FExternComputation& computation, bool mayReadFiles) {
+    Problems all;
+    for (const FSetUpCheck* check : checks()) {
+        all += check->problems(computation, mayReadFiles);
+    }
+    return all;
+}
+
+FSetUpCheck::Inputs FSetUpCheck::inputsOf(const FExternComputation& computation) {
+    Inputs all;
+    for (const FSetUpCheck* check : checks()) {
+        all += check->inputs(computation);
+    }
+    return all;
+}
+
+void FSetUpCheck::setSubstituteForRuns(Substitute fresh) {
+    substitute() = std::move(fresh);
+}
+
+bool FSetUpCheck::substituteRun(const FExternComputation& computation) {
+    const Substitute current = substitute();
+    if (current) {
+        current(computation);
+    }
+    return static_cast<bool>(current);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/run/FSetUpInput.h"
+#include "host/run/FSetUpProblem.h"
+
+#include <QVector>
+
+#include <functional>
+
+class FExternComputation;
+
+/**
+ * The check of set-ups before a run. A plug-in derives a class for its own computations and registers an object of it;
+ * runs, commands and windows call the static functions, which ask all of them.
+ */
+class MERIX_EXPORT FSetUpCheck {
+ public:
+    using Problems = QVector<FSetUpProblem>;
+    using Inputs = QVector<FSetUpInput>;
+
+    virtual ~FSetUpCheck() = default;
+
+    /**
+     * What is wrong with a computation and its set-up; nothing for computations of other plug-ins. Logs nothing.
+     * @param mayReadFiles  whether values are evaluated that read files, as results of other computations
+     */
+    virtual Problems problems(const FExternComputation& computation, bool mayReadFiles) const = 0;
+    /** The input files that a run writes from templates; nothing for computations of other plug-ins. */
+    virtual Inputs inputs(const FExternComputation& computation) const = 0;
+
+    /** The check must outlive the program's work. */
+    static void add(const FSetUpCheck* check);
+    static Problems problemsOf(const FExternComputation& computation, bool mayReadFiles);
+    static Inputs inputsOf(const FExternComputation& computation);
+
+    /** Called in place of every run and re-read, which then return false; an empty function restores them. */
+    using Substitute = std::function<void(const FExternComputation&)>;
+    static void setSubstituteForRuns(Substitute substitute);
+    /** Calls the substitute; false if there is none. */
+    static bool substituteRun(const FExternComputation& computation);
+};

@@ -1,0 +1,61 @@
+#include "merix/FReadSubcommand.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/lodm/FCustomComputation.h"
+#include "host/run/FResultsGeneric.h"
+#include "merix/FExitCode.h"
+#include "merix/FTableOutput.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <iostream>
+
+std::vector<FSubcommand::Argument> FReadSubcommand::arguments() {
+    return {mTarget.projectArgument(),
+            {"--dir DIR", "The folder with the output files", &mFolder, true},
+            {"--csv", "As CSV", &mCsv},
+            {"--json", "As JSON", &mJson},
+            {"--explain", "With the place and text that each value comes from", &mExplain},
+            mTarget.computationArgument()};
+}
+
+int FReadSubcommand::run() const {
+    const QDir folder(QDir(QString::fromStdString(mFolder)).absolutePath());
+    if (!folder.exists()) {
+        FLogMsg::error(QStringLiteral("merix"), QStringLiteral("there is no folder \"%1\"").arg(folder.path()),
+                       QStringLiteral("Give the folder of the output files with --dir"));
+        return FExitCode::fileError;
+    }
+    const int exitCode = mTarget.open(FSetUpTarget::Access::Read);
+    if (exitCode != FExitCode::done) {
+        return exitCode;
+    }
+    const FExpr<FComputationResults> results = mTarget.computation()->readFolder(folder.path() + QLatin1Char('/'));
+    auto* read = dynamic_cast<FResultsGeneric*>(results.ptr());
+    const bool isWhole = hasFiles(folder);
+    if (!read || !read->prepareResults()) {
+        return FExitCode::failed;
+    }
+    using Form = FTableOutput::Form;
+    const Form form = mJson ? Form::Json : mCsv ? Form::Csv : mExplain ? Form::Explained : Form::Text;
+    FLogMsg::endLine();
+    std::cout << FTableOutput::of(*read, form).toStdString();
+    return isWhole ? FExitCode::done : FExitCode::failed;
+}
+
+/** Whether all files that values are read from are there; reports those that aren't. */
+bool FReadSubcommand::hasFiles(const QDir& folder) const {
+    const FConfigurationCustom* configuration = mTarget.computation()->getConfiguration().ptr();
+    const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
+    bool hasAll = true;
+    for (const QString& name : definition ? definition->getReadFiles() : QStringList()) {
+        if (!QFileInfo(folder.filePath(name)).isFile()) {
+            FLogMsg::error(QStringLiteral("merix"),
+                           QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
+                           QStringLiteral("Its values are NaN"));
+            hasAll = false;
+        }
+    }
+    return hasAll;
+}

@@ -1,0 +1,34 @@
+#include "merix/FRunSubcommand.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/lodm/FCustomComputation.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/script/FProject.h"
+#include "merix/FExitCode.h"
+#include "merix/FTableOutput.h"
+
+#include <iostream>
+
+std::vector<FSubcommand::Argument> FRunSubcommand::arguments() {
+    return {
+        mTarget.projectArgument(), mTarget.setArgument(), {"--json", "As JSON", &mJson}, mTarget.computationArgument()};
+}
+
+int FRunSubcommand::run() const {
+    const int exitCode = mTarget.open(FSetUpTarget::Access::Run);
+    if (exitCode != FExitCode::done) {
+        FProject::instance()->close(false);
+        return exitCode;
+    }
+    FCustomComputation& computation = *mTarget.computation();
+    const bool isDone = computation.run();
+    auto* results = dynamic_cast<FResultsGeneric*>(computation.getCurrentResults().ptr());
+    if (isDone && results && results->prepareResults()) {
+        FLogMsg::endLine();
+        std::cout
+            << FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text).toStdString();
+    }
+    // The values that were set hold for this call only.
+    FProject::instance()->close(false);
+    return isDone ? FExitCode::done : FExitCode::failed;
+}

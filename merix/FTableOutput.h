@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+class FResultsGeneric;
+
+/** The numbers of results as text for the standard output. */
+class FTableOutput {
+ public:
+    enum class Form { Text, Csv, Json, Explained };
+
+    static QString of(FResultsGeneric& results, Form form);
+};

@@ -1,0 +1,164 @@
+#include "tests/system/FProgramTest.h"
+
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/** The subcommands that work on a project without a script. The program doubles a number. */
+class SetUpTest : public FProgramTest {
+ protected:
+    const QString mSetUp = R"(
+genericIntegrationCommandFile input() {
+    .setFileName("in.txt")
+    .setContent("x=<entry>x</entry>
+name=<entry>name</entry>
+")
+}
+genericIntegrationResultsFile output() {
+    .setFileName("out.txt")
+    .setValues([["double", 0, 0, "double", Last, "FDouble", ""], ["name", 1, 0, "double", Last, "FDouble", ""]])
+}
+genericIntegrationDefinition def() { .addEntry("x", 2) .addEntry("name", "a") .setFiles([input, output]) }
+genericIntegrationConfiguration conf() { .setDefinition(def) }
+genericIntegrationComputation comp() {
+    .setConfiguration(conf)
+    .setExecutable("sh")
+    .setArguments(["-c", ". ./in.txt; echo double $((2*x)) > out.txt; echo name 1 >> out.txt"])
+}
+)";
+
+    void makeProject(const QString& further = QString()) const {
+        const Outcome made = script(mSetUp + further + "\nprint(saveProject(\"p.mrx\"))");
+        ASSERT_EQ(made.output, "true\n") << made.errors.toStdString();
+    }
+    /** All files below the folder of the test, with their contents. */
+    QMap<QString, QByteArray> files() const {
+        QMap<QString, QByteArray> all;
+        for (QDirIterator walk(path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); walk.hasNext();) {
+            const QString name = walk.next().mid(path().size() + 1);
+            all.insert(name, read(name));
+        }
+        return all;
+    }
+};
+
+TEST_F(SetUpTest, checkReportsTheProblemsOfAProject) {
+    makeProject();
+    const Outcome good = merix({"check", "p.mrx"});
+    EXPECT_EQ(good.output, "no problems found\n") << good.errors.toStdString();
+    EXPECT_EQ(good.exitCode, 0);
+
+    makeProject("input.setContent(\"x=<entry>x</entry>\n<entry>naem</entry>\")\n");
+    const QMap<QString, QByteArray> before = files();
+    const Outcome bad = merix({"check", "p.mrx"});
+    EXPECT_EQ(bad.exitCode, 1);
+    EXPECT_TRUE(bad.output.contains("error: input:2:1: ")) << bad.output.toStdString();
+    EXPECT_TRUE(bad.output.contains("warning: def: ")) << bad.output.toStdString();
+    EXPECT_TRUE(bad.output.endsWith("\n1 error, 1 warning\n")) << bad.output.toStdString();
+    const Outcome json = merix({"check", "p.mrx", "--json"});
+    const QJsonObject all = QJsonDocument::fromJson(json.output.toUtf8()).object();
+    EXPECT_EQ(all["errors"].toInt(), 1) << json.output.toStdString();
+    EXPECT_EQ(all["problems"].toArray()[0].toObject()["place"].toString(), "input:2:1");
+    EXPECT_EQ(all["problems"].toArray()[0].toObject()["remedy"].toString(), "Did you mean \"<entry>name</entry>\"?");
+    EXPECT_EQ(files(), before);
+
+    const Outcome unknown = merix({"check", "p.mrx", "--computation", "comq"});
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_TRUE((unknown.output + unknown.errors).contains("did you mean \"comp\"")) << unknown.errors.toStdString();
+    EXPECT_EQ(merix({"check", "none.mrx"}).exitCode, 3);
+}
+
+TEST_F(SetUpTest, checkExecutesAScriptWithoutRunsAndWithoutWriting) {
+    const QString rest = R"(
+print("ran", comp.run(), comp.rereadResults())
+conf.setEntryValue("x", [1])
+print(comp.run(), comp.getResults().getTable("out.txt").getElementAt("double"))
+print(saveProject("s.mrx"), def.save("d.lodm"))
+t = NULL
+t.getElementAt("double")
+)";
+    write("s.merix", (mSetUp + rest).toUtf8());
+    const QMap<QString, QByteArray> before = files();
+    const Outcome outcome = merix({"check", "s.merix", "--json"});
+    const QJsonObject all = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
+    ASSERT_EQ(all["problems"].toArray().size(), 1) << outcome.output.toStdString() << outcome.errors.toStdString();
+    EXPECT_TRUE(all["problems"].toArray()[0].toObject()["text"].toString().contains("holds a list"));
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.errors.contains("ran false false")) << outcome.errors.toStdString();
+    EXPECT_EQ(files(), before) << QStringList(files().keys()).join('\n').toStdString();
+
+    write("s.merix", (mSetUp + "comp.setExecutible(\"sh\")").toUtf8());
+    const Outcome wrong = merix({"check", "s.merix"});
+    EXPECT_EQ(wrong.exitCode, 1);
+    EXPECT_TRUE(wrong.output.contains("did you mean \"setExecutable\"")) << wrong.output.toStdString();
+    EXPECT_EQ(merix({"check", "-"}, mSetUp).output, "no problems found\n");
+}
+
+TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
+    makeProject();
+    const QByteArray project = read("p.mrx");
+    const Outcome written = merix({"write", "p.mrx", "--set", "x=21", "--set", "name=b c", "--out", "by hand/1"});
+    EXPECT_EQ(written.exitCode, 0) << written.errors.toStdString();
+    EXPECT_EQ(written.output, path("by hand/1/in.txt") + ": 2 tags replaced, 0 not replaced\n");
+    EXPECT_EQ(read("by hand/1/in.txt"), "x=21\nname=b c\n");
+
+    write("by hand/1/out.txt", "double 42\nname 1\n");
+    const QMap<QString, QByteArray> before = files();
+    const Outcome seen = merix({"read", "p.mrx", "--dir", "by hand/1"});
+    EXPECT_EQ(seen.exitCode, 0) << seen.errors.toStdString();
+    EXPECT_TRUE(seen.output.contains("double") && seen.output.contains("42")) << seen.output.toStdString();
+    for (const char* form : {"--json", "--csv", "--explain"}) {
+        const Outcome other = merix({"read", "p.mrx", "--dir", "by hand/1", form});
+        EXPECT_TRUE(other.output.contains("42")) << form << other.output.toStdString();
+        EXPECT_NE(other.output, seen.output) << form;
+    }
+    EXPECT_EQ(files(), before) << QStringList(files().keys()).join('\n').toStdString();
+    EXPECT_EQ(merix({"read", "p.mrx", "--dir", "by hand"}).exitCode, 1) << "no output file";
+    EXPECT_EQ(merix({"read", "p.mrx", "--dir", "none"}).exitCode, 3);
+
+    const Outcome ran = merix({"run", "p.mrx", "--set", "x=1+4", "--json"});
+    EXPECT_EQ(ran.exitCode, 0) << ran.errors.toStdString();
+    EXPECT_TRUE(ran.output.contains("10")) << ran.output.toStdString();
+    EXPECT_FALSE(QJsonDocument::fromJson(ran.output.toUtf8()).isNull());
+    EXPECT_EQ(read("p.results/baseline/comp/in.txt"), "x=5\nname=a\n");
+    EXPECT_EQ(read("p.mrx"), project);
+    EXPECT_EQ(QDir(path()).entryList({"p.mrx*"}), QStringList({"p.mrx"}));
+    EXPECT_EQ(merix({"run", "p.mrx", "--set", "x=1 +"}).exitCode, 2);
+}
+
+TEST_F(SetUpTest, callsAreRefusedWithTheNearestName) {
+    makeProject("genericIntegrationComputation other() { .setConfiguration(conf) .setExecutable(\"false\") }\n");
+    const QList<QPair<QStringList, QString>> cases{
+        {{"run", "p.mrx"}, "--computation: \"comp\", \"other\""},
+        {{"run", "p.mrx", "--computation", "othr"}, "did you mean \"other\""},
+        {{"run", "p.mrx", "--computation", "comp", "--set", "nmae=b"}, "did you mean \"name\""},
+        {{"write", "p.mrx", "--computation", "comp", "--set", "x", "--out", "d"}, "ENTRY=VALUE"},
+        {{"write", "p.mrx", "--computation", "comp", "--set", "x=abc", "--out", "d"}, "\"abc\" is no value"},
+        {{"write", "p.mrx"}, "--out"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const Outcome outcome = merix(arguments);
+        EXPECT_EQ(outcome.exitCode, 2) << message.toStdString();
+        EXPECT_TRUE(outcome.errors.contains(message)) << outcome.errors.toStdString();
+        EXPECT_EQ(outcome.output, "");
+    }
+    EXPECT_FALSE(QFile::exists(path("d")));
+    EXPECT_EQ(merix({"run", "p.mrx", "--computation", "other"}).exitCode, 1) << "the program failed";
+}
+
+TEST_F(SetUpTest, examplesHaveNoProblems) {
+    for (const char* name : {"cantilever/cantilever.merix", "cantilever/designs.merix", "bandpass/bandpass.merix"}) {
+        const Outcome outcome = merix({"check", QString(MERIX_EXAMPLES "/") + name, "--json"});
+        const QJsonObject all = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
+        for (const QJsonValue& problem : all["problems"].toArray()) {
+            const QString text = problem.toObject()["text"].toString();
+            EXPECT_TRUE(text.contains("was not found")) << name << ": " << text.toStdString();
+        }
+        EXPECT_TRUE(all.contains("errors")) << outcome.errors.toStdString();
+    }
+}
+
+}  // namespace

@@ -2,10 +2,10 @@
 
 #include "host/core/FNearestName.h"
 #include "host/run/FSuccessRules.h"
+#include "host/run/FValueRemark.h"
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace {
 
@@ -20,36 +20,18 @@ QString listed(const QStringList& texts) {
     return QStringList(texts.mid(0, mostListed)).join(QStringLiteral("; ")) + more;
 }
 
-bool isAnchorOddity(const QString& oddity) {
-    return oddity.startsWith(QLatin1String("anchor"));
-}
-
-// These make a value NaN.
-bool isMissingOddity(const QString& oddity) {
-    return oddity == QLatin1String("line beyond the end") || oddity == QLatin1String("column missing") ||
-           oddity == QLatin1String("not a number");
-}
-
-bool isSuspiciousOddity(const QString& oddity) {
-    return !isAnchorOddity(oddity) && !isMissingOddity(oddity);
-}
-
-QString describe(const FTableData& table, int row, const QStringList& oddities) {
-    const FNumberOrigin origin = table.getOrigin(row);
-    const QString line = origin.line > 0 ? QStringLiteral(":%1").arg(origin.line) : QString();
-    return QStringLiteral("\"%1\" in %2%3: %4")
-        .arg(table.getRowName(row), table.getName(), line, oddities.join(QStringLiteral(", ")));
-}
-
-QStringList oddValues(const Tables& tables, bool (*isOdd)(const QString&)) {
+QStringList flaggedValues(const Tables& tables, FNumberFlags flags) {
     QStringList values;
     for (const FExpr<FTableData>& table : tables) {
         for (int row = 0; row < table->getRowCount(); ++row) {
-            const QStringList all = table->getOrigin(row).oddities;
-            QStringList odd;
-            std::copy_if(all.begin(), all.end(), std::back_inserter(odd), isOdd);
-            if (!odd.isEmpty()) {
-                values.append(describe(*table.ptr(), row, odd));
+            FNumberOrigin origin = table->getOrigin(row);
+            origin.flags &= flags;
+            if (origin.flags) {
+                const QString line =
+                    origin.lineToShow() > 0 ? QStringLiteral(":%1").arg(origin.lineToShow()) : QString();
+                values.append(QStringLiteral("\"%1\" in %2%3 %4")
+                                  .arg(table->getRowName(row), table->getName(), line,
+                                       FValueRemark::text(origin, table->getElementAt(row, 0))));
             }
         }
     }
@@ -107,15 +89,24 @@ QStringList FNumberCheck::faults(const FSuccessRules& rules, const QList<FExpr<F
     };
     if (rules.missingAnchors == FSuccessRules::fails()) {
         add(QStringLiteral("An anchor is missing (setMissingAnchors is \"fail\"): %1."),
-            oddValues(tables, &isAnchorOddity));
+            flaggedValues(tables, FNumberFlag::AnchorMissing));
     }
     if (rules.suspiciousNumbers == FSuccessRules::fails()) {
         add(QStringLiteral("A number is suspicious (setSuspiciousNumbers is \"fail\"): %1."),
-            oddValues(tables, &isSuspiciousOddity));
+            flaggedValues(tables, suspiciousFlags));
     }
     if (!rules.requiredValues.isEmpty()) {
         add(QStringLiteral("No result has the required value: %1."), unknownValues(rules, tables));
         add(QStringLiteral("A required value is NaN: %1."), nanValues(rules, tables));
     }
     return faults;
+}
+
+FNumberFlags FNumberCheck::accepted(const FSuccessRules& rules) {
+    FNumberFlags flags;
+    flags.setFlag(FNumberFlag::AnchorMissing, rules.missingAnchors == FSuccessRules::accepts());
+    if (rules.suspiciousNumbers == FSuccessRules::accepts()) {
+        flags |= suspiciousFlags;
+    }
+    return flags;
 }

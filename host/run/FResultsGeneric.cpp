@@ -3,6 +3,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FNumberCheck.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/run/FSafePath.h"
 #include "host/run/FValueReport.h"
@@ -41,14 +42,11 @@ void FResultsGeneric::init(const FResultsGeneric* other) {
 }
 
 bool FResultsGeneric::prepareResults() const {
-    if (mReading || !FComputationResults::prepareResults()) {
-        return false;
+    const bool mayRead = readSilently();
+    if (mayRead) {
+        report();
     }
-    if (!mFilesRead && !mDetached) {
-        readAll();
-    }
-    report();
-    return true;
+    return mayRead;
 }
 
 void FResultsGeneric::readAll() const {
@@ -72,9 +70,26 @@ void FResultsGeneric::report() const {
     warnOfFailedRun();
     const FExpr<FExternComputation> computation = getComputation();
     const bool hasFailed = getRun() && !getRun()->isSuccess();
+    const FNumberFlags accepted = computation ? FNumberCheck::accepted(computation->getSuccessRules()) : FNumberFlags();
     for (int i = 0; i < mTables.size(); ++i) {
-        FValueReport::log(*mTables[i].ptr(), computation ? computation->getName() : getName(), hasFailed, mReports[i]);
+        FValueReport::log(*mTables[i].ptr(), computation ? computation->getName() : getName(), hasFailed, accepted,
+                          mReports[i]);
     }
+}
+
+bool FResultsGeneric::readSilently() const {
+    if (mReading || !FComputationResults::prepareResults()) {
+        return false;
+    }
+    if (!mFilesRead && !mDetached) {
+        readAll();
+    }
+    return true;
+}
+
+void FResultsGeneric::reportReading() const {
+    mWarned = true;
+    report();
 }
 
 void FResultsGeneric::readOutputFiles() const {

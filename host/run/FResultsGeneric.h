@@ -39,6 +39,13 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** The table of that number, in the order of the result templates, from 0; an empty handle if there is none. */
     FExpr<FTableData> getTableAt(unsigned int number) const;
     QStringList getTableNames() const;
+    /**
+     * At the end of a run, which may still fail because of its numbers: reads the files and reports nothing. False if
+     * nothing may be read.
+     */
+    bool readSilently() const;
+    /** Reports on what `readSilently` has read, after the message of a failed run. */
+    void reportReading() const;
     /** What was read so far. */
     const QList<FExpr<FTableData>>& tables() const { return mTables; }
 

@@ -117,8 +117,11 @@ void FRunAttempt::finish() {
     if (results) {
         mComputation->applyOutputHandles(results);
     }
-    checkNumbers(results);
+    const FResultsGeneric* read = checkNumbers(results);
     report();
+    if (read) {
+        read->reportReading();
+    }
     // This object is the receiver of the signal being handled, and may hold the last handle on the computation.
     const std::shared_ptr<FRunAttempt> self = mComputation->endRun();
     mComputation->stateChanged(results);
@@ -126,11 +129,13 @@ void FRunAttempt::finish() {
         QCoreApplication::instance(), [self] {}, Qt::QueuedConnection);
 }
 
-void FRunAttempt::checkNumbers(const FComputationResults* results) {
+const FResultsGeneric* FRunAttempt::checkNumbers(const FComputationResults* results) {
     const auto* tables = dynamic_cast<const FResultsGeneric*>(results);
-    if (tables && mRules.needsNumbers() && record()->isSuccess() && tables->prepareResults()) {
-        mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->tables()));
+    if (!tables || !mRules.needsNumbers() || !record()->isSuccess() || !tables->readSilently()) {
+        return nullptr;
     }
+    mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->tables()));
+    return tables;
 }
 
 void FRunAttempt::report() const {

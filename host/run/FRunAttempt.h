@@ -7,6 +7,7 @@
 
 class FComputationResults;
 class FExternComputation;
+class FResultsGeneric;
 
 /**
  * A run in progress: executes the steps of its computation in order, in the folder of the run. It keeps the computation
@@ -40,7 +41,8 @@ class FRunAttempt : public QObject {
     void start();
     QString writeInput(FComputationResults* results);
     void finish();
-    void checkNumbers(const FComputationResults* results);
+    /** Returns what was read for the check; null if no rule needs numbers. */
+    const FResultsGeneric* checkNumbers(const FComputationResults* results);
     void report() const;
 
     FExprBase mKeep;  // an FExpr of a computation that has left the model is null

@@ -82,7 +82,7 @@ void logFile(const FTableData& table, const QString& source, bool isNote, const 
 
 }  // namespace
 
-void log(const FTableData& table, const QString& source, bool isNote, QString& earlier) {
+void log(const FTableData& table, const QString& source, bool isNote, FNumberFlags accepted, QString& earlier) {
     FGroup suspicious;
     FGroup missing;
     FNumberOrigin ofFile;
@@ -91,8 +91,9 @@ void log(const FTableData& table, const QString& source, bool isNote, QString& e
         if (origin.flags & fileFlags) {
             ofFile = origin;
         }
-        if (origin.flags & ~fileFlags) {
-            (std::isnan(table.getElementAt(row, 0)) ? missing : suspicious).add(table, row, origin);
+        const bool isMissing = std::isnan(table.getElementAt(row, 0));
+        if (origin.flags & ~fileFlags & ~(isMissing ? FNumberFlags() : accepted)) {
+            (isMissing ? missing : suspicious).add(table, row, origin);
         }
     }
     QStringList groups;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/run/FNumberFlag.h"
 
 class FTableData;
 class QString;
@@ -14,8 +15,10 @@ namespace FValueReport {
  *
  * @param source   the object that reports
  * @param isNote   whether it is only a note, as for the files of a run that failed
+ * @param accepted flags that aren't reported for numbers; a NaN is always reported with its reason
  * @param earlier  the last message about this table, which isn't repeated; receives the new one
  */
-MERIX_EXPORT void log(const FTableData& table, const QString& source, bool isNote, QString& earlier);
+MERIX_EXPORT void log(const FTableData& table, const QString& source, bool isNote, FNumberFlags accepted,
+                      QString& earlier);
 
 }  // namespace FValueReport

@@ -90,6 +90,27 @@ TEST_F(SuccessRulesTest, numbersAreReadBeforeTheEndOnlyIfARuleNeedsThem) {
     EXPECT_FALSE(results()->tables().isEmpty());
 }
 
+TEST_F(SuccessRulesTest, theTreatmentDecidesHowNumbersAreReported) {
+    ASSERT_TRUE(run("square.setValues([[\"f\", 0, 0, \"f \", First, \"FDouble\", \"\"]])"));
+    for (const char* const setting : {"setSuspiciousNumbers", "setMissingAnchors"}) {
+        const QString program = QString("echo %1 > Out.txt; echo said 2")
+                                    .arg(QString(setting).contains("Anchors") ? "h 4" : "f 4D+05");
+        const QList<QPair<QString, QStringList>> cases{
+            {"accept", {}}, {"warn", {"warning: "}}, {"fail", {"error: comp: ", "note: "}}};
+        for (const auto& [treatment, kinds] : cases) {
+            set(*computation(), setting, treatment);
+            const int before = log().size();
+            EXPECT_EQ(runProgram(program), treatment != "fail");
+            results()->prepareResults();
+            ASSERT_EQ(log().size() - before, kinds.size()) << setting << treatment.toStdString() << "\n" << logText();
+            for (int i = 0; i < kinds.size(); ++i) {
+                EXPECT_TRUE(log()[before + i].startsWith(kinds[i])) << logText();
+            }
+        }
+        set(*computation(), setting, QString("warn"));
+    }
+}
+
 TEST_F(SuccessRulesTest, rulesAreKeptCopiedAndUndone) {
     const QStringList rules{".setAllowedExitCodes([0,2]);",
                             ".setRequiredTexts([[\"a\",\"b\"]]);",

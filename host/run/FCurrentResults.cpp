@@ -19,6 +19,9 @@ void FCurrentResults::make(const FExternComputation& computation, const std::sha
 void FCurrentResults::take(const FExternComputation& computation) {
     mDesign = computation.getDesign();
     mResults = {};
+    if (!FPathManager::instance()->hasRoot()) {
+        return;
+    }
     const QString folder = FPathManager::instance()->getResultPath(FExpr<FExternComputation>(&computation), mDesign);
     for (FManaged* object : FObjectManager::instance()->getManaged(FComputationResults::null())) {
         auto* results = dynamic_cast<FComputationResults*>(object);

@@ -169,6 +169,10 @@ std::shared_ptr<const FRunRecord> FExternComputation::lastRun() const {
 
 std::shared_ptr<const FRunRecord> FExternComputation::getStoredRun(const FExpr<FDesign>& design) const {
     FPathManager* paths = FPathManager::instance();
+    // Without a root, there was no run.
+    if (!paths->hasRoot()) {
+        return nullptr;
+    }
     return FRunStore(paths->getEarlierDir(getName(), design))
         .read(paths->getResultPath(FExpr<FExternComputation>(this), design));
 }

@@ -64,6 +64,10 @@ QString FPathManager::resultsRoot() {
     return mTemporaryRoot;
 }
 
+bool FPathManager::hasRoot() const {
+    return !mTemporaryRoot.isEmpty() || !FMerixCtrl::instance()->getProjectFile().isEmpty();
+}
+
 void FPathManager::moveTemporaryRuns() {
     if (!mTemporaryRoot.isEmpty()) {
         FRunRelocation(mTemporaryRoot, resultsRoot()).moveAll();

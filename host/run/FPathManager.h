@@ -25,6 +25,8 @@ class MERIX_EXPORT FPathManager {
     /** Name of the folder of the runs without a design. */
     static const QString& baseline();
 
+    /** Whether the root of the results is known, so that no call creates a temporary folder. */
+    bool hasRoot() const;
     /** Folder of the project's file, or the current folder if it has no file; without a slash at its end. */
     static QString getProjectDir();
     /** Folder of a design, or of the current run's design; without a slash at its end. */

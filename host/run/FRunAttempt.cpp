@@ -96,9 +96,9 @@ QString FRunAttempt::writeInput(FComputationResults* results) {
         results->setResultPath(QString());
         return problem;
     }
-    if (!mComputation->copyInputFiles(record()->folder) || !mComputation->doExports() ||
-        !mComputation->writeOutputFile()) {
-        const QString reason = mComputation->getInputFault();
+    const bool isCopied = mComputation->copyInputFiles(record()->folder) && mComputation->doExports();
+    if (!isCopied || !mComputation->writeOutputFile()) {
+        const QString reason = isCopied ? mComputation->getInputFault() : QString();
         return reason.isEmpty()
                    ? QStringLiteral(
                          "The input files of the run could not be written; see the messages above for the reason.")

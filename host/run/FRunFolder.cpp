@@ -2,6 +2,7 @@
 
 #include "host/run/FSafePath.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>

@@ -4,6 +4,18 @@
 <context>
     <name>reference</name>
     <message>
+        <source>!FComputationResults</source>
+        <translation>Results of a run of a computation: they know how the run ended, and whether the set-up has changed since. The classes of results with numbers are based on this one.</translation>
+    </message>
+    <message>
+        <source>!FComputationResults:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("true"); .setArguments([]) }
+solver.run()
+print(solver.getResults().getState())</translation>
+    </message>
+    <message>
         <source>!FComputationResults.member.getSetUpChanges()</source>
         <translation>What has changed in the set-up since the run: values of entries, settings of the program, contents of input templates. The numbers of the results belong to the earlier set-up. Results of a design are compared while the computation has that design.</translation>
     </message>
@@ -18,7 +30,7 @@ print(solver.getResults().getSetUpChanges())</translation>
     </message>
     <message>
         <source>!FComputationResults.member.getSetUpChanges():returnValue</source>
-        <comment>return type: FCONTAINER</comment>
+        <comment>return type: stringContainer</comment>
         <translation>One text for each change, such as "span was 12.5, is 14"; an empty list if nothing has changed.</translation>
     </message>
     <message>

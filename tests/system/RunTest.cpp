@@ -105,8 +105,8 @@ TEST_F(RunTest, theFirstSaveTakesTheRunsAlong) {
 
 TEST_F(RunTest, resultsOfADesignAreSavedAndReadBack) {
     const QString loop = "design d1(); design d2()\n" + withScript("echo f 1 > out.dat") +
-                         "comp.setDesign(d1).run()\n" + withScript("echo f 2 > out.dat") +
-                         "comp.setDesign(d2).run()\nsaveProject(\"s.mrx\")\n";
+                         "comp.setDesign(d1); comp.run()\n" + withScript("echo f 2 > out.dat") +
+                         "comp.setDesign(d2); comp.run()\nsaveProject(\"s.mrx\")\n";
     ASSERT_EQ(script(mSetUp + loop).exitCode, 0);
     const Outcome read = script("openProject(\"s.mrx\")\nprint(" + mNumber + ")\ncomp.setDesign(d1)\nprint(" + mNumber +
                                 ", comp.getState())\n");

@@ -59,7 +59,7 @@ QString FPathManager::resultsRoot() {
         mTemporaryRoot = folder.path();
         FLogMsg::info(QStringLiteral("merix"),
                       QStringLiteral("The project has no file yet; the folder of its runs is %1").arg(mTemporaryRoot),
-                      QStringLiteral("the folder is kept after exit; remove it when you no longer need it"));
+                      QStringLiteral("The folder is kept after exit; remove it when you no longer need it"));
     }
     return mTemporaryRoot;
 }

@@ -1,7 +1,6 @@
 #include "host/core/FLogMsg.h"
 
 #include "host/core/FChanges.h"
-#include "host/core/FLogHold.h"
 
 #include <iostream>
 #include <utility>
@@ -103,9 +102,6 @@ void FLogMsg::endLine() {
 }
 
 void FLogMsg::send() const {
-    if (FLogHold::keep(*this)) {
-        return;
-    }
     sink()(*this);
     emit FChanges::instance()->messageLogged(*this);
 }

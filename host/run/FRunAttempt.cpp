@@ -114,8 +114,8 @@ QString FRunAttempt::makeRoom() {
         return mRefusal;
     }
     QString reason;
-    const QStringList named =
-        mReadFiles + mFurtherFiles + mRules.textFiles() + QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()};
+    const QStringList named = mReadFiles + mFurtherFiles + mRules.textFiles() +
+                              QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()};
     mHasRoom = mFolder.moveAside(named, reason);
     if (const int count = mFolder.leftByInterruption(); count > 0) {
         FLogMsg::warning(record()->computation,

@@ -9,6 +9,7 @@
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/lodm/FLodmConfigurationParser.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultText.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FSafePath.h"
@@ -114,12 +115,13 @@ std::optional<FResultText> FGenIntReader::readText(const FGenIntResultsFile& fil
 std::unique_ptr<QFile> FGenIntReader::openFile(const FGenIntResultsFile& file, const QString& directory) const {
     auto device = std::make_unique<QFile>(directory + QLatin1Char('/') + file.getFileName());
     const bool leadsOut = FSafePath::leadsOut(file.getFileName());
+    const bool isUnusable = leadsOut || !FResultFiles::faultOfName(file.getFileName()).isEmpty();
     if (leadsOut) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
                       QStringLiteral("give the template a file name below it"));
     }
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (leadsOut || !FFile::openOrdinary(*device, mode).isEmpty()) {
+    if (isUnusable || !FFile::openOrdinary(*device, mode).isEmpty()) {
         FLogMsg::info(getClass(),
                       QStringLiteral("Could not open file ") + device->fileName() + QStringLiteral(" for reading"),
                       aborted());

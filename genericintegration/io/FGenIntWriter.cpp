@@ -7,6 +7,7 @@
 #include "genericintegration/templates/FTemplateOwner.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FSavedFile.h"
 #include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinition.h"
@@ -33,10 +34,11 @@ int lastSeparator(const QString& path) {
     return std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
 }
 
-bool openForWriting(QFile& file, const QString& name) {
+bool openForWriting(QFile& file, const QString& name, QString& reason) {
     if (FSafePath::leadsOut(file.fileName().chopped(name.size()), name)) {
         FLogMsg::info(source(), QStringLiteral("\"%1\" leads out of the run directory").arg(name),
                       QStringLiteral("give the template a file name below it"));
+        reason = QStringLiteral("it leads out of the run directory");
         return false;
     }
     const QString path = file.fileName();
@@ -46,7 +48,9 @@ bool openForWriting(QFile& file, const QString& name) {
         return true;
     }
     QDir().mkpath(path.left(separator));
-    return FSafePath::openForWriting(file);
+    const bool isOpen = FSafePath::openForWriting(file);
+    reason = isOpen ? QString() : file.errorString();
+    return isOpen;
 }
 
 /** Updates the values that are file names, which writes those files. */
@@ -84,6 +88,7 @@ FTemplateOwner* FGenIntWriter::definitionOf(const FExpr<FConfiguration>& configu
 }
 
 bool FGenIntWriter::exportCommandFiles(const FExpr<FConfiguration>& configuration, const QString& directory) {
+    mFault.clear();
     const FTemplateOwner* definition = definitionOf(configuration);
     if (!definition) {
         return false;
@@ -104,14 +109,17 @@ bool FGenIntWriter::exportCommandFiles(const FExpr<FConfiguration>& configuratio
 bool FGenIntWriter::exportFile(const FGenIntFile& file, const QString& directory, const FValueTable& table,
                                const FExpr<FConfiguration>& configuration) const {
     QFile device(directory + file.getFileName());
-    bool written = openForWriting(device, file.getFileName());
+    QString reason;
+    bool written = openForWriting(device, file.getFileName(), reason);
     if (written) {
         FUtf8Output output(device);
         writeTemplate([&output](QStringView piece) { output.write(piece); }, file.getPlainContent(), table,
                       configuration, file.getForceWindowsLineEndings());
         written = output.finish();
+        reason = FSavedFile::reasonOf(device);
     }
     if (!written) {
+        mFault = QStringLiteral("'%1' (%2)").arg(device.fileName(), reason);
         FLogMsg::info(source(),
                       QStringLiteral("Could not open file ") + device.fileName() + QStringLiteral(" for writing."),
                       QStringLiteral("Writing process aborted."));

@@ -16,7 +16,7 @@ class FValueTable;
 
 /**
  * Writes the input templates of a definition with the values of one configuration in place of the tags. There is one
- * writer; it keeps nothing between calls.
+ * writer; it keeps nothing between calls but the fault.
  */
 class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
  public:
@@ -30,6 +30,8 @@ class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
      * definition or a file can't be written; files that have been written by then stay.
      */
     virtual bool exportCommandFiles(const FExpr<FConfiguration>& configuration, const QString& directory);
+    /** Why the last `exportCommandFiles` couldn't write a file, with its path, without a full stop; else empty. */
+    const QString& getFault() const { return mFault; }
     /** Appends the name of each tag of a template, repeats included. */
     virtual void getTagNames(const FExpr<FGenIntFile>& file, QStringList& names);
 
@@ -44,4 +46,6 @@ class FGenIntWriter : public FClass<FGenIntWriter, FObject> {
                     const FExpr<FConfiguration>& configuration) const;
     QString previewText(const FGenIntFile& file, const FValueTable& table,
                         const FExpr<FConfiguration>& configuration) const;
+
+    mutable QString mFault;
 };

@@ -13,6 +13,8 @@
 #include "host/run/FPathManager.h"
 #include "host/script/FCmdTable.h"
 
+#include <QCryptographicHash>
+
 namespace {
 
 FGenIntComputation* setConfiguration(FGenIntComputation& computation,
@@ -102,6 +104,22 @@ bool FGenIntComputation::writeOutputFile() const {
     const FExpr<FConfigurationGenInt> configuration(getConfiguration());
     return FGenIntWriter::instance()->exportCommandFiles(configuration,
                                                          FPathManager::instance()->getInputDir(computation, design));
+}
+
+QString FGenIntComputation::getInputFault() const {
+    return FGenIntWriter::instance()->getFault();
+}
+
+QMap<QString, QString> FGenIntComputation::describeSetUp() const {
+    QMap<QString, QString> setUp = FCustomComputation::describeSetUp();
+    const FDefinitionGenInt* described = definition();
+    const QList<FExpr<FGenIntFile>> files = described ? described->getFiles(0) : QList<FExpr<FGenIntFile>>();
+    for (const FExpr<FGenIntFile>& file : files) {
+        const QByteArray content = (file->getForceWindowsLineEndings() ? "1" : "0") + file->getPlainContent().toUtf8();
+        setUp.insert(QStringLiteral("input file %1:").arg(file->getFileName()),
+                     QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex()));
+    }
+    return setUp;
 }
 
 void FGenIntComputation::computationStarted() const {

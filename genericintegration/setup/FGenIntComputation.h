@@ -19,6 +19,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     const FObject* getResultType() const override;
     FExpr<FComputationResults> getResults() const override { return FCustomComputation::getResults(); }
     bool isGeneric() const override { return true; }
+    QMap<QString, QString> describeSetUp() const override;
 
     /** A new computation of this name with the program's settings, but without a configuration. */
     FObject* clone() const override;
@@ -41,6 +42,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     explicit FGenIntComputation(const QString& name = QString());
 
     bool writeOutputFile() const override;
+    QString getInputFault() const override;
     void computationStarted() const override;
     void computationFinished() const override;
     void applyOutputHandles(FComputationResults* results) const override;

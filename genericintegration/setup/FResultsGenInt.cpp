@@ -195,20 +195,21 @@ QString FResultsGenInt::getResultTemplateName(const QString& fileName) const {
     const auto* computation = dynamic_cast<const FGenIntComputation*>(getComputation().ptr());
     const FConfigurationCustom* configuration = computation ? computation->getConfiguration().ptr() : nullptr;
     auto* definition = configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
-    if (!definition) {
+    const QString folder = getResultPath();
+    if (!definition || folder.isEmpty()) {
         return {};
     }
     const QList<FExpr<FGenIntFile>> files = definition->getFiles(1);
     for (const FExpr<FGenIntFile>& file : files) {
         if (file && file->getFileName() == fileName) {
-            return getResultPath() + fileName;
+            return folder + fileName;
         }
     }
     return {};
 }
 
 void FResultsGenInt::saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const {
-    if (getVariant()) {
+    if (getVariant() && (!getComputation() || isInFolderOfRuns())) {
         FResultsGeneric::saveScopeManner(stream, indent, inScope, flag);
     }
 }

@@ -33,10 +33,11 @@ class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
 
     /** The table of that name, otherwise that of the result template of that name in any case. */
     FExpr<FTableData> getData(const QString& name) override;
-    /** Path of a file in the results' folder; empty if it isn't the file of a result template. */
+    /** Path of a file in the results' folder; empty if it isn't the file of a result template, or
+     *  if the files of the run are gone. */
     QString getResultTemplateName(const QString& fileName) const;
 
-    /** Results without a design aren't saved. */
+    /** Only results of a design are saved, and only those of the last run in its folder. */
     void saveScopeManner(QTextStream& stream, unsigned int indent, bool inScope, bool flag) const override;
 
  protected:

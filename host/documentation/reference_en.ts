@@ -4,6 +4,54 @@
 <context>
     <name>reference</name>
     <message>
+        <source>!FComputationResults</source>
+        <translation>Results of a run of a computation: they know how the run ended, and whether the set-up has changed since. The classes of results with numbers are based on this one.</translation>
+    </message>
+    <message>
+        <source>!FComputationResults:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("true"); .setArguments([]) }
+solver.run()
+print(solver.getResults().getState())</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getSetUpChanges()</source>
+        <translation>What has changed in the set-up since the run: values of entries, settings of the program, contents of input templates. The numbers of the results belong to the earlier set-up. Results of a design are compared while the computation has that design.</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getSetUpChanges():example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("true"); .setArguments([]) }
+solver.run()
+cruise.setEntryValue("span", 14)
+print(solver.getResults().getSetUpChanges())</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getSetUpChanges():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>One text for each change, such as "span was 12.5, is 14"; an empty list if nothing has changed.</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getState()</source>
+        <translation>The state of the run that the results belong to, as getState() of a computation. If the set-up has changed since, ", of an earlier set-up" and the changes follow.</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getState():example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("true"); .setArguments([]) }
+solver.run()
+cruise.setEntryValue("span", 14)
+print(solver.getResults().getState())</translation>
+    </message>
+    <message>
+        <source>!FComputationResults.member.getState():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>Such as "finished", or "finished, of an earlier set-up (span was 12.5, is 14)".</translation>
+    </message>
+    <message>
         <source>!FConfiguration</source>
         <translation>Values for the entries of a definition. Several configurations can share one definition. When entries are added, removed or renamed there, the configuration follows and keeps the values of those that remain.</translation>
     </message>
@@ -454,6 +502,24 @@ solver.setArguments(["-i", "cantilever"])</translation>
         <source>!FExternComputation.attribute.setConsoleFiles(bool,checked):example</source>
         <translation>genericIntegrationComputation solver()
 solver.setConsoleFiles(false)</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setDesign(FDesign,design)</source>
+        <translation>Sets the design whose folder the next runs use, so that the files of each design are kept. Results of such a run belong to the design: they are saved with the project and read again from that folder. getState() and getResults() are then those of the last run of that design. Refused with a message during a run, and for a design named "baseline".</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setDesign(FDesign,design):argument0</source>
+        <translation>The design; NULL, the default, for the folder "baseline".</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.attribute.setDesign(FDesign,design):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("true"); .setArguments([]) }
+design slender()
+solver.setDesign(slender)
+solver.run()
+print(solver.getWorkingPath())</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setEnvironment(FCONTAINER,variables)</source>

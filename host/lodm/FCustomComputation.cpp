@@ -6,10 +6,33 @@
 #include "host/run/FRunFolderFile.h"
 #include "host/script/FCmdTable.h"
 
+#include <QCryptographicHash>
+
 namespace {
 
 /** More entries aren't compared between runs, which would take as long as writing them. */
 constexpr int mostCompared = 10'000;
+
+/** Of an input file, the source counts: its name in the folder of the run is often that of the template. */
+QString textOf(const FObject* value) {
+    if (const auto* file = dynamic_cast<const FFileReference*>(value)) {
+        return file->getFileNameText();
+    }
+    const auto* basic = dynamic_cast<const FBasicType*>(value);
+    return basic ? basic->toPlainString() : value ? value->toExpressionString() : QStringLiteral("NULL");
+}
+
+/** Long texts are cut, with a digest that shows a change of the rest. */
+QString shortened(const QString& text) {
+    constexpr int longest = 80;
+    constexpr int kept = 40;
+    constexpr int digits = 10;
+    if (text.size() <= longest) {
+        return text;
+    }
+    const QByteArray digest = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex().left(digits);
+    return QStringLiteral("%1… (%2)").arg(text.left(kept), QString::fromLatin1(digest));
+}
 
 }  // namespace
 
@@ -130,4 +153,27 @@ QMap<QString, QString> FCustomComputation::getWrittenValues() const {
         }
     }
     return values;
+}
+
+QStringList FCustomComputation::getFurtherFiles() const {
+    QStringList names;
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    for (const FExpr<FResultsFileName>& file :
+         configuration ? configuration->getResultsFileNames() : QList<FExpr<FResultsFileName>>()) {
+        names.append(file->getFileNameText());
+    }
+    return names;
+}
+
+QMap<QString, QString> FCustomComputation::describeSetUp() const {
+    QMap<QString, QString> setUp = FExternComputation::describeSetUp();
+    const FConfigurationCustom* configuration = mConfiguration.ptr();
+    if (!configuration) {
+        return setUp;
+    }
+    const QMap<QString, FExpr<FEntryBase>>& entries = configuration->getEntryMap();
+    for (auto row = entries.begin(); row != entries.end(); ++row) {
+        setUp.insert(row.key(), shortened(textOf(row.value()->getValueObject())));
+    }
+    return setUp;
 }

@@ -27,6 +27,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     FCustomComputation* cloneSetup() const;
 
     QString getResultFile(const QString& entry) const override;
+    QMap<QString, QString> describeSetUp() const override;
 
  protected:
     using FExternComputation::init;
@@ -38,6 +39,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
     void finalizeRun() const override;
     QStringList getReadFiles() const override;
     QMap<QString, QString> getWrittenValues() const override;
+    QStringList getFurtherFiles() const override;
 
     FExpr<FConfigurationCustom> mConfiguration;
 

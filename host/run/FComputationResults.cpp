@@ -4,8 +4,29 @@
 #include "host/core/FObjectManager.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FPathManager.h"
+#include "host/script/FCmdTable.h"
 
-FClassData FComputationResults::mClass("FComputationResults", &FResults::mClass);
+namespace {
+
+void commands(FCmdTable& table) {
+    using F = FComputationResults;
+    table.member<F>("getState", &F::getStateText).query();
+    table.member<F>("getSetUpChanges", &F::getSetUpChanges).query();
+}
+
+/** Names with a colon at the end stand for contents, which are too long to be shown. */
+QString changeText(const QString& name, const QMap<QString, QString>& before, const QMap<QString, QString>& now) {
+    const auto shown = [&name](const QMap<QString, QString>& values) {
+        const QString value = values.value(name, QStringLiteral("missing"));
+        return value.isEmpty() ? QStringLiteral("empty") : value;
+    };
+    return name.endsWith(QLatin1Char(':')) ? QStringLiteral("%1 changed").arg(name.chopped(1))
+                                           : QStringLiteral("%1 was %2, is %3").arg(name, shown(before), shown(now));
+}
+
+}  // namespace
+
+FClassData FComputationResults::mClass("FComputationResults", &FResults::mClass, &commands);
 
 FComputationResults::FComputationResults(const QString& name, const FExpr<FDesign>& variant,
                                          const FExpr<FExternComputation>& computation)
@@ -53,8 +74,50 @@ QString FComputationResults::getResultPath() const {
     return isOfRun ? path : FPathManager::instance()->getResultPath(computation, getVariant());
 }
 
+bool FComputationResults::isInFolderOfRuns() const {
+    return getResultPath() == FPathManager::instance()->getResultPath(getComputation(), getVariant());
+}
+
+std::shared_ptr<const FRunRecord> FComputationResults::getRun() const {
+    const FExpr<FExternComputation> computation = getComputation();
+    const bool isStored = !mRun && computation && FResults::getResultPath().isEmpty();
+    return isStored ? computation->getStoredRun(getVariant()) : mRun;
+}
+
+QStringList FComputationResults::getSetUpChanges() const {
+    const FExpr<FExternComputation> computation = getComputation();
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    if (!computation || !run || run->setUp.isEmpty() || computation->getDesign().ptr() != getVariant().ptr()) {
+        return {};
+    }
+    const QMap<QString, QString> now = computation->describeSetUp();
+    QStringList names = run->setUp.keys();
+    for (auto row = now.begin(); row != now.end(); ++row) {
+        if (!run->setUp.contains(row.key())) {
+            names.append(row.key());
+        }
+    }
+    QStringList changes;
+    for (const QString& name : qAsConst(names)) {
+        if (run->setUp.contains(name) != now.contains(name) || run->setUp.value(name) != now.value(name)) {
+            changes.append(changeText(name, run->setUp, now));
+        }
+    }
+    return changes;
+}
+
+QString FComputationResults::getStateText() const {
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    const QString state = (run ? *run : FRunRecord()).stateName();
+    const QStringList changes = getSetUpChanges();
+    return changes.isEmpty()
+               ? state
+               : QStringLiteral("%1, of an earlier set-up (%2)").arg(state, changes.join(QStringLiteral("; ")));
+}
+
 bool FComputationResults::prepareResults() const {
-    return !(mRun && !mRun->isOver()) && !getResultPath().isEmpty();
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    return !(run && !run->isOver()) && !getResultPath().isEmpty();
 }
 
 void FComputationResults::followFiles(const QString& from, const QString& to) {
@@ -64,7 +127,7 @@ void FComputationResults::followFiles(const QString& from, const QString& to) {
         const QString path = results->getResultPath();
         if (path == from) {
             results->setResultPath(to);
-        } else if (path == to && results->getRun() && results->getBlock()->handles == 0) {
+        } else if (path == to && results->mRun && results->getBlock()->handles == 0) {
             FManaged::destroy(results);
         } else if (path == to) {
             results->detachFromFiles();

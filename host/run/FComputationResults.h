@@ -36,13 +36,25 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
     /** Results of a run aren't saved: an expression finds those of the last run through their computation. */
     QString getKeptText(QString& fault) const override;
 
-    /** The run that they belong to, which may be in progress; null for results of an earlier session. */
-    const std::shared_ptr<const FRunRecord>& getRun() const { return mRun; }
+    /**
+     * The run that they belong to, which may be in progress; for results of an earlier session the one whose record is
+     * stored. Null if there is none.
+     */
+    std::shared_ptr<const FRunRecord> getRun() const;
     void setRun(const std::shared_ptr<const FRunRecord>& run) { mRun = run; }
+
+    /**
+     * In which points the set-up of the computation differs now from that of the run, as sentences without a full stop,
+     * such as "length was 2, is 3". Empty if it doesn't, or if it can't be known. Results of a design are compared
+     * while the computation has that design.
+     */
+    QStringList getSetUpChanges() const;
+    /** State of the run, as FRunRecord tells it, with ", of an earlier set-up" and the changes if there are some. */
+    QString getStateText() const;
 
     /** Reads what isn't read yet. False if nothing may be read: the run is in progress, or there is no folder. */
     virtual bool prepareResults() const;
-    /** The files are about to be removed: reads them now if they weren't, and never again. */
+    /** The files are about to be removed: reads them now if they weren't, and never again. There is no path then. */
     virtual void detachFromFiles() {}
 
     /**
@@ -53,6 +65,8 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
     static void followFiles(const QString& from, const QString& to);
 
  protected:
+    /** Whether the files are in the folder that the computation's runs of this design have. */
+    bool isInFolderOfRuns() const;
     void init(const FComputationResults* other);
     using FResults::init;
 

@@ -11,6 +11,9 @@ struct FSuccessRules;
 class FCurrentResults {
  public:
     const FExpr<FComputationResults>& get() const { return mResults; }
+    bool isOf(const FExpr<FDesign>& design) const { return mDesign.ptr() == design.ptr(); }
+    /** Takes the results that the model has of the computation's design, such as those of a saved project, or none. */
+    void take(const FExternComputation& computation);
     /**
      * Makes new results in the model, of the class that the computation's runs have.
      * @param run  the run that they belong to; null to read the files of an earlier session
@@ -21,4 +24,5 @@ class FCurrentResults {
 
  private:
     FExpr<FComputationResults> mResults;
+    FExpr<FDesign> mDesign;
 };

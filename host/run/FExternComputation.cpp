@@ -6,13 +6,16 @@
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunAttempt.h"
+#include "host/run/FRunLock.h"
+#include "host/script/FProject.h"
 
 #include <QDir>
 #include <QTimer>
 
 #include <utility>
 
-FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands);
+FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands,
+                                      &FExternComputation::fields);
 
 FExternComputation::FExternComputation(const QString& name) : FClass(name) {}
 
@@ -21,12 +24,31 @@ FExternComputation::~FExternComputation() = default;
 void FExternComputation::init(const FExternComputation* other) {
     if (other) {
         FManaged::init(other);
+        setDesign(other->mDesign);
         copyAttributes(FExternComputation::mClass, *other);
     }
 }
 
 void FExternComputation::leaveModel() {
     cancel();
+}
+
+std::vector<std::unique_ptr<FStateField>> FExternComputation::fields() {
+    return FStateFields<FExternComputation>().linked(&FExternComputation::mDesign).take();
+}
+
+void FExternComputation::setDesign(const FExpr<FDesign>& design) {
+    const bool isReserved = design && design->getName() == FPathManager::baseline();
+    if (!canRun() || isReserved) {
+        FLogMsg::warning(getName(), QStringLiteral("Its design can't be changed to %1").arg(design.toString()),
+                         isReserved ? QStringLiteral("That name is reserved for the runs without a design; rename the "
+                                                     "design")
+                                    : QStringLiteral("Wait for the end of the run"));
+        return;
+    }
+    recordChange();
+    mDesign.assignFor(this, design);
+    setOutOfDate(true);
 }
 
 // ---- runs ----
@@ -42,11 +64,11 @@ bool FExternComputation::run(bool wait) {
     }
     mSetUpReport.log(FSetUpCheck::problemsOf(*this, true));
     FPathManager* paths = FPathManager::instance();
-    const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), {});
+    const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), mDesign);
     FProcessSetup setup = mProgram.setupIn(folder);
     setup.exitCodes = mRules.exitCodes;
-    const auto attempt =
-        std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(getName(), {}), getReadFiles());
+    const auto attempt = std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(getName(), mDesign),
+                                                       getReadFiles(), getFurtherFiles());
     mAttempt = attempt;
     return attempt->execute(wait);
 }
@@ -65,6 +87,7 @@ void FExternComputation::triggerRunByTimer() {
 
 FComputationResults* FExternComputation::takeRun(const std::shared_ptr<const FRunRecord>& run) {
     mRecord = run;
+    mRunDesign = mDesign;
     mResults.make(*this, run);
     return mResults.get().ptr();
 }
@@ -124,17 +147,76 @@ bool FExternComputation::cancel() {
 
 const FRunRecord& FExternComputation::getLastRun() const {
     static const FRunRecord none;
-    return mRecord ? *mRecord : none;
+    const std::shared_ptr<const FRunRecord> run = lastRun();
+    return run ? *run : none;
 }
 
 QString FExternComputation::getWorkingPath() const {
-    return mRecord ? mRecord->folder : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), {});
+    return mRecord && isRunOfDesign()
+               ? mRecord->folder
+               : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), mDesign);
+}
+
+std::shared_ptr<const FRunRecord> FExternComputation::lastRun() const {
+    if (mRecord && isRunOfDesign()) {
+        return mRecord;
+    }
+    if (!mStoredRecord || !mStoredRecord->isOver() || mStoredRecord->folder != getWorkingPath()) {
+        mStoredRecord = getStoredRun(mDesign);
+    }
+    return mStoredRecord;
+}
+
+std::shared_ptr<const FRunRecord> FExternComputation::getStoredRun(const FExpr<FDesign>& design) const {
+    FPathManager* paths = FPathManager::instance();
+    // Without a root, there was no run.
+    if (!paths->hasRoot()) {
+        return nullptr;
+    }
+    return FRunStore(paths->getEarlierDir(getName(), design))
+        .read(paths->getResultPath(FExpr<FExternComputation>(this), design));
+}
+
+void FExternComputation::runMoved(const QString& from, const QString& to) {
+    if (!mRecord || mRecord->folder != from) {
+        return;
+    }
+    auto moved = std::make_shared<FRunRecord>(*mRecord);
+    moved->folder = to;
+    if (mResults.get() && mResults.get()->getRun() == mRecord) {
+        mResults.get()->setRun(moved);
+    }
+    mRecord = moved;
+    FPathManager::instance()->runMoved(from, to);
+    setOutOfDate(true);
+}
+
+QMap<QString, QString> FExternComputation::describeSetUp() const {
+    const QString blank(QLatin1Char(' '));
+    return {{QStringLiteral("program"), mProgram.executable},
+            {QStringLiteral("arguments"), mProgram.arguments.join(blank)},
+            {QStringLiteral("environment"), mProgram.environment.join(blank)},
+            {QStringLiteral("standard input"), mProgram.standardInput}};
+}
+
+QString FExternComputation::getHolderOfRuns() {
+    FProject::instance()->takeOverIfFree();
+    return FProject::instance()->getHolder();
 }
 
 // ---- results ----
 
 const FObject* FExternComputation::getResultType() const {
     return FResultsGeneric::null();
+}
+
+// Saved results of a design are taken when they are first requested: an undo changes the design without a call.
+const FExpr<FComputationResults>& FExternComputation::getCurrentResults() const {
+    const bool isMissing = mDesign && !mResults.get();
+    if (!mAttempt && (isMissing || !mResults.isOf(mDesign))) {
+        mResults.take(*this);
+    }
+    return mResults.get();
 }
 
 bool FExternComputation::prepareResults() const {
@@ -146,11 +228,11 @@ bool FExternComputation::canRereadResults() const {
 }
 
 bool FExternComputation::refetchResults() {
-    if (!canRereadResults()) {
+    if (!canRereadResults() || !rereadRefusal().isEmpty()) {
         return false;
     }
     if (!getCurrentResults()) {
-        mResults.make(*this, mRecord);
+        mResults.make(*this, lastRun());
     }
     processReread(getCurrentResults().ptr());
     setOutOfDate(true);
@@ -168,8 +250,28 @@ FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder)
     return results;
 }
 
+// As for a run: half-written files would be read.
+QString FExternComputation::rereadRefusal() const {
+    const QString holder = getHolderOfRuns();
+    if (!holder.isEmpty()) {
+        return QStringLiteral("The project is open elsewhere (%1), and its runs there write into the same folder")
+            .arg(holder);
+    }
+    FPathManager* paths = FPathManager::instance();
+    const QString earlier = paths->getEarlierDir(getName(), mDesign);
+    if (canRun() && FRunLock(FRunFolder::lockFile(earlier)).isHeld()) {
+        return QStringLiteral("A program of another run is still running in the folder '%1'").arg(getWorkingPath());
+    }
+    return FRunFolder(getWorkingPath(), earlier).fault({});
+}
+
 bool FExternComputation::rereadResults() {
     if (FSetUpCheck::substituteRun(*this)) {
+        return false;
+    }
+    if (const QString refusal = rereadRefusal(); !refusal.isEmpty()) {
+        FLogMsg::warning(getName(), QStringLiteral("Its results aren't read again: ") + refusal,
+                         QStringLiteral("Read them again when that is changed"));
         return false;
     }
     if (!refetchResults()) {

@@ -8,6 +8,7 @@
 #include "host/run/FSetUpReport.h"
 #include "host/run/FSuccessRules.h"
 
+#include <QMap>
 #include <QObject>
 #include <QStringList>
 
@@ -31,6 +32,16 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
 
     explicit FExternComputation(const QString& name = QString());
     ~FExternComputation() override;
+
+    // ---- design ----
+    /** The design whose folder the runs have; empty for the folder "baseline". */
+    const FExpr<FDesign>& getDesign() const { return mDesign; }
+    /**
+     * The next runs use the folder of that design, and their results belong to it and are saved with it. State and
+     * results are then those of the last run of that design. Refused, with a message, while a run is in progress, and
+     * for a design named "baseline".
+     */
+    void setDesign(const FExpr<FDesign>& design);
 
     /** How the program is started. Attributes of the command table set it. */
     const FProgramSettings& getProgram() const { return mProgram; }
@@ -67,8 +78,22 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     bool writeInput(const QString& folder) const;
     /** Whether the last run was cancelled. */
     bool wasAborted() const { return getLastRun().cause == FRunRecord::Cause::Cancelled; }
-    /** The run in progress, else the last one; in state `Ready` before the first. */
+    /**
+     * The run in progress, else the last one of the present design, also of an earlier session; in state `Ready` before
+     * the first. Valid until the next call, or the next run.
+     */
     const FRunRecord& getLastRun() const;
+    /** The last run in a design's folder, as its stored record tells; null if there is none. */
+    std::shared_ptr<const FRunRecord> getStoredRun(const FExpr<FDesign>& design) const;
+    /**
+     * What the input of a run is made of, by name: settings of the program, values of entries, contents of templates.
+     * A name with a colon at its end stands for a content, whose text is only good for comparing.
+     */
+    virtual QMap<QString, QString> describeSetUp() const;
+    /** The files of a run have moved; both with a slash at the end. */
+    void runMoved(const QString& from, const QString& to);
+    /** The other process that has the project open, and so its runs, for a message; empty if there is none. */
+    static QString getHolderOfRuns();
     /** Folder of the run in progress, else of the last one, else of the next; with a slash at its end. */
     QString getWorkingPath() const;
 
@@ -76,8 +101,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     /** Prototype of the results; each run makes its own from it. */
     virtual const FObject* getResultType() const;
     /** Results of the last run, or of the one in progress. Empty before the first. */
-    virtual FExpr<FComputationResults> getResults() const { return mResults.get(); }
-    const FExpr<FComputationResults>& getCurrentResults() const { return mResults.get(); }
+    virtual FExpr<FComputationResults> getResults() const { return getCurrentResults(); }
+    const FExpr<FComputationResults>& getCurrentResults() const;
     /** Reads what the current results haven't read yet; false if there are none or nothing can be read. */
     bool prepareResults() const;
     /** Whether there are results, or files to read them from, and no run is in progress. */
@@ -89,7 +114,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     bool refetchResults();
     /**
      * As `refetchResults`, with a message if that isn't possible. Also returns false, with a message, if no file is
-     * named or a file is missing; the other files are read all the same.
+     * named, or if a file is missing, empty or not an ordinary one; the other files are read all the same. While
+     * another process may write the files, nothing is read.
      */
     bool rereadResults();
     /**
@@ -138,9 +164,19 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual QStringList getReadFiles() const { return {}; }
     /** The values that were written for the run, by the names of their entries. */
     virtual QMap<QString, QString> getWrittenValues() const { return {}; }
+    /** Other files that a run may write, relative to the folder. Like the files above, those of an earlier run move
+     *  aside. */
+    virtual QStringList getFurtherFiles() const { return {}; }
+    /** Why `writeOutputFile` has returned false, without a full stop; empty if a message was logged. */
+    virtual QString getInputFault() const { return {}; }
 
  private:
     friend class FRunAttempt;
+
+    static std::vector<std::unique_ptr<FStateField>> fields();
+    bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
+    std::shared_ptr<const FRunRecord> lastRun() const;
+    QString rereadRefusal() const;
 
     static void declareCommands(FCmdTable& table);
     template <auto Member>
@@ -160,8 +196,11 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     FSuccessRules mRules;
     FInputChanges mInput;
     std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
-    std::shared_ptr<const FRunRecord> mRecord;
-    FCurrentResults mResults;
+    FExpr<FDesign> mDesign;
+    std::shared_ptr<const FRunRecord> mRecord;  // of the last run of this session
+    FExpr<FDesign> mRunDesign;                  // its design
+    mutable std::shared_ptr<const FRunRecord> mStoredRecord;
+    mutable FCurrentResults mResults;
     FSetUpReport mSetUpReport;
     bool mIsTriggered = false;
 };

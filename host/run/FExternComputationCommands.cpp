@@ -1,6 +1,8 @@
 #include "host/run/FExternComputation.h"
 #include "host/script/FCmdTable.h"
 
+#include <cmath>
+
 namespace {
 
 using F = FExternComputation;
@@ -11,9 +13,11 @@ FCmdTable& setting(FCmdTable& row, const char* label) {
 }
 
 QString faultOfTimeLimit(const double& seconds) {
-    return seconds >= 0 ? QString()
-                        : QStringLiteral("the time limit can't be %1 s; give a number from 0, where 0 means no limit")
-                              .arg(seconds);
+    // The other zero would be saved with its sign.
+    const bool isValid = seconds >= 0 && !std::signbit(seconds);
+    return isValid ? QString()
+                   : QStringLiteral("the time limit can't be %1 s; give a number from 0, where 0 means no limit")
+                         .arg(seconds);
 }
 
 }  // namespace
@@ -60,6 +64,10 @@ void FExternComputation::declareCommands(FCmdTable& table) {
     setting(table.plain<F>("setEnvironment", &inProgram<&S::environment>, {"variables"}), "Environment");
     setting(table.plain<F>("setStandardInput", &inProgram<&S::standardInput>, {"fileName"}), "Standard Input");
     setting(table.plain<F>("setConsoleFiles", &inProgram<&S::consoleFiles>, {"checked"}), "Console Files");
+    table.attribute<F>("setDesign", &F::setDesign, &F::getDesign, {"design"})
+        .attrName("Design")
+        .category("Execution Settings")
+        .data();
     declareRules(table);
     table
         .member<F>(

@@ -1,13 +1,16 @@
 #include "host/run/FPathManager.h"
 
+#include "host/core/FChanges.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FDesign.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FRunRelocation.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QObject>
 #include <QTemporaryDir>
 
 #include <utility>
@@ -21,6 +24,15 @@ QString temporaryPlace() {
 }
 
 }  // namespace
+
+FPathManager::FPathManager() {
+    QObject::connect(FChanges::instance(), &FChanges::projectSaved, [this] { moveTemporaryRuns(); });
+}
+
+const QString& FPathManager::baseline() {
+    static const QString name = QStringLiteral("baseline");
+    return name;
+}
 
 FPathManager* FPathManager::instance() {
     static FPathManager manager;
@@ -47,13 +59,32 @@ QString FPathManager::resultsRoot() {
         mTemporaryRoot = folder.path();
         FLogMsg::info(QStringLiteral("merix"),
                       QStringLiteral("The project has no file yet; the folder of its runs is %1").arg(mTemporaryRoot),
-                      QStringLiteral("the folder is kept after exit; remove it when you no longer need it"));
+                      QStringLiteral("The folder is kept after exit; remove it when you no longer need it"));
     }
     return mTemporaryRoot;
 }
 
+bool FPathManager::hasRoot() const {
+    return !mTemporaryRoot.isEmpty() || !FMerixCtrl::instance()->getProjectFile().isEmpty();
+}
+
+void FPathManager::moveTemporaryRuns() {
+    if (!mTemporaryRoot.isEmpty()) {
+        FRunRelocation(mTemporaryRoot, resultsRoot()).moveAll();
+    }
+    if (!QDir(mTemporaryRoot).exists()) {
+        mTemporaryRoot.clear();
+    }
+}
+
+void FPathManager::runMoved(const QString& from, const QString& to) {
+    if (mLastRunFolder == from) {
+        mLastRunFolder = to;
+    }
+}
+
 QString FPathManager::designDir(const FDesign* design) {
-    return resultsRoot() + QLatin1Char('/') + (design ? design->getName() : QStringLiteral("baseline"));
+    return resultsRoot() + QLatin1Char('/') + (design ? design->getName() : baseline());
 }
 
 QString FPathManager::currentRunFolder() {

@@ -22,6 +22,11 @@ class MERIX_EXPORT FPathManager {
  public:
     static FPathManager* instance();
 
+    /** Name of the folder of the runs without a design. */
+    static const QString& baseline();
+
+    /** Whether the root of the results is known, so that no call creates a temporary folder. */
+    bool hasRoot() const;
     /** Folder of the project's file, or the current folder if it has no file; without a slash at its end. */
     static QString getProjectDir();
     /** Folder of a design, or of the current run's design; without a slash at its end. */
@@ -39,12 +44,16 @@ class MERIX_EXPORT FPathManager {
     QString getEarlierDir(const QString& computation, const FExpr<FDesign>& design);
     /** A run in that folder, given with a slash at its end, is being started: it is the last one from now on. */
     void setLastRun(const QString& folder) { mLastRunFolder = folder; }
+    /** The files of a run have moved; both with a slash at the end. */
+    void runMoved(const QString& from, const QString& to);
     /** Folder of the examples that come with the program; the home folder if there is none. */
     QString getSamplesDir() const;
 
  private:
     friend class FRunScope;
 
+    FPathManager();
+    void moveTemporaryRuns();
     QString resultsRoot();
     QString designDir(const FDesign* design);
     QString currentRunFolder();

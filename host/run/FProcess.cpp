@@ -125,6 +125,7 @@ QStringList FProcess::supervisorArguments() const {
     QStringList result{QString::number(milliseconds(mSetup.timeLimit)),
                        QString::number(milliseconds(mSetup.grace)),
                        mSetup.workingFolder,
+                       mSetup.lockFile,
                        fileOrNull(mSetup.standardInputFile),
                        fileOrNull(mSetup.standardOutputFile),
                        fileOrNull(mSetup.standardErrorFile),
@@ -154,7 +155,7 @@ void FProcess::takeEvent(const QStringList& event) {
         mOutcome.processId = event[1].toLongLong();
         mOutcome.start = timeOf(event[2]);
         emit started();
-    } else if (kind == QLatin1String("ended") && event.size() == 6) {
+    } else if (kind == QLatin1String("ended") && event.size() == 7) {
         mIsReported = true;
         takeEnd(event);
     }
@@ -179,6 +180,8 @@ void FProcess::takeEnd(const QStringList& event) {
     mOutcome.message = FProcessText::ending(mSetup, mOutcome);
     if (const int count = event[5].toInt(); count > 0) {
         mOutcome.message = (mOutcome.message + ' ' + FProcessText::remaining(mOutcome.program, count)).trimmed();
+    } else if (const int terminated = event[6].toInt(); terminated > 0) {
+        mOutcome.message = (mOutcome.message + ' ' + FProcessText::terminated(mOutcome.program, terminated)).trimmed();
     }
 }
 

@@ -16,9 +16,11 @@ struct MERIX_EXPORT FProcessOutcome {
         Signal,
         ExitCode,     //!< not among those of a success
         TextRule,     //!< of a run: a rule about a text in a file is broken
-        FileMissing,  //!< of a run: the program succeeded, but didn't write a file that results are read from
+        FileMissing,  //!< of a run: the program succeeded, but didn't write a file that results are read from, or not
+                      //!< an ordinary one
         NumberRule,   //!< of a run: a rule about the numbers that were read is broken
         Cancelled,    //!< by FProcess::cancel(), or by a signal to the supervisor
+        Interrupted,  //!< of a run: merix ended during it, so no end is recorded
     };
 
     Cause cause = Cause::None;

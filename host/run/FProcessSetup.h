@@ -18,6 +18,8 @@ struct MERIX_EXPORT FProcessSetup {
     QString standardOutputFile;  //!< created or emptied at the start; empty: output is discarded
     QString standardErrorFile;   //!< likewise; may be the file of the standard output
     QList<int> exitCodes{0};     //!< those of a success
-    double timeLimit = 0;        //!< seconds from the start of the program; 0 is no limit
-    double grace = 5;            //!< seconds between SIGTERM and SIGKILL
+    /** Locked until the program and its descendants have ended (see FRunLock); its folder must exist. Empty: none. */
+    QString lockFile;
+    double timeLimit = 0;  //!< seconds from the start of the program; 0 is no limit
+    double grace = 5;      //!< seconds between SIGTERM and SIGKILL
 };

@@ -132,6 +132,12 @@ QString FProcessText::startFailure(const FProcessSetup& setup, const QString& pr
         return fileFailure(setup, program, QStringLiteral("the file of its error output"), setup.standardErrorFile,
                            errorNumber);
     }
+    if (step == QLatin1String("lock")) {
+        return QStringLiteral(
+                   "The program '%1' was not started: '%2', which shows that its folder is in use, can't be "
+                   "locked (%3). Wait until the program that runs in that folder has ended.")
+            .arg(program, setup.lockFile, reasonOfSystem(errorNumber));
+    }
     return executionFailure(program, errorNumber);
 }
 
@@ -160,5 +166,12 @@ QString FProcessText::remaining(const QString& program, int count) {
     return QStringLiteral(
                "Some processes of '%1' could not be killed (number: %2) and may still write files. End them "
                "manually.")
+        .arg(program, QString::number(count));
+}
+
+QString FProcessText::terminated(const QString& program, int count) {
+    return QStringLiteral(
+               "'%1' ended, but had left processes running, which were terminated (number: %2). Files that they were "
+               "writing may be incomplete. Let the program wait for the processes that it starts.")
         .arg(program, QString::number(count));
 }

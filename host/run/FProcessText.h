@@ -29,4 +29,7 @@ QString supervisorLost(const QString& program);
 /** Some processes of the program could not be killed. */
 QString remaining(const QString& program, int count);
 
+/** Processes that the program had left running when it ended were terminated. */
+QString terminated(const QString& program, int count);
+
 }  // namespace FProcessText

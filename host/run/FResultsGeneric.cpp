@@ -69,7 +69,8 @@ void FResultsGeneric::report() const {
     mIsReported = true;
     warnOfFailedRun();
     const FExpr<FExternComputation> computation = getComputation();
-    const bool hasFailed = getRun() && !getRun()->isSuccess();
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    const bool hasFailed = run && !run->isSuccess();
     const FNumberFlags accepted = computation ? FNumberCheck::accepted(computation->getSuccessRules()) : FNumberFlags();
     for (int i = 0; i < mTables.size(); ++i) {
         FValueReport::log(*mTables[i].ptr(), computation ? computation->getName() : getName(), hasFailed, accepted,
@@ -78,12 +79,17 @@ void FResultsGeneric::report() const {
 }
 
 bool FResultsGeneric::readSilently() const {
-    if (mReading || !FComputationResults::prepareResults()) {
+    if (mReading) {
         return false;
     }
-    if (!mFilesRead && !mDetached) {
-        readAll();
+    // Without the files, what was read of them remains.
+    if (mFilesRead || mDetached) {
+        return true;
     }
+    if (!FComputationResults::prepareResults()) {
+        return false;
+    }
+    readAll();
     return true;
 }
 
@@ -97,13 +103,15 @@ void FResultsGeneric::readOutputFiles() const {
 }
 
 void FResultsGeneric::warnOfFailedRun() const {
-    if (mWarned || !getRun() || getRun()->isSuccess()) {
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    if (mWarned || !run || run->isSuccess()) {
         return;
     }
     mWarned = true;
-    FLogMsg::warning(getRun()->computation,
+    const bool isInterrupted = run->cause == FRunRecord::Cause::Interrupted;
+    FLogMsg::warning(run->computation,
                      QStringLiteral("The results in %1 come from a run that failed (%2)")
-                         .arg(getResultPath(), getRun()->stateName()),
+                         .arg(getResultPath(), isInterrupted ? QStringLiteral("interrupted") : run->stateName()),
                      QStringLiteral("values that the run didn't write are NaN"));
 }
 
@@ -113,6 +121,10 @@ void FResultsGeneric::detachFromFiles() {
         readAll();
     }
     mDetached = true;
+}
+
+QString FResultsGeneric::getResultPath() const {
+    return mDetached ? QString() : FComputationResults::getResultPath();
 }
 
 void FResultsGeneric::becameOutOfDate() const {
@@ -175,7 +187,8 @@ QString FResultsGeneric::getResultFileName(const QString& entry) const {
             name = entry;
         }
     }
-    return name.isEmpty() || FSafePath::leadsOut(name) ? QString() : getResultPath() + name;
+    const QString folder = getResultPath();
+    return name.isEmpty() || folder.isEmpty() || FSafePath::leadsOut(name) ? QString() : folder + name;
 }
 
 const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {

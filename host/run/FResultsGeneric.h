@@ -31,6 +31,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
      */
     bool prepareResults() const override;
     void detachFromFiles() override;
+    /** Empty if the files are gone. */
+    QString getResultPath() const override;
 
     /** Appends a table of that size, filled with NaN. Tables may have equal names. */
     FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
@@ -53,7 +55,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
     /** Kind of a file by the suffix of its name, in any case; `Any` for other suffixes. */
     static ResultsFileType getResultsFileType(const QString& name);
-    /** Path of one of these files, given by its entry's path or its name; empty if there is none. */
+    /** Path of one of these files, given by its entry's path or its name; empty if there is none or the
+     *  files of the run are gone. */
     QString getResultFileName(const QString& entry) const;
     /** Objects that file imports created, by the name of the value. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const;

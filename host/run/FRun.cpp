@@ -1,9 +1,9 @@
 #include "host/run/FRun.h"
 
 #include "host/run/FCauseLines.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FTextCheck.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 using Cause = FRunRecord::Cause;
@@ -66,7 +66,7 @@ void FRun::takeOutcome(const FProcessOutcome& outcome) {
     static_cast<FProcessOutcome&>(*mRecord) = outcome;
     if (outcome.start.isValid() && mRecord->cause != Cause::Cancelled) {
         checkTexts();
-        findMissingFiles();
+        checkFiles();
         keepCauseLines();
     }
     conclude();
@@ -100,27 +100,25 @@ void FRun::keepCauseLines() {
     mRecord->causeLines = lines.toText();
 }
 
-QString FRun::missingFiles(const QString& folder, const QStringList& files) {
-    QStringList missing;
-    for (const QString& file : files) {
-        if (!QFileInfo::exists(folder + file)) {
-            missing.append(QLatin1Char('\'') + file + QLatin1Char('\''));
-        }
+void FRun::checkFiles() {
+    const FResultFiles files(mRecord->folder, mReadFiles);
+    const bool isSuccess = mRecord->cause == Cause::None;
+    const QString start = isSuccess ? QStringLiteral("'%1' succeeded, but ").arg(mRecord->program) : QString();
+    const QString it = isSuccess ? QString() : QStringLiteral("It ");
+    if (const QString missing = files.missing(); !missing.isEmpty()) {
+        mRecord->addCause(Cause::FileMissing, start + it + QStringLiteral("didn't write %1.").arg(missing),
+                          similarFiles() + QStringLiteral("Check the file name of the result template, and the output "
+                                                          "of the program."));
     }
-    return missing.join(QStringLiteral(", "));
-}
-
-void FRun::findMissingFiles() {
-    const QString missing = missingFiles(mRecord->folder, mReadFiles);
-    if (missing.isEmpty()) {
-        return;
+    if (const QString unreadable = files.unreadable(); !unreadable.isEmpty()) {
+        mRecord->addCause(Cause::FileMissing, start + QStringLiteral("%1 can't be read.").arg(unreadable),
+                          QStringLiteral("Check the file name of the result template."));
     }
-    const QString what = mRecord->cause == Cause::None
-                             ? QStringLiteral("'%1' succeeded, but didn't write %2.").arg(mRecord->program, missing)
-                             : QStringLiteral("It didn't write %1.").arg(missing);
-    mRecord->addCause(Cause::FileMissing, what,
-                      similarFiles() + QStringLiteral("Check the file name of the result template, and the output of "
-                                                      "the program."));
+    if (const QString empty = files.empty(); mRecord->cause == Cause::None && !empty.isEmpty()) {
+        const QString warning =
+            start + QStringLiteral("wrote nothing to %1. The values of that file are NaN.").arg(empty);
+        mRecord->message = (mRecord->message + QLatin1Char(' ') + warning).trimmed();
+    }
 }
 
 QString FRun::similarFiles() const {

@@ -24,14 +24,13 @@ class FRun : public QObject {
     FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles,
          const FSuccessRules& rules);
 
-    /** The files that are missing in the folder, quoted for a message; empty if none is. */
-    static QString missingFiles(const QString& folder, const QStringList& files);
-
     const FRunRecord& record() const { return *mRecord; }
     /** The same record for results to keep; it is updated during the run. */
     std::shared_ptr<const FRunRecord> sharedRecord() const { return mRecord; }
 
     void startWriting() { mRecord->state = FRunRecord::State::Writing; }
+    /** The input is written; notes what it was made of. */
+    void setSetUp(const QMap<QString, QString>& setUp) { mRecord->setUp = setUp; }
     /** Ends the run before its program was started. */
     void fail(FRunRecord::Cause cause, const QString& message);
     /** Starts the program. False if the run was cancelled before; it then ends without the program. */
@@ -50,7 +49,7 @@ class FRun : public QObject {
  private:
     void takeOutcome(const FProcessOutcome& outcome);
     void checkTexts();
-    void findMissingFiles();
+    void checkFiles();
     /** A sentence about written files with names similar to those of missing ones; empty if there are none. */
     QString similarFiles() const;
     void keepCauseLines();

@@ -4,8 +4,9 @@
 #include "host/run/FExternComputation.h"
 #include "host/run/FNumberCheck.h"
 #include "host/run/FPathManager.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultsGeneric.h"
-#include "host/script/FProject.h"
+#include "host/run/FRunLock.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -14,26 +15,29 @@ using Cause = FRunRecord::Cause;
 
 namespace {
 
-/** The process that owns the project's runs, unless it is this one or has ended. */
-QString holderOfProject() {
-    FProject::instance()->takeOverIfFree();
-    return FProject::instance()->getHolder();
+/** More than the supervisor needs to terminate the program of a killed process. */
+constexpr int longestWait = 12'000;
+
+FProcessSetup withLock(FProcessSetup setup, const QString& earlier) {
+    setup.lockFile = FRunFolder::lockFile(earlier);
+    return setup;
 }
 
 }  // namespace
 
 FRunAttempt::FRunAttempt(FExternComputation* computation, const FProcessSetup& setup, const QString& earlier,
-                         const QStringList& readFiles)
+                         const QStringList& readFiles, const QStringList& further)
     : mKeep(computation),
       mComputation(computation),
-      mRun(computation->getName(), setup, readFiles, computation->getSuccessRules()),
-      mHolder(holderOfProject()),
+      mRun(computation->getName(), withLock(setup, earlier), readFiles, computation->getSuccessRules()),
       mEarlier(earlier),
       mReadFiles(readFiles),
+      mFurtherFiles(further),
       mRules(computation->getSuccessRules()),
       mInterruptLine(computation->getName(), QStringLiteral("Interrupted while its run was in progress"),
                      QStringLiteral("Its unfinished files are in '%1'").arg(record()->folder)),
-      mFolder(setup.workingFolder, earlier) {
+      mFolder(setup.workingFolder, earlier),
+      mStore(earlier) {
     connect(&mRun, &FRun::ended, this, &FRunAttempt::finish);
 }
 
@@ -51,8 +55,8 @@ bool FRunAttempt::execute(bool wait) {
 void FRunAttempt::start() {
     FPathManager::instance()->setLastRun(record()->folder);
     const FRunScope scope(record()->folder);
-    // Files of another process's run must not be moved.
-    if (mHolder.isEmpty()) {
+    mRefusal = findRefusal();
+    if (mRefusal.isEmpty()) {
         FComputationResults::followFiles(record()->folder, mEarlier + QLatin1Char('/'));
     }
     mRun.startWriting();
@@ -66,6 +70,25 @@ void FRunAttempt::start() {
     }
 }
 
+// Files of another process's run must not be moved.
+QString FRunAttempt::findRefusal() {
+    const QString holder = FExternComputation::getHolderOfRuns();
+    if (!holder.isEmpty()) {
+        return QStringLiteral(
+                   "The project is open elsewhere (%1), and its runs there use the same folder. Wait until it is "
+                   "closed there, or save it under another name before you run it here.")
+            .arg(holder);
+    }
+    if (!FRunLock(FRunFolder::lockFile(mEarlier)).waitUntilFree(longestWait)) {
+        return QStringLiteral(
+                   "A program of another run is still running in the folder '%1' and may write files there. End it, or "
+                   "wait for its end.")
+            .arg(record()->folder);
+    }
+    const QString fault = FResultFiles(record()->folder, mReadFiles).faultOfNames();
+    return fault.isEmpty() ? mFolder.fault(mReadFiles + mFurtherFiles) : fault;
+}
+
 QString FRunAttempt::writeInput(FComputationResults* results) {
     const QString problem = mComputation->prepareRun();
     if (!problem.isEmpty()) {
@@ -73,27 +96,35 @@ QString FRunAttempt::writeInput(FComputationResults* results) {
         results->setResultPath(QString());
         return problem;
     }
-    if (!mComputation->copyInputFiles(record()->folder) || !mComputation->doExports() ||
-        !mComputation->writeOutputFile()) {
-        return QStringLiteral(
-            "The input files of the run could not be written; see the messages above for the reason.");
+    const bool isCopied = mComputation->copyInputFiles(record()->folder) && mComputation->doExports();
+    if (!isCopied || !mComputation->writeOutputFile()) {
+        const QString reason = isCopied ? mComputation->getInputFault() : QString();
+        return reason.isEmpty()
+                   ? QStringLiteral(
+                         "The input files of the run could not be written; see the messages above for the reason.")
+                   : QStringLiteral("The input files of the run could not be written: %1.").arg(reason);
     }
     mRun.noteChangedInput(mComputation->compareInput());
+    mRun.setSetUp(mComputation->describeSetUp());
     return {};
 }
 
 QString FRunAttempt::makeRoom() {
-    if (!mHolder.isEmpty()) {
-        return QStringLiteral(
-                   "The project is open elsewhere (%1), and its runs there use the same folder. Wait until it is "
-                   "closed there, or save it under another name before you run it here.")
-            .arg(mHolder);
+    if (!mRefusal.isEmpty()) {
+        return mRefusal;
     }
     QString reason;
-    mFolder.moveAside(
-        mReadFiles + mRules.textFiles() + QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()},
-        reason);
-    return reason;
+    const QStringList named = mReadFiles + mFurtherFiles + mRules.textFiles() +
+                              QStringList{FProgramSettings::outputFile(), FProgramSettings::errorFile()};
+    mHasRoom = mFolder.moveAside(named, reason);
+    if (const int count = mFolder.leftByInterruption(); count > 0) {
+        FLogMsg::warning(record()->computation,
+                         QStringLiteral("The last run in '%1' was interrupted; what wasn't there before it (%2) is "
+                                        "moved to '%3'")
+                             .arg(record()->folder, QStringLiteral("entries: %1").arg(count), mEarlier),
+                         QStringLiteral("If it includes a file of yours, move it back before the next run"));
+    }
+    return mHasRoom ? mStore.write(*record()) : reason;
 }
 
 bool FRunAttempt::startProgram() {
@@ -118,6 +149,7 @@ void FRunAttempt::finish() {
         mComputation->applyOutputHandles(results);
     }
     const FResultsGeneric* read = checkNumbers(results);
+    store();
     report();
     if (read) {
         read->reportReading();
@@ -136,6 +168,13 @@ const FResultsGeneric* FRunAttempt::checkNumbers(const FComputationResults* resu
     }
     mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->tables()));
     return tables;
+}
+
+void FRunAttempt::store() const {
+    const QString problem = mHasRoom ? mStore.write(*record()) : QString();
+    if (!problem.isEmpty()) {
+        FLogMsg::warning(record()->computation, problem);
+    }
 }
 
 void FRunAttempt::report() const {

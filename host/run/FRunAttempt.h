@@ -4,6 +4,7 @@
 #include "host/run/FInterruptLine.h"
 #include "host/run/FRun.h"
 #include "host/run/FRunFolder.h"
+#include "host/run/FRunStore.h"
 
 class FComputationResults;
 class FExternComputation;
@@ -18,10 +19,11 @@ class FRunAttempt : public QObject {
     /**
      * @param setup      how the program is started; its working folder is the folder of the run
      * @param earlier    folder for the files of the run before, without a slash at its end
-     * @param readFiles  files in the folder that results are read from
+     * @param readFiles  files in the folder that results are read from: the program has to write them
+     * @param further    other files in the folder that must not be those of an earlier run
      */
     FRunAttempt(FExternComputation* computation, const FProcessSetup& setup, const QString& earlier,
-                const QStringList& readFiles);
+                const QStringList& readFiles, const QStringList& further);
 
     std::shared_ptr<const FRunRecord> record() const { return mRun.sharedRecord(); }
 
@@ -39,20 +41,26 @@ class FRunAttempt : public QObject {
 
  private:
     void start();
+    QString findRefusal();
     QString writeInput(FComputationResults* results);
     void finish();
     /** Returns what was read for the check; null if no rule needs numbers. */
     const FResultsGeneric* checkNumbers(const FComputationResults* results);
+    /** Keeps the record, which is complete, for a later process. */
+    void store() const;
     void report() const;
 
     FExprBase mKeep;  // an FExpr of a computation that has left the model is null
     FExternComputation* mComputation;
     FRun mRun;
-    QString mHolder;  // another process that uses the folder; empty if there is none
+    QString mRefusal;  // why nothing in the folder may be touched; empty if nothing prevents the run
     QString mEarlier;
     QStringList mReadFiles;
+    QStringList mFurtherFiles;
     FSuccessRules mRules;
     FInterruptLine mInterruptLine;
     FRunFolder mFolder;
+    FRunStore mStore;
+    bool mHasRoom = false;    // the files of the run before were moved aside
     bool mIsStarted = false;  // computationStarted was called
 };

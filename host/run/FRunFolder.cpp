@@ -2,6 +2,7 @@
 
 #include "host/run/FSafePath.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -26,23 +27,58 @@ bool isThere(const QFileInfo& entry) {
 }  // namespace
 
 FRunFolder::FRunFolder(const QString& folder, const QString& earlier)
-    : mFolder(QDir::cleanPath(folder) + QLatin1Char('/')), mEarlier(QDir::cleanPath(earlier) + QLatin1Char('/')) {}
+    : mFolder(QDir::cleanPath(folder) + QLatin1Char('/')), mEarlier(QDir::cleanPath(earlier)) {}
 
-QHash<QString, FRunFolder::Stamp> FRunFolder::list() const {
-    QHash<QString, Stamp> entries;
+// ---- the state of the folder ----
+
+FRunFolder::Entries FRunFolder::list() const {
+    Entries entries;
     QDirIterator walk(mFolder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                       QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString name = walk.next().mid(mFolder.size());
         const QFileInfo entry = walk.fileInfo();
-        // A folder's time changes with its contents; only its existence counts.
-        entries.insert(name, isFolder(entry) ? Stamp{-1, {}} : Stamp{entry.size(), entry.lastModified()});
+        entries.insert(name,
+                       isFolder(entry) ? Stamp{-1, 0} : Stamp{entry.size(), entry.lastModified().toMSecsSinceEpoch()});
+    }
+    return entries;
+}
+
+QStringList FRunFolder::changes(const Entries& before, const Entries& now) {
+    QStringList names;
+    for (auto entry = now.begin(); entry != now.end(); ++entry) {
+        const auto known = before.find(entry.key());
+        if (known == before.end() || !(*known == *entry)) {
+            names.append(entry.key());
+        }
+    }
+    return names;
+}
+
+// Three texts for each entry: name, size, time.
+QString FRunFolder::writeBefore() const {
+    QByteArrayList texts;
+    for (auto entry = mBefore->begin(); entry != mBefore->end(); ++entry) {
+        texts << entry.key().toUtf8() << QByteArray::number(entry->size) << QByteArray::number(entry->changed);
+    }
+    return FSafePath::replace(beforeFile(mEarlier), texts.join(separator));
+}
+
+std::optional<FRunFolder::Entries> FRunFolder::readBefore() const {
+    QFile file(beforeFile(mEarlier));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QByteArrayList texts = file.readAll().split(separator);
+    Entries entries;
+    for (int at = 0; at + 2 < texts.size(); at += 3) {
+        entries.insert(QString::fromUtf8(texts[at]), {texts[at + 1].toLongLong(), texts[at + 2].toLongLong()});
     }
     return entries;
 }
 
 QStringList FRunFolder::readNotes() const {
-    QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
+    QFile notes(notesFile(mEarlier));
     if (!notes.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -53,37 +89,64 @@ QStringList FRunFolder::readNotes() const {
     return names;
 }
 
-// If one of these folders were a link, the folder that it points to would be emptied.
-void FRunFolder::emptyEarlier() const {
-    const QString earlier = QDir::cleanPath(mEarlier);
-    if (FSafePath::removeLink(QFileInfo(earlier).path()) && FSafePath::removeLink(earlier)) {
-        QDir(earlier).removeRecursively();
+QStringList FRunFolder::leftBehind() {
+    mLeftByInterruption = 0;
+    const std::optional<Entries> before = readBefore();
+    if (!before) {
+        return readNotes();
+    }
+    const QStringList unknown = changes(*before, list());
+    mLeftByInterruption = unknown.size();
+    return unknown;
+}
+
+void FRunFolder::noteLeft() const {
+    if (!mBefore) {
+        return;
+    }
+    QByteArrayList names;
+    for (const QString& name : changes(*mBefore, list())) {
+        names.append(name.toUtf8());
+    }
+    // As long as the state before the run is there, the next run takes this one as interrupted.
+    if (FSafePath::replace(notesFile(mEarlier), names.join(separator)).isEmpty()) {
+        QFile::remove(beforeFile(mEarlier));
     }
 }
 
-bool FRunFolder::staysInside(const QStringList& named, QString& reason) const {
+// ---- before a run ----
+
+// If one of these folders were a link, the folder that it points to would be emptied.
+void FRunFolder::emptyEarlier() const {
+    if (FSafePath::removeLink(QFileInfo(mEarlier).path()) && FSafePath::removeLink(mEarlier)) {
+        QDir(mEarlier).removeRecursively();
+    }
+}
+
+QString FRunFolder::fault(const QStringList& named) const {
     const QFileInfo folder(QDir::cleanPath(mFolder));
-    if (folder.isSymLink()) {
-        reason = QStringLiteral(
-                     "The folder of the run, '%1', is a link to '%2', whose files would be moved and replaced. "
-                     "Remove the link.")
-                     .arg(folder.filePath(), folder.symLinkTarget());
-        return false;
+    for (const QFileInfo& level : {folder, QFileInfo(folder.path())}) {
+        if (level.isSymLink()) {
+            return QStringLiteral(
+                       "The folder of the run, '%1', is a link to '%2', whose files would be moved and replaced. "
+                       "Remove the link.")
+                .arg(level.filePath(), level.symLinkTarget());
+        }
     }
     const auto out = std::find_if(named.begin(), named.end(), [this](const QString& name) {
         return !FSafePath::leadsOut(name) && FSafePath::leadsOut(mFolder, name);
     });
-    if (out == named.end()) {
-        return true;
-    }
-    reason = QStringLiteral(
-                 "'%1' would be outside the folder of the run, '%2': a folder in its path is a link. Remove the link.")
-                 .arg(*out, mFolder);
-    return false;
+    return out == named.end()
+               ? QString()
+               : QStringLiteral(
+                     "'%1' would be outside the folder of the run, '%2': a folder in its path is a link. "
+                     "Remove the link.")
+                     .arg(*out, mFolder);
 }
 
 bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
-    if (!staysInside(named, reason)) {
+    reason = fault(named);
+    if (!reason.isEmpty()) {
         return false;
     }
     emptyEarlier();
@@ -92,8 +155,24 @@ bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
                      .arg(mFolder);
         return false;
     }
+    if (!moveAll(named + leftBehind(), reason)) {
+        return false;
+    }
+    mBefore = list();
+    const QString problem = writeBefore();
+    if (!problem.isEmpty()) {
+        mBefore.reset();
+        reason = QStringLiteral(
+                     "The state of the folder '%1' can't be recorded in '%2' (%3). Make room on the disk, "
+                     "or check the permissions.")
+                     .arg(mFolder, beforeFile(mEarlier), problem);
+    }
+    return problem.isEmpty();
+}
+
+bool FRunFolder::moveAll(const QStringList& names, QString& reason) const {
     QStringList folders;
-    for (const QString& name : named + readNotes()) {
+    for (const QString& name : names) {
         const QFileInfo entry(mFolder + name);
         if (name.isEmpty() || FSafePath::leadsOut(mFolder, name) || !isThere(entry)) {
             continue;
@@ -105,12 +184,11 @@ bool FRunFolder::moveAside(const QStringList& named, QString& reason) {
         }
     }
     removeEmptyFolders(folders);
-    mBefore = list();
     return true;
 }
 
 bool FRunFolder::moveFile(const QString& name, QString& reason) const {
-    const QString target = mEarlier + name;
+    const QString target = mEarlier + QLatin1Char('/') + name;
     QFile file(mFolder + name);
     if (QDir().mkpath(QFileInfo(target).path()) && file.rename(target)) {
         return true;
@@ -127,25 +205,5 @@ void FRunFolder::removeEmptyFolders(QStringList folders) const {
     std::sort(folders.begin(), folders.end(), std::greater<>());
     for (const QString& folder : qAsConst(folders)) {
         QDir().rmdir(mFolder + folder);
-    }
-}
-
-void FRunFolder::noteLeft() const {
-    if (!mBefore) {
-        return;
-    }
-    QByteArrayList names;
-    const QHash<QString, Stamp> now = list();
-    for (auto entry = now.begin(); entry != now.end(); ++entry) {
-        const auto before = mBefore->find(entry.key());
-        if (before == mBefore->end() || !(*before == *entry)) {
-            names.append(entry.key().toUtf8());
-        }
-    }
-    // Not with QSaveFile, which waits for the disk: that takes longer than many runs, and an incomplete list does no
-    // harm.
-    QFile notes(QDir::cleanPath(mEarlier) + QStringLiteral(".left"));
-    if (QDir().mkpath(QFileInfo(notes.fileName()).path()) && FSafePath::openForWriting(notes)) {
-        notes.write(names.join(separator));
     }
 }

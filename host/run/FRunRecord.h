@@ -3,6 +3,7 @@
 #include "host/core/FExport.h"
 #include "host/run/FProcessOutcome.h"
 
+#include <QMap>
 #include <QStringList>
 
 /** One attempt to run the program of a computation: its state, and how the program ended. */
@@ -29,4 +30,6 @@ struct MERIX_EXPORT FRunRecord : FProcessOutcome {
     QStringList furtherCauses;  //!< sentences
     QString causeLines;         //!< lines of the program's output that best show why it failed
     QString remedy;             //!< of the cause, apart from what its message says
+    /** What the input was made of, by name (see FExternComputation::describeSetUp); empty if it wasn't written. */
+    QMap<QString, QString> setUp;
 };

@@ -1,10 +1,16 @@
 #include "host/run/FSafePath.h"
 
+#include "host/core/FSavedFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 
 bool FSafePath::leadsOut(const QString& fileName) {
     if (!fileName.contains(QLatin1String(".."))) {
@@ -49,4 +55,23 @@ bool FSafePath::openForWriting(QFile& file) {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     return file.open(mode | QIODevice::NewOnly) ||
            (removeLink(file.fileName()) && file.open(mode | QIODevice::Truncate));
+}
+
+// Replacing the file by QFile would remove the old one first.
+QString FSafePath::replace(const QString& path, const QByteArray& bytes) {
+    QFile file(path + QStringLiteral(".new"));
+    QDir().mkpath(QFileInfo(path).path());
+    if (!openForWriting(file)) {
+        return file.errorString();
+    }
+    const bool isWritten = file.write(bytes) == bytes.size();
+    const QString reason = isWritten ? QString() : FSavedFile::reasonOf(file);
+    file.close();
+    if (isWritten &&
+        std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) == 0) {
+        return {};
+    }
+    const int error = errno;
+    file.remove();
+    return isWritten ? QString::fromLocal8Bit(std::strerror(error)) : reason;
 }

@@ -22,4 +22,10 @@ class MERIX_EXPORT FSafePath {
      * Opens a file in an existing folder for writing, empty and unbuffered, after `removeLink`. False if that fails.
      */
     static bool openForWriting(QFile& file);
+    /**
+     * Puts a file of this program in place in one step, and creates its folder. Unlike FSavedFile, it doesn't wait for
+     * the disk, so it protects from a crash of the program but not from a power failure. A link is replaced. Returns
+     * the reason of a failure; the old file is then unchanged.
+     */
+    static QString replace(const QString& path, const QByteArray& bytes);
 };

@@ -2,6 +2,8 @@
 
 #include <locale.h>
 
+#include <csignal>
+
 namespace {
 
 class RunTest : public FProgramTest {
@@ -55,6 +57,61 @@ TEST_F(RunTest, stateCodeAndNumberTellHowTheProgramEnded) {
     EXPECT_EQ(read(runFile("stdout.txt")).size(), 20'000'000);
 
     EXPECT_EQ(script(mSetUp + withScript("exit 3") + "if (!comp.run()) { exit(comp.getExitCode()) }").exitCode, 3);
+}
+
+TEST_F(RunTest, whatAnInterruptedRunWroteIsNeverRead) {
+    const QString declare =
+        QString(mSetUp).replace(".setFiles", ".addEntry(\"cp\", resultsFileName(\"cp.dat\")); .setFiles");
+    ASSERT_EQ(script(declare + "saveProject(\"k.mrx\")").exitCode, 0);
+    const QString open = "openProject(\"k.mrx\")\n";
+    for (const int signal : {SIGINT, SIGTERM, SIGKILL}) {
+        write("killed.merix", (open +
+                               withScript("trap '' TERM; echo f 6 > out.dat; echo 6 > cp.dat; echo f 6 > restart; "
+                                          "sleep 100 & wait; sleep 100") +
+                               "comp.run()\n")
+                                  .toUtf8());
+        QProcess killed;
+        start(killed, {"script", "killed.merix"});
+        for (int wait = 0; wait < 1000 && !has("k.results/baseline/comp/restart"); ++wait) {
+            killed.waitForFinished(10);
+        }
+        ASSERT_TRUE(has("k.results/baseline/comp/restart"));
+        ::kill(static_cast<pid_t>(killed.processId()), signal);
+        ASSERT_TRUE(killed.waitForFinished());
+        const Outcome next =
+            script(open + "print(comp.getState())\n" + withScript("cp restart out.dat; ls; exit 0") +
+                   "print(comp.run(), " + mNumber + ", readText(comp.getWorkingPath() + \"cp.dat\"))\n" +
+                   withScript("echo f 7 > out.dat") + "print(comp.run(), " + mNumber + ")\n");
+        EXPECT_TRUE(next.output == "running\nfalse NaN NULL\ntrue 7\n" ||
+                    next.output == "failed\nfalse NaN NULL\ntrue 7\n")
+            << signal << next.output.toStdString() << next.errors.toStdString();
+        EXPECT_TRUE(next.errors.contains("was interrupted; what wasn't there before it")) << next.errors.toStdString();
+    }
+}
+
+TEST_F(RunTest, theFirstSaveTakesTheRunsAlong) {
+    const Outcome saved = script(mSetUp + withScript("echo f 7 > out.dat") +
+                                 "comp.run(); r = comp.getResults()\nsaveProject(\"beam.mrx\")\n"
+                                 "print(comp.getWorkingPath(), " +
+                                 mNumber + ")\n");
+    EXPECT_TRUE(saved.output.endsWith("beam.results/baseline/comp/ 7\n")) << saved.output.toStdString();
+    EXPECT_TRUE(QDir(path()).entryList({"merix-*"}, QDir::Dirs).isEmpty()) << "nothing stays in the temporary folder";
+    const Outcome reread = script("openProject(\"beam.mrx\")\nprint(comp.rereadResults(), comp.getState(), " + mNumber +
+                                  ")\ncomp.setArguments([])\nprint(comp.getResults().getState())\n");
+    EXPECT_EQ(reread.output,
+              "true finished 7\nfinished, of an earlier set-up (arguments was -c echo f 7 > out.dat, is empty)\n")
+        << reread.errors.toStdString();
+}
+
+TEST_F(RunTest, resultsOfADesignAreSavedAndReadBack) {
+    const QString loop = "design d1(); design d2()\n" + withScript("echo f 1 > out.dat") +
+                         "comp.setDesign(d1); comp.run()\n" + withScript("echo f 2 > out.dat") +
+                         "comp.setDesign(d2); comp.run()\nsaveProject(\"s.mrx\")\n";
+    ASSERT_EQ(script(mSetUp + loop).exitCode, 0);
+    const Outcome read = script("openProject(\"s.mrx\")\nprint(" + mNumber + ")\ncomp.setDesign(d1)\nprint(" + mNumber +
+                                ", comp.getState())\n");
+    EXPECT_EQ(read.output, "2\n1 finished\n") << read.errors.toStdString();
+    EXPECT_EQ(read.errors, "");
 }
 
 TEST_F(RunTest, theLocaleChangesNothing) {

@@ -20,10 +20,11 @@ void addProcess(const std::filesystem::path& folder, Children& children) {
     std::string line;
     std::getline(file, line);
     const std::size_t name = line.rfind(')');
+    char state = 0;
     int parent = 0;
     int group = 0;
-    if (name != std::string::npos && std::sscanf(line.c_str() + name + 1, " %*c %d %d", &parent, &group) == 2) {
-        children.emplace(parent, FProcessEntry{pid, group});
+    if (name != std::string::npos && std::sscanf(line.c_str() + name + 1, " %c %d %d", &state, &parent, &group) == 3) {
+        children.emplace(parent, FProcessEntry{pid, group, state == 'Z' || state == 'X'});
     }
 }
 

@@ -7,6 +7,7 @@
 struct FProcessEntry {
     pid_t pid;
     pid_t group;
+    bool hasEnded;  //!< nobody has collected its exit code yet
 };
 
 /**

@@ -38,6 +38,11 @@ bool readStopSignal(int signals) {
     return stop;
 }
 
+std::size_t countRunning(const std::vector<FProcessEntry>& processes) {
+    return static_cast<std::size_t>(
+        std::count_if(processes.begin(), processes.end(), [](const FProcessEntry& entry) { return !entry.hasEnded; }));
+}
+
 // A stopped process handles SIGTERM only after SIGCONT. A negative number is a group.
 void ask(pid_t process) {
     kill(process, SIGTERM);
@@ -95,6 +100,7 @@ void FSupervisor::noteEnd(bool exited, int value) {
     mEnd.value = value;
     mEnd.time = wallTime();
     if (mPhase == Phase::Running) {
+        mEnd.terminated = countRunning(descendants(getpid()));
         ask(-mProgram);
     }
 }

@@ -12,6 +12,7 @@ struct FProgramEnd {
     int value = -1;                 //!< exit code or number of the signal; -1 if it could not be ended
     long long time = 0;             //!< of its end, or of giving up; milliseconds since 1970
     std::size_t remaining = 0;      //!< processes that could not be killed
+    std::size_t terminated = 0;     //!< processes that it had left running when it ended by itself
 };
 
 /**

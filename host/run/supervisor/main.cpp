@@ -3,22 +3,24 @@
 
 #include <fcntl.h>
 #include <linux/close_range.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
 // Runs one program until it and all its descendants have ended. Standard input is the control pipe: closing its other
 // end requests the end of the program. The report goes to standard output, one line per event:
-//   failed STEP ERRNO                             not started; STEP as in FLaunchResult
+//   failed STEP ERRNO                             not started; STEP as in FLaunchResult, or "lock"
 //   started PID TIME                              milliseconds since 1970
-//   ended REASON exit|signal VALUE TIME REMAINING as in FProgramEnd
+//   ended REASON exit|signal VALUE TIME REMAINING TERMINATED   as in FProgramEnd
 
 namespace {
 
-enum Argument { Limit = 1, Grace, Folder, Input, Output, Error, Program };
+enum Argument { Limit = 1, Grace, Folder, Lock, Input, Output, Error, Program };
 
 FSupervisor::Milliseconds duration(const char* text) {
     constexpr long long year = 1000LL * 3600 * 24 * 365;
@@ -32,7 +34,20 @@ void detachFromTerminal() {
     signal(SIGCHLD, SIG_DFL);
 }
 
+// The lock is released when this process has ended. The program doesn't inherit it.
+bool lock(const char* file) {
+    if (*file == '\0') {
+        return true;
+    }
+    const int opened = open(file, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    return opened >= 0 && flock(opened, LOCK_EX | LOCK_NB) == 0;
+}
+
 int supervise(char** argv, int control, int report) {
+    if (!lock(argv[Lock])) {
+        dprintf(report, "failed lock %d\n", errno);
+        return 1;
+    }
     FSupervisor supervisor(control, duration(argv[Limit]), duration(argv[Grace]));
     const FLaunchResult program = launch({argv[Folder], argv[Input], argv[Output], argv[Error], argv + Program});
     if (program.failedStep != nullptr) {
@@ -41,8 +56,8 @@ int supervise(char** argv, int control, int report) {
     }
     dprintf(report, "started %d %lld\n", program.pid, wallTime());
     const FProgramEnd end = supervisor.watch(program.pid);
-    dprintf(report, "ended %s %s %d %lld %zu\n", end.reason, end.exited ? "exit" : "signal", end.value, end.time,
-            end.remaining);
+    dprintf(report, "ended %s %s %d %lld %zu %zu\n", end.reason, end.exited ? "exit" : "signal", end.value, end.time,
+            end.remaining, end.terminated);
     return 0;
 }
 

@@ -146,6 +146,13 @@ TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
     EXPECT_EQ(results()->getImportedObjects().value("field").toString(), "seen") << "the later template wins";
 }
 
+TEST_F(FResultsGenIntTest, hasNoPathsOfFilesThatAreGone) {
+    FResultsGenInt* held = results();
+    EXPECT_TRUE(held->getResultTemplateName("Out.txt").endsWith("/comp/Out.txt"));
+    held->detachFromFiles();
+    EXPECT_EQ(held->getResultTemplateName("Out.txt"), "");
+}
+
 TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
     EXPECT_EQ(saved(*results()), "");
     auto* design = new FDesign("d7");

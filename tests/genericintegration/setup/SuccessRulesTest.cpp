@@ -93,8 +93,8 @@ TEST_F(SuccessRulesTest, numbersAreReadBeforeTheEndOnlyIfARuleNeedsThem) {
 TEST_F(SuccessRulesTest, theTreatmentDecidesHowNumbersAreReported) {
     ASSERT_TRUE(run("square.setValues([[\"f\", 0, 0, \"f \", First, \"FDouble\", \"\"]])"));
     for (const char* const setting : {"setSuspiciousNumbers", "setMissingAnchors"}) {
-        const QString program = QString("echo %1 > Out.txt; echo said 2")
-                                    .arg(QString(setting).contains("Anchors") ? "h 4" : "f 4D+05");
+        const QString program =
+            QString("echo %1 > Out.txt; echo said 2").arg(QString(setting).contains("Anchors") ? "h 4" : "f 4D+05");
         const QList<QPair<QString, QStringList>> cases{
             {"accept", {}}, {"warn", {"warning: "}}, {"fail", {"error: comp: ", "note: "}}};
         for (const auto& [treatment, kinds] : cases) {

@@ -34,7 +34,8 @@ TEST_F(FCauseLinesTest, causesComeFirstAndNothingTwice) {
         // Iterations count as one line, and the last one is shown.
         {"", "step 1 error = 0.5\nstep 2 error = 0.25\nstep 3 error = 0.125\n0 errors\nERROR norm 1.0D-3\n",
          "    out:3: step 3 error = 0.125\n    out:4: 0 errors\n    out:5: ERROR norm 1.0D-3"},
-        {"10%\r20%\rnot converged\rlast\n", "", "    err:1: not converged\n    err:1: 10%\n    err:1: 20%\n    err:1: last"},
+        {"10%\r20%\rnot converged\rlast\n", "",
+         "    err:1: not converged\n    err:1: 10%\n    err:1: 20%\n    err:1: last"},
         {QByteArray("Traceback\n  File x\nValueError: \xff\0\n", 33), "",
          "    err:1: Traceback\n    err:3: ValueError: \xef\xbf\xbd\xef\xbf\xbd\n    err:2:   File x"},
     };

@@ -4,6 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
+#include "host/design/FDesign.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
@@ -28,11 +29,12 @@ class FProbeResults : public FClass<FProbeResults, FResultsGeneric> {
     static FClassData mClass;
 
     FProbeResults() = default;
-    explicit FProbeResults(const FExpr<FExternComputation>& computation) : FClass(QString(), nullptr, computation) {}
+    explicit FProbeResults(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design = {})
+        : FClass(QString(), design, computation) {}
 
-    FComputationResults* createResults(const FExpr<FDesign>&,
+    FComputationResults* createResults(const FExpr<FDesign>& design,
                                        const FExpr<FExternComputation>& computation) const override {
-        auto* results = new FProbeResults(computation);
+        auto* results = new FProbeResults(computation, design);
         results->registerObject();
         results->FResults::init();
         return results;
@@ -74,6 +76,7 @@ class FProbe : public FExternComputation {
 
     mutable QStringList mSteps;
     bool mCanWrite = true;
+    QString mReadFile = "out.dat";
     std::function<void()> mAtStart = [] {};
 
  protected:
@@ -96,7 +99,8 @@ class FProbe : public FExternComputation {
         mSteps << "handles";
         results->setOutOfDate(true);
     }
-    QStringList getReadFiles() const override { return {"out.dat"}; }
+    QStringList getReadFiles() const override { return {mReadFile}; }
+    QStringList getFurtherFiles() const override { return {"cp.dat"}; }
 };
 
 const QStringList& allSteps() {
@@ -184,6 +188,103 @@ TEST_F(FExternComputationTest, failsWhenOldFilesCanNotBeMovedAside) {
     EXPECT_TRUE(logHolds("out.dat' is left from an earlier run")) << logText();
     auto* results = dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr());
     EXPECT_FALSE(results->getData("out.dat")) << "what is in the folder isn't of this run";
+}
+
+TEST_F(FExternComputationTest, succeedsOnlyWithAFileThatCanBeRead) {
+    struct Case {
+        const char* script;
+        const char* told;
+        bool succeeds;
+    };
+    for (const Case& made :
+         {Case{"mkdir out.dat", "'out.dat' (it is a folder)", false},
+          Case{"mkfifo out.dat", "'out.dat' (it is a pipe or a device", false},
+          Case{"ln -s /dev/null out.dat", "'out.dat' (it is a pipe or a device", false},
+          Case{"ln -s nowhere out.dat", "didn't write 'out.dat'", false},
+          Case{": > out.dat", "wrote nothing to 'out.dat'", true},
+          Case{"echo 1 > out.dat; sleep 100 &", "had left processes running, which were terminated", true}}) {
+        EXPECT_EQ(mProbe->runScript(made.script), made.succeeds) << made.script;
+        EXPECT_TRUE(logHolds(made.told)) << made.script << "\n" << logText();
+        EXPECT_EQ(mProbe->rereadResults(), QString(made.script).startsWith("echo")) << made.script;
+    }
+    write(runFile("out.dat"), "3");
+    for (const QString& name : {QString(), QString("."), QString("/"), QString("a/"), QString("../out.dat"),
+                                QString("out.dat%1x").arg(QChar(QChar::Null))}) {
+        mProbe->mReadFile = name;
+        EXPECT_FALSE(mProbe->runScript("echo 4 > out.dat"));
+        EXPECT_EQ(mProbe->mSteps, QStringList({"handles"})) << name.toStdString();
+        EXPECT_TRUE(log().last().contains("A result template has ")) << logText();
+        EXPECT_EQ(read(runFile("out.dat")), "3");
+        EXPECT_FALSE(mProbe->rereadResults());
+    }
+}
+
+TEST_F(FExternComputationTest, knowsTheLastRunOfAnEarlierSession) {
+    ASSERT_TRUE(mProbe->runScript("echo 1 > out.dat; echo old > cp.dat"));
+    ASSERT_FALSE(mProbe->runScript("test ! -e cp.dat && echo 2 > out.dat; exit 7"));
+    const auto restart = [this] {
+        FManaged::destroy(mProbe);
+        mKeep = {};
+        mProbe = new FProbe("probe");
+        mKeep = FExprBase(mProbe);
+    };
+    restart();
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "failed");
+    EXPECT_EQ(mProbe->getLastRun().exitCode, 7);
+    EXPECT_EQ(mProbe->getLastRun().cause, FRunRecord::Cause::ExitCode);
+    EXPECT_TRUE(mProbe->rereadResults());
+    EXPECT_FALSE(logHolds("come from a run that failed"));
+    EXPECT_EQ(mProbe->number(), 2);
+    EXPECT_TRUE(logHolds("come from a run that failed (failed)"));
+    EXPECT_EQ(mProbe->getResults()->getSetUpChanges().size(), 1) << "the arguments";
+
+    const QString stored = "../.earlier/probe.run";
+    QByteArray running = read(runFile(stored));
+    ASSERT_TRUE(running.contains("\"state\":\"failed\"")) << running.toStdString();
+    write(runFile(stored), running.replace("\"state\":\"failed\"", "\"state\":\"running\""));
+    restart();
+    EXPECT_EQ(mProbe->getLastRun().cause, FRunRecord::Cause::Interrupted);
+    write(runFile(stored), "damaged");
+    restart();
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "failed");
+}
+
+TEST_F(FExternComputationTest, keepsTheResultsOfEachDesign) {
+    for (const char* name : {"d1", "d2", "baseline"}) {
+        const FHistoryBlocker blocker;
+        FDesign::create(name);
+    }
+    const auto choose = [this](const char* name) { set(*mProbe, "setDesign", FExpr<FDesign>(object<FDesign>(name))); };
+    for (const char* name : {"d1", "d2"}) {
+        choose(name);
+        EXPECT_FALSE(mProbe->getResults());
+        EXPECT_EQ(mProbe->getLastRun().stateName(), "ready");
+        ASSERT_TRUE(mProbe->runScript(QString("echo %1 > out.dat").arg(QString(name).mid(1))));
+        EXPECT_TRUE(has(mFolder + "/wing.results/" + name + "/probe/out.dat"));
+    }
+    choose("d1");
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "finished");
+    EXPECT_EQ(mProbe->number(), 1);
+    EXPECT_TRUE(FHistory::instance()->undo());
+    EXPECT_EQ(mProbe->number(), 2);
+    choose("baseline");
+    EXPECT_TRUE(logHolds("can't be changed to baseline"));
+    EXPECT_EQ(mProbe->number(), 2);
+}
+
+TEST_F(FExternComputationTest, reportsAFailedRunWhenItsNumbersAreRequested) {
+    mProbe->mReadFile = "other";
+    ASSERT_FALSE(mProbe->runScript("echo 1 > out.dat; exit 1"));
+    const FExpr<FComputationResults> held = mProbe->getResults();
+    ASSERT_FALSE(mProbe->runScript("exit 1"));
+    EXPECT_EQ(dynamic_cast<FResultsGeneric*>(held.ptr())->getResultPath(),
+              path(mFolder + "/wing.results/baseline/.earlier/probe/"))
+        << "they followed";
+    ASSERT_FALSE(mProbe->runScript("exit 1"));
+    EXPECT_EQ(held->getResultPath(), "") << "the files are gone";
+    EXPECT_FALSE(logHolds("come from a run that failed"));
+    EXPECT_EQ(dynamic_cast<FResultsGeneric*>(held.ptr())->getData("out.dat")->getElementAt(0, 0), 1);
+    EXPECT_TRUE(logHolds("come from a run that failed"));
 }
 
 TEST_F(FExternComputationTest, tellsWhyAProgramCanNotBeStarted) {
@@ -300,7 +401,9 @@ TEST_F(FExternComputationTest, leavesTheFolderToTheProcessThatHasTheProject) {
     EXPECT_FALSE(mProbe->runScript("echo 5 > out.dat"));
     EXPECT_EQ(mProbe->getLastRun().stateName(), "failed");
     EXPECT_FALSE(dynamic_cast<FResultsGeneric*>(mProbe->getResults().ptr())->getData("out.dat"));
-    EXPECT_TRUE(logHolds("error: probe: The project is open elsewhere (")) << logText();
+    EXPECT_TRUE(logHolds("The project is open elsewhere (")) << logText();
+    EXPECT_FALSE(mProbe->rereadResults());
+    EXPECT_TRUE(logHolds("aren't read again: The project is open elsewhere (")) << logText();
     EXPECT_EQ(read(runFile("out.dat")), "9");
     EXPECT_FALSE(has(runFile("stdout.txt")));
     other.unlock();
@@ -367,6 +470,7 @@ TEST_F(FExternComputationTest, refusesATimeLimitBelowZero) {
     set(*mProbe, "setTimeLimit", double(12.5));
     set(*mProbe, "setTimeLimit", double(-1));
     set(*mProbe, "setTimeLimit", double(qQNaN()));
+    set(*mProbe, "setTimeLimit", double(-0.0));
     EXPECT_EQ(mProbe->getProgram().timeLimit, 12.5);
-    EXPECT_EQ(log().filter("time limit").size(), 2);
+    EXPECT_EQ(log().filter("time limit").size(), 3);
 }

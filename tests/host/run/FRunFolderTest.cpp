@@ -49,6 +49,28 @@ TEST_F(FRunFolderTest, movesWhatRunsLeftAndNothingElse) {
     EXPECT_EQ(read("run/mesh.grd"), "the user's");
 }
 
+TEST_F(FRunFolderTest, movesWhatAnInterruptedRunMayHaveWritten) {
+    write("run/mesh.grd", "the user's");
+    write("run/table.dat", "the user's");
+    FRunFolder killed = folder();
+    ASSERT_TRUE(moveAside(killed, {"out.dat"}));
+    write("run/deep/restart", "half");
+    write("run/table.dat", "overwritten by the program");
+    for (int run = 0; run < 2; ++run) {
+        FRunFolder next = folder();
+        ASSERT_TRUE(moveAside(next, {"out.dat"}));
+        EXPECT_EQ(next.leftByInterruption(), run == 0 ? 3 : 0) << "also after a second interruption";
+        EXPECT_EQ(QDir(path("run")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("mesh.grd"));
+    }
+    FRunFolder ended = folder();
+    ASSERT_TRUE(moveAside(ended, {}));
+    ended.noteLeft();
+    write("run/by hand.txt", "after the end");
+    FRunFolder last = folder();
+    ASSERT_TRUE(moveAside(last, {}));
+    EXPECT_TRUE(has("run/by hand.txt"));
+}
+
 TEST_F(FRunFolderTest, saysWhatCanNotBeMoved) {
     write("run/out.dat", "old");
     write(".earlier", "a file where a folder is needed");
@@ -87,6 +109,9 @@ TEST_F(FRunFolderTest, followsNoLinkToWhatIsNotItsOwn) {
     EXPECT_TRUE(mReason.contains("is a link to '" + path("other/run"))) << mReason.toStdString();
     EXPECT_EQ(read("other/run/mine.txt"), "mine");
     ASSERT_TRUE(QFile::link(path("other"), path("disk")));
-    FRunFolder onOtherDisk(path("disk/solver"), path("disk/.earlier/solver"));
+    FRunFolder onOtherDisk(path("disk/baseline/solver"), path("disk/baseline/.earlier/solver"));
     EXPECT_TRUE(moveAside(onOtherDisk, {}));
+    FRunFolder linkedDesign(path("disk/run"), path("disk/.earlier/run"));
+    EXPECT_FALSE(moveAside(linkedDesign, {})) << "the folder that contains it is a link";
+    EXPECT_TRUE(mReason.contains("is a link to '" + path("other"))) << mReason.toStdString();
 }

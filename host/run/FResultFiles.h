@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QString>
+#include <QStringList>
+
+/** The files in the folder of a run that results are read from. Texts are for the user; empty means all is well. */
+class MERIX_EXPORT FResultFiles {
+ public:
+    /** @param folder  with a slash at its end */
+    FResultFiles(const QString& folder, const QStringList& names);
+
+    /** Why a file of that name can't be read in any folder: no name, or one that leads out of the folder. */
+    static QString faultOfName(const QString& name);
+    /** The same for all names, as a sentence that says which template to correct. */
+    QString faultOfNames() const;
+    /** The missing files, quoted and separated by commas. */
+    QString missing() const;
+    /** Files that exist but can't be read, each with its reason, such as "'out' (it is a folder)". */
+    QString unreadable() const;
+    /** Empty files, quoted and separated by commas. */
+    QString empty() const;
+
+ private:
+    QString mFolder;
+    QStringList mNames;
+};

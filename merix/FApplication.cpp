@@ -1,5 +1,6 @@
 #include "merix/FApplication.h"
 
+#include "host/core/FStandardOutput.h"
 #include "merix/FCheckSubcommand.h"
 #include "merix/FCommandLine.h"
 #include "merix/FCommandsSubcommand.h"
@@ -29,6 +30,7 @@ FCommandLine::Subcommands allSubcommands() {
 }  // namespace
 
 int FApplication::run(int argc, char** argv) {
+    FStandardOutput::reserve();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("merix"));
 
@@ -40,5 +42,6 @@ int FApplication::run(int argc, char** argv) {
     if (!FPluginLoader::loadAll()) {
         return FExitCode::fileError;
     }
-    return outcome.chosen->run();
+    const int exitCode = outcome.chosen->run();
+    return FStandardOutput::isGood() ? exitCode : FExitCode::fileError;
 }

@@ -2,7 +2,7 @@
 
 #include "merix/FSubcommand.h"
 
-/** `merix commands [CLASS] [--json]`: prints the reference of all commands. */
+/** `merix commands [NAME] [--full] [--json]`: prints the reference of the commands. */
 class FCommandsSubcommand : public FSubcommand {
  public:
     const char* name() const override { return "commands"; }
@@ -11,6 +11,7 @@ class FCommandsSubcommand : public FSubcommand {
     int run() const override;
 
  private:
-    std::string mClass;
+    std::string mName;
+    bool mFull = false;
     bool mJson = false;
 };

@@ -5,6 +5,7 @@
 #include "host/run/FInterruptLine.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FProject.h"
+#include "host/script/FScriptParser.h"
 #include "merix/FExitCode.h"
 #include "merix/textList.h"
 
@@ -45,6 +46,14 @@ int FScriptSubcommand::run() const {
     }
     FLogMsg::setStrict(mStrict);
     FPrototypes::buildPending();
+    if (file.size() > longestScript) {
+        FLogMsg::error(QStringLiteral("merix"),
+                       QStringLiteral("can't read the script \"%1\": it has %2 bytes, and at most %3 can be read")
+                           .arg(path)
+                           .arg(file.size())
+                           .arg(longestScript));
+        return FExitCode::fileError;
+    }
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
     FCmdInput input;

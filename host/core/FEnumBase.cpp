@@ -27,6 +27,10 @@ bool FEnumTable::isWord(const QString& word) {
     return words().contains(word);
 }
 
+QStringList FEnumTable::getWords() {
+    return words().values();
+}
+
 QString FEnumBase::getStringValue() const {
     return getTable() ? getTable()->getTexts().value(getValue(), QStringLiteral("[KEY-OUT-OF-RANGE]")) : QString();
 }

@@ -17,6 +17,8 @@ class MERIX_EXPORT FEnumTable {
 
     /** Whether a word is a text of a registered enumeration, so that a script may write it bare. */
     static bool isWord(const QString& word);
+    /** All these texts, in no order. */
+    static QStringList getWords();
 
  private:
     QString mTypeName;

@@ -1,9 +1,13 @@
 #include "host/core/FFile.h"
 
+#include "host/core/FTextDecoder.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+
+#include <new>
 
 namespace {
 
@@ -40,6 +44,35 @@ QString FFile::openOrdinary(QFile& file, QIODevice::OpenMode mode) {
         return info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it isn't an ordinary file");
     }
     return file.open(mode) ? QString() : file.errorString();
+}
+
+QString FFile::readText(QFile& file, qint64 longest, QString& text) {
+    const QString fault = openOrdinary(file);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    if (file.size() > longest) {
+        return QStringLiteral("it has %1 bytes, and at most %2 can be read").arg(file.size()).arg(longest);
+    }
+    try {
+        QByteArray bytes;
+        bytes.reserve(static_cast<int>(file.size()) + 1);
+        // In pieces and not by its size: a file may grow, and those of the system say that they are empty.
+        constexpr qint64 piece = 1 << 20;
+        for (QByteArray next = file.read(piece); !next.isEmpty(); next = file.read(piece)) {
+            bytes += next;
+            if (bytes.size() > longest) {
+                return QStringLiteral("it has more than %1 bytes").arg(longest);
+            }
+        }
+        if (file.error() != QFileDevice::NoError) {
+            return file.errorString();
+        }
+        text = FTextDecoder::decode(bytes);
+    } catch (const std::bad_alloc&) {
+        return QStringLiteral("there isn't enough memory for its %1 bytes").arg(file.size());
+    }
+    return {};
 }
 
 QString FFile::realPath(const QString& path) {

@@ -22,6 +22,12 @@ class MERIX_EXPORT FFile {
      */
     static QString openOrdinary(QFile& file, QIODevice::OpenMode mode = QIODevice::ReadOnly);
 
+    /**
+     * Reads a whole ordinary file as text, in UTF-8 or as its byte order mark says. Returns the reason if that fails,
+     * also if the file has more than `longest` bytes, else an empty text.
+     */
+    static QString readText(QFile& file, qint64 longest, QString& text);
+
     /** The absolute path of a file. If the path leads to it through links, the path of the file itself. */
     static QString realPath(const QString& path);
 };

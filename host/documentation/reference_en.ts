@@ -1449,6 +1449,46 @@ print(results.getDataAt("CL", 0), results.getTable("stdout.txt").getElementAt("C
         <translation>The results of one run, as tables of numbers. The files are read at the first access to a result, and not again when marks or separators of a template change: rereadResults of the computation does that. Results of a run that failed can be read, with one warning; values that the program didn't write are NaN. While the run is in progress there are no results.</translation>
     </message>
     <message>
+        <source>!FResultsGeneric.member.getImportedObject(string,value)</source>
+        <translation>The object that was made from the file whose name a value of type "FFileName" found: a table, or a text, as the import type of the value says. Of two values with one name, the last one counts.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObject(string,value):argument0</source>
+        <translation>The name of the value in its result template.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObject(string,value):example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setNumberSeparator(false); .setRegExprSeparator(";"); .setValues([["curve", 0, 0, "", Last, "FFileName", "table", 0, NULL]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("sh"); .setArguments(["-c", "echo 1 2 &gt; c.txt; echo 'c.txt;'"]) }
+solver.run()
+print(solver.getResults().getImportedObject("curve").getElementAt(0, 1))</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObject(string,value):returnValue</source>
+        <comment>return type: FObject</comment>
+        <translation>The object, or NULL.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObjectNames()</source>
+        <translation>The names of the values with an imported object, in alphabetical order.</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObjectNames():example</source>
+        <translation>genericIntegrationResultsFile out1() { .setFileName("stdout.txt"); .setNumberSeparator(false); .setRegExprSeparator(";"); .setValues([["curve", 0, 0, "", Last, "FFileName", "table", 0, NULL]]) }
+genericIntegrationDefinition wing() { .setFiles([out1]) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("sh"); .setArguments(["-c", "echo 1 2 &gt; c.txt; echo 'c.txt;'"]) }
+solver.run()
+print(solver.getResults().getImportedObjectNames())</translation>
+    </message>
+    <message>
+        <source>!FResultsGeneric.member.getImportedObjectNames():returnValue</source>
+        <comment>return type: stringContainer</comment>
+        <translation>The names; an empty list if there are none.</translation>
+    </message>
+    <message>
         <source>!FResultsGeneric.member.getResultFileName(string,entry)</source>
         <translation>The path of a result file of the run, which an entry of the configuration names with resultsFileName. The file needn't exist. As the name of an inputFile, the path links another computation to this one.</translation>
     </message>

@@ -22,6 +22,10 @@ void commands(FCmdTable& table) {
         return results.getTableNames();
     });
     table.member<F>("getTableNames", &F::getTableNames).readsFiles();
+    table.member<F>("getImportedObject", &F::getImportedObject, {"value"})
+        .readsFiles()
+        .alternatives<F>(+[](const F& results) { return results.getImportedObjectNames(); });
+    table.member<F>("getImportedObjectNames", &F::getImportedObjectNames).readsFiles();
     table.member<F>("getResultFileName", &F::getResultFileName, {"entry"}).query();
 }
 
@@ -194,4 +198,14 @@ QString FResultsGeneric::getResultFileName(const QString& entry) const {
 const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {
     prepareResults();
     return mImportedObjects;
+}
+
+FExpr<FObject> FResultsGeneric::getImportedObject(const QString& value) const {
+    return getImportedObjects().value(value);
+}
+
+QStringList FResultsGeneric::getImportedObjectNames() const {
+    QStringList names = getImportedObjects().keys();
+    names.sort();
+    return names;
 }

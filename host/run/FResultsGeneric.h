@@ -60,6 +60,10 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     QString getResultFileName(const QString& entry) const;
     /** Objects that file imports created, by the name of the value. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const;
+    /** The object that the file import of a value created; an empty handle if there is none. */
+    FExpr<FObject> getImportedObject(const QString& value) const;
+    /** The names of the values with such an object, in alphabetical order. */
+    QStringList getImportedObjectNames() const;
 
  protected:
     using FComputationResults::init;

@@ -9,6 +9,8 @@
 #include "host/script/FCmdManager.h"
 #include "host/script/FFailedOutcomes.h"
 
+#include <QScopedValueRollback>
+
 #include <optional>
 #include <utility>
 
@@ -26,6 +28,16 @@ QString shown(const FExprBase& handle) {
     const auto* text = dynamic_cast<const FString*>(object);
     const QString whole = !object ? QStringLiteral("NULL") : text ? quoteText(text->getValue()) : handle.toString();
     return whole.size() > longest ? whole.left(longest) + QStringLiteral("…") : whole;
+}
+
+/** What an argument must be, where `given` was found. */
+QString wanted(const FCmdArgument& argument, const FExprBase& given) {
+    FObject* object = given.getObject();
+    const bool takesList = argument.type.cls == &FObjectList::mClass;
+    if (takesList && object && object != FNull::null() && !object->castToObjectList()) {
+        return QStringLiteral("a list, such as [%1]").arg(shown(given));
+    }
+    return QStringLiteral("of type ") + argument.type.script;
 }
 
 }  // namespace
@@ -130,9 +142,8 @@ FExprBase FCmd::callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Va
 }
 
 FExprBase FCmd::callWatched(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const {
-    const FCmd* outer = std::exchange(running, this);
+    const QScopedValueRollback<const FCmd*> watch(running, this);  // also if there isn't enough memory
     FExprBase result = row.call(receiver, values);
-    running = outer;
     if (row.isOutcome) {
         noteOutcome(row, result);
     }
@@ -164,8 +175,8 @@ bool FCmd::convertArguments(const FCmdRow& row, FCmdRow::Values& values, QString
                                  (row.kind == FCmdRow::Kind::Attribute || cmdtype::isScriptNull(argument.byDefault));
         const bool fits = argument.type.convert(handle, value) || (acceptsNull && cmdtype::isScriptNull(handle));
         if (!fits) {
-            reason = isGiven ? QStringLiteral("argument %1 (%2) must be of type %3, but is %4")
-                                   .arg(QString::number(given), argument.name, argument.type.script, shown(handle))
+            reason = isGiven ? QStringLiteral("argument %1 (%2) must be %3, but is %4")
+                                   .arg(QString::number(given), argument.name, wanted(argument, handle), shown(handle))
                              : QStringLiteral("argument %1 (%2, of type %3) is missing")
                                    .arg(QString::number(given), argument.name, argument.type.script);
             return false;
@@ -188,7 +199,7 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
         }
         reasons.append(reason);
     }
-    warn(mName + QStringLiteral(": ") + reasons.join(QStringLiteral("; or: ")));
+    warn(mName + QStringLiteral(": ") + reasons.join(QStringLiteral("; or: ")), refusalText());
     return nullptr;
 }
 

@@ -83,6 +83,8 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
     /** The first of the rows that the arguments fit; null, with one warning, if there is none. */
     const FCmdRow* chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow::Values& values) const;
     FExprBase callRow(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
+    /** What follows if the arguments don't fit; empty if the result is NULL and nothing else. */
+    virtual QString refusalText() const { return {}; }
     void warn(const QString& message, const QString& consequence = QString()) const;
     /** The command gives no result since an earlier call, which has warned, gave none. */
     void warnedBefore() const { mHasWarned = true; }

@@ -1,6 +1,7 @@
 #include "host/script/FCmdInput.h"
 
 #include "host/core/FChanges.h"
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/script/FDeclarer.h"
@@ -10,6 +11,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <new>
 
 namespace {
 
@@ -46,7 +49,13 @@ void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
 bool FCmdInput::exec() {
     const Activation activation(this);
     const int strictBefore = FLogMsg::getStrictErrors();
-    return run(mText, mFile) && mErrors == 0 && FLogMsg::getStrictErrors() == strictBefore;
+    bool done = false;
+    try {
+        done = run(mText, mFile);
+    } catch (const std::bad_alloc&) {
+        report(mStatementPlace, QStringLiteral("there isn't enough memory for this statement"));
+    }
+    return done && mErrors == 0 && FLogMsg::getStrictErrors() == strictBefore;
 }
 
 bool FCmdInput::run(const QString& text, const QString& file) {
@@ -54,14 +63,20 @@ bool FCmdInput::run(const QString& text, const QString& file) {
     for (const FSyntaxError& error : script.errors) {
         report(error.place, error.message);
     }
-    return script.errors.empty() && runBody(script.statements);
+    const int strictBefore = FLogMsg::getStrictErrors();
+    for (const FSyntaxError& warning : script.warnings) {
+        FLogMsg::warning({}, warning.message, {}, warning.place.toString(file));
+    }
+    return script.errors.empty() && FLogMsg::getStrictErrors() == strictBefore && runBody(script.statements);
 }
 
 bool FCmdInput::include(const QString& path) {
     const QString resolved = resolvePath(path);
     QFile file(resolved);
-    if (!file.open(QIODevice::ReadOnly)) {
-        FLogMsg::error(mFile, QStringLiteral("can't include \"%1\": %2").arg(resolved, file.errorString()));
+    QString text;
+    const QString fault = FFile::readText(file, longestScript, text);
+    if (!fault.isEmpty()) {
+        FLogMsg::error(mFile, QStringLiteral("can't include \"%1\": %2").arg(resolved, fault));
         ++mErrors;
         return false;
     }
@@ -75,7 +90,7 @@ bool FCmdInput::include(const QString& path) {
     ++mIncludes;
     const QString outer = mFile;
     mFile = resolved;
-    const bool done = run(QString::fromUtf8(file.readAll()), resolved);
+    const bool done = run(text, resolved);
     mFile = outer;
     --mIncludes;
     return done;
@@ -126,6 +141,7 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!countStep(statement.place)) {
         return false;
     }
+    mStatementPlace = statement.place;
     const FBusy busy;
     // A statement that contains others is one step as a whole.
     const char* word = blockWord(statement);
@@ -156,9 +172,27 @@ bool FCmdInput::run(const FSyntaxExpr& expression) {
     const QString command = call ? call->name : QString();
     FScriptStep step(command);
     const int failuresBefore = FFailedOutcomes::count(command);
-    const bool done = evaluate(expression).has_value();
+    const std::optional<FExprBase> value = evaluate(expression);
     mIgnoredFailures += FFailedOutcomes::count(command) - failuresBefore;
-    return step.end(done);
+    if (value && call) {
+        noteIgnoredFailure(*call, *value);
+    }
+    return step.end(value.has_value());
+}
+
+/** Tells how a script can react to a project that couldn't be opened or saved. The cause was logged before. */
+void FCmdInput::noteIgnoredFailure(const FSyntaxExpr& call, const FExprBase& value) const {
+    const auto* result = dynamic_cast<const FBool*>(valueObject(value));
+    const bool mayFail = call.name == QLatin1String("openProject") || call.name == QLatin1String("saveProject");
+    if (mayFail && result && !result->getValue()) {
+        FLogMsg{FLogMsg::Kind::Info,
+                {},
+                call.name + QStringLiteral(" returned false, and the script continues"),
+                QStringLiteral("To end it there, write \"if (!%1(…)) { exit(1) }\"").arg(call.name),
+                FLogMsg::Stream::StandardError,
+                call.place.toString(mFile)}
+            .send();
+    }
 }
 
 bool FCmdInput::run(const FSyntaxDeclaration& declaration) {

@@ -44,6 +44,7 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
 
  private:
     bool run(const QString& text, const QString& file);
+    void noteIgnoredFailure(const FSyntaxExpr& call, const FExprBase& value) const;
     bool runBody(const FSyntaxBody& body);
     bool runStatement(const FSyntaxStatement& statement);
     bool run(const FSyntaxExpr& expression);
@@ -64,6 +65,7 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     QString mText;
     QString mFile;
     FScriptNames mNames;
+    FPlace mStatementPlace;
     int mErrors = 0;
     int mIncludes = 0;
     qint64 mSteps = 0;

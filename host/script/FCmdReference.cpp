@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -67,12 +68,29 @@ QString classText(const FObject& prototype) {
            indented(FTypeDocu::get(className, 2), QStringLiteral("    "));
 }
 
+QString headingOf(const FCmdRow& row) {
+    return row.kind == FCmdRow::Kind::Global ? QStringLiteral("Functions") : row.owner->getName();
+}
+
+QString firstSentence(const QString& text) {
+    static const QRegularExpression end(QStringLiteral("[.:;](?=\\s|$)"));
+    const QString line = text.section(QLatin1Char('\n'), 0, 0);
+    const int index = line.indexOf(end);
+    return index < 0 ? line : line.left(index);
+}
+
+/** Whether a command is only for the program itself. */
+bool isInternal(const FCmdRow* row) {
+    constexpr unsigned int internalFlag = 2;
+    return row->presentation.hidden && row->presentation.systemFlag >= internalFlag;
+}
+
 bool isDescribed(const QString& className) {
     const QString key = QLatin1Char('!') + className;
     return FTypeDocu::translate(key) != key;
 }
 
-QString headingOf(const QString& name) {
+QString underlined(const QString& name) {
     return name + QLatin1Char('\n') + QString(name.size(), QLatin1Char('=')) + QLatin1Char('\n');
 }
 
@@ -135,47 +153,78 @@ QJsonObject toObject(const FCmdRow& row) {
 
 }  // namespace
 
-FCmdReference::FCmdReference(const QString& className) : mClassName(className) {
+FCmdReference::FCmdReference(const QString& name) : mName(name) {
     FPrototypes::buildPending();
-    const FObject* prototype = className.isEmpty() ? nullptr : FObject::getPrototype(className);
-    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
-        const bool isGlobal = row->kind == FCmdRow::Kind::Global;
-        const bool fits = className.isEmpty() || (className == globalWord() && isGlobal) ||
-                          (prototype && row->owner && row->owner->isSuperClassOf(prototype->getClassData()) &&
-                           !FCmdManager::instance()->isHidden(prototype->getClassData(), *row));
-        if (fits) {
-            mRows.push_back(row);
-        }
-    }
+    const FObject* prototype = name.isEmpty() ? nullptr : FObject::getPrototype(name);
+    collect(prototype);
     const bool hasOwnRows = std::any_of(mRows.begin(), mRows.end(), [prototype](const FCmdRow* row) {
         return prototype && row->owner == &prototype->getClassData();
     });
-    mpDescribed = prototype && !hasOwnRows && isDescribed(className) ? prototype : nullptr;
+    mpDescribed = prototype && !hasOwnRows && isDescribed(name) ? prototype : nullptr;
 }
 
-QString FCmdReference::unknownClass() const {
+void FCmdReference::collect(const FObject* prototype) {
+    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
+        const bool isGlobal = row->kind == FCmdRow::Kind::Global;
+        const bool isOfClass = prototype && row->owner && row->owner->isSuperClassOf(prototype->getClassData()) &&
+                               !FCmdManager::instance()->isHidden(prototype->getClassData(), *row);
+        const bool isOfName = !prototype && row->name.compare(mName, Qt::CaseInsensitive) == 0;
+        if (mName.isEmpty() || (mName == globalWord() && isGlobal) || isOfClass || isOfName) {
+            mRows.push_back(row);
+        }
+    }
+}
+
+QString FCmdReference::unknownName() const {
     QStringList known{globalWord()};
     for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
         known.append(row->owner ? row->owner->getName() : globalWord());
+        known.append(row->name);
     }
     known.removeDuplicates();
-    return QStringLiteral("no commands are known for the class \"%1\"%2; known are %3")
-        .arg(mClassName, didYouMean(mClassName, known), known.join(QStringLiteral(", ")));
+    return QStringLiteral("no class and no command has the name \"%1\"%2. \"merix commands\" lists all")
+        .arg(mName, didYouMean(mName, known));
+}
+
+QString FCmdReference::toShortText() const {
+    std::vector<const FCmdRow*> rows = mRows;
+    rows.erase(std::remove_if(rows.begin(), rows.end(), &isInternal), rows.end());
+    // Attributes that windows don't show follow the others of their class.
+    const auto key = [](const FCmdRow* row) { return row->presentation.hidden ? 1 : 0; };
+    for (auto first = rows.begin(); first != rows.end();) {
+        const auto last = std::find_if(first, rows.end(),
+                                       [first](const FCmdRow* row) { return headingOf(*row) != headingOf(**first); });
+        std::stable_sort(first, last, [key](const FCmdRow* a, const FCmdRow* b) { return key(a) < key(b); });
+        first = last;
+    }
+    QString text;
+    QString heading;
+    for (const FCmdRow* row : rows) {
+        if (headingOf(*row) != heading) {
+            heading = headingOf(*row);
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + heading + QLatin1Char('\n');
+        }
+        text += QStringLiteral("  ") + signature(*row) + QStringLiteral("  // ") +
+                firstSentence(Texts(*row).description) + QLatin1Char('\n');
+    }
+    return text + QStringLiteral(
+                      "\nWith descriptions and examples: merix commands NAME (a class or a command), or "
+                      "merix commands --full\n");
 }
 
 QString FCmdReference::toText() const {
-    QString text = mpDescribed ? headingOf(mClassName) + classText(*mpDescribed) : QString();
+    QString text = mpDescribed ? underlined(mName) + classText(*mpDescribed) : QString();
     QString heading;
     for (const FCmdRow* row : mRows) {
-        const QString owner = row->kind == FCmdRow::Kind::Global ? QStringLiteral("Functions") : row->owner->getName();
+        const QString owner = headingOf(*row);
         if (owner != heading) {
             heading = owner;
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + headingOf(heading);
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + underlined(heading);
             text += row->kind == FCmdRow::Kind::Global ? QString() : classText(*row->owner->mpNull);
         }
         const Texts texts(*row);
         text += QLatin1Char('\n') + signature(*row) + QStringLiteral("   [") + row->kindWord() +
-                (row->presentation.hidden ? QStringLiteral(", hidden]\n") : QStringLiteral("]\n"));
+                (row->presentation.hidden ? QStringLiteral(", not in windows]\n") : QStringLiteral("]\n"));
         text += indented(texts.description, QStringLiteral("    "));
         for (std::size_t i = 0; i < row->arguments.size(); ++i) {
             text += indented(

@@ -6,13 +6,18 @@
 /** The reference of the commands, generated from their tables and documentation texts. */
 class MERIX_EXPORT FCmdReference {
  public:
-    /** @param className  only the commands on objects of this class; "global" for functions; empty for all commands */
-    explicit FCmdReference(const QString& className = QString());
+    /**
+     * @param name  only the commands on objects of this class, "global" for functions, or else the commands of this
+     *              name in any case; empty for all commands
+     */
+    explicit FCmdReference(const QString& name = QString());
 
-    /** True if the class is unknown, or has neither commands nor a description. */
+    /** True if nothing has that name, or if it is that of a class with neither commands nor a description. */
     bool isEmpty() const { return mRows.empty() && !mpDescribed; }
-    /** The error message for an unknown class, with the nearest known name. */
-    QString unknownClass() const;
+    /** The error message for an unknown name, with the nearest known one. */
+    QString unknownName() const;
+    /** A line for each command: its signature and the first sentence of its description. */
+    QString toShortText() const;
     /**
      * For reading: signature, description, arguments, result and example of each command; first the description of a
      * class without commands of its own.
@@ -22,7 +27,9 @@ class MERIX_EXPORT FCmdReference {
     QString toJson() const;
 
  private:
-    QString mClassName;
+    void collect(const FObject* prototype);
+
+    QString mName;
     std::vector<const FCmdRow*> mRows;
     const FObject* mpDescribed = nullptr;  //!< prototype of a class without commands of its own that has a text
 };

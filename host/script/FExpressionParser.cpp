@@ -1,5 +1,7 @@
 #include "host/script/FExpressionParser.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -29,6 +31,34 @@ FLiteral numberValue(QStringView text) {
         return integer;
     }
     return numberFromText(text).value_or(std::nan(""));
+}
+
+/** The significant digits of a number as it is written, without zeros at either end. */
+QString significantDigits(QStringView text) {
+    QString digits;
+    for (const QChar c : text) {
+        if (c == 'e' || c == 'E') {
+            break;
+        }
+        if (c.isDigit() && (c != '0' || !digits.isEmpty())) {
+            digits += c;
+        }
+    }
+    while (digits.endsWith(QLatin1Char('0'))) {
+        digits.chop(1);
+    }
+    return digits;
+}
+
+/** Whether a number has more digits than it keeps when it is read. */
+bool losesDigits(QStringView text, double value) {
+    constexpr int alwaysKept = 15;
+    constexpr int longest = 60;
+    const QString digits = significantDigits(text);
+    if (digits.size() <= alwaysKept || value == 0) {
+        return false;
+    }
+    return digits.size() > longest || significantDigits(QString::number(value, 'e', digits.size() - 1)) != digits;
 }
 
 }  // namespace
@@ -137,7 +167,19 @@ FSyntaxExpr FExpressionParser::number() {
         mTokens.fail(mTokens.current().place, QLatin1String("the number ") + mTokens.current().toString() +
                                                   QLatin1String(" is too large: numbers end at about 1.8e308"));
     }
+    warnOfNumber(number != nullptr ? *number : static_cast<double>(std::get<qint64>(value)));
     return literal(value);
+}
+
+void FExpressionParser::warnOfNumber(double value) {
+    const FToken& token = mTokens.current();
+    const QString readAs = QStringLiteral("\"%1\" is read as %2")
+                               .arg(token.text.toString(), QString::number(value, 'g', QLocale::FloatingPointShortest));
+    if (token.text.size() > 1 && token.text[0] == '0' && token.text[1].isDigit()) {
+        mTokens.warn(token.place, readAs + QStringLiteral(": zeros at the front have no meaning"));
+    } else if (losesDigits(token.text, value)) {
+        mTokens.warn(token.place, readAs + QStringLiteral(": a number keeps about 16 digits"));
+    }
 }
 
 FSyntaxExpr FExpressionParser::nameOrCall() {

@@ -30,6 +30,7 @@ class FExpressionParser {
     FSyntaxExpr primary();
     FSyntaxExpr literal(FLiteral value);
     FSyntaxExpr number();
+    void warnOfNumber(double value);
     FSyntaxExpr nameOrCall();
     FSyntaxExpr list();
     FSyntaxExpr group();

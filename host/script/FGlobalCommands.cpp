@@ -5,6 +5,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
+#include "host/core/FStandardOutput.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
@@ -15,9 +16,13 @@
 #include <QFileInfo>
 #include <QStringList>
 
-#include <iostream>
-
 namespace {
+
+/** Exit code of a script if a file can't be read or written. */
+constexpr int fileError = 3;
+
+/** Bytes of a file that a script reads. */
+constexpr qint64 largestFile = 500'000'000;
 
 QString plainText(const FExprBase& handle) {
     const FObject* value = valueObject(handle);
@@ -30,8 +35,10 @@ void print(const std::vector<FExprBase>& values) {
     for (const FExprBase& value : values) {
         texts.append(plainText(value));
     }
-    FLogMsg::endLine();
-    std::cout << texts.join(QLatin1Char(' ')).toStdString() << std::endl;
+    FCmdInput* script = FCmdInput::current();
+    if (!FStandardOutput::write(texts.join(QLatin1Char(' ')) + QLatin1Char('\n')) && script) {
+        script->requestExit(fileError);
+    }
 }
 
 QString resolve(const QString& path) {
@@ -41,14 +48,13 @@ QString resolve(const QString& path) {
 
 FExpr<FObject> readText(const QString& path) {
     QFile file(resolve(path));
-    if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
+    QString text;
+    if (const QString fault = FFile::readText(file, largestFile, text); !fault.isEmpty()) {
         FCmd::warnNow(QStringLiteral("readText"),
                       QStringLiteral("readText: can't read \"%1\": %2").arg(file.fileName(), fault));
         return {};
     }
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    return FExpr<FObject>(new FString(stream.readAll()));
+    return FExpr<FObject>(new FString(text));
 }
 
 bool include(const QString& path) {

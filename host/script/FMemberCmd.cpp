@@ -222,6 +222,10 @@ void FMemberCmd::warnWrongReceiver(const FObject& receiver) const {
 
 // ---- attributes ----
 
+QString FAttribCmd::refusalText() const {
+    return QStringLiteral("\"%1\" stays unchanged").arg(writtenReceiver());
+}
+
 FExprBase FAttribCmd::valueOf(const FObject* receiver) const {
     const FCmdRow* row = getRow();
     const bool fits = row && row->getter && receiver && receiver->isTypeOf(row->owner->mpNull);

@@ -40,6 +40,7 @@ class MERIX_EXPORT FMemberCmd : public FClass<FMemberCmd, FCmd> {
     FExprBase execute() const override;
     /** Called with each object that the command has changed. */
     virtual void acted(FObject* receiver) const { Q_UNUSED(receiver) }
+    QString writtenReceiver() const;
 
  private:
     FExprBase act(const FCmdRow& row, FObject* receiver, const FCmdRow::Values& values) const;
@@ -57,7 +58,6 @@ class MERIX_EXPORT FMemberCmd : public FClass<FMemberCmd, FCmd> {
     std::vector<const FCmdRow*> rowsFor(const FObject& object, const FClassData* own) const;
     void warnNoReceiver() const;
     void warnWrongReceiver(const FObject& receiver) const;
-    QString writtenReceiver() const;
     QString missingResult() const;
     bool readsFromParts(const FObject& receiver) const;
     void followKnownParts(FObject* receiver) const;
@@ -96,6 +96,7 @@ class MERIX_EXPORT FAttribCmd : public FClass<FAttribCmd, FMemberCmd> {
         Q_UNUSED(receiver)
         mCurrentValue = FExprBase();
     }
+    QString refusalText() const override;
 
  private:
     FExprBase valueOf(const FObject* receiver) const;

@@ -10,9 +10,6 @@ FClassData FListCmd::mClass("FListCmd", &FCmd::mClass);
 
 namespace {
 
-/** A loop that doubles a text would soon ask for more memory than there is. */
-constexpr int longestText = 100'000'000;
-
 bool isComparison(FOperator op) {
     return rowOf(op).priority == comparisonPriority;
 }
@@ -166,12 +163,15 @@ FExprBase FOperatorCmd::decide() const {
     return FExprBase(new FBool(!deciding));
 }
 
-FExprBase FOperatorCmd::join(const QString& left, const QString& right) const {
-    if (left.size() > longestText - right.size()) {
+FExprBase FOperatorCmd::join(const FBasicType& left, const QString& right) const {
+    const auto* text = dynamic_cast<const FString*>(&left);
+    const QString plain = text ? QString() : left.toPlainString();
+    const int size = text ? text->size() : plain.size();
+    if (size > longestText - right.size()) {
         warn(QStringLiteral("the text would be longer than %1 characters").arg(longestText));
         return {};
     }
-    return FExprBase(new FString(left + right));
+    return FExprBase(text ? text->joined(right) : new FString(plain + right));
 }
 
 FExprBase FOperatorCmd::combine(FOperator op, const FExprBase& left, const FExprBase& right) const {
@@ -193,7 +193,7 @@ FExprBase FOperatorCmd::combine(FOperator op, const FExprBase& left, const FExpr
     const auto* basicA = dynamic_cast<const FBasicType*>(a);
     const auto* basicB = dynamic_cast<const FBasicType*>(b);
     if (op == FOperator::Add && (text || other) && basicA && basicB) {
-        return join(basicA->toPlainString(), basicB->toPlainString());
+        return join(*basicA, basicB->toPlainString());
     }
     if (op == FOperator::Equal || op == FOperator::NotEqual) {
         const std::optional<bool> p = asBool(left);

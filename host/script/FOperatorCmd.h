@@ -30,7 +30,7 @@ class FOperatorCmd : public FClass<FOperatorCmd, FCmd> {
     int priority() const;
     FExprBase applyUnary() const;
     FExprBase combine(FOperator op, const FExprBase& left, const FExprBase& right) const;
-    FExprBase join(const QString& left, const QString& right) const;
+    FExprBase join(const FBasicType& left, const QString& right) const;
     FExprBase decide() const;
     FExprBase refuse(FOperator op, std::initializer_list<FExprBase> operands) const;
     QString operandInBrackets(std::size_t index) const;

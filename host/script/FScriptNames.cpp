@@ -1,5 +1,6 @@
 #include "host/script/FScriptNames.h"
 
+#include "host/core/FEnumBase.h"
 #include "host/core/FManaged.h"
 #include "host/core/FObjectManager.h"
 #include "host/script/FCmdManager.h"
@@ -26,7 +27,7 @@ bool FScriptNames::isGone(const QString& name) const {
 
 QString FScriptNames::suggestion(const QString& name) const {
     constexpr int most = 20;
-    return ++mSuggestions <= most ? didYouMean(name, getNames()) : QString();
+    return ++mSuggestions <= most ? didYouMean(name, getNames() + FEnumTable::getWords()) : QString();
 }
 
 QStringList FScriptNames::getNames() const {

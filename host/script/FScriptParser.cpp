@@ -27,6 +27,7 @@ FScript parseScript(const QString& text, const QString& file, const FParseMode& 
     FStatementParser parser(text, mode);
     script.statements = parser.script();
     script.errors = parser.takeErrors();
+    script.warnings = parser.takeWarnings();
     return script;
 }
 

@@ -15,6 +15,7 @@ struct MERIX_EXPORT FScript {
     QString file;
     FSyntaxBody statements;
     std::vector<FSyntaxError> errors;
+    std::vector<FSyntaxError> warnings;  //!< numbers that are read differently from how they are written
 };
 
 struct MERIX_EXPORT FParseMode {

@@ -3,11 +3,20 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FUserStep.h"
 
+#include <exception>
+
 /** The step of one statement of a script: taken back if the statement fails, or if strict mode made an error of a
  * warning. */
 class FScriptStep {
  public:
     explicit FScriptStep(const QString& label) : mStep(label) {}
+    ~FScriptStep() {
+        if (std::uncaught_exceptions() > mExceptions) {
+            mStep.rollback();  // there isn't enough memory for the statement
+        }
+    }
+    FScriptStep(const FScriptStep&) = delete;
+    FScriptStep& operator=(const FScriptStep&) = delete;
 
     /** Ends the statement; returns whether it is good. */
     bool end(bool good) {
@@ -24,5 +33,6 @@ class FScriptStep {
 
  private:
     FUserStep mStep;
+    int mExceptions = std::uncaught_exceptions();
     int mStrictErrors = FLogMsg::getStrictErrors();
 };

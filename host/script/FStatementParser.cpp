@@ -162,7 +162,7 @@ FSyntaxWhile FStatementParser::whileLoop() {
 FSyntaxFor FStatementParser::forLoop() {
     FSyntaxFor result;
     mTokens.advance();
-    mTokens.expect(Kind::LeftParen, "\"(\" after \"for\"");
+    mTokens.expect(Kind::LeftParen, "\"(\" after \"for\", as in \"for (x in list)\"");
     result.variablePlace = mTokens.current().place;
     result.variable = name("the name of a variable");
     if (mTokens.current().text != QStringView(u"in")) {

@@ -16,6 +16,7 @@ class FStatementParser {
 
     /** The errors of the script as they were found. */
     std::vector<FSyntaxError> takeErrors();
+    std::vector<FSyntaxError> takeWarnings() { return mTokens.takeWarnings(); }
 
  private:
     bool isAtListEnd(FTokenStream::FSkipTo kind) const;

@@ -19,6 +19,15 @@ QString inQuotes(QStringView text) {
 
 }  // namespace
 
+int FToken::lineCount() const {
+    int lines = 1;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        lines += !isPair && (text[i] == '\n' || text[i] == '\r') ? 1 : 0;
+    }
+    return lines;
+}
+
 QString FToken::toString() const {
     switch (kind) {
         case Kind::End:

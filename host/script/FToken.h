@@ -58,6 +58,8 @@ struct FToken {
     bool isFirstOnLine = false;  //!< nothing but blanks stands before it on its line
     bool lacksQuote = false;     //!< a text over several lines that ends where another seems to begin
 
+    /** The lines that it extends over. */
+    int lineCount() const;
     /** The token as a message tells of it: "}", the text "abc", the end of the line. Long ones are cut. */
     QString toString() const;
 };

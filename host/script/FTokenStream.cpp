@@ -38,6 +38,9 @@ void FTokenStream::advance() {
         return;
     }
     mPrevious = mCurrent;
+    if (mCurrent.lacksQuote) {
+        mLongText = mCurrent;
+    }
     if (++mTokenCount > mostTokens) {
         fail(mCurrent.place, tooMany() + QStringLiteral(": what follows isn't read"));
         mLexer.skipAll();
@@ -63,13 +66,58 @@ void FTokenStream::failExpected(const QString& expected) {
     if (mError) {
         return;
     }
-    if (mCurrent.kind == Kind::OpenText) {
+    const bool isOpen = mCurrent.kind == Kind::OpenText;
+    if (mPrevious.kind == Kind::Text && mPrevious.lineCount() > 1) {
+        fail(mPrevious.place,
+             QStringLiteral("a text that began in %1:%2 runs over %3 lines: is its closing \" missing? (expected %4 in "
+                            "%5:%6, found %7)")
+                 .arg(QString::number(mPrevious.place.line), QString::number(mPrevious.place.column),
+                      QString::number(mPrevious.lineCount()), expected, QString::number(mCurrent.place.line),
+                      QString::number(mCurrent.place.column), mCurrent.toString()));
+    } else if (isOpen && mLongText.kind == Kind::Text) {
+        fail(mCurrent.place, QStringLiteral("the text that begins here has no end: expected a closing \", here or in "
+                                            "the text that began in %1:%2 and runs over %3 lines")
+                                 .arg(mLongText.place.line)
+                                 .arg(mLongText.place.column)
+                                 .arg(mLongText.lineCount()));
+    } else if (isOpen) {
         fail(mCurrent.place, QStringLiteral("the text that begins here has no end: expected a closing \""));
     } else if (mCurrent.kind == Kind::BadNumber) {
         fail(mCurrent.place,
              mCurrent.toString() + QLatin1String(" is no number and no name: a name begins with a letter"));
     } else {
-        fail(mCurrent.place, QLatin1String("expected ") + expected + QLatin1String(", found ") + mCurrent.toString());
+        fail(mCurrent.place,
+             QLatin1String("expected ") + expected + QLatin1String(", found ") + mCurrent.toString() + hint());
+    }
+}
+
+/** How to write what other languages write as the current token. */
+QString FTokenStream::hint() const {
+    const bool isAdjacent = mPrevious.begin + mPrevious.text.size() == mCurrent.begin;
+    const Kind before = isAdjacent ? mPrevious.kind : Kind::End;
+    const bool isOperator =
+        before == Kind::Plus || before == Kind::Minus || before == Kind::Star || before == Kind::Slash;
+    if (mCurrent.text == QStringView(u"#")) {
+        return QStringLiteral(" (a comment begins with //)");
+    }
+    if (mCurrent.text == QStringView(u"'")) {
+        return QStringLiteral(" (a text is between double quotes: \"text\")");
+    }
+    if (mCurrent.kind == Kind::Assign && isOperator) {
+        return QStringLiteral(" (instead of \"k %1= 1\" write \"k = k %1 1\")").arg(mPrevious.text.toString());
+    }
+    if (mCurrent.kind == Kind::LeftBracket &&
+        (before == Kind::Name || before == Kind::RightParen || before == Kind::RightBracket)) {
+        return QStringLiteral(" (an element of a list is list.at(0), list.at(1), …)");
+    }
+    return {};
+}
+
+/** Takes down that a number is read differently from how it is written. */
+void FTokenStream::warn(const FPlace& place, const QString& message) {
+    constexpr std::size_t most = 20;
+    if (!mError && mWarnings.size() < most) {
+        mWarnings.push_back({place, message});
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "host/script/FLexer.h"
 #include "host/script/FSyntaxError.h"
@@ -57,6 +59,9 @@ class FTokenStream {
 
     void failExpected(const QString& expected);
     void fail(const FPlace& place, const QString& message);
+    /** Remembers a warning, of which only the first ones are kept. */
+    void warn(const FPlace& place, const QString& message);
+    std::vector<FSyntaxError> takeWarnings() { return std::move(mWarnings); }
     bool hasFailed() const { return mError.has_value(); }
 
     /** The error; the stream goes on after that. */
@@ -78,13 +83,16 @@ class FTokenStream {
     void skipStatement(const FToken& begin, FSkipTo to);
 
  private:
+    QString hint() const;
     void beginSkipping(const FToken& begin);
     bool canGoOn(const FToken& begin, FSkipTo to, bool isInBraces) const;
 
     FLexer mLexer;
     FToken mCurrent;
     FToken mPrevious;
+    FToken mLongText;  //!< the last text over several lines that ends where another seems to begin
     std::optional<FSyntaxError> mError;
+    std::vector<FSyntaxError> mWarnings;
     int mNesting = 0;
     int mTokenCount = 0;
     int mReadBefore = -1;  //!< position of the last error from which reading went back by whole lines

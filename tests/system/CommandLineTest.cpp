@@ -17,6 +17,7 @@ TEST_F(CommandLineTest, wrongCallsAreReportedWithCode2) {
         EXPECT_NE(outcome.errors, "");
     }
     EXPECT_TRUE(merix({"scrpt"}).errors.contains("\"scrpt\" is neither a subcommand"));
+    EXPECT_TRUE(merix({"commands", "getElementAtt"}).errors.contains("did you mean \"getElementAt\"?"));
     EXPECT_TRUE(merix({"commands", "FGenIntFil"}).errors.contains("did you mean \"FGenIntFile\"?"));
 }
 
@@ -77,6 +78,49 @@ TEST_F(CommandLineTest, strictEndsAScriptAtTheFirstStatementThatWarns) {
     const Outcome good = merix({"script", "--strict", "-", "--strict"}, "print(arguments)\n");
     EXPECT_EQ(good.exitCode, 0);
     EXPECT_EQ(good.output, "[--strict]\n") << "after FILE it is an argument of the script";
+}
+
+TEST_F(CommandLineTest, theReferenceFindsCommandsByName) {
+    const QString list = merix({"commands"}).output;
+    const QString full = merix({"commands", "--full"}).output;
+    EXPECT_TRUE(list.contains("\n  .setFileName(string ")) << list.toStdString();
+    EXPECT_FALSE(list.contains("setDbId")) << "only for the program itself";
+    EXPECT_LT(3 * list.size(), full.size());
+    const QString found = merix({"commands", "getelementat"}).output;
+    EXPECT_EQ(found.count("\n.getElementAt("), 4) << found.toStdString();
+    EXPECT_FALSE(found.contains("\n.getRowNames(")) << found.toStdString();
+    EXPECT_TRUE(full.contains("\n.setDbId("));
+}
+
+TEST_F(CommandLineTest, outputThatCantBeWrittenEndsTheProgramWithCode3) {
+    write("print.merix", "x = [print(1), exit(0)]\nprint(2)\n");
+    for (const QString call : {"script print.merix > /dev/full", "commands > /dev/full", "script print.merix >&-"}) {
+        QProcess shell;
+        shell.setWorkingDirectory(path());
+        shell.start("sh", {"-c", "\"$0\" " + call, MERIX_PROGRAM});
+        ASSERT_TRUE(shell.waitForFinished());
+        EXPECT_EQ(shell.exitCode(), 3) << call.toStdString();
+        const QByteArray errors = shell.readAllStandardError();
+        EXPECT_EQ(errors.count("error: standard output: can't write to it"), 1) << errors.toStdString();
+    }
+}
+
+TEST_F(CommandLineTest, whatIsTooLargeForMemoryIsReported) {
+    QFile large(path("large.txt"));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(1'200'000'000));
+    const Outcome read = script("x = readText(\"large.txt\")\nprint(x)\ninclude(\"large.txt\")");
+    EXPECT_EQ(read.output, "NULL\n");
+    EXPECT_EQ(read.exitCode, 1);
+    EXPECT_TRUE(read.errors.contains("it has 1200000000 bytes, and at most 500000000")) << read.errors.toStdString();
+    EXPECT_TRUE(read.errors.contains("can't include")) << read.errors.toStdString();
+}
+
+TEST_F(CommandLineTest, aRepeatedMessageTakesOneLine) {
+    const Outcome outcome = script("for (i in [1, 2, 3]) { sqrt(\"x\") }\nopenProject(\"no.mrx\")\n");
+    EXPECT_EQ(outcome.errors.count("sqrt"), 1) << outcome.errors.toStdString();
+    EXPECT_TRUE(outcome.errors.contains("The result is NULL (3 times)\n")) << outcome.errors.toStdString();
+    EXPECT_TRUE(outcome.errors.contains("\nnote: test.merix:2:1: openProject returned false"))
+        << outcome.errors.toStdString();
 }
 
 TEST_F(CommandLineTest, theReferenceAsJsonHasThePresentation) {

@@ -142,6 +142,8 @@ TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
     const FExpr<FTableData> curve(results()->getImportedObjects().value("field"));
     ASSERT_TRUE(curve) << logText();
     EXPECT_EQ(curve->getElementAt(1, 0), 3);
+    EXPECT_EQ(textOf("comp.getResults().getImportedObject(\"field\").getElementAt(1, 0)"), "3");
+    EXPECT_EQ(textOf("comp.getResults().getImportedObjectNames()"), "[field]");
     results()->setOutputHandles({file("square"), file("console")});
     EXPECT_EQ(results()->getImportedObjects().value("field").toString(), "seen") << "the later template wins";
 }

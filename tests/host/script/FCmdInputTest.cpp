@@ -15,6 +15,7 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
         {"prnt(1)", "there is no function \"prnt\" (did you mean \"print\"?)"},
         {"span = 1", "is an object and can't be a variable"},
         {"span.noSuch()", "FThing has no command \"noSuch\""},
+        {"print(docuName)", "test:1:7: nothing is named \"docuName\" (did you mean \"DocuName\"?)"},
         {"thing a()\ndestroy(a)\nprint(a)", "test:3:7: the object \"a\" has been destroyed"},
     };
     for (const auto& [script, told] : errors) {
@@ -29,6 +30,10 @@ TEST_F(FCmdInputTest, errorsTellThePlaceAndTheNearestName) {
          "test:1:10: setNumber: there is no object to apply it to: at(0) of \"[]\" returned nothing"},
         {"x = span\nx.at(0)", "test:2:3: \"x\": FThing has no command \"at\""},
         {"span.at(0).count()", "test:1:6: \"span\": FThing has no command \"at\""},
+        {"x = 012", "warning: test:1:5: \"012\" is read as 12: zeros at the front have no meaning"},
+        {"x = 0.1234567890123456789",
+         "\"0.1234567890123456789\" is read as 0.12345678901234568: a number keeps about 16 digits"},
+        {"text = readText(\"/\")\nthing t()\nt.setNumber(text)", "but is NULL. \"t\" stays unchanged"},
         {"text = readText(\"missing.inp\")", "test:1:8: readText: can't read \"missing.inp\""},
         {"thing b()\ndestroy(b)\nundo()\nb.setNumber(\"1\")", "must be of type double, but is \"1\""},
     };
@@ -81,6 +86,13 @@ TEST_F(FCmdInputTest, aLongRowIsEvaluated) {
     const QString row = QStringLiteral("1") + QStringLiteral("+1").repeated(9'000);
     EXPECT_TRUE(run("thing a(" + row + ")"));
     EXPECT_EQ(textOf("a.getNumber()"), "9001");
+}
+
+TEST_F(FCmdInputTest, aTextThatGrowsLeavesItsEarlierValuesUnchanged) {
+    ASSERT_TRUE(
+        run("x = \"\"\ni = 0\nwhile (i < 2000) { x = x + \"a\"\n i = i + 1 }\ny = x + \"b\"\nz = x + \"c\"\n"
+            "w = y + \"d\"\nthing t()\nif (y == x + \"b\" && z == x + \"c\" && w == x + \"bd\") { t.setNumber(1) }"));
+    EXPECT_EQ(textOf("t.getNumber()"), "1");
 }
 
 TEST_F(FCmdInputTest, listsAndTextsThatGrowWithoutEndAreRefused) {

@@ -49,6 +49,15 @@ TEST(FStatementParserTest, statements) {
         {"}", "s:1:1: expected a statement, found \"}\"\n"},
         {"curFile : in1", "s:1:9: expected the end of the statement, found \":\"\n"},
         {"a\nb(\"x)\n", "a\ns:2:3: the text that begins here has no end: expected a closing \"\n"},
+        {"a(\"x)\nb()\nc(\"y\")",
+         "s:1:3: a text that began in 1:3 runs over 3 lines: is its closing \" missing? "
+         "(expected \")\" after the arguments in 3:4, found \"y\")\n"},
+        {"# a", "s:1:1: expected a value, found \"#\" (a comment begins with //)\n"},
+        {"a('x')", "s:1:3: expected a value, found \"'\" (a text is between double quotes: \"text\")\n"},
+        {"k += 1", "s:1:4: expected a value, found \"=\" (instead of \"k += 1\" write \"k = k + 1\")\n"},
+        {"x = k[0]",
+         "s:1:6: expected the end of the statement, found \"[\" (an element of a list is list.at(0), list.at(1), …)\n"},
+        {"for d in [1]", "s:1:5: expected \"(\" after \"for\", as in \"for (x in list)\", found \"d\"\n"},
     };
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(parsed(text), expected) << text;

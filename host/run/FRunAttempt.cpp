@@ -34,7 +34,7 @@ FRunAttempt::FRunAttempt(FExternComputation* computation, const FProcessSetup& s
       mReadFiles(readFiles),
       mFurtherFiles(further),
       mRules(computation->getSuccessRules()),
-      mInterruptLine(computation->getName(), QStringLiteral("Interrupted while its run was in progress"),
+      mInterruptLine(std::in_place, computation->getName(), QStringLiteral("Interrupted while its run was in progress"),
                      QStringLiteral("Its unfinished files are in '%1'").arg(record()->folder)),
       mFolder(setup.workingFolder, earlier),
       mStore(earlier) {
@@ -156,6 +156,7 @@ void FRunAttempt::finish() {
     }
     // This object is the receiver of the signal being handled, and may hold the last handle on the computation.
     const std::shared_ptr<FRunAttempt> self = mComputation->endRun();
+    mInterruptLine.reset();
     mComputation->stateChanged(results);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [self] {}, Qt::QueuedConnection);

@@ -6,6 +6,8 @@
 #include "host/run/FRunFolder.h"
 #include "host/run/FRunStore.h"
 
+#include <optional>
+
 class FComputationResults;
 class FExternComputation;
 class FResultsGeneric;
@@ -58,7 +60,7 @@ class FRunAttempt : public QObject {
     QStringList mReadFiles;
     QStringList mFurtherFiles;
     FSuccessRules mRules;
-    FInterruptLine mInterruptLine;
+    std::optional<FInterruptLine> mInterruptLine;  // empty after the end: the object itself may live a little longer
     FRunFolder mFolder;
     FRunStore mStore;
     bool mHasRoom = false;    // the files of the run before were moved aside

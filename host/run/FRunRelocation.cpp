@@ -43,9 +43,11 @@ void FRunRelocation::moveAll() const {
     QStringList places;
     for (FManaged* object : FObjectManager::instance()->getManaged(FComputationResults::null())) {
         const auto* results = dynamic_cast<const FComputationResults*>(object);
-        const QString place = results->getResultPath().mid(mFrom.size() + 1).chopped(1);
-        const bool isHere = results->getResultPath().startsWith(mFrom + slash) && place.count(slash) == 1;
-        if (isHere && !isInProgress(*results) && !places.contains(place) && QDir(mFrom + slash + place).exists()) {
+        const QString path = results->getResultPath();
+        const QString place =
+            path.startsWith(mFrom + slash) ? path.mid(mFrom.size() + 1, path.size() - mFrom.size() - 2) : QString();
+        if (place.count(slash) == 1 && !isInProgress(*results) && !places.contains(place) &&
+            QDir(mFrom + slash + place).exists()) {
             places.append(place);
         }
     }

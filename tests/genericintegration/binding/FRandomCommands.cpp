@@ -72,6 +72,15 @@ FRandomCommands::FRandomCommands(quint32 seed, const QStringList& files) : mRand
     }
 }
 
+void FRandomCommands::favourRest(const QSet<const FCmdRow*>& executed) {
+    mFavoured.clear();
+    for (const FCmdRow* row : getActingRows()) {
+        if (!executed.contains(row)) {
+            mFavoured.insert(row);
+        }
+    }
+}
+
 const FCmdRow* FRandomCommands::pickRow(const std::vector<const FCmdRow*>& rows,
                                         const std::function<bool(const FCmdRow&)>& fits) {
     std::vector<const FCmdRow*> fitting;
@@ -218,6 +227,9 @@ QString FRandomCommands::listOf(int most, const std::function<QString()>& elemen
 QString FRandomCommands::listArgument(const FCmdType& type, int depth) {
     if (type.script == "stringContainer") {
         return listOf(3, [this] { return quoteText(text("content")); });
+    }
+    if (type.script == "intContainer") {
+        return listOf(3, [this] { return QString::number(pick(4)); });
     }
     if (type.isHandle) {
         // What is written as a list of lists: a record of names, numbers and places.

@@ -20,6 +20,8 @@ class FRandomCommands {
 
     /** The rows that statements are made of. */
     static std::vector<const FCmdRow*> getActingRows();
+    /** Favours the rows that haven't been executed yet. */
+    void favourRest(const QSet<const FCmdRow*>& executed);
 
     /** A statement; the row that it tries is `getLastRow()`, or null where there are several. */
     QString statement();

@@ -66,8 +66,8 @@ class UndoTest : public FModelTest, public FTestFolder {
                 "parameter t4(2)",
                 R"(genericIntegrationDefinition t2() { .addEntry("a", 1) .addEntry("G|b", "x") .addEntry("n", 2, 5, 1);
                        .setFiles([t0, t1]) })",
-                "genericIntegrationConfiguration t3() { .setDefinition(t2) .setEntryValue(\"a\", t4 * 3) }",
-                R"(genericIntegrationComputation t5() { .setConfiguration(t3) .setExecutable("sh");
+                "genericIntegrationConfiguration t3() { .setDefinition(t2); .setEntryValue(\"a\", t4 * 3) }",
+                R"(genericIntegrationComputation t5() { .setConfiguration(t3); .setExecutable("sh");
                        .setArguments(["-c", "echo 1 > out.dat"]) })",
                 "t5.openSoftwareConnector()"};
     }
@@ -226,6 +226,9 @@ TEST_F(UndoTest, everyStateComesBack) {
     for (int seed = 0; seed < caseCount() && !HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         FRandomCommands commands = commandsOf(seed);
+        if (seed % 4 == 3) {
+            commands.favourRest(mCarriedOut);
+        }
         start(seed);
         for (int i = 0; i < sequenceLength && !HasFailure(); ++i) {
             const int kind = commands.pick(100);

@@ -86,9 +86,9 @@ void FRowAverages::addRow(Average& average, FColumn column, qint64 line, qint64 
     if (kept.rows.size() < FAverageRows::most) {
         const std::string_view text = last.range.of(mText.text());
         kept.texts += text.empty() ? last.text.toStdString() : std::string(text);
-        const qint64 column =
+        const qint64 place =
             mText.index().utf16At(last.range.begin) - mText.index().utf16At(lineBegin) + last.units + 1;
-        kept.rows.push_back({line, column, last.number, last.flags, static_cast<qint64>(kept.texts.size())});
+        kept.rows.push_back({line, place, last.number, last.flags, static_cast<qint64>(kept.texts.size())});
     }
 }
 

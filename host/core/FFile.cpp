@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <new>
 
 namespace {
@@ -19,7 +20,8 @@ QString valueOf(const QRegularExpressionMatch& match) {
 }
 
 bool startsAtHome(const QString& name) {
-    return name == QLatin1String("~") || name.startsWith(QLatin1String("~/"));
+    // Without the variable, Qt gives the root folder.
+    return !qEnvironmentVariableIsEmpty("HOME") && (name == QLatin1String("~") || name.startsWith(QLatin1String("~/")));
 }
 
 }  // namespace
@@ -55,15 +57,9 @@ QString FFile::readText(QFile& file, qint64 longest, QString& text) {
         return QStringLiteral("it has %1 bytes, and at most %2 can be read").arg(file.size()).arg(longest);
     }
     try {
-        QByteArray bytes;
-        bytes.reserve(static_cast<int>(file.size()) + 1);
-        // In pieces and not by its size: a file may grow, and those of the system say that they are empty.
-        constexpr qint64 piece = 1 << 20;
-        for (QByteArray next = file.read(piece); !next.isEmpty(); next = file.read(piece)) {
-            bytes += next;
-            if (bytes.size() > longest) {
-                return QStringLiteral("it has more than %1 bytes").arg(longest);
-            }
+        const QByteArray bytes = readAtMost(file, longest + 1);
+        if (bytes.size() > longest) {
+            return QStringLiteral("it has more than %1 bytes").arg(longest);
         }
         if (file.error() != QFileDevice::NoError) {
             return file.errorString();
@@ -73,6 +69,21 @@ QString FFile::readText(QFile& file, qint64 longest, QString& text) {
         return QStringLiteral("there isn't enough memory for its %1 bytes").arg(file.size());
     }
     return {};
+}
+
+QByteArray FFile::readAtMost(QIODevice& device, qint64 most) {
+    constexpr qint64 largestBlock = qint64{1} << 20U;
+    QByteArray bytes;
+    if (!device.isSequential()) {
+        bytes.reserve(static_cast<int>(std::min(device.size() - device.pos(), most)));
+    }
+    QByteArray block;
+    do {
+        // With a size, it allocates that size first.
+        block = device.read(std::min(largestBlock, most - bytes.size()));
+        bytes += block;
+    } while (!block.isEmpty());
+    return bytes;
 }
 
 QString FFile::realPath(const QString& path) {

@@ -12,7 +12,8 @@ class MERIX_EXPORT FFile {
  public:
     /**
      * Replaces `$NAME`, `${NAME}` and `%NAME%` by the values of environment variables, and a leading `~` by the user's
-     * home folder. References to variables that don't exist stay unchanged. Values are not expanded again.
+     * home folder. References to variables that don't exist stay unchanged, as does `~` without `$HOME`. Values are not
+     * expanded again.
      */
     static QString resolveEnv(const QString& name);
 
@@ -27,6 +28,8 @@ class MERIX_EXPORT FFile {
      * also if the file has more than `longest` bytes, else an empty text.
      */
     static QString readText(QFile& file, qint64 longest, QString& text);
+    /** The next bytes of an open device, up to `most`. Takes only as much memory as there are bytes. */
+    static QByteArray readAtMost(QIODevice& device, qint64 most);
 
     /** The absolute path of a file. If the path leads to it through links, the path of the file itself. */
     static QString realPath(const QString& path);

@@ -16,6 +16,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 const char* const header = "// merix project, format ";
@@ -66,8 +68,8 @@ bool FProjectText::load(const QString& path) {
         return refuse(path, QStringLiteral("can't read the project: ") + fault,
                       QStringLiteral("give the name of a project, such as \"wing.mrx\"; the present one is unchanged"));
     }
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (bytes.size() > largestFile) {
+    const QByteArray bytes = file.size() > largestFile ? QByteArray() : FFile::readAtMost(file, largestFile + 1);
+    if (std::max(file.size(), qint64{bytes.size()}) > largestFile) {
         return refuse(path, tooLarge(file.size()), QStringLiteral("the present project is unchanged"));
     }
     if (const int line = FTextDecoder::firstInvalidLine(bytes)) {

@@ -38,9 +38,10 @@ class FRandomExpression {
         if (below(4) == 0 && depth < 3) {
             return (below(2) == 0 ? "(" : "(?:") + expression(depth + 1) + ')';
         }
-        return pick({"a",       "b",   "c",      "1",     ",",   ";",   " ",    ".",     "\\.",    "\\d",
-                     "\\D",     "\\s", "\\S",    "\\w",   "\\W", "\\t", "[ab]", "[^ab]", "[a-c1]", "[\\s,]",
-                     "[^\\d;]", "\\b", "\u00E4", "(?=b)", "\\1", "^",   "$",    "[-,]"});
+        // Without lookahead, whose memory QRegExp doesn't free.
+        return pick({"a",       "b",   "c",      "1",   ",",   ";",   " ",    ".",     "\\.",    "\\d",
+                     "\\D",     "\\s", "\\S",    "\\w", "\\W", "\\t", "[ab]", "[^ab]", "[a-c1]", "[\\s,]",
+                     "[^\\d;]", "\\b", "\u00E4", "b",   "\\1", "^",   "$",    "[-,]"});
     }
 
     std::mt19937 mRandom;

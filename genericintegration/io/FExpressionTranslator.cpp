@@ -1,5 +1,7 @@
 #include "genericintegration/io/FExpressionTranslator.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <functional>
 #include <vector>

@@ -262,6 +262,9 @@ QString FRandomCommands::text(const QString& argumentName) {
     if (argumentName == "newName") {
         return pick(entryNames);
     }
+    if (argumentName == "treatment") {
+        return pick(QStringList{"accept", "warn", "fail"});
+    }
     if (argumentName == "area") {
         return pick(FEnum<FDocuArea>().getStringValues());
     }

@@ -15,5 +15,6 @@ FExprBase FAttribCmdSetAverageRows::execute() const {
 
 void FAttribCmdSetAverageRows::getAttrValue(FExprBase& value) const {
     const FExpr<FGenIntResultsFile> file = mpEditor ? mpEditor->getResultsFile() : nullptr;
-    value = file ? FExprBase(file->getCurNumAverageRows()) : FExprBase(new FUnsigned(0));
+    const FExpr<FUnsigned> rows = file ? file->getCurNumAverageRows() : FExpr<FUnsigned>(new FUnsigned(0));
+    value = static_cast<const FExprBase&>(rows);
 }

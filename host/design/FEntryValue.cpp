@@ -4,6 +4,8 @@
 #include "host/core/FHistory.h"
 #include "host/core/FNull.h"
 #include "host/design/FEntry.h"
+#include "host/design/FFileReference.h"
+#include "host/design/FGeometryExport.h"
 #include "host/design/FParameter.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdType.h"
@@ -16,12 +18,24 @@ bool isInteger(const FObject* value) {
     return objectCast<FInteger>(value) && !objectCast<FEnumBase>(value);
 }
 
+bool hasParts(const FClassData* type) {
+    return type && (type->mpNull->isTypeOf(FFileReference::null()) || type->mpNull->isTypeOf(FGeometryExport::null()));
+}
+
+/** A call that makes a value with parts. One that would read a file for it stays an expression. */
 bool makesValue(const FObject* object) {
     const auto* command = objectCast<FCmd>(object);
     const FCmdRow* row = command ? command->getRow() : nullptr;
-    return row && row->kind == FCmdRow::Kind::Global && row->isQuery() && !row->arguments.empty() &&
-           std::all_of(row->arguments.begin(), row->arguments.end(),
-                       [](const FCmdArgument& argument) { return argument.type.isKept; });
+    if (!row || row->kind != FCmdRow::Kind::Global || !hasParts(row->returnType.cls)) {
+        return false;
+    }
+    const std::vector<FExprBase>& given = command->getArguments();
+    for (std::size_t i = 0; i < std::min(given.size(), row->arguments.size()); ++i) {
+        if (!row->arguments[i].type.isKept && !given[i].canSafelyBeUpdated(false)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace

@@ -8,7 +8,8 @@
 
 /**
  * The handle as the value of an entry: empty for script `NULL`, a double for an integer, and for a call that makes a
- * value whose parts stay expressions, such as `inputFile(…)`, the value itself. Nothing else is evaluated.
+ * value whose parts stay expressions, such as `inputFile(…)`, the value itself. Nothing else is evaluated, and no file
+ * is read.
  */
 MERIX_EXPORT FExprBase entryValue(const FExprBase& given);
 

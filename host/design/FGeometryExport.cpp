@@ -9,23 +9,19 @@
 
 namespace {
 
-FExpr<FGeometryExport> makeExport(const FKeptExpression& fileName, const FKeptExpression& kind,
-                                  const FKeptExpression& source) {
-    const auto* name = dynamic_cast<const FString*>(valueObject(fileName.expression));
-    const auto* number = dynamic_cast<const FDouble*>(valueObject(kind.expression));
-    if (!name || !number || number->toInt() < 0 || number->toInt() > 2) {
+FExpr<FGeometryExport> makeExport(const QString& fileName, int kind, const FExpr<FObject>& source) {
+    if (kind < 0 || kind > 2) {
         FCmd::warnNow(FGeometryExport::mClass.getName(),
-                      QStringLiteral("an export has a file name, a kind from 0 to 2 and what it exports"));
+                      QStringLiteral("the kind of an export is 0, 1 or 2, and not %1").arg(kind));
         return {};
     }
-    const FExpr<FGeometryExport> made(
-        new FGeometryExport(name->getValue(), static_cast<FGeometryExport::Kind>(number->toInt())));
-    FObject* object = source.expression.getObject();
+    const FExpr<FGeometryExport> made(new FGeometryExport(fileName, static_cast<FGeometryExport::Kind>(kind)));
+    FObject* object = source.getObject();
     FObjectList* list = object ? object->castToObjectList() : nullptr;
     if (list) {
         made->setGeometryObjects(FExpr<FObjectList>(list));
     } else if (object != FNull::null()) {
-        made->setFeatureDefinition(FExpr<FObject>(object));
+        made->setFeatureDefinition(source);
     }
     return made;
 }

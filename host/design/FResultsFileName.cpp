@@ -1,14 +1,19 @@
 #include "host/design/FResultsFileName.h"
 
 #include "host/design/FEntryValue.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
 namespace {
 
-FExpr<FResultsFileName> makeName(const FKeptExpression& fileName, const FKeptExpression& type) {
-    const auto* number = dynamic_cast<const FDouble*>(valueObject(type.expression));
-    const auto kind = static_cast<ResultsFileType>(number ? number->toInt() : 0);
-    return FExpr<FResultsFileName>(new FResultsFileName(fileName.orEmpty(), kind));
+FExpr<FResultsFileName> makeName(const FKeptExpression& fileName, unsigned int type) {
+    constexpr auto last = static_cast<unsigned int>(ResultsFileType::Mesh);
+    if (type > last) {
+        FCmd::warnNow(FResultsFileName::mClass.getName(),
+                      QStringLiteral("the type of a file is a number from 0 to %1, and not %2").arg(last).arg(type));
+        return {};
+    }
+    return FExpr<FResultsFileName>(new FResultsFileName(fileName.orEmpty(), static_cast<ResultsFileType>(type)));
 }
 
 void commands(FCmdTable& table) {

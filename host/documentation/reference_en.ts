@@ -2340,23 +2340,23 @@ print(format(7, "%03d") + ".dat", format("wing", "%-8s|"))</translation>
         <translation>The formatted text.</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL)</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL)</source>
         <translation>Objects of the project that are written as script text into the folder of a run before the program starts, as the value of an entry. A run fails if the file can't be written or would lie outside of the folder.</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument0</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):argument0</source>
         <translation>The name of the written file, relative to the folder of the run.</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument1</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):argument1</source>
         <translation>0 for a list of objects, 1 for what a feature definition makes, 2 for what an import has brought.</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):argument2</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):argument2</source>
         <translation>The list of objects for kind 0, else the one object; NULL for none yet.</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):example</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):example</source>
         <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 parameter span(12.5)
@@ -2364,7 +2364,7 @@ wing.addEntry("shape", geometryExport("shape.txt", 0, [span]))
 print(cruise.getEntryValue("shape"))</translation>
     </message>
     <message>
-        <source>!Global.geometryExport(expression,fileName,expression,kind=0,expression,source=NULL):returnValue</source>
+        <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):returnValue</source>
         <comment>return type: FGeometryExport</comment>
         <translation>The export, as a value.</translation>
     </message>
@@ -2666,26 +2666,26 @@ print(span.getValue())</translation>
         <translation>False if nothing was taken back.</translation>
     </message>
     <message>
-        <source>!Global.resultsFileName(expression,fileName,expression,type=0)</source>
+        <source>!Global.resultsFileName(expression,fileName,unsigned,type=0)</source>
         <translation>A file that the program leaves in the folder of a run, as the value of an entry. The tag of the entry becomes the name. After the run, getResultFileName gives the path of the file.</translation>
     </message>
     <message>
-        <source>!Global.resultsFileName(expression,fileName,expression,type=0):argument0</source>
+        <source>!Global.resultsFileName(expression,fileName,unsigned,type=0):argument0</source>
         <translation>The name, relative to the folder of the run.</translation>
     </message>
     <message>
-        <source>!Global.resultsFileName(expression,fileName,expression,type=0):argument1</source>
+        <source>!Global.resultsFileName(expression,fileName,unsigned,type=0):argument1</source>
         <translation>3 for pure text, 0 for any kind.</translation>
     </message>
     <message>
-        <source>!Global.resultsFileName(expression,fileName,expression,type=0):example</source>
+        <source>!Global.resultsFileName(expression,fileName,unsigned,type=0):example</source>
         <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 wing.addEntry("pressures", resultsFileName("cp.dat", 3))
 print(cruise.getEntryValue("pressures"))</translation>
     </message>
     <message>
-        <source>!Global.resultsFileName(expression,fileName,expression,type=0):returnValue</source>
+        <source>!Global.resultsFileName(expression,fileName,unsigned,type=0):returnValue</source>
         <comment>return type: FResultsFileName</comment>
         <translation>The file, as a value.</translation>
     </message>

@@ -11,6 +11,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -74,6 +75,12 @@ FExprBase FCmd::getValue() const {
 const FObject* FCmd::getEvaluatedType() const {
     const FClassData* result = mpRow ? mpRow->returnType.cls : nullptr;
     return result ? result->mpNull : FObject::null();
+}
+
+// Arguments that the result keeps as expressions are evaluated when somebody asks for them.
+bool FCmd::updatesSuppliersItself() const {
+    return !mKept || (mpRow && std::any_of(mpRow->arguments.begin(), mpRow->arguments.end(),
+                                           [](const FCmdArgument& argument) { return argument.type.isKept; }));
 }
 
 bool FCmd::isSafeAlone(bool mayReadFiles) const {

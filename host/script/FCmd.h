@@ -70,7 +70,7 @@ class MERIX_EXPORT FCmd : public FClass<FCmd, FObject> {
  protected:
     /** The class data of the row's command class; those of the C++ class for the prototype of the family. */
     const FClassData& classOfRow(const FClassData& family) const;
-    bool updatesSuppliersItself() const override { return !mKept; }
+    bool updatesSuppliersItself() const override;
     bool isSafeAlone(bool mayReadFiles) const override;
     std::vector<FExprBase> getOperands() const override { return mArguments; }
     /** Executes the command. An empty handle is the null result. */

@@ -1,4 +1,5 @@
 #include "host/core/FHistory.h"
+#include "host/core/FQuotedText.h"
 #include "host/core/FUserStep.h"
 #include "host/design/FEntryDef.h"
 #include "host/design/FGeometryExport.h"
@@ -6,6 +7,7 @@
 #include "host/design/FParameter.h"
 #include "host/design/FResultsFileName.h"
 #include "tests/host/design/FEntryFixture.h"
+#include "tests/support/FTestFolder.h"
 
 namespace {
 
@@ -107,6 +109,22 @@ TEST_F(FConfigurationTest, countsCannotFillTheMemory) {
     run("def.addEntry(\"a\", NULL, 1000)\ndef.addEntry(\"a|b\", NULL, 1000)\ndef.addEntry(\"a|b|c\", 1, 1000)");
     EXPECT_TRUE(logHolds("would make more than 100000 entries"));
     EXPECT_LE(paths().size(), 100'002);
+}
+
+TEST_F(FConfigurationTest, aValueIsSetWithoutReadingFiles) {
+    const FTestFolder folder;
+    const QString text = "readText(" + quoteText(folder.path("late")) + ")";
+    run("def.addEntry(\"mesh\", \"\")");
+    for (const char* value : {"inputFile(%1)", "geometryExport(%1)", "geometryExport(\"name\",%1.length()-4)",
+                              "geometryExport(\"name\",1,%1)", "resultsFileName(\"name\",%1.length())"}) {
+        const QString expression = QString(value).arg(text);
+        run("conf.setEntryValue(\"mesh\", " + expression + ")");
+        EXPECT_EQ(log(), QStringList()) << value;
+        EXPECT_EQ(configuration().furtherSavedCommands().last(), "setEntryValue(\"mesh\"," + expression + ")");
+    }
+    folder.write("late", "name");
+    const FObject* value = configuration().getValueEntry("mesh")->getValueObject();
+    EXPECT_EQ(dynamic_cast<const FResultsFileName*>(value)->getType(), ResultsFileType::Mesh);
 }
 
 TEST_F(FConfigurationTest, aValueChangedInPlaceIsUndone) {

@@ -15,6 +15,9 @@ bool FManaged::mInitPrototype = false;
 
 namespace {
 
+/** Far enough from the largest number that numbers of new objects don't get there. */
+constexpr int largestDbId = 1'000'000'000;
+
 std::vector<FExprBase>& parents() {
     static std::vector<FExprBase> stack;
     return stack;
@@ -136,7 +139,7 @@ void FManaged::registerObject() {
 }
 
 bool FManaged::restoreDbId(int id) {
-    if (!mInModel || id <= 0 || !FMerixCtrl::instance()->isLoadingProject()) {
+    if (!mInModel || id <= 0 || id > largestDbId || !FMerixCtrl::instance()->isLoadingProject()) {
         return false;
     }
     // Whoever has the number got it while the project was being read; its own may come with one of the next lines.

@@ -1,16 +1,18 @@
 #include "host/core/FSavedFile.h"
 
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FSavingFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+
+#include <cerrno>
 
 namespace {
 
 constexpr qint64 blockSize = qint64{1} << 20;
 
-using Fill = std::function<bool(QSaveFile&)>;
+using Fill = std::function<bool(QFile&)>;
 
 bool isThere(const QString& path) {
     const QFileInfo file(path);
@@ -18,11 +20,11 @@ bool isThere(const QString& path) {
 }
 
 Fill bytesOf(const QByteArray& bytes) {
-    return [&bytes](QSaveFile& file) { return file.write(bytes) == bytes.size(); };
+    return [&bytes](QFile& file) { return file.write(bytes) == bytes.size(); };
 }
 
 Fill restOf(QFile& source) {
-    return [&source](QSaveFile& file) {
+    return [&source](QFile& file) {
         QByteArray block;
         do {
             block = source.read(blockSize);
@@ -34,27 +36,56 @@ Fill restOf(QFile& source) {
     };
 }
 
-QString replace(const QString& path, const Fill& fill, const FSavedFile::Step& beforeReplacing = {}) {
-    if (FMerixCtrl::instance()->isReadOnly()) {
-        return {};
+/** The file that a link leads to, which needn't exist. */
+QString targetOf(const QString& path) {
+    constexpr int mostLinks = 100;
+    QFileInfo file(path);
+    for (int i = 0; i < mostLinks && file.isSymLink(); ++i) {
+        file.setFile(file.symLinkTarget());
     }
-    QSaveFile file(path);
-    // A commit overlooks that its own flush failed.
-    if (!file.open(QIODevice::WriteOnly) || !fill(file) || !file.flush()) {
+    return file.isSymLink() ? path : file.filePath();
+}
+
+/** Writes the new file and has it replace the old one. */
+QString writeAndReplace(QFile& file, const QString& path, const Fill& fill, const FSavedFile::Step& beforeReplacing) {
+    if (!fill(file) || !file.flush()) {
         return FSavedFile::reasonOf(file);
     }
     const QString reason = beforeReplacing ? beforeReplacing() : QString();
-    if (!reason.isEmpty()) {
-        return reason;
+    return reason.isEmpty() && !FSavingFile::replace(file, path) ? qt_error_string(errno) : reason;
+}
+
+QString replace(const QString& name, const Fill& fill, const FSavedFile::Step& beforeReplacing = {}) {
+    if (FMerixCtrl::instance()->isReadOnly()) {
+        return {};
     }
-    return file.commit() ? QString() : FSavedFile::reasonOf(file);
+    const QString path = targetOf(name);
+    const QFileInfo old(path);
+    if (old.isDir()) {
+        return QStringLiteral("it is a folder");
+    }
+    if (old.exists() && !old.isWritable()) {
+        return QStringLiteral("the existing file \"%1\" is write-protected").arg(path);
+    }
+    QFile file;
+    if (!FSavingFile::open(file, path)) {
+        return file.errorString();
+    }
+    if (old.exists()) {
+        file.setPermissions(old.permissions());
+    }
+    QString reason = writeAndReplace(file, path, fill, beforeReplacing);
+    if (!reason.isEmpty()) {
+        file.remove();
+    }
+    return reason;
 }
 
 QString replaceBeside(const QString& path, QFile::Permissions permissions, const Fill& fill) {
     if (QFile link(path); QFileInfo(path).isSymLink() && !link.remove()) {
         return link.errorString();
     }
-    return replace(path, [&](QSaveFile& file) {
+    return replace(path, [&](QFile& file) {
         // Not every file system has permissions. Without the owner's, the file couldn't be replaced the next time.
         file.setPermissions(permissions | QFileDevice::WriteOwner);
         return fill(file);
@@ -87,6 +118,11 @@ QString FSavedFile::keep(QFile& original, const QString& path) {
 QString FSavedFile::keep(const QString& original, const QString& path) {
     QFile source(original);
     return source.open(QIODevice::ReadOnly) ? keep(source, path) : source.errorString();
+}
+
+bool FSavedFile::holds(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.size() == bytes.size() && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
 }
 
 QString FSavedFile::reasonOf(const QFileDevice& file) {

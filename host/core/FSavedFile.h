@@ -33,6 +33,8 @@ class MERIX_EXPORT FSavedFile {
     static QString keep(QFile& original, const QString& path);
     static QString keep(const QString& original, const QString& path);
 
+    /** Whether a file has exactly these bytes. */
+    static bool holds(const QString& path, const QByteArray& bytes);
     /** Why a file doesn't take what is written to it. Some full disks give no error code. */
     static QString reasonOf(const QFileDevice& file);
     /** `path`, or the first of path2, path3 … that doesn't exist, not even as a broken link. */

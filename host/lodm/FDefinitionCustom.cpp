@@ -4,6 +4,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSavedFile.h"
+#include "host/core/FSavingFile.h"
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/lodm/FLodmLeftOut.h"
@@ -66,8 +67,7 @@ bool FDefinitionCustom::openSaveFile(QFile& file) const {
     if (mSaveFileName.isEmpty()) {
         return false;
     }
-    file.setFileName(FSavedFile::freeName(FFile::realPath(mSaveFileName) + QStringLiteral(".part")));
-    return file.open(QIODevice::ReadWrite | QIODevice::NewOnly);
+    return FSavingFile::open(file, FFile::realPath(mSaveFileName));
 }
 
 bool FDefinitionCustom::closeSaveFile(QFile& file, bool isWritten) const {

@@ -30,10 +30,9 @@ class MERIX_EXPORT FDefinitionCustom : public FClass<FDefinitionCustom, FDefinit
     virtual bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const;
 
     /**
-     * Opens a new file beside the exchange file, named after it with ".part" and a number if that name is taken.
-     * `closeSaveFile` then puts it in place. If the definition has no exchange file and there are windows, the user
-     * chooses one, which the definition then has. Returns false, without a message, if it has none, or if the new file
-     * can't be opened.
+     * Opens a new file beside the exchange file (see FSavingFile). `closeSaveFile` then puts it in place. If the
+     * definition has no exchange file and there are windows, the user chooses one, which the definition then has.
+     * Returns false, without a message, if it has none, or if the new file can't be opened.
      */
     bool openSaveFile(QFile& file) const;
     /**

@@ -32,15 +32,20 @@ FAutosave::FAutosave() {
     QObject::connect(changes, &FChanges::statementDone, this, &FAutosave::saveIfDue);
 }
 
-bool FAutosave::isNewer(const QString& project) {
-    const QFileInfo autosave(pathOf(project));
-    return autosave.exists() && autosave.lastModified() >= QFileInfo(project).lastModified();
+// The time doesn't count: a project gets a new one when it is copied or checked out.
+bool FAutosave::hasWork(const QString& project) {
+    QFile autosave(pathOf(project));
+    const bool isSameSize = autosave.size() == QFileInfo(project).size();
+    return QFileInfo(autosave).isFile() &&
+           !(isSameSize && autosave.open(QIODevice::ReadOnly) && FSavedFile::holds(project, autosave.readAll()));
 }
 
-void FAutosave::start(const QString& project, bool recovered) {
+void FAutosave::start(const QString& project, bool recovered, bool isDamaged) {
     mProject = project;
     mIsOwn = recovered;
     mIsRecovered = recovered;
+    mIsDamaged = isDamaged;
+    removeIfEqual();
     mHasFailed = false;
     mPause = 0;
     if (recovered) {
@@ -68,6 +73,7 @@ void FAutosave::saved() {
     }
     mIsOwn = false;
     mIsRecovered = false;
+    mIsDamaged = false;
 }
 
 void FAutosave::changed() {
@@ -109,20 +115,42 @@ void FAutosave::save() {
     moveForeignAside();
     QElapsedTimer duration;
     duration.start();
-    const QString fault = FSavedFile::writeBeside(mProject, pathOf(mProject), FProjectText::write());
+    const QString fault = keep(FProjectText::write());
     if (!fault.isEmpty() && !mHasFailed) {
         FLogMsg::warning(pathOf(mProject), QStringLiteral("can't keep unsaved work: %1").arg(fault),
                          QStringLiteral("save the project yourself, under another name if need be"));
     }
     mHasFailed = !fault.isEmpty();
-    mIsOwn = mIsOwn || fault.isEmpty();
     mPause = std::max(shortestPause, share * duration.elapsed());
     mSinceSave.start();
 }
 
+QString FAutosave::keep(const QByteArray& text) {
+    const QString path = pathOf(mProject);
+    if (FSavedFile::holds(mProject, text)) {
+        mIsOwn = mIsOwn && QFile::exists(path) && !QFile::remove(path);
+        return {};
+    }
+    const QString fault =
+        FSavedFile::writeBeside(mProject, path, mIsDamaged ? FProjectText::withNoteOfDamage(text) : text);
+    mIsOwn = mIsOwn || fault.isEmpty();
+    return fault;
+}
+
+void FAutosave::removeIfEqual() const {
+    const QString path = pathOf(mProject);
+    if (QFileInfo(path).isFile() && !hasWork(mProject)) {
+        QFile::remove(path);
+    }
+}
+
 void FAutosave::moveForeignAside() {
     const QString path = pathOf(mProject);
-    if (mProject.isEmpty() || mIsOwn || !QFile::exists(path)) {
+    if (mProject.isEmpty() || mIsOwn) {
+        return;
+    }
+    removeIfEqual();
+    if (!QFile::exists(path)) {
         return;
     }
     const QString aside = FSavedFile::freeName(path + QLatin1Char('~'));

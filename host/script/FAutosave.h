@@ -16,16 +16,17 @@ class MERIX_EXPORT FAutosave : public QObject {
     FAutosave();
 
     static QString pathOf(const QString& project) { return project + QStringLiteral(".autosave"); }
-    /** Whether there is unsaved work that is newer than the project. */
-    static bool isNewer(const QString& project);
+    /** Whether there is unsaved work, which is something other than the project. */
+    static bool hasWork(const QString& project);
     /** Whether that is of the project which is open here. */
     bool isOwnOf(const QString& project) const { return mIsOwn && mProject == project; }
 
     /**
      * From now on, changes are saved beside this project.
      * @param recovered  whether there are some already, which stay until the project is saved
+     * @param isDamaged  whether the project holds content that couldn't be read
      */
-    void start(const QString& project, bool recovered);
+    void start(const QString& project, bool recovered, bool isDamaged);
     /** Nothing is saved any more. What was saved goes, unless it was recovered or is to be kept. */
     void stop(bool keep);
     /** The project was saved: there is no unsaved work. */
@@ -42,12 +43,17 @@ class MERIX_EXPORT FAutosave : public QObject {
     qint64 wait() const;
     void saveSoon();
     void save();
+    /** Writes the text, unless it is that of the project: then there is no unsaved work. Returns why it can't. */
+    QString keep(const QByteArray& text);
     /** What a crash left, and nobody took, isn't overwritten. */
     void moveForeignAside();
+    /** Removes a file that has only what the project has. */
+    void removeIfEqual() const;
 
     QString mProject;  //!< empty: nothing is saved
     bool mIsOwn = false;
     bool mIsRecovered = false;
+    bool mIsDamaged = false;
     bool mHasFailed = false;
     bool mHasOpenStep = false;  //!< the last save was inside a step that is still open
     qint64 mPause = 0;          //!< shortest time from one save to the next, in ms

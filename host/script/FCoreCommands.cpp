@@ -6,6 +6,7 @@
 #include "host/core/FString.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
+#include "host/script/FProjectText.h"
 
 #include <QRegularExpression>
 
@@ -22,9 +23,22 @@ bool addDocu(FManaged& object, const QString& text, const QString& area) {
     return true;
 }
 
+// An exchange file has no numbers: there, a number would only take another object's.
+bool setDbId(FManaged& object, int id) {
+    if (!FProjectText::isBeingRestored()) {
+        return false;
+    }
+    if (!object.restoreDbId(id)) {
+        FCmd::warnNow(object.getClass(), QStringLiteral("%1 can't be the number of an object").arg(id),
+                      QStringLiteral("The object gets another one"));
+        return false;
+    }
+    return true;
+}
+
 void managedCommands(FCmdTable& table) {
     table.member<FManaged>("addDocu", &addDocu, {"text", "area"}).data();
-    table.member<FManaged>("setDbId", &FManaged::restoreDbId, {"id"}).hidden().systemFlag(2).data();
+    table.member<FManaged>("setDbId", &setDbId, {"id"}).hidden().systemFlag(2).data();
 }
 
 void listCommands(FCmdTable& table) {

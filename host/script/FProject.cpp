@@ -21,9 +21,11 @@ bool fail(const QString& source, const QString& message, const QString& advice) 
     return false;
 }
 
-bool holds(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.size() == bytes.size() && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
+/** When the unsaved work was kept. */
+QString timeOfWork(const QString& project) {
+    const QDateTime time = QFileInfo(FAutosave::pathOf(project)).lastModified();
+    const bool isOlder = time < QFileInfo(project).lastModified();
+    return time.toString(Qt::ISODate) + (isOlder ? QStringLiteral(" (the project is newer)") : QString());
 }
 
 }  // namespace
@@ -74,9 +76,9 @@ bool FProject::create() {
 bool FProject::open(const QString& path, bool recover) {
     // The file itself, so that it has one lock and one folder of results, whatever link names it.
     const QString file = FFile::realPath(path);
-    const bool hasNews = FAutosave::isNewer(file);
+    const bool hasNews = FAutosave::hasWork(file);
     const bool isOwn = mAutosave.isOwnOf(file);
-    const QString news = QFileInfo(FAutosave::pathOf(file)).lastModified().toString(Qt::ISODate);
+    const QString news = timeOfWork(file);
     const QString source = recover && hasNews ? FAutosave::pathOf(file) : file;
     FProjectText text;
     if (!isIdle("openProject") || !text.load(source)) {
@@ -89,7 +91,7 @@ bool FProject::open(const QString& path, bool recover) {
     if (errors > 0 && source != file) {
         keepDamaged(file, source);
     }
-    mIsDamaged = errors > 0 && source == file;
+    mIsDamaged = source == file ? errors > 0 : text.hasNoteOfDamage();
     use(file, recover && hasNews);
     mStamp = stamp;
     emit FChanges::instance()->projectOpened(file);
@@ -131,7 +133,7 @@ void FProject::use(const QString& file, bool recovered) {
     }
     switch (mLock.acquire(file)) {
         case FProjectLock::State::Held:
-            mAutosave.start(file, recovered);
+            mAutosave.start(file, recovered, mIsDamaged);
             break;
         case FProjectLock::State::Elsewhere:
             FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
@@ -198,14 +200,14 @@ bool FProject::save(const QString& path) {
 void FProject::takeOverIfFree() {
     const QString& file = FMerixCtrl::instance()->getProjectFile();
     if (!mLock.getHolder().isEmpty() && mLock.acquire(file) == FProjectLock::State::Held) {
-        mAutosave.start(file, false);
+        mAutosave.start(file, false, mIsDamaged);
     }
 }
 
 QString FProject::write(const QString& file) const {
     QString fault;
     const QByteArray bytes = FProjectText::write(&fault);
-    if (!fault.isEmpty() || holds(file, bytes)) {
+    if (!fault.isEmpty() || FSavedFile::holds(file, bytes)) {
         return fault;
     }
     return FSavedFile::write(file, bytes, [this, &file] { return keepPrevious(file); });

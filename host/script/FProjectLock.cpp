@@ -1,22 +1,58 @@
 #include "host/script/FProjectLock.h"
 
+#include "host/core/FLogMsg.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+namespace {
+
+constexpr int secondsToWrite = 3;
+
+QString nameOf(const QString& project) {
+    return project + QStringLiteral(".lock");
+}
+
+QString holderOf(const QLockFile& file, const QString& name) {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return file.getLockInfo(&process, &host, &program)
+               ? QStringLiteral("%1, process %2 on %3").arg(program).arg(process).arg(host)
+               : QStringLiteral("its lock \"%1\" can't be read").arg(name);
+}
+
+// Qt removes it only if no living process has it.
+bool removeUnreadable(QLockFile& file, const QString& project) {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    const QDateTime written = QFileInfo(nameOf(project)).lastModified();
+    const bool isOld = written.secsTo(QDateTime::currentDateTime()) > secondsToWrite;
+    if (file.getLockInfo(&process, &host, &program) || !isOld || !file.removeStaleLockFile()) {
+        return false;
+    }
+    FLogMsg::warning(project, QStringLiteral("the lock file was empty or damaged"),
+                     QStringLiteral("it was replaced, since no process of this computer has it"));
+    return true;
+}
+
+}  // namespace
+
 FProjectLock::State FProjectLock::acquire(const QString& project) {
     if (isHeldOn(project)) {
         return State::Held;
     }
     mHolder.clear();
-    auto file = std::make_unique<QLockFile>(project + QStringLiteral(".lock"));
+    auto file = std::make_unique<QLockFile>(nameOf(project));
     // A lock is stale only if its process is gone: a project may stay open for weeks.
     file->setStaleLockTime(0);
-    if (!file->tryLock(0)) {
-        qint64 process = 0;
-        QString host;
-        QString program;
+    const bool isFree = file->tryLock(0) || (removeUnreadable(*file, project) && file->tryLock(0));
+    if (!isFree) {
         if (file->error() != QLockFile::LockFailedError) {
             return State::None;
         }
-        file->getLockInfo(&process, &host, &program);
-        mHolder = QStringLiteral("%1, process %2 on %3").arg(program).arg(process).arg(host);
+        mHolder = holderOf(*file, nameOf(project));
         return State::Elsewhere;
     }
     mFile = std::move(file);

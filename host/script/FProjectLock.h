@@ -7,7 +7,11 @@
 
 #include <memory>
 
-/** Tells other processes that a project is open here, by a file `NAME.mrx.lock` beside it. */
+/**
+ * Tells other processes that a project is open here, by a file `NAME.mrx.lock` beside it. A lock counts as long as its
+ * process lives. One that can't be read, as after a crash of the computer, counts for a few seconds: its process may
+ * just be writing it.
+ */
 class MERIX_EXPORT FProjectLock {
  public:
     enum class State {

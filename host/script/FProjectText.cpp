@@ -15,12 +15,16 @@
 #include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
 namespace {
 
 const char* const header = "// merix project, format ";
+const char* const noteOfDamage = "// unsaved work on a file with content that couldn't be read\n";
+
+bool isRestoring = false;
 
 QString tooLarge(qint64 size) {
     const QLocale format = QLocale::c();
@@ -114,6 +118,20 @@ int FProjectText::restore() const {
     // No step: nothing can be undone beyond the opening of a project.
     const FHistoryBlocker blocker;
     const FProjectLoading loading;
+    const QScopedValueRollback<bool> restoring(isRestoring, true);
     FScriptNames names;
     return mWarnings + FSavedTextReader::read(mText, mPath, {true, false}, names);
+}
+
+bool FProjectText::isBeingRestored() {
+    return isRestoring;
+}
+
+QByteArray FProjectText::withNoteOfDamage(const QByteArray& text) {
+    QByteArray noted = text;
+    return noted.insert(noted.indexOf('\n') + 1, noteOfDamage);
+}
+
+bool FProjectText::hasNoteOfDamage() const {
+    return mText.midRef(mText.indexOf(QLatin1Char('\n')) + 1).startsWith(QLatin1String(noteOfDamage));
 }

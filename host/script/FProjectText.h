@@ -28,6 +28,13 @@ class MERIX_EXPORT FProjectText {
     bool load(const QString& path);
     /** Makes the objects that the loaded text declares; returns how many errors were reported. Nothing is run. */
     int restore() const;
+    /** True while the objects of a project are made. */
+    static bool isBeingRestored();
+
+    /** The text of unsaved work on a project whose file holds content that couldn't be read. */
+    static QByteArray withNoteOfDamage(const QByteArray& text);
+    /** Whether the loaded text has that note. */
+    bool hasNoteOfDamage() const;
 
  private:
     bool checkHeader();

@@ -267,7 +267,7 @@ TEST_F(FLodmDefinitionParserTest, aDefinitionIsSavedInOneStepOrNotAtAll) {
     QDir(folder.path()).mkpath("dir.lodm/sub");
     object<FDefinitionCustom>("d")->setSaveFileName(folder.path("dir.lodm"));
     EXPECT_FALSE(object<FDefinitionCustom>("d")->save());
-    EXPECT_TRUE(logHolds("dir.lodm\": Filename refers to a directory"));
+    EXPECT_TRUE(logHolds("dir.lodm\": it is a folder"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{"d.lodm", "dir.lodm"}));
 }

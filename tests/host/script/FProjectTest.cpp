@@ -23,6 +23,12 @@ class FProjectTest : public FModelTest, public FTestFolder {
     static bool save() { return FProject::instance()->save(QString()); }
     bool save(const QString& name) { return FProject::instance()->save(path(name)); }
     bool open(const QString& name, bool recover = false) { return FProject::instance()->open(path(name), recover); }
+    void setAge(const QString& name, int seconds) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(
+            file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime));
+    }
     /** The project p.mrx has an object a, whose number 1 is saved and 2 isn't. */
     void saveAndChange() {
         ASSERT_TRUE(run("thing a(1)"));
@@ -72,7 +78,7 @@ TEST_F(FProjectTest, whatALoopThatFailedHadAutosavedGoes) {
     ASSERT_TRUE(save("p"));
     EXPECT_FALSE(run("for (i in [2, 3]) { a.setNumber(i); noSuch() }"));
     EXPECT_EQ(textOf("a.getNumber()"), "1");
-    EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(1)"));
+    EXPECT_FALSE(has("p.mrx.autosave")) << "the project has what there is";
 }
 
 TEST_F(FProjectTest, namesInARingComeBack) {
@@ -136,11 +142,34 @@ TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
     ASSERT_TRUE(run("a.setNumber(9)"));
     ASSERT_TRUE(save());
     EXPECT_EQ(read("p.mrx.damaged"), damaged);
+    // So is one whose unsaved work is recovered after a crash.
+    write("crash.mrx", damaged);
+    EXPECT_FALSE(open("crash.mrx"));
+    ASSERT_TRUE(run("a.setNumber(7)"));
+    for (int crash = 0; crash < 2; ++crash) {
+        FProject::instance()->close(true);
+        ASSERT_TRUE(open("crash.mrx", true)) << logText();
+    }
+    ASSERT_TRUE(save());
+    EXPECT_EQ(read("crash.mrx.damaged"), damaged);
+    EXPECT_TRUE(read("crash.mrx").startsWith("// merix project, format 1\n\nthing a(7)"));
+    ASSERT_FALSE(open("none.mrx"));
+    EXPECT_TRUE(open("p.mrx"));
     // Unsaved work that couldn't be read whole is saved over at once.
     write("p.mrx.autosave", damaged);
     EXPECT_FALSE(open("p.mrx", true));
     EXPECT_EQ(read("p.mrx.damaged2"), damaged);
     EXPECT_TRUE(read("p.mrx").contains("thing a(9)"));
+}
+
+TEST_F(FProjectTest, aNumberThatNoObjectCanHaveIsTold) {
+    write("p.mrx",
+          "// merix project, format 1\nthing a(1) {\n.setDbId(2147483647)\n}\nthing b(2) {\n.setDbId(-3)\n}\n");
+    EXPECT_FALSE(open("p.mrx"));
+    EXPECT_TRUE(logHolds("p.mrx:3:2: setDbId: 2147483647 can't be the number of an object")) << logText();
+    EXPECT_TRUE(logHolds("p.mrx:6:2: setDbId: -3 can't be the number of an object")) << logText();
+    ASSERT_TRUE(run("thing c(3)"));
+    EXPECT_EQ(FObjectManager::instance()->find("c")->getDbId(), 3);
 }
 
 TEST_F(FProjectTest, anotherProgramsChangeIsntSavedOver) {
@@ -165,6 +194,13 @@ TEST_F(FProjectTest, theFilesBesideAProjectAreItsOwn) {
     ASSERT_TRUE(save());
     EXPECT_EQ(QFile::permissions(path("p.mrx~")), QFile::permissions(path("p.mrx")));
     EXPECT_EQ(read("other.txt"), "not to be touched");
+    // What killed saves have left goes, and nothing else.
+    write("p.mrx.saving-abcdef", "");
+    write("p.mrx.saving-ABCDEF", "");
+    write("pxmrx.saving-abcdef", "");
+    ASSERT_TRUE(run("a.setNumber(2)"));
+    ASSERT_TRUE(save());
+    EXPECT_EQ(QDir(path()).entryList({"*.saving-*"}), (QStringList{"p.mrx.saving-ABCDEF", "pxmrx.saving-abcdef"}));
     // A link to the project is the project.
     ASSERT_TRUE(QFile::link(path("p.mrx"), path("link.mrx")));
     ASSERT_TRUE(open("link.mrx"));
@@ -220,6 +256,22 @@ TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
     }
 }
 
+TEST_F(FProjectTest, aDamagedLockLocksNobodyOut) {
+    saveAndChange();
+    FProject::instance()->create();
+    for (const char* content : {"", "not a number\n"}) {
+        write("p.mrx.lock", content);
+        EXPECT_TRUE(open("p.mrx"));
+        EXPECT_TRUE(logHolds("the project is open elsewhere (its lock \"" + path("p.mrx.lock") + "\" can't be read)"))
+            << "its process may just be writing it";
+        setAge("p.mrx.lock", 60);
+        EXPECT_TRUE(open("p.mrx"));
+        EXPECT_TRUE(log().last().contains("the lock file was empty or damaged"));
+        EXPECT_TRUE(save());
+        FProject::instance()->create();
+    }
+}
+
 TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     saveAndChange();
     const QByteArray unsaved = read("p.mrx.autosave");
@@ -247,15 +299,24 @@ TEST_F(FProjectTest, unsavedWorkSurvivesACrash) {
     ASSERT_TRUE(run("a.setNumber(3)"));
     EXPECT_TRUE(read("p.mrx.autosave").contains("thing a(3)"));
     EXPECT_TRUE(read("p.mrx.autosave~2").contains("taken"));
+    ASSERT_TRUE(run("undo()"));
+    FProject::instance()->close(true);
+    EXPECT_FALSE(has("p.mrx.autosave")) << "nothing is unsaved";
+    ASSERT_TRUE(open("p.mrx"));
+    ASSERT_TRUE(run("a.setNumber(3)"));
     ASSERT_TRUE(open("p.mrx", true));
     EXPECT_EQ(textOf("a.getNumber()"), "3") << "one's own unsaved work counts as well";
     write("p.mrx.autosave", unsaved);
-    QFile autosave(path("p.mrx.autosave"));
-    ASSERT_TRUE(autosave.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(autosave.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
-    autosave.close();
+    setAge("p.mrx.autosave", 86400);
+    FProject::instance()->create();
+    ASSERT_TRUE(open("p.mrx"));
+    EXPECT_TRUE(logHolds(" (the project is newer), from a session that didn't end well"));
+    ASSERT_TRUE(open("p.mrx", true));
+    EXPECT_EQ(textOf("a.getNumber()"), "2");
+    write("p.mrx.autosave", read("p.mrx"));
     ASSERT_TRUE(open("p.mrx", true));
     EXPECT_TRUE(logHolds("there is no unsaved work to recover"));
+    EXPECT_FALSE(has("p.mrx.autosave"));
 }
 
 TEST_F(FProjectTest, aProjectIsDataAndDoesNothing) {

@@ -1,7 +1,6 @@
 #include "merix/FReadSubcommand.h"
 
 #include "host/core/FLogMsg.h"
-#include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
 #include "merix/FExitCode.h"
@@ -9,6 +8,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <iostream>
 
 std::vector<FSubcommand::Argument> FReadSubcommand::arguments() {
     return {mTarget.projectArgument(),
@@ -38,7 +39,8 @@ int FReadSubcommand::run() const {
     }
     using Form = FTableOutput::Form;
     const Form form = mJson ? Form::Json : mCsv ? Form::Csv : mExplain ? Form::Explained : Form::Text;
-    FStandardOutput::write(FTableOutput::of(*read, form));
+    FLogMsg::endLine();
+    std::cout << FTableOutput::of(*read, form).toStdString();
     return isWhole ? FExitCode::done : FExitCode::failed;
 }
 

@@ -223,7 +223,13 @@ void FDefinitionGenInt::removeEntryFromCommandFiles(const FExpr<FEntryBase>& ent
 
 void FDefinitionGenInt::replaceTags(const QString& path, const FExpr<FEntryBase>& entry) {
     const auto* definition = dynamic_cast<const FEntryDef*>(entry.ptr());
-    const FExpr<FBasicType> value(definition ? definition->getDefaultValue() : FExprBase());
+    if (!definition) {
+        return;
+    }
+    for (const FExpr<FEntryBase>& nested : definition->getEntries()) {
+        replaceTags(path + QLatin1Char('|') + nested->getPathPart(), nested);
+    }
+    const FExpr<FBasicType> value(definition->getDefaultValue());
     if (value) {
         FTemplateTagEditor(mTemplates.mCommandFiles).replaceTags(path, value->toString());
     }

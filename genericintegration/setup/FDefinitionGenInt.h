@@ -67,7 +67,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     void updateCommandFiles(const QString& oldName, const QString& newName) override;
     /** Whether an input template has a tag of the entry, in any case. */
     bool commandFileReferencesEntry(const FExpr<FEntryBase>& entry) const;
-    /** Replaces the entry's tags by its default value; without one they stay. */
+    /** Replaces the tags of the entry, or of all in a group, by their default values; without one they stay. */
     void removeEntryFromCommandFiles(const FExpr<FEntryBase>& entry);
     bool setEntryDefsFromDB(const QString& text) override;
     /** Assigns the entries of all configurations to the present entry definitions. */

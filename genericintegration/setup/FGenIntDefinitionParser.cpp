@@ -1,20 +1,30 @@
 #include "genericintegration/setup/FGenIntDefinitionParser.h"
 
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FObjectAreaParts.h"
 #include "host/core/FObjectManager.h"
 #include "host/script/FSavedTextReader.h"
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
-/** The name after the first label of that kind, up to the first white space; empty if there is none. */
-QString nameBehind(const QString& text, const QString& label) {
+/**
+ * The name after the label in the first line that begins with it, up to the first white space; empty if there is none.
+ * @param lines  where lines begin that are no script: a text in the script may contain the label
+ */
+QString nameBehind(const QString& text, const std::vector<int>& lines, const QString& label) {
     static const QRegularExpression blank(QStringLiteral("\\s"));
-    const int found = text.indexOf(label);
-    const int begin = found + label.size();
-    const int end = found < 0 ? -1 : text.indexOf(blank, begin);
-    return found < 0 ? QString() : text.mid(begin, end < 0 ? -1 : end - begin);
+    const auto line =
+        std::find_if(lines.begin(), lines.end(), [&](int begin) { return text.midRef(begin, label.size()) == label; });
+    if (line == lines.end()) {
+        return {};
+    }
+    const int begin = *line + label.size();
+    const int end = text.indexOf(blank, begin);
+    return text.mid(begin, end < 0 ? -1 : end - begin);
 }
 
 }  // namespace
@@ -30,12 +40,16 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     if (!mName.isEmpty()) {
         mNames.setVariable(mName, FExprBase(definition));
     }
+    FScript script = FSavedTextReader::parse(area, mSource, {true, true});
+    const FObjectAreaParts parts(std::move(script.statements), mName);
     startParentReg(definition);
-    FSavedTextReader::read(area, mSource, {true, true}, mNames);
+    FSavedTextReader(mNames, mSource).read(parts.independent);
+    takeDefaultsOfObjects();
+    FSavedTextReader(mNames, mSource).read(parts.dependent);
     stopParentReg();
     // An object whose name was taken has a different name than in the file.
-    const FExprBase current = mNames.find(nameBehind(text, QStringLiteral("curFile : ")));
-    const FExprBase last = mNames.find(nameBehind(text, QStringLiteral("lastFile : ")));
+    const FExprBase current = mNames.find(nameBehind(area, script.passedOver, QStringLiteral("curFile : ")));
+    const FExprBase last = mNames.find(nameBehind(area, script.passedOver, QStringLiteral("lastFile : ")));
     takeFiles(*definition, current, last);
 }
 

@@ -136,11 +136,7 @@ template <class Ask>
 double FResultsGenInt::ask(Ask question) const {
     const bool mayRead = prepareResults();
     const FTableData* table = mayRead && !tables().isEmpty() ? tables().first().ptr() : nullptr;
-    if (!table) {
-        return std::numeric_limits<double>::quiet_NaN();
-    }
-    noteRequest(*table);
-    return question(*table);
+    return table ? question(*table) : std::numeric_limits<double>::quiet_NaN();
 }
 
 double FResultsGenInt::getDataAt(unsigned int row, unsigned int column) const {

@@ -14,7 +14,8 @@ bool FTemplateTagEditor::containTag(const QString& name) const {
 void FTemplateTagEditor::replaceTags(const QString& name, const QString& text) const {
     for (const FExpr<FGenIntFile>& file : mFiles) {
         if (file) {
-            file->setContent(FTemplateTags::replaceTag(file->getPlainContent(), name, text));
+            const QString content = FTemplateTags::replaceTag(file->getPlainContent(), name, text);
+            file->setContent(FGenIntFile::storedForm(content));
         }
     }
 }

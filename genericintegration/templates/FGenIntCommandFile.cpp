@@ -34,5 +34,5 @@ void FGenIntCommandFile::updateFile(const QString& oldName, const QString& newNa
     if (oldName.isEmpty() || newName.isEmpty() || oldName == newName) {
         return;
     }
-    setContent(FTemplateTags::renameTag(getPlainContent(), oldName, newName));
+    setContent(storedForm(FTemplateTags::renameTag(getPlainContent(), oldName, newName)));
 }

@@ -10,6 +10,7 @@
 #include "host/design/FDefinition.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
+#include "host/script/FSavedTextReader.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -65,14 +66,18 @@ std::vector<std::unique_ptr<FStateField>> FGenIntFile::fields() {
 }
 
 QString FGenIntFile::getContent() const {
-    return storedMark() + QString::fromLatin1(mContent.toUtf8().toBase64());
+    return storedForm(mContent);
+}
+
+QString FGenIntFile::storedForm(const QString& content) {
+    return storedMark() + QString::fromLatin1(content.toUtf8().toBase64());
 }
 
 QString FGenIntFile::decode(const QString& stored) const {
     const QByteArray base64 = stored.mid(storedMark().size()).toLatin1();
     const QByteArray bytes = QByteArray::fromBase64(base64);
     // What can be read is taken in any case.
-    if (FMerixCtrl::instance()->isLoadingProject() && !isBase64(base64)) {
+    if (FSavedTextReader::isReading() && !isBase64(base64)) {
         FCmd::warnNow(getClass(), QStringLiteral("the content of %1 is damaged: it isn't Base64").arg(getName()),
                       QStringLiteral("What could be read of it is kept"));
     }

@@ -15,6 +15,8 @@ class FGenIntFile : public FClass<FGenIntFile, FManaged> {
 
     /** The stored form, built anew at each call. */
     QString getContent() const;
+    /** The stored form of a text. `setContent` takes from it any text, also one that begins like a stored form. */
+    static QString storedForm(const QString& content);
     const QString& getPlainContent() const { return mContent; }
     /** Takes either form. Each call marks, flags and records, whether the text is new or not. Returns the object. */
     FGenIntFile* setContent(const QString& content);

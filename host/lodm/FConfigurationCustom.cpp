@@ -102,13 +102,14 @@ FDefinitionCustom* FConfigurationCustom::parseFile(QFile* file, const FExpr<FDef
 
 FDefinitionCustom* FConfigurationCustom::importLodmDefinition(const FExpr<FDefinitionCustom>& definition,
                                                               const QString& fileName) const {
-    const QString path = fileName.isEmpty() ? askForFile() : lodmPath(fileName);
-    if (path.isEmpty()) {
+    const QString name = fileName.isEmpty() ? askForFile() : FFile::resolveEnv(fileName);
+    if (name.isEmpty()) {
         return nullptr;
     }
     if (!FMerixCtrl::instance()->isReadOnly()) {
-        FIni().setValue(importPathKey(), path);
+        FIni().setValue(importPathKey(), name);
     }
+    const QString path = lodmPath(name);
     QFile file(path);
     const QString fault = FFile::openOrdinary(file, QIODevice::ReadOnly | QIODevice::Text);
     if (!fault.isEmpty()) {

@@ -47,8 +47,8 @@ void FImport::doImport(QFile& file, bool flag) {
 
 bool FImport::open(QFile& file, const QString& fileName) {
     QString directory = getCurrentDir();
-    const QString path =
-        fileName.isEmpty() ? FViewCtrl::getOpenFileName(mCaption, directory, mFilter) : lodmPath(fileName);
+    const QString path = fileName.isEmpty() ? FViewCtrl::getOpenFileName(mCaption, directory, mFilter)
+                                            : lodmPath(FFile::resolveEnv(fileName));
     file.setFileName(path);
     if (path.isEmpty() || !file.exists() || !FFile::openOrdinary(file).isEmpty()) {
         return false;

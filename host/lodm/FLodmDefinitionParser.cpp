@@ -75,8 +75,8 @@ bool FLodmDefinitionParser::read(const QString& text) {
 
 bool FLodmDefinitionParser::readText(const QString& text) {
     const int marker = text.indexOf(smObjectArea);
-    Nodes nodes;
-    if (!parse(marker < 0 ? text : text.left(marker), nodes)) {
+    mNodes.clear();
+    if (!parse(marker < 0 ? text : text.left(marker), mNodes)) {
         return false;
     }
     const FUserStep step(QStringLiteral("read definition"));
@@ -86,15 +86,27 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     FDefinitionCustom& definition = *mDefinition.ptr();
     takeDocu();
     mBuilder = FLodmEntryBuilder(mSource);
-    definition.replaceEntries(buildNodes(nodes));
+    definition.replaceEntries(buildNodes(mNodes));
+    mHasAllDefaults = !mBuilder.isWaiting();
     mObjectAreaLines = marker < 0 ? 0 : text.leftRef(marker).count(QLatin1Char('\n'));
     importObjectsFromString(marker < 0 ? QString() : text.mid(marker + smObjectArea.size()));
-    if (mBuilder.isWaiting()) {
+    if (!mHasAllDefaults) {
         mBuilder.setNames(mNames);
-        definition.replaceEntries(buildNodes(nodes));
+        definition.replaceEntries(buildNodes(mNodes));
     }
     mBuilder.reportRest();
     return true;
+}
+
+// Names that are still missing may be those of objects that use the definition.
+void FLodmDefinitionParser::takeDefaultsOfObjects() {
+    if (mHasAllDefaults) {
+        return;
+    }
+    FLodmEntryBuilder builder = mBuilder;
+    builder.setNames(mNames, false);
+    mDefinition->replaceEntries(builder.build(mNodes));
+    mHasAllDefaults = builder.getFaultCount() == mBuilder.getFaultCount();
 }
 
 // Parses everything before the model is changed.

@@ -53,6 +53,11 @@ class MERIX_EXPORT FLodmDefinitionParser {
  protected:
     /** Creates the objects of the object area, and sets `mNames` to the meaning of the names in it. */
     virtual void importObjectsFromString(const QString& text) { Q_UNUSED(text) }
+    /**
+     * Gives the entries the defaults that name objects of the object area which `mNames` knows. Called before objects
+     * are made that use the definition, since a configuration takes over what is the default then.
+     */
+    void takeDefaultsOfObjects();
 
     /** Parses the XML. Errors are raised on the reader. */
     void readStructure(FLodmXmlReader& xml, std::vector<FLodmEntry>& nodes);
@@ -80,6 +85,8 @@ class MERIX_EXPORT FLodmDefinitionParser {
     void readDocu(FLodmXmlReader& xml);
     bool makeDefinition();
 
+    std::vector<FLodmEntry> mNodes;
     QMap<unsigned int, QString> mDocu;  //!< of the definition, by area
     FLodmEntryBuilder mBuilder;
+    bool mHasAllDefaults = false;
 };

@@ -22,8 +22,9 @@ QList<FExpr<FEntryBase>> FLodmEntryBuilder::build(const std::vector<FLodmEntry>&
     return entries;
 }
 
-void FLodmEntryBuilder::setNames(const FScriptNames& names) {
+void FLodmEntryBuilder::setNames(const FScriptNames& names, bool tells) {
     mNames = names;
+    mTells = tells;
     mHasNames = true;
 }
 
@@ -55,7 +56,7 @@ FExprBase FLodmEntryBuilder::evaluate(const FLodmEntry& entry, QString& reason) 
 }
 
 void FLodmEntryBuilder::warn(const FLodmEntry& entry, const QString& reason) {
-    if (++mFaulty <= mostErrors) {
+    if (++mFaulty <= mostErrors && mTells) {
         FLogMsg::warning(entry.valuePlace.toString(mSource),
                          QStringLiteral("the default of entry \"%1\" can't be taken over: %2").arg(entry.name, reason),
                          QStringLiteral("the entry has none now; give it one"));

@@ -25,8 +25,13 @@ class MERIX_EXPORT FLodmEntryBuilder {
     QList<FExpr<FEntryBase>> build(const std::vector<FLodmEntry>& nodes);
     /** Whether a default of the built entries waits for names. */
     bool isWaiting() const { return mIsWaiting; }
-    /** Sets the objects of the file. Names in defaults mean these, or else objects of the model. */
-    void setNames(const FScriptNames& names);
+    /**
+     * Sets the objects of the file. Names in defaults mean these, or else objects of the model.
+     * @param tells  whether names that nothing has are reported
+     */
+    void setNames(const FScriptNames& names, bool tells = true);
+    /** How many defaults couldn't be evaluated. */
+    int getFaultCount() const { return mFaulty; }
     /** Reports the number of faulty defaults beyond those that were reported one by one. */
     void reportRest() const;
 
@@ -38,6 +43,7 @@ class MERIX_EXPORT FLodmEntryBuilder {
     QString mSource;
     FScriptNames mNames;
     bool mHasNames = false;
+    bool mTells = true;
     bool mIsWaiting = false;
     int mFaulty = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
+#include "host/design/FConfiguration.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryDef.h"
 #include "host/lodm/FLodmDefaultValue.h"
@@ -9,34 +10,68 @@
 
 namespace {
 
-QStringList namesInDefault(const FEntryDef& entry) {
-    const FObject* value = entry.getDefaultValue().getStored();
-    const bool isScript = value && FLodmDefaultValue::kindOf(*value) == FLodmEntry::Default::Script;
-    QStringList names =
-        isScript ? FLodmDefaultValue::namesIn(entry.getDefaultValue().toHistoryString()) : QStringList();
+QStringList namesIn(const FExprBase& value) {
+    const FObject* object = value.getStored();
+    const bool isScript = object && FLodmDefaultValue::kindOf(*object) == FLodmEntry::Default::Script;
+    QStringList names = isScript ? FLodmDefaultValue::namesIn(value.toHistoryString()) : QStringList();
     names.removeDuplicates();
     return names;
+}
+
+class LeftOut {
+ public:
+    LeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved)
+        : mDefinition(definition), mSaved(saved) {}
+    ~LeftOut() {
+        if (mCount > mostErrors) {
+            FLogMsg::warning(mDefinition.getName(),
+                             QStringLiteral("%1 more objects aren't saved along").arg(mCount - mostErrors));
+        }
+    }
+    LeftOut(const LeftOut&) = delete;
+    LeftOut& operator=(const LeftOut&) = delete;
+
+    /** @param owner  what the value belongs to, for the message */
+    void check(const FManaged& owner, const QString& valueName, const FExprBase& value, const QString& consequence) {
+        for (const QString& name : namesIn(value)) {
+            const FManaged* object = FObjectManager::instance()->find(name);
+            const bool isLeftOut = object && object != &mDefinition && !mSaved.contains(FExpr<FManaged>(object));
+            if (isLeftOut && ++mCount <= mostErrors) {
+                FLogMsg::warning(owner.getName(),
+                                 QStringLiteral("%1 names \"%2\", which isn't saved along").arg(valueName, name),
+                                 QStringLiteral("where no object has this name, ") + consequence);
+            }
+        }
+    }
+
+ private:
+    const FDefinition& mDefinition;
+    const QSet<FExpr<FManaged>>& mSaved;
+    int mCount = 0;
+};
+
+void checkValues(const FConfiguration& configuration, LeftOut& leftOut) {
+    for (const FExpr<FEntryBase>& handle : configuration.getEntryMap()) {
+        const auto* entry = static_cast<const FEntry*>(handle.ptr());
+        if (!entry->hasDefaultValue()) {
+            leftOut.check(configuration, QStringLiteral("the value of entry \"%1\"").arg(entry->getFullName()),
+                          entry->getValue(), QStringLiteral("the entry keeps its default when it is read"));
+        }
+    }
 }
 
 }  // namespace
 
 void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved) {
-    int count = 0;
+    LeftOut leftOut(definition, saved);
     for (const FExpr<FEntryBase>& handle : definition.getEntryMap()) {
         const auto* entry = static_cast<const FEntryDef*>(handle.ptr());
-        for (const QString& name : namesInDefault(*entry)) {
-            const FManaged* object = FObjectManager::instance()->find(name);
-            const bool isLeftOut = object && object != &definition && !saved.contains(FExpr<FManaged>(object));
-            if (isLeftOut && ++count <= mostErrors) {
-                FLogMsg::warning(definition.getName(),
-                                 QStringLiteral("the default of entry \"%1\" names \"%2\", which isn't saved along")
-                                     .arg(entry->getFullName(), name),
-                                 QStringLiteral("where no object has this name, the entry is read without a default"));
-            }
-        }
+        leftOut.check(definition, QStringLiteral("the default of entry \"%1\"").arg(entry->getFullName()),
+                      entry->getDefaultValue(), QStringLiteral("the entry is read without a default"));
     }
-    if (count > mostErrors) {
-        FLogMsg::warning(definition.getName(),
-                         QStringLiteral("%1 more objects in defaults aren't saved along").arg(count - mostErrors));
+    for (const FExpr<FManaged>& object : saved) {
+        if (const auto* configuration = dynamic_cast<const FConfiguration*>(object.ptr())) {
+            checkValues(*configuration, leftOut);
+        }
     }
 }

@@ -17,10 +17,7 @@
 FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands,
                                       &FExternComputation::fields);
 
-// The names of folders follow those of computations and designs from now on.
-FExternComputation::FExternComputation(const QString& name) : FClass(name) {
-    FPathManager::instance();
-}
+FExternComputation::FExternComputation(const QString& name) : FClass(name) {}
 
 FExternComputation::~FExternComputation() = default;
 
@@ -58,7 +55,6 @@ void FExternComputation::setDesign(const FExpr<FDesign>& design) {
 
 bool FExternComputation::run(bool wait) {
     if (FSetUpCheck::substituteRun(*this)) {
-        takeUnknownResults();
         return false;
     }
     if (!canRun()) {
@@ -71,19 +67,10 @@ bool FExternComputation::run(bool wait) {
     const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), mDesign);
     FProcessSetup setup = mProgram.setupIn(folder);
     setup.exitCodes = mRules.exitCodes;
-    const auto attempt = std::make_shared<FRunAttempt>(
-        this, setup, paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign), getReadFiles(), getFurtherFiles());
+    const auto attempt = std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(getName(), mDesign),
+                                                       getReadFiles(), getFurtherFiles());
     mAttempt = attempt;
     return attempt->execute(wait);
-}
-
-// The rest of a script that is only checked works with them.
-void FExternComputation::takeUnknownResults() {
-    mResults.make(*this, nullptr);
-    applyOutputHandles(mResults.get().ptr());
-    if (auto* results = dynamic_cast<FResultsGeneric*>(mResults.get().ptr())) {
-        results->fillUnknown(FSetUpCheck::tablesOf(*this));
-    }
 }
 
 void FExternComputation::triggerRunByTimer() {
@@ -186,7 +173,7 @@ std::shared_ptr<const FRunRecord> FExternComputation::getStoredRun(const FExpr<F
     if (!paths->hasRoot()) {
         return nullptr;
     }
-    return FRunStore(paths->getEarlierDir(FExpr<FExternComputation>(this), design))
+    return FRunStore(paths->getEarlierDir(getName(), design))
         .read(paths->getResultPath(FExpr<FExternComputation>(this), design));
 }
 
@@ -258,9 +245,6 @@ FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder)
     FExpr<FComputationResults> results(type ? type->createResults({}, FExpr<FExternComputation>(this)) : nullptr);
     if (results) {
         results->setResultPath(folder);
-        if (folder == getWorkingPath()) {
-            results->setRun(lastRun());
-        }
         processReread(results.ptr());
     }
     return results;
@@ -274,7 +258,7 @@ QString FExternComputation::rereadRefusal() const {
             .arg(holder);
     }
     FPathManager* paths = FPathManager::instance();
-    const QString earlier = paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign);
+    const QString earlier = paths->getEarlierDir(getName(), mDesign);
     if (canRun() && FRunLock(FRunFolder::lockFile(earlier)).isHeld()) {
         return QStringLiteral("A program of another run is still running in the folder '%1'").arg(getWorkingPath());
     }
@@ -283,7 +267,6 @@ QString FExternComputation::rereadRefusal() const {
 
 bool FExternComputation::rereadResults() {
     if (FSetUpCheck::substituteRun(*this)) {
-        takeUnknownResults();
         return false;
     }
     if (const QString refusal = rereadRefusal(); !refusal.isEmpty()) {

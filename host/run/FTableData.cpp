@@ -35,12 +35,8 @@ void FTableData::setOwner(const FManaged* results) {
     mOwnerId = results ? results->getDbId() : 0;
 }
 
-const FManaged* FTableData::getOwner() const {
-    return mOwnerId > 0 ? FObjectManager::instance()->find(mOwnerId) : nullptr;
-}
-
 QString FTableData::getKeptText(QString& fault) const {
-    const FManaged* results = getOwner();
+    const FManaged* results = FObjectManager::instance()->find(mOwnerId);
     if (!results) {
         fault = QStringLiteral("the table belongs to no results of the project");
         return {};

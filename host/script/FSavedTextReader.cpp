@@ -5,11 +5,16 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUpdateGraph.h"
 
-int FSavedTextReader::read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names) {
-    const FScript script = parseScript(text, file, mode);
+FScript FSavedTextReader::parse(const QString& text, const QString& file, const FParseMode& mode) {
+    FScript script = parseScript(text, file, mode);
     for (const FSyntaxError& error : script.errors) {
         FLogMsg::error(error.place.toString(file), error.message);
     }
+    return script;
+}
+
+int FSavedTextReader::read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names) {
+    const FScript script = parse(text, file, mode);
     return static_cast<int>(script.errors.size()) + FSavedTextReader(names, file).read(script.statements);
 }
 

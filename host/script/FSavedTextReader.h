@@ -24,6 +24,8 @@ class MERIX_EXPORT FSavedTextReader {
     FSavedTextReader(FScriptNames& names, const QString& file)
         : mNames(names), mFile(file), mDeclarer(names, file, FBinder::Use::Saved) {}
 
+    /** Parses a text and reports its errors. */
+    static FScript parse(const QString& text, const QString& file, const FParseMode& mode);
     /** Reads a text; returns how many errors there were, each of which has been reported with its place. */
     static int read(const QString& text, const QString& file, const FParseMode& mode, FScriptNames& names);
     /** Returns how many errors there were, each of which has been reported. */

@@ -28,6 +28,7 @@ FScript parseScript(const QString& text, const QString& file, const FParseMode& 
     script.statements = parser.script();
     script.errors = parser.takeErrors();
     script.warnings = parser.takeWarnings();
+    script.passedOver = parser.takePassedOver();
     return script;
 }
 

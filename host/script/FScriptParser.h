@@ -16,6 +16,7 @@ struct MERIX_EXPORT FScript {
     FSyntaxBody statements;
     std::vector<FSyntaxError> errors;
     std::vector<FSyntaxError> warnings;  //!< numbers that are read differently from how they are written
+    std::vector<int> passedOver;         //!< where the lines begin that were passed over
 };
 
 struct MERIX_EXPORT FParseMode {

@@ -50,6 +50,7 @@ bool FStatementParser::isAtListEnd(FSkipTo kind) const {
 bool FStatementParser::skipIgnoredLine() {
     const bool ignored = mMode.isObjectArea && mTokens.isAt({Kind::Name, Kind::Colon});
     if (ignored) {
+        mPassedOver.push_back(mTokens.current().begin);
         mTokens.skipLine();
     }
     return ignored;

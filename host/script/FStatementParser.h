@@ -17,6 +17,7 @@ class FStatementParser {
     /** The errors of the script as they were found. */
     std::vector<FSyntaxError> takeErrors();
     std::vector<FSyntaxError> takeWarnings() { return mTokens.takeWarnings(); }
+    std::vector<int> takePassedOver() { return std::move(mPassedOver); }
 
  private:
     bool isAtListEnd(FTokenStream::FSkipTo kind) const;
@@ -45,4 +46,5 @@ class FStatementParser {
     FParseMode mMode;
     std::vector<FSyntaxError> mErrors;
     int mUntoldErrors = 0;
+    std::vector<int> mPassedOver;
 };

@@ -141,6 +141,17 @@ TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
     EXPECT_EQ(in->getPlainContent(), "1.5 1.5 <entry>x1</entry> 2 text <entry>none</entry>");
     EXPECT_EQ(out->getPlainContent(), "<entry>x</entry>");
     EXPECT_EQ(textOf("d.getEntryNames()"), "[]");
+    // A group takes all that is in it along.
+    run("d.addEntry(\"A|x\", 3)\nd.addEntry(\"A|B|y\", 4)\nd.addEntry(\"A|B|C|z\", 5)\nd.addEntry(\"A|none\", NULL, 1, "
+        "1, "
+        "false, \"\", \"FDouble\")");
+    in->setContent(FGenIntFile::storedForm(
+        "[B64] <entry>A|x</entry> <entry>A|B|y</entry> <entry>a|b|c|Z</entry> <entry>A|none</entry>"));
+    run("d.removeEntry(\"A|B\")");
+    EXPECT_EQ(in->getPlainContent(), "[B64] <entry>A|x</entry> 4 5 <entry>A|none</entry>");
+    run("d.removeEntry(\"A\")");
+    EXPECT_EQ(in->getPlainContent(), "[B64] 3 4 5 <entry>A|none</entry>");
+    in->setContent("<entry>x1</entry>");
     // While a project is loaded, nothing else changes.
     run("d.addEntry(\"x1\", 7)");
     const FProjectLoading loading;
@@ -162,9 +173,9 @@ TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition
     EXPECT_EQ(out->getPlainContent(), "<entry>G|x</entry>");
     EXPECT_EQ(own->mRefreshed, 2);
     EXPECT_EQ(other->mRefreshed, 0);
-    in->setContent("<entry>out.dat</entry>");
+    in->setContent(FGenIntFile::storedForm("[B64]<entry>out.dat</entry>"));
     out->setFileName("new.dat");
-    EXPECT_EQ(in->getPlainContent(), "<entry>new.dat</entry>");
+    EXPECT_EQ(in->getPlainContent(), "[B64]<entry>new.dat</entry>");
 
     own->setOutOfDate(false);
     other->setOutOfDate(false);

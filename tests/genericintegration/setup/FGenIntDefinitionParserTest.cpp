@@ -3,6 +3,7 @@
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "host/core/FIni.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FFileSizeLimit.h"
@@ -57,7 +58,7 @@ genericIntegrationCommandFile b() {
 }
 genericIntegrationResultsFile a() {
     .setFileName("a.txt")
-    .setValues([["curFile: b", 0, 1, "\"\\ ]]>", First, "FDouble", "", 0, NULL]])
+    .setValues([["curFile : b", 0, 1, "\"\\ ]]>", First, "FDouble", "", 0, NULL]])
 }
 genericIntegrationDefinition d() {
     .addEntry("x", 2) .addEntry("G|stl", geometryExport("w.stl", 1, wing)) .addEntry("list", geometryExport("t.stl", 0, [tail]))
@@ -101,26 +102,43 @@ TEST_F(FGenIntDefinitionParserTest, aFullDiskLeavesTheFileThatIsThere) {
             }
             EXPECT_EQ(log().mid(lines).filter("can't be saved in \"" + path("d.lodm")).size(), 2) << limit;
             EXPECT_EQ(read("d.lodm"), saved);
-            EXPECT_EQ(QDir(path()).entryList({"*.part"}), QStringList());
+            EXPECT_EQ(QDir(path()).entryList({"*.saving*"}), QStringList());
         }
     }
 }
 
 TEST_F(FGenIntDefinitionParserTest, savingLeavesFilesBesideAndFollowsTheLinkThatItIsGiven) {
-    write("other", "kept");
     write("d.lodm.part", "the user's");
     write("d.lodm", "old");
-    ASSERT_TRUE(QFile::link(path("other"), path("d.lodm.part2")));
     ASSERT_TRUE(QFile::link(path("d.lodm"), path("link.lodm")));
     QFile::setPermissions(path("d.lodm"), QFile::ReadOwner | QFile::WriteOwner);
     ASSERT_TRUE(run(integration + ("d.save(\"" + path("link.lodm") + "\")")));
-    EXPECT_EQ(read("other") + read("d.lodm.part"), "keptthe user's");
-    EXPECT_EQ(QDir(path()).entryList(QDir::Files),
-              (QStringList{"d.lodm", "d.lodm.part", "d.lodm.part2", "link.lodm", "other"}));
+    EXPECT_EQ(read("d.lodm.part"), "the user's");
+    EXPECT_EQ(QDir(path()).entryList(QDir::Files), (QStringList{"d.lodm", "d.lodm.part", "link.lodm"}));
     EXPECT_FALSE(QFile::permissions(path("d.lodm")) & QFile::ReadOther);
     EXPECT_TRUE(read("d.lodm").contains("</definition>"));
     EXPECT_TRUE(logHolds("d: the default of entry \"list\" names \"tail\", which isn't saved along"));
     EXPECT_FALSE(logHolds("\"wing\""));
+}
+
+TEST_F(FGenIntDefinitionParserTest, aConfigurationKeepsItsValuesAndDefaults) {
+    ASSERT_TRUE(run(integration + QString(R"(
+d.addEntry("a", 1)
+d.addEntry("b", 2)
+genericIntegrationConfiguration c() { .setDefinition(d); .setEntryValue("a", wing); .setEntryValue("b", tail) }
+)")));
+    const QStringList before = object<FConfigurationGenInt>("c")->furtherSavedCommands();
+    QFile file(path("d.lodm"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(object<FDefinitionGenInt>("d")->save({FExpr<FManaged>(object<FManaged>("c"))}, file));
+    file.close();
+    EXPECT_TRUE(logHolds("c: the value of entry \"b\" names \"tail\", which isn't saved along")) << logText();
+    EXPECT_FALSE(logHolds("\"wing\""));
+    FModelTest::clear();
+    ASSERT_TRUE(run("parameter tail(4)\nx = importGenIntDefinition(\"" + path("d.lodm") + "\")"));
+    const auto* configuration = object<FConfigurationGenInt>("c");
+    EXPECT_EQ(configuration->furtherSavedCommands(), before);
+    EXPECT_EQ(configuration->getValueEntry("G|stl")->getValue().toHistoryString(), "geometryExport(\"w.stl\",1,wing)");
 }
 
 TEST_F(FGenIntDefinitionParserTest, currentAndLastFileFollowTheirLines) {
@@ -153,6 +171,11 @@ TEST_F(FGenIntDefinitionParserTest, theObjectAreaIsDataAndItsErrorsHaveTheirPlac
     EXPECT_TRUE(logHolds("definition:4:"));
     EXPECT_TRUE(logHolds("definition:5:") && logHolds("setFileNam"));
     EXPECT_TRUE(logHolds("definition:6:"));
+    readObjects("genericIntegrationCommandFile h() {\n.setContent(\"[B64]YQ==?\")\n}\n");
+    EXPECT_TRUE(log().last().contains("definition:5:2: setContent: the content of h is damaged")) << logText();
+    const FProjectLoading loading;
+    readObjects("genericIntegrationCommandFile i() { .setDbId(77777) }\n");
+    EXPECT_NE(object<FManaged>("i")->getDbId(), 77777) << "the number may be another object's";
 }
 
 TEST_F(FGenIntDefinitionParserTest, importAsksForAFileAndRemembersIt) {
@@ -172,6 +195,11 @@ TEST_F(FGenIntDefinitionParserTest, importAsksForAFileAndRemembersIt) {
     EXPECT_EQ(import("${MERIX_TEST_FOLDER}/none%1.lodm"), nullptr);
     EXPECT_EQ(FIni().value("LODM/import/path").toString(), path("none%1.lodm"));
     EXPECT_TRUE(logHolds("Cannot read file " + path("none%1.lodm") + ":\nNo such file or directory."));
+    write("sub/near.lodm", "<definition version=\"1\" name=\"near\"/>");
+    write("sub/script", "importGenIntDefinition(\"near.lodm\")");
+    run("include(\"" + path("sub/script") + "\")");
+    EXPECT_NE(object<FDefinitionGenInt>("near"), nullptr) << "beside the script";
+    EXPECT_EQ(FIni().value("LODM/import/path").toString(), "near.lodm");
     write("other.lodm", "<project/>");
     EXPECT_EQ(import(path("other.lodm")), nullptr);
     EXPECT_TRUE(logHolds("other.lodm:1:"));

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/script/FSyntaxStatement.h"
+
+/**
+ * The statements of an object area, each in the order of the text. Those that name the definition, or an object that
+ * does, at any distance, stand apart: objects that default values name come before them. Time linear in the length.
+ */
+struct FObjectAreaParts {
+    /** @param definition  the name of the definition in the file */
+    FObjectAreaParts(FSyntaxBody statements, const QString& definition);
+
+    FSyntaxBody independent;
+    FSyntaxBody dependent;
+};

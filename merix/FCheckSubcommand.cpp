@@ -5,6 +5,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
+#include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FProject.h"
@@ -38,15 +39,12 @@ class Collector {
     Collector(const Collector&) = delete;
     Collector& operator=(const Collector&) = delete;
 
-    /** What is logged from now on is only shown. */
-    void stop() { mIsStopped = true; }
-
  private:
     void take(const FLogMsg& message, FSetUpCheck::Problems& problems) const {
-        if (mIsStopped || message.kind == FLogMsg::Kind::Info) {
+        const bool isError = message.kind == FLogMsg::Kind::Error;
+        if (message.kind == FLogMsg::Kind::Info) {
             mSink(message);
         } else {
-            const bool isError = message.kind == FLogMsg::Kind::Error;
             problems.append({isError ? FSetUpProblem::Severity::Error : FSetUpProblem::Severity::Warning,
                              message.source, message.place, message.message, message.consequence});
         }
@@ -54,7 +52,6 @@ class Collector {
 
     std::streambuf* mOutput;
     FLogMsg::Sink mSink;
-    bool mIsStopped = false;
 };
 
 FSetUpCheck::Problems problemsOf(const FManaged* object) {
@@ -78,8 +75,7 @@ int FCheckSubcommand::run() const {
     const int exitCode = isProject(path) ? checkProject(path, problems) : checkScript(path, problems);
     const FProblemOutput output(problems);
     if (exitCode == FExitCode::done || !problems.isEmpty()) {
-        FLogMsg::endLine();
-        std::cout << (mJson ? output.toJson() : output.toText()).toStdString();
+        FStandardOutput::write(mJson ? output.toJson() : output.toText());
     }
     return exitCode == FExitCode::done && output.hasErrors() ? FExitCode::failed : exitCode;
 }
@@ -119,8 +115,6 @@ int FCheckSubcommand::checkScript(const QString& path, FSetUpCheck::Problems& pr
     FSetUpCheck::setSubstituteForRuns([&](const FExternComputation& computation) {
         problems += problemsOf(&computation);
         checked.append(computation.getName());
-        // Without a run there are no results, which the rest of the script may complain about.
-        collector.stop();
     });
     input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
     input.exec();

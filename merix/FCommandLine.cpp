@@ -1,10 +1,13 @@
 #include "merix/FCommandLine.h"
 
+#include "host/core/FStandardOutput.h"
 #include "merix/FExitCode.h"
 #include "merix/FVersion.h"
 
 // The library is slow to compile: no other file includes it.
 #include <CLI/CLI.hpp>
+
+#include <sstream>
 
 namespace {
 
@@ -71,7 +74,10 @@ FCommandLine::Outcome FCommandLine::parse(int argc, char** argv, const Subcomman
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return {nullptr, app.exit(error) == 0 ? FExitCode::done : FExitCode::wrongCall};
+        std::ostringstream help;
+        const bool isHelp = app.exit(error, help, std::cerr) == 0;
+        const bool isWritten = FStandardOutput::write(QString::fromStdString(help.str()));
+        return {nullptr, !isHelp ? FExitCode::wrongCall : isWritten ? FExitCode::done : FExitCode::fileError};
     }
     for (std::size_t i = 0; i < commands.size(); ++i) {
         if (commands[i]->parsed()) {

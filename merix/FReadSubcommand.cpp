@@ -1,6 +1,7 @@
 #include "merix/FReadSubcommand.h"
 
 #include "host/core/FLogMsg.h"
+#include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
 #include "merix/FExitCode.h"
@@ -8,8 +9,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-
-#include <iostream>
 
 std::vector<FSubcommand::Argument> FReadSubcommand::arguments() {
     return {mTarget.projectArgument(),
@@ -39,8 +38,7 @@ int FReadSubcommand::run() const {
     }
     using Form = FTableOutput::Form;
     const Form form = mJson ? Form::Json : mCsv ? Form::Csv : mExplain ? Form::Explained : Form::Text;
-    FLogMsg::endLine();
-    std::cout << FTableOutput::of(*read, form).toStdString();
+    FStandardOutput::write(FTableOutput::of(*read, form));
     return isWhole ? FExitCode::done : FExitCode::failed;
 }
 

@@ -1,13 +1,11 @@
 #include "merix/FRunSubcommand.h"
 
-#include "host/core/FLogMsg.h"
+#include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
 #include "merix/FTableOutput.h"
-
-#include <iostream>
 
 std::vector<FSubcommand::Argument> FRunSubcommand::arguments() {
     return {
@@ -24,9 +22,7 @@ int FRunSubcommand::run() const {
     const bool isDone = computation.run();
     auto* results = dynamic_cast<FResultsGeneric*>(computation.getCurrentResults().ptr());
     if (isDone && results && results->prepareResults()) {
-        FLogMsg::endLine();
-        std::cout
-            << FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text).toStdString();
+        FStandardOutput::write(FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text));
     }
     // The values that were set hold for this call only.
     FProject::instance()->close(false);

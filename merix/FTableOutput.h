@@ -4,7 +4,7 @@
 
 class FResultsGeneric;
 
-/** The numbers of results as text for the standard output. */
+/** The numbers of results as text for the standard output; a note if they are of an earlier set-up. */
 class FTableOutput {
  public:
     enum class Form { Text, Csv, Json, Explained };

@@ -1,12 +1,11 @@
 #include "merix/FWriteSubcommand.h"
 
 #include "host/core/FLogMsg.h"
+#include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
 #include "merix/FExitCode.h"
 
 #include <QDir>
-
-#include <iostream>
 
 std::vector<FSubcommand::Argument> FWriteSubcommand::arguments() {
     return {mTarget.projectArgument(),
@@ -34,12 +33,10 @@ int FWriteSubcommand::run() const {
     int notReplaced = 0;
     for (const FSetUpInput& input : FSetUpCheck::inputsOf(computation)) {
         notReplaced += input.notReplaced;
-        FLogMsg::endLine();
-        std::cout << QStringLiteral("%1: %2 tags replaced, %3 not replaced\n")
-                         .arg(folder.filePath(input.file))
-                         .arg(input.replaced)
-                         .arg(input.notReplaced)
-                         .toStdString();
+        FStandardOutput::write(QStringLiteral("%1: %2 tags replaced, %3 not replaced\n")
+                                   .arg(folder.filePath(input.file))
+                                   .arg(input.replaced)
+                                   .arg(input.notReplaced));
     }
     return notReplaced > 0 ? FExitCode::failed : FExitCode::done;
 }

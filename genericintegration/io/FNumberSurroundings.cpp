@@ -35,7 +35,7 @@ FFoundFlags FNumberSurroundings::flags() const {
     flags.setFlag(FFoundFlag::PointExponent, isCutAtPoint);
     flags.setFlag(FFoundFlag::SpacedExponent, isSpaced);
     flags.setFlag(FFoundFlag::SpacedSign, hasSpacedSign());
-    flags.setFlag(FFoundFlag::DecimalComma, hasCommaAfter() || hasCommaBefore());
+    flags.setFlag(FFoundFlag::DecimalComma, (hasCommaAfter() || hasCommaBefore()) && !isUnderCommas());
     flags.setFlag(FFoundFlag::LetterBefore, hasLetterBefore());
     flags.setFlag(FFoundFlag::LetterAfter, !isCut && !isSpaced && hasLetterAfter());
     flags.setFlag(FFoundFlag::CutAtEdge, !isCut && isCutAtEdge());
@@ -161,6 +161,38 @@ bool FNumberSurroundings::hasCommaBefore() const {
         --begin;
     }
     return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
+}
+
+namespace {
+
+/** Commas of a line that separates its fields by them and has one that isn't between digits; 0 for other lines. */
+std::ptrdiff_t separatingCommas(std::string_view line) {
+    bool isSure = false;
+    for (std::size_t i = line.find(','); i != std::string_view::npos; i = line.find(',', i + 1)) {
+        const char before = i > 0 ? line[i - 1] : ' ';
+        const char after = i + 1 < line.size() ? line[i + 1] : ' ';
+        if (isBlank(before) || isBlank(after)) {
+            return 0;
+        }
+        isSure = isSure || !isDigit(before) || !isDigit(after);
+    }
+    return isSure ? std::count(line.begin(), line.end(), ',') : 0;
+}
+
+}  // namespace
+
+// In a file of two columns of whole numbers, only its head tells that 1,2 are two numbers.
+bool FNumberSurroundings::isUnderCommas() const {
+    constexpr std::string_view ofNumbers = "0123456789,+-\r";
+    constexpr std::size_t mostInLine = 512;
+    const auto number = static_cast<std::size_t>(mNumber.begin);
+    const std::size_t feed = mText.substr(0, number).rfind('\n');
+    const std::string_view rest = mText.substr(feed == std::string_view::npos ? 0 : feed + 1, mostInLine);
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    const std::string_view start = mText.substr(0, mostInLine);
+    const std::string_view head = start.substr(0, start.find('\n'));
+    return line.find_first_not_of(ofNumbers) == std::string_view::npos &&
+           separatingCommas(head) == std::count(line.begin(), line.end(), ',');
 }
 
 // ---- texts for messages ----

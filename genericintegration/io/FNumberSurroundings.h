@@ -49,6 +49,7 @@ class FNumberSurroundings {
     bool isCutAtEdge() const;
     bool hasCommaAfter() const;
     bool hasCommaBefore() const;
+    bool isUnderCommas() const;
     QString decoded(qint64 begin, qint64 end) const;
 
     std::string_view mText;

@@ -38,6 +38,11 @@ QString setRemedy(const FEntry& entry) {
     return QStringLiteral("Give it a value with setEntryValue(\"%1\", …)").arg(entry.getFullName());
 }
 
+QString listed(const QStringList& names) {
+    const QString more = names.size() > mostNames ? QStringLiteral(" …") : QString();
+    return QLatin1Char('"') + names.mid(0, mostNames).join(QStringLiteral("\", \"")) + QLatin1Char('"') + more;
+}
+
 /** Whether a value does something in a run even if no template names its entry. */
 bool worksByItself(const FEntry& entry) {
     const FObject* type = entry.getDefinition() ? entry.getDefinition()->getType() : nullptr;
@@ -62,6 +67,7 @@ FEntryProblems::FEntryProblems(const FConfiguration& configuration, bool mayRead
 void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable& table, const FTagUses& uses,
                           FProblemList& problems) const {
     QStringList unused;
+    QStringList further;
     QString lastName;
     // A copy, since the evaluation of a value may change the entries.
     const QMap<QString, FExpr<FEntryBase>> entries = mConfiguration.getEntryMap();
@@ -75,21 +81,30 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
         if (!uses.places.contains(row) && name != lastName && !worksByItself(entry)) {
             unused.append(name);
             lastName = name;
+        } else if (uses.places.contains(row) && !isNamed && !worksByItself(entry)) {
+            further.append(entry.getFullName());
         }
     }
+    findFurther(further, problems);
     if (unused.isEmpty() || uses.isCut || definition.getFiles().isEmpty()) {
         return;
     }
-    const QStringList first = unused.mid(0, mostNames);
-    const QString more = unused.size() > mostNames ? QStringLiteral(" …") : QString();
     problems.warning(definition.getName(),
                      unused.size() == 1
                          ? QStringLiteral("no input template has a tag of the entry \"%1\"").arg(unused.first())
                          : QStringLiteral("no input template has a tag of these %1 entries: %2")
-                               .arg(QString::number(unused.size()),
-                                    QLatin1Char('"') + first.join(QStringLiteral("\", \"")) + QLatin1Char('"') + more),
+                               .arg(QString::number(unused.size()), listed(unused)),
                      QStringLiteral("Write \"%1\" where the value belongs, or remove the entry")
                          .arg(FTemplateTags::tagOf(unused.first())));
+}
+
+void FEntryProblems::findFurther(const QStringList& names, FProblemList& problems) const {
+    if (!names.isEmpty()) {
+        problems.warning(mConfiguration.getName(),
+                         QStringLiteral("no file gets the value of %1, because tags name the first occurrence only")
+                             .arg(listed(names)),
+                         QStringLiteral("Define an entry of its own for each value, or remove these occurrences"));
+    }
 }
 
 void FEntryProblems::findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const {
@@ -131,6 +146,10 @@ void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, cons
                    use.place)
             .isOfValue = true;
     } else if (basic->isTypeOf(FDouble::null()) && std::isnan(basic->toDouble())) {
+        // The numbers of results are unknown then.
+        if (FSetUpCheck::isReplacingRuns()) {
+            return;
+        }
         problems
             .warning(
                 mConfiguration.getName(),

@@ -22,6 +22,7 @@ class FEntryProblems {
  private:
     struct FUse;
 
+    void findFurther(const QStringList& names, FProblemList& problems) const;
     void findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const;
     void findWritten(const FEntry& entry, const FObject* value, const FUse& use, FProblemList& problems) const;
     void findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const;

@@ -1,12 +1,25 @@
 #include "genericintegration/setup/FGenIntCheck.h"
 
+#include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/setup/FProblems.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
 
 #include <optional>
 
 namespace {
+
+const FConfigurationCustom* configurationOf(const FExternComputation& computation) {
+    const auto* own = dynamic_cast<const FGenIntComputation*>(&computation);
+    return own ? own->getConfiguration().ptr() : nullptr;
+}
+
+const FDefinitionGenInt* definitionOf(const FExternComputation& computation) {
+    const FConfigurationCustom* configuration = configurationOf(computation);
+    const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
+    return dynamic_cast<const FDefinitionGenInt*>(definition);
+}
 
 /** The problems of a computation of this plug-in; nothing for another one. */
 std::optional<FProblems> coreOf(const FExternComputation& computation, bool mayReadFiles) {
@@ -14,9 +27,7 @@ std::optional<FProblems> coreOf(const FExternComputation& computation, bool mayR
     if (!own) {
         return std::nullopt;
     }
-    const FConfigurationCustom* configuration = own->getConfiguration().ptr();
-    const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
-    return FProblems(own, configuration, dynamic_cast<const FDefinitionGenInt*>(definition), mayReadFiles);
+    return FProblems(own, configurationOf(computation), definitionOf(computation), mayReadFiles);
 }
 
 }  // namespace
@@ -29,6 +40,20 @@ FSetUpCheck::Problems FGenIntCheck::problems(const FExternComputation& computati
 FSetUpCheck::Inputs FGenIntCheck::inputs(const FExternComputation& computation) const {
     std::optional<FProblems> problems = coreOf(computation, false);
     return problems ? problems->inputs() : Inputs();
+}
+
+FSetUpCheck::Tables FGenIntCheck::tables(const FExternComputation& computation) const {
+    Tables tables;
+    const FDefinitionGenInt* definition = definitionOf(computation);
+    for (const FExpr<FGenIntFile>& handle : definition ? definition->getResultsFiles() : QList<FExpr<FGenIntFile>>()) {
+        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
+            tables.append({file->getFileName(), {}});
+            for (const FGenIntResultsFileValue* value : FTemplateValues::among(file->getValues()->getObjects())) {
+                tables.last().rows.append(value->mName);
+            }
+        }
+    }
+    return tables;
 }
 
 bool FGenIntCheck::enable() {

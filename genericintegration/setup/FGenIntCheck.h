@@ -7,6 +7,7 @@ class FGenIntCheck : public FSetUpCheck {
  public:
     Problems problems(const FExternComputation& computation, bool mayReadFiles) const override;
     Inputs inputs(const FExternComputation& computation) const override;
+    Tables tables(const FExternComputation& computation) const override;
 
     /** Registers the check. */
     static bool enable();

@@ -34,15 +34,18 @@ void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FPr
 void FResultProblems::findName(const FGenIntFile& file, FProblemList& problems) {
     const QString& name = file.getFileName();
     const QString last = name.mid(name.lastIndexOf(u'/') + 1);
+    QString fault;
+    QString remedy = QStringLiteral("Name the file that the program writes with setFileName");
     if (name.isEmpty()) {
-        problems.error(file.getName(), QStringLiteral("the result template has no file name, so nothing is read"),
-                       QStringLiteral("Name the file that the program writes with setFileName"));
+        fault = QStringLiteral("the result template has no file name, so nothing is read");
     } else if (FSafePath::leadsOut(name)) {
-        problems.error(file.getName(), QStringLiteral("the file \"%1\" is outside the folder of the run").arg(name),
-                       QStringLiteral("Give a path below the folder with setFileName"));
+        fault = QStringLiteral("the file \"%1\" is outside the folder of the run").arg(name);
+        remedy = QStringLiteral("Give a path below the folder with setFileName");
     } else if (last.isEmpty() || last == QLatin1String(".") || name.contains(QChar::Null)) {
-        problems.error(file.getName(), QStringLiteral("\"%1\" is no name of a file").arg(name),
-                       QStringLiteral("Name the file that the program writes with setFileName"));
+        fault = QStringLiteral("\"%1\" is no name of a file").arg(name);
+    }
+    if (!fault.isEmpty()) {
+        problems.error(file.getName(), fault, remedy).isReportedByRun = true;
     }
 }
 
@@ -78,8 +81,8 @@ void FResultProblems::findValues(const FGenIntResultsFile& file, FProblemList& p
         } else {
             numbers.insert(value->mName, number);
         }
-        if (!value->mPlaceFault.isEmpty()) {
-            problems.error(file.getName(), which + value->mPlaceFault, remedy);
+        if (const QString fault = value->placeFault(); !fault.isEmpty()) {
+            problems.error(file.getName(), which + fault, remedy);
         } else if (value->mColumn < 0) {
             problems.error(file.getName(), which + QStringLiteral("has the column %1").arg(value->mColumn),
                            QStringLiteral("Columns count from 0; correct it in the list of setValues"));

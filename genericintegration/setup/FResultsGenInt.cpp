@@ -136,7 +136,11 @@ template <class Ask>
 double FResultsGenInt::ask(Ask question) const {
     const bool mayRead = prepareResults();
     const FTableData* table = mayRead && !tables().isEmpty() ? tables().first().ptr() : nullptr;
-    return table ? question(*table) : std::numeric_limits<double>::quiet_NaN();
+    if (!table) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+    noteRequest(*table);
+    return question(*table);
 }
 
 double FResultsGenInt::getDataAt(unsigned int row, unsigned int column) const {

@@ -184,7 +184,7 @@ QString FTagProblems::placeOf(qsizetype position) {
 }
 
 // A longer value moves what follows it, which matters where the program reads fixed columns. Commas, signs of
-// assignment and the like show that it doesn't.
+// assignment, tabs, and a single blank between fields show that it doesn't.
 bool FTagProblems::isColumn(const FTemplateTag& tag) const {
     qsizetype after = tag.end();
     while (after < mText.size() && isBlank(mText[int(after)])) {
@@ -197,5 +197,6 @@ bool FTagProblems::isColumn(const FTemplateTag& tag) const {
     const QChar next = after < mText.size() ? mText[int(after)] : QChar(u'\n');
     const QChar last = before >= mEnd ? mText[int(before)] : QChar(u'\n');
     const bool touches = after == tag.end() && !next.isDigit() && next != u'<';
-    return startsField(next) && !touches && last != u'=' && last != u':' && last != u',';
+    const bool isSeparated = after == tag.end() + 1 || (after > tag.end() && mText[int(tag.end())] == u'\t');
+    return startsField(next) && !touches && !isSeparated && last != u'=' && last != u':' && last != u',';
 }

@@ -147,7 +147,11 @@ void FGenIntResultsFile::setValues(const FExpr<FObjectList>& values) {
         const QString fault =
             FExpr<FGenIntResultsFileValue>(element) ? QString() : FGenIntResultsFileValue::faultOf(element);
         if (!fault.isEmpty()) {
-            FCmd::warnNow(getClass(), QStringLiteral("value %1 of %2 ").arg(fresh->count()).arg(getName()) + fault,
+            FCmd::warnNow(getClass(),
+                          QStringLiteral("value %1%2 of %3 ")
+                                  .arg(QString::number(fresh->count()), FGenIntResultsFileValue::quotedNameIn(element),
+                                       getName()) +
+                              fault,
                           QStringLiteral("Values count from 0; correct it in the list of setValues"));
         }
         const FExpr<FGenIntResultsFileValue> value(new FGenIntResultsFileValue);

@@ -4,6 +4,7 @@
 #include "host/core/FNull.h"
 #include "host/core/FObjectList.h"
 #include "host/core/FQuotedText.h"
+#include "host/core/FString.h"
 #include "host/script/FSavedTextReader.h"
 
 #include <algorithm>
@@ -38,23 +39,32 @@ void readText(const FExpr<FObject>& element, QString& text) {
     }
 }
 
-/** Why an element isn't a whole number; empty if it is one, or missing. */
-QString wholeNumberFault(const FExpr<FObject>& element, const QString& what) {
+/** An element that isn't a whole number, as script text; empty if it is one, or missing. */
+QString oddPlaceIn(const FExpr<FObject>& element) {
     const FBasicType* value = valueOf(element);
-    if (!value) {
+    const auto* number = dynamic_cast<const FDouble*>(value);
+    if (!value || (number && number->toDouble() == number->toInt())) {
         return {};
     }
-    const auto* number = dynamic_cast<const FDouble*>(value);
-    if (!number) {
-        return QStringLiteral("has the %1 \"%2\", which isn't a number, and takes %3")
-            .arg(what, value->toString())
-            .arg(value->toInt());
-    }
-    return number->toDouble() == number->toInt()
+    return number ? number->toString() : quoteText(value->toString());
+}
+
+bool isQuoted(const QString& text) {
+    return text.startsWith(u'"');
+}
+
+/** The number that is taken for such a text. */
+int numberTaken(const QString& given) {
+    return isQuoted(given) ? FString(unquoteText(given).value_or(QString())).toInt()
+                           : FDouble(given.toDouble()).toInt();
+}
+
+QString oddPlaceText(const QString& given, const char* what) {
+    return given.isEmpty()
                ? QString()
-               : QStringLiteral("has the %1 %2, which isn't a whole number, and takes %3")
-                     .arg(what, number->toString())
-                     .arg(number->toInt());
+               : QStringLiteral("has the %1 %2, which isn't a %3number, and takes %4")
+                     .arg(QLatin1String(what), given, isQuoted(given) ? QString() : QStringLiteral("whole "))
+                     .arg(numberTaken(given));
 }
 
 void readInt(const FExpr<FObject>& element, int& number) {
@@ -90,7 +100,8 @@ FGenIntResultsFileValue::FGenIntResultsFileValue(const FGenIntResultsFileValue& 
       mType(other.mType),
       mImportType(other.mImportType),
       mCalcAverage(other.mCalcAverage),
-      mPlaceFault(other.mPlaceFault) {
+      mGivenLine(other.mGivenLine),
+      mGivenColumn(other.mGivenColumn) {
     setNumAverageRows(other.mNumAverageRows);
 }
 
@@ -105,7 +116,8 @@ FGenIntResultsFileValue& FGenIntResultsFileValue::operator=(const FGenIntResults
         mType = other.mType;
         mImportType = other.mImportType;
         mCalcAverage = other.mCalcAverage;
-        mPlaceFault = other.mPlaceFault;
+        mGivenLine = other.mGivenLine;
+        mGivenColumn = other.mGivenColumn;
         setNumAverageRows(other.mNumAverageRows);
     }
     return *this;
@@ -123,7 +135,8 @@ std::vector<std::unique_ptr<FStateField>> FGenIntResultsFileValue::fields() {
         .member(&Self::mImportType)
         .member(&Self::mCalcAverage)
         .linked(&Self::mNumAverageRows)
-        .member(&Self::mPlaceFault)
+        .member(&Self::mGivenLine)
+        .member(&Self::mGivenColumn)
         .take();
 }
 
@@ -151,9 +164,10 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
         return QStringLiteral("has the element %1, which reads files, and takes the default for it")
             .arg(unreadable->toString());
     }
+    // A saved text keeps it on purpose, for the check.
     for (const auto& [element, what] : {std::pair(elements[1], "line"), std::pair(elements[2], "column")}) {
-        const QString fault = wholeNumberFault(element, QString::fromLatin1(what));
-        if (!fault.isEmpty()) {
+        const QString fault = oddPlaceText(oddPlaceIn(element), what);
+        if (!fault.isEmpty() && !FSavedTextReader::isReading()) {
             return fault;
         }
     }
@@ -180,8 +194,8 @@ void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {
     readText(elements[0], mName);
     readInt(elements[1], mLine);
     readInt(elements[2], mColumn);
-    const QString ofLine = wholeNumberFault(elements[1], QStringLiteral("line"));
-    mPlaceFault = ofLine.isEmpty() ? wholeNumberFault(elements[2], QStringLiteral("column")) : ofLine;
+    mGivenLine = oddPlaceIn(elements[1]);
+    mGivenColumn = oddPlaceIn(elements[2]);
     readText(elements[3], mAnchor);
     QString occurrence;
     readText(elements[4], occurrence);
@@ -207,14 +221,33 @@ void FGenIntResultsFileValue::setAverage(const std::vector<FExpr<FObject>>& elem
     }
 }
 
-QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const QString& occurrence,
-                                        const FObject* type) const {
+QString FGenIntResultsFileValue::oddLine() const {
+    return numberTaken(mGivenLine) == mLine ? mGivenLine : QString();
+}
+
+QString FGenIntResultsFileValue::oddColumn() const {
+    return numberTaken(mGivenColumn) == mColumn ? mGivenColumn : QString();
+}
+
+QString FGenIntResultsFileValue::placeFault() const {
+    const QString ofLine = oddPlaceText(oddLine(), "line");
+    return ofLine.isEmpty() ? oddPlaceText(oddColumn(), "column") : ofLine;
+}
+
+QString FGenIntResultsFileValue::quotedNameIn(const FExpr<FObject>& value) {
+    FObject* object = value.getObject();
+    const FObjectList* list = object ? object->castToObjectList() : nullptr;
+    const auto* name = list && list->count() > 0 ? dynamic_cast<const FString*>(valueOf(list->at(0))) : nullptr;
+    return name ? QStringLiteral(", \"%1\",").arg(name->toString()) : QString();
+}
+
+QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const Texts& own) const {
     const QStringList texts{textOf(mName),
-                            QString::number(mLine),
-                            QString::number(mColumn),
+                            own.line,
+                            own.column,
                             textOf(mAnchor),
-                            occurrence,
-                            textOf(type ? type->getClass() : QString()),
+                            own.occurrence,
+                            textOf(own.type ? own.type->getClass() : QString()),
                             textOf(mImportType),
                             mCalcAverage ? QStringLiteral("1") : QStringLiteral("0"),
                             mNumAverageRows.toHistoryString()};
@@ -222,11 +255,14 @@ QString FGenIntResultsFileValue::record(QString (*textOf)(const QString&), const
 }
 
 QString FGenIntResultsFileValue::toString() const {
-    return record(&bareQuoted, mOccurrence.getStringValue(), mType);
+    return record(&bareQuoted, {QString::number(mLine), QString::number(mColumn), mOccurrence.getStringValue(), mType});
 }
 
 QString FGenIntResultsFileValue::toHistoryString() const {
+    // What isn't a number stays as it was given, so that the check reports it after the next opening, too.
+    const QString line = oddLine().isEmpty() ? QString::number(mLine) : oddLine();
+    const QString column = oddColumn().isEmpty() ? QString::number(mColumn) : oddColumn();
     // What has no type is read as a number; an empty text would leave the type to the reader of the record.
     const FObject* type = mType ? mType : FDouble::null();
-    return record(&quoteText, quoteText(mOccurrence.getStringValue()), type);
+    return record(&quoteText, {line, column, quoteText(mOccurrence.getStringValue()), type});
 }

@@ -29,10 +29,16 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
     /** What setPrimitiveValue can't take over of a list, and what becomes of it: "has 3 elements …"; empty if nothing.
      */
     static QString faultOf(const FExpr<FObject>& value);
+    /** The name in a list of the text form, for a message: `, "name",`; empty if there is none. */
+    static QString quotedNameIn(const FExpr<FObject>& value);
     /** `["name",line,column,"anchor",occurrence,"type","import type",average,rows]`; quotes aren't escaped. */
     QString toString() const override;
     /** The same as script text, in which every name and anchor comes back. */
     QString toHistoryString() const override;
+
+    /** "has the line …": what the text form had in place of a whole number, unless the number was set since; empty if
+     *  nothing. */
+    QString placeFault() const;
 
     /** Sets the number of rows of the average; the value depends on it. */
     void setNumAverageRows(const FExpr<FUnsigned>& rows);
@@ -46,10 +52,21 @@ class FGenIntResultsFileValue : public FClass<FGenIntResultsFileValue, FBasicTyp
     QString mImportType;                     //!< for the name of a file to import: its format
     bool mCalcAverage = false;               //!< the average of the last rows instead of one place
     FExpr<FUnsigned> mNumAverageRows;
-    QString mPlaceFault;  //!< "has the line …": what the text form had in place of a whole number; empty if nothing
+    QString mGivenLine;    //!< what the text form had in place of a whole number, as script text; empty if nothing
+    QString mGivenColumn;  //!< the same for the column
 
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
     void setAverage(const std::vector<FExpr<FObject>>& elements);
-    QString record(QString (*textOf)(const QString&), const QString& occurrence, const FObject* type) const;
+    /** Fields that the two text forms write differently. */
+    struct Texts {
+        QString line;
+        QString column;
+        QString occurrence;
+        const FObject* type;
+    };
+    QString record(QString (*textOf)(const QString&), const Texts& own) const;
+    /** What was given for the line, unless the line was set since; empty if it was a whole number. */
+    QString oddLine() const;
+    QString oddColumn() const;
 };

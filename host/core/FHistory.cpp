@@ -1,6 +1,7 @@
 #include "host/core/FHistory.h"
 
 #include "host/core/FAssert.h"
+#include "host/core/FChangeCount.h"
 #include "host/core/FChanges.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
@@ -244,6 +245,7 @@ void FHistory::add(const FRecorded* object, Reason reason) {
     if (!object || !object->isRecorded() || mReplaying) {
         return;
     }
+    FChangeCount::add();
     auto* recorded = const_cast<FRecorded*>(object);
     if (mBlockers > 0) {
         mUnrecorded.insert(object, FExprBase(object));
@@ -356,6 +358,7 @@ void FHistory::restoreModel(const Transaction& step, bool forward) {
 }
 
 void FHistory::restoreFields(const Transaction& step, bool forward) {
+    FChangeCount::add();
     for (const ObjectChange& change : step.objects) {
         FRecorded& object = *change.recorded;
         const auto& fields = object.getClassData().getFields();

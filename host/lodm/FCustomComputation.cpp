@@ -1,12 +1,15 @@
 #include "host/lodm/FCustomComputation.h"
 
 #include "host/core/FLogMsg.h"
+#include "host/design/FInputFile.h"
+#include "host/run/FFileDigest.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunFolderFile.h"
 #include "host/script/FCmdTable.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 
 namespace {
 
@@ -173,7 +176,13 @@ QMap<QString, QString> FCustomComputation::describeSetUp() const {
     }
     const QMap<QString, FExpr<FEntryBase>>& entries = configuration->getEntryMap();
     for (auto row = entries.begin(); row != entries.end(); ++row) {
-        setUp.insert(row.key(), shortened(textOf(row.value()->getValueObject())));
+        const FObject* value = row.value()->getValueObject();
+        setUp.insert(row.key(), shortened(textOf(value)));
+        if (const auto* file = dynamic_cast<const FInputFile*>(value)) {
+            const QDir folder(FPathManager::getProjectDir());
+            setUp.insert(QStringLiteral("file of %1:").arg(row.key()),
+                         FFileDigest::of(folder.filePath(file->getFileNameText())));
+        }
     }
     return setUp;
 }

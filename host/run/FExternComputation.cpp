@@ -17,7 +17,10 @@
 FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands,
                                       &FExternComputation::fields);
 
-FExternComputation::FExternComputation(const QString& name) : FClass(name) {}
+// The names of folders follow those of computations and designs from now on.
+FExternComputation::FExternComputation(const QString& name) : FClass(name) {
+    FPathManager::instance();
+}
 
 FExternComputation::~FExternComputation() = default;
 
@@ -55,6 +58,7 @@ void FExternComputation::setDesign(const FExpr<FDesign>& design) {
 
 bool FExternComputation::run(bool wait) {
     if (FSetUpCheck::substituteRun(*this)) {
+        takeUnknownResults();
         return false;
     }
     if (!canRun()) {
@@ -67,10 +71,19 @@ bool FExternComputation::run(bool wait) {
     const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), mDesign);
     FProcessSetup setup = mProgram.setupIn(folder);
     setup.exitCodes = mRules.exitCodes;
-    const auto attempt = std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(getName(), mDesign),
-                                                       getReadFiles(), getFurtherFiles());
+    const auto attempt = std::make_shared<FRunAttempt>(
+        this, setup, paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign), getReadFiles(), getFurtherFiles());
     mAttempt = attempt;
     return attempt->execute(wait);
+}
+
+// The rest of a script that is only checked works with them.
+void FExternComputation::takeUnknownResults() {
+    mResults.make(*this, nullptr);
+    applyOutputHandles(mResults.get().ptr());
+    if (auto* results = dynamic_cast<FResultsGeneric*>(mResults.get().ptr())) {
+        results->fillUnknown(FSetUpCheck::tablesOf(*this));
+    }
 }
 
 void FExternComputation::triggerRunByTimer() {
@@ -173,7 +186,7 @@ std::shared_ptr<const FRunRecord> FExternComputation::getStoredRun(const FExpr<F
     if (!paths->hasRoot()) {
         return nullptr;
     }
-    return FRunStore(paths->getEarlierDir(getName(), design))
+    return FRunStore(paths->getEarlierDir(FExpr<FExternComputation>(this), design))
         .read(paths->getResultPath(FExpr<FExternComputation>(this), design));
 }
 
@@ -245,6 +258,9 @@ FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder)
     FExpr<FComputationResults> results(type ? type->createResults({}, FExpr<FExternComputation>(this)) : nullptr);
     if (results) {
         results->setResultPath(folder);
+        if (folder == getWorkingPath()) {
+            results->setRun(lastRun());
+        }
         processReread(results.ptr());
     }
     return results;
@@ -258,7 +274,7 @@ QString FExternComputation::rereadRefusal() const {
             .arg(holder);
     }
     FPathManager* paths = FPathManager::instance();
-    const QString earlier = paths->getEarlierDir(getName(), mDesign);
+    const QString earlier = paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign);
     if (canRun() && FRunLock(FRunFolder::lockFile(earlier)).isHeld()) {
         return QStringLiteral("A program of another run is still running in the folder '%1'").arg(getWorkingPath());
     }
@@ -267,6 +283,7 @@ QString FExternComputation::rereadRefusal() const {
 
 bool FExternComputation::rereadResults() {
     if (FSetUpCheck::substituteRun(*this)) {
+        takeUnknownResults();
         return false;
     }
     if (const QString refusal = rereadRefusal(); !refusal.isEmpty()) {

@@ -177,6 +177,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
     std::shared_ptr<const FRunRecord> lastRun() const;
     QString rereadRefusal() const;
+    void takeUnknownResults();
 
     static void declareCommands(FCmdTable& table);
     template <auto Member>

@@ -26,7 +26,19 @@ QString temporaryPlace() {
 }  // namespace
 
 FPathManager::FPathManager() {
-    QObject::connect(FChanges::instance(), &FChanges::projectSaved, [this] { moveTemporaryRuns(); });
+    connectToModel();
+}
+
+void FPathManager::connectToModel() {
+    const FChanges* changes = FChanges::instance();
+    QObject::connect(changes, &FChanges::projectSaved, [this] { takeSaved(); });
+    QObject::connect(changes, &FChanges::projectOpened, [this] { takeOpened(); });
+    QObject::connect(changes, &FChanges::projectClosed, [this] { takeOpened(); });
+    QObject::connect(changes, &FChanges::objectEntered,
+                     [this](const FManaged* object) { mNames.nameTaken(*object, knownRoot()); });
+    QObject::connect(changes, &FChanges::objectRenamed, [this](const FManaged* object, const QString& oldName) {
+        mNames.renamed(*object, oldName, knownRoot());
+    });
 }
 
 const QString& FPathManager::baseline() {
@@ -68,6 +80,35 @@ bool FPathManager::hasRoot() const {
     return !mTemporaryRoot.isEmpty() || !FMerixCtrl::instance()->getProjectFile().isEmpty();
 }
 
+/** Empty if there can't be any runs yet. */
+QString FPathManager::knownRoot() {
+    return hasRoot() ? resultsRoot() : QString();
+}
+
+void FPathManager::takeOpened() {
+    mNames.forget();
+    mProjectRoot = FMerixCtrl::instance()->getProjectFile().isEmpty() ? QString() : resultsRoot();
+}
+
+void FPathManager::takeSaved() {
+    moveTemporaryRuns();
+    const QString earlier = std::exchange(mProjectRoot, resultsRoot());
+    if (!earlier.isEmpty() && earlier != mProjectRoot) {
+        reportOtherRoot(earlier);
+        mNames.forget();
+    }
+    mNames.apply(mProjectRoot);
+}
+
+void FPathManager::reportOtherRoot(const QString& earlier) const {
+    if (QDir(earlier).exists()) {
+        FLogMsg::info(QStringLiteral("merix"),
+                      QStringLiteral("The runs stay in '%1', with the project's old file").arg(earlier),
+                      QStringLiteral("To have them with the new one, too, copy that folder to '%1', or run again")
+                          .arg(mProjectRoot));
+    }
+}
+
 void FPathManager::moveTemporaryRuns() {
     if (!mTemporaryRoot.isEmpty()) {
         FRunRelocation(mTemporaryRoot, resultsRoot()).moveAll();
@@ -84,7 +125,7 @@ void FPathManager::runMoved(const QString& from, const QString& to) {
 }
 
 QString FPathManager::designDir(const FDesign* design) {
-    return resultsRoot() + QLatin1Char('/') + (design ? design->getName() : baseline());
+    return resultsRoot() + QLatin1Char('/') + (design ? mNames.of(*design) : baseline());
 }
 
 QString FPathManager::currentRunFolder() {
@@ -107,7 +148,7 @@ QString FPathManager::getDesignDir(const FExpr<FDesign>& design) {
 
 QString FPathManager::getResultsDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
     const FExternComputation* object = computation.ptr();
-    return object ? designDir(design.ptr()) + QLatin1Char('/') + object->getName() : getDesignDir(design);
+    return object ? designDir(design.ptr()) + QLatin1Char('/') + mNames.of(*object) : getDesignDir(design);
 }
 
 QString FPathManager::getInputDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
@@ -119,8 +160,8 @@ QString FPathManager::getResultPath(const FExpr<FExternComputation>& computation
     return getInputDir(computation, design);
 }
 
-QString FPathManager::getEarlierDir(const QString& computation, const FExpr<FDesign>& design) {
-    return designDir(design.ptr()) + QStringLiteral("/.earlier/") + computation;
+QString FPathManager::getEarlierDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design) {
+    return designDir(design.ptr()) + QStringLiteral("/.earlier/") + mNames.of(*computation.ptr());
 }
 
 QString FPathManager::getSamplesDir() const {

@@ -2,6 +2,7 @@
 
 #include "host/core/FExport.h"
 #include "host/core/FExpr.h"
+#include "host/run/FRunFolderNames.h"
 
 #include <QString>
 
@@ -12,6 +13,9 @@ class FExternComputation;
  * The folders of the program. The folder of a run is <results root>/<design>/<computation>; it contains both the input
  * and the output files. The root is "<project>.results" next to the project's file. A project without a file has a
  * temporary folder instead, which stays after the end of the program; its path is logged when it is created.
+ *
+ * A renamed design or computation keeps its folder until the project is saved, which renames the folder, too. If the
+ * project is saved under another name, its runs stay with the old file; the log says so.
  *
  * A computation without a design has its runs in "baseline". Without a computation and a design, the paths are those of
  * the current run: the one whose steps are being executed (FRunScope), else the last one that was started for this
@@ -41,7 +45,7 @@ class MERIX_EXPORT FPathManager {
     /** Folder of the output files: the same as that of the input files. */
     QString getResultPath(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design);
     /** Folder for the files of the run before the last one, without a slash at its end. */
-    QString getEarlierDir(const QString& computation, const FExpr<FDesign>& design);
+    QString getEarlierDir(const FExpr<FExternComputation>& computation, const FExpr<FDesign>& design);
     /** A run in that folder, given with a slash at its end, is being started: it is the last one from now on. */
     void setLastRun(const QString& folder) { mLastRunFolder = folder; }
     /** The files of a run have moved; both with a slash at the end. */
@@ -53,7 +57,12 @@ class MERIX_EXPORT FPathManager {
     friend class FRunScope;
 
     FPathManager();
+    void connectToModel();
+    void takeOpened();
+    void takeSaved();
     void moveTemporaryRuns();
+    void reportOtherRoot(const QString& earlier) const;
+    QString knownRoot();
     QString resultsRoot();
     QString designDir(const FDesign* design);
     QString currentRunFolder();
@@ -61,6 +70,8 @@ class MERIX_EXPORT FPathManager {
     QString mTemporaryRoot;
     QString mRunFolder;  //!< of the run whose steps are being executed, with a slash at its end; empty if there is none
     QString mLastRunFolder;
+    QString mProjectRoot;  //!< of the project's file when it was opened or saved; empty if it has none
+    FRunFolderNames mNames;
 };
 
 /** While one exists, the steps of the run in that folder are being executed. */

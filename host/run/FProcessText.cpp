@@ -19,7 +19,7 @@ QString errorOutputHint(const FProcessSetup& setup) {
     if (setup.standardErrorFile.isEmpty()) {
         return QString();
     }
-    return QStringLiteral(" Its error output is in '%1'.").arg(absoluteFile(setup, setup.standardErrorFile));
+    return QStringLiteral(" Its error output is in '%1'.").arg(setup.standardErrorFile);
 }
 
 /** What an exit code usually means; empty if nothing is known about it. */
@@ -90,26 +90,23 @@ QString FProcessText::signalName(int signal) {
 }
 
 QString FProcessText::ending(const FProcessSetup& setup, const FProcessOutcome& outcome) {
-    const QString& place = setup.workingFolder;
     switch (outcome.cause) {
         case FProcessOutcome::Cause::TimeLimit: {
             // The shortest exact text, without an exponent.
             const QString limit = QLocale::c().toString(setup.timeLimit, 'f', QLocale::FloatingPointShortest);
-            return QStringLiteral(
-                       "'%1' in '%2' was ended by its time limit of %3 s. Raise the limit if it needs more time.")
-                       .arg(outcome.program, place, limit) +
+            return QStringLiteral("'%1' was ended by its time limit of %2 s. Raise the limit if it needs more time.")
+                       .arg(outcome.program, limit) +
                    errorOutputHint(setup);
         }
         case FProcessOutcome::Cause::Signal:
-            return QStringLiteral("'%1' in '%2' was ended by a signal: %3.")
-                       .arg(outcome.program, place, signalName(outcome.signal)) +
+            return QStringLiteral("'%1' was ended by a signal: %2.").arg(outcome.program, signalName(outcome.signal)) +
                    errorOutputHint(setup);
         case FProcessOutcome::Cause::ExitCode:
-            return QStringLiteral("'%1' in '%2' failed with exit code %3%4.")
-                       .arg(outcome.program, place, QString::number(outcome.exitCode), codeNote(setup, outcome)) +
+            return QStringLiteral("'%1' failed with exit code %2%3.")
+                       .arg(outcome.program, QString::number(outcome.exitCode), codeNote(setup, outcome)) +
                    errorOutputHint(setup);
         case FProcessOutcome::Cause::Cancelled:
-            return QStringLiteral("'%1' in '%2' was cancelled.").arg(outcome.program, place);
+            return QStringLiteral("'%1' was cancelled.").arg(outcome.program);
         default:
             return QString();
     }

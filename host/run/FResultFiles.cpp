@@ -15,6 +15,9 @@ QString reasonOf(const QString& folder, const QString& name) {
     if (FSafePath::leadsOut(folder, name)) {
         return QStringLiteral("it is outside the folder of the run: a folder in its path is a link");
     }
+    if (FSafePath::isLinkOut(folder, name)) {
+        return QStringLiteral("it is a link to '%1', outside the folder of the run").arg(file.symLinkTarget());
+    }
     if (file.isDir()) {
         return QStringLiteral("it is a folder");
     }

@@ -1,5 +1,6 @@
 #include "host/run/FResultsGeneric.h"
 
+#include "host/core/FChangeCount.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
@@ -102,6 +103,32 @@ void FResultsGeneric::reportReading() const {
     report();
 }
 
+// Numbers are requested far more often than anything changes. What is evaluated here may request some, too.
+const QStringList& FResultsGeneric::knownSetUpChanges() const {
+    if (mChangeCount != FChangeCount::now()) {
+        mChangeCount = FChangeCount::now();
+        mSetUpChanges = getSetUpChanges();
+        mChangeCount = FChangeCount::now();
+    }
+    return mSetUpChanges;
+}
+
+void FResultsGeneric::noteRequest(const FTableData& table) const {
+    const QStringList& changes = knownSetUpChanges();
+    QStringList& noted = mNotedChanges[table.getName()];
+    if (noted == changes) {
+        return;
+    }
+    noted = changes;
+    const FExpr<FExternComputation> computation = getComputation();
+    if (!changes.isEmpty() && computation) {
+        FLogMsg::info(computation->getName(),
+                      QStringLiteral("the numbers of %1 are of an earlier set-up (%2)")
+                          .arg(table.getName(), changes.join(QStringLiteral("; "))),
+                      QStringLiteral("To get those of the present one, run it again"));
+    }
+}
+
 void FResultsGeneric::readOutputFiles() const {
     mFilesRead = true;
 }
@@ -137,6 +164,13 @@ void FResultsGeneric::becameOutOfDate() const {
     } else if (mFilesRead) {
         setOutOfDate(false);
     }
+}
+
+void FResultsGeneric::fillUnknown(const QVector<FSetUpTable>& tables) {
+    for (const FSetUpTable& table : tables) {
+        addTable(table.name, static_cast<unsigned int>(table.rows.size()), 1)->setAllVerticalHeaders(table.rows);
+    }
+    mDetached = true;
 }
 
 FTableData* FResultsGeneric::addTable(const QString& name, unsigned int rows, unsigned int columns) {

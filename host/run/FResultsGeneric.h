@@ -3,10 +3,12 @@
 #include "host/core/FExport.h"
 #include "host/design/FResultsFileName.h"
 #include "host/run/FComputationResults.h"
+#include "host/run/FSetUpTable.h"
 #include "host/run/FTableData.h"
 
 #include <QHash>
 #include <QList>
+#include <QVector>
 
 /**
  * Results as tables of numbers. The first access reads them from the files of the run. Further accesses read no file,
@@ -34,6 +36,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     /** Empty if the files are gone. */
     QString getResultPath() const override;
 
+    /** Has these tables, with NaN in each row, and never reads files. */
+    void fillUnknown(const QVector<FSetUpTable>& tables);
     /** Appends a table of that size, filled with NaN. Tables may have equal names. */
     FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
     /** The first table of that name; an empty handle if there is none. */
@@ -48,6 +52,11 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     bool readSilently() const;
     /** Reports on what `readSilently` has read, after the message of a failed run. */
     void reportReading() const;
+    /**
+     * Somebody requests numbers of one of the tables: logs a note, once for each table and set-up, if they are of an
+     * earlier set-up.
+     */
+    void noteRequest(const FTableData& table) const;
     /** What was read so far. */
     const QList<FExpr<FTableData>>& tables() const { return mTables; }
 
@@ -81,6 +90,7 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     void readAll() const;
     void warnOfFailedRun() const;
     void report() const;
+    const QStringList& knownSetUpChanges() const;
 
     QList<FExpr<FTableData>> mTables;
     QList<FExpr<FResultsFileName>> mResultFiles;
@@ -89,5 +99,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     mutable bool mWarned = false;
     mutable bool mIsReported = true;
     mutable QHash<int, QString> mReports;  //!< by the number of the table
+    mutable quint64 mChangeCount = 0;      //!< when `mSetUpChanges` was made
+    mutable QStringList mSetUpChanges;
+    mutable QHash<QString, QStringList> mNotedChanges;  //!< by the name of the table
     bool mDetached = false;
 };

@@ -106,9 +106,12 @@ void FRun::checkFiles() {
     const QString start = isSuccess ? QStringLiteral("'%1' succeeded, but ").arg(mRecord->program) : QString();
     const QString it = isSuccess ? QString() : QStringLiteral("It ");
     if (const QString missing = files.missing(); !missing.isEmpty()) {
-        mRecord->addCause(Cause::FileMissing, start + it + QStringLiteral("didn't write %1.").arg(missing),
-                          similarFiles() + QStringLiteral("Check the file name of the result template, and the output "
-                                                          "of the program."));
+        const QString what = start + it + QStringLiteral("didn't write %1.").arg(missing);
+        const QString similar = similarFiles();
+        // The program's own words come before the advice, unless there was another cause before.
+        mRecord->addCause(Cause::FileMissing, isSuccess ? what : (what + QLatin1Char(' ') + similar).trimmed(),
+                          QStringLiteral("%1Check the file name of the result template, and the output of the program.")
+                              .arg(similar));
     }
     if (const QString unreadable = files.unreadable(); !unreadable.isEmpty()) {
         mRecord->addCause(Cause::FileMissing, start + QStringLiteral("%1 can't be read.").arg(unreadable),

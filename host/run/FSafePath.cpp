@@ -12,6 +12,16 @@
 #include <cstdio>
 #include <cstring>
 
+namespace {
+
+/** @param real  a path without links */
+bool isOutside(const QString& folder, const QString& real) {
+    const QString root = QFileInfo(folder).canonicalFilePath();
+    return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
+}
+
+}  // namespace
+
 bool FSafePath::leadsOut(const QString& fileName) {
     if (!fileName.contains(QLatin1String(".."))) {
         return false;
@@ -21,6 +31,11 @@ bool FSafePath::leadsOut(const QString& fileName) {
     // The joined path contains the folder's own slash, so a name that starts with one stays inside.
     const QString cleaned = QDir::cleanPath(QStringLiteral("./") + name);
     return cleaned == QLatin1String("..") || cleaned.startsWith(QLatin1String("../"));
+}
+
+bool FSafePath::isLinkOut(const QString& folder, const QString& fileName) {
+    const QFileInfo file(folder + QLatin1Char('/') + fileName);
+    return file.isSymLink() && isOutside(folder, file.canonicalFilePath());
 }
 
 bool FSafePath::leadsOut(const QString& folder, const QString& fileName) {
@@ -37,9 +52,7 @@ bool FSafePath::leadsOut(const QString& folder, const QString& fileName) {
     while (path.size() > base.size() && !QFileInfo::exists(path)) {
         path = QFileInfo(path).path();
     }
-    const QString root = QFileInfo(base).canonicalFilePath();
-    const QString real = QFileInfo(path).canonicalFilePath();
-    return !root.isEmpty() && real != root && !real.startsWith(root + QLatin1Char('/'));
+    return isOutside(base, QFileInfo(path).canonicalFilePath());
 }
 
 // One system call gives both the type and the number of hard links.

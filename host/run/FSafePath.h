@@ -13,6 +13,8 @@ class MERIX_EXPORT FSafePath {
     static bool leadsOut(const QString& fileName);
     /** The same, also through links among the folders of the name. The last part of the name isn't followed. */
     static bool leadsOut(const QString& folder, const QString& fileName);
+    /** Whether a file in a folder is a link to something outside it. */
+    static bool isLinkOut(const QString& folder, const QString& fileName);
     /**
      * Removes a link, or a file with several names (hard links): writing to it would change a file elsewhere. Folders
      * and other files stay. False if it can't be removed.

@@ -37,6 +37,18 @@ FSetUpCheck::Inputs FSetUpCheck::inputsOf(const FExternComputation& computation)
     return all;
 }
 
+FSetUpCheck::Tables FSetUpCheck::tablesOf(const FExternComputation& computation) {
+    Tables all;
+    for (const FSetUpCheck* check : checks()) {
+        all += check->tables(computation);
+    }
+    return all;
+}
+
+bool FSetUpCheck::isReplacingRuns() {
+    return static_cast<bool>(substitute());
+}
+
 void FSetUpCheck::setSubstituteForRuns(Substitute fresh) {
     substitute() = std::move(fresh);
 }

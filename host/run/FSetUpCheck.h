@@ -3,6 +3,7 @@
 #include "host/core/FExport.h"
 #include "host/run/FSetUpInput.h"
 #include "host/run/FSetUpProblem.h"
+#include "host/run/FSetUpTable.h"
 
 #include <QVector>
 
@@ -18,6 +19,7 @@ class MERIX_EXPORT FSetUpCheck {
  public:
     using Problems = QVector<FSetUpProblem>;
     using Inputs = QVector<FSetUpInput>;
+    using Tables = QVector<FSetUpTable>;
 
     virtual ~FSetUpCheck() = default;
 
@@ -28,15 +30,22 @@ class MERIX_EXPORT FSetUpCheck {
     virtual Problems problems(const FExternComputation& computation, bool mayReadFiles) const = 0;
     /** The input files that a run writes from templates; nothing for computations of other plug-ins. */
     virtual Inputs inputs(const FExternComputation& computation) const = 0;
+    /** The tables of a run's results, in their order; nothing for computations of other plug-ins. */
+    virtual Tables tables(const FExternComputation& computation) const = 0;
 
     /** The check must outlive the program's work. */
     static void add(const FSetUpCheck* check);
     static Problems problemsOf(const FExternComputation& computation, bool mayReadFiles);
     static Inputs inputsOf(const FExternComputation& computation);
+    static Tables tablesOf(const FExternComputation& computation);
 
-    /** Called in place of every run and re-read, which then return false; an empty function restores them. */
+    /**
+     * Called in place of every run and re-read, which then return false, and whose results have unknown numbers (NaN);
+     * an empty function restores them.
+     */
     using Substitute = std::function<void(const FExternComputation&)>;
     static void setSubstituteForRuns(Substitute substitute);
+    static bool isReplacingRuns();
     /** Calls the substitute; false if there is none. */
     static bool substituteRun(const FExternComputation& computation);
 };

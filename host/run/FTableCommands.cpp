@@ -1,6 +1,7 @@
 #include "host/run/FTableCommands.h"
 
 #include "host/core/FNearestName.h"
+#include "host/run/FResultsGeneric.h"
 #include "host/run/FTableData.h"
 #include "host/run/FValueListing.h"
 #include "host/run/FValueOrigin.h"
@@ -19,11 +20,19 @@ QString emptyRemedy(const F& table) {
                                     : QString();
 }
 
+/** A table whose numbers a script requests. */
+const F& requested(const F& table) {
+    if (const auto* results = dynamic_cast<const FResultsGeneric*>(table.getOwner())) {
+        results->noteRequest(table);
+    }
+    return table;
+}
+
 double elementOf(const F& table, const QString& row, unsigned int column) {
     if (checkRow(table, row)) {
         checkPlace(table, table.findRow(row), column);
     }
-    return table.getElementAt(row, static_cast<int>(column));
+    return requested(table).getElementAt(row, static_cast<int>(column));
 }
 
 FExpr<FObject> listOf(const QVector<double>& numbers) {
@@ -51,7 +60,7 @@ FExpr<FObject> originOf(const F& table, const Row& row) {
 
 template <class Row>
 QString textOf(const F& table, const Row& row) {
-    return table.getOrigin(rowOf(table, row)).text;
+    return requested(table).getOrigin(rowOf(table, row)).text;
 }
 
 void elementCommands(FCmdTable& table) {
@@ -60,7 +69,7 @@ void elementCommands(FCmdTable& table) {
         .member<F>(name,
                    +[](const F& data, unsigned int row, unsigned int column) {
                        checkPlace(data, row, column);
-                       return data.getElementAt(static_cast<int>(row), static_cast<int>(column));
+                       return requested(data).getElementAt(static_cast<int>(row), static_cast<int>(column));
                    },
                    {"row", "column=0"})
         .query();
@@ -68,7 +77,7 @@ void elementCommands(FCmdTable& table) {
     table
         .member<F>(name,
                    +[](const F& data, double row, const QString& column) {
-                       return data.getElementAt(F::rowNumber(row), column);
+                       return requested(data).getElementAt(F::rowNumber(row), column);
                    },
                    {"row", "column header"})
         .query();
@@ -76,7 +85,7 @@ void elementCommands(FCmdTable& table) {
         .member<F>(name,
                    +[](const F& data, const QString& row, const QString& column) {
                        checkRow(data, row);
-                       return data.getElementAt(row, column);
+                       return requested(data).getElementAt(row, column);
                    },
                    {"row header", "column header"})
         .query();
@@ -122,7 +131,9 @@ void declare(FCmdTable& table) {
     table.member<F>("getRowNames", &F::getRowNames).query();
     table
         .member<F>("getColumn",
-                   +[](const F& data, unsigned int column) { return listOf(data.getColumn(static_cast<int>(column))); },
+                   +[](const F& data, unsigned int column) {
+                       return listOf(requested(data).getColumn(static_cast<int>(column)));
+                   },
                    {"column=0"})
         .returns(FCmdTypeOf<QList<FExpr<FObject>>>::type())
         .query();
@@ -131,10 +142,13 @@ void declare(FCmdTable& table) {
     table.member<F>("getOrigin", &originOf<unsigned int>, {"row"}).returns(origin).query();
     table.member<F>("getText", &textOf<QString>, {"row header"}).query();
     table.member<F>("getText", &textOf<unsigned int>, {"row"}).query();
-    table.member<F>("toCsv", &F::toCsv).query();
     table
         .member<F>(
-            "getListing", +[](const F& data) { return FValueListing(data).toText(); })
+            "toCsv", +[](const F& data) { return requested(data).toCsv(); })
+        .query();
+    table
+        .member<F>(
+            "getListing", +[](const F& data) { return FValueListing(requested(data)).toText(); })
         .query();
 }
 

@@ -35,8 +35,12 @@ void FTableData::setOwner(const FManaged* results) {
     mOwnerId = results ? results->getDbId() : 0;
 }
 
+const FManaged* FTableData::getOwner() const {
+    return mOwnerId > 0 ? FObjectManager::instance()->find(mOwnerId) : nullptr;
+}
+
 QString FTableData::getKeptText(QString& fault) const {
-    const FManaged* results = FObjectManager::instance()->find(mOwnerId);
+    const FManaged* results = getOwner();
     if (!results) {
         fault = QStringLiteral("the table belongs to no results of the project");
         return {};

@@ -28,6 +28,7 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     QString toString() const override { return mName; }
     /** The results that the table belongs to; null if it belongs to none. */
     void setOwner(const FManaged* results);
+    const FManaged* getOwner() const;
     /** An expression that finds the table through its results. */
     QString getKeptText(QString& fault) const override;
 

@@ -1,6 +1,7 @@
 #include "host/run/FValueListing.h"
 
 #include "host/core/FNumberText.h"
+#include "host/run/FComputationResults.h"
 #include "host/run/FCsv.h"
 #include "host/run/FTableData.h"
 #include "host/run/FValueRemark.h"
@@ -17,14 +18,20 @@ struct FValueListing::FRow {
     double number;
     QString file;
     FNumberOrigin origin;
+    QString state;  //!< of the run that the number is from
+    bool isOfEarlierSetUp = false;
 
     QString place() const {
         return origin.line < 0     ? file
                : origin.column < 0 ? QStringLiteral("%1:%2").arg(file).arg(origin.line)
                                    : QStringLiteral("%1:%2:%3").arg(file).arg(origin.line).arg(origin.column);
     }
+    QStringList flags() const {
+        const QStringList names = namesOf(origin.flags);
+        return isOfEarlierSetUp ? names + QStringList(QStringLiteral("earlier set-up")) : names;
+    }
     QStringList fields() const {
-        return {name, numberText(number), place(), origin.text, namesOf(origin.flags).join(QStringLiteral(", "))};
+        return {name, numberText(number), place(), origin.text, flags().join(QStringLiteral(", "))};
     }
 };
 
@@ -71,9 +78,12 @@ QString onOneLine(QString text) {
 std::vector<FValueListing::FRow> FValueListing::rows() const {
     std::vector<FRow> rows;
     for (const FTableData* table : mTables) {
+        const auto* results = dynamic_cast<const FComputationResults*>(table->getOwner());
+        const QString state = results ? results->getStateText() : QString();
+        const bool isOfEarlierSetUp = results && !results->getSetUpChanges().isEmpty();
         for (int row = 0; row < table->getRowCount(); ++row) {
-            rows.push_back(
-                {table->getRowName(row), table->getElementAt(row, 0), table->getName(), table->getOrigin(row)});
+            rows.push_back({table->getRowName(row), table->getElementAt(row, 0), table->getName(),
+                            table->getOrigin(row), state, isOfEarlierSetUp});
         }
     }
     return rows;
@@ -109,8 +119,9 @@ QJsonArray FValueListing::toJson() const {
                         {QStringLiteral("line"), orNull(row.origin.line)},
                         {QStringLiteral("column"), orNull(row.origin.column)},
                         {QStringLiteral("text"), row.origin.text},
-                        {QStringLiteral("flags"), QJsonArray::fromStringList(namesOf(row.origin.flags))},
-                        {QStringLiteral("reason"), reason}});
+                        {QStringLiteral("flags"), QJsonArray::fromStringList(row.flags())},
+                        {QStringLiteral("reason"), reason},
+                        {QStringLiteral("state"), row.state}});
     }
     return values;
 }

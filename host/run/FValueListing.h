@@ -23,7 +23,8 @@ class MERIX_EXPORT FValueListing {
     QString toText() const;
     /** Comma-separated fields under a header line, quoted where necessary. */
     QString toCsv() const;
-    /** An object for each value, in order: name, value (null for NaN), file, line, column, text, flags, reason. */
+    /** An object for each value, in order: name, value (null for NaN), file, line, column, text, flags, reason, state.
+     */
     QJsonArray toJson() const;
 
  private:

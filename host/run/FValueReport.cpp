@@ -25,7 +25,11 @@ QString placeIn(const FTableData& table, const FNumberOrigin& origin) {
 /** The values of a table that have flags, and for the message the first few of each kind. */
 struct FGroup {
     int count = 0;
-    QStringList texts{};
+    struct FText {
+        QString what;
+        QString place;
+    };
+    QList<FText> texts{};
     QHash<QString, int> kinds{};  //!< number of values by what can be done about them
     FNumberFlags flags{};         //!< of the first value
     QString place{};
@@ -42,13 +46,19 @@ struct FGroup {
             return;
         }
         const QString value = std::isnan(number) ? QStringLiteral(":") : QLatin1Char(' ') + numberText(number);
-        texts.append(QStringLiteral("\"%1\"%2 %3 in %4")
-                         .arg(table.getRowName(row), value, FValueRemark::text(own, number), placeIn(table, origin)));
+        texts.append({QStringLiteral("\"%1\"%2 %3").arg(table.getRowName(row), value, FValueRemark::text(own, number)),
+                      placeIn(table, origin)});
     }
-    QString text(const QString& kind) const {
+    /** Gives the places that differ from the one that the message begins with. */
+    QString text(const QString& kind, const QString& messagePlace) const {
+        QStringList parts;
+        for (const FText& text : texts) {
+            parts.append(text.place == messagePlace ? text.what
+                                                    : QStringLiteral("%1 in %2").arg(text.what, text.place));
+        }
         const int others = count - texts.size();
         const QString rest = others > 0 ? QStringLiteral("; and %1 more").arg(others) : QString();
-        return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, texts.join(QStringLiteral("; ")), rest);
+        return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, parts.join(QStringLiteral("; ")), rest);
     }
 };
 
@@ -96,22 +106,22 @@ void log(const FTableData& table, const QString& source, bool isNote, FNumberFla
             (isMissing ? missing : suspicious).add(table, row, origin);
         }
     }
+    const FGroup& first = suspicious.count > 0 ? suspicious : missing;
     QStringList groups;
     if (suspicious.count > 0) {
-        groups.append(suspicious.text(QStringLiteral("suspicious")));
+        groups.append(suspicious.text(QStringLiteral("suspicious"), first.place));
     }
     if (missing.count > 0) {
-        groups.append(missing.text(QStringLiteral("without a number")));
+        groups.append(missing.text(QStringLiteral("without a number"), first.place));
     }
     const QString text = QStringLiteral("%1 values: ").arg(table.getRowCount()) + groups.join(QStringLiteral("; "));
-    const QString key = text + QString::number(ofFile.flags) + ofFile.oddity;
+    const QString key = first.place + text + QString::number(ofFile.flags) + ofFile.oddity;
     if (key == earlier) {
         return;
     }
     earlier = key;
     logFile(table, source, isNote, ofFile);
     if (!groups.isEmpty()) {
-        const FGroup& first = suspicious.count > 0 ? suspicious : missing;
         send(isNote, source, text, FValueRemark::remedy(first.flags & ~fileFlags), first.place);
     }
 }

@@ -1,5 +1,6 @@
 #include "host/script/FCmdReference.h"
 
+#include "host/core/FPrototypes.h"
 #include "host/core/FTypeDocu.h"
 #include "host/script/FCmdManager.h"
 
@@ -7,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -157,10 +159,20 @@ FCmdReference::FCmdReference(const QString& name) : mName(name) {
     FPrototypes::buildPending();
     const FObject* prototype = name.isEmpty() ? nullptr : FObject::getPrototype(name);
     collect(prototype);
-    const bool hasOwnRows = std::any_of(mRows.begin(), mRows.end(), [prototype](const FCmdRow* row) {
-        return prototype && row->owner == &prototype->getClassData();
-    });
-    mpDescribed = prototype && !hasOwnRows && isDescribed(name) ? prototype : nullptr;
+    collectDescribed(name.isEmpty() ? FPrototypes::getNames() : prototype ? QStringList(name) : QStringList());
+}
+
+void FCmdReference::collectDescribed(const QStringList& classes) {
+    QSet<const FClassData*> owners;
+    for (const FCmdRow* row : mRows) {
+        owners.insert(row->owner);
+    }
+    for (const QString& name : classes) {
+        const FObject* prototype = FPrototypes::find(name);
+        if (prototype && !owners.contains(&prototype->getClassData()) && isDescribed(name)) {
+            mDescribed.push_back(prototype);
+        }
+    }
 }
 
 void FCmdReference::collect(const FObject* prototype) {
@@ -207,13 +219,23 @@ QString FCmdReference::toShortText() const {
         text += QStringLiteral("  ") + signature(*row) + QStringLiteral("  // ") +
                 firstSentence(Texts(*row).description) + QLatin1Char('\n');
     }
+    text += mDescribed.empty() ? QString() : QStringLiteral("\nClasses without commands of their own\n");
+    for (const FObject* prototype : mDescribed) {
+        prototype->initTypeDocu();
+        const QString name = prototype->getClass();
+        text += QStringLiteral("  %1  // %2\n").arg(name, firstSentence(FTypeDocu::get(name, 1)));
+    }
     return text + QStringLiteral(
                       "\nWith descriptions and examples: merix commands NAME (a class or a command), or "
                       "merix commands --full\n");
 }
 
 QString FCmdReference::toText() const {
-    QString text = mpDescribed ? underlined(mName) + classText(*mpDescribed) : QString();
+    QString text;
+    for (const FObject* prototype : mDescribed) {
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + underlined(prototype->getClass()) +
+                classText(*prototype);
+    }
     QString heading;
     for (const FCmdRow* row : mRows) {
         const QString owner = headingOf(*row);

@@ -94,7 +94,8 @@ TEST_F(CommandLineTest, theReferenceFindsCommandsByName) {
 
 TEST_F(CommandLineTest, outputThatCantBeWrittenEndsTheProgramWithCode3) {
     write("print.merix", "x = [print(1), exit(0)]\nprint(2)\n");
-    for (const QString call : {"script print.merix > /dev/full", "commands > /dev/full", "script print.merix >&-"}) {
+    for (const QString call : {"script print.merix > /dev/full", "commands > /dev/full", "script print.merix >&-",
+                               "--help > /dev/full", "check print.merix > /dev/full"}) {
         QProcess shell;
         shell.setWorkingDirectory(path());
         shell.start("sh", {"-c", "\"$0\" " + call, MERIX_PROGRAM});

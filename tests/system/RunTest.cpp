@@ -111,7 +111,21 @@ TEST_F(RunTest, resultsOfADesignAreSavedAndReadBack) {
     const Outcome read = script("openProject(\"s.mrx\")\nprint(" + mNumber + ")\ncomp.setDesign(d1)\nprint(" + mNumber +
                                 ", comp.getState())\n");
     EXPECT_EQ(read.output, "2\n1 finished\n") << read.errors.toStdString();
-    EXPECT_EQ(read.errors, "");
+    EXPECT_EQ(read.errors.count("\n"), 1) << read.errors.toStdString();
+    EXPECT_TRUE(read.errors.contains("are of an earlier set-up (arguments was -c echo f 1"))
+        << read.errors.toStdString();
+
+    const Outcome renamed = script(
+        "openProject(\"s.mrx\")\nrename(d1, \"low\"); rename(d2, \"d1\"); rename(comp, \"solver\")\n"
+        "print(solver.getResults().getTableAt(0).getElementAt(0))\nsaveProject()\n"
+        "print(solver.getWorkingPath())\nsaveProject(\"copy.mrx\")\n");
+    EXPECT_EQ(renamed.output, "2\n" + path("s.results/d1/solver/") + "\n") << renamed.errors.toStdString();
+    EXPECT_TRUE(renamed.errors.contains("The runs stay in '" + path("s.results") + "'"))
+        << renamed.errors.toStdString();
+    const Outcome reopened = script(
+        "openProject(\"s.mrx\")\nprint(solver.getState(), solver.getResults().getTableAt(0).getElementAt(0))\n"
+        "solver.setDesign(low)\nprint(solver.getState(), solver.getResults().getTableAt(0).getElementAt(0))\n");
+    EXPECT_EQ(reopened.output, "finished 2\nfinished 1\n") << reopened.errors.toStdString();
 }
 
 TEST_F(RunTest, theLocaleChangesNothing) {

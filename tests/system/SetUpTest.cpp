@@ -77,20 +77,26 @@ print("ran", comp.run(), comp.rereadResults())
 conf.setEntryValue("x", [1])
 print(comp.run(), comp.getResults().getTable("out.txt").getElementAt("double"))
 print(saveProject("s.mrx"), def.save("d.lodm"))
-t = NULL
-t.getElementAt("double")
+t = comp.getResults().getTable("out.txt")
+conf.setEntryValue("x", t.getElementAt("double"))
+print(comp.run(), t.getElementAt("dubble"), conf.setEntryValue("y", 1))
 )";
     write("s.merix", (mSetUp + rest).toUtf8());
     const QMap<QString, QByteArray> before = files();
     const Outcome outcome = merix({"check", "s.merix", "--json"});
     const QJsonObject all = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
-    ASSERT_EQ(all["problems"].toArray().size(), 1) << outcome.output.toStdString() << outcome.errors.toStdString();
-    EXPECT_TRUE(all["problems"].toArray()[0].toObject()["text"].toString().contains("holds a list"));
+    const QStringList told{"holds a list", "would depend on itself", "out.txt has no value \"dubble\" (did you mean",
+                           "has no entry \"y\""};
+    const QJsonArray problems = all["problems"].toArray();
+    ASSERT_EQ(problems.size(), told.size()) << outcome.output.toStdString() << outcome.errors.toStdString();
+    for (int i = 0; i < told.size(); ++i) {
+        EXPECT_TRUE(problems[i].toObject()["text"].toString().contains(told[i])) << outcome.output.toStdString();
+    }
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_TRUE(outcome.errors.contains("ran false false")) << outcome.errors.toStdString();
     EXPECT_EQ(files(), before) << QStringList(files().keys()).join('\n').toStdString();
 
-    write("s.merix", (mSetUp + "comp.setExecutible(\"sh\")").toUtf8());
+    write("s.merix", (mSetUp + "x = comp.run()\ncomp.setExecutible(\"sh\")").toUtf8());
     const Outcome wrong = merix({"check", "s.merix"});
     EXPECT_EQ(wrong.exitCode, 1);
     EXPECT_TRUE(wrong.output.contains("did you mean \"setExecutable\"")) << wrong.output.toStdString();
@@ -125,6 +131,9 @@ TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
     EXPECT_FALSE(QJsonDocument::fromJson(ran.output.toUtf8()).isNull());
     EXPECT_EQ(read("p.results/baseline/comp/in.txt"), "x=5\nname=a\n");
     EXPECT_EQ(read("p.mrx"), project);
+    const Outcome old = merix({"read", "p.mrx", "--dir", "p.results/baseline/comp", "--csv"});
+    EXPECT_TRUE(old.output.contains("double,10,out.txt:1:8,10,earlier set-up\n")) << old.output.toStdString();
+    EXPECT_TRUE(old.errors.contains("are of an earlier set-up (x was 5, is 2)")) << old.errors.toStdString();
     EXPECT_EQ(QDir(path()).entryList({"p.mrx*"}), QStringList({"p.mrx"}));
     EXPECT_EQ(merix({"run", "p.mrx", "--set", "x=1 +"}).exitCode, 2);
 }

@@ -97,6 +97,16 @@ TEST(FSuspicionTest, ordinaryLinesAreNotSuspicious) {
     }
 }
 
+TEST(FSuspicionTest, commasUnderAHeadWithCommasSeparate) {
+    const auto flagsAt = [](const char* text, qint64 begin) {
+        return FSuspicion::ofNumber(text, {begin, begin + 1}, begin);
+    };
+    EXPECT_EQ(flagsAt("x,y\n3,4\n1,2\n", 8), FFoundFlags());
+    EXPECT_EQ(flagsAt("t [s], p [Pa]\n1,2\n", 14), FFoundFlags(FFoundFlag::DecimalComma));
+    EXPECT_EQ(flagsAt("x,y\n1,2 7\n", 4), FFoundFlags(FFoundFlag::DecimalComma));
+    EXPECT_EQ(flagsAt("3,4\n1,2\n", 4), FFoundFlags(FFoundFlag::DecimalComma));
+}
+
 TEST(FSuspicionTest, separatedColumns) {
     using F = FFoundFlag;
     const FSeparatorSettings whiteSpace = {false, true, ""};

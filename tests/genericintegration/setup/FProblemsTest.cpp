@@ -136,6 +136,15 @@ L <entry>lenght</entry> <entry>lenght</entry>"))",
      R"(input.setContent("L   <entry>length</entry>  0.5 <entry>pump|shutoff</entry>")
 conf.setEntryValue("length", 123.456); conf.setEntryValue("pump|shutoff", "300"))",
      {"warning input:1:5: the entry \"length\" is written as \"123.456\" … default, \"12.5\" … \"%4g\""}},
+    {"blanksBetweenFields",
+     R"(input.setContent("1 <entry>length</entry> <entry>pump|shutoff</entry> 0.5")
+conf.setEntryValue("length", 123.456); def.addEntry("width", 2))",
+     {"warning def: no input template has a tag of the entry \"width\""}},
+    {"furtherOccurrence",
+     R"(def.addEntry("n", 2, 5, 1)
+input.setContent("<entry>length</entry>, <entry>pump|shutoff</entry>, <entry>n</entry>")
+conf.setEntryValue("n[1]", 3))",
+     {"warning conf: no file gets the value of \"n[1]\", because tags name the first occurrence only"}},
     {"noProgram",
      R"(comp.setExecutable("no-such-solver"))",
      {"error comp: The program 'no-such-solver' was not found … Install it"}},

@@ -71,8 +71,7 @@ TEST_F(FResultsGenIntTest, reportsSuspiciousAndMissingNumbersOncePerReading) {
     write("Out.txt", "title\nf -5.013907D-01\n");
     EXPECT_EQ(results()->getDataAt("f", 0U), -5.013907);
     EXPECT_EQ(results()->getDataAt("g", 0U), -1);
-    ASSERT_TRUE(logHolds("2 values: 2 suspicious: \"f\" -5.013907 is followed by D-01 in Out.txt:2; \"g\" -1 "))
-        << logText();
+    ASSERT_TRUE(logHolds("2 values: 2 suspicious: \"f\" -5.013907 is followed by D-01; \"g\" -1 ")) << logText();
     EXPECT_EQ(log().size(), 1);
     results()->setOutputHandles(results()->getOutputHandles());
     EXPECT_EQ(results()->getDataAt("f", 0U), -5.013907);
@@ -83,11 +82,10 @@ TEST_F(FResultsGenIntTest, reportsSuspiciousAndMissingNumbersOncePerReading) {
     results()->detachFromFiles();
     EXPECT_EQ(log().size(), 1) << "nobody has requested a number";
     EXPECT_TRUE(std::isnan(results()->getDataAt("f", 0U)));
-    EXPECT_TRUE(logHolds("2 values: 2 without a number: \"f\": line 2 ends before the column in Out.txt:2"))
-        << logText();
+    EXPECT_TRUE(logHolds("2 values: 2 without a number: \"f\": line 2 ends before the column; \"g\"")) << logText();
     EXPECT_TRUE(
         logHolds("\"s\" 3 was read from line 1, counted from the top of the file, since the anchor \"said\" "
-                 "isn't in the file in stdout.txt:1"))
+                 "isn't in the file"))
         << logText();
 }
 
@@ -125,6 +123,24 @@ TEST_F(FResultsGenIntTest, answersQueriesOfScripts) {
     EXPECT_TRUE(logHolds("Out.txt has no value \"meen\" (did you mean \"mean\"?)"));
     EXPECT_EQ(textOf("comp.getResults().getTableAt(0).getElementAt(1, 3)"), "NaN");
     EXPECT_TRUE(logHolds("Out.txt has no column 3; it has 3 rows and 1 columns")) << logText();
+}
+
+TEST_F(FResultsGenIntTest, tellsThatNumbersAreOfAnEarlierSetUp) {
+    const QString table = "comp.getResults().getTable(\"Out.txt\")";
+    FTestFolder::write("m.dat", "1");
+    ASSERT_TRUE(run("def.addEntry(\"mesh\", inputFile(\"m.dat\"))\nok = comp.run()"));
+    EXPECT_EQ(textOf(table + ".getElementAt(\"f\")"), "4");
+    EXPECT_FALSE(logHolds("earlier set-up")) << logText();
+    ASSERT_TRUE(run("conf.setEntryValue(\"x\", 3)"));
+    EXPECT_EQ(textOf(table + ".getElementAt(\"f\") + comp.getResults().getDataAt(\"f\", 0)"), "8");
+    EXPECT_EQ(log().filter("the numbers of Out.txt are of an earlier set-up (x was 2, is 3). ").size(), 1) << logText();
+    EXPECT_EQ(textOf("comp.getResults().getTable(\"stdout.txt\").getText(0)"), "2");
+    EXPECT_EQ(log().filter("the numbers of stdout.txt are of an earlier set-up").size(), 1) << logText();
+    EXPECT_TRUE(textOf(table + ".getListing()").contains("earlier set-up"));
+    ASSERT_TRUE(run("conf.setEntryValue(\"x\", 2)"));
+    EXPECT_FALSE(textOf(table + ".getListing()").contains("earlier set-up"));
+    FTestFolder::write("m.dat", "2");
+    EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[file of mesh changed]");
 }
 
 TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {

@@ -199,7 +199,8 @@ TEST_F(FExternComputationTest, succeedsOnlyWithAFileThatCanBeRead) {
     for (const Case& made :
          {Case{"mkdir out.dat", "'out.dat' (it is a folder)", false},
           Case{"mkfifo out.dat", "'out.dat' (it is a pipe or a device", false},
-          Case{"ln -s /dev/null out.dat", "'out.dat' (it is a pipe or a device", false},
+          Case{"ln -s /dev/null out.dat", "'out.dat' (it is a link to '/dev/null', outside the folder", false},
+          Case{"echo 1 > run1.dat; ln -s run1.dat out.dat", "", true},
           Case{"ln -s nowhere out.dat", "didn't write 'out.dat'", false},
           Case{": > out.dat", "wrote nothing to 'out.dat'", true},
           Case{"echo 1 > out.dat; sleep 100 &", "had left processes running, which were terminated", true}}) {

@@ -142,11 +142,9 @@ bool FDefinitionGenInt::isCurCommandFile() const {
 }
 
 void FDefinitionGenInt::addEntry(const FExpr<FEntryBase>& entry) {
-    if (!entry || getEntries().contains(entry)) {
-        return;
+    if (entry && entry->getHolder() != this) {
+        FDefinitionCustom::addEntry(entry);
     }
-    FDefinitionBase::addEntry(entry);
-    reinitConfigurations(false);
 }
 
 bool FDefinitionGenInt::removeEntry(const FExpr<FEntryBase>& entry) {
@@ -187,13 +185,12 @@ QList<FConfigurationGenInt*> FDefinitionGenInt::ownConfigurations() const {
 }
 
 // Configurations of other classes that have this definition follow on request.
-void FDefinitionGenInt::reinitConfigurations(bool reset) {
-    if (FMerixCtrl::instance()->isLoadingProject()) {
-        return;
-    }
-    for (FConfigurationGenInt* configuration : ownConfigurations()) {
-        configuration->reinit(reset);
-    }
+QList<FConfiguration*> FDefinitionGenInt::getFollowers() const {
+    const QList<FConfigurationGenInt*> own = ownConfigurations();
+    return {own.begin(), own.end()};
+}
+
+void FDefinitionGenInt::tellFollowed() {
     if (FMerixCtrl::instance()->isLoadingProject()) {
         return;
     }

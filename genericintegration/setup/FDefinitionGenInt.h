@@ -62,7 +62,6 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     bool removeEntry(const FExpr<FEntryBase>& entry) override;
     /** The same for an entry in a group; this also updates configurations. */
     bool findAndRemoveEntry(const FExpr<FEntryBase>& entry) override;
-    void reinitConfigurations(bool reset) override;
     /** Renames tags in the input templates and has their editors show it. */
     void updateCommandFiles(const QString& oldName, const QString& newName) override;
     /** Whether an input template has a tag of the entry, in any case. */
@@ -86,6 +85,8 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
 
  protected:
     explicit FDefinitionGenInt(const QString& name = QString()) : FClass(name) {}
+    QList<FConfiguration*> getFollowers() const override;
+    void tellFollowed() override;
 
  private:
     friend class FClass<FDefinitionGenInt, FDefinitionCustom>;

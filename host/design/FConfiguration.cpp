@@ -83,10 +83,26 @@ void FConfiguration::setDefinition(const FExpr<FDefinition>& definition) {
 
 void FConfiguration::reinit(bool reset) {
     if (const FDefinition* definition = mDefinition.ptr()) {
-        FEntryTree().follow(*this, *definition, reset);
+        FEntryTree tree;
+        tree.follow(*this, *definition, reset);
+        mFollowed = tree.hasStopped() ? Versions() : Versions{definition->getVersion(), getVersion()};
     } else {
         setEntries({});
     }
+}
+
+bool FConfiguration::followAddition(const FEntryDef& added, quint64 before) {
+    const bool isFollowed =
+        mFollowed.definition == before && mFollowed.own == getVersion() && FEntryTree().append(*this, added);
+    mFollowed = isFollowed ? Versions{mDefinition->getVersion(), getVersion()} : Versions();
+    return isFollowed;
+}
+
+void FConfiguration::takeNewEntries() {
+    if (const FDefinition* definition = mDefinition.ptr()) {
+        FEntryTree(true).follow(*this, *definition, false);
+    }
+    mFollowed = {};
 }
 
 void FConfiguration::renameEntries(const FEntryDef* definition) {

@@ -17,6 +17,14 @@ class MERIX_EXPORT FConfiguration : public FClass<FConfiguration, FDefinitionBas
 
     /** Follows the definition. False: values stay where the entry lives on. True: all values become the defaults. */
     void reinit(bool reset);
+    /**
+     * Gets an entry that was just added to the definition. False, with nothing done, if there was something else to
+     * follow.
+     * @param before  the version of the definition before the addition
+     */
+    bool followAddition(const FEntryDef& added, quint64 before);
+    /** Gets the entries that it lacks. Those that the definition lacks stay. */
+    void takeNewEntries();
     /** Makes all entries. */
     void initEntireStructure(bool reset) { reinit(reset); }
     /** The entries of that entry definition take its name. */
@@ -43,5 +51,12 @@ class MERIX_EXPORT FConfiguration : public FClass<FConfiguration, FDefinitionBas
  private:
     static std::vector<std::unique_ptr<FStateField>> fields();
 
+    /** How far its entries follow. */
+    struct Versions {
+        quint64 definition = 0;
+        quint64 own = 0;
+    };
+
     FExpr<FDefinition> mDefinition;
+    Versions mFollowed;
 };

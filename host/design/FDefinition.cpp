@@ -47,24 +47,42 @@ bool readEntries(const QString& creator, const QString& text, QList<FExpr<FEntry
 }  // namespace
 
 void FDefinition::addEntry(const FExpr<FEntryBase>& entry) {
+    const quint64 before = getVersion();
     FDefinitionBase::addEntry(entry);
-    reinitConfigurations(false);
+    followAddition(entry, before);
+}
+
+void FDefinition::followAddition(const FExpr<FEntryBase>& entry, quint64 before) {
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return;
+    }
+    const auto* added = dynamic_cast<const FEntryDef*>(entry.ptr());
+    bool isFollowed = added && added->getRoot() == this && getVersion() == before + 1;
+    for (FConfiguration* configuration : isFollowed ? getFollowers() : QList<FConfiguration*>()) {
+        isFollowed = configuration->followAddition(*added, before) && isFollowed;
+    }
+    isFollowed ? tellFollowed() : reinitConfigurations(false);
 }
 
 void FDefinition::reinitConfigurations(bool reset) {
     if (FMerixCtrl::instance()->isLoadingProject()) {
         return;
     }
-    for (FConfiguration* configuration : getConfigurations()) {
+    for (FConfiguration* configuration : getFollowers()) {
         configuration->reinit(reset);
     }
+    tellFollowed();
 }
 
-void FDefinition::replaceEntries(const QList<FExpr<FEntryBase>>& entries) {
+void FDefinition::setEntriesAndReassign(const QList<FExpr<FEntryBase>>& entries) {
     setEntries(entries);
     for (FConfiguration* configuration : getConfigurations()) {
         FEntry::reassign(configuration->getEntries(), getEntries());
     }
+}
+
+void FDefinition::replaceEntries(const QList<FExpr<FEntryBase>>& entries) {
+    setEntriesAndReassign(entries);
     reinitConfigurations(false);
 }
 
@@ -75,7 +93,11 @@ bool FDefinition::setEntryDefsFromDB(const QString& text) {
     if (!creator || !readEntries(creator->name, text, entries)) {
         return false;
     }
-    replaceEntries(entries);
+    setEntriesAndReassign(entries);
+    for (FConfiguration* configuration : getFollowers()) {
+        configuration->takeNewEntries();
+    }
+    tellFollowed();
     return true;
 }
 

@@ -22,6 +22,14 @@ void collect(const FEntryHolder& holder, const QString& front, QMap<QString, FEx
 }
 
 FEntryBase* entryOfPart(const FEntryHolder& holder, const QString& part) {
+    FEntryBase* named = holder.findEntry(part);
+    if (named && named->getPathPart() == part) {
+        return named;
+    }
+    // With an index, it isn't a name.
+    if (!part.endsWith(QLatin1Char(']'))) {
+        return nullptr;
+    }
     const auto& entries = holder.getEntries();
     const auto found = std::find_if(entries.begin(), entries.end(), [&part](const FExpr<FEntryBase>& entry) {
         return FEntryBase::of(entry)->getPathPart() == part;
@@ -32,9 +40,10 @@ FEntryBase* entryOfPart(const FEntryHolder& holder, const QString& part) {
 }  // namespace
 
 std::vector<std::unique_ptr<FStateField>> FDefinitionBase::fields() {
-    using Entries = QList<FExpr<FEntryBase>> FDefinitionBase::*;
+    using Entries = FEntryList::Snapshot;
     return FStateFields<FDefinitionBase>()
-        .member(static_cast<Entries>(&FDefinitionBase::mEntries), [](FDefinitionBase& base) { base.linkEntries(); })
+        .value<Entries>([](FDefinitionBase& base) -> Entries& { return base.mState; },
+                        [](FDefinitionBase& base) { base.restoreEntries(); })
         .take();
 }
 
@@ -58,8 +67,8 @@ void FDefinitionBase::tellGone() const {
 
 // The values may name this object, and so keep what keeps them.
 void FDefinitionBase::letGo() {
-    mEntries.clear();
-    linkEntries();
+    mState = {};
+    restoreEntries();
     mEntryMap.clear();
 }
 

@@ -20,6 +20,8 @@ class MERIX_EXPORT FDefinitionBase : public FClass<FDefinitionBase, FEntity>, pu
     const QMap<QString, FExpr<FEntryBase>>& getEntryMap() const;
     /** Identifies the present entry map: each rebuilt map gets a number that no other map had. */
     quint64 getEntryMapNumber() const;
+    /** Grows with each change of a list or name of its entries. */
+    quint64 getVersion() const { return mVersion; }
     /** The entry or group of that path; null if there is none. */
     FEntryBase* getEntryOfScope(const QString& path) const;
 
@@ -43,10 +45,14 @@ class MERIX_EXPORT FDefinitionBase : public FClass<FDefinitionBase, FEntity>, pu
     void letGo() override;
 
  private:
+    friend class FEntryHolder;
+
+    void noteStructureChange() { ++mVersion; }
     static std::vector<std::unique_ptr<FStateField>> fields();
     const FRecorded* asRecorded() const override { return this; }
 
     FExprBase mStructure;
+    quint64 mVersion = 1;
     mutable QMap<QString, FExpr<FEntryBase>> mEntryMap;
     mutable quint64 mMapVersion = 0;
     mutable quint64 mMapNumber = 0;

@@ -4,6 +4,7 @@
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryDef.h"
 #include "host/design/FEntryName.h"
+#include "host/design/FEntryTree.h"
 #include "host/design/FEntryValue.h"
 #include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
@@ -63,6 +64,18 @@ FEntryHolder* groupOf(FDefinition& definition, const QStringList& names, QString
     return holder;
 }
 
+/** How often a configuration would have a new entry at least; not counted beyond the most possible. */
+int leastOccurrences(const FDefinition& definition, const QStringList& groups, int least) {
+    int count = std::max(least, 1);
+    const FEntryHolder* holder = &definition;
+    for (int i = 0; holder && i < groups.size() && count <= FEntryTree::mostEntries; ++i) {
+        const auto* group = static_cast<const FEntryDef*>(holder->findEntry(groups[i]));
+        count *= group ? std::max(group->getMinOccurrences(), 1) : 1;
+        holder = group;
+    }
+    return count;
+}
+
 FExpr<FDefinition> addEntry(FDefinition& definition, const QString& path, const FExpr<FObject>& value, int most,
                             int least, bool hidden, const QString& description, const QString& type) {
     const NewEntry entry{value, most, least < 0 ? most : least, hidden, description, type};
@@ -75,6 +88,13 @@ FExpr<FDefinition> addEntry(FDefinition& definition, const QString& path, const 
         return refuse(definition, QStringLiteral("%1 has an entry \"%2\" already").arg(definition.getName(), path));
     }
     const QString name = names.takeLast();
+    if (leastOccurrences(definition, names, entry.least) > FEntryTree::mostEntries) {
+        return refuse(definition,
+                      QStringLiteral("\"%1\" would occur more than %2 times, which is the most of a configuration; "
+                                     "lower the counts of its groups")
+                          .arg(path)
+                          .arg(FEntryTree::mostEntries));
+    }
     FEntryHolder* holder = groupOf(definition, names, reason);
     if (!holder) {
         return refuse(definition, reason);

@@ -8,7 +8,8 @@
 #include "host/design/FEntryValue.h"
 #include "host/script/FCmd.h"
 
-#include <algorithm>
+#include <QHash>
+#include <QSet>
 
 FClassData FEntry::mClass("FEntry", &FEntryBase::mClass, nullptr, &FEntry::fields);
 
@@ -30,8 +31,8 @@ FEntry::FEntry(const FExpr<FEntryDef>& definition, int index)
 
 std::vector<std::unique_ptr<FStateField>> FEntry::fields() {
     return FStateFields<FEntry>()
-        .member(&FEntry::mDefinition, [](FEntry&) { structureChanged(); })
-        .member(&FEntry::mIndex, [](FEntry&) { structureChanged(); })
+        .member(&FEntry::mDefinition, [](FEntry& entry) { entry.structureChanged(); })
+        .member(&FEntry::mIndex, [](FEntry& entry) { entry.structureChanged(); })
         .owned(&FEntry::mValue, [](FEntry&) { ++mFileNameVersion; })
         .take();
 }
@@ -116,16 +117,23 @@ void FEntry::reassignEntryDefs() {
 }
 
 void FEntry::reassign(const QList<FExpr<FEntryBase>>& entries, const QList<FExpr<FEntryBase>>& definitions) {
+    QSet<const void*> known;
+    QHash<QString, FExpr<FEntryBase>> named;
+    for (const FExpr<FEntryBase>& definition : definitions) {
+        known.insert(definition.identity());
+        const QString& name = FEntryBase::of(definition)->getName();
+        if (!named.contains(name)) {
+            named.insert(name, definition);
+        }
+    }
     for (const FExpr<FEntryBase>& handle : entries) {
         auto* entry = static_cast<FEntry*>(handle.ptr());
-        if (!definitions.contains(FExpr<FEntryBase>(entry->getDefinition()))) {
-            const auto named = std::find_if(
-                definitions.begin(), definitions.end(),
-                [entry](const FExpr<FEntryBase>& definition) { return definition->getName() == entry->getName(); });
-            if (named == definitions.end()) {
+        if (!known.contains(entry->getDefinition().identity())) {
+            const auto successor = named.constFind(entry->getName());
+            if (successor == named.constEnd()) {
                 continue;
             }
-            entry->setDefinition(FExpr<FEntryDef>(*named));
+            entry->setDefinition(FExpr<FEntryDef>(*successor));
         }
         if (entry->hasNestedEntries()) {
             entry->reassignEntryDefs();

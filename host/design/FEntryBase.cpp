@@ -6,10 +6,11 @@
 FClassData FEntryBase::mClass("FEntryBase", &FObject::mClass, nullptr, &FEntryBase::fields);
 
 std::vector<std::unique_ptr<FStateField>> FEntryBase::fields() {
-    using Entries = QList<FExpr<FEntryBase>> FEntryBase::*;
+    using Entries = FEntryList::Snapshot;
     return FStateFields<FEntryBase>()
-        .member(&FEntryBase::mName, [](FEntryBase&) { structureChanged(); })
-        .member(static_cast<Entries>(&FEntryBase::mEntries), [](FEntryBase& group) { group.linkEntries(); })
+        .member(&FEntryBase::mName, [](FEntryBase& entry) { entry.nameChanged(); })
+        .value<Entries>([](FEntryBase& group) -> Entries& { return group.mState; },
+                        [](FEntryBase& group) { group.restoreEntries(); })
         .take();
 }
 
@@ -45,8 +46,14 @@ FObject* FEntryBase::getWhole() const {
 void FEntryBase::rename(const QString& name) {
     FHistory::instance()->record(this);
     mName = name;
-    structureChanged();
+    nameChanged();
     setOutOfDate(true);
+}
+
+void FEntryBase::nameChanged() {
+    if (mpHolder) {
+        mpHolder->entryRenamed();
+    }
 }
 
 void FEntryBase::attach(FEntryHolder* holder) {

@@ -51,6 +51,7 @@ class MERIX_EXPORT FEntryBase : public FClass<FEntryBase, FRecorded>, public FEn
     static std::vector<std::unique_ptr<FStateField>> fields();
     const FRecorded* asRecorded() const override { return this; }
     void attach(FEntryHolder* holder);
+    void nameChanged();
 
     QString mName;
     FEntryHolder* mpHolder = nullptr;

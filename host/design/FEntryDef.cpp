@@ -30,9 +30,11 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
     }
     const FExpr<FEntryBase> handle =
         make(parent->freeEntryName(name, nullptr), least, most, hidden, hasDefault, description, valueOrType);
+    auto* definition = static_cast<FDefinition*>(parent->getRoot());
+    const quint64 before = definition->getVersion();
     parent->addEntry(handle);
-    if (parent != parent->getRoot()) {
-        static_cast<FDefinition*>(parent->getRoot())->reinitConfigurations(false);
+    if (parent != definition) {
+        definition->followAddition(handle, before);
     }
     return static_cast<FEntryDef*>(handle.ptr());
 }

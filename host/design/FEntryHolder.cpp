@@ -23,18 +23,13 @@ void FEntryHolder::unlinkEntries() {
     }
 }
 
-FEntryBase* FEntryHolder::findEntry(const QString& name) const {
-    const auto found = std::find_if(mEntries.begin(), mEntries.end(), [&name](const FExpr<FEntryBase>& entry) {
-        return FEntryBase::of(entry)->getName() == name;
-    });
-    return found == mEntries.end() ? nullptr : FEntryBase::of(*found);
-}
-
 QString FEntryHolder::freeEntryName(const QString& name, const FEntryBase* self) const {
     return uniqueName(legalEntryName(name), [this, self](const QString& candidate) {
-        return std::any_of(mEntries.begin(), mEntries.end(), [&](const FExpr<FEntryBase>& entry) {
-            return FEntryBase::of(entry) != self && FEntryBase::of(entry)->getName() == candidate;
-        });
+        const FEntryBase* first = findEntry(candidate);
+        const bool isOther = first && first != self;
+        return isOther || (first && std::any_of(getEntries().begin(), getEntries().end(), [&](const auto& entry) {
+                               return FEntryBase::of(entry) != self && FEntryBase::of(entry)->getName() == candidate;
+                           }));
     });
 }
 
@@ -55,49 +50,68 @@ void FEntryHolder::addEntry(const FExpr<FEntryBase>& entry) {
         return;
     }
     mEntries.append(entry);
+    mState = mEntries.getSnapshot();
     mLinked.append(entry);
     entry->attach(this);
     changed();
 }
 
 bool FEntryHolder::removeEntry(const FExpr<FEntryBase>& entry) {
-    if (mEntries.removeAll(entry) == 0) {
+    QList<FExpr<FEntryBase>> rest = getEntries();
+    if (rest.removeAll(entry) == 0) {
         return false;
     }
-    linkEntries();
+    replaceEntries(rest);
     changed();
     return true;
 }
 
 bool FEntryHolder::findAndRemoveEntry(const FExpr<FEntryBase>& entry) {
     return removeEntry(entry) ||
-           std::any_of(mEntries.begin(), mEntries.end(),
+           std::any_of(getEntries().begin(), getEntries().end(),
                        [&entry](const FExpr<FEntryBase>& group) { return group->findAndRemoveEntry(entry); });
 }
 
 void FEntryHolder::setEntries(const QList<FExpr<FEntryBase>>& entries) {
-    if (entries != mEntries) {
-        mEntries = entries;
-        linkEntries();
+    if (entries != getEntries()) {
+        replaceEntries(entries);
         changed();
     }
 }
 
-void FEntryHolder::linkEntries() {
+void FEntryHolder::restoreEntries() {
+    replaceEntries(mState.getEntries());
+}
+
+void FEntryHolder::replaceEntries(const QList<FExpr<FEntryBase>>& entries) {
     unlinkEntries();
-    for (const FExpr<FEntryBase>& entry : mEntries) {
+    mEntries.replace(entries);
+    mState = mEntries.getSnapshot();
+    for (const FExpr<FEntryBase>& entry : entries) {
         entry->attach(this);
     }
-    mLinked = mEntries;
+    mLinked = entries;
     structureChanged();
 }
 
 std::size_t FEntryHolder::getEntriesMemory() const {
     std::size_t sum = 0;
-    for (const FExpr<FEntryBase>& entry : mEntries) {
+    for (const FExpr<FEntryBase>& entry : getEntries()) {
         sum += sizeof(FEntryBase) + FEntryBase::of(entry)->getMemory();
     }
     return sum;
+}
+
+void FEntryHolder::structureChanged() {
+    ++mStructureVersion;
+    if (FDefinitionBase* root = getRoot()) {
+        root->noteStructureChange();
+    }
+}
+
+void FEntryHolder::entryRenamed() {
+    mEntries.forgetNames();
+    structureChanged();
 }
 
 void FEntryHolder::changed() {

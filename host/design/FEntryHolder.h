@@ -2,6 +2,7 @@
 
 #include "host/core/FExport.h"
 #include "host/core/FExpr.h"
+#include "host/design/FEntryList.h"
 
 #include <QList>
 #include <QString>
@@ -21,9 +22,9 @@ class MERIX_EXPORT FEntryHolder {
     FEntryHolder(const FEntryHolder&) = delete;
     FEntryHolder& operator=(const FEntryHolder&) = delete;
 
-    const QList<FExpr<FEntryBase>>& getEntries() const { return mEntries; }
+    const QList<FExpr<FEntryBase>>& getEntries() const { return mEntries.get(); }
     /** The first entry of that name; null if there is none. */
-    FEntryBase* findEntry(const QString& name) const;
+    FEntryBase* findEntry(const QString& name) const { return mEntries.find(name); }
     /** `name` made legal, with a suffix if an entry other than `self` has it. */
     QString freeEntryName(const QString& name, const FEntryBase* self) const;
 
@@ -33,6 +34,8 @@ class MERIX_EXPORT FEntryHolder {
     virtual bool removeEntry(const FExpr<FEntryBase>& entry);
     /** The same, also from the groups below. */
     virtual bool findAndRemoveEntry(const FExpr<FEntryBase>& entry);
+    /** An entry of this holder has another name. */
+    void entryRenamed();
     /** Replaces the list; nothing happens if it is the same. */
     void setEntries(const QList<FExpr<FEntryBase>>& entries);
 
@@ -45,21 +48,24 @@ class MERIX_EXPORT FEntryHolder {
     static quint64 getStructureVersion() { return mStructureVersion; }
 
  protected:
-    /** Makes the entries know their holder, after their list was written back as a raw field. */
-    void linkEntries();
+    /** Takes the entries from the state that was written back as a raw field, and makes them know their holder. */
+    void restoreEntries();
     /** About how many bytes its entries hold. */
     std::size_t getEntriesMemory() const;
-    static void structureChanged() { ++mStructureVersion; }
-
-    QList<FExpr<FEntryBase>> mEntries;
+    /** A list or name has changed here. */
+    void structureChanged();
+    FEntryList::Snapshot mState;  //!< the entries as the history knows them
 
  private:
     /** The holder as the history knows it. */
     virtual const FRecorded* asRecorded() const = 0;
+    /** Has another list of entries. */
+    void replaceEntries(const QList<FExpr<FEntryBase>>& entries);
     bool standsIn(const FEntryBase* entry) const;
     void changed();
     void unlinkEntries();
 
+    FEntryList mEntries;
     QList<FExpr<FEntryBase>> mLinked;  // the entries that know this holder
     static quint64 mStructureVersion;
 };

@@ -7,6 +7,7 @@
 #include "host/script/FCmd.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -40,7 +41,75 @@ struct PathPart {
     int index = -1;
 };
 
+int countBelow(const FEntryHolder& entries) {
+    int count = entries.getEntries().size();
+    for (const FExpr<FEntryBase>& entry : entries.getEntries()) {
+        count += countBelow(*asEntry(entry));
+    }
+    return count;
+}
+
+/** The entries that a definition makes in its holder, with all below them; not counted beyond the most possible. */
+qint64 countMadeBy(const FEntryDef& definition) {
+    qint64 each = 1;
+    for (const FExpr<FEntryBase>& nested : definition.getEntries()) {
+        each = std::min<qint64>(each + countMadeBy(*asDefinition(nested)), FEntryTree::mostEntries + 1);
+    }
+    return each * leastCount(definition);
+}
+
+/** The holders in a configuration that follow a definition or a group of it. */
+QList<FEntryHolder*> followersOf(const FEntryHolder& definitions, FConfiguration& configuration) {
+    const auto* group = dynamic_cast<const FEntryDef*>(&definitions);
+    if (!group) {
+        return {&configuration};
+    }
+    QList<FEntryHolder*> found;
+    for (const FEntryHolder* holder : followersOf(*group->getHolder(), configuration)) {
+        auto* first = static_cast<FEntry*>(holder->findEntry(group->getName()));
+        if (first && group->getMaxOccurrences() == 1 && first->getDefinition().ptr() == group) {
+            found.append(first);
+            continue;
+        }
+        for (const FExpr<FEntryBase>& entry : holder->getEntries()) {
+            if (asEntry(entry)->getDefinition().ptr() == group) {
+                found.append(asEntry(entry));
+            }
+        }
+    }
+    return found;
+}
+
 }  // namespace
+
+bool FEntryTree::append(FConfiguration& configuration, const FEntryDef& added) {
+    const QList<FEntryHolder*> holders = followersOf(*added.getHolder(), configuration);
+    // Counting those of the configuration alone would take a look at all.
+    if (FEntry::getCount() + holders.size() * countMadeBy(added) > mostEntries) {
+        return false;
+    }
+    for (FEntryHolder* holder : holders) {
+        for (int index = 0; index < leastCount(added); ++index) {
+            auto* entry = new FEntry(FExpr<FEntryDef>(&added), index);
+            const FExpr<FEntryBase> handle(entry);
+            fill(*entry);
+            holder->addEntry(handle);
+        }
+    }
+    return true;
+}
+
+void FEntryTree::appendOthers(const Entries& present, Entries& list) {
+    QSet<const void*> taken;
+    for (const FExpr<FEntryBase>& entry : list) {
+        taken.insert(entry.identity());
+    }
+    for (const FExpr<FEntryBase>& entry : present) {
+        if (!taken.contains(entry.identity())) {
+            list.append(entry);
+        }
+    }
+}
 
 const FEntryHolder* FEntryTree::definitionsOf(const FEntryHolder& entries) {
     if (const auto* configuration = dynamic_cast<const FConfiguration*>(&entries)) {
@@ -78,22 +147,26 @@ bool FEntryTree::mayMakeOneMore(const FEntryDef& definition) {
 void FEntryTree::fill(FEntry& entry) {
     const FEntryDef* definition = entry.getDefinition().ptr();
     if (definition && definition->isGroup()) {
-        follow(entry, *definition, false);
+        followLevel(entry, *definition, false);
     } else {
         entry.setDefaultValue();
     }
 }
 
 void FEntryTree::follow(FEntryHolder& entries, const FEntryHolder& definitions, bool reset) {
-    mCount += entries.getEntries().size();
+    mCount = countBelow(entries);
+    followLevel(entries, definitions, reset);
+}
+
+void FEntryTree::followLevel(FEntryHolder& entries, const FEntryHolder& definitions, bool reset) {
     const Entries list = wanted(entries, definitions, reset);
     for (const FExpr<FEntryBase>& handle : list) {
         FEntry& entry = *asEntry(handle);
         if (entry.getHolder() != &entries) {
             continue;  // new, and filled already
         }
-        if (entry.isGroup()) {
-            follow(entry, *entry.getDefinition().ptr(), reset);
+        if (entry.isGroup() && entry.getDefinition()) {
+            followLevel(entry, *entry.getDefinition().ptr(), reset);
         } else if (reset && !entry.hasDefaultValue()) {
             entry.setDefaultValue();
         }
@@ -123,6 +196,9 @@ FEntryTree::Entries FEntryTree::wanted(const FEntryHolder& entries, const FEntry
         }
         const Entries own = rest.value(handle.identity());
         addOccurrences(*asDefinition(handle), own, {0, own.size()}, reset, list);
+    }
+    if (mKeepsOthers) {
+        appendOthers(present, list);
     }
     return list;
 }

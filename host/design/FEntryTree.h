@@ -15,6 +15,9 @@ class FEntryHolder;
 /** Makes the entries of a configuration follow its definition. */
 class MERIX_EXPORT FEntryTree {
  public:
+    /** @param keepsOthers  whether entries without a living definition stay, after the others */
+    explicit FEntryTree(bool keepsOthers = false) : mKeepsOthers(keepsOthers) {}
+
     /** Entries that one configuration can have; what counts multiply to beyond that isn't made, with a message. */
     static constexpr int mostEntries = 100000;
     /** The same for all configurations together, with those that undo can bring back. */
@@ -27,6 +30,13 @@ class MERIX_EXPORT FEntryTree {
      * @param reset  also gives each entry its default value, and takes back further occurrences
      */
     void follow(FEntryHolder& entries, const FEntryHolder& definitions, bool reset);
+    /**
+     * Appends the occurrences of an entry definition that was just appended to a definition, or to a group of it, which
+     * the configuration followed until then. False, with nothing done, if the configuration may become too large.
+     */
+    bool append(FConfiguration& configuration, const FEntryDef& added);
+    /** Whether counts multiplied to more entries than there can be. */
+    bool hasStopped() const { return mStopped; }
     /** Gives a new entry its default value, or the entries of its group. */
     void fill(FEntry& entry);
 
@@ -45,6 +55,8 @@ class MERIX_EXPORT FEntryTree {
         int end;
     };
 
+    void followLevel(FEntryHolder& entries, const FEntryHolder& definitions, bool reset);
+    static void appendOthers(const Entries& present, Entries& list);
     Entries wanted(const FEntryHolder& entries, const FEntryHolder& definitions, bool reset);
     /** Appends the occurrences of a definition: those at a range of a list, and new ones up to the least count. */
     void addOccurrences(FEntryDef& definition, const Entries& present, Range own, bool reset, Entries& list);
@@ -52,6 +64,7 @@ class MERIX_EXPORT FEntryTree {
     FEntry* addOccurrencesUpTo(FEntryHolder& holder, FEntryDef& definition, int last);
     bool mayMakeOneMore(const FEntryDef& definition);
 
+    bool mKeepsOthers;
     int mCount = 0;
     bool mStopped = false;
 };

@@ -106,7 +106,10 @@ TEST_F(FConfigurationTest, indicesStandOnlyWhereMoreThanOneIsAllowed) {
 }
 
 TEST_F(FConfigurationTest, countsCannotFillTheMemory) {
-    run("def.addEntry(\"a\", NULL, 1000)\ndef.addEntry(\"a|b\", NULL, 1000)\ndef.addEntry(\"a|b|c\", 1, 1000)");
+    run("def.addEntry(\"a\", NULL, 1000)\ndef.addEntry(\"a|b\", NULL, 1000)");
+    EXPECT_TRUE(logHolds("\"a|b\" would occur more than 100000 times")) << logText();
+    EXPECT_EQ(definition().getEntryOfScope("a|b"), nullptr);
+    run("def.addEntry(\"a|c\", 1, 90)\ndef.addEntry(\"a|d\", 1, 90)");
     EXPECT_TRUE(logHolds("would make more than 100000 entries"));
     EXPECT_LE(paths().size(), 100'002);
 }

@@ -1,7 +1,11 @@
 #include "host/design/FEntryDef.h"
 #include "tests/host/design/FEntryFixture.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FUserStep.h"
+
+#include <QElapsedTimer>
 
 namespace {
 
@@ -59,6 +63,53 @@ TEST_F(FDefinitionTest, aRenamedEntryTakesValuesAndTagsAlong) {
     EXPECT_TRUE(paths().contains("c"));
 }
 
+TEST_F(FDefinitionTest, eachAdditionIsUndoneAndRedoneAlone) {
+    run("def.addEntry(\"G\", NULL, 2, 2)");
+    FHistory::instance()->clear();
+    const auto state = [this] { return savedModel() + paths().join(' ') + values().join(' '); };
+    const QStringList statements{
+        "def.addEntry(\"G|a\", 1)",          "def.addEntry(\"top\", 2, 3)",       "def.removeEntry(\"height\")",
+        "def.addEntry(\"G|H|b\", 3, 2)",     "conf.setEntryValue(\"G[1]|a\", 7)", "def.renameEntry(\"G\", \"K\")",
+        "def.addEntry(\"K|H|c\", \"text\")", "def.addEntry(\"height\", 5)",       "def.addEntry(\"last\", 6)"};
+    QStringList states{state()};
+    for (const QString& statement : statements) {
+        ASSERT_TRUE(run(statement));
+        states.append(state());
+        EXPECT_NE(states.last(), states[states.size() - 2]) << statement.toStdString();
+        // What followed step by step is what the definition asks for.
+        configuration().reinit(false);
+        EXPECT_EQ(state().toStdString(), states.last().toStdString()) << statement.toStdString();
+    }
+    for (int round = 0; round < 2; ++round) {
+        for (int i = statements.size() - 1; i >= 0; --i) {
+            ASSERT_TRUE(FHistory::instance()->undo());
+            EXPECT_EQ(state().toStdString(), states[i].toStdString()) << "undo " << statements[i].toStdString();
+        }
+        for (int i = 0; i < statements.size(); ++i) {
+            ASSERT_TRUE(FHistory::instance()->redo());
+            EXPECT_EQ(state().toStdString(), states[i + 1].toStdString()) << "redo " << statements[i].toStdString();
+        }
+    }
+    ASSERT_TRUE(FHistory::instance()->undo());
+    ASSERT_TRUE(run("def.addEntry(\"other\", 8)"));
+    EXPECT_TRUE(paths().contains("other") && !paths().contains("last"));
+}
+
+TEST_F(FDefinitionTest, additionsTakeTheTimeOfWhatTheyAdd) {
+    constexpr int count = 30'000;
+    run("def.addEntry(\"G|first\", 0)");
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < count; ++i) {
+        const FUserStep step("add");
+        FEntryDef::create("x" + QString::number(i), definition().getEntryOfScope("G"), 1, 1, false, true, "",
+                          new FDouble(i));
+    }
+    EXPECT_EQ(paths().size(), count + 3);
+    // Quadratic, it was minutes.
+    EXPECT_LT(timer.elapsed(), 20'000);
+}
+
 TEST_F(FDefinitionTest, createTakesOnlyPlacesOfDefinitions) {
     auto* geometry = dynamic_cast<FEntryDef*>(definition().getEntryOfScope("Geometry"));
     FEntryDef* span = FEntryDef::create("span", geometry, 5, 2, false, true, "", new FInteger(3));
@@ -71,6 +122,15 @@ TEST_F(FDefinitionTest, createTakesOnlyPlacesOfDefinitions) {
     span->addEntry(FExpr<FEntryBase>(geometry));
     EXPECT_EQ(definition().getEntries().size(), 2);
     EXPECT_TRUE(span->getEntries().isEmpty());
+}
+
+TEST_F(FDefinitionTest, entriesWithoutADefinitionStayWhenEntriesAreRebuilt) {
+    run("conf.setEntryValue(\"height\", 7).setEntryValue(\"Geometry|span\", 8)");
+    ASSERT_TRUE(definition().setEntryDefsFromDB(".addEntry(\"new\", 1)\n.addEntry(\"Geometry|new\", 2)"));
+    EXPECT_EQ(paths(), (QStringList{"Geometry|new", "Geometry|span", "height", "new"}));
+    EXPECT_EQ(values(), (QStringList{"2", "8", "7", "1"}));
+    run("def.addEntry(\"more\", 3)");
+    EXPECT_EQ(paths(), (QStringList{"Geometry|new", "more", "new"})) << "a configuration that follows has no others";
 }
 
 TEST_F(FDefinitionTest, aWrongSavedTextRebuildsNoEntries) {

@@ -40,13 +40,13 @@ FColumn FColumn::found(const QString& text, qint64 offset, int units) {
     return column;
 }
 
-FFoundValue FColumn::value(const FResultText& in, qint64 line, qint64 lineBegin) const {
-    FFoundValue value;
+void FColumn::fill(FFoundValue& value, const FResultText& in, qint64 line, qint64 lineBegin) const {
     value.line = line + 1;
-    value.flags = flags;
+    value.flags |= flags;
     value.oddity = oddity;
-    value.flags.setFlag(FFoundFlag::ColumnMissing, !exists);
-    value.flags.setFlag(FFoundFlag::NotANumber, exists && !isNumber);
+    if (!isNumber) {
+        value.flags |= exists ? FFoundFlag::NotANumber : FFoundFlag::ColumnMissing;
+    }
     if (exists) {
         const FTextIndex& index = in.index();
         const qint64 begin = index.utf16At(range.begin);
@@ -56,5 +56,4 @@ FFoundValue FColumn::value(const FResultText& in, qint64 line, qint64 lineBegin)
         value.column = begin - index.utf16At(lineBegin) + units + 1;
         value.length = index.utf16At(range.end) - begin + text.size();
     }
-    return value;
 }

@@ -26,6 +26,6 @@ struct FColumn {
     /** A text between separators, which is read as a number. */
     static FColumn found(const QString& text, qint64 offset, int units);
 
-    /** The column as a result of the search in a text. The line is numbered from 0. */
-    FFoundValue value(const FResultText& in, qint64 line, qint64 lineBegin) const;
+    /** Makes it the result of the search in a text, whose flags are kept. The line is numbered from 0. */
+    void fill(FFoundValue& value, const FResultText& in, qint64 line, qint64 lineBegin) const;
 };

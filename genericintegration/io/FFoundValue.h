@@ -12,7 +12,10 @@ class FResultText;
 using FFoundFlag = FNumberFlag;
 using FFoundFlags = FNumberFlags;
 
-/** Result of the search for a value. The inherited text is only set for one found between separators. */
+/**
+ * Result of the search for a value. Of the inherited members, the text is only set for one found between separators,
+ * and those that describe the mark aren't set.
+ */
 struct FFoundValue : FNumberOrigin {
     double number = std::numeric_limits<double>::quiet_NaN();  //!< of an average: the mean
     FByteRange range{};                                        //!< of a text found as a number; else empty

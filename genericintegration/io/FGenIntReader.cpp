@@ -83,7 +83,7 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
         const FGenIntResultsFileValue& value = *values[static_cast<std::size_t>(number)];
         const FFoundValue& result = found.values[static_cast<std::size_t>(number)];
         const QString foundText = result.textIn(*text);
-        rows.append(value, result, foundText);
+        rows.append(value, number, result, foundText);
         if (!directory.isEmpty()) {
             importFile(value, directory, foundText);
         }

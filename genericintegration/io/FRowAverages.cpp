@@ -25,12 +25,18 @@ qint64 rowsBegin(const FResultText& text, quint32 rows) {
     return counted == 0 ? text.trimmedSize() : std::max<qint64>(text.index().lineStart(lineFeeds - counted + 1), 1) - 1;
 }
 
+size_t linesFrom(const FResultText& text, qint64 offset) {
+    const qint64 end = text.trimmedSize();
+    return offset < end ? static_cast<size_t>(text.index().lineAt(end) - text.index().lineAt(offset) + 1) : 0;
+}
+
 }  // namespace
 
 void FRowAverages::add(size_t value, int column, quint32 rows) {
     mAverages.push_back({value, column, rows, rowsBegin(mText, rows)});
     mAverages.back().kept = std::make_shared<FAverageRows>();
     mAverages.back().kept->wanted = rows;
+    mAverages.back().kept->rows.reserve(std::min<size_t>(linesFrom(mText, mAverages.back().begin), FAverageRows::most));
 }
 
 void FRowAverages::read(std::vector<FFoundValue>& found) {
@@ -84,8 +90,8 @@ void FRowAverages::addRow(Average& average, FColumn column, qint64 line, qint64 
     ++average.count;
     FAverageRows& kept = *average.kept;
     if (kept.rows.size() < FAverageRows::most) {
-        const std::string_view text = last.range.of(mText.text());
-        kept.texts += text.empty() ? last.text.toStdString() : std::string(text);
+        last.range.size() > 0 ? kept.texts.append(last.range.of(mText.text()))
+                              : kept.texts.append(last.text.toStdString());
         const qint64 place =
             mText.index().utf16At(last.range.begin) - mText.index().utf16At(lineBegin) + last.units + 1;
         kept.rows.push_back({line, place, last.number, last.flags, static_cast<qint64>(kept.texts.size())});
@@ -96,7 +102,7 @@ FFoundValue FRowAverages::result(const Average& average) const {
     FFoundValue value;
     if (average.begin < mText.trimmedSize()) {
         const qint64 place = average.last.range.begin;
-        value = average.last.value(mText, mText.index().lineAt(place), mText.index().lineBegin(place));
+        average.last.fill(value, mText, mText.index().lineAt(place), mText.index().lineBegin(place));
     }
     const double mean = average.sum / average.count;
     value.number = std::isnan(mean) ? std::numeric_limits<double>::quiet_NaN() : mean;

@@ -21,12 +21,17 @@ FValueRows::FValueRows(int count) {
     mOrigins.reserve(count);
 }
 
-void FValueRows::append(const FGenIntResultsFileValue& value, const FFoundValue& found, const QString& text) {
+void FValueRows::append(const FGenIntResultsFileValue& value, int number, const FFoundValue& found,
+                        const QString& text) {
     mHeaders.append(value.mName);
     mTooltips.append(tooltip(value, text));
     mRows.append(QVector<double>{found.number});
     mOrigins.append(found);
-    mOrigins.last().text = text;
+    FNumberOrigin& origin = mOrigins.last();
+    origin.text = text;
+    origin.valueNumber = number;
+    origin.markLine = value.mLine;
+    origin.anchor = value.mCalcAverage ? QString() : value.mAnchor;
 }
 
 void FValueRows::fill(FTableData& table) const {

@@ -11,8 +11,8 @@ class FValueRows {
     /** @param count  expected number of rows */
     explicit FValueRows(int count);
 
-    /** Adds the row of a value for which a search found `text`. */
-    void append(const FGenIntResultsFileValue& value, const FFoundValue& found, const QString& text);
+    /** Adds the row of a value for which a search found `text`. @param number  of the value in its template, from 0 */
+    void append(const FGenIntResultsFileValue& value, int number, const FFoundValue& found, const QString& text);
 
     /** Replaces the rows, headers and origins of a table. */
     void fill(FTableData& table) const;

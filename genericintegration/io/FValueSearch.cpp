@@ -81,17 +81,15 @@ FFoundValues FValueSearch::find(const FResultText& text) const {
 void FValueSearch::notePlaces(const FResultText& text, const std::vector<FAnchorPlaces>& places,
                               std::vector<FFoundValue>& found) const {
     for (size_t i = 0; i < mValues.size(); ++i) {
-        FFoundValue& value = found[i];
-        value.valueNumber = static_cast<int>(i);
-        value.markLine = mValues[i].line;
-        value.anchor = mValues[i].average ? QString() : mValues[i].anchor.text;
-        const FByteRange anchor = value.anchor.isEmpty() ? FByteRange{-1, -1} : placeOf(mValues[i].anchor, places[i]);
-        if (anchor.begin < 0) {
+        const FAnchor& sought = mValues[i].anchor;
+        const FByteRange anchor = placeOf(sought, places[i]);
+        if (mValues[i].average || sought.text.isEmpty() || anchor.begin < 0) {
             continue;
         }
+        FFoundValue& value = found[i];
         const qint64 lineBegin = text.index().lineBegin(anchor.begin);
         const bool follows = value.line > 0 && !value.flags.testFlag(FFoundFlag::LineBeyondEnd) &&
-                             (mValues[i].line >= 0 || lineBegin > 0) && !value.anchor.contains(QLatin1Char('\n'));
+                             (mValues[i].line >= 0 || lineBegin > 0) && !sought.text.contains(QLatin1Char('\n'));
         value.anchorLine = follows ? value.line - mValues[i].line : text.index().lineAt(anchor.begin) + 1;
         value.anchorColumn = text.index().utf16At(anchor.begin) - text.index().utf16At(lineBegin) + 1;
     }
@@ -145,9 +143,8 @@ void FValueSearch::read(const FResultText& text, std::vector<Reading>& readings,
             lineFlags = FSuspicion::ofLine(reading.line.of(text.text()));
         }
         FFoundValue& value = found[reading.value];
-        const FFoundFlags flags = value.flags;
-        value = cursor->seek(reading.column).value(text, line, lineBegin);
-        value.flags |= flags | lineFlags;
+        cursor->seek(reading.column).fill(value, text, line, lineBegin);
+        value.flags |= lineFlags;
     }
 }
 

@@ -115,6 +115,9 @@ void FRunFolderNames::renamed(const FManaged& object, const QString& oldName, co
 }
 
 void FRunFolderNames::apply(const QString& root) {
+    if (mNames.isEmpty()) {
+        return;
+    }
     const QHash<int, QString> names = mNames;
     const QString busy = isRunning() ? QStringLiteral("a run is in progress") : QString();
     // A path through a folder with the old name is followed as soon as it is renamed.

@@ -18,6 +18,9 @@
 
 namespace {
 
+/** Bytes of the longest file that becomes the content of a template. */
+constexpr int longestSample = 256 << 20;
+
 const QString& storedMark() {
     static const QString mark = QStringLiteral("[B64]");
     return mark;
@@ -114,8 +117,13 @@ void FGenIntFile::initFromFile(const QString& path) {
     if (!FFile::openOrdinary(file).isEmpty()) {
         return;
     }
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = FFile::readAtMost(file, longestSample + 1);
     file.close();
+    if (bytes.size() > longestSample) {
+        FLogMsg::error(getClass(), QStringLiteral("\"%1\" has more than %2 bytes").arg(path).arg(longestSample),
+                       QStringLiteral("It isn't read; a part of it is enough for a template"));
+        return;
+    }
     const int badLine = FTextDecoder::firstInvalidLine(bytes);
     if (badLine > 0) {
         FLogMsg::warning(getClass(), QStringLiteral("\"%1\" isn't valid UTF-8 in line %2").arg(path).arg(badLine),

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int longestFile = 512 << 20;
+
 using Make = FObject* (*)(const QString& text, const QString& name);
 
 FObject* makeText(const QString& text, const QString& name) {
@@ -78,6 +80,12 @@ bool FLodmConfigurationParser::doImport(const QString& type, const QString& path
         report(file.fileName(), fault, QStringLiteral("nothing is imported"));
         return true;
     }
-    mObjects.insert(name, FExpr<FObject>(make(FTextDecoder::decode(file.readAll()), name)));
+    const QByteArray bytes = FFile::readAtMost(file, longestFile + 1);
+    if (bytes.size() > longestFile) {
+        report(file.fileName(), QStringLiteral("it has more than %1 bytes").arg(longestFile),
+               QStringLiteral("nothing is imported"));
+        return true;
+    }
+    mObjects.insert(name, FExpr<FObject>(make(FTextDecoder::decode(bytes), name)));
     return true;
 }

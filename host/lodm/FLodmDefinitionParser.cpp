@@ -149,6 +149,7 @@ void FLodmDefinitionParser::readRoot(FLodmXmlReader& xml, Nodes& nodes) {
         return;
     }
     mName = getAttr(xml, lodm::nameAttr);
+    mNamePlace = xml.place();
     FLodmEntryReader entries(xml);
     while (xml.nextChild()) {
         xml.isElement(lodm::docuElement) ? readDocu(xml) : entries.read(nodes);
@@ -200,9 +201,10 @@ bool FLodmDefinitionParser::makeDefinition() {
     if (mDefinition && !mName.isEmpty() && mDefinition->getName() != mName) {
         const bool isTaken = FObjectManager::instance()->find(mName);
         FLogMsg::warning(
-            mSource, QStringLiteral("the name \"%1\" %2; the new definition is \"%3\"")
-                         .arg(mName, isTaken ? QStringLiteral("is taken") : QStringLiteral("isn't one of an object"),
-                              mDefinition->getName()));
+            mNamePlace.toString(mSource),
+            QStringLiteral("the name \"%1\" %2; the new definition is \"%3\"")
+                .arg(mName, isTaken ? QStringLiteral("is taken") : QStringLiteral("isn't one of an object"),
+                     mDefinition->getName()));
     }
     return static_cast<bool>(mDefinition);
 }

@@ -72,8 +72,9 @@ class MERIX_EXPORT FLodmDefinitionParser {
     void error(const FPlace& place, const QString& message);
 
     FExpr<FDefinitionCustom> mDefinition;
-    QString mSource;           //!< name of the file in messages
-    QString mName;             //!< the definition's name in the file
+    QString mSource;  //!< name of the file in messages
+    QString mName;    //!< the definition's name in the file
+    FPlace mNamePlace;
     FScriptNames mNames;       //!< meaning of the names in default values
     int mObjectAreaLines = 0;  //!< lines of the file before the object area
 

@@ -1,3 +1,4 @@
+#include "host/core/FNumberText.h"
 #include "host/run/FExternComputation.h"
 #include "host/script/FCmdTable.h"
 
@@ -17,7 +18,7 @@ QString faultOfTimeLimit(const double& seconds) {
     const bool isValid = seconds >= 0 && !std::signbit(seconds);
     return isValid ? QString()
                    : QStringLiteral("the time limit can't be %1 s; give a number from 0, where 0 means no limit")
-                         .arg(seconds);
+                         .arg(numberText(seconds));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "host/run/FFileBytes.h"
 
+#include "host/core/FFile.h"
+
 #include <utility>
 
 namespace {
@@ -16,7 +18,7 @@ FFileBytes::FFileBytes(std::unique_ptr<QFile> file) : mFile(std::move(file)) {
     if (map()) {
         return;
     }
-    mRead = mFile->readAll();
+    mRead = FFile::readAtMost(*mFile, mFile->size());
     mView = viewOf(mRead);
     mFile.reset();
 }

@@ -74,7 +74,7 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
     EXPECT_FALSE(saved.contains("parameter tail"));
     // Names in the file refer to its own objects.
     ASSERT_TRUE(run("copy = importGenIntDefinition(\"" + path("d.lodm") + "\")"));
-    EXPECT_TRUE(logHolds("d.lodm: the name \"d\" is taken; the new definition is \"d_01\""));
+    EXPECT_TRUE(logHolds("d.lodm:2:34: the name \"d\" is taken; the new definition is \"d_01\""));
     const auto* copy = object<FDefinitionGenInt>("d_01");
     ASSERT_NE(copy, nullptr);
     EXPECT_EQ(names(*copy), (QStringList{"b_01", "a_01"}));

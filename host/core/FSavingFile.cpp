@@ -1,15 +1,17 @@
 #include "host/core/FSavingFile.h"
 
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QRegularExpression>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <memory>
+#include <string_view>
 
 namespace {
 
@@ -27,27 +29,32 @@ QString newName(const QString& path) {
     return name;
 }
 
-void removeUnlocked(const QString& path) {
-    const QByteArray name = QFile::encodeName(path);
-    const int file = ::open(name.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+void removeUnlocked(const QByteArray& path) {
+    const int file = ::open(path.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {
         return;
     }
     if (::flock(file, LOCK_EX | LOCK_NB) == 0) {
-        ::unlink(name.constData());
+        ::unlink(path.constData());
     }
     ::close(file);
 }
 
+bool isTemporary(std::string_view name, const QByteArray& prefix) {
+    return name.size() == static_cast<std::size_t>(prefix.size()) + letterCount &&
+           name.substr(0, prefix.size()) == prefix.constData() &&
+           std::all_of(name.end() - letterCount, name.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+// A run writes each of its files into a folder that may hold thousands, so this only reads names.
 void removeLeft(const QString& path) {
     const QFileInfo info(path);
-    const QRegularExpression pattern(
-        QStringLiteral("^%1[a-z]{%2}$").arg(QRegularExpression::escape(prefixOf(info.fileName()))).arg(letterCount));
-    QDirIterator names(info.path(), QDir::Files | QDir::Hidden);
-    while (names.hasNext()) {
-        const QString name = names.next();
-        if (pattern.match(names.fileName()).hasMatch()) {
-            removeUnlocked(name);
+    const QByteArray folder = QFile::encodeName(info.path());
+    const QByteArray prefix = QFile::encodeName(prefixOf(info.fileName()));
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.constData()), &::closedir);
+    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
+        if (isTemporary(static_cast<const char*>(entry->d_name), prefix)) {
+            removeUnlocked(folder + '/' + static_cast<const char*>(entry->d_name));
         }
     }
 }

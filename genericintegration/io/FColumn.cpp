@@ -49,11 +49,9 @@ void FColumn::fill(FFoundValue& value, const FResultText& in, qint64 line, qint6
     }
     if (exists) {
         const FTextIndex& index = in.index();
-        const qint64 begin = index.utf16At(range.begin);
         value.number = number;
         value.range = range;
         value.text = text;
-        value.column = begin - index.utf16At(lineBegin) + units + 1;
-        value.length = index.utf16At(range.end) - begin + text.size();
+        value.column = index.utf16At(range.begin) - index.utf16At(lineBegin) + units + 1;
     }
 }

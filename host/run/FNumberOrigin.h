@@ -35,7 +35,6 @@ struct FNumberOrigin {
     QString text{};        //!< as in the file; for a mean, the text of its last number
     qint64 line = -1;      //!< from 1; -1 if there is no such line
     qint64 column = -1;    //!< of the text's first character, from 1, in UTF-16 units; -1 if nothing was found
-    qint64 length = -1;    //!< in UTF-16 units; -1 if nothing was found
     FNumberFlags flags{};  //!< for a mean, those of all rows
     QString oddity{};      //!< the text beside the number that raised a flag, such as "D-01"; or the separator's fault
     qint64 oddLine = -1;   //!< for a mean, the line of the first suspicious row, from 1

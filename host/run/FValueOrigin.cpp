@@ -99,7 +99,6 @@ FExpr<FObject> FValueOrigin::rows() const {
                                         .substr(static_cast<size_t>(begin), static_cast<size_t>(row.textEnd - begin)));
         origin.line = row.line;
         origin.column = row.column;
-        origin.length = origin.text.size();
         origin.flags = row.flags;
         origin.valueNumber = mOrigin.valueNumber;
         begin = row.textEnd;

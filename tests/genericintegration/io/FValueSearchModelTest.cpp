@@ -17,9 +17,9 @@ quint32 caseCount() {
 }
 
 /** The content at the place where a value was found. */
-QString textAt(const QString& content, const FFoundValue& value) {
+QString textAt(const QString& content, const FFoundValue& value, int length) {
     const QString line = content.section('\n', static_cast<int>(value.line - 1), static_cast<int>(value.line - 1));
-    return line.mid(static_cast<int>(value.column - 1), static_cast<int>(value.length));
+    return line.mid(static_cast<int>(value.column - 1), length);
 }
 
 void expectAsModel(const QString& content, const FResultText& text, FReaderCases& cases) {
@@ -44,8 +44,8 @@ void expectAsModel(const QString& content, const FResultText& text, FReaderCases
         const quint64 bits =
             wanted.number != wanted.number ? 0x7FF8000000000000 : std::bit_cast<quint64>(wanted.number);
         EXPECT_EQ(bits, std::bit_cast<quint64>(value.number)) << about.toStdString();
-        if (value.length >= 0) {
-            EXPECT_EQ(foundText, textAt(content, value)) << about.toStdString();
+        if (value.column >= 0) {
+            EXPECT_EQ(foundText, textAt(content, value, foundText.size())) << about.toStdString();
         } else {
             EXPECT_TRUE(foundText.isEmpty() && value.flags != 0) << about.toStdString();
         }

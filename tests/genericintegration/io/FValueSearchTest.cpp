@@ -24,7 +24,7 @@ FFoundValue find(const QString& text, const FValueDescription& value,
 }
 
 std::vector<qint64> placeOf(const FFoundValue& value) {
-    return {value.line, value.column, value.length};
+    return {value.line, value.column};
 }
 
 }  // namespace
@@ -33,11 +33,11 @@ TEST(FValueSearchTest, aValueThatIsntFoundHasAReason) {
     const FFoundValue missing = find("a\n", at(3, 0));
     EXPECT_TRUE(std::isnan(missing.number));
     EXPECT_EQ(FFoundFlags(FFoundFlag::LineBeyondEnd), missing.flags);
-    EXPECT_EQ((std::vector<qint64>{-1, -1, -1}), placeOf(missing));
+    EXPECT_EQ((std::vector<qint64>{-1, -1}), placeOf(missing));
 
     const FFoundValue column = find("a\n1 2\n", at(1, 2));
     EXPECT_EQ(FFoundFlags(FFoundFlag::ColumnMissing), column.flags);
-    EXPECT_EQ((std::vector<qint64>{2, -1, -1}), placeOf(column));
+    EXPECT_EQ((std::vector<qint64>{2, -1}), placeOf(column));
 
     EXPECT_EQ(FFoundFlag::AnchorMissing | FFoundFlag::ColumnMissing, find("b", at(0, 0, "a")).flags);
     EXPECT_EQ(FFoundFlag::AnchorMissing | FFoundFlag::LineBeyondEnd, find(" \n ", at(-1, 0, "a")).flags);

@@ -4,6 +4,10 @@
 #include "merix/FExitCode.h"
 #include "merix/FVersion.h"
 
+#include <QByteArray>
+
+#include <algorithm>
+
 // The library is slow to compile: no other file includes it.
 #include <CLI/CLI.hpp>
 
@@ -72,7 +76,14 @@ FCommandLine::Outcome FCommandLine::parse(int argc, char** argv, const Subcomman
         commands.push_back(add(app, *subcommand));
     }
     try {
-        app.parse(argc, argv);
+        // "merix FILE.mrx", as a desktop calls the program for a file.
+        const bool isProject = argc > 1 && QByteArray(argv[1]).endsWith(".mrx");
+        std::vector<std::string> words(argv + 1, argv + argc);
+        if (isProject) {
+            words.insert(words.begin(), "gui");
+        }
+        std::reverse(words.begin(), words.end());
+        app.parse(words);
     } catch (const CLI::ParseError& error) {
         std::ostringstream help;
         const bool isHelp = app.exit(error, help, std::cerr) == 0;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QCoreApplication>
+
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -28,6 +31,10 @@ class FSubcommand {
     virtual const char* description() const = 0;
     /** The arguments in the order of the help text; positions are filled in this order too. */
     virtual std::vector<Argument> arguments() = 0;
+    /** The application object of the program; the one of programs with windows needs a display. */
+    virtual std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) const {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
     /** Does the work with the values received from the command line. Returns an exit code, see FExitCode. */
     virtual int run() const = 0;
 };

@@ -16,6 +16,11 @@ FConnectorRecord* FConnectorRecord::create(const QString& name, const FExpr<FExt
     return connector;
 }
 
+QList<FManaged*> FConnectorRecord::getParts() const {
+    FManaged* computation = mSetUp.mComputation.ptr();
+    return computation ? QList<FManaged*>{computation} : QList<FManaged*>();
+}
+
 bool FConnectorRecord::doUpdate() const {
     mSetUp.follow();
     return FView::doUpdate();

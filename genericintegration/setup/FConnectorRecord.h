@@ -29,6 +29,7 @@ class FConnectorRecord : public FClass<FConnectorRecord, FView>, public FConnect
     void refreshEditors(const FManaged* file) override { Q_UNUSED(file) }
     void refreshCommandFileEditors() override {}
     FManaged* asManaged() override { return this; }
+    QList<FManaged*> getParts() const override;
     FConnectorInterface* createConnector(const QString& name,
                                          const FExpr<FExternComputation>& computation) const override {
         return create(name, computation);

@@ -72,6 +72,17 @@ void FDefinitionGenInt::filesChanged() {
     setOutOfDate(true);
 }
 
+// Not by getFiles, which changes the lists.
+QList<FManaged*> FDefinitionGenInt::getParts() const {
+    QList<FManaged*> parts;
+    for (const FExpr<FGenIntFile>& file : mTemplates.mAll) {
+        if (FManaged* part = file.ptr(); part && !parts.contains(part)) {
+            parts.append(part);
+        }
+    }
+    return parts;
+}
+
 void FDefinitionGenInt::addFile(const FExpr<FGenIntFile>& file) {
     if (file) {
         mTemplates.add(file);

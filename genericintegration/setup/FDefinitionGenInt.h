@@ -32,6 +32,8 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     }
 
     // ---- files ----
+    /** The files. */
+    QList<FManaged*> getParts() const override;
     /** Appends a file, even if it is in the list already. Ignores an empty handle. */
     void addFile(const FExpr<FGenIntFile>& file);
     /** Removes all occurrences of a file from the lists. The object remains in the model. */

@@ -384,6 +384,14 @@ QStringList FHistory::getLabels() const {
     return labels;
 }
 
+QStringList FHistory::getUndoneLabels() const {
+    QStringList labels;
+    for (auto step = mUndone.rbegin(); step != mUndone.rend(); ++step) {
+        labels.append(step->label);
+    }
+    return labels;
+}
+
 void FHistory::clear() {
     dropUndone();
     QStringList dropped = getLabels();

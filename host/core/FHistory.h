@@ -41,6 +41,8 @@ class MERIX_EXPORT FHistory {
     bool redo();
     /** Labels of the steps that can be undone, the oldest first. */
     QStringList getLabels() const;
+    /** Labels of the steps that can be redone, the next one first. */
+    QStringList getUndoneLabels() const;
     bool canRedo() const { return !mUndone.empty(); }
     void clear();
 

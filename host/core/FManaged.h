@@ -6,6 +6,7 @@
 #include "host/core/FRecorded.h"
 #include "host/core/FStateField.h"
 
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -28,6 +29,8 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
     const QString& getName() const { return mName; }
     /** Renames; the name is made legal, and unique among the objects of the model. Returns the object. */
     virtual FManaged* setName(const QString& name);
+    /** Above 1: not listed among the objects that a user made. */
+    int getSystemLevel() const { return mSystemLevel; }
     /** Number of the object, ascending in the order of creation; 0 before it is registered. */
     int getDbId() const { return mDbId; }
     /** Gives the object, read from a project, the number that it was saved with; at any other time nothing happens. */
@@ -75,6 +78,8 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
     /** Commands that a saved text holds beside the attributes, as `name(arguments)`. */
     virtual QStringList furtherSavedCommands() const { return {}; }
 
+    /** The objects that belong to this one in the eyes of a user: a tree of objects shows them below it. */
+    virtual QList<FManaged*> getParts() const { return {}; }
     /** A double click on the object in a tree of objects; true if that was all, false for the usual editor. */
     virtual bool doubleClickedInTree() { return false; }
 
@@ -102,7 +107,7 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
      */
     virtual void letGo() {}
 
-    int mSystemLevel = 0;  //!< above 1: not listed among the objects that a user made
+    int mSystemLevel = 0;
 
  private:
     friend class FHistory;

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <iostream>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -12,6 +13,11 @@
 namespace {
 
 bool isBroken = false;
+
+FStandardOutput::Copy& copyOfOutput() {
+    static FStandardOutput::Copy none;
+    return none;
+}
 
 /** Notes and logs the first failure. */
 bool check() {
@@ -28,9 +34,16 @@ bool check() {
 
 bool FStandardOutput::write(const QString& text) {
     FLogMsg::endLine();
+    if (copyOfOutput()) {
+        copyOfOutput()(text);
+    }
     errno = 0;
     std::cout << text.toStdString() << std::flush;
     return check();
+}
+
+FStandardOutput::Copy FStandardOutput::setCopy(Copy copy) {
+    return std::exchange(copyOfOutput(), std::move(copy));
 }
 
 bool FStandardOutput::isGood() {

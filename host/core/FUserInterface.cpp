@@ -61,6 +61,11 @@ QString FUserInterface::askSaveFile(const QString& caption, const QString& start
     return {};
 }
 
+QString FUserInterface::askFolder(const QString& caption, const QString& startPath) {
+    logNoDialog(caption, startPath, "Nothing is done; give its name");
+    return {};
+}
+
 void FUserInterface::showTexts(const QString& title, const QMap<QString, QString>& texts) {
     for (auto text = texts.begin(); text != texts.end(); ++text) {
         FLogMsg::info(title, QStringLiteral("%1: %2 characters").arg(text.key()).arg(text->size()), QString());

@@ -40,6 +40,8 @@ class MERIX_EXPORT FUserInterface {
     virtual QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter);
     /** The same for a file to save. The dialog itself asks before a file is overwritten. */
     virtual QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter);
+    /** Asks for a folder, starting at a path; the answer is empty if there is none. */
+    virtual QString askFolder(const QString& caption, const QString& startPath);
     /** Puts text that was typed into editors into the model, as a step of its own. */
     virtual void commitEdits() {}
     /** Shows texts to read, by name. Without windows, logs the name and length of each. */

@@ -39,6 +39,17 @@ QString shortened(const QString& text) {
 
 }  // namespace
 
+QList<FManaged*> FCustomComputation::getParts() const {
+    QList<FManaged*> parts;
+    if (mConfiguration) {
+        if (FManaged* definition = mConfiguration->getDefinition().ptr()) {
+            parts.append(definition);
+        }
+        parts.append(mConfiguration.ptr());
+    }
+    return parts + FExternComputation::getParts();
+}
+
 void FCustomComputation::declareCommands(FCmdTable& table) {
     using F = FCustomComputation;
     table.member<F>("getResults", &F::getResults).query();

@@ -18,6 +18,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
      */
     void setConfiguration(const FExpr<FConfigurationCustom>& configuration);
 
+    QList<FManaged*> getParts() const override;
     /**
      * Makes a set-up of its own for another run: a clone of the computation with a clone of its configuration. Both
      * configurations share the definition, so that templates and entries stay common; values and settings of the clones

@@ -32,6 +32,11 @@ void FExternComputation::init(const FExternComputation* other) {
     }
 }
 
+QList<FManaged*> FExternComputation::getParts() const {
+    FManaged* results = getCurrentResults().ptr();
+    return results && results->isInModel() ? QList<FManaged*>{results} : QList<FManaged*>();
+}
+
 void FExternComputation::leaveModel() {
     cancel();
 }

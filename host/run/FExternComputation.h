@@ -33,6 +33,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     explicit FExternComputation(const QString& name = QString());
     ~FExternComputation() override;
 
+    QList<FManaged*> getParts() const override;
+
     // ---- design ----
     /** The design whose folder the runs have; empty for the folder "baseline". */
     const FExpr<FDesign>& getDesign() const { return mDesign; }

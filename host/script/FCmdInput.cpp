@@ -43,6 +43,7 @@ FCmdInput* FCmdInput::current() {
 
 void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
     mText = stream.readAll();
+    mLastValue = FExprBase();
     mFile = file;
 }
 
@@ -174,6 +175,7 @@ bool FCmdInput::run(const FSyntaxExpr& expression) {
     const int failuresBefore = FFailedOutcomes::count(command);
     const std::optional<FExprBase> value = evaluate(expression);
     mIgnoredFailures += FFailedOutcomes::count(command) - failuresBefore;
+    mLastValue = value.value_or(FExprBase());
     if (value && call) {
         noteIgnoredFailure(*call, *value);
     }

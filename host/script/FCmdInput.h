@@ -34,6 +34,8 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     int getExitCode() const { return mExitCode; }
     /** Whether the script has ended itself. */
     bool isExiting() const { return mExiting; }
+    /** The value of the last statement that was an expression; empty for NULL, and if there was none. */
+    const FExprBase& getLastValue() const { return mLastValue; }
     /** Failures of commands such as `run`, whose result is false then, that the script ignored. */
     int getIgnoredFailures() const { return mIgnoredFailures; }
     /** A path in the script: relative to its file if such a file exists, else to the current folder. */
@@ -71,5 +73,6 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     qint64 mSteps = 0;
     int mExitCode = 0;
     int mIgnoredFailures = 0;
+    FExprBase mLastValue;
     bool mExiting = false;
 };

@@ -1,0 +1,19 @@
+#include "host/gui/base/FCommandCall.h"
+
+#include "host/core/FUserStep.h"
+#include "host/script/FMemberCmd.h"
+
+QString FCommandCall::labelOf(const FCmdRow& row) {
+    const FCmdPresentation& look = row.presentation;
+    return !look.menuEntry.isEmpty() ? look.menuEntry : !look.attrName.isEmpty() ? look.attrName : row.name;
+}
+
+FExprBase FCommandCall::execute(const FCmdRow& row, const FExprBase& receiver,
+                                const std::vector<FExprBase>& arguments) {
+    auto* command = static_cast<FMemberCmd*>(row.commandClass->mpNull->clone());
+    const FExprBase keep(command);
+    command->setReceiver(receiver);
+    command->setArguments(arguments);
+    const FUserStep step(labelOf(row));
+    return command->getValue();
+}

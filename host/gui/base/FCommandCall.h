@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FExprBase.h"
+
+#include <vector>
+
+class FCmdRow;
+
+/** Executes commands for windows, each call as one step of the history. */
+namespace FCommandCall {
+
+/** The step has the label of the command as the user interface shows it. */
+MERIX_EXPORT FExprBase execute(const FCmdRow& row, const FExprBase& receiver,
+                               const std::vector<FExprBase>& arguments = {});
+/** What the user interface calls the command: its menu entry, else its label, else its name. */
+MERIX_EXPORT QString labelOf(const FCmdRow& row);
+
+}  // namespace FCommandCall

@@ -1,0 +1,26 @@
+#include "host/gui/base/FEmptyHint.h"
+
+#include "host/gui/base/FStateColor.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QPainter>
+
+FEmptyHint::FEmptyHint(QAbstractItemView* view, const QString& text) : QObject(view), mpView(view), mText(text) {
+    view->viewport()->installEventFilter(this);
+    // A screen reader can't see what is painted.
+    view->setAccessibleDescription(text);
+}
+
+bool FEmptyHint::eventFilter(QObject* watched, QEvent* event) {
+    const QAbstractItemModel* model = mpView->model();
+    if (event->type() != QEvent::Paint || (model && model->rowCount(mpView->rootIndex()) > 0)) {
+        return QObject::eventFilter(watched, event);
+    }
+    QPainter painter(mpView->viewport());
+    painter.setPen(FStateColor::of(FStateColor::State::Secondary));
+    const int margin = mpView->fontMetrics().height();
+    painter.drawText(mpView->viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, mText);
+    return true;
+}

@@ -1,0 +1,24 @@
+#include "host/gui/base/FStateColor.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+bool FStateColor::isDark() {
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+QColor FStateColor::of(State state) {
+    const bool dark = isDark();
+    switch (state) {
+        case State::Good:
+            return dark ? QColor(0x6c, 0xc1, 0x7c) : QColor(0x1a, 0x70, 0x33);
+        case State::Warning:
+            return dark ? QColor(0xe5, 0xa9, 0x3d) : QColor(0x8a, 0x52, 0x00);
+        case State::Bad:
+            return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb3, 0x26, 0x1e);
+        case State::Secondary:
+            break;
+    }
+    return dark ? QColor(0xa5, 0xa9, 0xad) : QColor(0x5f, 0x63, 0x68);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+/** The appearance of the program: that of the desktop, or a light or dark one of its own. */
+class MERIX_EXPORT FTheme {
+ public:
+    enum class Appearance { Desktop, Light, Dark };
+
+    /** The appearance that the user has chosen; that of the desktop by default. */
+    static Appearance getChosen();
+    /** Changes the appearance of the whole program, and remembers it in the settings. */
+    static void choose(Appearance appearance);
+    /** Takes on the chosen appearance; called once at start. */
+    static void install();
+
+ private:
+    static void apply(Appearance appearance);
+};

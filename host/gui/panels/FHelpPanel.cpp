@@ -1,0 +1,78 @@
+#include "host/gui/panels/FHelpPanel.h"
+
+#include "host/gui/base/FEmptyHint.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FCmdReference.h"
+
+#include <QFontDatabase>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+FHelpPanel::FHelpPanel() : mpSearch(new QLineEdit(this)), mpTopics(new QListWidget), mpText(new QTextBrowser) {
+    mpSearch->setObjectName(QStringLiteral("helpSearch"));
+    mpSearch->setAccessibleName(QStringLiteral("Search the reference"));
+    mpSearch->setPlaceholderText(QStringLiteral("Class or command"));
+    mpSearch->setClearButtonEnabled(true);
+    mpTopics->setObjectName(QStringLiteral("helpTopics"));
+    mpTopics->setAccessibleName(QStringLiteral("Topics"));
+    mpTopics->setUniformItemSizes(true);
+    new FEmptyHint(mpTopics, QStringLiteral("No class and no command has such a name"));
+    mpText->setObjectName(QStringLiteral("helpText"));
+    mpText->setAccessibleName(QStringLiteral("Reference"));
+    auto* split = new QSplitter(Qt::Vertical, this);
+    split->addWidget(mpTopics);
+    split->addWidget(mpText);
+    split->setStretchFactor(1, 3);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(mpSearch);
+    column->addWidget(split, 1);
+    setFocusProxy(mpSearch);
+    connect(mpSearch, &QLineEdit::textChanged, this, &FHelpPanel::search);
+    connect(mpTopics, &QListWidget::currentTextChanged, this, &FHelpPanel::showTopic);
+}
+
+void FHelpPanel::fillTopics() {
+    for (const FCmdRow* row : FCmdManager::instance()->getRows()) {
+        mNames.append(row->owner ? row->owner->getName() : QStringLiteral("global"));
+        if (!row->presentation.hidden) {
+            mNames.append(row->name);
+        }
+    }
+    mNames.removeDuplicates();
+    mNames.sort(Qt::CaseInsensitive);
+}
+
+void FHelpPanel::search(const QString& text) {
+    if (mNames.isEmpty()) {
+        fillTopics();
+    }
+    const QSignalBlocker blocker(mpTopics);
+    mpTopics->clear();
+    mpTopics->addItems(mNames.filter(text, Qt::CaseInsensitive));
+}
+
+void FHelpPanel::showTopic(const QString& topic) {
+    if (mpTopics->count() == 0 && mpSearch->text().isEmpty()) {
+        search(QString());
+    }
+    const FCmdReference reference(topic);
+    mpText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    mpText->setPlainText(topic.isEmpty()       ? QString()
+                         : reference.isEmpty() ? reference.unknownName()
+                                               : reference.toText());
+    const QList<QListWidgetItem*> found = mpTopics->findItems(topic, Qt::MatchExactly);
+    if (!found.isEmpty()) {
+        const QSignalBlocker blocker(mpTopics);
+        mpTopics->setCurrentItem(found.first());
+    }
+}
+
+void FHelpPanel::showText(const QString& markdown) {
+    mpText->setFont(font());
+    mpText->setMarkdown(markdown);
+}

@@ -1,0 +1,239 @@
+#include "host/gui/panels/FObjectTreeWgt.h"
+
+#include "host/core/FChanges.h"
+#include "host/core/FManaged.h"
+#include "host/core/FSelectionSet.h"
+#include "host/core/FUserStep.h"
+#include "host/gui/base/FCommandCall.h"
+#include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/panels/FObjectNameDelegate.h"
+#include "host/gui/panels/FObjectTreeModel.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/script/FAttributeQuery.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
+    : mNavigator(navigator),
+      mpModel(new FObjectTreeModel),
+      mpFilter(new QSortFilterProxyModel(this)),
+      mpSearch(new QLineEdit(this)),
+      mpView(new QTreeView(this)) {
+    mpModel->setParent(this);
+    mpFilter->setSourceModel(mpModel);
+    mpFilter->setRecursiveFilteringEnabled(true);
+    mpFilter->setFilterRole(FObjectTreeModel::nameRole);
+    mpFilter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+
+    mpSearch->setObjectName(QStringLiteral("objectFilter"));
+    mpSearch->setPlaceholderText(QStringLiteral("Filter"));
+    mpSearch->setAccessibleName(QStringLiteral("Filter objects by name"));
+    mpSearch->setClearButtonEnabled(true);
+    mpView->setObjectName(QStringLiteral("objectTree"));
+    mpView->setAccessibleName(QStringLiteral("Objects"));
+    mpView->setModel(mpFilter);
+    mpView->setHeaderHidden(true);
+    mpView->setUniformRowHeights(true);
+    mpView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    mpView->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    mpView->setItemDelegate(new FObjectNameDelegate(mpView));
+    mpView->setDragEnabled(true);
+    mpView->setDragDropMode(QAbstractItemView::DragOnly);
+    mpView->setContextMenuPolicy(Qt::CustomContextMenu);
+    mpView->setExpandsOnDoubleClick(false);
+    new FEmptyHint(mpView, QStringLiteral("The objects of the project appear here"));
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(mpSearch);
+    column->addWidget(mpView, 1);
+    setFocusProxy(mpView);
+
+    connect(mpSearch, &QLineEdit::textChanged, this, [this](const QString& text) {
+        mpFilter->setFilterFixedString(text);
+        text.isEmpty() ? showSelection() : mpView->expandAll();
+    });
+    connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FObjectTreeWgt::takeSelection);
+    connect(FSelectionSet::instance(), &FSelectionSet::changed, this, &FObjectTreeWgt::showSelection);
+    connect(mpView, &QTreeView::doubleClicked, this, &FObjectTreeWgt::doubleClicked);
+    connect(mpView, &QTreeView::customContextMenuRequested, this, &FObjectTreeWgt::openMenu);
+    connect(mpModel, &QAbstractItemModel::modelAboutToBeReset, this, &FObjectTreeWgt::keepExpanded);
+    connect(mpModel, &QAbstractItemModel::modelReset, this, &FObjectTreeWgt::restoreExpanded);
+    connect(mpModel, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& parent) {
+        mpView->expand(mpFilter->mapFromSource(parent));
+        showSelection();
+    });
+    connect(mpModel, &FObjectTreeModel::nameAdjusted, this, [this](const QString& wanted, const QString& given) {
+        mNavigator.showStatus(QStringLiteral("\"%1\" is taken; the name is now \"%2\"").arg(wanted, given));
+    });
+    // Values follow other objects, which aren't reported.
+    const FChanges* changes = FChanges::instance();
+    const auto repaint = [this] { mpView->viewport()->update(); };
+    connect(changes, &FChanges::stepDone, this, repaint);
+    connect(changes, &FChanges::stepUndone, this, repaint);
+    connect(changes, &FChanges::stepRedone, this, repaint);
+    mpView->expandToDepth(1);
+}
+
+// ---- selection ----
+
+QModelIndex FObjectTreeWgt::shownIndexOf(const FManaged* object) const {
+    return mpFilter->mapFromSource(mpModel->indexOf(object));
+}
+
+void FObjectTreeWgt::takeSelection() {
+    if (mIsSelecting) {
+        return;
+    }
+    QList<FExpr<FObject>> objects;
+    for (const QModelIndex& index : mpView->selectionModel()->selectedRows()) {
+        if (const FManaged* object = mpModel->objectAt(mpFilter->mapToSource(index))) {
+            objects.append(FExpr<FObject>(object));
+        }
+    }
+    mIsSelecting = true;
+    FSelectionSet::instance()->set(objects);
+    mIsSelecting = false;
+}
+
+void FObjectTreeWgt::showSelection() {
+    if (mIsSelecting) {
+        return;
+    }
+    QItemSelection selection;
+    QModelIndex last;
+    for (const FExpr<FObject>& selected : FSelectionSet::instance()->getObjects()) {
+        const QModelIndex index = shownIndexOf(dynamic_cast<const FManaged*>(selected.getStored()));
+        if (index.isValid()) {
+            selection.select(index, index);
+            last = index;
+        }
+    }
+    mIsSelecting = true;
+    mpView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (last.isValid()) {
+        mpView->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+    }
+    mIsSelecting = false;
+}
+
+void FObjectTreeWgt::reveal(const FManaged* object) {
+    QModelIndex index = shownIndexOf(object);
+    if (!index.isValid() && !mpSearch->text().isEmpty()) {
+        mpSearch->clear();
+        index = shownIndexOf(object);
+    }
+    if (index.isValid()) {
+        mpView->scrollTo(index);
+    }
+}
+
+// ---- actions ----
+
+void FObjectTreeWgt::renameSelected() {
+    const QModelIndexList rows = mpView->selectionModel()->selectedRows();
+    if (!rows.isEmpty()) {
+        mpView->edit(rows.first());
+    }
+}
+
+void FObjectTreeWgt::destroySelected() {
+    const QList<FExpr<FObject>> objects = FSelectionSet::instance()->getObjects();
+    if (objects.isEmpty()) {
+        return;
+    }
+    const FUserStep step(QStringLiteral("delete"));
+    for (const FExpr<FObject>& object : objects) {
+        // One may go with another.
+        if (auto* managed = dynamic_cast<FManaged*>(object.getStored())) {
+            FManaged::destroy(managed);
+        }
+    }
+}
+
+void FObjectTreeWgt::doubleClicked(const QModelIndex& index) {
+    FManaged* object = mpModel->objectAt(mpFilter->mapToSource(index));
+    if (!object) {
+        mpView->setExpanded(index, !mpView->isExpanded(index));
+    } else if (!object->doubleClickedInTree()) {
+        if (const auto results = FExpr<FResultsGeneric>(object)) {
+            mNavigator.showResults(results);
+        } else {
+            mNavigator.showTemplate(object, 0, 0);
+        }
+    }
+}
+
+void FObjectTreeWgt::fillMenu(QMenu& menu) {
+    const FExpr<FObjectList> selected = FSelectionSet::instance()->toList();
+    const FAttributeQuery query(selected);
+    for (const FCmdRow* row : query.getMenuMembers({})) {
+        menu.addAction(FIcons::get(row->presentation.menuIcon), row->presentation.menuEntry,
+                       [row, selected] { FCommandCall::execute(*row, selected); });
+    }
+    menu.addSeparator();
+    const bool isAny = FSelectionSet::instance()->count() > 0;
+    menu.addAction(FIcons::get(QStringLiteral("edit-rename")), QStringLiteral("&Rename"), this,
+                   &FObjectTreeWgt::renameSelected)
+        ->setEnabled(FSelectionSet::instance()->count() == 1);
+    menu.addAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("&Delete"), [] { destroySelected(); })
+        ->setEnabled(isAny);
+    menu.addSeparator();
+    menu.addAction(FIcons::get(QStringLiteral("help-contents")), QStringLiteral("&Help on this class"),
+                   [this] {
+                       const QList<FExpr<FObject>>& objects = FSelectionSet::instance()->getObjects();
+                       if (!objects.isEmpty() && objects.first()) {
+                           mNavigator.showHelp(objects.first().getObject()->getClass());
+                       }
+                   })
+        ->setEnabled(isAny);
+}
+
+void FObjectTreeWgt::openMenu(const QPoint& position) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("objectMenu"));
+    fillMenu(*menu);
+    menu->popup(mpView->viewport()->mapToGlobal(position));
+}
+
+// ---- open branches ----
+
+void FObjectTreeWgt::keepExpanded() {
+    mExpanded.clear();
+    QList<QModelIndex> open{QModelIndex()};
+    while (!open.isEmpty()) {
+        const QModelIndex parent = open.takeLast();
+        for (int row = 0; row < mpFilter->rowCount(parent); ++row) {
+            const QModelIndex child = mpFilter->index(row, 0, parent);
+            if (mpView->isExpanded(child)) {
+                mExpanded.insert(child.data(FObjectTreeModel::nameRole).toString());
+                open.append(child);
+            }
+        }
+    }
+}
+
+void FObjectTreeWgt::restoreExpanded() {
+    constexpr int few = 200;
+    const bool isNew = mExpanded.isEmpty();
+    QList<QModelIndex> closed{QModelIndex()};
+    while (!closed.isEmpty()) {
+        const QModelIndex parent = closed.takeLast();
+        for (int row = 0; row < mpFilter->rowCount(parent); ++row) {
+            const QModelIndex child = mpFilter->index(row, 0, parent);
+            const bool isSmall = isNew && mpFilter->rowCount(child) <= few;
+            if (isSmall || mExpanded.contains(child.data(FObjectTreeModel::nameRole).toString())) {
+                mpView->expand(child);
+                closed.append(child);
+            }
+        }
+    }
+    showSelection();
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/gui/window/FSituation.h"
+
+class FMainWindow;
+class QMenu;
+
+/** One action of the window. Menus, toolbar, Find and the list of shortcuts are made from these rows. */
+struct FActionRow {
+    const char* id;    //!< also the object name of the action
+    const char* menu;  //!< title of its menu, with its access key
+    int group;         //!< within the menu; a line separates groups
+    const char* text;  //!< with its access key
+    const char* icon;
+    const char* shortcut;  //!< as QKeySequence::PortableText; empty for none
+    const char* tip;
+    bool isInToolbar;
+    /** Whether the action is possible. */
+    bool (*when)(const FSituation& situation);
+    void (*run)(FMainWindow& window);
+    /** For a submenu, whose entries are made each time that it opens; `run` is null then. */
+    void (*fill)(QMenu& menu, FMainWindow& window) = nullptr;
+    /** A text that depends on the situation; null for `text`. */
+    QString (*textNow)(const FSituation& situation) = nullptr;
+};

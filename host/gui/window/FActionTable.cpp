@@ -1,0 +1,254 @@
+#include "host/gui/window/FActionTable.h"
+
+#include "host/core/FHistory.h"
+#include "host/core/FSelectionSet.h"
+#include "host/core/FUserStep.h"
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FTheme.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelTable.h"
+#include "host/gui/window/FProjectFiles.h"
+#include "host/lodm/FCustomComputation.h"
+#include "host/run/FResultsGeneric.h"
+
+#include <QActionGroup>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QKeySequence>
+#include <QMenu>
+
+namespace {
+
+// ---- when ----
+
+bool hasProject(const FSituation& now) {
+    return now.hasProject;
+}
+
+bool hasComputation(const FSituation& now) {
+    return now.computation != nullptr;
+}
+
+bool canRun(const FSituation& now) {
+    return now.computation && !now.isRunning;
+}
+
+bool isRunning(const FSituation& now) {
+    return now.isRunning;
+}
+
+// ---- texts ----
+
+QString runText(const FSituation& now) {
+    return now.computation ? QStringLiteral("&Run %1").arg(QLatin1String("") + now.computation->getName())
+                           : QStringLiteral("&Run");
+}
+
+QString undoText(const FSituation& now) {
+    return QStringLiteral("&Undo %1").arg(now.undoLabel).trimmed();
+}
+
+QString redoText(const FSituation& now) {
+    return QStringLiteral("&Redo %1").arg(now.redoLabel).trimmed();
+}
+
+// ---- what they do ----
+
+void undo(FMainWindow& window) {
+    FUserStep::commitEdits();
+    const QString label = window.situation().undoLabel;
+    if (FHistory::instance()->undo()) {
+        window.showStatus(QStringLiteral("Undone: %1").arg(label));
+    }
+}
+
+void redo(FMainWindow& window) {
+    FUserStep::commitEdits();
+    const QString label = window.situation().redoLabel;
+    if (FHistory::instance()->redo()) {
+        window.showStatus(QStringLiteral("Redone: %1").arg(label));
+    }
+}
+
+void run(FMainWindow& window) {
+    FUserStep::commitEdits();
+    if (FExternComputation* computation = window.runTarget().get()) {
+        computation->guiRun();
+    }
+}
+
+void stop(FMainWindow& window) {
+    if (FExternComputation* computation = window.runTarget().get()) {
+        computation->cancel();
+    }
+}
+
+void reread(FMainWindow& window) {
+    FUserStep::commitEdits();
+    FExternComputation* computation = window.runTarget().get();
+    if (computation && computation->rereadResults()) {
+        window.showResults(FExpr<FResultsGeneric>(computation->getCurrentResults()));
+    }
+}
+
+void preview(FMainWindow& window) {
+    FUserStep::commitEdits();
+    const auto* computation = dynamic_cast<const FCustomComputation*>(window.runTarget().get());
+    if (computation && computation->getConfiguration()) {
+        computation->getConfiguration()->preview();
+    }
+}
+
+void showResults(FMainWindow& window) {
+    if (const FExternComputation* computation = window.runTarget().get()) {
+        window.showResults(FExpr<FResultsGeneric>(computation->getCurrentResults()));
+    }
+}
+
+void rename(FMainWindow& window) {
+    window.raisePanel(QStringLiteral("objects"));
+    if (auto* tree = dynamic_cast<FObjectTreeWgt*>(window.panel(QStringLiteral("objects")))) {
+        tree->renameSelected();
+    }
+}
+
+void helpOnSelection(FMainWindow& window) {
+    const QList<FExpr<FObject>>& objects = FSelectionSet::instance()->getObjects();
+    window.showHelp(objects.isEmpty() ? QStringLiteral("global") : objects.first().getObject()->getClass());
+}
+
+// ---- submenus ----
+
+void fillRecent(QMenu& menu, FMainWindow& window) {
+    for (const QString& path : FGuiSettings::getRecentProjects()) {
+        if (QFileInfo::exists(path)) {
+            menu.addAction(QFileInfo(path).fileName(), [&window, path] { window.projectFiles().open(path); })
+                ->setToolTip(path);
+        }
+    }
+    if (menu.isEmpty()) {
+        menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
+    }
+}
+
+void fillExamples(QMenu& menu, FMainWindow& window) {
+    for (const QString& name : FProjectFiles::getExamples()) {
+        menu.addAction(name, [&window, name] { window.projectFiles().openExample(name); });
+    }
+    if (menu.isEmpty()) {
+        menu.addAction(QStringLiteral("None installed"))->setEnabled(false);
+    }
+}
+
+void fillPanels(QMenu& menu, FMainWindow& window) {
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        menu.addAction(window.dockOf(QString::fromLatin1(row.id))->toggleViewAction());
+    }
+}
+
+void fillAppearances(QMenu& menu, FMainWindow& window) {
+    using Appearance = FTheme::Appearance;
+    const std::pair<Appearance, const char*> rows[] = {
+        {Appearance::Desktop, "As the desktop"}, {Appearance::Light, "Light"}, {Appearance::Dark, "Dark"}};
+    auto* group = new QActionGroup(&menu);
+    for (const auto& row : rows) {
+        QAction* action = menu.addAction(QString::fromLatin1(row.second));
+        action->setCheckable(true);
+        action->setChecked(FTheme::getChosen() == row.first);
+        group->addAction(action);
+        QObject::connect(action, &QAction::triggered, &window,
+                         [appearance = row.first] { FTheme::choose(appearance); });
+    }
+}
+
+std::vector<FActionRow> makeRows() {
+    return {
+        {"newProject", "&File", 0, "&New project", "document-new", "Ctrl+N", "Start an empty project", true, nullptr,
+         [](FMainWindow& window) { window.projectFiles().create(); }},
+        {"openProject", "&File", 0, "&Open…", "document-open", "Ctrl+O", "Open a project", true, nullptr,
+         [](FMainWindow& window) { window.projectFiles().open(); }},
+        {"openRecent", "&File", 0, "Open &recent", "document-open-recent", "", "Open a project that was open before",
+         false, nullptr, nullptr, &fillRecent},
+        {"openExample", "&File", 0, "Open an e&xample", "folder-templates", "",
+         "Copy an example to a folder of yours, and open the copy", false, nullptr, nullptr, &fillExamples},
+        {"saveProject", "&File", 0, "&Save", "document-save", "Ctrl+S", "Save the project", true, &hasProject,
+         [](FMainWindow& window) { window.projectFiles().save(); }},
+        {"saveProjectAs", "&File", 0, "Save &as…", "document-save-as", "Ctrl+Shift+S",
+         "Save the project under another name", false, &hasProject,
+         [](FMainWindow& window) { window.projectFiles().saveAs(); }},
+        {"executeScript", "&File", 1, "&Execute a script…", "system-run", "Ctrl+E",
+         "Execute a script file; each of its statements is a step", false, nullptr,
+         [](FMainWindow& window) { window.projectFiles().executeScript(); }},
+        {"quit", "&File", 2, "&Quit", "application-exit", "Ctrl+Q", "Close the program", false, nullptr,
+         [](FMainWindow& window) { window.close(); }},
+
+        {"undo", "&Edit", 0, "&Undo", "edit-undo", "Ctrl+Z", "Undo the last step", true,
+         [](const FSituation& now) { return !now.undoLabel.isNull(); }, &undo, nullptr, &undoText},
+        {"redo", "&Edit", 0, "&Redo", "edit-redo", "Ctrl+Shift+Z", "Redo the step that was undone last", true,
+         [](const FSituation& now) { return !now.redoLabel.isNull(); }, &redo, nullptr, &redoText},
+        {"rename", "&Edit", 1, "Re&name", "edit-rename", "F2", "Change the name of the selected object", false,
+         [](const FSituation& now) { return now.selected == 1; }, &rename},
+        {"delete", "&Edit", 1, "&Delete", "edit-delete", "Ctrl+Del", "Delete the selected objects", false,
+         [](const FSituation& now) { return now.selected > 0; },
+         [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
+        {"find", "&Edit", 2, "&Find…", "edit-find", "Ctrl+K", "Find an object, an entry or an action by its name",
+         false, nullptr, [](FMainWindow& window) { window.focusFind(); }},
+
+        {"panels", "&View", 0, "&Panels", "view-list-tree", "", "Show or hide panels", false, &hasProject, nullptr,
+         &fillPanels},
+        {"appearance", "&View", 1, "&Appearance", "preferences-desktop-theme", "", "Light or dark colours", false,
+         nullptr, nullptr, &fillAppearances},
+        {"resetLayout", "&View", 2, "&Reset the layout", "view-restore", "Ctrl+Shift+L",
+         "Put all panels where they are in a new installation", false, &hasProject,
+         [](FMainWindow& window) { window.resetLayout(); }},
+
+        {"run", "&Run", 0, "&Run", "media-playback-start", "F5", "Write the input files and run the program", true,
+         &canRun, &run, nullptr, &runText},
+        {"stop", "&Run", 0, "&Stop", "media-playback-stop", "Shift+F5", "End the program that is running", true,
+         &isRunning, &stop},
+        {"reread", "&Run", 0, "Re-read r&esults", "view-refresh", "Ctrl+F5",
+         "Read the output files again, with the present marks", true,
+         [](const FSituation& now) { return now.canReread; }, &reread},
+        {"preview", "&Run", 1, "&Preview input files", "document-preview", "Ctrl+P",
+         "Show the input files as a run would write them", false, &hasComputation, &preview},
+        {"showResults", "&Run", 1, "Show resul&ts", "office-chart-bar", "Ctrl+T",
+         "Show the numbers that were read from the output files", false,
+         [](const FSituation& now) { return now.hasResults; }, &showResults},
+
+        {"help", "&Help", 0, "&Help", "help-contents", "F1", "Show the reference of the selected object's class", false,
+         nullptr, &helpOnSelection},
+        {"shortcuts", "&Help", 0, "&Keyboard shortcuts", "input-keyboard", "Ctrl+Shift+K",
+         "List all actions with their keys", false, nullptr,
+         [](FMainWindow& window) { window.showHelpText(FActionTable::toMarkdown()); }},
+        {"about", "&Help", 1, "&About merix", "help-about", "Ctrl+F1", "Version and licence", false, nullptr,
+         [](FMainWindow& window) { window.showAbout(); }},
+    };
+}
+
+QString plain(const char* text) {
+    return QString::fromUtf8(text).remove(QLatin1Char('&'));
+}
+
+}  // namespace
+
+const std::vector<FActionRow>& FActionTable::rows() {
+    static const std::vector<FActionRow> table = makeRows();
+    return table;
+}
+
+QString FActionTable::toMarkdown() {
+    QString text = QStringLiteral("# Keyboard shortcuts\n\n| action | key | what it does |\n| --- | --- | --- |\n");
+    const QString row = QStringLiteral("| %1: %2 | %3 | %4 |\n");
+    for (const FActionRow& action : rows()) {
+        if (!action.fill) {
+            text += row.arg(plain(action.menu), plain(action.text), QString::fromLatin1(action.shortcut),
+                            QString::fromUtf8(action.tip));
+        }
+    }
+    for (const FPanelRow& panel : FPanelTable::rows()) {
+        text += row.arg(QStringLiteral("View"), QString::fromLatin1(panel.title), QString::fromLatin1(panel.shortcut),
+                        QStringLiteral("Show the panel"));
+    }
+    return text;
+}

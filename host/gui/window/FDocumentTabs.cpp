@@ -1,0 +1,59 @@
+#include "host/gui/window/FDocumentTabs.h"
+
+#include <QTabBar>
+
+namespace {
+
+const char* const keyProperty = "documentKey";
+
+}  // namespace
+
+FDocumentTabs::FDocumentTabs(QWidget* parent) : QTabWidget(parent) {
+    setObjectName(QStringLiteral("documents"));
+    setAccessibleName(QStringLiteral("Documents"));
+    setDocumentMode(true);
+    setTabsClosable(true);
+    setMovable(true);
+    tabBar()->setElideMode(Qt::ElideMiddle);
+    tabBar()->setExpanding(false);
+    connect(this, &QTabWidget::tabCloseRequested, this, &FDocumentTabs::closeTab);
+}
+
+QWidget* FDocumentTabs::find(const QString& key) const {
+    for (int tab = 0; tab < count(); ++tab) {
+        if (widget(tab)->property(keyProperty).toString() == key) {
+            return widget(tab);
+        }
+    }
+    return nullptr;
+}
+
+QWidget* FDocumentTabs::open(const QString& key, const QString& title, const QIcon& icon,
+                             const std::function<QWidget*()>& make) {
+    QWidget* document = find(key);
+    if (!document) {
+        document = make();
+        document->setProperty(keyProperty, key);
+        setTabToolTip(addTab(document, icon, title), title);
+    }
+    setCurrentWidget(document);
+    return document;
+}
+
+void FDocumentTabs::close(const QString& key) {
+    if (QWidget* document = find(key)) {
+        closeTab(indexOf(document));
+    }
+}
+
+void FDocumentTabs::closeAll() {
+    while (count() > 0) {
+        closeTab(0);
+    }
+}
+
+void FDocumentTabs::closeTab(int index) {
+    QWidget* document = widget(index);
+    removeTab(index);
+    document->deleteLater();
+}

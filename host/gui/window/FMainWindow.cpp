@@ -1,0 +1,332 @@
+#include "host/gui/window/FMainWindow.h"
+
+#include "host/core/FChanges.h"
+#include "host/core/FIO.h"
+#include "host/core/FManaged.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FSelectionSet.h"
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FPendingEdit.h"
+#include "host/gui/panels/FHelpPanel.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/window/FActions.h"
+#include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FFindField.h"
+#include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FPanelTable.h"
+#include "host/gui/window/FProjectFiles.h"
+#include "host/gui/window/FStartPage.h"
+#include "host/run/FExternComputation.h"
+#include "host/run/FResultsGeneric.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+const QSize usualSize(1480, 920);
+constexpr int statusTime = 8000;  // milliseconds
+
+QString dockName(const QString& panel) {
+    return panel + QStringLiteral("Dock");
+}
+
+QString projectName() {
+    const QString file = FMerixCtrl::instance()->getProjectFile();
+    return file.isEmpty() ? QStringLiteral("unnamed project") : QFileInfo(file).fileName();
+}
+
+}  // namespace
+
+FMainWindow::FMainWindow() {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowIcon(FIcons::get(QStringLiteral("merix")));
+    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    mpProjectFiles = new FProjectFiles(*this);
+    mpActions = new FActions(*this);
+
+    auto* centre = new QWidget(this);
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    mpNotices = new FNoticeBar(centre);
+    mpCentre = new QStackedWidget(centre);
+    mpStartPage = new FStartPage(*this);
+    mpDocuments = new FDocumentTabs(centre);
+    mpCentre->addWidget(mpStartPage);
+    mpCentre->addWidget(mpDocuments);
+    column->addWidget(mpNotices);
+    column->addWidget(mpCentre, 1);
+    setCentralWidget(centre);
+
+    makeToolbar();
+    makeDocks();
+    mpActions->fillMenus(*menuBar());
+    mpRunState = new QLabel(this);
+    mpRunState->setObjectName(QStringLiteral("runState"));
+    statusBar()->addPermanentWidget(mpRunState);
+    listen();
+
+    resize(usualSize);
+    restoreGeometry(FGuiSettings::getGeometry());
+    showProject(situation().hasProject);
+    refresh();
+}
+
+FMainWindow::~FMainWindow() {
+    // Panels refer to members of the window, which are destroyed before its children.
+    qDeleteAll(mDocks);
+    delete centralWidget();
+    delete mpFind;
+}
+
+void FMainWindow::makeToolbar() {
+    auto* bar = new QToolBar(QStringLiteral("Actions"), this);
+    bar->setObjectName(QStringLiteral("actionBar"));
+    bar->setMovable(false);
+    addToolBar(bar);
+    mpActions->fillToolbar(*bar);
+    if (auto* run = qobject_cast<QToolButton*>(bar->widgetForAction(mpActions->get(QStringLiteral("run"))))) {
+        run->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    }
+    auto* gap = new QWidget(bar);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+    mpFind = new FFindField(*this);
+    bar->addWidget(mpFind);
+    setContextMenuPolicy(Qt::NoContextMenu);  // Qt's own menu could hide the toolbar for good
+}
+
+void FMainWindow::makeDocks() {
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        const QString id = QString::fromLatin1(row.id);
+        auto* dock = new QDockWidget(QString::fromLatin1(row.title), this);
+        dock->setObjectName(dockName(id));
+        dock->setWindowIcon(FIcons::get(QString::fromLatin1(row.icon)));
+        QWidget* panel = row.make(*this);
+        panel->setObjectName(id);
+        panel->setAccessibleName(dock->windowTitle());
+        dock->setWidget(panel);
+        dock->toggleViewAction()->setIcon(dock->windowIcon());
+        mDocks.insert(id, dock);
+    }
+    arrangeDocks();
+}
+
+void FMainWindow::arrangeDocks() {
+    QHash<int, QDockWidget*> firstOfArea;
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        QDockWidget* dock = mDocks.value(QString::fromLatin1(row.id));
+        dock->setFloating(false);
+        addDockWidget(row.area, dock);
+        QDockWidget*& first = firstOfArea[row.area];
+        if (first) {
+            tabifyDockWidget(first, dock);
+        } else {
+            first = dock;
+        }
+    }
+    for (QDockWidget* first : firstOfArea) {
+        first->raise();
+    }
+    const int em = fontMetrics().averageCharWidth();
+    constexpr int sideWidth = 34;  // characters
+    constexpr int bottomLines = 9;
+    resizeDocks({firstOfArea.value(Qt::LeftDockWidgetArea), firstOfArea.value(Qt::RightDockWidgetArea)},
+                {sideWidth * em, (sideWidth + sideWidth / 3) * em}, Qt::Horizontal);
+    resizeDocks({firstOfArea.value(Qt::BottomDockWidgetArea)}, {bottomLines * 2 * fontMetrics().height()},
+                Qt::Vertical);
+}
+
+void FMainWindow::listen() {
+    const FChanges* changes = FChanges::instance();
+    const auto refreshSoon = [this] { mRefresh.request(); };
+    connect(changes, &FChanges::objectEntered, this, refreshSoon);
+    connect(changes, &FChanges::objectLeft, this, refreshSoon);
+    connect(changes, &FChanges::objectChanged, this, refreshSoon);
+    connect(changes, &FChanges::projectOpened, this, refreshSoon);
+    connect(changes, &FChanges::projectSaved, this, refreshSoon);
+    connect(changes, &FChanges::projectClosed, this, refreshSoon);
+    connect(changes, &FChanges::stepDropped, this, refreshSoon);
+    connect(&mUnsaved, &FUnsavedWork::changed, this, refreshSoon);
+    connect(&mRunTarget, &FRunTarget::changed, this, refreshSoon);
+    connect(FSelectionSet::instance(), &FSelectionSet::selectionReplaced, this, refreshSoon);
+    connect(changes, &FChanges::projectSaved, this, [this](const QString& file) {
+        FGuiSettings::addRecentProject(file);
+        showStatus(QStringLiteral("Saved %1").arg(QFileInfo(file).fileName()));
+    });
+    connect(changes, &FChanges::projectOpened, this, [](const QString& file) { FGuiSettings::addRecentProject(file); });
+}
+
+void FMainWindow::refresh() {
+    const FSituation now = situation();
+    mpActions->update(now, mIsLocked);
+    setWindowTitle(now.hasProject ? QStringLiteral("%1[*] — merix").arg(projectName()) : QStringLiteral("merix"));
+    setWindowModified(now.isUnsaved);
+    const FExternComputation* computation = now.computation;
+    mpRunState->setText(
+        computation ? QStringLiteral("%1: %2").arg(computation->getName(), computation->getLastRun().stateName())
+                    : QString());
+    if (now.hasProject != mShowsProject) {
+        showProject(now.hasProject);
+    }
+}
+
+void FMainWindow::showProject(bool isThere) {
+    if (!isThere) {
+        if (mShowsProject) {
+            FGuiSettings::setState(saveState());
+        }
+        for (QDockWidget* dock : mDocks) {
+            dock->hide();
+        }
+        mpStartPage->refresh();
+        mpCentre->setCurrentWidget(mpStartPage);
+    } else {
+        mpCentre->setCurrentWidget(mpDocuments);
+        if (!restoreState(FGuiSettings::getState())) {
+            resetLayout();
+        }
+    }
+    mShowsProject = isThere;
+}
+
+void FMainWindow::resetLayout() {
+    arrangeDocks();
+    for (QDockWidget* dock : mDocks) {
+        dock->show();
+    }
+}
+
+QWidget* FMainWindow::panel(const QString& id) const {
+    const QDockWidget* dock = dockOf(id);
+    return dock ? dock->widget() : nullptr;
+}
+
+void FMainWindow::raisePanel(const QString& id) {
+    if (QDockWidget* dock = dockOf(id)) {
+        dock->show();
+        dock->raise();
+        dock->widget()->setFocus();
+    }
+}
+
+void FMainWindow::focusFind() {
+    mpFind->start();
+}
+
+void FMainWindow::showObject(FManaged* object) {
+    FSelectionSet::instance()->set({FExpr<FObject>(object)});
+    if (auto* tree = dynamic_cast<FObjectTreeWgt*>(panel(QStringLiteral("objects")))) {
+        tree->reveal(object);
+    }
+}
+
+void FMainWindow::showFile(const Place& place) {
+    Q_UNUSED(place)
+}
+
+void FMainWindow::showTemplate(FManaged* file, int line, int column) {
+    Q_UNUSED(line)
+    Q_UNUSED(column)
+    showObject(file);
+}
+
+void FMainWindow::showResults(const FExpr<FResultsGeneric>& results) {
+    Q_UNUSED(results)
+}
+
+void FMainWindow::showHelp(const QString& topic) {
+    if (auto* help = dynamic_cast<FHelpPanel*>(panel(QStringLiteral("help")))) {
+        help->showTopic(topic);
+        raisePanel(QStringLiteral("help"));
+    }
+}
+
+void FMainWindow::showHelpText(const QString& markdown) {
+    if (auto* help = dynamic_cast<FHelpPanel*>(panel(QStringLiteral("help")))) {
+        raisePanel(QStringLiteral("help"));
+        help->showText(markdown);
+    }
+}
+
+void FMainWindow::showAbout() {
+    showHelpText(QStringLiteral("# merix %1\n\nCouples simulation programs with parametric designs.\n\n"
+                                "Built with Qt %2, which is available under the LGPL, and with icons of Breeze.\n")
+                     .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion())));
+}
+
+void FMainWindow::executeLocked(const std::function<void()>& function) {
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    const auto lock = [this](bool isLocked) {
+        mIsLocked = isLocked;
+        centralWidget()->setEnabled(!isLocked);
+        menuBar()->setEnabled(!isLocked);
+        mpFind->setEnabled(!isLocked);
+        for (QDockWidget* dock : mDocks) {
+            dock->widget()->setEnabled(!isLocked);
+        }
+        refresh();
+    };
+    lock(true);
+    function();
+    lock(false);
+    if (focus) {
+        focus->setFocus();
+    }
+}
+
+void FMainWindow::showStatus(const QString& text) {
+    statusBar()->showMessage(text, statusTime);
+}
+
+bool FMainWindow::mayClose() {
+    if (mIsLocked) {
+        mpNotices->showNotice(QStringLiteral("A script is being executed. Stop its run, or wait for its end."));
+        return false;
+    }
+    if (FRunTarget::isAnyRunning()) {
+        const int answer = FIO::question(this, FMerixCtrl::getApplicationTitle(),
+                                         QStringLiteral("A run is in progress. It ends with the program."),
+                                         QStringLiteral("Keep running"), QStringLiteral("Stop and quit"), QString());
+        if (answer != 1) {
+            return false;
+        }
+    }
+    return mpProjectFiles->maySpoil();
+}
+
+void FMainWindow::closeEvent(QCloseEvent* event) {
+    FPendingEdit::commitAll();
+    if (!mayClose()) {
+        event->ignore();
+        return;
+    }
+    FGuiSettings::setGeometry(saveGeometry());
+    if (mShowsProject) {
+        FGuiSettings::setState(saveState());
+    }
+    event->accept();
+}
+
+void FMainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        mRefresh.request();
+    }
+    QMainWindow::changeEvent(event);
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FQueuedCall.h"
+#include "host/gui/base/FNavigator.h"
+#include "host/gui/base/FRunTarget.h"
+#include "host/gui/window/FSituation.h"
+#include "host/gui/window/FUnsavedWork.h"
+
+#include <QHash>
+#include <QMainWindow>
+
+#include <functional>
+
+class FActions;
+class FDocumentTabs;
+class FFindField;
+class FNoticeBar;
+class FProjectFiles;
+class FStartPage;
+class QDockWidget;
+class QLabel;
+class QStackedWidget;
+
+/**
+ * The window of the program: documents in the centre, panels around them, a toolbar with few actions. It shows the
+ * model and changes it in steps only. It must be destroyed before the program's application object.
+ */
+class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
+    Q_OBJECT
+
+ public:
+    FMainWindow();
+    ~FMainWindow() override;
+
+    FProjectFiles& projectFiles() { return *mpProjectFiles; }
+    FActions& actions() { return *mpActions; }
+    FDocumentTabs& documents() { return *mpDocuments; }
+    FNoticeBar& notices() { return *mpNotices; }
+    FRunTarget& runTarget() { return mRunTarget; }
+    FUnsavedWork& unsavedWork() { return mUnsaved; }
+    FSituation situation() const { return FSituation::now(mRunTarget, mUnsaved); }
+
+    /** The panel of that id; null if there is none. */
+    QWidget* panel(const QString& id) const;
+    QDockWidget* dockOf(const QString& panel) const { return mDocks.value(panel); }
+    /** Shows the panel in front of others, and gives it the focus. */
+    void raisePanel(const QString& id);
+    void focusFind();
+    /** Executes a function during which scripts may wait for runs: the window then takes no input but Stop. */
+    void executeLocked(const std::function<void()>& function);
+    /** Shows a text in Markdown in the help panel. */
+    void showHelpText(const QString& markdown);
+    void showAbout();
+    /** Puts panels and toolbars where they are in a new installation. */
+    void resetLayout();
+
+    void showObject(FManaged* object) override;
+    void showFile(const Place& place) override;
+    void showTemplate(FManaged* file, int line, int column) override;
+    void showResults(const FExpr<FResultsGeneric>& results) override;
+    void showHelp(const QString& topic) override;
+    void showStatus(const QString& text) override;
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+ private:
+    void makeDocks();
+    void makeToolbar();
+    void listen();
+    void arrangeDocks();
+    /** Brings actions, title and status line up to date, from the event loop. */
+    void refresh();
+    void showProject(bool isThere);
+    bool mayClose();
+
+    FRunTarget mRunTarget;
+    FUnsavedWork mUnsaved;
+    FQueuedCall mRefresh{[this] { refresh(); }};
+    FActions* mpActions = nullptr;
+    FProjectFiles* mpProjectFiles = nullptr;
+    QStackedWidget* mpCentre = nullptr;
+    FStartPage* mpStartPage = nullptr;
+    FDocumentTabs* mpDocuments = nullptr;
+    FNoticeBar* mpNotices = nullptr;
+    FFindField* mpFind = nullptr;
+    QLabel* mpRunState = nullptr;
+    QHash<QString, QDockWidget*> mDocks;
+    bool mShowsProject = false;
+    bool mIsLocked = false;
+};

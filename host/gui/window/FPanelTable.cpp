@@ -1,0 +1,36 @@
+#include "host/gui/window/FPanelTable.h"
+
+#include "host/gui/panels/FConsole.h"
+#include "host/gui/panels/FHelpPanel.h"
+#include "host/gui/panels/FLogPanel.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/panels/FProblemsPanel.h"
+#include "host/gui/panels/FUndoPanel.h"
+#include "host/gui/window/FMainWindow.h"
+
+namespace {
+
+QWidget* makeConsole(FMainWindow& window) {
+    auto* console = new FConsole([&window](const std::function<void()>& function) { window.executeLocked(function); });
+    QObject::connect(console, &FConsole::helpRequested, &window, &FMainWindow::showHelp);
+    return console;
+}
+
+}  // namespace
+
+const std::vector<FPanelRow>& FPanelTable::rows() {
+    static const std::vector<FPanelRow> table{
+        {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1",
+         [](FMainWindow& window) -> QWidget* { return new FObjectTreeWgt(window); }},
+        {"problems", "Problems", "dialog-warning", Qt::BottomDockWidgetArea, "Ctrl+4",
+         [](FMainWindow& window) -> QWidget* { return new FProblemsPanel(window); }},
+        {"log", "Log", "view-list-text", Qt::BottomDockWidgetArea, "Ctrl+5",
+         [](FMainWindow& window) -> QWidget* { return new FLogPanel(window); }},
+        {"console", "Console", "utilities-terminal", Qt::BottomDockWidgetArea, "Ctrl+6", &makeConsole},
+        {"history", "History", "view-history", Qt::BottomDockWidgetArea, "Ctrl+7",
+         [](FMainWindow&) -> QWidget* { return new FUndoPanel; }},
+        {"help", "Help", "help-contents", Qt::RightDockWidgetArea, "Ctrl+8",
+         [](FMainWindow&) -> QWidget* { return new FHelpPanel; }},
+    };
+    return table;
+}

@@ -1,0 +1,239 @@
+#include "host/gui/window/FProjectFiles.h"
+
+#include "host/core/FHold.h"
+#include "host/core/FIO.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FUserInterface.h"
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FRecoveryQuestion.h"
+#include "host/run/FPathManager.h"
+#include "host/script/FAutosave.h"
+#include "host/script/FCmdInput.h"
+#include "host/script/FProject.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+const char* const projectFilter = "Projects (*.mrx);;All files (*)";
+const char* const scriptFilter = "Scripts (*.merix);;All files (*)";
+
+QString startFolder() {
+    const QString file = FMerixCtrl::instance()->getProjectFile();
+    return file.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                          : QFileInfo(file).path();
+}
+
+}  // namespace
+
+FProjectFiles::FProjectFiles(FMainWindow& window) : QObject(&window), mWindow(window) {}
+
+// A project can't be replaced while a run writes into its folder.
+bool FProjectFiles::isIdle() {
+    if (FRunTarget::isAnyRunning()) {
+        mWindow.notices().showNotice(
+            QStringLiteral("A run is in progress. Stop it, or wait for its end, before you "
+                           "leave the project."));
+        return false;
+    }
+    return true;
+}
+
+bool FProjectFiles::maySpoil() {
+    FUserInterface::instance()->commitEdits();
+    if (!mWindow.unsavedWork().isThere()) {
+        return true;
+    }
+    const QString file = FMerixCtrl::instance()->getProjectFile();
+    constexpr int cancel = 2;
+    const int answer =
+        FIO::question(nullptr, FMerixCtrl::getApplicationTitle(),
+                      QStringLiteral("Save the changes of %1?")
+                          .arg(file.isEmpty() ? QStringLiteral("the unnamed project") : QFileInfo(file).fileName()),
+                      QStringLiteral("Save"), QStringLiteral("Discard"), QStringLiteral("Cancel"), 0, cancel);
+    return answer == 1 || (answer == 0 && save());
+}
+
+void FProjectFiles::create() {
+    if (isIdle() && maySpoil()) {
+        mWindow.documents().closeAll();
+        FProject::instance()->create();
+    }
+}
+
+void FProjectFiles::open() {
+    const QString path = FUserInterface::instance()->askOpenFile(QStringLiteral("Open a project"), startFolder(),
+                                                                 QString::fromLatin1(projectFilter));
+    if (!path.isEmpty()) {
+        open(path);
+    }
+}
+
+void FProjectFiles::open(const QString& path) {
+    if (!isIdle() || !maySpoil()) {
+        return;
+    }
+    bool recovers = false;
+    if (FAutosave::isNewer(path)) {
+        const FRecoveryQuestion::Answer answer = FRecoveryQuestion(path).ask();
+        if (answer == FRecoveryQuestion::Answer::Cancel) {
+            return;
+        }
+        recovers = answer == FRecoveryQuestion::Answer::Recover;
+    }
+    const FWaitCursor wait;
+    mWindow.documents().closeAll();
+    const bool isWhole = FProject::instance()->open(path, recovers);
+    if (recovers) {
+        mWindow.unsavedWork().assume();
+    }
+    reportOpening(path, isWhole);
+}
+
+void FProjectFiles::reportOpening(const QString& path, bool isWhole) {
+    const auto showLog = [this] { mWindow.raisePanel(QStringLiteral("log")); };
+    const QString name = QFileInfo(path).fileName();
+    if (!isWhole) {
+        mWindow.notices().showNotice(FMerixCtrl::instance()->getProjectFile() == QFileInfo(path).canonicalFilePath()
+                                         ? QStringLiteral("Parts of %1 couldn't be read.").arg(name)
+                                         : QStringLiteral("%1 couldn't be opened.").arg(name),
+                                     QStringLiteral("Show the messages"), showLog);
+    } else if (!FProject::instance()->getHolder().isEmpty()) {
+        mWindow.notices().showNotice(
+            QStringLiteral("%1 is open elsewhere (%2): you can look at it, but neither save nor "
+                           "run it here.")
+                .arg(name, FProject::instance()->getHolder()),
+            QStringLiteral("Save under another name…"), [this] { saveAs(); });
+    } else {
+        mWindow.showStatus(QStringLiteral("Opened %1").arg(name));
+    }
+}
+
+bool FProjectFiles::save() {
+    if (FMerixCtrl::instance()->getProjectFile().isEmpty()) {
+        return saveAs();
+    }
+    const bool isSaved = FProject::instance()->save(QString());
+    if (!isSaved) {
+        mWindow.notices().showNotice(QStringLiteral("The project wasn't saved."), QStringLiteral("Show the messages"),
+                                     [this] { mWindow.raisePanel(QStringLiteral("log")); });
+    }
+    return isSaved;
+}
+
+bool FProjectFiles::saveAs() {
+    const QString path = FUserInterface::instance()->askSaveFile(QStringLiteral("Save the project as"), startFolder(),
+                                                                 QString::fromLatin1(projectFilter));
+    return !path.isEmpty() && FProject::instance()->save(path);
+}
+
+QStringList FProjectFiles::getExamples() {
+    const QDir samples(FPathManager::instance()->getSamplesDir());
+    QStringList names;
+    for (const QString& name : samples.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (samples.exists(name + QStringLiteral("/setup.merix"))) {
+            names.append(name);
+        }
+    }
+    return names;
+}
+
+void FProjectFiles::openExample(const QString& name) {
+    if (!isIdle() || !maySpoil()) {
+        return;
+    }
+    const QString parent =
+        FUserInterface::instance()->askFolder(QStringLiteral("Folder for a copy of the example"),
+                                              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (parent.isEmpty()) {
+        return;
+    }
+    QString folder = QDir(parent).filePath(name);
+    for (int number = 2; QFileInfo::exists(folder); ++number) {
+        folder = QDir(parent).filePath(QStringLiteral("%1-%2").arg(name).arg(number));
+    }
+    if (!copyFolder(QDir(FPathManager::instance()->getSamplesDir()).filePath(name), folder)) {
+        mWindow.notices().showNotice(
+            QStringLiteral("The example couldn't be copied to %1. Choose a folder that you can write to.").arg(folder));
+        return;
+    }
+    mWindow.documents().closeAll();
+    FProject::instance()->create();
+    if (executeScript(QDir(folder).filePath(QStringLiteral("setup.merix")))) {
+        FProject::instance()->save(QDir(folder).filePath(name + QStringLiteral(".mrx")));
+    }
+}
+
+bool FProjectFiles::copyFolder(const QString& from, const QString& to) {
+    if (!QDir().mkpath(to)) {
+        return false;
+    }
+    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        const QString target = QDir(to).filePath(QDir(from).relativeFilePath(file));
+        if (!QDir().mkpath(QFileInfo(target).path()) || !QFile::copy(file, target)) {
+            return false;
+        }
+        QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+    }
+    return true;
+}
+
+void FProjectFiles::executeScript() {
+    const QString path = FUserInterface::instance()->askOpenFile(QStringLiteral("Execute a script"), startFolder(),
+                                                                 QString::fromLatin1(scriptFilter));
+    if (!path.isEmpty()) {
+        executeScript(path);
+    }
+}
+
+bool FProjectFiles::executeScript(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        mWindow.notices().showNotice(QStringLiteral("%1 can't be read: %2").arg(path, file.errorString()));
+        return false;
+    }
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    FCmdInput input;
+    input.readInputString(stream, path);
+    const bool isDone = input.exec();
+    if (!isDone) {
+        mWindow.notices().showNotice(QStringLiteral("%1 ended with an error.").arg(QFileInfo(path).fileName()),
+                                     QStringLiteral("Show the messages"),
+                                     [this] { mWindow.raisePanel(QStringLiteral("log")); });
+    }
+    return isDone;
+}
+
+QString FProjectFiles::ageOf(const QDateTime& time) {
+    constexpr qint64 minute = 60;
+    constexpr qint64 hour = 60 * minute;
+    const QDateTime now = QDateTime::currentDateTime();
+    const qint64 seconds = time.secsTo(now);
+    const auto count = [](qint64 number, const char* unit) {
+        const QString word = QString::fromLatin1(unit);
+        return number == 1 ? QStringLiteral("1 %1 ago").arg(word) : QStringLiteral("%1 %2s ago").arg(number).arg(word);
+    };
+    if (seconds < minute) {
+        return QStringLiteral("just now");
+    }
+    if (seconds < hour) {
+        return count(seconds / minute, "minute");
+    }
+    if (time.date() == now.date()) {
+        return QStringLiteral("today, %1").arg(time.toString(QStringLiteral("hh:mm")));
+    }
+    if (time.date().addDays(1) == now.date()) {
+        return QStringLiteral("yesterday, %1").arg(time.toString(QStringLiteral("hh:mm")));
+    }
+    return time.toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class FMainWindow;
+
+/** Creates, opens and saves projects for the window, with the questions that prevent a loss of data. */
+class MERIX_EXPORT FProjectFiles : public QObject {
+ public:
+    explicit FProjectFiles(FMainWindow& window);
+
+    void create();
+    void open();
+    void open(const QString& path);
+    /** False if the user cancelled, or if the project couldn't be saved. */
+    bool save();
+    bool saveAs();
+    /** Copies an example into a folder that the user chooses, and opens the copy. */
+    void openExample(const QString& name);
+    /** Executes a script that the user chooses, each statement as a step. */
+    void executeScript();
+    bool executeScript(const QString& path);
+    /** Whether the present project may be given up: it has no unsaved work, or the user has saved or discarded it. */
+    bool maySpoil();
+
+    static QStringList getExamples();
+    /** How long ago a time was, in words. */
+    static QString ageOf(const QDateTime& time);
+
+ private:
+    bool isIdle();
+    void reportOpening(const QString& path, bool isWhole);
+    static bool copyFolder(const QString& from, const QString& to);
+
+    FMainWindow& mWindow;
+};

@@ -1,0 +1,138 @@
+#include "host/gui/window/FStartPage.h"
+
+#include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FStateColor.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FProjectFiles.h"
+#include "host/gui/window/FStartTile.h"
+#include "host/script/FAutosave.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QVBoxLayout>
+
+namespace {
+
+/** The path with "~" for the home folder. */
+QString shortPath(const QString& path) {
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    return path.startsWith(home) ? QLatin1String("~/") + path.mid(home.size()) : path;
+}
+
+QString describe(const QString& path) {
+    const QFileInfo file(path);
+    const QString folder = shortPath(file.path());
+    if (FAutosave::isNewer(path)) {
+        return QStringLiteral("%1 · unsaved work from %2")
+            .arg(folder, FProjectFiles::ageOf(QFileInfo(FAutosave::pathOf(path)).lastModified()));
+    }
+    return QStringLiteral("%1 · %2").arg(folder, FProjectFiles::ageOf(file.lastModified()));
+}
+
+}  // namespace
+
+FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QListWidget(this)) {
+    setObjectName(QStringLiteral("startPage"));
+    auto* title = new QLabel(QStringLiteral("merix"), this);
+    QFont large = title->font();
+    large.setPointSizeF(2.4 * large.pointSizeF());
+    large.setBold(true);
+    title->setFont(large);
+    title->setAlignment(Qt::AlignCenter);
+    auto* motto = new QLabel(QStringLiteral("Couple a program: what goes in, what runs, what comes out."), this);
+    motto->setAlignment(Qt::AlignCenter);
+
+    auto* tiles = new QHBoxLayout;
+    auto* create = new FStartTile(FIcons::get(QStringLiteral("document-new")), QStringLiteral("New project"),
+                                  QStringLiteral("Empty; add a program, its input\nfiles and its output files"), this);
+    create->setObjectName(QStringLiteral("startNew"));
+    auto* open = new FStartTile(FIcons::get(QStringLiteral("document-open")), QStringLiteral("Open a project"),
+                                QStringLiteral("A .mrx file; nothing is run\nby opening it"), this);
+    open->setObjectName(QStringLiteral("startOpen"));
+    auto* example = new FStartTile(FIcons::get(QStringLiteral("help-about")), QStringLiteral("Try an example"),
+                                   QStringLiteral("A beam or a filter, copied\nto a folder of yours"), this);
+    example->setObjectName(QStringLiteral("startExample"));
+    for (FStartTile* tile : {create, open, example}) {
+        tiles->addWidget(tile, 1);
+    }
+
+    auto* recentTitle = new QLabel(QStringLiteral("&Recent"), this);
+    recentTitle->setBuddy(mpRecent);
+    mpRecent->setObjectName(QStringLiteral("recentProjects"));
+    mpRecent->setAccessibleName(QStringLiteral("Recent projects"));
+    new FEmptyHint(mpRecent, QStringLiteral("Projects that you have opened appear here"));
+
+    auto* middle = new QWidget(this);
+    constexpr int widest = 900;
+    middle->setMaximumWidth(widest);
+    auto* column = new QVBoxLayout(middle);
+    const int em = fontMetrics().height();
+    column->setSpacing(em);
+    column->addStretch(2);
+    column->addWidget(title);
+    column->addWidget(motto);
+    column->addSpacing(em);
+    column->addLayout(tiles);
+    column->addWidget(recentTitle);
+    column->addWidget(mpRecent, 4);
+    column->addStretch(2);
+    auto* row = new QHBoxLayout(this);
+    row->addStretch(1);
+    row->addWidget(middle, 8);
+    row->addStretch(1);
+
+    mSecondary = {motto, recentTitle};
+    setColors();
+    connect(create, &FStartTile::clicked, this, [this] { mWindow.projectFiles().create(); });
+    connect(open, &FStartTile::clicked, this, [this] { mWindow.projectFiles().open(); });
+    auto* examples = new QMenu(this);
+    for (const QString& name : FProjectFiles::getExamples()) {
+        examples->addAction(name, this, [this, name] { mWindow.projectFiles().openExample(name); });
+    }
+    example->setMenu(examples);
+    example->setEnabled(!examples->isEmpty());
+    connect(mpRecent, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* item) { mWindow.projectFiles().open(item->data(Qt::UserRole).toString()); });
+    connect(mpRecent, &QListWidget::itemClicked, this,
+            [this](const QListWidgetItem* item) { mWindow.projectFiles().open(item->data(Qt::UserRole).toString()); });
+    refresh();
+}
+
+void FStartPage::refresh() {
+    mpRecent->clear();
+    for (const QString& path : FGuiSettings::getRecentProjects()) {
+        if (!QFileInfo::exists(path)) {
+            continue;
+        }
+        auto* item =
+            new QListWidgetItem(FIcons::get(QStringLiteral("document-open-recent")),
+                                QStringLiteral("%1     %2").arg(QFileInfo(path).fileName(), describe(path)), mpRecent);
+        item->setData(Qt::UserRole, path);
+        item->setToolTip(path);
+    }
+}
+
+void FStartPage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setColors();
+    }
+}
+
+void FStartPage::setColors() {
+    for (QLabel* label : mSecondary) {
+        QPalette palette = label->palette();
+        const QColor color = FStateColor::of(FStateColor::State::Secondary);
+        if (palette.color(QPalette::WindowText) != color) {
+            palette.setColor(QPalette::WindowText, color);
+            label->setPalette(palette);
+        }
+    }
+}

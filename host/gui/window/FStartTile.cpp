@@ -1,0 +1,70 @@
+#include "host/gui/window/FStartTile.h"
+
+#include "host/gui/base/FStateColor.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace {
+
+constexpr int drawingSize = 32;
+
+}  // namespace
+
+FStartTile::FStartTile(const QIcon& icon, const QString& title, const QString& description, QWidget* parent)
+    : QAbstractButton(parent), mDescription(description) {
+    setIcon(icon);
+    setText(title);
+    setAccessibleName(title);
+    setAccessibleDescription(description);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void FStartTile::setMenu(QMenu* menu) {
+    connect(this, &QAbstractButton::clicked, this, [this, menu] { menu->popup(mapToGlobal(rect().bottomLeft())); });
+}
+
+QFont FStartTile::titleFont() const {
+    QFont bold = font();
+    bold.setBold(true);
+    return bold;
+}
+
+QSize FStartTile::sizeHint() const {
+    const int em = fontMetrics().height();
+    const QSize text = fontMetrics().size(0, mDescription);
+    const int title = QFontMetrics(titleFont()).horizontalAdvance(text.isEmpty() ? QString() : this->text());
+    return {qMax(text.width(), title) + 2 * em, drawingSize + em + text.height() + 4 * em};
+}
+
+void FStartTile::paintEvent(QPaintEvent* event) {
+    Q_UNUSED(event)
+    QPainter painter(this);
+    const bool isHot = isEnabled() && (underMouse() || hasFocus());
+    painter.setPen(palette().color(isHot ? QPalette::Highlight : QPalette::Mid));
+    painter.setBrush(isDown() ? palette().midlight() : isHot ? palette().base() : QBrush(Qt::NoBrush));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const int em = fontMetrics().height();
+    const QRect place((width() - drawingSize) / 2, em, drawingSize, drawingSize);
+    icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    QRect line(0, place.bottom() + em / 2, width(), em + em / 2);
+    painter.setFont(titleFont());
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(line, Qt::AlignCenter, text());
+    painter.setFont(font());
+    painter.setPen(isEnabled() ? FStateColor::of(FStateColor::State::Secondary) : painter.pen().color());
+    painter.drawText(QRect(0, line.bottom(), width(), height() - line.bottom() - em / 2),
+                     Qt::AlignHCenter | Qt::AlignVCenter, mDescription);
+}
+
+void FStartTile::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QAbstractButton::keyPressEvent(event);
+    }
+}

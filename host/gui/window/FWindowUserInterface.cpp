@@ -1,0 +1,115 @@
+#include "host/gui/window/FWindowUserInterface.h"
+
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FSelectionSet.h"
+#include "host/gui/base/FPendingEdit.h"
+#include "host/gui/panels/FObjectTreeModel.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FTextsDialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+
+namespace {
+
+int show(QMessageBox::Icon icon, QWidget* parent, const QString& title, const QString& text, const QStringList& buttons,
+         int defaultButton) {
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("question"));
+    QList<QAbstractButton*> added;
+    for (const QString& button : buttons) {
+        const bool isLast = added.size() == buttons.size() - 1;
+        added.append(box.addButton(button, isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole));
+    }
+    if (auto* button = qobject_cast<QPushButton*>(added.value(defaultButton))) {
+        box.setDefaultButton(button);
+    }
+    box.exec();
+    return added.indexOf(box.clickedButton());
+}
+
+}  // namespace
+
+int FWindowUserInterface::ask(const QString& title, const QString& text, const QStringList& buttons,
+                              int defaultButton) {
+    return show(QMessageBox::Question, &mWindow, title, text, buttons, defaultButton);
+}
+
+int FWindowUserInterface::warn(const QString& title, const QString& text, const QStringList& buttons,
+                               int defaultButton) {
+    if (buttons.size() < 2) {
+        mWindow.notices().showNotice(text);
+        return 0;
+    }
+    return show(QMessageBox::Warning, &mWindow, title, text, buttons, defaultButton);
+}
+
+void FWindowUserInterface::tell(const QString& title, const QString& text) {
+    const bool isOwn = title == FMerixCtrl::getApplicationTitle() || title.isEmpty();
+    mWindow.notices().showNotice(isOwn ? text : QStringLiteral("%1: %2").arg(title, text));
+}
+
+QString FWindowUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
+    return QFileDialog::getOpenFileName(&mWindow, caption, startPath, filter);
+}
+
+QString FWindowUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
+    return QFileDialog::getSaveFileName(&mWindow, caption, startPath, filter);
+}
+
+QString FWindowUserInterface::askFolder(const QString& caption, const QString& startPath) {
+    return QFileDialog::getExistingDirectory(&mWindow, caption, startPath);
+}
+
+void FWindowUserInterface::commitEdits() {
+    FPendingEdit::commitAll();
+}
+
+void FWindowUserInterface::showTexts(const QString& title, const QMap<QString, QString>& texts) {
+    auto* dialog = new FTextsDialog(title, texts, &mWindow);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+}
+
+QObject* FWindowUserInterface::getObjectEditor(const FExprBase& object) {
+    FSelectionSet::instance()->set({FExpr<FObject>(object)});
+    return mWindow.panel(QStringLiteral("editor"));
+}
+
+void FWindowUserInterface::highlight(const QList<FExprBase>& objects) {
+    QList<FExpr<FObject>> selected;
+    for (const FExprBase& object : objects) {
+        selected.append(FExpr<FObject>(object));
+    }
+    FSelectionSet::instance()->set(selected);
+}
+
+int FWindowUserInterface::getScreenHeight() const {
+    const QScreen* screen = QApplication::primaryScreen();
+    return screen ? screen->availableGeometry().height() : 0;
+}
+
+void FWindowUserInterface::setClipboardText(const QString& text) {
+    QApplication::clipboard()->setText(text);
+}
+
+void FWindowUserInterface::hold(What what, bool isHeld) {
+    switch (what) {
+        case What::Cursor:
+            isHeld ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+            break;
+        case What::ObjectTree:
+            if (auto* tree = dynamic_cast<FObjectTreeWgt*>(mWindow.panel(QStringLiteral("objects")))) {
+                tree->model().hold(isHeld);
+            }
+            break;
+        case What::Editors:
+            break;
+    }
+}

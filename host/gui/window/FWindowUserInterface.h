@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FUserInterface.h"
+
+class FMainWindow;
+
+/** Questions, dialogs and views of the program, shown by its window. */
+class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
+ public:
+    explicit FWindowUserInterface(FMainWindow& window) : mWindow(window) {}
+
+    bool hasGui() const override { return true; }
+    int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
+    int warn(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
+    void tell(const QString& title, const QString& text) override;
+    QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override;
+    QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter) override;
+    QString askFolder(const QString& caption, const QString& startPath) override;
+    void commitEdits() override;
+    void showTexts(const QString& title, const QMap<QString, QString>& texts) override;
+    QObject* getObjectEditor(const FExprBase& object) override;
+    void highlight(const QList<FExprBase>& objects) override;
+    int getScreenHeight() const override;
+    void setClipboardText(const QString& text) override;
+    void hold(What what, bool isHeld) override;
+
+ private:
+    FMainWindow& mWindow;
+};

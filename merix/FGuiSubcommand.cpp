@@ -1,0 +1,40 @@
+#include "merix/FGuiSubcommand.h"
+
+#include "host/core/FLogMsg.h"
+#include "host/gui/window/FGuiSession.h"
+#include "merix/FExitCode.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+
+std::vector<FSubcommand::Argument> FGuiSubcommand::arguments() {
+    return {{"PROJECT", "Opened at start", &mProject},
+            {"--script FILE", "Executed at start, after the project was opened", &mScript},
+            {"--screenshot FILE", "Saves a picture of the window, and ends", &mScreenshot},
+            {"--size WxH", "Size of the window in pixels, such as 1280x800", &mSize}};
+}
+
+std::unique_ptr<QCoreApplication> FGuiSubcommand::makeApplication(int& argc, char** argv) const {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+int FGuiSubcommand::run() const {
+    FGuiSession session;
+    session.project = QString::fromStdString(mProject);
+    session.script = QString::fromStdString(mScript);
+    session.screenshot = QString::fromStdString(mScreenshot);
+    if (!mSize.empty()) {
+        static const QRegularExpression form(QStringLiteral("^(\\d{2,5})x(\\d{2,5})$"));
+        const QRegularExpressionMatch match = form.match(QString::fromStdString(mSize));
+        if (!match.hasMatch()) {
+            FLogMsg::error(QStringLiteral("merix"),
+                           QStringLiteral("\"%1\" is no size").arg(QString::fromStdString(mSize)),
+                           QStringLiteral("Write width and height in pixels, as in --size 1280x800"));
+            return FExitCode::wrongCall;
+        }
+        session.size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    }
+    return session.run();
+}

@@ -42,6 +42,9 @@ int FApplication::run(int argc, char** argv) {
         return outcome.exitCode;
     }
     const std::unique_ptr<QCoreApplication> application = outcome.chosen->makeApplication(argc, argv);
+    if (!application) {
+        return FExitCode::fileError;
+    }
     QCoreApplication::setApplicationName(QStringLiteral("merix"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(FVersion::text));
     if (!FPluginLoader::loadAll()) {

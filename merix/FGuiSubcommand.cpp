@@ -15,6 +15,15 @@ std::vector<FSubcommand::Argument> FGuiSubcommand::arguments() {
 }
 
 std::unique_ptr<QCoreApplication> FGuiSubcommand::makeApplication(int& argc, char** argv) const {
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (!hasDisplay && !mScreenshot.empty()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (!hasDisplay) {
+        FLogMsg::error(QStringLiteral("merix"), QStringLiteral("there is no display to open a window on"),
+                       QStringLiteral("Start it from a desktop; \"merix --help\" lists what works without one"));
+        return nullptr;
+    }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     return std::make_unique<QApplication>(argc, argv);

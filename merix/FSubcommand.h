@@ -31,7 +31,7 @@ class FSubcommand {
     virtual const char* description() const = 0;
     /** The arguments in the order of the help text; positions are filled in this order too. */
     virtual std::vector<Argument> arguments() = 0;
-    /** The application object of the program; the one of programs with windows needs a display. */
+    /** The application object of the program. Null, with a message, if it needs a display and there is none. */
     virtual std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) const {
         return std::make_unique<QCoreApplication>(argc, argv);
     }

@@ -16,7 +16,7 @@ class MERIX_EXPORT FNavigator {
         QString file;
         qint64 line = 0;
         qint64 column = 0;
-        qint64 length = 0;   //!< of what is marked, in UTF-16 units
+        qint64 length = 0;    //!< of what is marked, in UTF-16 units
         QString reason = {};  //!< why the place is shown; may be empty
     };
 

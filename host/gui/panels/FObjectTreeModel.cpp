@@ -83,24 +83,43 @@ void FObjectTreeModel::hold(bool isHeld) {
 }
 
 bool FObjectTreeModel::isShown(const FManaged* object) const {
-    return object->isInModel() && !object->isDefault() && object->getSystemLevel() <= 1;
+    return object->isInModel() && !object->isDefault();
+}
+
+bool FObjectTreeModel::isShownAlone(const FManaged* object) const {
+    return isShown(object) && object->getSystemLevel() <= 1;
 }
 
 void FObjectTreeModel::objectLeft(FManaged* object) {
     mEntered.remove(object);
     mChanged.remove(object);
+    mWholes.remove(object);
     Node* node = mNodes.value(object);
     if (!node) {
         return;
     }
-    // What belonged to it, and is still there, gets another place.
     while (!node->children.empty()) {
-        Node& part = *node->children.back();
-        move(part, *groupOf(part.object), -1);
+        release(*node->children.back());
     }
-    Node* parent = node->parent;
-    mNodes.remove(object);
-    take(*node);
+    remove(*node);
+}
+
+// What belonged to an object, and is still there, gets another place, unless it is only shown as a part.
+void FObjectTreeModel::release(Node& node) {
+    if (isShownAlone(node.object)) {
+        move(node, *groupOf(node.object), -1);
+        return;
+    }
+    while (!node.children.empty()) {
+        release(*node.children.back());
+    }
+    remove(node);
+}
+
+void FObjectTreeModel::remove(Node& node) {
+    Node* parent = node.parent;
+    mNodes.remove(node.object);
+    take(node);
     forget(*parent);
 }
 
@@ -127,6 +146,11 @@ void FObjectTreeModel::follow() {
             emit dataChanged(index, index);
         }
     }
+    // Others have parts through what has entered or changed, as a computation has those of its configuration.
+    const QSet<FManaged*> wholes = mWholes;
+    for (FManaged* object : wholes) {
+        placeParts(object);
+    }
 }
 
 void FObjectTreeModel::rebuild() {
@@ -135,6 +159,7 @@ void FObjectTreeModel::rebuild() {
     mChanged.clear();
     mNodes.clear();
     mGroups.clear();
+    mWholes.clear();
     mpRoot = std::make_unique<Node>();
     mIsFilling = true;
     fillWith(FObjectManager::instance()->getManaged(FManaged::null()));
@@ -168,13 +193,16 @@ void FObjectTreeModel::fillWith(const QList<FManaged*>& objects) {
 }
 
 void FObjectTreeModel::place(FManaged* object) {
-    if (!isShown(object) || mNodes.contains(object)) {
-        return;
+    if (isShownAlone(object) && !mNodes.contains(object)) {
+        add(object, *groupOf(object));
     }
+}
+
+FObjectTreeModel::Node* FObjectTreeModel::add(FManaged* object, Node& parent) {
     auto node = std::make_unique<Node>();
     node->object = object;
     mNodes.insert(object, node.get());
-    insert(*groupOf(object), std::move(node), -1);
+    return insert(parent, std::move(node), -1);
 }
 
 void FObjectTreeModel::placeParts(FManaged* object) {
@@ -183,8 +211,15 @@ void FObjectTreeModel::placeParts(FManaged* object) {
         return;
     }
     QList<Node*> parts;
-    for (FManaged* part : object->getParts()) {
+    const QList<FManaged*> present = object->getParts();
+    if (!present.isEmpty()) {
+        mWholes.insert(object);
+    }
+    for (FManaged* part : present) {
         Node* node = mNodes.value(part);
+        if (!node && isShown(part)) {
+            node = add(part, *whole);
+        }
         // The first whole keeps a part that several have.
         const bool isFree = node && (node->parent == whole || !node->parent->object);
         if (isFree && !contains(*node, *whole)) {
@@ -194,7 +229,7 @@ void FObjectTreeModel::placeParts(FManaged* object) {
     for (std::size_t row = whole->children.size(); row-- > 0;) {
         Node& child = *whole->children[row];
         if (!parts.contains(&child)) {
-            move(child, *groupOf(child.object), -1);
+            release(child);
         }
     }
     for (int row = 0; row < parts.size(); ++row) {
@@ -246,12 +281,18 @@ void FObjectTreeModel::number(Node& parent, std::size_t from) {
     }
 }
 
+// Objects in the order of their creation, before groups in the order of their titles.
+bool FObjectTreeModel::isBefore(const NodePointer& a, const NodePointer& b) {
+    if (a->object && b->object) {
+        return a->object->getDbId() < b->object->getDbId();
+    }
+    return a->object || (!b->object && a->title < b->title);
+}
+
 FObjectTreeModel::Node* FObjectTreeModel::insert(Node& parent, NodePointer node, int row) {
-    // Groups follow objects that need none.
-    const auto isGroup = [](const NodePointer& child) { return !child->title.isEmpty(); };
     auto& children = parent.children;
-    const auto end = node->object ? std::find_if(children.begin(), children.end(), isGroup) : children.end();
-    const auto place = row < 0 ? (&parent == mpRoot.get() ? end : children.end()) : children.begin() + row;
+    const auto place =
+        row < 0 ? std::upper_bound(children.begin(), children.end(), node, &isBefore) : children.begin() + row;
     const int at = static_cast<int>(place - children.begin());
     if (!mIsFilling) {
         beginInsertRows(indexOf(&parent), at, at);
@@ -369,7 +410,7 @@ bool FObjectTreeModel::setData(const QModelIndex& index, const QVariant& value, 
 
 Qt::ItemFlags FObjectTreeModel::flags(const QModelIndex& index) const {
     if (!objectAt(index)) {
-        return Qt::ItemIsEnabled;
+        return index.isValid() ? Qt::ItemFlags(Qt::ItemIsEnabled) : Qt::NoItemFlags;
     }
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
 }

@@ -59,6 +59,11 @@ class MERIX_EXPORT FObjectTreeModel : public QAbstractItemModel {
     void place(FManaged* object);
     void placeParts(FManaged* object);
     bool isShown(const FManaged* object) const;
+    /** Whether the object is shown without being a part of another one. */
+    bool isShownAlone(const FManaged* object) const;
+    Node* add(FManaged* object, Node& parent);
+    void release(Node& node);
+    void remove(Node& node);
     Node* groupOf(const FManaged* object);
     QModelIndex indexOf(const Node* node) const;
     Node* nodeAt(const QModelIndex& index) const;
@@ -66,12 +71,14 @@ class MERIX_EXPORT FObjectTreeModel : public QAbstractItemModel {
     NodePointer take(Node& node);
     void move(Node& node, Node& parent, int row);
     static bool contains(const Node& ancestor, const Node& node);
+    static bool isBefore(const NodePointer& a, const NodePointer& b);
     static void number(Node& parent, std::size_t from);
     void forget(Node& group);
 
     NodePointer mpRoot;
     QHash<const FManaged*, Node*> mNodes;
     QHash<QString, Node*> mGroups;
+    QSet<FManaged*> mWholes;  //!< objects that have or had parts
     QSet<FManaged*> mEntered;
     QSet<FManaged*> mChanged;
     int mHolds = 0;

@@ -1,0 +1,119 @@
+#include "tests/support/window/FWindowTest.h"
+
+#include "host/core/FIni.h"
+#include "host/core/FSelectionSet.h"
+#include "host/gui/window/FActions.h"
+#include "host/script/FProject.h"
+
+#include <QAction>
+#include <QLineEdit>
+
+QString FAnsweringInterface::next(const QString& question) {
+    questions.append(question);
+    if (answers.isEmpty()) {
+        ADD_FAILURE() << "unexpected question: " << question.toStdString();
+        return {};
+    }
+    return answers.dequeue();
+}
+
+int FAnsweringInterface::ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) {
+    Q_UNUSED(title)
+    Q_UNUSED(defaultButton)
+    const QString answer = next(text);
+    EXPECT_TRUE(answer.isEmpty() || buttons.contains(answer))
+        << answer.toStdString() << " is none of " << buttons.join(", ").toStdString();
+    return buttons.indexOf(answer);
+}
+
+int FAnsweringInterface::warn(const QString& title, const QString& text, const QStringList& buttons,
+                              int defaultButton) {
+    return buttons.size() < 2 ? FWindowUserInterface::warn(title, text, buttons, defaultButton)
+                              : ask(title, text, buttons, defaultButton);
+}
+
+QString FAnsweringInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
+    Q_UNUSED(startPath)
+    Q_UNUSED(filter)
+    return next(caption);
+}
+
+QString FAnsweringInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
+    Q_UNUSED(startPath)
+    Q_UNUSED(filter)
+    return next(caption);
+}
+
+QString FAnsweringInterface::askFolder(const QString& caption, const QString& startPath) {
+    Q_UNUSED(startPath)
+    return next(caption);
+}
+
+FWindowTest::FWindowTest() {
+    FIni().clear();
+    FProject::instance()->create();
+    restart();
+}
+
+FWindowTest::~FWindowTest() {
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    FUserInterface::replace(nullptr);
+    mpWindow.reset();
+    FProject::instance()->close(false);
+    FSelectionSet::instance()->clear(false);
+}
+
+void FWindowTest::restart() {
+    FUserInterface::replace(nullptr);
+    mpWindow.reset();
+    mpWindow = std::make_unique<FMainWindow>();
+    mpInterface = std::make_unique<FAnsweringInterface>(*mpWindow);
+    FUserInterface::replace(mpInterface.get());
+    mpWindow->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(mpWindow.get()));
+    settle();
+}
+
+QAction* FWindowTest::action(const QString& id) {
+    QAction* found = mpWindow->actions().get(id);
+    EXPECT_NE(found, nullptr) << "no action " << id.toStdString();
+    return found;
+}
+
+void FWindowTest::trigger(const QString& id) {
+    settle();
+    EXPECT_TRUE(action(id)->isEnabled()) << id.toStdString() << " isn't possible";
+    action(id)->trigger();
+    settle();
+}
+
+void FWindowTest::openPanel(const QString& id) {
+    mpWindow->raisePanel(id);
+    settle();
+}
+
+void FWindowTest::enter(const QString& statement) {
+    auto* line = find<QLineEdit>(QStringLiteral("consoleLine"));
+    line->setText(statement);
+    press(line, Qt::Key_Return);
+    settle();
+}
+
+void FWindowTest::settle() {
+    // What is handled may post more.
+    constexpr int rounds = 5;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+QStringList FWindowTest::rowsOf(const QAbstractItemModel& model, const QModelIndex& parent, int depth) {
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        rows.append(QString(2 * depth, QLatin1Char(' ')) + index.data().toString());
+        rows.append(rowsOf(model, index, depth + 1));
+    }
+    return rows;
+}

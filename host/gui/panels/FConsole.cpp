@@ -49,7 +49,6 @@ FConsole::FConsole(Runner runner)
     column->setSpacing(0);
     column->addWidget(mpOutput, 1);
     column->addWidget(mpLine);
-    setFocusProxy(mpLine);
     connect(mpLine, &QLineEdit::returnPressed, this, &FConsole::enter);
     connect(FChanges::instance(), &FChanges::messageLogged, this, &FConsole::addMessage);
     FStandardOutput::setCopy([this](const QString& text) { append(text, QTextCharFormat()); });

@@ -31,7 +31,6 @@ FHelpPanel::FHelpPanel() : mpSearch(new QLineEdit(this)), mpTopics(new QListWidg
     column->setSpacing(0);
     column->addWidget(mpSearch);
     column->addWidget(split, 1);
-    setFocusProxy(mpSearch);
     connect(mpSearch, &QLineEdit::textChanged, this, &FHelpPanel::search);
     connect(mpTopics, &QListWidget::currentTextChanged, this, &FHelpPanel::showTopic);
 }

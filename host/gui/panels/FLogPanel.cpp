@@ -17,7 +17,6 @@ FLogPanel::FLogPanel(FNavigator& navigator)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mpView);
-    setFocusProxy(mpView);
 
     connect(mpView, &QTreeView::activated, this, &FLogPanel::showSource);
     connect(mpModel, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { mFollows = isAtEnd(); });

@@ -53,7 +53,6 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     column->setSpacing(0);
     column->addWidget(mpSearch);
     column->addWidget(mpView, 1);
-    setFocusProxy(mpView);
 
     connect(mpSearch, &QLineEdit::textChanged, this, [this](const QString& text) {
         mpFilter->setFilterFixedString(text);

@@ -15,7 +15,6 @@ FProblemsPanel::FProblemsPanel(FNavigator& navigator)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mpView);
-    setFocusProxy(mpView);
     const auto show = [this, &navigator](const QModelIndex& index) {
         const FSetUpProblem& problem = mpModel->problem(index.row());
         navigator.showPlace(problem.place, problem.object);

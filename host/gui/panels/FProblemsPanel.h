@@ -13,7 +13,7 @@ class MERIX_EXPORT FProblemsPanel : public QWidget {
  public:
     explicit FProblemsPanel(FNavigator& navigator);
 
-    FProblemModel& model() { return *mpModel; }
+    FProblemModel& model() const { return *mpModel; }
 
  private:
     FProblemModel* mpModel;

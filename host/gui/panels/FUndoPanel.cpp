@@ -14,7 +14,6 @@ FUndoPanel::FUndoPanel() : mpModel(new FUndoModel), mpView(new QListView(this)) 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mpView);
-    setFocusProxy(mpView);
     const auto go = [this](const QModelIndex& index) { mpModel->goTo(index.row()); };
     connect(mpView, &QListView::clicked, this, go);
     connect(mpView, &QListView::activated, this, go);

@@ -29,8 +29,8 @@ FFindField::FFindField(FMainWindow& window)
     setAccessibleName(QStringLiteral("Find an object, entry or command"));
     setPlaceholderText(QStringLiteral("Find object, entry, command…  Ctrl+K"));
     setClearButtonEnabled(true);
-    setMinimumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setMaximumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     mpCompleter->setModel(mpModel);
     mpCompleter->setCaseSensitivity(Qt::CaseInsensitive);
     mpCompleter->setFilterMode(Qt::MatchContains);

@@ -10,6 +10,8 @@
 #include "host/gui/base/FPendingEdit.h"
 #include "host/gui/panels/FHelpPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/panels/FProblemModel.h"
+#include "host/gui/panels/FProblemsPanel.h"
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFindField.h"
@@ -28,6 +30,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPointer>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
@@ -77,9 +80,7 @@ FMainWindow::FMainWindow() {
     makeToolbar();
     makeDocks();
     mpActions->fillMenus(*menuBar());
-    mpRunState = new QLabel(this);
-    mpRunState->setObjectName(QStringLiteral("runState"));
-    statusBar()->addPermanentWidget(mpRunState);
+    makeStatusBar();
     listen();
 
     resize(usualSize);
@@ -92,7 +93,6 @@ FMainWindow::~FMainWindow() {
     // Panels refer to members of the window, which are destroyed before its children.
     qDeleteAll(mDocks);
     delete centralWidget();
-    delete mpFind;
 }
 
 void FMainWindow::makeToolbar() {
@@ -104,11 +104,13 @@ void FMainWindow::makeToolbar() {
     if (auto* run = qobject_cast<QToolButton*>(bar->widgetForAction(mpActions->get(QStringLiteral("run"))))) {
         run->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
-    auto* gap = new QWidget(bar);
-    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(gap);
     mpFind = new FFindField(*this);
-    bar->addWidget(mpFind);
+    auto* end = new QWidget(bar);
+    auto* row = new QHBoxLayout(end);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch(1);
+    row->addWidget(mpFind, 4);
+    bar->addWidget(end);
     setContextMenuPolicy(Qt::NoContextMenu);  // Qt's own menu could hide the toolbar for good
 }
 
@@ -123,9 +125,37 @@ void FMainWindow::makeDocks() {
         panel->setAccessibleName(dock->windowTitle());
         dock->setWidget(panel);
         dock->toggleViewAction()->setIcon(dock->windowIcon());
+        auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.shortcut)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, id] { raisePanel(id); });
         mDocks.insert(id, dock);
     }
     arrangeDocks();
+}
+
+void FMainWindow::makeStatusBar() {
+    mpProblems = new QToolButton(this);
+    mpProblems->setObjectName(QStringLiteral("problemCount"));
+    mpProblems->setAutoRaise(true);
+    mpProblems->setToolTip(QStringLiteral("Show the problems of the set-ups"));
+    connect(mpProblems, &QToolButton::clicked, this, [this] { raisePanel(QStringLiteral("problems")); });
+    statusBar()->addPermanentWidget(mpProblems);
+    mpRunState = new QLabel(this);
+    mpRunState->setObjectName(QStringLiteral("runState"));
+    statusBar()->addPermanentWidget(mpRunState);
+    if (const auto* problems = dynamic_cast<FProblemsPanel*>(panel(QStringLiteral("problems")))) {
+        connect(&problems->model(), &FProblemModel::checked, this,
+                [this, problems] { showProblemCount(problems->model().rowCount()); });
+    }
+    showProblemCount(0);
+}
+
+void FMainWindow::showProblemCount(int count) {
+    const QString problems = QStringLiteral("Problems");
+    mpProblems->setText(count == 0   ? QStringLiteral("No problems")
+                        : count == 1 ? QStringLiteral("1 problem")
+                                     : QStringLiteral("%1 problems").arg(count));
+    dockOf(QStringLiteral("problems"))
+        ->setWindowTitle(count == 0 ? problems : QStringLiteral("%1 (%2)").arg(problems).arg(count));
 }
 
 void FMainWindow::arrangeDocks() {
@@ -179,6 +209,7 @@ void FMainWindow::refresh() {
     setWindowTitle(now.hasProject ? QStringLiteral("%1[*] — merix").arg(projectName()) : QStringLiteral("merix"));
     setWindowModified(now.isUnsaved);
     const FExternComputation* computation = now.computation;
+    mpProblems->setVisible(now.hasProject);
     mpRunState->setText(
         computation ? QStringLiteral("%1: %2").arg(computation->getName(), computation->getLastRun().stateName())
                     : QString());
@@ -219,10 +250,15 @@ QWidget* FMainWindow::panel(const QString& id) const {
 }
 
 void FMainWindow::raisePanel(const QString& id) {
-    if (QDockWidget* dock = dockOf(id)) {
-        dock->show();
-        dock->raise();
-        dock->widget()->setFocus();
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        if (id == QLatin1String(row.id)) {
+            QDockWidget* dock = dockOf(id);
+            dock->show();
+            dock->raise();
+            if (auto* widget = dock->findChild<QWidget*>(QString::fromLatin1(row.focus))) {
+                widget->setFocus();
+            }
+        }
     }
 }
 

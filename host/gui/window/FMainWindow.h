@@ -21,6 +21,7 @@ class FStartPage;
 class QDockWidget;
 class QLabel;
 class QStackedWidget;
+class QToolButton;
 
 /**
  * The window of the program: documents in the centre, panels around them, a toolbar with few actions. It shows the
@@ -69,6 +70,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
  private:
     void makeDocks();
     void makeToolbar();
+    void makeStatusBar();
+    void showProblemCount(int count);
     void listen();
     void arrangeDocks();
     /** Brings actions, title and status line up to date, from the event loop. */
@@ -86,6 +89,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FDocumentTabs* mpDocuments = nullptr;
     FNoticeBar* mpNotices = nullptr;
     FFindField* mpFind = nullptr;
+    QToolButton* mpProblems = nullptr;
     QLabel* mpRunState = nullptr;
     QHash<QString, QDockWidget*> mDocks;
     bool mShowsProject = false;

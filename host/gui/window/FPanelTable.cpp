@@ -20,16 +20,16 @@ QWidget* makeConsole(FMainWindow& window) {
 
 const std::vector<FPanelRow>& FPanelTable::rows() {
     static const std::vector<FPanelRow> table{
-        {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1",
+        {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1", "objectTree",
          [](FMainWindow& window) -> QWidget* { return new FObjectTreeWgt(window); }},
-        {"problems", "Problems", "dialog-warning", Qt::BottomDockWidgetArea, "Ctrl+4",
+        {"problems", "Problems", "dialog-warning", Qt::BottomDockWidgetArea, "Ctrl+4", "problemList",
          [](FMainWindow& window) -> QWidget* { return new FProblemsPanel(window); }},
-        {"log", "Log", "view-list-text", Qt::BottomDockWidgetArea, "Ctrl+5",
+        {"log", "Log", "view-list-text", Qt::BottomDockWidgetArea, "Ctrl+5", "logList",
          [](FMainWindow& window) -> QWidget* { return new FLogPanel(window); }},
-        {"console", "Console", "utilities-terminal", Qt::BottomDockWidgetArea, "Ctrl+6", &makeConsole},
-        {"history", "History", "view-history", Qt::BottomDockWidgetArea, "Ctrl+7",
+        {"console", "Console", "utilities-terminal", Qt::BottomDockWidgetArea, "Ctrl+6", "consoleLine", &makeConsole},
+        {"history", "History", "view-history", Qt::BottomDockWidgetArea, "Ctrl+7", "undoList",
          [](FMainWindow&) -> QWidget* { return new FUndoPanel; }},
-        {"help", "Help", "help-contents", Qt::RightDockWidgetArea, "Ctrl+8",
+        {"help", "Help", "help-contents", Qt::RightDockWidgetArea, "Ctrl+8", "helpSearch",
          [](FMainWindow&) -> QWidget* { return new FHelpPanel; }},
     };
     return table;

@@ -16,6 +16,7 @@ struct FPanelRow {
     const char* icon;
     Qt::DockWidgetArea area;
     const char* shortcut;  //!< shows the panel, and gives it the focus
+    const char* focus;     //!< object name of the widget in the panel that gets it
     QWidget* (*make)(FMainWindow& window);
 };
 

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -51,13 +52,13 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
 
     auto* tiles = new QHBoxLayout;
     auto* create = new FStartTile(FIcons::get(QStringLiteral("document-new")), QStringLiteral("New project"),
-                                  QStringLiteral("Empty; add a program, its input\nfiles and its output files"), this);
+                                  QStringLiteral("Empty; add a program, its input files and its output files"), this);
     create->setObjectName(QStringLiteral("startNew"));
     auto* open = new FStartTile(FIcons::get(QStringLiteral("document-open")), QStringLiteral("Open a project"),
-                                QStringLiteral("A .mrx file; nothing is run\nby opening it"), this);
+                                QStringLiteral("A .mrx file; nothing is run by opening it"), this);
     open->setObjectName(QStringLiteral("startOpen"));
     auto* example = new FStartTile(FIcons::get(QStringLiteral("help-about")), QStringLiteral("Try an example"),
-                                   QStringLiteral("A beam or a filter, copied\nto a folder of yours"), this);
+                                   QStringLiteral("A beam or a filter, copied to a folder of yours"), this);
     example->setObjectName(QStringLiteral("startExample"));
     for (FStartTile* tile : {create, open, example}) {
         tiles->addWidget(tile, 1);
@@ -69,9 +70,9 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
     mpRecent->setAccessibleName(QStringLiteral("Recent projects"));
     new FEmptyHint(mpRecent, QStringLiteral("Projects that you have opened appear here"));
 
-    auto* middle = new QWidget(this);
-    constexpr int widest = 900;
-    middle->setMaximumWidth(widest);
+    auto* middle = new QWidget;
+    constexpr int widest = 60;  // times the height of a line
+    middle->setMaximumWidth(widest * fontMetrics().height());
     auto* column = new QVBoxLayout(middle);
     const int em = fontMetrics().height();
     column->setSpacing(em);
@@ -83,10 +84,23 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
     column->addWidget(recentTitle);
     column->addWidget(mpRecent, 4);
     column->addStretch(2);
-    auto* row = new QHBoxLayout(this);
+    auto* page = new QWidget;
+    auto* row = new QHBoxLayout(page);
     row->addStretch(1);
     row->addWidget(middle, 8);
     row->addStretch(1);
+    // So that the page doesn't make a small window larger.
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(page);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll);
+    setTabOrder(create, open);
+    setTabOrder(open, example);
+    setTabOrder(example, mpRecent);
 
     mSecondary = {motto, recentTitle};
     setColors();

@@ -35,10 +35,12 @@ QFont FStartTile::titleFont() const {
 }
 
 QSize FStartTile::sizeHint() const {
+    constexpr int narrowest = 12;  // times the height of a line
     const int em = fontMetrics().height();
-    const QSize text = fontMetrics().size(0, mDescription);
-    const int title = QFontMetrics(titleFont()).horizontalAdvance(text.isEmpty() ? QString() : this->text());
-    return {qMax(text.width(), title) + 2 * em, drawingSize + em + text.height() + 4 * em};
+    const int title = QFontMetrics(titleFont()).horizontalAdvance(text());
+    const int width = qMax(narrowest * em, title);
+    const int text = fontMetrics().boundingRect(0, 0, width, 0, Qt::TextWordWrap, mDescription).height();
+    return {width + 2 * em, drawingSize + text + 5 * em};
 }
 
 void FStartTile::paintEvent(QPaintEvent* event) {
@@ -57,8 +59,8 @@ void FStartTile::paintEvent(QPaintEvent* event) {
     painter.drawText(line, Qt::AlignCenter, text());
     painter.setFont(font());
     painter.setPen(isEnabled() ? FStateColor::of(FStateColor::State::Secondary) : painter.pen().color());
-    painter.drawText(QRect(0, line.bottom(), width(), height() - line.bottom() - em / 2),
-                     Qt::AlignHCenter | Qt::AlignVCenter, mDescription);
+    painter.drawText(QRect(em, line.bottom(), width() - 2 * em, height() - line.bottom() - em / 2),
+                     Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap, mDescription);
 }
 
 void FStartTile::keyPressEvent(QKeyEvent* event) {

@@ -1,0 +1,169 @@
+#include "host/core/FMerixCtrl.h"
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FProjectFiles.h"
+#include "host/run/FExternComputation.h"
+#include "host/script/FAutosave.h"
+#include "host/script/FProject.h"
+#include "tests/support/FTestFolder.h"
+#include "tests/support/window/FWindowTest.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QListWidget>
+#include <QToolButton>
+
+namespace {
+
+class FProjectFilesTest : public FWindowTest {
+ public:
+    ~FProjectFilesTest() override { FProject::instance()->close(false); }
+
+    void answer(const QString& text) { dialogs().answers.enqueue(text); }
+    void open(const QString& path) {
+        window().projectFiles().open(path);
+        settle();
+    }
+    /** Creates something, saves it as p.mrx, and changes it. */
+    QString makeUnsaved() {
+        EXPECT_TRUE(run("parameter span(1)"));
+        answer(folder.path("p"));
+        trigger("saveProject");
+        EXPECT_FALSE(window().isWindowModified());
+        EXPECT_TRUE(run("span.setValue(2)"));
+        settle();
+        EXPECT_TRUE(window().isWindowModified());
+        return folder.path("p.mrx");
+    }
+
+    FTestFolder folder;
+};
+
+const char* const sleeper =
+    "genericIntegrationDefinition d()\n"
+    "genericIntegrationConfiguration c() { .setDefinition(d) }\n"
+    "genericIntegrationComputation solver() {\n.setConfiguration(c)\n"
+    ".setExecutable(\"sleep\")\n.setArguments([\"60\"])\n}";
+
+}  // namespace
+
+TEST_F(FProjectFilesTest, theWindowStartsWithoutPanelsAndShowsThemWithTheFirstObject) {
+    EXPECT_TRUE(find("startPage")->isVisible());
+    EXPECT_FALSE(window().dockOf("objects")->isVisible());
+    EXPECT_EQ(window().windowTitle(), "merix");
+    ASSERT_TRUE(run("parameter span(1)"));
+    settle();
+    EXPECT_FALSE(find("startPage")->isVisible());
+    EXPECT_TRUE(window().dockOf("objects")->isVisible());
+    EXPECT_EQ(window().windowTitle(), "unnamed project[*] — merix");
+    // A panel that the user closed stays closed after a restart.
+    window().dockOf("objects")->close();
+    answer("Discard");
+    EXPECT_TRUE(window().close());
+    restart();
+    EXPECT_FALSE(window().dockOf("objects")->isVisible());
+    trigger("resetLayout");
+    EXPECT_TRUE(window().dockOf("objects")->isVisible());
+}
+
+TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
+    const QString file = makeUnsaved();
+    // Undoing the change makes the project equal to its file, and so does redoing what a save followed.
+    trigger("undo");
+    EXPECT_FALSE(window().isWindowModified());
+    trigger("redo");
+    EXPECT_TRUE(window().isWindowModified());
+
+    answer("Cancel");
+    trigger("newProject");
+    EXPECT_NE(object<FManaged>("span"), nullptr);
+    answer("");  // closed without a button
+    EXPECT_FALSE(window().close());
+    answer("Save");
+    trigger("newProject");
+    EXPECT_TRUE(savedModel().isEmpty());
+    EXPECT_TRUE(find("startPage")->isVisible());
+    EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)")) << folder.read("p.mrx").toStdString();
+    EXPECT_EQ(find<QListWidget>("recentProjects")->item(0)->data(Qt::UserRole).toString(), file);
+
+    open(file);
+    EXPECT_EQ(textOf("span.getValue()").toStdString(), "2");
+    ASSERT_TRUE(run("span.setValue(3)"));
+    answer("Discard");
+    EXPECT_TRUE(window().close());
+    EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)"));
+}
+
+TEST_F(FProjectFilesTest, whatASessionLeftIsOfferedWithItsAgeAndDifferences) {
+    const QString file = makeUnsaved();
+    ASSERT_TRUE(waitUntil([&] { return folder.has("p.mrx.autosave"); }));
+    const QByteArray left = folder.read("p.mrx.autosave");
+    answer("Discard");
+    trigger("newProject");
+    folder.write("p.mrx.autosave", left);
+
+    answer("Cancel");
+    open(file);
+    EXPECT_TRUE(savedModel().isEmpty());
+    const QString question = dialogs().questions.last();
+    EXPECT_TRUE(question.contains("just now")) << question.toStdString();
+    EXPECT_TRUE(question.contains("setValue(2)") && question.contains("setValue(1)")) << question.toStdString();
+    answer("Recover the unsaved work");
+    open(file);
+    EXPECT_EQ(textOf("span.getValue()").toStdString(), "2");
+    EXPECT_TRUE(window().isWindowModified());
+    trigger("saveProject");
+    EXPECT_FALSE(window().isWindowModified());
+    EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)"));
+}
+
+TEST_F(FProjectFilesTest, filesThatCantBeUsedAreReportedInTheWindow) {
+    folder.write("damaged.mrx", "merix project 1\nparameter a(1)\nnonsense b(\n");
+    open(folder.path("damaged.mrx"));
+    EXPECT_FALSE(window().notices().text().isEmpty());
+    open(folder.path("missing.mrx"));
+    EXPECT_TRUE(window().notices().text().contains("missing.mrx")) << window().notices().text().toStdString();
+    EXPECT_FALSE(window().projectFiles().executeScript(folder.path("missing.merix")));
+    EXPECT_FALSE(window().projectFiles().executeScript(folder.write("bad.merix", "nonsense(")));
+    EXPECT_TRUE(window().notices().text().contains("bad.merix"));
+}
+
+TEST_F(FProjectFilesTest, aRunKeepsTheProjectOpenAndIsAskedAboutAtTheEnd) {
+    ASSERT_TRUE(run(sleeper));
+    answer(folder.path("p"));
+    trigger("saveProject");
+    trigger("run");
+    auto* solver = object<FExternComputation>("solver");
+    ASSERT_TRUE(waitUntil([&] { return solver->getLastRun().state == FRunRecord::State::Running; }));
+    trigger("newProject");
+    EXPECT_NE(object<FManaged>("solver"), nullptr);
+    EXPECT_FALSE(window().notices().text().isEmpty());
+    answer("Keep running");
+    EXPECT_FALSE(window().close());
+    // Meanwhile everything else is possible.
+    ASSERT_TRUE(run("parameter span(1)"));
+    trigger("undo");
+    answer("Stop and quit");
+    EXPECT_TRUE(window().close());
+    trigger("stop");
+    ASSERT_TRUE(waitUntil([&] { return solver->canRun(); }));
+    EXPECT_EQ(solver->getLastRun().state, FRunRecord::State::Cancelled);
+}
+
+TEST_F(FProjectFilesTest, theNumberOfProblemsIsAlwaysVisible) {
+    ASSERT_TRUE(run("genericIntegrationComputation solver()"));
+    ASSERT_TRUE(waitUntil([&] { return find<QToolButton>("problemCount")->text() != "No problems"; }));
+    const QString count = find<QToolButton>("problemCount")->text();
+    EXPECT_TRUE(window().dockOf("problems")->windowTitle().contains(count.section(' ', 0, 0)));
+    ASSERT_TRUE(run("destroy(solver)"));
+    EXPECT_TRUE(waitUntil([&] { return find<QToolButton>("problemCount")->text() == "No problems"; }));
+}
+
+TEST_F(FProjectFilesTest, ageIsInWords) {
+    const QDateTime now = QDateTime::currentDateTime();
+    EXPECT_EQ(FProjectFiles::ageOf(now), "just now");
+    EXPECT_EQ(FProjectFiles::ageOf(now.addSecs(-61)), "1 minute ago");
+    EXPECT_EQ(FProjectFiles::ageOf(now.addSecs(-3000)), "50 minutes ago");
+    EXPECT_TRUE(FProjectFiles::ageOf(now.addDays(-1)).startsWith("yesterday, "));
+    EXPECT_TRUE(FProjectFiles::ageOf(now.addDays(-30)).startsWith(now.addDays(-30).toString("yyyy-MM-dd")));
+}

@@ -14,7 +14,7 @@ QStringList folders() {
         return named.split(QDir::listSeparator(), Qt::SkipEmptyParts);
     }
     const QDir program(QCoreApplication::applicationDirPath());
-    return {program.filePath(QStringLiteral("plugins")), program.filePath(QStringLiteral("../lib/merix"))};
+    return {program.filePath(QStringLiteral("plugins")), program.filePath(QStringLiteral("../lib/merix/plugins"))};
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ struct Example {
     const char* program;
     const char* script;
     const char* lastLine;
-    const char* setUp;  //!< the script that contains the definition
+    const char* useOfSetUp;  //!< the script that includes setup.merix
     const char* definition;
 
     friend void PrintTo(const Example& example, std::ostream* stream) { *stream << example.script; }
@@ -42,11 +42,11 @@ TEST_P(ExamplesTest, agreesWithItsFormulasAndGivesTheSameNumbersWhenReopened) {
 }
 
 TEST_P(ExamplesTest, keepsItsNumbersWhenTheDefinitionComesFromAnExchangeFile) {
-    const QString setUp = example(GetParam().setUp);
-    const Outcome first =
-        script("include(\"" + setUp + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
+    const QString use = example(GetParam().useOfSetUp);
+    const QString setUp = use.section('/', 0, -2) + "/setup.merix";
+    const Outcome first = script("include(\"" + use + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
     ASSERT_TRUE(first.output.endsWith("\ntrue\n")) << first.errors.toStdString();
-    const QString text = read(setUp);
+    const QString text = QString(read(setUp) + read(use)).remove("include(\"setup.merix\")");
     const Outcome second = script("importGenIntDefinition(\"$FOLDER/übung.lodm\")\n" +
                                       text.mid(text.indexOf("genericIntegrationConfiguration")) + "\nprint(true)",
                                   {}, {"FOLDER=" + path()});

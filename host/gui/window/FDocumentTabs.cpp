@@ -1,5 +1,8 @@
 #include "host/gui/window/FDocumentTabs.h"
 
+#include "host/gui/base/FStateColor.h"
+
+#include <QPainter>
 #include <QTabBar>
 
 namespace {
@@ -49,6 +52,16 @@ void FDocumentTabs::close(const QString& key) {
 void FDocumentTabs::closeAll() {
     while (count() > 0) {
         closeTab(0);
+    }
+}
+
+void FDocumentTabs::paintEvent(QPaintEvent* event) {
+    QTabWidget::paintEvent(event);
+    if (count() == 0) {
+        QPainter painter(this);
+        painter.setPen(FStateColor::of(FStateColor::State::Secondary));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                         QStringLiteral("Double-click an object, or a place in a list, to open it here"));
     }
 }
 

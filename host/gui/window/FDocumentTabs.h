@@ -20,6 +20,9 @@ class MERIX_EXPORT FDocumentTabs : public QTabWidget {
     void close(const QString& key);
     void closeAll();
 
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+
  private:
     void closeTab(int index);
 };

@@ -175,12 +175,16 @@ void FMainWindow::arrangeDocks() {
         first->raise();
     }
     const int em = fontMetrics().averageCharWidth();
-    constexpr int sideWidth = 34;  // characters
-    constexpr int bottomLines = 9;
+    constexpr int leftWidth = 34;  // characters, but at most that part of the window
+    constexpr int leftPart = 5;
+    constexpr int rightWidth = 46;
+    constexpr int rightPart = 4;
+    constexpr int bottomLines = 14;
+    constexpr int bottomPart = 3;
     resizeDocks({firstOfArea.value(Qt::LeftDockWidgetArea), firstOfArea.value(Qt::RightDockWidgetArea)},
-                {sideWidth * em, (sideWidth + sideWidth / 3) * em}, Qt::Horizontal);
-    resizeDocks({firstOfArea.value(Qt::BottomDockWidgetArea)}, {bottomLines * 2 * fontMetrics().height()},
-                Qt::Vertical);
+                {qMin(leftWidth * em, width() / leftPart), qMin(rightWidth * em, width() / rightPart)}, Qt::Horizontal);
+    resizeDocks({firstOfArea.value(Qt::BottomDockWidgetArea)},
+                {qMin(bottomLines * fontMetrics().height(), height() / bottomPart)}, Qt::Vertical);
 }
 
 void FMainWindow::listen() {

@@ -21,7 +21,9 @@ FStartTile::FStartTile(const QIcon& icon, const QString& title, const QString& d
     setAccessibleDescription(description);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void FStartTile::setMenu(QMenu* menu) {
@@ -35,12 +37,17 @@ QFont FStartTile::titleFont() const {
 }
 
 QSize FStartTile::sizeHint() const {
-    constexpr int narrowest = 12;  // times the height of a line
+    constexpr int narrowest = 8;  // times the height of a line
     const int em = fontMetrics().height();
     const int title = QFontMetrics(titleFont()).horizontalAdvance(text());
-    const int width = qMax(narrowest * em, title);
-    const int text = fontMetrics().boundingRect(0, 0, width, 0, Qt::TextWordWrap, mDescription).height();
-    return {width + 2 * em, drawingSize + text + 5 * em};
+    const int width = qMax(narrowest * em, title) + 2 * em;
+    return {width, heightForWidth(width)};
+}
+
+int FStartTile::heightForWidth(int width) const {
+    const int em = fontMetrics().height();
+    return drawingSize + 5 * em +
+           fontMetrics().boundingRect(0, 0, width - 2 * em, 0, Qt::TextWordWrap, mDescription).height();
 }
 
 void FStartTile::paintEvent(QPaintEvent* event) {

@@ -14,6 +14,8 @@ class FStartTile : public QAbstractButton {
     /** A menu that opens in place of a click. */
     void setMenu(QMenu* menu);
     QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:

@@ -36,8 +36,7 @@ bool isPartOfControl(const QWidget& widget) {
     return qobject_cast<const QComboBox*>(widget.parentWidget()) ||
            qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) ||
            qobject_cast<const QLineEdit*>(widget.parentWidget()) ||
-           qobject_cast<const QTabBar*>(widget.parentWidget()) ||
-           widget.objectName().startsWith(QLatin1String("qt_"));
+           qobject_cast<const QTabBar*>(widget.parentWidget()) || widget.objectName().startsWith(QLatin1String("qt_"));
 }
 
 bool isControl(const QWidget& widget) {

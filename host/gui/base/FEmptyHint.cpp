@@ -8,13 +8,20 @@
 
 FEmptyHint::FEmptyHint(QAbstractItemView* view, const QString& text) : QObject(view), mpView(view), mText(text) {
     view->viewport()->installEventFilter(this);
-    // A screen reader can't see what is painted.
-    view->setAccessibleDescription(text);
 }
 
 bool FEmptyHint::eventFilter(QObject* watched, QEvent* event) {
     const QAbstractItemModel* model = mpView->model();
-    if (event->type() != QEvent::Paint || (model && model->rowCount(mpView->rootIndex()) > 0)) {
+    if (event->type() != QEvent::Paint) {
+        return QObject::eventFilter(watched, event);
+    }
+    const bool isEmpty = !model || model->rowCount(mpView->rootIndex()) == 0;
+    // A screen reader can't see what is painted.
+    const QString description = isEmpty ? mText : QString();
+    if (mpView->accessibleDescription() != description) {
+        mpView->setAccessibleDescription(description);
+    }
+    if (!isEmpty) {
         return QObject::eventFilter(watched, event);
     }
     QPainter painter(mpView->viewport());

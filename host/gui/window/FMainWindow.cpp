@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -83,7 +84,7 @@ FMainWindow::FMainWindow() {
     makeStatusBar();
     listen();
 
-    resize(usualSize);
+    resize(usualSize.boundedTo(screen()->availableSize()));
     restoreGeometry(FGuiSettings::getGeometry());
     showProject(situation().hasProject);
     refresh();

@@ -81,7 +81,7 @@ void FProjectFiles::open(const QString& path) {
         return;
     }
     bool recovers = false;
-    if (FAutosave::isNewer(path)) {
+    if (FAutosave::hasWork(path)) {
         const FRecoveryQuestion::Answer answer = FRecoveryQuestion(path).ask();
         if (answer == FRecoveryQuestion::Answer::Cancel) {
             return;

@@ -30,7 +30,7 @@ QString shortPath(const QString& path) {
 QString describe(const QString& path) {
     const QFileInfo file(path);
     const QString folder = shortPath(file.path());
-    if (FAutosave::isNewer(path)) {
+    if (FAutosave::hasWork(path)) {
         return QStringLiteral("%1 · unsaved work from %2")
             .arg(folder, FProjectFiles::ageOf(QFileInfo(FAutosave::pathOf(path)).lastModified()));
     }

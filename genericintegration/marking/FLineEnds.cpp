@@ -1,0 +1,164 @@
+#include "genericintegration/marking/FLineEnds.h"
+
+#include <QStringView>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace FLineEnds {
+namespace {
+
+bool isEnd(QChar c) {
+    const ushort unit = c.unicode();
+    return unit <= u'\r' ? unit == u'\n' || unit == u'\r'
+                         : unit >= 0x2029 && (unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1);
+}
+
+/** Length of the line end that starts at a place of a text; 0 if there is none. */
+int endLengthAt(QStringView text, int place) {
+    if (!isEnd(text[place])) {
+        return 0;
+    }
+    return text[place] == u'\r' && place + 1 < text.size() && text[place + 1] == u'\n' ? 2 : 1;
+}
+
+/** Length of the line end before a place of a text. */
+int endLengthBefore(QStringView text, int place) {
+    if (!isEnd(text[place - 1])) {
+        return 0;
+    }
+    return text[place - 1] == u'\n' && place > 1 && text[place - 2] == u'\r' ? 2 : 1;
+}
+
+bool cutsPair(QStringView text, int place) {
+    return place > 0 && place < text.size() && text[place - 1].isHighSurrogate() && text[place].isLowSurrogate();
+}
+
+/** A place in both texts. */
+struct FPlaces {
+    int text;
+    int document;
+};
+
+FPlaces commonStart(QStringView text, QStringView document) {
+    FPlaces at{0, 0};
+    while (at.text < text.size() && at.document < document.size()) {
+        if (text[at.text] == document[at.document] && !isEnd(text[at.text])) {
+            ++at.text;
+            ++at.document;
+            continue;
+        }
+        const FPlaces length{endLengthAt(text, at.text), endLengthAt(document, at.document)};
+        if (length.text == 0 || length.document == 0) {
+            break;
+        }
+        at.text += length.text;
+        at.document += length.document;
+    }
+    if (cutsPair(text, at.text) || cutsPair(document, at.document)) {
+        --at.text;
+        --at.document;
+    }
+    return at;
+}
+
+FPlaces commonEnd(QStringView text, QStringView document, FPlaces start) {
+    FPlaces at{static_cast<int>(text.size()), static_cast<int>(document.size())};
+    while (at.text > start.text && at.document > start.document) {
+        if (text[at.text - 1] == document[at.document - 1] && !isEnd(text[at.text - 1])) {
+            --at.text;
+            --at.document;
+            continue;
+        }
+        const FPlaces length{endLengthBefore(text, at.text), endLengthBefore(document, at.document)};
+        if (length.text == 0 || length.document == 0) {
+            break;
+        }
+        at.text -= length.text;
+        at.document -= length.document;
+    }
+    if (cutsPair(text, at.text) || cutsPair(document, at.document)) {
+        ++at.text;
+        ++at.document;
+    }
+    return at;
+}
+
+std::vector<QStringView> endsOf(QStringView text) {
+    std::vector<QStringView> ends;
+    for (int place = 0; place < text.size();) {
+        const int length = endLengthAt(text, place);
+        if (length > 0) {
+            ends.push_back(text.mid(place, length));
+        }
+        place += std::max(length, 1);
+    }
+    return ends;
+}
+
+QStringView prevailingEnd(QStringView text) {
+    std::array<std::pair<QStringView, int>, 3> counts{{{u"\n", 0}, {u"\r\n", 0}, {u"\r", 0}}};
+    for (int place = 0; place < text.size();) {
+        const int length = endLengthAt(text, place);
+        for (auto& [end, count] : counts) {
+            count += length > 0 && text.mid(place, length) == end ? 1 : 0;
+        }
+        place += std::max(length, 1);
+    }
+    const auto most = std::max_element(counts.begin(), counts.end(),
+                                       [](const auto& left, const auto& right) { return left.second < right.second; });
+    return most->first;
+}
+
+/** Puts together what is inserted after a part of the text that stays. */
+class FInsertion {
+ public:
+    explicit FInsertion(QStringView before) : mLast(before.isEmpty() ? QChar() : before.last()) {}
+
+    void append(QStringView piece) {
+        // CR before LF would be one line end.
+        if (mLast == u'\r' && piece.startsWith(u'\n')) {
+            mText.append(u'\n');
+        }
+        mText.append(piece);
+        mLast = piece.isEmpty() ? mLast : piece.last();
+    }
+
+    QString followedBy(QStringView behind) {
+        append(behind.left(1));
+        mText.chop(static_cast<int>(behind.left(1).size()));
+        return mText;
+    }
+
+ private:
+    QString mText;
+    QChar mLast;
+};
+
+}  // namespace
+
+FTextChange change(const QString& text, const QString& document) {
+    const QStringView old(text);
+    const QStringView lines(document);
+    const FPlaces start = commonStart(old, lines);
+    const FPlaces end = commonEnd(old, lines, start);
+    const QStringView edited = lines.mid(start.document, end.document - start.document);
+    const std::vector<QStringView> editedEnds = endsOf(edited);
+    std::vector<QStringView> ends = endsOf(old.mid(start.text, end.text - start.text));
+    if (ends.size() != editedEnds.size()) {
+        ends.assign(editedEnds.size(), prevailingEnd(old));
+    }
+    FInsertion insertion(old.left(start.text));
+    const QChar* from = edited.begin();
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        insertion.append({from, editedEnds[i].begin()});
+        insertion.append(ends[i]);
+        from = editedEnds[i].end();
+    }
+    insertion.append({from, edited.end()});
+    return {start.text, end.text - start.text, insertion.followedBy(old.mid(end.text))};
+}
+
+}  // namespace FLineEnds

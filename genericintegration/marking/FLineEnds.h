@@ -1,0 +1,22 @@
+#pragma once
+
+#include "genericintegration/marking/FTextChange.h"
+
+/**
+ * Takes over what was edited in a document of lines, which doesn't hold how the lines of its text ended.
+ *
+ * Lines end as a QTextDocument ends them: at LF, CR, CR LF, U+2029, U+FDD0 and U+FDD1.
+ */
+namespace FLineEnds {
+
+/**
+ * The smallest change that gives a text the lines of a document. What both have in common at the start and at the end
+ * keeps its line ends. So does the changed part, if it has as many lines as before; else its lines get the ends that
+ * most lines of the text have, LF if there are none. No surrogate pair is cut. Takes time linear in the text.
+ *
+ * @param document  its lines, with any of the line ends above: QTextDocument::toRawText(), but not toPlainText(), which
+ *                  replaces other characters
+ */
+FTextChange change(const QString& text, const QString& document);
+
+}  // namespace FLineEnds

@@ -1,7 +1,8 @@
 #include "genericintegration/io/FGenIntReader.h"
 
+#include "genericintegration/io/FColumnPlace.h"
 #include "genericintegration/io/FNumberPattern.h"
-#include "genericintegration/io/FSeparatorWalk.h"
+#include "genericintegration/io/FSeparatorMatches.h"
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/io/FValueRows.h"
 #include "genericintegration/io/FValueSearch.h"
@@ -176,21 +177,11 @@ int FGenIntReader::findValue(int& start, int& length, QRegExp& separator, int li
         start = text.indexOf(anchor, 0, Qt::CaseInsensitive) + anchor.length();
     }
     FSeparatorMatches::startText();
-    const std::shared_ptr<const FSeparator> known = FSeparator::of(separator.pattern());
-    FSeparatorWalk walk(*known, text, start);
-    const bool passed = walk.pass(column);
-    start = passed ? walk.start() : -1;
-    const int match = passed ? walk.next() : -1;
-    if (!passed || (findNumbers && match < 0)) {
-        return -1;
-    }
-    if (findNumbers) {
-        start = match;
-        length = walk.matchedLength();
-    } else {
-        length = (match < 0 ? text.length() : match) - start;
-    }
-    return length;
+    const FColumnPlace place =
+        FColumnPlace::find(*FSeparator::of(separator.pattern()), text, start, column, findNumbers);
+    start = place.start;
+    length = place.length;
+    return place.exists ? length : -1;
 }
 
 int FGenIntReader::getAnchorPosition(const FGenIntResultsFileValue& value, const QString& text) const {

@@ -50,10 +50,13 @@ FValueSearch::FValueSearch(std::vector<FValueDescription> values, const FSeparat
       mSeparator(separators.findNumbers ? nullptr : FSeparator::of(separators.expression())) {}
 
 FFoundValues FValueSearch::find(const FResultText& text) const {
+    return find(text, mAnchors.findInTrimmed(text));
+}
+
+FFoundValues FValueSearch::find(const FResultText& text, const std::vector<FAnchorPlaces>& places) const {
     FFoundValues found;
     found.values.resize(mValues.size());
     FSeparatorMatches::startText();
-    const std::vector<FAnchorPlaces> places = mAnchors.findInTrimmed(text);
     std::vector<Reading> readings;
     readings.reserve(mValues.size());
     LinesInText lines;

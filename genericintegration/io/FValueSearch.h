@@ -40,6 +40,8 @@ class FValueSearch {
     QString patternError() const { return mSeparator ? mSeparator->error() : QString(); }
 
     FFoundValues find(const FResultText& text) const;
+    /** The same, with the places of the values' anchors in the trimmed text, for a text that is searched repeatedly. */
+    FFoundValues find(const FResultText& text, const std::vector<FAnchorPlaces>& places) const;
 
     /**
      * Only the order: ascending by the place of the anchor (0 without one), then by line, column and name. Values equal

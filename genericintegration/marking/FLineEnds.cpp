@@ -7,30 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "genericintegration/marking/FDocumentLineEnd.h"
+
 namespace FLineEnds {
 namespace {
-
-bool isEnd(QChar c) {
-    const ushort unit = c.unicode();
-    return unit <= u'\r' ? unit == u'\n' || unit == u'\r'
-                         : unit >= 0x2029 && (unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1);
-}
-
-/** Length of the line end that starts at a place of a text; 0 if there is none. */
-int endLengthAt(QStringView text, int place) {
-    if (!isEnd(text[place])) {
-        return 0;
-    }
-    return text[place] == u'\r' && place + 1 < text.size() && text[place + 1] == u'\n' ? 2 : 1;
-}
-
-/** Length of the line end before a place of a text. */
-int endLengthBefore(QStringView text, int place) {
-    if (!isEnd(text[place - 1])) {
-        return 0;
-    }
-    return text[place - 1] == u'\n' && place > 1 && text[place - 2] == u'\r' ? 2 : 1;
-}
 
 bool cutsPair(QStringView text, int place) {
     return place > 0 && place < text.size() && text[place - 1].isHighSurrogate() && text[place].isLowSurrogate();
@@ -45,12 +25,13 @@ struct FPlaces {
 FPlaces commonStart(QStringView text, QStringView document) {
     FPlaces at{0, 0};
     while (at.text < text.size() && at.document < document.size()) {
-        if (text[at.text] == document[at.document] && !isEnd(text[at.text])) {
+        if (text[at.text] == document[at.document] && !FDocumentLineEnd::isPart(text[at.text])) {
             ++at.text;
             ++at.document;
             continue;
         }
-        const FPlaces length{endLengthAt(text, at.text), endLengthAt(document, at.document)};
+        const FPlaces length{FDocumentLineEnd::lengthAt(text, at.text),
+                             FDocumentLineEnd::lengthAt(document, at.document)};
         if (length.text == 0 || length.document == 0) {
             break;
         }
@@ -67,12 +48,13 @@ FPlaces commonStart(QStringView text, QStringView document) {
 FPlaces commonEnd(QStringView text, QStringView document, FPlaces start) {
     FPlaces at{static_cast<int>(text.size()), static_cast<int>(document.size())};
     while (at.text > start.text && at.document > start.document) {
-        if (text[at.text - 1] == document[at.document - 1] && !isEnd(text[at.text - 1])) {
+        if (text[at.text - 1] == document[at.document - 1] && !FDocumentLineEnd::isPart(text[at.text - 1])) {
             --at.text;
             --at.document;
             continue;
         }
-        const FPlaces length{endLengthBefore(text, at.text), endLengthBefore(document, at.document)};
+        const FPlaces length{FDocumentLineEnd::lengthBefore(text, at.text),
+                             FDocumentLineEnd::lengthBefore(document, at.document)};
         if (length.text == 0 || length.document == 0) {
             break;
         }
@@ -89,7 +71,7 @@ FPlaces commonEnd(QStringView text, QStringView document, FPlaces start) {
 std::vector<QStringView> endsOf(QStringView text) {
     std::vector<QStringView> ends;
     for (int place = 0; place < text.size();) {
-        const int length = endLengthAt(text, place);
+        const int length = FDocumentLineEnd::lengthAt(text, place);
         if (length > 0) {
             ends.push_back(text.mid(place, length));
         }
@@ -101,7 +83,7 @@ std::vector<QStringView> endsOf(QStringView text) {
 QStringView prevailingEnd(QStringView text) {
     std::array<std::pair<QStringView, int>, 3> counts{{{u"\n", 0}, {u"\r\n", 0}, {u"\r", 0}}};
     for (int place = 0; place < text.size();) {
-        const int length = endLengthAt(text, place);
+        const int length = FDocumentLineEnd::lengthAt(text, place);
         for (auto& [end, count] : counts) {
             count += length > 0 && text.mid(place, length) == end ? 1 : 0;
         }

@@ -1,10 +1,10 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
 
+#include "genericintegration/templates/FValueReference.h"
 #include "host/core/FHistory.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FObjectTree.h"
-#include "host/core/FQuotedText.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/design/FParameter.h"
 #include "host/script/FCmd.h"
@@ -264,8 +264,7 @@ FExpr<FParameter> FGenIntResultsFile::createParam(const QString& valueName, cons
         return {};
     }
     FExpr<FObject> number;
-    number.resolve(ownerName + QStringLiteral(".getResults().getTable(") + quoteText(getFileName()) +
-                   QStringLiteral(").getElementAt(") + quoteText(valueName) + QStringLiteral(")"));
+    number.resolve(FValueReference{ownerName, getFileName(), valueName}.text());
     if (number.isEmpty()) {
         return {};
     }

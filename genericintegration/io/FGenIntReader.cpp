@@ -67,6 +67,7 @@ void FGenIntReader::parseFile(const FExpr<FGenIntResultsFile>& file, FTableData*
     const std::shared_ptr<const FValueSearch> search = searchFor(*file.ptr(), values);
     // Only now: the number of rows of an average may depend on other results, which this reader then reads first.
     mImportedObjects.clear();
+    mImportedZones.clear();
     const std::optional<FResultText> text = readText(*file.ptr(), directory);
     if (!text) {
         return;
@@ -144,6 +145,7 @@ void FGenIntReader::importFile(const FGenIntResultsFileValue& value, const QStri
     FLodmConfigurationParser parser{QString()};
     if (parser.doImport(value.mImportType, directory + name, value.mName)) {
         mImportedObjects = parser.getObjects();
+        mImportedZones += parser.getZones();
     }
 }
 

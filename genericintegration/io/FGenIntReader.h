@@ -5,6 +5,7 @@
 #include "host/core/FObjectList.h"
 
 #include <QHash>
+#include <QList>
 #include <QRegExp>
 #include <QString>
 
@@ -56,6 +57,8 @@ class FGenIntReader : public FClass<FGenIntReader, FObject> {
 
     /** The objects of the last file import, by name. Each `parseFile` discards them. */
     const QHash<QString, FExpr<FObject>>& getImportedObjects() const { return mImportedObjects; }
+    /** The tables of zones that all file imports of the last `parseFile` created. */
+    const QList<FExpr<FTableData>>& getImportedZones() const { return mImportedZones; }
 
  private:
     std::optional<FResultText> readText(const FGenIntResultsFile& file, const QString& directory) const;
@@ -63,4 +66,5 @@ class FGenIntReader : public FClass<FGenIntReader, FObject> {
     void importFile(const FGenIntResultsFileValue& value, const QString& directory, const QString& name);
 
     QHash<QString, FExpr<FObject>> mImportedObjects;
+    QList<FExpr<FTableData>> mImportedZones;
 };

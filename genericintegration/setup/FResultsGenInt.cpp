@@ -114,6 +114,7 @@ void FResultsGenInt::setOutputHandles(const QList<FExpr<FGenIntFile>>& files) {
 
 void FResultsGenInt::readOutputFiles() const {
     startParentReg(this);
+    QList<FExpr<FTableData>> zones;
     for (const FExpr<FGenIntFile>& file : mOutputHandles) {
         const auto* resultsFile = dynamic_cast<const FGenIntResultsFile*>(file.ptr());
         if (!resultsFile) {
@@ -125,6 +126,10 @@ void FResultsGenInt::readOutputFiles() const {
         for (auto object = imported.begin(); object != imported.end(); ++object) {
             mImportedObjects.insert(object.key(), object.value());
         }
+        zones += reader->getImportedZones();
+    }
+    for (const FExpr<FTableData>& zone : qAsConst(zones)) {
+        const_cast<FResultsGenInt*>(this)->addTable(zone);
     }
     stopParentReg();
     FResultsGeneric::readOutputFiles();

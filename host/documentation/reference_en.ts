@@ -983,7 +983,7 @@ column: from 0; in which way columns are told apart, setNumberSeparator tells
 anchor: a text that stands in the file, in any case; "" for none
 occurrence: First or Last, if the anchor stands there more than once
 type: "FDouble" for a number, "FFileName" for the name of a further file to import
-import type: for such a file its kind, "text" or "table"; else ""
+import type: for such a file its kind, "text", "table" or "tecplot"; else ""
 average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
 rows: how many lines from the end; lines without a number don't count in the mean; NULL without an average
 
@@ -1450,7 +1450,7 @@ print(results.getDataAt("CL", 0), results.getTable("stdout.txt").getElementAt("C
     </message>
     <message>
         <source>!FResultsGeneric.member.getImportedObject(string,value)</source>
-        <translation>The object that was made from the file whose name a value of type "FFileName" found: a table, or a text, as the import type of the value says. Of two values with one name, the last one counts.</translation>
+        <translation>The object that was made from the file whose name a value of type "FFileName" found: a table, or a text, as the import type of the value says. Each zone of a file of type "tecplot" is a table of the results, too; its name is that of the value, "|" and the title of the zone, or its number if it has none. Of two values with one name, the last one counts.</translation>
     </message>
     <message>
         <source>!FResultsGeneric.member.getImportedObject(string,value):argument0</source>

@@ -4,6 +4,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FString.h"
 #include "host/core/FTextDecoder.h"
+#include "host/lodm/FTecplotText.h"
 #include "host/run/FTableData.h"
 
 #include <QDir>
@@ -17,13 +18,6 @@ namespace {
 
 constexpr int longestFile = 512 << 20;
 
-using Make = FObject* (*)(const QString& text, const QString& name);
-
-FObject* makeText(const QString& text, const QString& name) {
-    Q_UNUSED(name)
-    return new FString(text);
-}
-
 QVector<double> numbersOf(const QStringList& words) {
     QVector<double> numbers;
     for (const QString& word : words) {
@@ -34,9 +28,36 @@ QVector<double> numbersOf(const QStringList& words) {
     return numbers;
 }
 
-FObject* makeTable(const QString& text, const QString& name) {
+QString suffix(int counter) {
+    return (counter < 10 ? QStringLiteral("_0") : QStringLiteral("_")) + QString::number(counter);
+}
+
+void report(const QString& path, const QString& reason, const QString& advice) {
+    FLogMsg::warning(QStringLiteral("FLodmConfigurationParser"),
+                     QStringLiteral("can't import \"%1\": %2").arg(path, reason), advice);
+}
+
+}  // namespace
+
+FLodmConfigurationParser::Make FLodmConfigurationParser::makerOf(const QString& type) {
+    if (type == QLatin1String("text")) {
+        return &FLodmConfigurationParser::makeText;
+    }
+    if (type == QLatin1String("table")) {
+        return &FLodmConfigurationParser::makeTable;
+    }
+    return type == QLatin1String("tecplot") ? &FLodmConfigurationParser::makeZones : nullptr;
+}
+
+QString FLodmConfigurationParser::makeText(const QString& text, const QString& name) {
+    mObjects.insert(name, FExpr<FObject>(new FString(text)));
+    return {};
+}
+
+QString FLodmConfigurationParser::makeTable(const QString& text, const QString& name) {
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
     auto* table = new FTableData(name);
+    mObjects.insert(name, FExpr<FObject>(table));
     FTableData::Rows rows;
     bool isFirst = true;
     for (const QString& line : text.split(QLatin1Char('\n'))) {
@@ -50,29 +71,38 @@ FObject* makeTable(const QString& text, const QString& name) {
         isFirst = isFirst && words.isEmpty();
     }
     table->setData(rows);
-    return table;
+    return {};
 }
 
-Make makerOf(const QString& type) {
-    if (type == QLatin1String("text")) {
-        return &makeText;
+QString FLodmConfigurationParser::makeZones(const QString& text, const QString& name) {
+    const FTecplotText read = FTecplotText::read(text);
+    if (!read.fault.isEmpty()) {
+        return QStringLiteral("line %1: %2").arg(QString::number(read.faultLine), read.fault);
     }
-    return type == QLatin1String("table") ? &makeTable : nullptr;
+    QHash<QString, int> counters;
+    for (const FTecplotZone& zone : read.zones) {
+        const QString title = zone.title.isEmpty() ? QString::number(mZones.size() + 1) : zone.title;
+        const QString wanted = name + QLatin1Char('|') + title;
+        QString free = wanted;
+        while (mObjects.contains(free)) {
+            free = wanted + suffix(++counters[wanted]);
+        }
+        auto* table = new FTableData(free);
+        table->setAllHorizontalHeaders(read.variables);
+        table->setData(zone.rows);
+        mZones.append(FExpr<FTableData>(table));
+        mObjects.insert(free, FExpr<FObject>(table));
+    }
+    return {};
 }
-
-void report(const QString& path, const QString& reason, const QString& advice) {
-    FLogMsg::warning(QStringLiteral("FLodmConfigurationParser"),
-                     QStringLiteral("can't import \"%1\": %2").arg(path, reason), advice);
-}
-
-}  // namespace
 
 bool FLodmConfigurationParser::doImport(const QString& type, const QString& path, const QString& name) {
     mObjects.clear();
+    mZones.clear();
     const Make make = makerOf(type);
     if (!make) {
         report(path, QStringLiteral("the import type \"%1\" isn't known").arg(type),
-               QStringLiteral("known are \"text\" and \"table\""));
+               QStringLiteral("known are \"text\", \"table\" and \"tecplot\""));
         return true;
     }
     QFile file(QDir(mFolder).filePath(path));
@@ -86,6 +116,8 @@ bool FLodmConfigurationParser::doImport(const QString& type, const QString& path
                QStringLiteral("nothing is imported"));
         return true;
     }
-    mObjects.insert(name, FExpr<FObject>(make(FTextDecoder::decode(bytes), name)));
+    if (const QString fault = (this->*make)(FTextDecoder::decode(bytes), name); !fault.isEmpty()) {
+        report(file.fileName(), fault, QStringLiteral("nothing is imported"));
+    }
     return true;
 }

@@ -175,9 +175,13 @@ void FResultsGeneric::fillUnknown(const QVector<FSetUpTable>& tables) {
 
 FTableData* FResultsGeneric::addTable(const QString& name, unsigned int rows, unsigned int columns) {
     auto* table = new FTableData(name, rows, columns);
-    table->setOwner(this);
-    mTables.append(FExpr<FTableData>(table));
+    addTable(FExpr<FTableData>(table));
     return table;
+}
+
+void FResultsGeneric::addTable(const FExpr<FTableData>& table) {
+    table->setOwner(this);
+    mTables.append(table);
 }
 
 FExpr<FTableData> FResultsGeneric::getData(const QString& name) {

@@ -40,6 +40,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     void fillUnknown(const QVector<FSetUpTable>& tables);
     /** Appends a table of that size, filled with NaN. Tables may have equal names. */
     FTableData* addTable(const QString& name, unsigned int rows, unsigned int columns);
+    /** Appends a finished table, which then belongs to these results. */
+    void addTable(const FExpr<FTableData>& table);
     /** The first table of that name; an empty handle if there is none. */
     virtual FExpr<FTableData> getData(const QString& name);
     /** The table of that number, in the order of the result templates, from 0; an empty handle if there is none. */

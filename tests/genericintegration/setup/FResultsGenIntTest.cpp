@@ -164,6 +164,21 @@ TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {
     EXPECT_EQ(results()->getImportedObjects().value("field").toString(), "seen") << "the later template wins";
 }
 
+TEST_F(FResultsGenIntTest, hasTheZonesOfImportsAsTables) {
+    ASSERT_TRUE(
+        run("square.setNumberSeparator(false); square.setRegExprSeparator(\";\")\n"
+            "square.setValues([[\"flow\", 0, 0, \"\", First, \"FFileName\", \"tecplot\", 0, NULL]])"));
+    write("Out.txt", "flow.dat;");
+    write("stdout.txt", "said 7");
+    write("flow.dat", "VARIABLES = x p\nZONE T=wall\n0 1\n1 2\nZONE T=wall I=1\n3 4\nZONE I=1\n5 6\n");
+    results()->setOutputHandles({file("square"), file("console")});
+    EXPECT_EQ(results()->getTableNames(), QStringList({"Out.txt", "stdout.txt", "flow|wall", "flow|wall_01", "flow|3"}))
+        << logText();
+    EXPECT_EQ(textOf("comp.getResults().getTable(\"flow|wall\").getElementAt(1, \"p\")"), "2");
+    EXPECT_EQ(textOf("comp.getResults().getTable(\"flow|3\").getElementAt(0, \"x\")"), "5");
+    EXPECT_EQ(textOf("comp.getResults().getTableAt(3).getElementAt(0, 1)"), "4");
+}
+
 TEST_F(FResultsGenIntTest, hasNoPathsOfFilesThatAreGone) {
     FResultsGenInt* held = results();
     EXPECT_TRUE(held->getResultTemplateName("Out.txt").endsWith("/comp/Out.txt"));

@@ -40,9 +40,12 @@ TEST_F(FLodmConfigurationParserTest, importsTextsAndTables) {
 TEST_F(FLodmConfigurationParserTest, reportsWhatItCanNotImport) {
     write("curve.txt", "1");
     EXPECT_TRUE(mParser.doImport("text", mPath, "note"));
+    EXPECT_TRUE(mParser.doImport("mesh", mPath, "field"));
+    EXPECT_TRUE(mParser.getObjects().isEmpty());
+    EXPECT_TRUE(logHolds("\"mesh\"") && logHolds(mPath));
     EXPECT_TRUE(mParser.doImport("tecplot", mPath, "field"));
     EXPECT_TRUE(mParser.getObjects().isEmpty());
-    EXPECT_TRUE(logHolds("\"tecplot\"") && logHolds(mPath));
+    EXPECT_TRUE(logHolds(mPath + "\": line 1: the zone comes before the names of the variables")) << logText();
     EXPECT_TRUE(mParser.doImport("table", mPath + ".missing", "curve"));
     EXPECT_TRUE(mParser.getObjects().isEmpty());
     EXPECT_TRUE(logHolds(mPath + ".missing"));

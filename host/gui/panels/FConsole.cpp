@@ -19,6 +19,7 @@ namespace {
 
 constexpr int mostLines = 5000;
 constexpr int mostRecalled = 500;
+const char* const sourceName = "console";
 
 bool isWordCharacter(QChar character) {
     return character.isLetterOrNumber() || character == QLatin1Char('_');
@@ -83,7 +84,7 @@ void FConsole::execute(const QString& line) {
     mRunner([this, line] {
         QString text = line;
         QTextStream stream(&text);
-        mInput.readInputString(stream, QStringLiteral("console"));
+        mInput.readInputString(stream, QString::fromLatin1(sourceName));
         if (mInput.exec() && !mInput.getLastValue().isEmpty()) {
             const FObject* value = valueObject(mInput.getLastValue());
             append(value ? value->toExpressionString() + QLatin1Char('\n') : QStringLiteral("NULL\n"),
@@ -108,10 +109,20 @@ void FConsole::appendLine(const QString& text, const QColor& color) {
 
 void FConsole::addMessage(const FLogMsg& message) {
     if (mIsExecuting) {
+        markPlace(message.place);
         appendLine(message.toLine(), message.kind == FLogMsg::Kind::Error ? FStateColor::of(FStateColor::State::Bad)
                                      : message.kind == FLogMsg::Kind::Warning
                                          ? FStateColor::of(FStateColor::State::Warning)
                                          : FStateColor::of(FStateColor::State::Secondary));
+    }
+}
+
+// The line itself is two characters further to the right.
+void FConsole::markPlace(const QString& place) {
+    const QString first = QString::fromLatin1(sourceName) + QStringLiteral(":1:");
+    const int column = place.startsWith(first) ? place.mid(first.size()).toInt() : 0;
+    if (column > 0) {
+        appendLine(QString(column + 1, QLatin1Char(' ')) + QLatin1Char('^'), FStateColor::of(FStateColor::State::Bad));
     }
 }
 

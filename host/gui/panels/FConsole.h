@@ -43,6 +43,8 @@ class MERIX_EXPORT FConsole : public QWidget {
     void append(const QString& text, const QTextCharFormat& format);
     void appendLine(const QString& text, const QColor& color);
     void addMessage(const FLogMsg& message);
+    /** Points to the column of a message's place in the line above. */
+    void markPlace(const QString& place);
     QString wordAtCursor() const;
 
     Runner mRunner;

@@ -218,6 +218,9 @@ std::vector<FActionRow> makeRows() {
 
         {"help", "&Help", 0, "&Help", "help-contents", "F1", "Show the reference of the selected object's class", false,
          nullptr, &helpOnSelection},
+        {"tutorial", "&Help", 0, "&Tutorial", "help-hint", "Ctrl+Shift+F1",
+         "Couple a program, from sample files to a table of numbers", false, nullptr,
+         [](FMainWindow& window) { window.showDocument(QStringLiteral("coupling-a-program.md")); }},
         {"shortcuts", "&Help", 0, "&Keyboard shortcuts", "input-keyboard", "Ctrl+Shift+K",
          "List all actions with their keys", false, nullptr,
          [](FMainWindow& window) { window.showHelpText(FActionTable::toMarkdown()); }},

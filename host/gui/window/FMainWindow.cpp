@@ -25,7 +25,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDockWidget>
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
@@ -303,6 +305,15 @@ void FMainWindow::showHelpText(const QString& markdown) {
     if (auto* help = dynamic_cast<FHelpPanel*>(panel(QStringLiteral("help")))) {
         raisePanel(QStringLiteral("help"));
         help->showText(markdown);
+    }
+}
+
+void FMainWindow::showDocument(const QString& page) {
+    QFile file(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/merix/docs/") + page));
+    if (file.open(QIODevice::ReadOnly)) {
+        showHelpText(QString::fromUtf8(file.readAll()));
+    } else {
+        mpNotices->showNotice(QStringLiteral("The page %1 isn't installed: %2").arg(page, file.errorString()));
     }
 }
 

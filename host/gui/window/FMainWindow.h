@@ -52,6 +52,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void executeLocked(const std::function<void()>& function);
     /** Shows a text in Markdown in the help panel. */
     void showHelpText(const QString& markdown);
+    /** Shows a page of the documentation that comes with the program. */
+    void showDocument(const QString& page);
     void showAbout();
     /** Puts panels and toolbars where they are in a new installation. */
     void resetLayout();

@@ -205,7 +205,8 @@ bool FProjectFiles::executeScript(const QString& path) {
     stream.setCodec("UTF-8");
     FCmdInput input;
     input.readInputString(stream, path);
-    const bool isDone = input.exec();
+    bool isDone = false;
+    mWindow.executeLocked([&] { isDone = input.exec(); });
     if (!isDone) {
         mWindow.notices().showNotice(QStringLiteral("%1 ended with an error.").arg(QFileInfo(path).fileName()),
                                      QStringLiteral("Show the messages"),

@@ -28,6 +28,7 @@ TEST_F(FConsoleTest, eachLineIsAStepAndShowsItsValueOrItsError) {
     enter("span.setVallue(1)");
     EXPECT_TRUE(output().contains("> twice\n5\n")) << output().toStdString();
     EXPECT_TRUE(output().contains("> print(\"a\", 1)\na 1\n")) << output().toStdString();
+    EXPECT_TRUE(output().contains("> span.setVallue(1)\n       ^\n")) << output().toStdString();
     EXPECT_TRUE(output().contains("console:1:6")) << output().toStdString();
     EXPECT_TRUE(output().contains("setValue")) << output().toStdString();
     trigger("undo");

@@ -109,7 +109,7 @@ void FConsole::appendLine(const QString& text, const QColor& color) {
 
 void FConsole::addMessage(const FLogMsg& message) {
     if (mIsExecuting) {
-        markPlace(message.place);
+        markPlace(message.place.isEmpty() ? message.source : message.place);
         appendLine(message.toLine(), message.kind == FLogMsg::Kind::Error ? FStateColor::of(FStateColor::State::Bad)
                                      : message.kind == FLogMsg::Kind::Warning
                                          ? FStateColor::of(FStateColor::State::Warning)

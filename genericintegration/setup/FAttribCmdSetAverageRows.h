@@ -17,6 +17,7 @@ class FAttribCmdSetAverageRows : public FClass<FAttribCmdSetAverageRows, FAttrib
 
     /** The number of rows of the editor's value; 0 without an editor or template. */
     void getAttrValue(FExprBase& value) const override;
+    const FClassData* getValueClass() const override { return &FUnsigned::mClass; }
 
  protected:
     FExprBase execute() const override;

@@ -2,6 +2,7 @@
 
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FEntryUses.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/setup/FProblems.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
@@ -54,6 +55,11 @@ FSetUpCheck::Tables FGenIntCheck::tables(const FExternComputation& computation) 
         }
     }
     return tables;
+}
+
+FSetUpCheck::Uses FGenIntCheck::uses(const FConfiguration& configuration) const {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(configuration.getDefinition().ptr());
+    return definition ? FEntryUses(configuration, *definition).find() : Uses();
 }
 
 bool FGenIntCheck::enable() {

@@ -251,6 +251,11 @@ FEntry* FEntryTree::occurrence(FEntryHolder& holder, const QString& level) {
     return addOccurrencesUpTo(holder, *definition, part.index);
 }
 
+FEntry* FEntryTree::addOccurrence(FEntryHolder& holder, FEntryDef& definition) {
+    const int next = countOf(holder, &definition);
+    return next < definition.getMaxOccurrences() ? addOccurrencesUpTo(holder, definition, next) : nullptr;
+}
+
 FEntry* FEntryTree::addOccurrencesUpTo(FEntryHolder& holder, FEntryDef& definition, int last) {
     Entries list = holder.getEntries();
     const auto isOwn = [&definition](const FExpr<FEntryBase>& entry) {

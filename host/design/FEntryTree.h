@@ -42,6 +42,8 @@ class MERIX_EXPORT FEntryTree {
 
     /** The entry of that path; an occurrence that may exist, but doesn't yet, is made. Null if there can be none. */
     FEntry* makeOccurrence(FConfiguration& configuration, const QString& path);
+    /** The next occurrence of a definition in a holder of its entries; null if there can be no further one. */
+    FEntry* addOccurrence(FEntryHolder& holder, FEntryDef& definition);
 
     /** What defines the entries of a configuration or group; null if nothing does. */
     static const FEntryHolder* definitionsOf(const FEntryHolder& entries);

@@ -45,6 +45,17 @@ FSetUpCheck::Tables FSetUpCheck::tablesOf(const FExternComputation& computation)
     return all;
 }
 
+FSetUpCheck::Uses FSetUpCheck::usesOf(const FConfiguration& configuration) {
+    Uses all;
+    for (const FSetUpCheck* check : checks()) {
+        const Uses own = check->uses(configuration);
+        for (auto use = own.begin(); use != own.end(); ++use) {
+            all[use.key()] += *use;
+        }
+    }
+    return all;
+}
+
 bool FSetUpCheck::isReplacingRuns() {
     return static_cast<bool>(substitute());
 }

@@ -232,6 +232,11 @@ FExprBase FAttribCmd::valueOf(const FObject* receiver) const {
     return fits ? row->getter(receiver) : FExprBase();
 }
 
+const FClassData* FAttribCmd::getValueClass() const {
+    const FCmdRow* row = getRow();
+    return row && !row->arguments.empty() ? row->arguments.front().type.cls : nullptr;
+}
+
 void FAttribCmd::getAttrValue(FExprBase& value) const {
     value = FExprBase();
     FObject* receiver = getReceiver().getObject();

@@ -13,7 +13,15 @@ FExprBase FCommandCall::execute(const FCmdRow& row, const FExprBase& receiver,
     auto* command = static_cast<FMemberCmd*>(row.commandClass->mpNull->clone());
     const FExprBase keep(command);
     command->setReceiver(receiver);
-    command->setArguments(arguments);
-    const FUserStep step(labelOf(row));
-    return command->getValue();
+    return execute(*command, arguments, labelOf(row));
+}
+
+FExprBase FCommandCall::execute(const FMemberCmd& command, const std::vector<FExprBase>& arguments,
+                                const QString& label) {
+    auto* call = static_cast<FMemberCmd*>(command.clone());
+    const FExprBase keep(call);
+    call->setReceiver(command.getReceiver());
+    call->setArguments(arguments);
+    const FUserStep step(label);
+    return call->getValue();
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 class FCmdRow;
+class FMemberCmd;
 
 /** Executes commands for windows, each call as one step of the history. */
 namespace FCommandCall {
@@ -13,6 +14,9 @@ namespace FCommandCall {
 /** The step has the label of the command as the user interface shows it. */
 MERIX_EXPORT FExprBase execute(const FCmdRow& row, const FExprBase& receiver,
                                const std::vector<FExprBase>& arguments = {});
+/** The same with a clone of a command that has its receiver. */
+MERIX_EXPORT FExprBase execute(const FMemberCmd& command, const std::vector<FExprBase>& arguments,
+                               const QString& label);
 /** What the user interface calls the command: its menu entry, else its label, else its name. */
 MERIX_EXPORT QString labelOf(const FCmdRow& row);
 

@@ -3,6 +3,7 @@
 #include "host/gui/panels/FConsole.h"
 #include "host/gui/panels/FHelpPanel.h"
 #include "host/gui/panels/FLogPanel.h"
+#include "host/gui/panels/FObjectEditorPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FProblemsPanel.h"
 #include "host/gui/panels/FUndoPanel.h"
@@ -29,6 +30,8 @@ const std::vector<FPanelRow>& FPanelTable::rows() {
         {"console", "Console", "utilities-terminal", Qt::BottomDockWidgetArea, "Ctrl+6", "consoleLine", &makeConsole},
         {"history", "History", "view-history", Qt::BottomDockWidgetArea, "Ctrl+7", "undoList",
          [](FMainWindow&) -> QWidget* { return new FUndoPanel; }},
+        {"editor", "Editor", "document-properties", Qt::RightDockWidgetArea, "Ctrl+2", "objectName",
+         [](FMainWindow& window) -> QWidget* { return new FObjectEditorPanel(window); }},
         {"help", "Help", "help-contents", Qt::RightDockWidgetArea, "Ctrl+8", "helpSearch",
          [](FMainWindow&) -> QWidget* { return new FHelpPanel; }},
     };

@@ -3,6 +3,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FPendingEdit.h"
+#include "host/gui/panels/FObjectEditorPanel.h"
 #include "host/gui/panels/FObjectTreeModel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/window/FMainWindow.h"
@@ -99,6 +100,13 @@ void FWindowUserInterface::setClipboardText(const QString& text) {
     QApplication::clipboard()->setText(text);
 }
 
+void FWindowUserInterface::reinitializeEditor(bool all) {
+    Q_UNUSED(all)
+    if (auto* editor = dynamic_cast<FObjectEditorPanel*>(mWindow.panel(QStringLiteral("editor")))) {
+        editor->rebuild();
+    }
+}
+
 void FWindowUserInterface::hold(What what, bool isHeld) {
     switch (what) {
         case What::Cursor:
@@ -110,6 +118,9 @@ void FWindowUserInterface::hold(What what, bool isHeld) {
             }
             break;
         case What::Editors:
+            if (auto* editor = dynamic_cast<FObjectEditorPanel*>(mWindow.panel(QStringLiteral("editor")))) {
+                editor->hold(isHeld);
+            }
             break;
     }
 }

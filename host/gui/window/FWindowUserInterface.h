@@ -23,6 +23,7 @@ class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
     void highlight(const QList<FExprBase>& objects) override;
     int getScreenHeight() const override;
     void setClipboardText(const QString& text) override;
+    void reinitializeEditor(bool all) override;
     void hold(What what, bool isHeld) override;
 
  private:

@@ -1,3 +1,4 @@
+#include "host/core/FSelectionSet.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/window/FPanelTable.h"
@@ -51,7 +52,12 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
 
 TEST_P(VisualTest, everythingIsReadableAndReachable) {
     check(window(), "start");
-    ASSERT_TRUE(run("genericIntegrationComputation solver()\nparameter span(2.4)\nparameter twice(2 * span)"));
+    ASSERT_TRUE(
+        run("genericIntegrationDefinition beam() { .addEntry(\"Geometry|span\", 2.4) }\n"
+            "genericIntegrationConfiguration values() { .setDefinition(beam) }\n"
+            "genericIntegrationComputation solver() { .setConfiguration(values) }\n"
+            "parameter span(2.4)\nparameter twice(2 * span)"));
+    FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("solver"))});
     settle();
     EXPECT_EQ(window().size(), smallest);
     for (const FPanelRow& row : FPanelTable::rows()) {

@@ -1,0 +1,14 @@
+#include "host/gui/base/FMessageCatcher.h"
+
+#include "host/core/FChanges.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FManaged.h"
+
+FMessageCatcher::FMessageCatcher() {
+    connect(FChanges::instance(), &FChanges::messageLogged, this, [this](const FLogMsg& message) {
+        if (mText.isEmpty() && message.kind != FLogMsg::Kind::Info) {
+            mText = message.consequence.isEmpty() ? message.message
+                                                  : QStringLiteral("%1. %2").arg(message.message, message.consequence);
+        }
+    });
+}

@@ -1,0 +1,140 @@
+#include "host/gui/panels/FEntryChange.h"
+
+#include "host/core/FUserStep.h"
+#include "host/design/FConfiguration.h"
+#include "host/design/FDefinition.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FEntryTree.h"
+#include "host/design/FEntryValue.h"
+#include "host/gui/base/FCommandCall.h"
+#include "host/gui/base/FMessageCatcher.h"
+#include "host/gui/fields/FScriptText.h"
+#include "host/gui/fields/FValueField.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FMemberCmd.h"
+
+namespace {
+
+/** Executes a command of the definition; the reason if it gave nothing. */
+QString onDefinition(const FConfiguration& configuration, const char* name, const std::vector<FExprBase>& arguments,
+                     const QString& label) {
+    FDefinition* definition = configuration.getDefinition().ptr();
+    if (!definition) {
+        return QStringLiteral("The configuration has no definition");
+    }
+    const auto rows = FCmdManager::instance()->findMembers(definition->getClassData(), QString::fromLatin1(name));
+    auto* command = new FMemberCmd(*rows.front());
+    const FExprBase keep(command);
+    command->setReceiver(FExprBase(definition));
+    const FMessageCatcher messages;
+    const FExprBase result = FCommandCall::execute(*command, arguments, label);
+    return result.isValid() ? QString() : messages.text();
+}
+
+FExprBase text(const QString& value) {
+    return FExprBase(new FString(value));
+}
+
+QString definitionPath(const FEntry& entry) {
+    const FEntryDef* definition = entry.getDefinition().ptr();
+    return definition ? definition->getFullName() : entry.getFullName();
+}
+
+FExprBase bound(const FValueField& field, const QString& entered, QString& fault) {
+    return field.choices.isEmpty() ? FScriptText::bind(entered, fault) : text(entered);
+}
+
+/** The last occurrence of the definition of an entry, in the same place. */
+FExpr<FEntryBase> lastOccurrence(const FEntry& entry) {
+    FExpr<FEntryBase> last;
+    for (const FExpr<FEntryBase>& handle : entry.getHolder()->getEntries()) {
+        if (static_cast<FEntry*>(FEntryBase::of(handle))->getDefinition() == entry.getDefinition()) {
+            last = handle;
+        }
+    }
+    return last;
+}
+
+}  // namespace
+
+QString FEntryChange::setValue(FEntry& entry, const QString& entered) {
+    QString fault;
+    const FExprBase value = FScriptText::bind(entered, fault);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    const FMessageCatcher messages;
+    const FUserStep step(QStringLiteral("Set %1").arg(entry.getFullName()));
+    return entry.setValue(copyOfValue(value)) ? QString() : messages.text();
+}
+
+QString FEntryChange::setField(FEntry& entry, const FValueField& field, const QString& entered) {
+    QString fault;
+    const FExprBase part = bound(field, entered, fault);
+    FObject* value = entry.getValue().getStored();
+    if (!fault.isEmpty() || !value) {
+        return fault;
+    }
+    const FMessageCatcher messages;
+    const FUserStep step(QStringLiteral("Set %1 of %2").arg(field.label, entry.getFullName()));
+    return field.set(*value, part) ? QString() : messages.text();
+}
+
+QString FEntryChange::reset(FEntry& entry) {
+    const FUserStep step(QStringLiteral("Reset %1").arg(entry.getFullName()));
+    entry.setDefaultValue();
+    return {};
+}
+
+bool FEntryChange::mayAddOccurrence(const FEntry& entry) {
+    const FEntryDef* definition = entry.getDefinition().ptr();
+    return definition && entry.getHolder() &&
+           FEntryTree::countOf(*entry.getHolder(), definition) < definition->getMaxOccurrences();
+}
+
+QString FEntryChange::addOccurrence(FEntry& entry) {
+    const FMessageCatcher messages;
+    const FUserStep step(QStringLiteral("Add an occurrence of %1").arg(definitionPath(entry)));
+    const bool isAdded = FEntryTree().addOccurrence(*entry.getHolder(), *entry.getDefinition().ptr());
+    return isAdded ? QString() : messages.text();
+}
+
+bool FEntryChange::mayRemoveOccurrence(const FEntry& entry) {
+    const FEntryDef* definition = entry.getDefinition().ptr();
+    return definition && entry.getHolder() && definition->getMaxOccurrences() > 1 &&
+           FEntryTree::countOf(*entry.getHolder(), definition) > std::max(definition->getMinOccurrences(), 1);
+}
+
+QString FEntryChange::removeOccurrence(FEntry& entry) {
+    const FUserStep step(QStringLiteral("Remove an occurrence of %1").arg(definitionPath(entry)));
+    entry.getHolder()->removeEntry(lastOccurrence(entry));
+    return {};
+}
+
+QString FEntryChange::addEntry(FConfiguration& configuration, const FEntry* beside, QString& path) {
+    const FDefinition* definition = configuration.getDefinition().ptr();
+    if (!definition) {
+        return QStringLiteral("The configuration has no definition");
+    }
+    const FEntryDef* neighbour = beside ? beside->getDefinition().ptr() : nullptr;
+    const FEntryHolder* holder = definition;
+    if (neighbour) {
+        holder = neighbour->isGroup() ? static_cast<const FEntryHolder*>(neighbour) : neighbour->getHolder();
+    }
+    const auto* group = dynamic_cast<const FEntryBase*>(holder);
+    const QString name = holder->freeEntryName(QStringLiteral("newEntry"), nullptr);
+    path = group ? group->getFullName() + QLatin1Char('|') + name : name;
+    return onDefinition(configuration, "addEntry", {text(path), FExprBase(new FDouble(0))},
+                        QStringLiteral("Add entry %1").arg(path));
+}
+
+QString FEntryChange::renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name) {
+    const QString path = definitionPath(entry);
+    return onDefinition(configuration, "renameEntry", {text(path), text(name)},
+                        QStringLiteral("Rename entry %1").arg(path));
+}
+
+QString FEntryChange::removeEntry(FConfiguration& configuration, const FEntry& entry) {
+    const QString path = definitionPath(entry);
+    return onDefinition(configuration, "removeEntry", {text(path)}, QStringLiteral("Remove entry %1").arg(path));
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QString>
+
+class FConfiguration;
+class FEntry;
+class FEntryHolder;
+struct FValueField;
+
+/**
+ * What a user does to the entries of a configuration, each call as one step. All give the reason if nothing was done,
+ * else an empty text.
+ */
+namespace FEntryChange {
+
+/** @param text  script text of the expression; a blank one takes the value away */
+MERIX_EXPORT QString setValue(FEntry& entry, const QString& text);
+/** Changes a part of the value that the entry holds. */
+MERIX_EXPORT QString setField(FEntry& entry, const FValueField& field, const QString& text);
+MERIX_EXPORT QString reset(FEntry& entry);
+
+/** Whether the configuration may have a further occurrence beside this one. */
+MERIX_EXPORT bool mayAddOccurrence(const FEntry& entry);
+MERIX_EXPORT QString addOccurrence(FEntry& entry);
+/** Whether the last occurrence of the same entry can be taken away. */
+MERIX_EXPORT bool mayRemoveOccurrence(const FEntry& entry);
+MERIX_EXPORT QString removeOccurrence(FEntry& entry);
+
+/**
+ * Adds an entry with the default 0 to the definition of a configuration.
+ * @param beside  in whose group it is added; null for none
+ * @param path    gets the path of the new entry in the definition
+ */
+MERIX_EXPORT QString addEntry(FConfiguration& configuration, const FEntry* beside, QString& path);
+/** Renames the entry in the definition; the tags of templates follow. */
+MERIX_EXPORT QString renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name);
+/** Removes the entry from the definition, and thus from all its configurations. */
+MERIX_EXPORT QString removeEntry(FConfiguration& configuration, const FEntry& entry);
+
+}  // namespace FEntryChange

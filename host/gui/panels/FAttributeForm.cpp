@@ -14,7 +14,6 @@
 namespace {
 
 constexpr int widestLabel = 18;  // characters; longer labels take several lines
-constexpr int narrowestField = 14;
 
 /** Margins of a row, as all forms of the program have them. */
 constexpr QMargins rowMargins(3, 4, 3, 4);
@@ -135,10 +134,15 @@ void FAttributeForm::alignLabels() {
     QLineEdit sample;
     sample.setFont(font());
     const int heightOfLine = sample.sizeHint().height();
-    const bool isStacked = mWidth > 0 && mWidth < width + narrowestField * fontMetrics().averageCharWidth();
+    int leastField = 0;
+    for (const FAttributeEditor* field : mFields) {
+        leastField = std::max(leastField, field->minimumSizeHint().width());
+    }
+    const int spacing = fontMetrics().height() / 3;
+    const bool isStacked = mWidth > 0 && mWidth < rowMargins.left() + width + spacing + leastField + rowMargins.right();
     for (int i = 0; i < mLabels.size(); ++i) {
         mRows[i]->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-        mRows[i]->setSpacing(isStacked ? 0 : fontMetrics().height() / 3);
+        mRows[i]->setSpacing(isStacked ? 0 : spacing);
         // The first line of a label is level with that of its field.
         const int height = std::min(mFields[i]->sizeHint().height(), heightOfLine);
         const int above = std::max((height - mLabels[i]->fontMetrics().height()) / 2, 0);

@@ -9,7 +9,7 @@
 
 // What Qt and its libraries keep until the end, such as the screens of the offscreen platform. A leak of an object of
 // ours is found all the same: it is allocated by our code.
-extern "C" const char* __lsan_default_suppressions();
+extern "C" Q_DECL_EXPORT const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libQt5Core.so\nleak:libQt5Gui.so\nleak:libQt5Widgets.so\nleak:libqoffscreen.so\nleak:libfontconfig."
            "so\n";

@@ -11,10 +11,11 @@ FEmptyHint::FEmptyHint(QAbstractItemView* view, const QString& text) : QObject(v
 }
 
 bool FEmptyHint::eventFilter(QObject* watched, QEvent* event) {
-    const QAbstractItemModel* model = mpView->model();
+    // Other events also come while the view is being destroyed.
     if (event->type() != QEvent::Paint) {
         return QObject::eventFilter(watched, event);
     }
+    const QAbstractItemModel* model = mpView->model();
     const bool isEmpty = !model || model->rowCount(mpView->rootIndex()) == 0;
     // A screen reader can't see what is painted.
     const QString description = isEmpty ? mText : QString();

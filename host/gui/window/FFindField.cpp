@@ -15,6 +15,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QStandardItemModel>
+#include <QTimer>
 
 namespace {
 
@@ -39,9 +40,9 @@ FFindField::FFindField(FMainWindow& window)
     mpCompleter->popup()->setObjectName(QStringLiteral("findResults"));
     mpCompleter->popup()->setAccessibleName(QStringLiteral("What was found"));
     setCompleter(mpCompleter);
-    // Queued: the field's own handling puts the text of the choice into it.
-    connect(mpCompleter, QOverload<const QModelIndex&>::of(&QCompleter::activated), this, &FFindField::choose,
-            Qt::QueuedConnection);
+    // Not with the field as receiver: without the focus, a field cuts all connections from its completer to itself.
+    connect(mpCompleter, QOverload<const QModelIndex&>::of(&QCompleter::activated), mpModel,
+            [this](const QModelIndex& index) { choose(index); });
 }
 
 void FFindField::start() {
@@ -50,7 +51,8 @@ void FFindField::start() {
 }
 
 void FFindField::focusInEvent(QFocusEvent* event) {
-    if (event->reason() != Qt::PopupFocusReason) {
+    // Not when the list of what was found closes.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
         collect();
     }
     QLineEdit::focusInEvent(event);
@@ -109,10 +111,11 @@ void FFindField::addEntries() {
         const FExpr<FManaged> handle(object);
         const QMap<QString, FExpr<FEntryBase>>& entries = dynamic_cast<FConfiguration&>(*object).getEntryMap();
         for (auto entry = entries.begin(); entry != entries.end() && mpModel->rowCount() < mostEntries; ++entry) {
-            add(FIcons::get(QStringLiteral("configuration")), entry.key(),
-                QStringLiteral("entry of %1").arg(object->getName()), [this, handle] {
+            const QString path = entry.key();
+            add(FIcons::get(QStringLiteral("configuration")), path,
+                QStringLiteral("entry of %1").arg(object->getName()), [this, handle, path] {
                     if (handle) {
-                        mWindow.showObject(handle.ptr());
+                        mWindow.showEntry(handle.ptr(), path);
                     }
                 });
         }
@@ -134,11 +137,15 @@ void FFindField::addCommands() {
 }
 
 void FFindField::choose(const QModelIndex& index) {
-    const int choice = index.data(choiceRole).toInt();
-    clear();
-    if (index.isValid() && choice < static_cast<int>(mChoices.size())) {
+    const std::size_t choice = static_cast<std::size_t>(index.data(choiceRole).toInt());
+    if (!index.isValid() || choice >= mChoices.size()) {
+        return;
+    }
+    // Later, since the field still puts the text of the choice into itself, and what can be found is collected anew.
+    QTimer::singleShot(0, this, [this, function = mChoices[choice]] {
+        clear();
         // Moves the focus first, so that the choice can move it elsewhere.
         mWindow.setFocus();
-        mChoices[static_cast<std::size_t>(choice)]();
-    }
+        function();
+    });
 }

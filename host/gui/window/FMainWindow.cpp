@@ -8,7 +8,9 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FPendingEdit.h"
+#include "host/gui/panels/FEntriesWgt.h"
 #include "host/gui/panels/FHelpPanel.h"
+#include "host/gui/panels/FObjectEditorPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FProblemModel.h"
 #include "host/gui/panels/FProblemsPanel.h"
@@ -36,6 +38,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -278,6 +281,17 @@ void FMainWindow::showObject(FManaged* object) {
     if (auto* tree = dynamic_cast<FObjectTreeWgt*>(panel(QStringLiteral("objects")))) {
         tree->reveal(object);
     }
+}
+
+void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
+    showObject(configuration);
+    raisePanel(QStringLiteral("editor"));
+    // The editor shows the selection from the event loop.
+    QTimer::singleShot(0, this, [this, path] {
+        if (auto* editor = dynamic_cast<FObjectEditorPanel*>(panel(QStringLiteral("editor")))) {
+            editor->entries().showEntry(path);
+        }
+    });
 }
 
 void FMainWindow::showFile(const Place& place) {

@@ -155,3 +155,10 @@ QString FCauseLines::toText() const {
     }
     return lines.join(QLatin1Char('\n'));
 }
+
+FCauseLines::Line FCauseLines::fromText(const QString& line) {
+    static const QRegularExpression form(QStringLiteral("^    ([^:]+):(\\d+): (.*)$"));
+    const QRegularExpressionMatch match = form.match(line);
+    return match.hasMatch() ? Line{match.captured(1), match.captured(2).toLongLong(), match.captured(3)}
+                            : Line{QString(), 0, line};
+}

@@ -19,16 +19,18 @@ class MERIX_EXPORT FCauseLines {
     /** Adds the lines of a file. Ignores a file that can't be read. */
     void add(const QString& folder, const QString& file);
 
-    /** For a message, each line as `    FILE:LINE: TEXT`; empty if there are none. */
-    QString toText() const;
-
- private:
     struct Line {
         QString file;
         qint64 number;
         QString text;
     };
 
+    /** For a message, each line as `    FILE:LINE: TEXT`; empty if there are none. */
+    QString toText() const;
+    /** A line of such a text; without a file if it isn't one. */
+    static Line fromText(const QString& line);
+
+ private:
     bool take(QList<Line>& to, const Line& line);
     void takeCauses(const QList<Line>& lines);
     void takeEnds(const QList<Line>& lines);

@@ -165,7 +165,7 @@ bool FExternComputation::cancel() {
 
 const FRunRecord& FExternComputation::getLastRun() const {
     static const FRunRecord none;
-    const std::shared_ptr<const FRunRecord> run = lastRun();
+    const std::shared_ptr<const FRunRecord> run = getLastRecord();
     return run ? *run : none;
 }
 
@@ -175,7 +175,7 @@ QString FExternComputation::getWorkingPath() const {
                : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), mDesign);
 }
 
-std::shared_ptr<const FRunRecord> FExternComputation::lastRun() const {
+std::shared_ptr<const FRunRecord> FExternComputation::getLastRecord() const {
     if (mRecord && isRunOfDesign()) {
         return mRecord;
     }
@@ -250,7 +250,7 @@ bool FExternComputation::refetchResults() {
         return false;
     }
     if (!getCurrentResults()) {
-        mResults.make(*this, lastRun());
+        mResults.make(*this, getLastRecord());
     }
     processReread(getCurrentResults().ptr());
     setOutOfDate(true);
@@ -264,7 +264,7 @@ FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder)
     if (results) {
         results->setResultPath(folder);
         if (folder == getWorkingPath()) {
-            results->setRun(lastRun());
+            results->setRun(getLastRecord());
         }
         processReread(results.ptr());
     }

@@ -85,6 +85,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
      * the first. Valid until the next call, or the next run.
      */
     const FRunRecord& getLastRun() const;
+    /** The same to keep: it is updated during the run, and is that of the same run later. Null before the first run. */
+    std::shared_ptr<const FRunRecord> getLastRecord() const;
     /** The last run in a design's folder, as its stored record tells; null if there is none. */
     std::shared_ptr<const FRunRecord> getStoredRun(const FExpr<FDesign>& design) const;
     /**
@@ -177,7 +179,6 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
 
     static std::vector<std::unique_ptr<FStateField>> fields();
     bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
-    std::shared_ptr<const FRunRecord> lastRun() const;
     QString rereadRefusal() const;
     void takeUnknownResults();
 

@@ -47,6 +47,11 @@ int plainTextOffset(std::string_view file) {
     return file.substr(0, mark.size()) == mark ? static_cast<int>(mark.size()) : 0;
 }
 
+int utf8Offset(std::string_view file) {
+    static const QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
+    return codecOf(file) != utf8 ? -1 : file.substr(0, mark.size()) == mark ? static_cast<int>(mark.size()) : 0;
+}
+
 std::vector<char> decode(std::string_view file) {
     const QTextCodec* codec = codecOf(file);
     QTextCodec::ConverterState state;

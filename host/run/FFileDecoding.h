@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <string_view>
 #include <vector>
 
@@ -12,7 +14,13 @@ namespace FFileDecoding {
 /** Size of the byte order mark (0 if none) if the bytes after it are already the text; -1 if decode() is needed. */
 int plainTextOffset(std::string_view file);
 
+/**
+ * Size of the byte order mark (0 if none) of a text whose bytes after it can be decoded line by line, as UTF-8 with
+ * some invalid bytes at most; -1 if the mark is that of UTF-16 or UTF-32.
+ */
+MERIX_EXPORT int utf8Offset(std::string_view file);
+
 /** Decodes any bytes. The result is in the encoding of FUtf8. */
-std::vector<char> decode(std::string_view file);
+MERIX_EXPORT std::vector<char> decode(std::string_view file);
 
 }  // namespace FFileDecoding

@@ -19,6 +19,6 @@ namespace FNumberCheck {
 MERIX_EXPORT QStringList faults(const FSuccessRules& rules, const QList<FExpr<FTableData>>& tables);
 
 /** What the rules accept in a number without a warning. */
-FNumberFlags accepted(const FSuccessRules& rules);
+MERIX_EXPORT FNumberFlags accepted(const FSuccessRules& rules);
 
 }  // namespace FNumberCheck

@@ -128,7 +128,7 @@ QString FTableData::toCsv() const {
         header.append(QStringLiteral("name"));
     }
     for (int column = 0; column < mColumnCount; ++column) {
-        const QString name = mColumnOfHeader.key(column);
+        const QString name = getColumnName(column);
         header.append(!name.isEmpty() ? name : mColumnCount == 1 ? QStringLiteral("value") : QString::number(column));
     }
     QString text = FCsv::line(header);

@@ -62,6 +62,8 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     /** Empty if the row has no name. */
     QString getRowName(int row) const { return mRowHeaders.value(row); }
     const QStringList& getRowNames() const { return mRowHeaders; }
+    /** Empty if the column has no name. */
+    QString getColumnName(int column) const { return mColumnOfHeader.key(column); }
     QString getRowTooltip(int row) const { return mRowTooltips.value(row); }
     /** Number of the first row of that name; -1 if there is none. */
     int findRow(const QString& rowHeader) const { return mRowOfHeader.value(rowHeader, -1); }

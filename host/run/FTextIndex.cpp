@@ -61,22 +61,29 @@ Count countIn(std::string_view text) {
 
 }  // namespace
 
-FTextIndex::FTextIndex(std::string_view text) : mText(text) {
-    const qint64 size = static_cast<qint64>(text.size());
-    const size_t blocks = static_cast<size_t>(size / blockSize) + 1;
+FTextIndex::FTextIndex(std::string_view text) {
+    const size_t blocks = text.size() / static_cast<size_t>(blockSize) + 1;
     mLines.reserve(blocks);
     mUnits.reserve(blocks);
-    qint64 lines = 0;
-    qint64 units = 0;
-    for (qint64 begin = 0; begin <= size; begin += blockSize) {
-        const std::string_view part = block(begin, std::min(begin + blockSize, size));
-        mLines.push_back(lines);
-        mUnits.push_back(units);
+    extend(text, static_cast<qint64>(text.size()));
+}
+
+// The last block is counted again each time, since it may have been incomplete.
+bool FTextIndex::extend(std::string_view text, qint64 bytes) {
+    const qint64 size = static_cast<qint64>(text.size());
+    const qint64 end = size - this->size() <= bytes ? size : (this->size() + bytes) / blockSize * blockSize;
+    mText = text.substr(0, static_cast<size_t>(end));
+    for (qint64 begin = static_cast<qint64>(mLines.size() - 1) * blockSize; begin < end; begin += blockSize) {
+        const std::string_view part = block(begin, std::min(begin + blockSize, end));
         const Count count = countIn(part);
-        lines += count.lineFeeds;
-        units += count.isAscii ? static_cast<qint64>(part.size()) : FUtf8::utf16Length(part);
         mAscii = mAscii && count.isAscii;
+        if (static_cast<qint64>(part.size()) == blockSize) {
+            mLines.push_back(mLines.back() + count.lineFeeds);
+            mUnits.push_back(mUnits.back() +
+                             (count.isAscii ? static_cast<qint64>(part.size()) : FUtf8::utf16Length(part)));
+        }
     }
+    return end == size;
 }
 
 std::string_view FTextIndex::block(qint64 begin, qint64 end) const {
@@ -133,4 +140,25 @@ qint64 FTextIndex::lineFeed(qint64 offset) const {
 qint64 FTextIndex::utf16InText(qint64 offset) const {
     const qint64 number = offset / blockSize;
     return mUnits[static_cast<size_t>(number)] + FUtf8::utf16Length(block(number * blockSize, offset));
+}
+
+qint64 FTextIndex::offsetOfUtf16(qint64 unit) const {
+    if (mAscii) {
+        return std::min(unit, size());
+    }
+    const auto above = std::upper_bound(mUnits.begin(), mUnits.end(), unit);
+    const qint64 number = above - mUnits.begin() - 1;
+    qint64 offset = number * blockSize;
+    while (offset < size() && FUtf8::isContinuation(mText[static_cast<size_t>(offset)])) {
+        ++offset;
+    }
+    for (qint64 at = mUnits[static_cast<size_t>(number)]; offset < size();) {
+        qint64 after = offset;
+        at += QChar::requiresSurrogates(FUtf8::next(mText, after)) ? 2 : 1;
+        if (at > unit) {
+            break;
+        }
+        offset = after;
+    }
+    return offset;
 }

@@ -15,7 +15,7 @@ class MERIX_EXPORT FListView : public QTreeView {
     /** Sets the widths of all columns but the last, in characters. */
     void setWidths(const QList<int>& characters);
     /** The selected rows, with tabs between the columns; all rows if none is selected. */
-    QString toText() const;
+    virtual QString toText() const;
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;

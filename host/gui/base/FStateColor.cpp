@@ -22,3 +22,18 @@ QColor FStateColor::of(State state) {
     }
     return dark ? QColor(0xa5, 0xa9, 0xad) : QColor(0x5f, 0x63, 0x68);
 }
+
+QColor FStateColor::backgroundOf(State state) {
+    const bool dark = isDark();
+    switch (state) {
+        case State::Good:
+            return dark ? QColor(0x24, 0x40, 0x2b) : QColor(0xd5, 0xec, 0xd9);
+        case State::Warning:
+            return dark ? QColor(0x4d, 0x3e, 0x17) : QColor(0xff, 0xf1, 0xcc);
+        case State::Bad:
+            return dark ? QColor(0x54, 0x2a, 0x28) : QColor(0xfb, 0xdc, 0xda);
+        case State::Secondary:
+            break;
+    }
+    return QGuiApplication::palette().color(QPalette::AlternateBase);
+}

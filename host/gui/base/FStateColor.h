@@ -18,6 +18,8 @@ enum class State {
 };
 
 MERIX_EXPORT QColor of(State state);
+/** A background of that state, on which ordinary text is readable. */
+MERIX_EXPORT QColor backgroundOf(State state);
 /** Whether the program's palette is a dark one. */
 MERIX_EXPORT bool isDark();
 

@@ -3,11 +3,11 @@
 #include "host/core/FChanges.h"
 #include "host/core/FNull.h"
 #include "host/core/FStandardOutput.h"
+#include "host/gui/base/FFixedFont.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/fields/FScriptCompleter.h"
 #include "host/script/FCmdType.h"
 
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -29,7 +29,7 @@ bool isWordCharacter(QChar character) {
 
 FConsole::FConsole(Runner runner)
     : mRunner(std::move(runner)), mpOutput(new QPlainTextEdit(this)), mpLine(new QLineEdit(this)) {
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFont fixed = FFixedFont::get();
     mpOutput->setObjectName(QStringLiteral("consoleOutput"));
     mpOutput->setAccessibleName(QStringLiteral("Output of the console"));
     mpOutput->setReadOnly(true);

@@ -1,10 +1,10 @@
 #include "host/gui/panels/FHelpPanel.h"
 
 #include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FFixedFont.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FCmdReference.h"
 
-#include <QFontDatabase>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSplitter>
@@ -60,7 +60,7 @@ void FHelpPanel::showTopic(const QString& topic) {
         search(QString());
     }
     const FCmdReference reference(topic);
-    mpText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    mpText->setFont(FFixedFont::get());
     mpText->setPlainText(topic.isEmpty()       ? QString()
                          : reference.isEmpty() ? reference.unknownName()
                                                : reference.toText());

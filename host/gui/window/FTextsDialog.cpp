@@ -1,7 +1,8 @@
 #include "host/gui/window/FTextsDialog.h"
 
+#include "host/gui/base/FFixedFont.h"
+
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QSplitter>
@@ -19,7 +20,7 @@ FTextsDialog::FTextsDialog(const QString& title, const QMap<QString, QString>& t
     mpText->setReadOnly(true);
     mpText->setTabChangesFocus(true);
     mpText->setLineWrapMode(QPlainTextEdit::NoWrap);
-    mpText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    mpText->setFont(FFixedFont::get());
     auto* split = new QSplitter(this);
     split->addWidget(mpNames);
     split->addWidget(mpText);

@@ -6,6 +6,7 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
+#include "host/gui/panels/FTablePanel.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
@@ -32,6 +33,10 @@ bool hasComputation(const FSituation& now) {
 
 bool canRun(const FSituation& now) {
     return now.computation && !now.isRunning;
+}
+
+bool hasResults(const FSituation& now) {
+    return now.hasResults;
 }
 
 bool isRunning(const FSituation& now) {
@@ -100,10 +105,13 @@ void preview(FMainWindow& window) {
     }
 }
 
+FTablePanel* openResults(FMainWindow& window) {
+    const FExternComputation* computation = window.runTarget().get();
+    return computation ? window.openResults(FExpr<FResultsGeneric>(computation->getCurrentResults())) : nullptr;
+}
+
 void showResults(FMainWindow& window) {
-    if (const FExternComputation* computation = window.runTarget().get()) {
-        window.showResults(FExpr<FResultsGeneric>(computation->getCurrentResults()));
-    }
+    openResults(window);
 }
 
 void rename(FMainWindow& window) {
@@ -212,9 +220,22 @@ std::vector<FActionRow> makeRows() {
          [](const FSituation& now) { return now.canReread; }, &reread},
         {"preview", "&Run", 1, "&Preview input files", "document-preview", "Ctrl+P",
          "Show the input files as a run would write them", false, &hasComputation, &preview},
-        {"showResults", "&Run", 1, "Show resul&ts", "office-chart-bar", "Ctrl+T",
-         "Show the numbers that were read from the output files", false,
-         [](const FSituation& now) { return now.hasResults; }, &showResults},
+        {"showResults", "Resul&ts", 0, "&Show results", "results", "Ctrl+T",
+         "Show the numbers that were read from the output files", false, &hasResults, &showResults},
+        {"compareResults", "Resul&ts", 0, "&Compare with the run before", "view-split-left-right", "Ctrl+Shift+T",
+         "Show the numbers of the run before beside those of the last one", false, &hasResults,
+         [](FMainWindow& window) {
+             if (FTablePanel* panel = openResults(window)) {
+                 panel->compare(true);
+             }
+         }},
+        {"exportResults", "Resul&ts", 1, "&Export results as CSV…", "document-export", "Ctrl+Shift+E",
+         "Write the numbers, with their places, to a file for spreadsheets", false, &hasResults,
+         [](FMainWindow& window) {
+             if (FTablePanel* panel = openResults(window)) {
+                 panel->exportCsv();
+             }
+         }},
 
         {"help", "&Help", 0, "&Help", "help-contents", "F1", "Show the reference of the selected object's class", false,
          nullptr, &helpOnSelection},

@@ -14,6 +14,8 @@
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FProblemModel.h"
 #include "host/gui/panels/FProblemsPanel.h"
+#include "host/gui/panels/FTablePanel.h"
+#include "host/gui/text/FOutputDocument.h"
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFindField.h"
@@ -202,6 +204,7 @@ void FMainWindow::listen() {
     connect(changes, &FChanges::projectOpened, this, refreshSoon);
     connect(changes, &FChanges::projectSaved, this, refreshSoon);
     connect(changes, &FChanges::projectClosed, this, refreshSoon);
+    connect(changes, &FChanges::projectClosed, mpDocuments, &FDocumentTabs::closeAll);
     connect(changes, &FChanges::stepDropped, this, refreshSoon);
     connect(&mUnsaved, &FUnsavedWork::changed, this, refreshSoon);
     connect(&mRunTarget, &FRunTarget::changed, this, refreshSoon);
@@ -295,7 +298,15 @@ void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
 }
 
 void FMainWindow::showFile(const Place& place) {
-    Q_UNUSED(place)
+    const QFileInfo file(place.file);
+    const QString path = file.absoluteFilePath();
+    QWidget* document =
+        mpDocuments->open(QStringLiteral("file:") + path, file.fileName(),
+                          FIcons::get(QStringLiteral("text-x-generic")), [&path] { return new FOutputDocument(path); });
+    if (auto* output = qobject_cast<FOutputDocument*>(document)) {
+        output->showPlace(place.line, place.column, place.length, place.reason);
+        output->setFocus();
+    }
 }
 
 void FMainWindow::showTemplate(FManaged* file, int line, int column) {
@@ -305,7 +316,23 @@ void FMainWindow::showTemplate(FManaged* file, int line, int column) {
 }
 
 void FMainWindow::showResults(const FExpr<FResultsGeneric>& results) {
-    Q_UNUSED(results)
+    openResults(results);
+}
+
+FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
+    if (!results) {
+        return nullptr;
+    }
+    const QString key = FTablePanel::keyOf(results);
+    QWidget* document =
+        mpDocuments->open(key, FTablePanel::titleOf(results), FIcons::get(QStringLiteral("results")), [&] {
+            auto* panel = new FTablePanel(*this, results);
+            connect(
+                panel, &FTablePanel::gone, this, [this, key] { mpDocuments->close(key); }, Qt::QueuedConnection);
+            return panel;
+        });
+    document->setFocus();
+    return qobject_cast<FTablePanel*>(document);
 }
 
 void FMainWindow::showHelp(const QString& topic) {

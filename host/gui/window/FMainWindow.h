@@ -18,6 +18,7 @@ class FFindField;
 class FNoticeBar;
 class FProjectFiles;
 class FStartPage;
+class FTablePanel;
 class QDockWidget;
 class QLabel;
 class QStackedWidget;
@@ -48,6 +49,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     /** Shows the panel in front of others, and gives it the focus. */
     void raisePanel(const QString& id);
     void focusFind();
+    /** Shows results as a document; null for empty ones. */
+    FTablePanel* openResults(const FExpr<FResultsGeneric>& results);
     /** Executes a function during which scripts may wait for runs: the window then takes no input but Stop. */
     void executeLocked(const std::function<void()>& function);
     /** Shows a text in Markdown in the help panel. */

@@ -6,6 +6,7 @@
 #include "host/gui/panels/FObjectEditorPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FProblemsPanel.h"
+#include "host/gui/panels/FRunPanel.h"
 #include "host/gui/panels/FUndoPanel.h"
 #include "host/gui/window/FMainWindow.h"
 
@@ -23,6 +24,8 @@ const std::vector<FPanelRow>& FPanelTable::rows() {
     static const std::vector<FPanelRow> table{
         {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1", "objectTree",
          [](FMainWindow& window) -> QWidget* { return new FObjectTreeWgt(window); }},
+        {"runs", "Runs", "media-playback-start", Qt::BottomDockWidgetArea, "Ctrl+3", "runList",
+         [](FMainWindow& window) -> QWidget* { return new FRunPanel(window); }},
         {"problems", "Problems", "dialog-warning", Qt::BottomDockWidgetArea, "Ctrl+4", "problemList",
          [](FMainWindow& window) -> QWidget* { return new FProblemsPanel(window); }},
         {"log", "Log", "view-list-text", Qt::BottomDockWidgetArea, "Ctrl+5", "logList",

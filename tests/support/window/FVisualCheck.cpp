@@ -173,7 +173,8 @@ void FVisualCheck::checkTabs() {
     const int most = mWindow.findChildren<QWidget*>().size();
     for (int step = 0; step < most; ++step) {
         QWidget* now = QApplication::focusWidget();
-        if (!now || reached.contains(now)) {
+        // In a text, Tab goes from link to link first.
+        if (!now || (now != before && reached.contains(now))) {
             break;
         }
         reached.insert(now);

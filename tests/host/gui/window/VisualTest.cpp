@@ -1,12 +1,17 @@
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FTextsDialog.h"
+#include "host/run/FExternComputation.h"
+#include "host/run/FPathManager.h"
+#include "tests/support/FTestFolder.h"
 #include "tests/support/window/FVisualCheck.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QApplication>
+#include <QToolButton>
 
 #include <functional>
 
@@ -44,7 +49,41 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
         }
     }
 
+    /** A run with a suspicious number and one that is missing, one that failed, and one in progress. */
+    void showRunsAndDocuments() {
+        FMerixCtrl::instance()->setProjectFile(mFolder.path("p.mrx"));
+        const QString start = "solver.setArguments([\"-c\", \"%1\"])\nsolver.run()";
+        ASSERT_TRUE(
+            run("genericIntegrationResultsFile out() { .setFileName(\"out.txt\") .setValues([\n"
+                "[\"frequency\", 0, 0, \"f =\", First, \"FDouble\", \"\", 0, NULL],\n"
+                "[\"lift\", 0, 0, \"l =\", First, \"FDouble\", \"\", 0, NULL],\n"
+                "[\"mass\", 90, 0, \"m =\", First, \"FDouble\", \"\", 0, NULL]]) }\n"
+                "genericIntegrationDefinition d() { .setFiles([out]) }\n"
+                "genericIntegrationConfiguration c() { .setDefinition(d) }\n"
+                "solver.setConfiguration(c)\nsolver.setExecutable(\"sh\")"));
+        EXPECT_TRUE(run(start.arg("echo l = -0.5 > out.txt; echo f = 1.25D+01 >> out.txt")));
+        run(start.arg("echo ERROR: no such material EL; exit 3"));
+        EXPECT_TRUE(run(start.arg("echo l = 0.25 > out.txt; echo f = 1.5D+01 >> out.txt")));
+        trigger("showResults");
+        trigger("compareResults");
+        check(window(), "results");
+        window().showFile({FPathManager::instance()->getResultPath({}, {}) + "out.txt", 2, 5, 3,
+                           "\"frequency\" is followed by D+01"});
+        settle();
+        find("findInFile")->setFocus();
+        find<QToolButton>("findInFile")->click();
+        check(window(), "file");
+        ASSERT_TRUE(run("solver.setTimeLimit(60)\nsolver.setArguments([\"-c\", \"echo working; sleep 60\"])"));
+        trigger("run");
+        openPanel("runs");
+        ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("solver")->getLastRun().start.isValid(); }));
+        check(window(), "running");
+        trigger("stop");
+        ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("solver")->canRun(); }));
+    }
+
  private:
+    FTestFolder mFolder;
     QFont mUsual;
 };
 
@@ -64,6 +103,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
         openPanel(QString::fromLatin1(row.id));
         check(window(), QString::fromLatin1(row.id));
     }
+    showRunsAndDocuments();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());
     texts.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FExpr.h"
+#include "host/core/FQueuedCall.h"
+#include "host/run/FRunRecord.h"
+
+#include <QAbstractTableModel>
+#include <QTimer>
+
+#include <deque>
+#include <memory>
+
+class FExternComputation;
+
+/**
+ * The runs of all computations in this session, the newest first, and the last run that is stored for each computation
+ * of the project.
+ */
+class MERIX_EXPORT FRunModel : public QAbstractTableModel {
+    Q_OBJECT
+
+ public:
+    /** Runs beyond that number push out the oldest. */
+    static constexpr std::size_t most = 1000;
+    enum Column { runColumn, stateColumn, startColumn, tookColumn, saidColumn, columns };
+
+    FRunModel();
+
+    const FRunRecord& record(int row) const { return *attempt(row).record; }
+    /** Null if it is no longer in the model. */
+    FExternComputation* computation(int row) const;
+    /** Where the files of the run are, with a slash at the end; empty if later runs have replaced them. */
+    QString folderOf(int row) const;
+    /** Whether the run is the last one of its computation, so that its results are the present ones. */
+    bool isLast(int row) const;
+    bool isStopping(int row) const { return attempt(row).isStopping; }
+    /** Requests the end of a run. */
+    void stop(int row);
+    /** Seconds since the start of a run, or that it took; below 0 if its program wasn't started. */
+    double secondsOf(int row) const;
+    /** The time limit in seconds that the run has; 0 for none. */
+    double timeLimitOf(int row) const { return attempt(row).timeLimit; }
+    /** A time as users read it: "0.8 s", "2 min 05 s". */
+    static QString timeText(double seconds);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+    struct Attempt {
+        int number = 0;  //!< 0 for a run of an earlier session
+        std::shared_ptr<const FRunRecord> record{};
+        FExpr<FExternComputation> computation{};
+        QString earlier{};  //!< where the next run moves the files
+        double timeLimit = 0;
+        bool isStopping = false;
+        bool isSummarized = false;
+        QString said{};
+    };
+
+    const Attempt& attempt(int row) const { return mAttempts[static_cast<std::size_t>(row)]; }
+    void follow(FExternComputation* computation);
+    void add(FExternComputation* computation, const std::shared_ptr<const FRunRecord>& record, int number);
+    void addStored();
+    void clear();
+    void rowChanged(int row);
+    void tick();
+    /** Reads what runs that have ended have to say, which may take a while for large files. */
+    void summarize();
+    QString stateText(const FRunRecord& record, bool isStopping) const;
+    QString textOf(int row, int column) const;
+
+    std::deque<Attempt> mAttempts;
+    int mNumber = 0;
+    QTimer mClock;
+    FQueuedCall mSummarize{[this] { summarize(); }};
+};

@@ -1,0 +1,300 @@
+#include "host/gui/panels/FTablePanel.h"
+
+#include "host/core/FChanges.h"
+#include "host/core/FClipboard.h"
+#include "host/core/FHistory.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FSavedFile.h"
+#include "host/core/FUserInterface.h"
+#include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FListView.h"
+#include "host/gui/panels/FTableModel.h"
+#include "host/run/FExternComputation.h"
+#include "host/run/FNumberCheck.h"
+#include "host/run/FPathManager.h"
+#include "host/run/FResultsGeneric.h"
+#include "host/run/FValueSummary.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+/** Copies rows as CSV. */
+class FTableView : public FListView {
+ public:
+    FTableView(FTableModel* model, QWidget* parent)
+        : FListView(QStringLiteral("resultTable"), QStringLiteral("Results"), model, parent), mpModel(model) {}
+
+    QString toText() const override { return mpModel->toCsv(selectionModel()->selectedRows()); }
+
+ private:
+    FTableModel* mpModel;
+};
+
+bool isCurrent(const FResultsGeneric& results) {
+    const FExpr<FExternComputation> computation = results.getComputation();
+    return computation && computation->getCurrentResults().ptr() == &results;
+}
+
+}  // namespace
+
+QString FTablePanel::keyOf(const FExpr<FResultsGeneric>& results) {
+    const FManaged* shown = results.ptr();
+    if (shown && isCurrent(*results.ptr())) {
+        shown = results->getComputation().ptr();
+    }
+    return shown ? QStringLiteral("results:%1").arg(shown->getDbId()) : QString();
+}
+
+QString FTablePanel::titleOf(const FExpr<FResultsGeneric>& results) {
+    return isCurrent(*results.ptr()) ? QStringLiteral("Results of %1").arg(results->getComputation()->getName())
+                                     : results->getName();
+}
+
+FTablePanel::FTablePanel(FNavigator& navigator, const FExpr<FResultsGeneric>& results)
+    : mNavigator(navigator),
+      mComputation(isCurrent(*results.ptr()) ? results->getComputation() : FExpr<FExternComputation>()),
+      mResultsId(mComputation ? 0 : results->getDbId()),
+      mpSign(new QLabel(this)),
+      mpState(new QLabel(this)),
+      mpTable(new QComboBox(this)),
+      mpModel(new FTableModel) {
+    setObjectName(QStringLiteral("results"));
+    mpModel->setParent(this);
+    auto* header = new QHBoxLayout;
+    makeHeader(*header);
+    mpView = new FTableView(mpModel, this);  // Tab follows the order of creation
+    new FEmptyHint(mpView, QStringLiteral("Numbers appear here when a run has written the output files"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(header);
+    column->addWidget(mpView, 1);
+    connect(mpView, &QTreeView::clicked, this, &FTablePanel::showPlace);
+    connect(mpView, &QTreeView::activated, this, &FTablePanel::showPlace);
+    connect(mpTable, QOverload<int>::of(&QComboBox::activated), this, &FTablePanel::showTable);
+
+    const FChanges* changes = FChanges::instance();
+    const auto refreshSoon = [this] { mRefresh.request(); };
+    connect(changes, &FChanges::objectChanged, this, refreshSoon);
+    connect(changes, &FChanges::objectLeft, this, refreshSoon);
+    connect(changes, &FChanges::objectRenamed, this, refreshSoon);
+    connect(changes, &FChanges::stepUndone, this, refreshSoon);
+    connect(changes, &FChanges::stepRedone, this, refreshSoon);
+    refresh();
+}
+
+void FTablePanel::makeHeader(QHBoxLayout& row) {
+    const int margin = fontMetrics().height() / 4;
+    row.setContentsMargins(margin, margin, margin, margin);
+    row.setSpacing(margin);
+    row.addWidget(mpSign);
+    mpState->setObjectName(QStringLiteral("resultState"));
+    mpState->setWordWrap(true);
+    mpState->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    row.addWidget(mpState, 1);
+    mpTable->setObjectName(QStringLiteral("resultFile"));
+    mpTable->setAccessibleName(QStringLiteral("Output file"));
+    mpTable->setToolTip(QStringLiteral("The file whose numbers are shown"));
+    row.addWidget(mpTable);
+    mpCompare = addButton(row, QStringLiteral("compareResults"), QStringLiteral("view-split-left-right"),
+                          QStringLiteral("Show the numbers of the run before beside these"));
+    mpCompare->setCheckable(true);
+    connect(mpCompare, &QToolButton::clicked, this, &FTablePanel::compare);
+    const QToolButton* copy = addButton(row, QStringLiteral("copyResults"), QStringLiteral("edit-copy"),
+                                        QStringLiteral("Copy the selected rows, or all, as CSV (Ctrl+C)"));
+    connect(copy, &QToolButton::clicked, this, [this] { FClipboard::setText(mpView->toText()); });
+    const QToolButton* save = addButton(row, QStringLiteral("exportTable"), QStringLiteral("document-export"),
+                                        QStringLiteral("Write the results to a CSV file"));
+    connect(save, &QToolButton::clicked, this, &FTablePanel::exportCsv);
+}
+
+// Not a focus proxy, with which Tab would pass over the header.
+void FTablePanel::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    mpView->setFocus();
+}
+
+QToolButton* FTablePanel::addButton(QHBoxLayout& row, const QString& id, const QString& icon, const QString& tip) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(id);
+    button->setAutoRaise(true);
+    button->setIcon(FIcons::get(icon));
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    row.addWidget(button);
+    return button;
+}
+
+FResultsGeneric* FTablePanel::results() const {
+    FManaged* object =
+        mComputation ? mComputation->getCurrentResults().ptr() : FObjectManager::instance()->find(mResultsId);
+    return dynamic_cast<FResultsGeneric*>(object);
+}
+
+// While a run is in progress, the numbers of the run before stay.
+void FTablePanel::refresh() {
+    FResultsGeneric* shown = results();
+    if (!shown) {
+        mTables.clear();
+        mBefore.clear();
+        showTable();
+        showState();
+        if (!mComputation) {
+            emit gone();
+        }
+        return;
+    }
+    if (shown->prepareResults() && mTables != shown->tables()) {
+        mTables = shown->tables();
+        if (mpCompare->isChecked()) {
+            readBefore();
+        }
+        const QString before = mpTable->currentText();
+        mpTable->clear();
+        for (const FExpr<FTableData>& table : qAsConst(mTables)) {
+            mpTable->addItem(table->getName());
+        }
+        mpTable->setCurrentIndex(std::max(mpTable->findText(before), 0));
+        showTable();
+    }
+    mpTable->setVisible(mTables.size() > 1);
+    showState();
+}
+
+void FTablePanel::showTable() {
+    const int number = mpTable->currentIndex();
+    mpModel->setTable(mTables.value(number), mBefore.value(number), accepted());
+    bool hasParts = false;
+    for (int row = 0; row < mpModel->rowCount() && !hasParts; ++row) {
+        hasParts = mpModel->rowCount(mpModel->index(row, 0)) > 0;
+    }
+    mpView->setRootIsDecorated(hasParts);
+    for (int column = 0; column + 1 < mpModel->columnCount(); ++column) {
+        mpView->resizeColumnToContents(column);
+        const int gap = 2 * fontMetrics().averageCharWidth();
+        mpView->header()->resizeSection(column, mpView->header()->sectionSize(column) + gap);
+    }
+}
+
+FNumberFlags FTablePanel::accepted() const {
+    const FResultsGeneric* shown = results();
+    const FExpr<FExternComputation> computation = shown ? shown->getComputation() : FExpr<FExternComputation>();
+    return computation ? FNumberCheck::accepted(computation->getSuccessRules()) : FNumberFlags();
+}
+
+void FTablePanel::showState() {
+    const FResultsGeneric* shown = results();
+    const std::shared_ptr<const FRunRecord> run = shown ? shown->getRun() : nullptr;
+    if (!run) {
+        mpSign->hide();
+        mpState->setText(shown ? FValueSummary(mTables, accepted()).toText() : QStringLiteral("No results"));
+        return;
+    }
+    const QString state = shown->getStateText();
+    const FValueSummary summary(mTables, accepted());
+    QString text = state.left(1).toUpper() + state.mid(1);
+    if (!run->isOver()) {
+        text += mTables.isEmpty() ? QString() : QStringLiteral("; the numbers are those of the run before");
+    } else {
+        text += QStringLiteral(". %1.").arg(summary.toText());
+    }
+    mpState->setText(text);
+    const bool isGood = run->isSuccess() && state == run->stateName() && summary.first.isEmpty();
+    const int size = fontMetrics().height();
+    mpSign->setPixmap(FIcons::get(isGood             ? QStringLiteral("dialog-ok-apply")
+                                  : !run->isOver()   ? QStringLiteral("media-playback-start")
+                                  : run->isSuccess() ? QStringLiteral("dialog-warning")
+                                                     : QStringLiteral("dialog-error"))
+                          .pixmap(size, size));
+    mpSign->show();
+}
+
+void FTablePanel::showPlace(const QModelIndex& index) {
+    const FResultsGeneric* shown = results();
+    const QString folder = shown ? shown->getResultPath() : QString();
+    FNavigator::Place place = mpModel->placeOf(index);
+    if (folder.isEmpty() || !QFileInfo::exists(folder + place.file)) {
+        mNavigator.showStatus(QStringLiteral("The file %1 of this run is gone").arg(place.file));
+        return;
+    }
+    place.file = folder + place.file;
+    mNavigator.showFile(place);
+}
+
+// ---- comparison ----
+
+void FTablePanel::compare(bool isCompared) {
+    if (isCompared) {
+        readBefore();
+    } else {
+        mBefore.clear();
+    }
+    mpCompare->setChecked(!mBefore.isEmpty());
+    showTable();
+    if (isCompared && mBefore.isEmpty()) {
+        mNavigator.showStatus(QStringLiteral("There is no run before whose files are left"));
+    }
+}
+
+// Read with the present marks. The results are made for it, and only their tables stay.
+void FTablePanel::readBefore() {
+    mBefore.clear();
+    const FResultsGeneric* shown = results();
+    const FExpr<FExternComputation> computation = shown ? shown->getComputation() : FExpr<FExternComputation>();
+    if (!computation || !mComputation) {
+        return;
+    }
+    const QString folder = FPathManager::instance()->getEarlierDir(computation, computation->getDesign());
+    if (!QDir(folder).exists()) {
+        return;
+    }
+    const FHistoryBlocker blocker;
+    const FExpr<FComputationResults> earlier = computation->readFolder(folder + QLatin1Char('/'));
+    const auto* read = dynamic_cast<const FResultsGeneric*>(earlier.ptr());
+    if (!read) {
+        return;
+    }
+    if (read->readSilently()) {
+        for (const FExpr<FTableData>& table : qAsConst(mTables)) {
+            const auto same = std::find_if(read->tables().begin(), read->tables().end(),
+                                           [&](const auto& other) { return other->getName() == table->getName(); });
+            mBefore.append(same == read->tables().end() ? FExpr<FTableData>(new FTableData) : *same);
+        }
+    }
+    FManaged::destroy(earlier.ptr(), false);
+}
+
+// ---- export ----
+
+QString FTablePanel::toCsv() const {
+    QString text;
+    for (int number = 0; number < mTables.size(); ++number) {
+        FTableModel table;
+        table.setTable(mTables.at(number), mBefore.value(number), accepted());
+        text += mTables.size() > 1 ? mTables.at(number)->getName() + QLatin1Char('\n') : QString();
+        text += table.toCsv({});
+    }
+    return text;
+}
+
+void FTablePanel::exportCsv() {
+    const QString start = FPathManager::getProjectDir() + QStringLiteral("/results.csv");
+    const QString path = FUserInterface::instance()->askSaveFile(QStringLiteral("Export results as CSV"), start,
+                                                                 QStringLiteral("Comma-separated values (*.csv)"));
+    if (path.isEmpty()) {
+        return;
+    }
+    const QString fault = FSavedFile::write(path, toCsv().toUtf8());
+    if (fault.isEmpty()) {
+        mNavigator.showStatus(QStringLiteral("Exported %1").arg(QDir::toNativeSeparators(path)));
+    } else {
+        FUserInterface::instance()->tell(QString(), QStringLiteral("Can't write %1: %2").arg(path, fault));
+    }
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/core/FExport.h"
+#include "host/core/FQueuedCall.h"
+#include "host/gui/base/FNavigator.h"
+#include "host/run/FTableData.h"
+
+#include <QWidget>
+
+class FExternComputation;
+class FListView;
+class FTableModel;
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+class QToolButton;
+
+/**
+ * The tables of results, with the state of the run that they come from. The panel of a computation's present results
+ * shows those of each further run when it has ended.
+ */
+class MERIX_EXPORT FTablePanel : public QWidget {
+    Q_OBJECT
+
+ public:
+    FTablePanel(FNavigator& navigator, const FExpr<FResultsGeneric>& results);
+
+    FTableModel& model() { return *mpModel; }
+    /** Shows the numbers of the run before beside these, or no longer. */
+    void compare(bool isCompared);
+    /** Asks for a file, and writes all tables to it. */
+    void exportCsv();
+
+    /** A text that is the same for results that the same panel shows; null for empty results. */
+    static QString keyOf(const FExpr<FResultsGeneric>& results);
+    static QString titleOf(const FExpr<FResultsGeneric>& results);
+
+ signals:
+    /** The results and their computation are no longer in the model. */
+    void gone();
+
+ protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+ private:
+    void makeHeader(QHBoxLayout& row);
+    QToolButton* addButton(QHBoxLayout& row, const QString& id, const QString& icon, const QString& tip);
+    FResultsGeneric* results() const;
+    /** Reads what isn't read yet, and shows it. */
+    void refresh();
+    void readBefore();
+    void showTable();
+    void showState();
+    void showPlace(const QModelIndex& index);
+    FNumberFlags accepted() const;
+    /** All tables, one below the other. */
+    QString toCsv() const;
+
+    FNavigator& mNavigator;
+    FExpr<FExternComputation> mComputation;  //!< whose present results are shown; empty for others
+    int mResultsId;  //!< 0 for present ones; not a handle, which would keep results of earlier runs
+    QList<FExpr<FTableData>> mTables;
+    QList<FExpr<FTableData>> mBefore;
+    QLabel* mpSign;
+    QLabel* mpState;
+    QComboBox* mpTable;
+    QToolButton* mpCompare = nullptr;
+    FTableModel* mpModel;
+    FListView* mpView = nullptr;
+    FQueuedCall mRefresh{[this] { refresh(); }};
+};

@@ -1,0 +1,142 @@
+#include "host/gui/panels/FRunPanel.h"
+
+#include "host/core/FMerixCtrl.h"
+#include "host/gui/base/FListView.h"
+#include "host/gui/panels/FRunModel.h"
+#include "host/gui/panels/FRunTail.h"
+#include "host/gui/text/FOutputDocument.h"
+#include "host/gui/text/FOutputViewer.h"
+#include "host/gui/window/FDocumentTabs.h"
+#include "host/run/FExternComputation.h"
+#include "host/script/FProject.h"
+#include "tests/support/FTestFolder.h"
+#include "tests/support/window/FWindowTest.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <QTextBrowser>
+#include <QToolButton>
+
+namespace {
+
+/** A computation that runs a line of the shell; its output file has one value. */
+const char* const setUp = R"(
+genericIntegrationResultsFile out() {
+    .setFileName("out.txt")
+    .setContent("speed = 1.5")
+    .setValues([["speed", 0, 0, "speed =", First, "FDouble", "", 0, NULL]])
+}
+genericIntegrationDefinition d() { .setFiles([out]) }
+genericIntegrationConfiguration c() { .setDefinition(d) }
+genericIntegrationComputation solver() { .setConfiguration(c) .setExecutable("sh") }
+)";
+
+class FRunPanelTest : public FWindowTest {
+ public:
+    FRunPanelTest() {
+        FMerixCtrl::instance()->setProjectFile(folder.path("p.mrx"));
+        EXPECT_TRUE(FWindowTest::run(setUp));
+        openPanel("runs");
+    }
+
+    FRunModel& model() { return dynamic_cast<FRunPanel*>(window().panel("runs"))->model(); }
+    FExternComputation* solver() { return object<FExternComputation>("solver"); }
+    void start(const QString& command) {
+        EXPECT_TRUE(FWindowTest::run(QString("solver.setArguments([\"-c\", \"%1\"])").arg(command)));
+        trigger("run");
+    }
+    void waitForEnd() {
+        EXPECT_TRUE(waitUntil([&] { return solver()->canRun(); }));
+        settle();
+    }
+    QString cell(int row, FRunModel::Column column) { return model().index(row, column).data().toString(); }
+    QString details() { return find<QTextBrowser>("runText")->toPlainText(); }
+    bool isPossible(const QString& button) { return find<QToolButton>(button)->isEnabled(); }
+
+    FTestFolder folder;
+};
+
+}  // namespace
+
+TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
+    const QAbstractItemModelTester tester(&model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    EXPECT_EQ(model().rowCount(), 0);
+    start("echo speed = 2.5D-01 > out.txt");
+    waitForEnd();
+    EXPECT_EQ(cell(0, FRunModel::runColumn), "solver 1");
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "finished");
+    EXPECT_EQ(cell(0, FRunModel::saidColumn), "1 value, 1 suspicious: speed is followed by D-01 (out.txt:1)");
+    EXPECT_TRUE(cell(0, FRunModel::tookColumn).endsWith(" s"));
+
+    start("echo started; echo; echo 'ERROR: no such material' >&2; exit 3");
+    waitForEnd();
+    ASSERT_EQ(model().rowCount(), 2);
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "failed, exit code 3");
+    EXPECT_EQ(cell(0, FRunModel::saidColumn), "ERROR: no such material (stderr.txt:1)");
+    EXPECT_TRUE(details().contains("exit code 3")) << details().toStdString();
+    EXPECT_TRUE(details().contains("Templates: out")) << details().toStdString();
+    // The place in the words of the program leads to the file.
+    emit find<QTextBrowser>("runText")->anchorClicked(
+        QUrl(QUrl::fromLocalFile(model().folderOf(0) + "stderr.txt").toString() + "#1"));
+    auto* document = qobject_cast<FOutputDocument*>(window().documents().currentWidget());
+    ASSERT_NE(document, nullptr);
+    EXPECT_TRUE(document->viewer().getVisibleText().contains("no such material"));
+
+    // The files of the first run are those of the run before; of older runs none are left.
+    EXPECT_TRUE(QFile::exists(model().folderOf(1) + "out.txt"));
+    trigger("run");
+    waitForEnd();
+    EXPECT_EQ(model().folderOf(2), "");
+    find<FListView>("runList")->setCurrentIndex(model().index(2, 0));
+    EXPECT_TRUE(details().contains("Later runs have replaced")) << details().toStdString();
+    EXPECT_FALSE(isPossible("openRunFolder"));
+    EXPECT_FALSE(isPossible("showRunResults"));
+    EXPECT_TRUE(isPossible("runAgain"));
+}
+
+TEST_F(FRunPanelTest, aRunIsWatchedAndStopped) {
+    ASSERT_TRUE(FWindowTest::run("solver.setTimeLimit(60)"));
+    start("echo working; while test ! -e go; do sleep 0.05; done; echo going on; sleep 60");
+    auto* tail = find<FRunTail>("runOutput");
+    find<QTabWidget>("runDetails")->setCurrentWidget(tail);
+    ASSERT_TRUE(waitUntil([&] { return tail->toPlainText() == "working\n"; }));
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "running");
+    EXPECT_EQ(find<QProgressBar>("runProgress")->maximum(), 60);
+    EXPECT_FALSE(isPossible("runAgain"));
+    EXPECT_TRUE(find("objectTree")->isEnabled());
+    QFile go(solver()->getWorkingPath() + "go");
+    ASSERT_TRUE(go.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(waitUntil([&] { return tail->toPlainText().contains("going on"); }));
+    find<QToolButton>("stopRun")->click();
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "stopping");
+    EXPECT_FALSE(isPossible("stopRun"));
+    waitForEnd();
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "cancelled");
+    EXPECT_EQ(window().findChild<QProgressBar*>("runProgress"), nullptr);
+    find<QToolButton>("runAgain")->click();
+    ASSERT_TRUE(waitUntil([&] { return model().rowCount() == 2; }));
+    // The computation may leave the model during its run.
+    ASSERT_TRUE(FWindowTest::run("destroy(solver)"));
+    ASSERT_TRUE(waitUntil([&] { return cell(0, FRunModel::stateColumn) == "cancelled"; }));
+    EXPECT_FALSE(isPossible("runAgain"));
+}
+
+TEST_F(FRunPanelTest, theStoredRunOfAProjectIsShownWhenItIsOpened) {
+    trigger("saveProject");
+    start("echo speed = 4 > out.txt");
+    waitForEnd();
+    trigger("saveProject");
+    trigger("newProject");
+    EXPECT_EQ(model().rowCount(), 0);
+    ASSERT_TRUE(FProject::instance()->open(folder.path("p.mrx"), false));
+    settle();
+    ASSERT_EQ(model().rowCount(), 1);
+    EXPECT_EQ(cell(0, FRunModel::runColumn), "solver, earlier");
+    EXPECT_EQ(cell(0, FRunModel::stateColumn), "finished");
+    start("echo speed = 5 > out.txt");
+    waitForEnd();
+    EXPECT_EQ(cell(0, FRunModel::runColumn), "solver 1");
+    EXPECT_EQ(model().rowCount(), 2);
+}

@@ -62,9 +62,6 @@ Count countIn(std::string_view text) {
 }  // namespace
 
 FTextIndex::FTextIndex(std::string_view text) {
-    const size_t blocks = text.size() / static_cast<size_t>(blockSize) + 1;
-    mLines.reserve(blocks);
-    mUnits.reserve(blocks);
     extend(text, static_cast<qint64>(text.size()));
 }
 
@@ -73,6 +70,13 @@ bool FTextIndex::extend(std::string_view text, qint64 bytes) {
     const qint64 size = static_cast<qint64>(text.size());
     const qint64 end = size - this->size() <= bytes ? size : (this->size() + bytes) / blockSize * blockSize;
     mText = text.substr(0, static_cast<size_t>(end));
+    // Room for the whole text at once, and some for growth, instead of twice as much as is needed.
+    if (const size_t blocks = text.size() / static_cast<size_t>(blockSize) + 1; blocks > mLines.capacity()) {
+        constexpr size_t part = 8;
+        const size_t room = mLines.capacity() == 1 ? blocks : blocks + blocks / part;
+        mLines.reserve(room);
+        mUnits.reserve(room);
+    }
     for (qint64 begin = static_cast<qint64>(mLines.size() - 1) * blockSize; begin < end; begin += blockSize) {
         const std::string_view part = block(begin, std::min(begin + blockSize, end));
         const Count count = countIn(part);

@@ -76,7 +76,10 @@ FRunPanel::FRunPanel(FNavigator& navigator)
       mpSplitter(new QSplitter(this)) {
     mpModel->setParent(this);
     mpView->setSelectionMode(QAbstractItemView::SingleSelection);
-    mpView->setWidths({18, 24, 12, 12});
+    for (const int column :
+         {FRunModel::runColumn, FRunModel::stateColumn, FRunModel::startColumn, FRunModel::tookColumn}) {
+        mpView->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
     new FEmptyHint(mpView, QStringLiteral("Runs appear here; F5 starts one"));
     mpSplitter->setObjectName(QStringLiteral("runSplitter"));
     mpSplitter->setChildrenCollapsible(false);

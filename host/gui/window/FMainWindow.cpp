@@ -255,6 +255,11 @@ void FMainWindow::resetLayout() {
     for (QDockWidget* dock : mDocks) {
         dock->show();
     }
+    // Of each area, the first panel ends in front.
+    const std::vector<FPanelRow>& rows = FPanelTable::rows();
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        dockOf(QString::fromLatin1(row->id))->raise();
+    }
 }
 
 QWidget* FMainWindow::panel(const QString& id) const {

@@ -6,10 +6,14 @@
 
 namespace {
 
+bool isNumber(const FGenIntResultsFileValue& value) {
+    return FTemplateValues::typeOf(value)->isTypeOf(FDouble::null());
+}
+
 /** The class of the value's type; followed by the text if the type isn't a number. */
 QString tooltip(const FGenIntResultsFileValue& value, const QString& text) {
-    const FObject* type = FTemplateValues::typeOf(value);
-    return type->isTypeOf(FDouble::null()) ? type->getClass() : type->getClass() + QLatin1Char('|') + text;
+    const QString type = FTemplateValues::typeOf(value)->getClass();
+    return isNumber(value) ? type : type + QLatin1Char('|') + text;
 }
 
 }  // namespace
@@ -32,6 +36,10 @@ void FValueRows::append(const FGenIntResultsFileValue& value, int number, const 
     origin.valueNumber = number;
     origin.markLine = value.mLine;
     origin.anchor = value.mCalcAverage ? QString() : value.mAnchor;
+    // A text that was found is what such a value is for.
+    if (!isNumber(value) && !text.isEmpty()) {
+        origin.flags &= ~(suspiciousFlags | FNumberFlag::NotANumber);
+    }
 }
 
 void FValueRows::fill(FTableData& table) const {

@@ -143,4 +143,10 @@ FTextChange change(const QString& text, const QString& document) {
     return {start.text, end.text - start.text, insertion.followedBy(old.mid(end.text))};
 }
 
+FTextChange changeOfDocument(const QString& document, const QString& text) {
+    const FPlaces start = commonStart(text, document);
+    const FPlaces end = commonEnd(text, document, start);
+    return {start.document, end.document - start.document, text.mid(start.text, end.text - start.text)};
+}
+
 }  // namespace FLineEnds

@@ -19,4 +19,7 @@ namespace FLineEnds {
  */
 FTextChange change(const QString& text, const QString& document);
 
+/** The smallest change that gives a document the lines of a text, with positions of the document. */
+FTextChange changeOfDocument(const QString& document, const QString& text);
+
 }  // namespace FLineEnds

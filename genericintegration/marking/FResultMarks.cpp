@@ -146,6 +146,9 @@ std::vector<FTextRange> placesOf(const FFoundValue& found, const FResultSample& 
 FResultMarks FResultMarks::of(const FResultSample& sample, const FValueDescription& value,
                               const FSeparatorSettings& separators, const FFoundValue& found) {
     FResultMarks marks = FMarkWalk(sample, value, separators).walk();
+    if (value.average && value.averageRows > mostRows) {
+        return marks;
+    }
     const auto isBefore = [](FTextRange left, FTextRange right) { return left.begin < right.begin; };
     std::vector<FTextRange> marked = marks.columns;
     std::sort(marked.begin(), marked.end(), isBefore);

@@ -16,8 +16,8 @@ struct FValueDescription;
  * reads, its place is among the results, too. None of the ranges is empty.
  */
 struct FResultMarks {
-    /** Rows of an average that are marked, from the end; a longer one is marked in part. */
-    static constexpr int mostRows = 10000;
+    /** Of an average over more rows, only the last ones are marked, and no places of the reader are given. */
+    static constexpr int mostRows = 5000;
 
     // In the order of painting.
     std::vector<FTextRange> lines{};  //!< that hold the value; of an average, its rows from the last one upwards

@@ -177,6 +177,7 @@ TEST_F(FResultsGenIntTest, hasTheZonesOfImportsAsTables) {
     EXPECT_EQ(textOf("comp.getResults().getTable(\"flow|wall\").getElementAt(1, \"p\")"), "2");
     EXPECT_EQ(textOf("comp.getResults().getTable(\"flow|3\").getElementAt(0, \"x\")"), "5");
     EXPECT_EQ(textOf("comp.getResults().getTableAt(3).getElementAt(0, 1)"), "4");
+    EXPECT_EQ(log(), QStringList()) << "the name of a file needn't be a number";
 }
 
 TEST_F(FResultsGenIntTest, hasNoPathsOfFilesThatAreGone) {

@@ -76,6 +76,14 @@ TEST(FResultMarksTest, placesAreMarked) {
     }
 }
 
+TEST(FResultMarksTest, theEndOfALongAverageIsMarked) {
+    constexpr int rows = FResultMarks::mostRows + 10;
+    const FResultMarks marks = marksOf(QString("7\n").repeated(rows), averageOf(rows, 0));
+    EXPECT_EQ(marks.columns.size(), std::size_t{FResultMarks::mostRows});
+    EXPECT_EQ(marks.cursor, 2 * 10 + 1);
+    EXPECT_TRUE(marks.readerPlaces.empty());
+}
+
 /** Random samples and values. */
 class FSampleCases {
  public:

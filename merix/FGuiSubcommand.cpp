@@ -8,10 +8,12 @@
 #include <QRegularExpression>
 
 std::vector<FSubcommand::Argument> FGuiSubcommand::arguments() {
-    return {{"PROJECT", "Opened at start", &mProject},
-            {"--script FILE", "Executed at start, after the project was opened", &mScript},
-            {"--screenshot FILE", "Saves a picture of the window, and ends", &mScreenshot},
-            {"--size WxH", "Size of the window in pixels, such as 1280x800", &mSize}};
+    return {
+        {"PROJECT", "Opened at start", &mProject},
+        {"--script FILE", "Executed at start, after the project was opened", &mScript},
+        {"--show WHAT", "Shows a panel, triggers an action, or selects an object; can be repeated", &mShown},
+        {"--screenshot FILE", "Saves a picture of the window when nothing runs, or after 3 s, and ends", &mScreenshot},
+        {"--size WxH", "Size of the window in pixels, such as 1280x800", &mSize}};
 }
 
 std::unique_ptr<QCoreApplication> FGuiSubcommand::makeApplication(int& argc, char** argv) const {
@@ -34,6 +36,9 @@ int FGuiSubcommand::run() const {
     session.project = QString::fromStdString(mProject);
     session.script = QString::fromStdString(mScript);
     session.screenshot = QString::fromStdString(mScreenshot);
+    for (const std::string& what : mShown) {
+        session.shown.append(QString::fromStdString(what));
+    }
     if (!mSize.empty()) {
         static const QRegularExpression form(QStringLiteral("^(\\d{2,5})x(\\d{2,5})$"));
         const QRegularExpressionMatch match = form.match(QString::fromStdString(mSize));

@@ -3,8 +3,8 @@
 #include "merix/FSubcommand.h"
 
 /**
- * `merix gui [PROJECT] [--script FILE] [--screenshot FILE --size WxH]`: opens the window. `merix FILE.mrx` does the
- * same.
+ * `merix gui [PROJECT] [--script FILE] [--show WHAT]… [--screenshot FILE --size WxH]`: opens the window.
+ * `merix FILE.mrx` does the same.
  */
 class FGuiSubcommand : public FSubcommand {
  public:
@@ -17,6 +17,7 @@ class FGuiSubcommand : public FSubcommand {
  private:
     std::string mProject;
     std::string mScript;
+    std::vector<std::string> mShown;
     std::string mScreenshot;
     std::string mSize;
 };

@@ -2,15 +2,18 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FRunTarget.h"
 #include "host/gui/base/FTheme.h"
+#include "host/gui/window/FActions.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FWindowUserInterface.h"
 #include "host/script/FProject.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QTimer>
 
@@ -20,14 +23,37 @@ namespace {
 constexpr int scriptFailed = 1;
 constexpr int fileError = 3;
 
-/** Calls a function when nothing runs and all that was posted has been handled. */
-void whenIdle(QObject* context, const std::function<void()>& function) {
+/** Calls a function when nothing runs and all that was posted has been handled, or after some seconds. */
+void whenIdle(QObject* context, const std::function<void()>& function, int rounds) {
     constexpr int settle = 500;  // milliseconds, longer than any delay of a panel
-    QTimer::singleShot(settle, context,
-                       [context, function] { FRunTarget::isAnyRunning() ? whenIdle(context, function) : function(); });
+    QTimer::singleShot(settle, context, [context, function, rounds] {
+        if (rounds > 1 && FRunTarget::isAnyRunning()) {
+            whenIdle(context, function, rounds - 1);
+        } else {
+            function();
+        }
+    });
 }
 
 }  // namespace
+
+void FGuiSession::show(FMainWindow& window) const {
+    for (const QString& what : shown) {
+        FManaged* object = FObjectManager::instance()->find(what);
+        if (window.panel(what)) {
+            window.raisePanel(what);
+        } else if (QAction* action = window.actions().get(what)) {
+            action->trigger();
+        } else if (object) {
+            window.showObject(object);
+        } else {
+            FLogMsg::warning(QStringLiteral("merix"),
+                             QStringLiteral("there is no panel, action or object \"%1\"").arg(what),
+                             QStringLiteral("It isn't shown"));
+        }
+        QCoreApplication::sendPostedEvents();
+    }
+}
 
 int FGuiSession::run() const {
     FTheme::install();
@@ -47,8 +73,10 @@ int FGuiSession::run() const {
         if (!script.isEmpty() && !window.projectFiles().executeScript(script)) {
             exitCode = scriptFailed;
         }
+        show(window);
         if (!screenshot.isEmpty()) {
-            whenIdle(&window, [&] {
+            constexpr int rounds = 6;
+            const auto take = [&] {
                 if (!window.grab().save(screenshot)) {
                     FLogMsg::error(QStringLiteral("merix"),
                                    QStringLiteral("can't write the picture \"%1\"").arg(screenshot),
@@ -56,7 +84,8 @@ int FGuiSession::run() const {
                     exitCode = fileError;
                 }
                 QApplication::quit();
-            });
+            };
+            whenIdle(&window, take, rounds);
         }
         QApplication::exec();
         FUserInterface::replace(nullptr);

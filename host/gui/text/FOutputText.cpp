@@ -67,7 +67,10 @@ bool FOutputText::indexSlice() {
 }
 
 qint64 FOutputText::lineBegin(qint64 offset) const {
-    if (offset <= mIndex.size() && offset > 0) {
+    if (offset <= 0) {
+        return 0;
+    }
+    if (offset <= mIndex.size()) {
         return mIndex.lineBegin(offset);
     }
     const qint64 begin = std::max<qint64>(offset - reach, 0);

@@ -7,6 +7,7 @@
 
 FChoiceField::FChoiceField(const FAttribCmd& command) : FAttributeEditor(command), mpBox(new QComboBox(this)) {
     setControl(mpBox);
+    mpBox->view()->setAccessibleName(label());
     mpBox->setEnabled(!isReadOnly());
     // The wheel scrolls the form unless the box was chosen before.
     mpBox->setFocusPolicy(Qt::StrongFocus);

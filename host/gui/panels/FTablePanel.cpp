@@ -16,6 +16,7 @@
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FValueSummary.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
 #include <QHBoxLayout>
@@ -66,6 +67,7 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FExpr<FResultsGeneric>& re
       mpTable(new QComboBox(this)),
       mpModel(new FTableModel) {
     setObjectName(QStringLiteral("results"));
+    mpTable->view()->setAccessibleName(QStringLiteral("Tables"));
     mpModel->setParent(this);
     auto* header = new QHBoxLayout;
     makeHeader(*header);

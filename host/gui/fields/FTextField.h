@@ -2,7 +2,7 @@
 
 #include "host/gui/fields/FLineField.h"
 
-/** A line of text that is taken as it stands. */
+/** A line of text that is taken unchanged. */
 class MERIX_EXPORT FTextField : public FLineField {
     Q_OBJECT
 

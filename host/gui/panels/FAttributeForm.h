@@ -24,7 +24,7 @@ class MERIX_EXPORT FAttributeForm : public QWidget {
     void fit(int width);
     const QList<FAttributeEditor*>& fields() const { return mFields; }
     void hold(bool isHeld);
-    /** Called when an attribute was changed after which the fields have to be made anew. */
+    /** Called when an attribute was changed after which the fields have to be rebuilt. */
     void setRebuild(std::function<void()> rebuild) { mRebuild = std::move(rebuild); }
 
  protected:
@@ -37,7 +37,7 @@ class MERIX_EXPORT FAttributeForm : public QWidget {
     void alignLabels();
 
     QVBoxLayout* mpColumn;
-    QWidget* mpGroups = nullptr;  //!< contains all groups; made anew for each receiver
+    QWidget* mpGroups = nullptr;  //!< contains all groups; rebuilt for each receiver
     QList<FAttributeEditor*> mFields;
     QList<QLabel*> mLabels;
     QList<QBoxLayout*> mRows;

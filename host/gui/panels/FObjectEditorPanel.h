@@ -27,7 +27,7 @@ class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
  public:
     explicit FObjectEditorPanel(FNavigator& navigator);
 
-    /** Makes all fields anew, for the objects that are selected now. */
+    /** Rebuilds all fields, for the objects that are selected now. */
     void rebuild();
     /** While held, nothing follows the model. */
     void hold(bool isHeld);

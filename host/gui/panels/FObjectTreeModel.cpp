@@ -15,7 +15,7 @@
 
 namespace {
 
-/** More changes at once are shown by building the tree anew. */
+/** More changes at once are shown by rebuilding the tree. */
 constexpr int mostFollowed = 500;
 
 /** The value of an object that has one, if it can be known without reading files. */

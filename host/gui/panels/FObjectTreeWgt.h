@@ -44,6 +44,6 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     QSortFilterProxyModel* mpFilter;
     QLineEdit* mpSearch;
     QTreeView* mpView;
-    QSet<QString> mExpanded;  //!< names of what was open before the tree was built anew
+    QSet<QString> mExpanded;  //!< names of what was open before the tree was rebuilt
     bool mIsSelecting = false;
 };

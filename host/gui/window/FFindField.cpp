@@ -141,7 +141,7 @@ void FFindField::choose(const QModelIndex& index) {
     if (!index.isValid() || choice >= mChoices.size()) {
         return;
     }
-    // Later, since the field still puts the text of the choice into itself, and what can be found is collected anew.
+    // Later, since the field still puts the text of the choice into itself, and what can be found is collected again.
     QTimer::singleShot(0, this, [this, function = mChoices[choice]] {
         clear();
         // Moves the focus first, so that the choice can move it elsewhere.

@@ -167,3 +167,21 @@ TEST_F(FProjectFilesTest, ageIsInWords) {
     EXPECT_TRUE(FProjectFiles::ageOf(now.addDays(-1)).startsWith("yesterday, "));
     EXPECT_TRUE(FProjectFiles::ageOf(now.addDays(-30)).startsWith(now.addDays(-30).toString("yyyy-MM-dd")));
 }
+
+TEST_F(FProjectFilesTest, anExampleIsOpenedAsACopy) {
+    ASSERT_TRUE(FProjectFiles::getExamples().contains("cantilever"));
+    for (const char* copy : {"cantilever", "cantilever-2"}) {
+        answer(folder.path());
+        window().projectFiles().openExample("cantilever");
+        settle();
+        EXPECT_TRUE(folder.has(QString(copy) + "/cantilever.inp"));
+        EXPECT_EQ(FMerixCtrl::instance()->getProjectFile(), folder.path(QString(copy) + "/cantilever.mrx"));
+        EXPECT_FALSE(window().isWindowModified());
+        EXPECT_NE(object<FExternComputation>("calculix"), nullptr);
+    }
+    // Not in a folder that can't be written to.
+    answer("/proc");
+    window().projectFiles().openExample("cantilever");
+    EXPECT_TRUE(window().notices().text().contains("/proc")) << window().notices().text().toStdString();
+    EXPECT_NE(object<FExternComputation>("calculix"), nullptr);
+}

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QTabBar>
+#include <QVariant>
 
 namespace {
 

@@ -45,8 +45,7 @@ void FColumnCursor::passNumber() {
     if (mPassed > 0 && FSuspicion::mayShift(mText, mNumber.end)) {
         const FFoundFlags flags = FSuspicion::ofNumber(mText, mNumber, mLine.begin) & FSuspicion::shiftingFlags;
         if (flags) {
-            noteShift(FFoundFlag::Shifted,
-                      FUtf8::decode(mNumber.of(mText)) + FSuspicion::beside(mText, mNumber, flags));
+            noteShift(FFoundFlag::Shifted, FSuspicion::word(mText, mNumber, flags));
         }
     }
     const std::string_view rest = FByteRange{mNumber.end, mLine.end}.of(mText);

@@ -15,7 +15,9 @@ bool FNumberSurroundings::isPlainAfter(std::string_view text, qint64 end) {
     while (end < limit && at(text, end) == ' ' && end < static_cast<qint64>(text.size())) {
         ++end;
     }
-    return !isExponentLetter(at(text, end));
+    constexpr std::string_view timesSigns = "xX*\xC2\xC3";
+    const char next = at(text, end);
+    return !isExponentLetter(next) && timesSigns.find(next) == std::string_view::npos;
 }
 
 bool FNumberSurroundings::isPlainBefore() const {
@@ -34,8 +36,9 @@ FFoundFlags FNumberSurroundings::flags() const {
     flags.setFlag(FFoundFlag::CutExponent, isCut);
     flags.setFlag(FFoundFlag::PointExponent, isCutAtPoint);
     flags.setFlag(FFoundFlag::SpacedExponent, isSpaced);
-    flags.setFlag(FFoundFlag::SpacedSign, hasSpacedSign());
+    flags.setFlag(FFoundFlag::SpacedSign, hasSpacedSign() || hasForeignMinus());
     flags.setFlag(FFoundFlag::DecimalComma, (hasCommaAfter() || hasCommaBefore()) && !isUnderCommas());
+    flags.setFlag(FFoundFlag::ThousandsSeparator, hasThousands() && !isUnderCommas());
     flags.setFlag(FFoundFlag::LetterBefore, hasLetterBefore());
     flags.setFlag(FFoundFlag::LetterAfter, !isCut && !isSpaced && hasLetterAfter());
     flags.setFlag(FFoundFlag::CutAtEdge, !isCut && isCutAtEdge());
@@ -84,11 +87,49 @@ bool FNumberSurroundings::hasCutExponent() const {
 }
 
 bool FNumberSurroundings::hasPointExponent() const {
-    return isWhole() && at(mNumber.end) == '.' && isExponentAt(mNumber.end + 1);
+    const qint64 after = mNumber.end + 1;
+    if (!isWhole() || at(mNumber.end) != '.') {
+        return false;
+    }
+    return isExponentAt(after) || (isSign(at(after)) && isDigit(at(after + 1)) && at(digitsEnd(after + 1)) != '.');
 }
 
-/** End of an exponent with blanks before or after its letter or sign; 0 if there is none. */
+/** End of "x 10^6", also with another sign of multiplication; 0 if there is none. */
+qint64 FNumberSurroundings::powerOfTenEnd() const {
+    const auto follows = [this](qint64 offset, std::string_view word) {
+        return mText.substr(std::min(static_cast<size_t>(offset), mText.size()), word.size()) == word;
+    };
+    const auto lengthOf = [&follows](qint64 offset, std::initializer_list<std::string_view> words) {
+        const auto* const found =
+            std::find_if(words.begin(), words.end(), [&](std::string_view word) { return follows(offset, word); });
+        return found == words.end() ? 0 : static_cast<qint64>(found->size());
+    };
+    const qint64 times = blanksEnd(mNumber.end);
+    const qint64 timesEnd = times + lengthOf(times, {"x", "X", "*", "\u00D7", "\u00B7"});
+    const qint64 ten = blanksEnd(timesEnd);
+    if (timesEnd == times || !follows(ten, "10")) {
+        return 0;
+    }
+    qint64 end = ten + 2;
+    if (const qint64 power = lengthOf(end, {"^", "**"})) {
+        end += power;
+        return digitsEnd(end + isSign(at(end)));
+    }
+    const auto superscript = [&](qint64 offset) {
+        return lengthOf(offset, {"\u207B", "\u2070", "\u00B9", "\u00B2", "\u00B3", "\u2074", "\u2075", "\u2076",
+                                 "\u2077", "\u2078", "\u2079"});
+    };
+    while (const qint64 length = superscript(end)) {
+        end += length;
+    }
+    return end > ten + 2 ? end : 0;
+}
+
+/** End of an exponent with blanks before or after its letter or sign, or of a power of ten; 0 if there is none. */
 qint64 FNumberSurroundings::spacedExponentEnd() const {
+    if (const qint64 end = powerOfTenEnd()) {
+        return end;
+    }
     const qint64 letter = blanksEnd(mNumber.end);
     if (hasExponent() || letter - mNumber.end > 3 || !isExponentLetter(at(letter))) {
         return 0;
@@ -118,6 +159,13 @@ bool FNumberSurroundings::hasSpacedSign() const {
     const char c = before > 0 ? at(before - 1) : '\n';
     constexpr std::string_view opening = "=:([,;|";
     return opening.find(c) != std::string_view::npos || ((c == '\n' || isLetter(c)) && !isWhole());
+}
+
+/** Whether the minus sign of typography is directly before the number, and no operator. */
+bool FNumberSurroundings::hasForeignMinus() const {
+    constexpr std::string_view minus = "\u2212";
+    const qint64 begin = mNumber.begin - static_cast<qint64>(minus.size());
+    return begin >= mLineBegin && FByteRange{begin, mNumber.begin}.of(mText) == minus && !isDigit(at(begin - 1));
 }
 
 bool FNumberSurroundings::hasLetterBefore() const {
@@ -163,6 +211,37 @@ bool FNumberSurroundings::hasCommaBefore() const {
     return isDigit(at(begin)) && at(begin - 1) != ',' && at(begin - 1) != '.';
 }
 
+/** Whether three digits begin at an offset, and no more. */
+bool FNumberSurroundings::isGroup(qint64 begin) const {
+    constexpr qint64 size = 3;
+    return digitsEnd(begin) == begin + size;
+}
+
+/** Whether a number like 1,234.5 or 1'234 or 1.234,5 begins with this one, and blanks surround it. */
+bool FNumberSurroundings::hasThousands() const {
+    constexpr qint64 mostFirst = 3;
+    const char separator = at(mNumber.end);
+    const qint64 begin = mNumber.begin + isSign(at(mNumber.begin));
+    const qint64 first = digitsEnd(begin);
+    const bool startsWord =
+        mNumber.begin == mLineBegin || isBlank(at(mNumber.begin - 1)) || at(mNumber.begin - 1) == '=';
+    if (!startsWord || at(begin) == '0' || first == begin || first - begin > mostFirst) {
+        return false;
+    }
+    if (!isWhole()) {
+        const qint64 end = digitsEnd(mNumber.end + 1);
+        return at(first) == '.' && first + 4 == mNumber.end && separator == ',' && end > mNumber.end + 1 &&
+               isBlank(at(end));
+    }
+    qint64 end = mNumber.end;
+    while ((separator == ',' || separator == '\'') && at(end) == separator && isGroup(end + 1)) {
+        end += 4;
+    }
+    const bool hasFraction = at(end) == '.';
+    const bool isSure = separator == '\'' || hasFraction || end > mNumber.end + 4;
+    return end > mNumber.end && isSure && isBlank(at(hasFraction ? digitsEnd(end + 1) : end));
+}
+
 namespace {
 
 /** Commas of a line that separates its fields by them and has one that isn't between digits; 0 for other lines. */
@@ -183,7 +262,7 @@ std::ptrdiff_t separatingCommas(std::string_view line) {
 
 // In a file of two columns of whole numbers, only its head tells that 1,2 are two numbers.
 bool FNumberSurroundings::isUnderCommas() const {
-    constexpr std::string_view ofNumbers = "0123456789,+-\r";
+    constexpr std::string_view ofNumbers = "0123456789.,+-\r";
     constexpr std::size_t mostInLine = 512;
     const auto number = static_cast<std::size_t>(mNumber.begin);
     const std::size_t feed = mText.substr(0, number).rfind('\n');
@@ -224,4 +303,8 @@ QString FNumberSurroundings::whole() const {
 
 QString FNumberSurroundings::spacedExponent() const {
     return decoded(mNumber.end, spacedExponentEnd());
+}
+
+QString FNumberSurroundings::withSpacedExponent() const {
+    return decoded(mNumber.begin, spacedExponentEnd());
 }

@@ -23,8 +23,9 @@ class FNumberSurroundings {
     QString before() const;
     QString after() const;
     QString whole() const;
-    /** The exponent that is separated by blanks. */
+    /** The exponent that is separated by blanks, alone and after the number. */
     QString spacedExponent() const;
+    QString withSpacedExponent() const;
 
  private:
     static constexpr qint64 longest = 64;  // programs print no longer numbers
@@ -43,12 +44,16 @@ class FNumberSurroundings {
     bool hasCutExponent() const;
     bool hasPointExponent() const;
     qint64 spacedExponentEnd() const;
+    qint64 powerOfTenEnd() const;
     bool hasSpacedSign() const;
+    bool hasForeignMinus() const;
     bool hasLetterBefore() const;
     bool hasLetterAfter() const;
     bool isCutAtEdge() const;
     bool hasCommaAfter() const;
     bool hasCommaBefore() const;
+    bool isGroup(qint64 begin) const;
+    bool hasThousands() const;
     bool isUnderCommas() const;
     QString decoded(qint64 begin, qint64 end) const;
 

@@ -43,7 +43,10 @@ FSoughtLine FSoughtLine::inText(const FResultText& text, int line) {
 
 FSoughtLine FSoughtLine::fromAnchor(const FResultText& text, FByteRange anchor, int line) {
     if (line < 0) {
-        return upward(FLineWindow(text, {0, lineFeedBefore(text, anchor.begin)}), line);
+        const qint64 lineFeed = lineFeedBefore(text, anchor.begin);
+        FSoughtLine sought = upward(FLineWindow(text, {0, lineFeed}), line);
+        sought.flags.setFlag(FFoundFlag::LineBeyondEnd, sought.flags != 0 || lineFeed == text.size());
+        return sought;
     }
     // If the text ends with the anchor, the rest of its line exists, but is empty.
     if (line == 0 && anchor.end == text.size()) {

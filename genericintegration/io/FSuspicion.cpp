@@ -205,7 +205,7 @@ QString fusedIn(const QString& part) {
 
 QString beside(std::string_view text, FByteRange number, FFoundFlags flags) {
     const FNumberSurroundings around(text, number, 0);
-    if (flags & (FFoundFlag::DecimalComma | FFoundFlag::CutAtEdge)) {
+    if (flags & (FFoundFlag::DecimalComma | FFoundFlag::ThousandsSeparator | FFoundFlag::CutAtEdge)) {
         return around.whole();
     }
     if (flags.testFlag(FFoundFlag::SpacedExponent)) {
@@ -214,6 +214,11 @@ QString beside(std::string_view text, FByteRange number, FFoundFlags flags) {
     const FFoundFlags after = FFoundFlag::CutExponent | FFoundFlag::PointExponent | FFoundFlag::LetterAfter |
                               FFoundFlag::Stars | FFoundFlag::NanOrInf;
     return flags & after ? around.after() : around.before();
+}
+
+QString word(std::string_view text, FByteRange number, FFoundFlags flags) {
+    const FNumberSurroundings around(text, number, 0);
+    return flags.testFlag(FFoundFlag::SpacedExponent) ? around.withSpacedExponent() : around.whole();
 }
 
 FFoundFlags ofLine(std::string_view line) {

@@ -14,7 +14,8 @@ namespace FSuspicion {
 
 /** Flags of a number that count as several columns, or as none. */
 constexpr FFoundFlags shiftingFlags = FFoundFlag::CutExponent | FFoundFlag::PointExponent | FFoundFlag::SpacedExponent |
-                                      FFoundFlag::DecimalComma | FFoundFlag::Stars | FFoundFlag::NanOrInf;
+                                      FFoundFlag::DecimalComma | FFoundFlag::ThousandsSeparator | FFoundFlag::Stars |
+                                      FFoundFlag::NanOrInf;
 
 /** Signs around a number of a line. The line may begin after an anchor. */
 FFoundFlags ofNumber(std::string_view text, FByteRange number, qint64 lineBegin);
@@ -39,6 +40,9 @@ QString fusedIn(const QString& part);
 
 /** The text to show for the flags of a number: what is beside it. */
 QString beside(std::string_view text, FByteRange number, FFoundFlags flags);
+
+/** The number with what is beside it, for a message. */
+QString word(std::string_view text, FByteRange number, FFoundFlags flags);
 
 /** Flags of a line from which a value is read. Fast. */
 FFoundFlags ofLine(std::string_view line);

@@ -12,6 +12,7 @@
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
 #include "host/design/FResultsFileName.h"
+#include "host/run/FExternComputation.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FSafePath.h"
 
@@ -199,10 +200,11 @@ void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, 
         return;
     }
     const QString path = name.isDetached() ? QString() : file.getFileNameText();
+    const QFileInfo info(QDir(FPathManager::getProjectDir()), path);
     QString fault;
     if (path.isEmpty()) {
         fault = QStringLiteral("links to no file: %1 gives no name").arg(name.toHistoryString());
-    } else if (const QFileInfo info(QDir(FPathManager::getProjectDir()), path); !info.isFile()) {
+    } else if (!info.isFile()) {
         fault = QStringLiteral("links to a file that doesn't exist: %1").arg(info.absoluteFilePath());
     }
     if (!fault.isEmpty()) {
@@ -214,6 +216,22 @@ void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, 
         return;
     }
     addOutside(entry, file.toPlainString(), true, problems);
+    if (mMayReadFiles) {
+        findInvalidRun(entry, info.absoluteFilePath(), problems);
+    }
+}
+
+// To know whether the set-up of the other run has changed, its values are evaluated.
+void FEntryProblems::findInvalidRun(const FEntry& entry, const QString& path, FProblemList& problems) const {
+    const FComputationResults* results = FComputationResults::ofFile(path);
+    const QString fault = results ? results->getFaultOfFiles() : QString();
+    if (!fault.isEmpty()) {
+        const QString computation = results->getComputation()->getName();
+        problems.warning(mConfiguration.getName(),
+                         entryText(entry) + QStringLiteral("links to a file of a run of %1 that isn't valid (%2): %3")
+                                                .arg(computation, fault, path),
+                         QStringLiteral("Run %1 again, before this computation").arg(computation));
+    }
 }
 
 void FEntryProblems::addOutside(const FEntry& entry, const QString& file, bool isReportedByRun,

@@ -27,6 +27,7 @@ class FEntryProblems {
     void findWritten(const FEntry& entry, const FObject* value, const FUse& use, FProblemList& problems) const;
     void findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const;
     void findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const;
+    void findInvalidRun(const FEntry& entry, const QString& path, FProblemList& problems) const;
     void findTooLong(const FEntry& entry, const QString& text, const QString& place, FProblemList& problems) const;
     void addOutside(const FEntry& entry, const QString& file, bool isReportedByRun, FProblemList& problems) const;
 

@@ -5,12 +5,14 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntCompSignalRapper.h"
 #include "genericintegration/setup/FResultsGenInt.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FViewCtrl.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/run/FPathManager.h"
+#include "host/run/FResultFiles.h"
 #include "host/script/FCmdTable.h"
 
 #include <QCryptographicHash>
@@ -120,6 +122,21 @@ QMap<QString, QString> FGenIntComputation::describeSetUp() const {
                      QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex()));
     }
     return setUp;
+}
+
+QString FGenIntComputation::getFileNameFault() const {
+    const FDefinitionGenInt* described = definition();
+    for (const FExpr<FGenIntFile>& file : described ? described->getFiles() : QList<FExpr<FGenIntFile>>()) {
+        const QString fault = file ? FResultFiles::faultOfTemplate(file->getFileName()) : QString();
+        if (!fault.isEmpty()) {
+            const bool isInput = file->isTypeOf(FGenIntCommandFile::null());
+            return QStringLiteral(
+                       "The %1 template \"%2\" %3. Give it the name of a file below the folder of the run with "
+                       "setFileName.")
+                .arg(isInput ? QStringLiteral("input") : QStringLiteral("result"), file->getName(), fault);
+        }
+    }
+    return {};
 }
 
 void FGenIntComputation::computationStarted() const {

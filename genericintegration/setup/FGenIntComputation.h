@@ -43,6 +43,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
 
     bool writeOutputFile() const override;
     QString getInputFault() const override;
+    QString getFileNameFault() const override;
     void computationStarted() const override;
     void computationFinished() const override;
     void applyOutputHandles(FComputationResults* results) const override;

@@ -9,7 +9,7 @@
 #include "host/design/FConfiguration.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FProgramSearch.h"
-#include "host/run/FSafePath.h"
+#include "host/run/FResultFiles.h"
 
 #include <QDir>
 #include <QHash>
@@ -102,13 +102,13 @@ void FProblems::findTemplateNames() {
     for (const FExpr<FGenIntFile>& handle : mDefinition->getCommandFiles()) {
         const FGenIntFile* file = handle.ptr();
         const QString fileName = file ? file->getFileName() : QString();
-        if (file && fileName.isEmpty()) {
-            mProblems.error(file->getName(), QStringLiteral("the input template has no file name"),
-                            QStringLiteral("Name the file that the program reads with setFileName"));
-        } else if (FSafePath::leadsOut(fileName)) {
-            mProblems.error(file->getName(),
-                            QStringLiteral("the file \"%1\" is outside the folder of the run").arg(fileName),
-                            QStringLiteral("Give a path below the folder with setFileName"));
+        const QString fault = file ? FResultFiles::faultOfTemplate(fileName) : QString();
+        if (!fault.isEmpty()) {
+            mProblems
+                .error(file->getName(), QStringLiteral("the input template ") + fault,
+                       QStringLiteral("Name the file that the program reads, below the folder of the run, with "
+                                      "setFileName"))
+                .isReportedByRun = true;
         } else if (file && writers.contains(fileName)) {
             mProblems.error(file->getName(),
                             QStringLiteral("it writes %1, as \"%2\" does, and replaces what that writes")

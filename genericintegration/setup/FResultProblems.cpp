@@ -2,7 +2,7 @@
 
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
-#include "host/run/FSafePath.h"
+#include "host/run/FResultFiles.h"
 
 #include <QHash>
 
@@ -32,20 +32,12 @@ void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FPr
 }
 
 void FResultProblems::findName(const FGenIntFile& file, FProblemList& problems) {
-    const QString& name = file.getFileName();
-    const QString last = name.mid(name.lastIndexOf(u'/') + 1);
-    QString fault;
-    QString remedy = QStringLiteral("Name the file that the program writes with setFileName");
-    if (name.isEmpty()) {
-        fault = QStringLiteral("the result template has no file name, so nothing is read");
-    } else if (FSafePath::leadsOut(name)) {
-        fault = QStringLiteral("the file \"%1\" is outside the folder of the run").arg(name);
-        remedy = QStringLiteral("Give a path below the folder with setFileName");
-    } else if (last.isEmpty() || last == QLatin1String(".") || name.contains(QChar::Null)) {
-        fault = QStringLiteral("\"%1\" is no name of a file").arg(name);
-    }
-    if (!fault.isEmpty()) {
-        problems.error(file.getName(), fault, remedy).isReportedByRun = true;
+    if (const QString fault = FResultFiles::faultOfTemplate(file.getFileName()); !fault.isEmpty()) {
+        problems
+            .error(file.getName(), QStringLiteral("the result template ") + fault,
+                   QStringLiteral("Name the file that the program writes, below the folder of the run, with "
+                                  "setFileName"))
+            .isReportedByRun = true;
     }
 }
 

@@ -1975,7 +1975,7 @@ name: the name of the row
 value: the number
 file, line, column: the place, the last two counted from 1; -1 if nothing was found
 text: the text found
-flags: a list of texts, empty for a number that isn't unusual: anchor missing, line beyond end, column missing, not a number, fewer rows, no rows, invalid separator, slow separator, exponent, asterisks, NaN or Inf, comma, letter before, point before exponent, blank before exponent, blank after sign, unit, cut, shifted, zero bytes, CR line ends
+flags: a list of texts, empty for a number that isn't unusual: anchor missing, line beyond end, column missing, not a number, fewer rows, no rows, invalid separator, slow separator, exponent, asterisks, NaN or Inf, comma, thousands separator, letter before, point before exponent, blank before exponent, blank after sign, unit, cut, shifted, zero bytes, CR line ends
 reason: the same as a sentence, for the most important flag
 anchor, anchorLine, anchorColumn: the anchor and its place; -1 if it wasn't found
 number: the number of the value in its template, from 0

@@ -115,6 +115,28 @@ QString FComputationResults::getStateText() const {
                : QStringLiteral("%1, of an earlier set-up (%2)").arg(state, changes.join(QStringLiteral("; ")));
 }
 
+QString FComputationResults::getFaultOfFiles() const {
+    const std::shared_ptr<const FRunRecord> run = getRun();
+    if (!run) {
+        return {};
+    }
+    if (!run->isSuccess()) {
+        return run->outcomeName();
+    }
+    return getSetUpChanges().isEmpty() ? QString() : getStateText();
+}
+
+const FComputationResults* FComputationResults::ofFile(const QString& path) {
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FComputationResults::null())) {
+        const auto* results = dynamic_cast<const FComputationResults*>(object);
+        const QString folder = results->getResultPath();
+        if (!folder.isEmpty() && path.startsWith(folder) && results->getComputation()) {
+            return results;
+        }
+    }
+    return nullptr;
+}
+
 bool FComputationResults::prepareResults() const {
     const std::shared_ptr<const FRunRecord> run = getRun();
     return !(run && !run->isOver()) && !getResultPath().isEmpty();

@@ -52,6 +52,14 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
     /** State of the run, as FRunRecord tells it, with ", of an earlier set-up" and the changes if there are some. */
     QString getStateText() const;
 
+    /**
+     * Why the files aren't those of a complete run with the present set-up: "failed", "interrupted", or as the state's
+     * text. Empty if they are, or if no run is known.
+     */
+    QString getFaultOfFiles() const;
+    /** The results in the model whose folder contains a file; null if there are none. */
+    static const FComputationResults* ofFile(const QString& path);
+
     /** Reads what isn't read yet. False if nothing may be read: the run is in progress, or there is no folder. */
     virtual bool prepareResults() const;
     /** The files are about to be removed: reads them now if they weren't, and never again. There is no path then. */

@@ -4,6 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FPathManager.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunAttempt.h"
 #include "host/run/FRunLock.h"
@@ -131,6 +132,10 @@ QString FExternComputation::compareInput() {
 
 QString FExternComputation::prepareRun() const {
     return mAttempt ? mAttempt->makeRoom() : QString();
+}
+
+QString FExternComputation::getFileNameFault() const {
+    return FResultFiles(QString(), getReadFiles()).faultOfNames();
 }
 
 bool FExternComputation::copyInputFiles(const QString& folder) const {

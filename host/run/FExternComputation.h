@@ -166,6 +166,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual void processReread(FComputationResults* results) { results->setOutOfDate(true); }
     /** Files in the folder, relative to it, that results are read from. */
     virtual QStringList getReadFiles() const { return {}; }
+    /** Why the files of a run can't have their names, as a sentence; empty if they can. */
+    virtual QString getFileNameFault() const;
     /** The values that were written for the run, by the names of their entries. */
     virtual QMap<QString, QString> getWrittenValues() const { return {}; }
     /** Other files that a run may write, relative to the folder. Like the files above, those of an earlier run move

@@ -8,7 +8,7 @@
 /** What was unusual when a number was read from a file. None of it changes the number. */
 enum class FNumberFlag : quint32 {
     AnchorMissing = 0x1,             //!< counted from the top of the text instead; for a line below 0, from its bottom
-    LineBeyondEnd = 0x2,             //!< no such line; for a line below 0, the second line was read instead
+    LineBeyondEnd = 0x2,             //!< no such line; for a line below 0, another one was read instead
     ColumnMissing = 0x4,             //!< the line ends before the column
     NotANumber = 0x8,                //!< the text found isn't a number
     FewerRows = 0x10,                //!< the average is over fewer rows than requested
@@ -21,12 +21,13 @@ enum class FNumberFlag : quint32 {
     DecimalComma = 0x800,            //!< a number like 3,14
     LetterBefore = 0x1000,           //!< a letter directly before the number, as in CO2
     PointExponent = 0x2000,          //!< a number like 1.E+06, cut before its point
-    SpacedExponent = 0x4000,         //!< an exponent separated by blanks
-    SpacedSign = 0x8000,             //!< a minus sign separated by blanks, which wasn't read
+    SpacedExponent = 0x4000,         //!< an exponent separated by blanks, or a power of ten as in 1.5 x 10^6
+    SpacedSign = 0x8000,             //!< a minus sign that wasn't read: separated by blanks, or U+2212
     LetterAfter = 0x10000,           //!< a unit or other letters directly after the number
     CutAtEdge = 0x20000,             //!< digits continue right beside the number: it was cut, or touches its neighbour
     Shifted = 0x40000,               //!< something suspicious earlier in the line may have shifted the columns
     ZeroBytes = 0x80000,             //!< the file contains zero bytes: most likely UTF-16 without a byte order mark
+    ThousandsSeparator = 0x200000,   //!< a number like 1,234.5 or 1'234.5, cut before its separator
     OnlyCarriageReturns = 0x100000,  //!< the file's lines end with CR alone, so that it counts as one line
 };
 Q_DECLARE_FLAGS(FNumberFlags, FNumberFlag)
@@ -36,7 +37,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(FNumberFlags)
 constexpr FNumberFlags suspiciousFlags =
     FNumberFlag::CutExponent | FNumberFlag::Stars | FNumberFlag::NanOrInf | FNumberFlag::DecimalComma |
     FNumberFlag::LetterBefore | FNumberFlag::PointExponent | FNumberFlag::SpacedExponent | FNumberFlag::SpacedSign |
-    FNumberFlag::LetterAfter | FNumberFlag::CutAtEdge | FNumberFlag::Shifted;
+    FNumberFlag::LetterAfter | FNumberFlag::CutAtEdge | FNumberFlag::Shifted | FNumberFlag::ThousandsSeparator;
 
 /** Flags that concern the whole file rather than one number. */
 constexpr FNumberFlags fileFlags =

@@ -2,6 +2,7 @@
 
 #include "host/run/FSafePath.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -47,9 +48,14 @@ QString FResultFiles::faultOfName(const QString& name) {
                : QString();
 }
 
+QString FResultFiles::faultOfTemplate(const QString& name) {
+    return QDir::isAbsolutePath(name) ? QStringLiteral("has the file name \"%1\", which is an absolute path").arg(name)
+                                      : faultOfName(name);
+}
+
 QString FResultFiles::faultOfNames() const {
     for (const QString& name : mNames) {
-        const QString fault = faultOfName(name);
+        const QString fault = faultOfTemplate(name);
         if (!fault.isEmpty()) {
             return QStringLiteral(
                        "A result template %1. Give it the name of a file below that folder with setFileName.")

@@ -13,7 +13,9 @@ class MERIX_EXPORT FResultFiles {
 
     /** Why a file of that name can't be read in any folder: no name, or one that leads out of the folder. */
     static QString faultOfName(const QString& name);
-    /** The same for all names, as a sentence that says which template to correct. */
+    /** Why a template can't have that file name; also refuses an absolute path, whose file the program would miss. */
+    static QString faultOfTemplate(const QString& name);
+    /** The same for all names, as a sentence. */
     QString faultOfNames() const;
     /** The missing files, quoted and separated by commas. */
     QString missing() const;

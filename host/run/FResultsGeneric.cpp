@@ -139,11 +139,10 @@ void FResultsGeneric::warnOfFailedRun() const {
         return;
     }
     mWarned = true;
-    const bool isInterrupted = run->cause == FRunRecord::Cause::Interrupted;
-    FLogMsg::warning(run->computation,
-                     QStringLiteral("The results in %1 come from a run that failed (%2)")
-                         .arg(getResultPath(), isInterrupted ? QStringLiteral("interrupted") : run->stateName()),
-                     QStringLiteral("values that the run didn't write are NaN"));
+    FLogMsg::warning(
+        run->computation,
+        QStringLiteral("The results in %1 come from a run that failed (%2)").arg(getResultPath(), run->outcomeName()),
+        QStringLiteral("values that the run didn't write are NaN"));
 }
 
 // Nothing is reported until somebody requests a number.

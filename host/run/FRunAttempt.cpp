@@ -4,7 +4,6 @@
 #include "host/run/FExternComputation.h"
 #include "host/run/FNumberCheck.h"
 #include "host/run/FPathManager.h"
-#include "host/run/FResultFiles.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunLock.h"
 
@@ -85,7 +84,7 @@ QString FRunAttempt::findRefusal() {
                    "wait for its end.")
             .arg(record()->folder);
     }
-    const QString fault = FResultFiles(record()->folder, mReadFiles).faultOfNames();
+    const QString fault = mComputation->getFileNameFault();
     return fault.isEmpty() ? mFolder.fault(mReadFiles + mFurtherFiles) : fault;
 }
 

@@ -20,6 +20,10 @@ QString FRunRecord::stateName() const {
     return QStringLiteral("timed out");
 }
 
+QString FRunRecord::outcomeName() const {
+    return cause == Cause::Interrupted ? QStringLiteral("interrupted") : stateName();
+}
+
 void FRunRecord::addCause(Cause added, const QString& what, const QString& advice) {
     if (cause != Cause::None) {
         furtherCauses.append(what);

@@ -15,6 +15,8 @@ struct MERIX_EXPORT FRunRecord : FProcessOutcome {
     /** The state in words, as scripts see it: "ready", "writing", "running", "finished", "failed", "cancelled",
      *  "timed out". */
     QString stateName() const;
+    /** The same, but "interrupted" for a run that ended with its process. */
+    QString outcomeName() const;
     /**
      * Adds a cause of failure. The first one is that of the run; further ones are listed below it.
      * @param advice  what to do; shown below the output of the program

@@ -21,7 +21,13 @@ QString anchor(const FNumberOrigin& origin, double number) {
                      missing;
 }
 
-QString line(const FNumberOrigin&, double number) {
+QString line(const FNumberOrigin& origin, double number) {
+    const bool isUpward = origin.markLine < 0;
+    if (isUpward && origin.anchorLine == 1) {
+        return QStringLiteral("%1, counted from the bottom of the file, since no line is above the anchor")
+            .arg(std::isnan(number) ? QStringLiteral("its line was sought")
+                                    : QStringLiteral("was read from ") + lineOf(origin));
+    }
     return std::isnan(number) ? QStringLiteral("its line is beyond the end of the text")
                               : QStringLiteral("is from the second line, since there are fewer lines to count up");
 }
@@ -73,12 +79,15 @@ constexpr FWords allWords[] = {
     {F::PointExponent, nullptr, "is followed by %1",
      "An exponent after a bare point isn't read. Change the program's "
      "format, or multiply by the power of ten"},
-    {F::SpacedExponent, nullptr, "is followed by an exponent after blanks (%1)",
+    {F::SpacedExponent, nullptr, "is followed by an exponent (%1)",
      "Such an exponent isn't read. Change the program's format, or multiply by the power of ten"},
-    {F::SpacedSign, nullptr, "has a minus sign before it, separated by blanks, which isn't read",
-     "Change the program's format, or the sign of the value"},
+    {F::SpacedSign, nullptr, "has a minus sign before it that isn't read",
+     "It is separated by blanks, or isn't the sign of ASCII. Change the program's format, or the sign of the value"},
     {F::DecimalComma, nullptr, "is next to a comma (%1)",
      "A comma isn't a decimal point. If it separates columns, set it as the separator"},
+    {F::ThousandsSeparator, nullptr, "is the start of %1, which seems to have thousands separators",
+     "Numbers are read without them. Change the program's format. If commas separate columns, set the comma as the "
+     "separator"},
     {F::CutAtEdge, nullptr, "touches other digits (%1)",
      "It may be cut, or two columns may have run together. Look at the line"},
     {F::Shifted, nullptr, "comes after %1 in its line, which may shift the columns", "Look at the line"},

@@ -29,11 +29,18 @@ TEST(FSuspicionTest, numbersThatWereCutOrSkippedOrTouchText) {
         {"0.5771964-104 7", 2, F::Shifted},
         {"1.E+6 2", 0, F::PointExponent},
         {"1.E+6 2", 2, F::Shifted},
+        {"1.+106 2", 0, F::PointExponent},
+        {"1.-6 2", 2, F::Shifted},
         {"1.5 E+06", 0, F::SpacedExponent},
         {"1.5E +06", 0, F::SpacedExponent},
         {"1.5E+ 06", 0, F::SpacedExponent},
         {"1.5D 06 3", 0, F::SpacedExponent},
         {"1.5 E+06 3", 2, F::Shifted},
+        {"1.5 x 10^6 3", 0, F::SpacedExponent},
+        {"1.5 x 10^6 3", 3, F::Shifted},
+        {"1.5 \u00D7 10\u207B\u2076", 0, F::SpacedExponent},
+        {"1.5*10**6", 0, F::SpacedExponent},
+        {"T = \u22121.5", 0, F::SpacedSign},
         {"x = - 1.5", 0, F::SpacedSign},
         {"- 1.5", 0, F::SpacedSign},
         {"energy  - 1.5", 0, F::SpacedSign},
@@ -50,6 +57,11 @@ TEST(FSuspicionTest, numbersThatWereCutOrSkippedOrTouchText) {
         {"3,14 2", 0, F::DecimalComma},
         {"3,14 2", 1, F::DecimalComma | F::Shifted},
         {"3,14 2", 2, F::Shifted},
+        {"1,234.5 2", 0, F::ThousandsSeparator},
+        {"1,234.5 2", 2, F::Shifted},
+        {"x=-1,234,567", 0, F::ThousandsSeparator},
+        {"1.234,5", 0, F::ThousandsSeparator},
+        {"1'234.5", 0, F::ThousandsSeparator},
         {"**** 1", 0, F::Stars | F::Shifted},
         {"p = ****  T = 3.5", 0, F::Stars | F::Shifted},
         {"1.5 ****** 3", 1, F::Stars | F::Shifted},
@@ -72,6 +84,8 @@ TEST(FSuspicionTest, ordinaryLinesAreNotSuspicious) {
     } cases[] = {
         {"1 -2 +3.5 .5 6. 7.5e3 8.5E-03 1.e3x", {0, 1, 2, 3, 4, 5, 6}},
         {"1,2,3", {0, 1, 2}},
+        {"1.,-2. 1.-2.", {0, 1, 2}},
+        {"0.123,5 1.23,4 5'30 1 x 100 3 \u2212 2", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
         {"1.5,2.5\t3.5;4.5", {0, 1, 2, 3}},
         {"(1,2) [3,4] x=5 y:-6 <7>", {0, 1, 2, 3, 4, 5, 6}},
         {"  1   0.10000E+01  -0.2000E-02", {0, 1, 2}},
@@ -102,6 +116,7 @@ TEST(FSuspicionTest, commasUnderAHeadWithCommasSeparate) {
         return FSuspicion::ofNumber(text, {begin, begin + 1}, begin);
     };
     EXPECT_EQ(flagsAt("x,y\n3,4\n1,2\n", 8), FFoundFlags());
+    EXPECT_EQ(flagsAt("x,y\n3,4\n1,234.5\n", 8), FFoundFlags());
     EXPECT_EQ(flagsAt("t [s], p [Pa]\n1,2\n", 14), FFoundFlags(FFoundFlag::DecimalComma));
     EXPECT_EQ(flagsAt("x,y\n1,2 7\n", 4), FFoundFlags(FFoundFlag::DecimalComma));
     EXPECT_EQ(flagsAt("3,4\n1,2\n", 4), FFoundFlags(FFoundFlag::DecimalComma));

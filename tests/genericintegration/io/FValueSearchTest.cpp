@@ -43,6 +43,10 @@ TEST(FValueSearchTest, aValueThatIsntFoundHasAReason) {
     EXPECT_EQ(FFoundFlag::AnchorMissing | FFoundFlag::LineBeyondEnd, find(" \n ", at(-1, 0, "a")).flags);
     EXPECT_EQ(FFoundFlags(FFoundFlag::ColumnMissing), find("force", at(0, 0, "force")).flags) << "its line is there";
     EXPECT_EQ(FFoundFlags(FFoundFlag::NotANumber), find("1e400", at(0, 0)).flags);
+    const FFoundValue fromBottom = find("TOTAL 1\n2\n3\n", at(-1, 0, "TOTAL"));
+    EXPECT_EQ(FFoundFlags(FFoundFlag::LineBeyondEnd), fromBottom.flags) << "no line is above the anchor";
+    EXPECT_EQ(3, fromBottom.number);
+    EXPECT_EQ(FFoundFlags(), find("1\n2\nTOTAL\n", at(-1, 0, "TOTAL")).flags);
 }
 
 TEST(FValueSearchTest, aHugeLineIsReadOnceForAllItsValues) {

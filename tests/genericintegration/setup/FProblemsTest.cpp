@@ -153,8 +153,14 @@ conf.setEntryValue("n[1]", 3))",
      R"(input.setFileName("../in.txt"); square.setFileName("../Out.txt"); comp.setStandardInput("../a")
 conf.setEntryValue("length", resultsFileName("../cp.dat")))",
      {"error comp: The file of the standard input, '../a', is outside",
-      "error input: the file \"../in.txt\" is outside", "error square: the file \"../Out.txt\" is outside",
+      "error input: the input template has the file name \"../in.txt\", which leads out of the folder of the run",
+      "error square: the result template has the file name \"../Out.txt\", which leads out",
       "error conf: the entry \"length\" names \"../cp.dat\""}},
+    {"absoluteNamesAndFolders",
+     R"(input.setFileName("/tmp/in.txt"); square.setFileName("/tmp/Out.txt"); console.setFileName("."))",
+     {"error input: the input template has the file name \"/tmp/in.txt\", which is an absolute path … setFileName",
+      "error square: the result template has the file name \"/tmp/Out.txt\", which is an absolute path",
+      "error console: the result template has the file name \".\", which is a folder"}},
     {"linksToNothing",
      R"(def.addEntry("mesh", inputFile("no-such.mesh")).addEntry("other", inputFile("")))",
      {"error conf: the entry \"mesh\" links to a file that doesn't exist: /",
@@ -195,6 +201,32 @@ input.setContent("<entry>length</entry>
 
     ASSERT_TRUE(run(R"(comp.setExecutable("no-such-solver"); comp.run())"));
     EXPECT_EQ(log().filter("'no-such-solver' was not found").size(), 1) << "the run reports it\n" << logText();
+}
+
+TEST_F(FProblemsOfRunsTest, nameTheTemplateWithAnAbsolutePath) {
+    ASSERT_TRUE(run(R"(input.setFileName("/tmp/in.txt"); comp.run())"));
+    EXPECT_EQ(log().filter("The input template \"input\" has the file name \"/tmp/in.txt\"").size(), 1) << logText();
+    EXPECT_FALSE(QFileInfo::exists(path("study.results/baseline/comp/tmp")));
+}
+
+TEST_F(FProblemsOfRunsTest, warnOfFilesOfInvalidRuns) {
+    ASSERT_TRUE(run(R"(
+def.addEntry("cp", resultsFileName("cp.dat"))
+comp.setArguments(["-c", "echo 1 > cp.dat; echo f 1 > Out.txt"])
+genericIntegrationConfiguration linked() { .setDefinition(def) }
+genericIntegrationComputation second() { .setConfiguration(linked) .setExecutable("sh") }
+second.setArguments(["-c", "echo f 1 > Out.txt"])
+comp.run()
+linked.setEntryValue("cp", inputFile(comp.getResults().getResultFileName("cp")))
+second.run()
+)")) << logText();
+    const QString warning = "links to a file of a run of comp that isn't valid (";
+    EXPECT_EQ(log().filter(warning).size(), 0) << logText();
+    ASSERT_TRUE(run(R"(conf.setEntryValue("length", 3); second.run())"));
+    const QString earlier = "finished, of an earlier set-up (length was 12.5, is 3)): " + path("study.results");
+    EXPECT_EQ(log().filter(warning + earlier).size(), 1) << logText();
+    ASSERT_TRUE(run(R"(comp.setArguments(["-c", "echo 1 > cp.dat; exit 3"]); comp.run(); second.run())"));
+    EXPECT_EQ(log().filter(warning + "failed): ").size(), 1) << logText();
 }
 
 TEST_F(FProblemsOfRunsTest, readResultsOnlyWhereThatIsAllowed) {

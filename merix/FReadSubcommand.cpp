@@ -34,6 +34,10 @@ int FReadSubcommand::run() const {
     auto* read = dynamic_cast<FResultsGeneric*>(results.ptr());
     const bool isWhole = hasFiles(folder);
     if (!read || !read->prepareResults()) {
+        FLogMsg::error(
+            QStringLiteral("merix"),
+            QStringLiteral("nothing is read from \"%1\", since a run there is in progress").arg(folder.path()),
+            QStringLiteral("Read it when the run has ended"));
         return FExitCode::failed;
     }
     using Form = FTableOutput::Form;

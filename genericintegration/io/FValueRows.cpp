@@ -36,8 +36,9 @@ void FValueRows::append(const FGenIntResultsFileValue& value, int number, const 
     origin.valueNumber = number;
     origin.markLine = value.mLine;
     origin.anchor = value.mCalcAverage ? QString() : value.mAnchor;
+    origin.isText = !isNumber(value);
     // A text that was found is what such a value is for.
-    if (!isNumber(value) && !text.isEmpty()) {
+    if (origin.isText && !text.isEmpty()) {
         origin.flags &= ~(suspiciousFlags | FNumberFlag::NotANumber);
     }
 }

@@ -59,8 +59,13 @@ bool worksByItself(const FEntry& entry) {
 
 struct FEntryProblems::FUse {
     QString place;        //!< of the first tag; empty if no template names the entry
-    QString columnPlace;  //!< of the first tag with more text in its line; empty if there is none
+    QString columnPlace;  //!< of the first tag with a column after it in its line; empty if there is none
+    QString fieldPlace;   //!< of the first tag with any text after it in its line; empty if there is none
 };
+
+FEntryProblems::FUse FEntryProblems::useOf(const FTagUses& uses, int row) {
+    return {uses.places.value(row), uses.columnPlaces.value(row), uses.fieldPlaces.value(row)};
+}
 
 FEntryProblems::FEntryProblems(const FConfiguration& configuration, bool mayReadFiles)
     : mConfiguration(configuration), mMayReadFiles(mayReadFiles) {}
@@ -78,7 +83,7 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
         const int row = table.getKeys().find(name);
         // Of several occurrences, tags name the first.
         const bool isNamed = row != FTemplateKeys::notFound && table.entryOf(row) == &entry;
-        findValue(entry, isNamed ? FUse{uses.places.value(row), uses.columnPlaces.value(row)} : FUse(), problems);
+        findValue(entry, isNamed ? useOf(uses, row) : FUse(), problems);
         if (!uses.places.contains(row) && name != lastName && !worksByItself(entry)) {
             unused.append(name);
             lastName = name;
@@ -146,38 +151,44 @@ void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, cons
                    QStringLiteral("Give it a number or a text with setEntryValue(\"%1\", …)").arg(entry.getFullName()),
                    use.place)
             .isOfValue = true;
-    } else if (basic->isTypeOf(FDouble::null()) && std::isnan(basic->toDouble())) {
+    } else if (basic->isTypeOf(FDouble::null()) && !std::isfinite(basic->toDouble())) {
         // The numbers of results are unknown then.
         if (FSetUpCheck::isReplacingRuns()) {
             return;
         }
         problems
-            .warning(
-                mConfiguration.getName(),
-                entryText(entry) +
-                    QStringLiteral("is not a number (NaN), and \"%1\" is written for it").arg(basic->toPlainString()),
-                setRemedy(entry), use.place)
+            .warning(mConfiguration.getName(),
+                     entryText(entry) + (std::isnan(basic->toDouble())
+                                             ? QStringLiteral("is not a number (NaN), and \"%1\" is written for it")
+                                             : QStringLiteral("is infinite, and \"%1\" is written for it"))
+                                            .arg(basic->toPlainString()),
+                     setRemedy(entry), use.place)
             .isOfValue = true;
-    } else if (!use.columnPlace.isEmpty()) {
-        findTooLong(entry, basic->toPlainString(), use.columnPlace, problems);
+    } else if (!use.fieldPlace.isEmpty()) {
+        findOtherWidth(entry, basic->toPlainString(), use, problems);
     }
 }
 
-void FEntryProblems::findTooLong(const FEntry& entry, const QString& text, const QString& place,
-                                 FProblemList& problems) const {
+// A default with blanks at its start or end was made for fixed columns.
+void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, const FUse& use,
+                                    FProblemList& problems) const {
     const FEntryDef* definition = entry.getDefinition().ptr();
     const FExprBase standard = definition ? definition->getDefaultValue() : FExprBase();
     const bool isReadable = standard.isValid() && standard.canSafelyBeUpdated(false);
     const auto* value = isReadable ? objectCast<FBasicType>(standard.getObject()) : nullptr;
     const QString fitting = value ? value->toPlainString() : text;
-    if (text.size() > fitting.size()) {
+    const bool isPadded = fitting.trimmed().size() < fitting.size();
+    const bool isLonger = text.size() > fitting.size();
+    const QString place = use.columnPlace.isEmpty() && isPadded ? use.fieldPlace : use.columnPlace;
+    if (!place.isEmpty() && (isLonger || (isPadded && text.size() < fitting.size()))) {
         problems
             .warning(mConfiguration.getName(),
                      entryText(entry) +
-                         QStringLiteral("is written as \"%1\", which is longer than its default, \"%2\", so that "
-                                        "the text after the tag moves")
-                             .arg(text, fitting),
-                     QStringLiteral("If the program reads fixed columns, set it as format(…, \"%%1g\") for \"%2\"")
+                         QStringLiteral("is written as \"%1\", which is %2 than its default, \"%3\", so that the text "
+                                        "after the tag moves")
+                             .arg(text, isLonger ? QStringLiteral("longer") : QStringLiteral("shorter"), fitting),
+                     QStringLiteral("If the program reads fixed columns, give \"%2\" a text of %1 characters with "
+                                    "format")
                          .arg(QString::number(fitting.size()), entry.getFullName()),
                      place)
             .isOfValue = true;

@@ -21,6 +21,7 @@ class FEntryProblems {
 
  private:
     struct FUse;
+    static FUse useOf(const FTagUses& uses, int row);
 
     void findFurther(const QStringList& names, FProblemList& problems) const;
     void findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const;
@@ -28,7 +29,7 @@ class FEntryProblems {
     void findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const;
     void findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const;
     void findInvalidRun(const FEntry& entry, const QString& path, FProblemList& problems) const;
-    void findTooLong(const FEntry& entry, const QString& text, const QString& place, FProblemList& problems) const;
+    void findOtherWidth(const FEntry& entry, const QString& text, const FUse& use, FProblemList& problems) const;
     void addOutside(const FEntry& entry, const QString& file, bool isReportedByRun, FProblemList& problems) const;
 
     const FConfiguration& mConfiguration;

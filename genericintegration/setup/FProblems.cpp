@@ -6,12 +6,19 @@
 #include "genericintegration/setup/FResultProblems.h"
 #include "genericintegration/setup/FTagProblems.h"
 #include "genericintegration/templates/FExportsGroup.h"
+#include "host/core/FNearestName.h"
+#include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
+#include "host/design/FEntry.h"
+#include "host/design/FFileReference.h"
+#include "host/design/FGeometryExport.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FProgramSearch.h"
 #include "host/run/FResultFiles.h"
+#include "host/run/FSafePath.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
 
 #include <algorithm>
@@ -43,6 +50,10 @@ FSetUpCheck::Problems FProblems::find() {
         return mProblems.all();
     }
     findTemplateNames();
+    if (mComputation) {
+        findStandardInput();
+        findOptionalFiles();
+    }
     std::optional<FValueTable> table;
     if (mConfiguration) {
         table.emplace(*mConfiguration, *mDefinition, FValueTable::Use::Export);
@@ -116,6 +127,49 @@ void FProblems::findTemplateNames() {
                             QStringLiteral("Give one of them another file name with setFileName"));
         } else if (file) {
             writers.insert(fileName, file->getName());
+        }
+    }
+}
+
+void FProblems::findStandardInput() {
+    const QString& name = mComputation->getProgram().standardInput;
+    if (!name.isEmpty() && !FSafePath::leadsOut(name) && !mayBeWritten(name)) {
+        mProblems
+            .error(mComputation->getName(),
+                   QStringLiteral("the file of the standard input, \"%1\", is none that a run writes").arg(name),
+                   QStringLiteral("Name the file of an input template with setStandardInput"))
+            .isReportedByRun = true;
+    }
+}
+
+bool FProblems::mayBeWritten(const QString& name) const {
+    const QString sought = QDir::cleanPath(name);
+    for (const FExpr<FGenIntFile>& file : mDefinition->getCommandFiles()) {
+        if (file && QDir::cleanPath(file->getFileName()) == sought) {
+            return true;
+        }
+    }
+    const auto isFile = [](const FExpr<FEntryBase>& handle) {
+        const FObject* value = static_cast<const FEntry&>(*FEntryBase::of(handle)).getValue().getType();
+        return value && (value->isTypeOf(FFileReference::null()) || value->isTypeOf(FGeometryExport::null()) ||
+                         value->isTypeOf(FFileName::null()));
+    };
+    const QMap<QString, FExpr<FEntryBase>> entries =
+        mConfiguration ? mConfiguration->getEntryMap() : QMap<QString, FExpr<FEntryBase>>();
+    return std::any_of(entries.begin(), entries.end(), isFile) ||
+           QFileInfo::exists(mComputation->getWorkingPath() + sought);
+}
+
+void FProblems::findOptionalFiles() {
+    const QStringList read = mDefinition->getReadFiles();
+    for (const QString& name : mComputation->getSuccessRules().optionalFiles) {
+        const auto isSame = [&name](const QString& file) { return QDir::cleanPath(file) == QDir::cleanPath(name); };
+        if (std::none_of(read.begin(), read.end(), isSame)) {
+            const QString nearest = nearestName(name, read);
+            mProblems.warning(mComputation->getName(),
+                              QStringLiteral("no result template reads the optional file \"%1\"").arg(name),
+                              nearest.isEmpty() ? QStringLiteral("Correct its name in setOptionalFiles")
+                                                : QStringLiteral("Did you mean \"%1\"?").arg(nearest));
         }
     }
 }

@@ -31,6 +31,10 @@ class FProblems {
     bool findMissing();
     void findProgram();
     void findTemplateNames();
+    void findStandardInput();
+    void findOptionalFiles();
+    /** Whether a run writes or copies a file of that name, or may do so. */
+    bool mayBeWritten(const QString& name) const;
     void findTags(const FValueTable* table, FTagUses& uses);
     QStringList tagNames() const;
 

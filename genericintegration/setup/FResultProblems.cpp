@@ -43,10 +43,11 @@ void FResultProblems::findName(const FGenIntFile& file, FProblemList& problems) 
 
 void FResultProblems::findSeparators(const FGenIntResultsFile& file, FProblemList& problems) {
     const bool hasExpression = !file.getRegExprSeparator().isEmpty();
-    if (file.getNumberSeparator() && hasExpression) {
+    if (file.getNumberSeparator() && (hasExpression || file.getSpacesAndTabsSeparator())) {
         problems.warning(file.getName(),
-                         QStringLiteral("the separator \"%1\" has no effect, because numbers are searched for")
-                             .arg(file.getRegExprSeparator()),
+                         QStringLiteral("the separator %1 has no effect, because numbers are searched for")
+                             .arg(hasExpression ? QLatin1Char('"') + file.getRegExprSeparator() + QLatin1Char('"')
+                                                : QStringLiteral("of spaces and tabs")),
                          QStringLiteral("To separate columns by it, use setNumberSeparator(false)"));
     }
     if (!file.getNumberSeparator() && !hasExpression && !file.getSpacesAndTabsSeparator()) {

@@ -5,6 +5,7 @@
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FTableCommands.h"
+#include "host/script/FCmd.h"
 #include "host/script/FCmdTable.h"
 
 #include <limits>
@@ -17,27 +18,62 @@ QString savedArguments(const FObject* object) {
 }
 
 // The numbers without a table's name are those of the first table.
-void checkFirst(const FResultsGenInt& results, const QString& row) {
+template <class Check>
+void checkFirst(const FResultsGenInt& results, Check check) {
     if (const FExpr<FTableData> table = results.getTableAt(0)) {
-        FTableCommands::checkRow(*table.ptr(), row);
+        check(*table.ptr());
     }
 }
 
 double dataAt(const FResultsGenInt& results, const QString& row, unsigned int column) {
-    checkFirst(results, row);
+    checkFirst(results, [&](const FTableData& table) {
+        if (FTableCommands::checkRow(table, row)) {
+            FTableCommands::checkPlace(table, table.findRow(row), column);
+        }
+    });
     return results.getDataAt(row, column);
 }
 
 double dataAtNames(const FResultsGenInt& results, const QString& row, const QString& column) {
-    checkFirst(results, row);
+    checkFirst(results, [&](const FTableData& table) {
+        FTableCommands::checkRow(table, row);
+        FTableCommands::checkColumn(table, column);
+    });
+    return results.getDataAt(row, column);
+}
+
+double dataAtColumn(const FResultsGenInt& results, double row, const QString& column) {
+    checkFirst(results, [&](const FTableData& table) { FTableCommands::checkColumn(table, column); });
     return results.getDataAt(row, column);
 }
 
 double dataAtNumbers(const FResultsGenInt& results, unsigned int row, unsigned int column) {
-    if (const FExpr<FTableData> table = results.getTableAt(0)) {
-        FTableCommands::checkPlace(*table.ptr(), row, column);
-    }
+    checkFirst(results, [&](const FTableData& table) { FTableCommands::checkPlace(table, row, column); });
     return results.getDataAt(row, column);
+}
+
+double lastOfRow(const FResultsGenInt& results, int row) {
+    checkFirst(results, [&](const FTableData& table) { FTableCommands::checkPlace(table, row, 0); });
+    return results.getLastDataOfRow(row);
+}
+
+double lastOfColumn(const FResultsGenInt& results, int column) {
+    checkFirst(results, [&](const FTableData& table) { FTableCommands::checkColumn(table, column); });
+    return results.getLastDataOfColumn(column);
+}
+
+double averageOfLast(const FResultsGenInt& results, int numberOfRows, int column) {
+    checkFirst(results, [&](const FTableData& table) {
+        if (FTableCommands::checkColumn(table, column) && numberOfRows > table.getRowCount()) {
+            FCmd::warnNow(table.getName(),
+                          QStringLiteral("%1 has %2 rows instead of %3")
+                              .arg(table.getName())
+                              .arg(table.getRowCount())
+                              .arg(numberOfRows),
+                          QStringLiteral("The result is the mean of all rows"));
+        }
+    });
+    return results.getAverageOfLastRows(numberOfRows, column);
 }
 
 void dataCommands(FCmdTable& table) {
@@ -45,11 +81,11 @@ void dataCommands(FCmdTable& table) {
     const char* const name = "getDataAt";
     table.member<F>(name, &dataAtNumbers, {"row", "column"}).readsFiles();
     table.member<F>(name, &dataAt, {"row header", "column"}).readsFiles();
-    table.member<F>(name, qConstOverload<double, const QString&>(&F::getDataAt), {"row", "column header"}).readsFiles();
+    table.member<F>(name, &dataAtColumn, {"row", "column header"}).readsFiles();
     table.member<F>(name, &dataAtNames, {"row header", "column header"}).readsFiles();
-    table.member<F>("getLastDataOfRow", &F::getLastDataOfRow, {"row=0"}).readsFiles();
-    table.member<F>("getLastDataOfColumn", &F::getLastDataOfColumn, {"column=0"}).readsFiles();
-    table.member<F>("getAverageOfLastRows", &F::getAverageOfLastRows, {"numberOfRows", "column=0"}).readsFiles();
+    table.member<F>("getLastDataOfRow", &lastOfRow, {"row=0"}).readsFiles();
+    table.member<F>("getLastDataOfColumn", &lastOfColumn, {"column=0"}).readsFiles();
+    table.member<F>("getAverageOfLastRows", &averageOfLast, {"numberOfRows", "column=0"}).readsFiles();
 }
 
 void commands(FCmdTable& table) {

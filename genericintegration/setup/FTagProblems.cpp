@@ -8,6 +8,8 @@
 #include "host/core/FNearestName.h"
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 namespace {
 
@@ -30,6 +32,13 @@ bool startsField(QChar c) {
     return c.isLetterOrNumber() || c == u'+' || c == u'-' || c == u'.' || c == u'<';
 }
 
+/** Whether a word begins at a position that is too long for a unit. */
+bool isLongWord(const QString& text, qsizetype position) {
+    constexpr qsizetype longestUnit = 3;
+    const QStringView start = QStringView(text).mid(position, longestUnit + 1);
+    return start.size() > longestUnit && std::all_of(start.begin(), start.end(), [](QChar c) { return c.isLetter(); });
+}
+
 /** The name without the indices of its levels, which tags don't have. */
 QString withoutIndices(const QString& name) {
     QStringList levels = name.split(u'|', Qt::SkipEmptyParts);
@@ -39,7 +48,7 @@ QString withoutIndices(const QString& name) {
     return levels.join(u'|');
 }
 
-/** Whether a text between angle brackets is "entry" with swapped letters, without one of them, or with blanks. */
+/** Whether a text between angle brackets is "entry" with swapped letters, a missing or a wrong one, or with blanks. */
 bool isMisspelled(QStringView inBrackets) {
     const QString word = QStringLiteral("entry");
     QString text = inBrackets.toString().toCaseFolded().remove(u' ');
@@ -52,7 +61,12 @@ bool isMisspelled(QStringView inBrackets) {
             return true;
         }
     }
-    return text.size() == word.size() && std::is_permutation(text.begin(), text.end(), word.begin());
+    if (text.size() != word.size()) {
+        return false;
+    }
+    const auto wrong =
+        word.size() - std::inner_product(text.begin(), text.end(), word.begin(), 0, std::plus<>(), std::equal_to<>());
+    return wrong == 1 || std::is_permutation(text.begin(), text.end(), word.begin());
 }
 
 }  // namespace
@@ -68,10 +82,13 @@ FTagProblems::FTagProblems(const FGenIntFile& file, const FTemplateKeys* keys, c
 void FTagProblems::find(FProblemList& problems, FTagUses& uses) {
     FTemplateScanner scanner(mText);
     while (const auto tag = scanner.next()) {
+        findLoneClosing(mEnd, tag->position, problems);
         look(*tag, problems, uses);
         mEnd = tag->end();
     }
-    if (const auto lost = scanner.unterminated()) {
+    const auto lost = scanner.unterminated();
+    findLoneClosing(mEnd, lost ? *lost : mText.size(), problems);
+    if (lost) {
         findUnclosed(*lost, problems);
         ++mInput.notReplaced;
         uses.isCut = true;
@@ -98,6 +115,9 @@ void FTagProblems::look(const FTemplateTag& tag, FProblemList& problems, FTagUse
     }
     if (isFound && !uses.places.contains(row)) {
         uses.places.insert(row, placeOf(tag.position));
+    }
+    if (isFound && !uses.fieldPlaces.contains(row) && hasTextAfter(tag)) {
+        uses.fieldPlaces.insert(row, placeOf(tag.position));
     }
     if (isFound && !uses.columnPlaces.contains(row) && isColumn(tag)) {
         uses.columnPlaces.insert(row, placeOf(tag.position));
@@ -152,6 +172,21 @@ QString FTagProblems::remedyFor(const QString& name) const {
                              : QStringLiteral("Did you mean \"%1\"?").arg(FTemplateTags::tagOf(nearest));
 }
 
+// Only the first one: the others most likely belong to the same mistake.
+void FTagProblems::findLoneClosing(qsizetype begin, qsizetype end, FProblemList& problems) {
+    const qsizetype found =
+        mHasLoneClosing
+            ? -1
+            : QStringView(mText).mid(begin, end - begin).indexOf(FTemplateTags::closingMarker, 0, Qt::CaseInsensitive);
+    if (found >= 0) {
+        mHasLoneClosing = true;
+        problems.warning(mFile.getName(),
+                         QStringLiteral("\"</entry>\" closes no tag, and is written to %1 as it is").arg(mInput.file),
+                         QStringLiteral("If it belongs to a tag, write <entry> before the name"),
+                         placeOf(begin + found));
+    }
+}
+
 // Only the first one, since a template may use such a word for something else.
 void FTagProblems::findMisspelledMarker(FProblemList& problems) {
     constexpr int longest = 12;
@@ -183,20 +218,32 @@ QString FTagProblems::placeOf(qsizetype position) {
     return QStringLiteral("%1:%2:%3").arg(mFile.getName()).arg(place.line).arg(place.column);
 }
 
-// A longer value moves what follows it, which matters where the program reads fixed columns. Commas, signs of
-// assignment, tabs, and a single blank between fields show that it doesn't.
-bool FTagProblems::isColumn(const FTemplateTag& tag) const {
+/** The first character after a tag that isn't blank. */
+qsizetype FTagProblems::fieldAfter(const FTemplateTag& tag) const {
     qsizetype after = tag.end();
     while (after < mText.size() && isBlank(mText[int(after)])) {
         ++after;
     }
+    return after;
+}
+
+bool FTagProblems::hasTextAfter(const FTemplateTag& tag) const {
+    const qsizetype after = fieldAfter(tag);
+    return after < mText.size() && mText[int(after)] != u'\n' && mText[int(after)] != u'\r';
+}
+
+// A longer value moves what follows it, which matters where the program reads fixed columns. Commas, signs of
+// assignment, tabs, and a single blank between fields show that it doesn't.
+bool FTagProblems::isColumn(const FTemplateTag& tag) const {
+    const qsizetype after = fieldAfter(tag);
     qsizetype before = tag.position - 1;
     while (before >= mEnd && isBlank(mText[int(before)])) {
         --before;
     }
     const QChar next = after < mText.size() ? mText[int(after)] : QChar(u'\n');
     const QChar last = before >= mEnd ? mText[int(before)] : QChar(u'\n');
-    const bool touches = after == tag.end() && !next.isDigit() && next != u'<';
+    const bool startsTag = QStringView(mText).mid(after).startsWith(FTemplateTags::openingMarker, Qt::CaseInsensitive);
+    const bool touches = after == tag.end() && !next.isDigit() && !startsTag && !isLongWord(mText, after);
     const bool isSeparated = after == tag.end() + 1 || (after > tag.end() && mText[int(tag.end())] == u'\t');
     return startsField(next) && !touches && !isSeparated && last != u'=' && last != u':' && last != u',';
 }

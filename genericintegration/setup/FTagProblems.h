@@ -33,9 +33,12 @@ class FTagProblems {
     void findUnclosed(qsizetype position, FProblemList& problems);
     void findUnknown(const FTemplateTag& tag, const QString& place, FProblemList& problems);
     void findMisspelledMarker(FProblemList& problems);
+    void findLoneClosing(qsizetype begin, qsizetype end, FProblemList& problems);
     void findForeignBytes(FProblemList& problems);
     QString remedyFor(const QString& name) const;
     QString placeOf(qsizetype position);
+    qsizetype fieldAfter(const FTemplateTag& tag) const;
+    bool hasTextAfter(const FTemplateTag& tag) const;
     bool isColumn(const FTemplateTag& tag) const;
 
     const FGenIntFile& mFile;
@@ -46,5 +49,6 @@ class FTagProblems {
     FSetUpInput mInput;
     QSet<QString> mUnknown;
     bool mHasCapitals = false;
+    bool mHasLoneClosing = false;
     qsizetype mEnd = 0;  // of the tag before
 };

@@ -39,8 +39,11 @@ void readText(const FExpr<FObject>& element, QString& text) {
     }
 }
 
-/** An element that isn't a whole number, as script text; empty if it is one, or missing. */
+/** An element that isn't a whole number, as script text; empty if it is one, or can't be read. */
 QString oddPlaceIn(const FExpr<FObject>& element) {
+    if (isReadable(element) && element.getObject() == FNull::null()) {
+        return QStringLiteral("NULL");
+    }
     const FBasicType* value = valueOf(element);
     const auto* number = dynamic_cast<const FDouble*>(value);
     if (!value || (number && number->toDouble() == number->toInt())) {
@@ -65,6 +68,16 @@ QString oddPlaceText(const QString& given, const char* what) {
                : QStringLiteral("has the %1 %2, which isn't a %3number, and takes %4")
                      .arg(QLatin1String(what), given, isQuoted(given) ? QString() : QStringLiteral("whole "))
                      .arg(numberTaken(given));
+}
+
+/** Says that a text isn't the flag of an average; empty if the flag is a number, a truth value or missing. */
+QString faultOfAverage(const std::vector<FExpr<FObject>>& elements) {
+    const FBasicType* flag = elements.size() > fieldsWithoutAverage ? valueOf(elements[fieldsWithoutAverage]) : nullptr;
+    if (!dynamic_cast<const FString*>(flag)) {
+        return {};
+    }
+    return QStringLiteral("has the text %1 for the average, and takes %2; write true or false")
+        .arg(quoteText(flag->toString()), flag->toDouble() != 0 ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
 void readInt(const FExpr<FObject>& element, int& number) {
@@ -176,6 +189,9 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
     if (!FEnum<GenIntAnchorOccurrence>().FEnumBase::setValue(occurrence)) {
         return QStringLiteral("has the occurrence \"%1\", which is neither First nor Last, and takes the last one")
             .arg(occurrence);
+    }
+    if (const QString fault = faultOfAverage(elements); !fault.isEmpty()) {
+        return fault;
     }
     QString type;
     readText(elements[5], type);

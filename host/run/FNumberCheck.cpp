@@ -39,6 +39,10 @@ QStringList flaggedValues(const Tables& tables, FNumberFlags flags) {
 }
 
 bool isNan(const FTableData& table, int row) {
+    const FNumberOrigin& origin = table.getOrigin(row);
+    if (origin.isText && !origin.text.isEmpty()) {
+        return false;
+    }
     bool exists = true;
     double number = table.getElementAt(row, 0, &exists);
     bool anyNan = !exists;

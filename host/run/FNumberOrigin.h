@@ -33,6 +33,7 @@ struct FAverageRows {
 /** Where a number was found in a file, and what was unusual about it. Texts about it are made on request. */
 struct FNumberOrigin {
     QString text{};        //!< as in the file; for a mean, the text of its last number
+    bool isText = false;   //!< the value is a text, such as a file name, whose number is NaN
     qint64 line = -1;      //!< from 1; -1 if there is no such line
     qint64 column = -1;    //!< of the text's first character, from 1, in UTF-16 units; -1 if nothing was found
     FNumberFlags flags{};  //!< for a mean, those of all rows

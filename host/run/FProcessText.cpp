@@ -4,6 +4,7 @@
 #include "host/run/FProcessSetup.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <cerrno>
@@ -16,10 +17,11 @@ QString absoluteFile(const FProcessSetup& setup, const QString& file) {
 }
 
 QString errorOutputHint(const FProcessSetup& setup) {
-    if (setup.standardErrorFile.isEmpty()) {
+    const QString& file = setup.standardErrorFile;
+    if (file.isEmpty() || QFileInfo(absoluteFile(setup, file)).size() == 0) {
         return QString();
     }
-    return QStringLiteral(" Its error output is in '%1'.").arg(setup.standardErrorFile);
+    return QStringLiteral(" Its error output is in '%1'.").arg(file);
 }
 
 /** What an exit code usually means; empty if nothing is known about it. */

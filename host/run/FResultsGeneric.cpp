@@ -139,10 +139,11 @@ void FResultsGeneric::warnOfFailedRun() const {
         return;
     }
     mWarned = true;
-    FLogMsg::warning(
-        run->computation,
-        QStringLiteral("The results in %1 come from a run that failed (%2)").arg(getResultPath(), run->outcomeName()),
-        QStringLiteral("values that the run didn't write are NaN"));
+    const QString path = getResultPath();  // empty once the files are gone
+    FLogMsg::warning(run->computation,
+                     QStringLiteral("The results%1 come from a run that failed (%2)")
+                         .arg(path.isEmpty() ? QString() : QStringLiteral(" in ") + path, run->outcomeName()),
+                     QStringLiteral("values that the run didn't write are NaN"));
 }
 
 // Nothing is reported until somebody requests a number.

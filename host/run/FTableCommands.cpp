@@ -77,6 +77,7 @@ void elementCommands(FCmdTable& table) {
     table
         .member<F>(name,
                    +[](const F& data, double row, const QString& column) {
+                       checkColumn(data, column);
                        return requested(data).getElementAt(F::rowNumber(row), column);
                    },
                    {"row", "column header"})
@@ -85,6 +86,7 @@ void elementCommands(FCmdTable& table) {
         .member<F>(name,
                    +[](const F& data, const QString& row, const QString& column) {
                        checkRow(data, row);
+                       checkColumn(data, column);
                        return requested(data).getElementAt(row, column);
                    },
                    {"row header", "column header"})
@@ -123,6 +125,28 @@ bool checkPlace(const F& table, double row, double column) {
     return found;
 }
 
+bool checkColumn(const F& table, int column) {
+    const bool exists = column >= 0 && column < table.getColumnCount();
+    if (!exists) {
+        FCmd::warnNow(table.getName(),
+                      QStringLiteral("%1 has no column %2; it has %3 columns, counted from 0")
+                          .arg(table.getName())
+                          .arg(column)
+                          .arg(table.getColumnCount()),
+                      QStringLiteral("The result is NaN"));
+    }
+    return exists;
+}
+
+bool checkColumn(const F& table, const QString& column) {
+    const bool exists = table.hasColumn(column);
+    if (!exists) {
+        FCmd::warnNow(table.getName(), QStringLiteral("%1 has no column \"%2\"").arg(table.getName(), column),
+                      QStringLiteral("The result is NaN. Give the number of the column, from 0"));
+    }
+    return exists;
+}
+
 void declare(FCmdTable& table) {
     elementCommands(table);
     table.member<F>("getRowCount", &F::getRowCount).query();
@@ -132,6 +156,7 @@ void declare(FCmdTable& table) {
     table
         .member<F>("getColumn",
                    +[](const F& data, unsigned int column) {
+                       checkColumn(data, static_cast<int>(column));
                        return listOf(requested(data).getColumn(static_cast<int>(column)));
                    },
                    {"column=0"})

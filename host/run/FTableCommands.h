@@ -15,5 +15,8 @@ void declare(FCmdTable& table);
 MERIX_EXPORT bool checkRow(const FTableData& table, const QString& row);
 /** The same for a row's number and a column's number. */
 MERIX_EXPORT bool checkPlace(const FTableData& table, double row, double column);
+/** The same for a column, by number or by name. */
+MERIX_EXPORT bool checkColumn(const FTableData& table, int column);
+MERIX_EXPORT bool checkColumn(const FTableData& table, const QString& column);
 
 }  // namespace FTableCommands

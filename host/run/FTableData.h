@@ -67,6 +67,7 @@ class MERIX_EXPORT FTableData : public FClass<FTableData, FObject> {
     QString getRowTooltip(int row) const { return mRowTooltips.value(row); }
     /** Number of the first row of that name; -1 if there is none. */
     int findRow(const QString& rowHeader) const { return mRowOfHeader.value(rowHeader, -1); }
+    bool hasColumn(const QString& columnHeader) const { return mColumnOfHeader.contains(columnHeader); }
     /** Where the first number of a row comes from; without a place if that isn't known. */
     const FNumberOrigin& getOrigin(int row) const;
     /** The numbers of a column; NaN for a row that ends before it. */

@@ -15,7 +15,7 @@ namespace FValueReport {
 namespace {
 
 constexpr int mostOfAKind = 3;
-constexpr int mostListed = 30;
+constexpr int mostListed = 5;
 
 QString placeIn(const FTableData& table, const FNumberOrigin& origin) {
     return origin.lineToShow() > 0 ? QStringLiteral("%1:%2").arg(table.getName()).arg(origin.lineToShow())
@@ -42,6 +42,7 @@ struct FGroup {
         const double number = table.getElementAt(row, 0);
         FNumberOrigin own = origin;
         own.flags &= ~fileFlags;
+        own.oddity = origin.flags.testFlag(FNumberFlag::SeparatorInvalid) ? QString() : origin.oddity;
         if (++kinds[FValueRemark::remedy(own.flags)] > mostOfAKind || texts.size() >= mostListed) {
             return;
         }
@@ -57,7 +58,8 @@ struct FGroup {
                                                     : QStringLiteral("%1 in %2").arg(text.what, text.place));
         }
         const int others = count - texts.size();
-        const QString rest = others > 0 ? QStringLiteral("; and %1 more").arg(others) : QString();
+        const QString rest =
+            others > 0 ? QStringLiteral("; and %1 more, which getListing() of the table shows").arg(others) : QString();
         return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, parts.join(QStringLiteral("; ")), rest);
     }
 };
@@ -114,7 +116,9 @@ void log(const FTableData& table, const QString& source, bool isNote, FNumberFla
     if (missing.count > 0) {
         groups.append(missing.text(QStringLiteral("without a number"), first.place));
     }
-    const QString text = QStringLiteral("%1 values: ").arg(table.getRowCount()) + groups.join(QStringLiteral("; "));
+    const QString text = (table.getRowCount() == 1 ? QStringLiteral("1 value: ")
+                                                   : QStringLiteral("%1 values: ").arg(table.getRowCount())) +
+                         groups.join(QStringLiteral("; "));
     const QString key = first.place + text + QString::number(ofFile.flags) + ofFile.oddity;
     if (key == earlier) {
         return;

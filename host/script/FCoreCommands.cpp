@@ -41,9 +41,19 @@ void managedCommands(FCmdTable& table) {
     table.member<FManaged>("setDbId", &setDbId, {"id"}).hidden().systemFlag(2).data();
 }
 
+FExpr<FObject> elementOf(const FObjectList& list, int index) {
+    if (index < 0 || index >= list.count()) {
+        FCmd::warnNow(
+            list.getClass(),
+            QStringLiteral("the list has no element %1; it has %2, counted from 0").arg(index).arg(list.count()),
+            QStringLiteral("The result is NULL"));
+    }
+    return list.at(index);
+}
+
 void listCommands(FCmdTable& table) {
     table.member<FObjectList>("count", &FObjectList::count).query();
-    table.member<FObjectList>("at", &FObjectList::at, {"index"}).query();
+    table.member<FObjectList>("at", &elementOf, {"index"}).query();
 }
 
 bool contains(const FString& text, const QString& part) {

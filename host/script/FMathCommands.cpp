@@ -64,6 +64,12 @@ FExpr<FObject> format(const FExpr<FObject>& value, const QString& pattern) {
 FExpr<FObject> number(const QString& text) {
     bool isNumber = false;
     const double value = text.toDouble(&isNumber);
+    if (!isNumber) {
+        constexpr int longest = 40;
+        FCmd::warnNow(QStringLiteral("number"),
+                      QStringLiteral("number: the text \"%1\" isn't a number").arg(text.left(longest)),
+                      QStringLiteral("The result is NaN"));
+    }
     return FExpr<FObject>(new FDouble(isNumber ? value : std::numeric_limits<double>::quiet_NaN()));
 }
 

@@ -105,11 +105,10 @@ bool FProject::open(const QString& path, bool recover) {
                          QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
                          QStringLiteral("openProject(file, true) recovers it"));
     }
-    return errors == 0 ||
-           fail(source,
-                errors == 1 ? QStringLiteral("1 error; the object concerned was not loaded")
-                            : QStringLiteral("%1 errors; the objects concerned were not loaded").arg(errors),
-                QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
+    return errors == 0 || fail(source,
+                               errors == 1 ? QStringLiteral("1 error; what it concerns was not loaded")
+                                           : QStringLiteral("%1 errors; what they concern was not loaded").arg(errors),
+                               QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
 }
 
 FProject::Stamp FProject::stampOf(const QString& file) {

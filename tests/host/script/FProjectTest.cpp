@@ -134,7 +134,7 @@ TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
     for (const char* told :
          {"p.mrx:1: a project begins with the line \"// merix project, format 1\", but here stands",
           "p.mrx:4:2: FThing has no command \"setNumbr\"", "p.mrx:5:2: setNumber: argument 1",
-          "p.mrx:7:1: there is no creator \"thng\"", "p.mrx:10:", "5 errors; the objects concerned were not loaded"}) {
+          "p.mrx:7:1: there is no creator \"thng\"", "p.mrx:10:", "5 errors; what they concern was not loaded"}) {
         EXPECT_TRUE(logHolds(told)) << told << "\n" << logText();
     }
     const QByteArray damaged = read("p.mrx");

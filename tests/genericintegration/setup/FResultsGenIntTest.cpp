@@ -1,4 +1,6 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/run/FNumberCheck.h"
+#include "host/run/FSuccessRules.h"
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 
 #include <bit>
@@ -178,6 +180,9 @@ TEST_F(FResultsGenIntTest, hasTheZonesOfImportsAsTables) {
     EXPECT_EQ(textOf("comp.getResults().getTable(\"flow|3\").getElementAt(0, \"x\")"), "5");
     EXPECT_EQ(textOf("comp.getResults().getTableAt(3).getElementAt(0, 1)"), "4");
     EXPECT_EQ(log(), QStringList()) << "the name of a file needn't be a number";
+    FSuccessRules rules;
+    rules.requiredValues = QStringList{FSuccessRules::allValues()};
+    EXPECT_EQ(FNumberCheck::faults(rules, results()->tables()), QStringList());
 }
 
 TEST_F(FResultsGenIntTest, hasNoPathsOfFilesThatAreGone) {

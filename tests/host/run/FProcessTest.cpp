@@ -104,7 +104,7 @@ TEST_F(FProcessTest, tellsHowTheProgramEnded) {
     const FProcessOutcome success = finish(process);
     EXPECT_TRUE(hasStarted);
     EXPECT_EQ(success.cause, Cause::None);
-    const FProcessOutcome code = run(shell("exit 3"));
+    const FProcessOutcome code = run(shell("echo why >&2; exit 3"));
     EXPECT_EQ(code.cause, Cause::ExitCode);
     EXPECT_EQ(code.exitCode, 3);
     EXPECT_THAT(code.message.toStdString(), HasSubstr("in 'stderr.txt'"));
@@ -113,6 +113,7 @@ TEST_F(FProcessTest, tellsHowTheProgramEnded) {
     EXPECT_EQ(fault.cause, Cause::Signal);
     EXPECT_EQ(fault.signal, SIGKILL);
     EXPECT_THAT(fault.message.toStdString(), HasSubstr("killed (SIGKILL)"));
+    EXPECT_THAT(fault.message.toStdString(), testing::Not(HasSubstr("stderr.txt"))) << "which is empty";
 }
 
 TEST_F(FProcessTest, tellsWhyTheProgramDidNotStart) {

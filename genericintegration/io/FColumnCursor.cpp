@@ -34,8 +34,12 @@ FColumn FColumnCursor::seekNumber(int column) {
     if (found.exists) {
         found.flags.setFlag(FFoundFlag::Shifted, mFlags != 0);
         if (const FFoundFlags own = FSuspicion::ofNumber(mText, mNumber, mLine.begin)) {
+            // The words for a shift need what shifted, and come before those for these flags.
+            constexpr FFoundFlags lesser =
+                FFoundFlag::Stars | FFoundFlag::NanOrInf | FFoundFlag::LetterBefore | FFoundFlag::LetterAfter;
+            const bool tellsShift = mFlags != 0 && (own & ~lesser) == 0;
             found.flags |= own;
-            found.oddity = FSuspicion::beside(mText, mNumber, own);
+            found.oddity = tellsShift ? mOddity : FSuspicion::beside(mText, mNumber, own);
         }
     }
     return found;

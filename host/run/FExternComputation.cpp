@@ -247,7 +247,9 @@ bool FExternComputation::prepareResults() const {
 }
 
 bool FExternComputation::canRereadResults() const {
-    return canRun() && (getCurrentResults() || QDir(getWorkingPath()).exists());
+    // Without a root, there was no run, and the path would create one.
+    return canRun() &&
+           (getCurrentResults() || (FPathManager::instance()->hasRoot() && QDir(getWorkingPath()).exists()));
 }
 
 bool FExternComputation::refetchResults() {

@@ -1,0 +1,79 @@
+#include "host/core/FLogMsg.h"
+#include "host/core/FSelectionSet.h"
+#include "host/gui/panels/FLogModel.h"
+#include "host/gui/panels/FUndoModel.h"
+#include "tests/support/window/FWindowTest.h"
+
+#include <QAbstractItemModelTester>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+
+namespace {
+
+class ListPanelsTest : public FWindowTest {
+ public:
+    QAbstractItemView& list(const QString& name) { return *find<QAbstractItemView>(name); }
+    void click(QAbstractItemView& view, int row) {
+        const QModelIndex index = view.model()->index(row, 0);
+        view.scrollTo(index);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+        settle();
+    }
+    static QString selected() { return FSelectionSet::instance()->getObjects().value(0).toString(); }
+};
+
+}  // namespace
+
+TEST_F(ListPanelsTest, aClickInTheHistoryGoesToTheStateAfterAStep) {
+    FUndoModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    for (const char* statement : {"parameter a(1)", "parameter b(2)", "a.setValue(3)"}) {
+        ASSERT_TRUE(run(statement));
+    }
+    openPanel("history");
+    const QString whole = savedModel();
+    click(list("undoList"), 1);
+    EXPECT_NE(object<FManaged>("a"), nullptr);
+    EXPECT_EQ(object<FManaged>("b"), nullptr);
+    EXPECT_EQ(list("undoList").currentIndex().row(), 1);
+    EXPECT_TRUE(list("undoList").model()->index(3, 0).data().toString().contains("undone"));
+    click(list("undoList"), 3);
+    EXPECT_EQ(savedModel(), whole);
+    click(list("undoList"), 0);
+    EXPECT_TRUE(savedModel().isEmpty());
+}
+
+TEST_F(ListPanelsTest, aProblemAndAMessageLeadToTheirObject) {
+    ASSERT_TRUE(run("genericIntegrationComputation solver()\nparameter span(1)"));
+    openPanel("problems");
+    ASSERT_TRUE(waitUntil([&] { return list("problemList").model()->rowCount() > 0; }));
+    click(list("problemList"), 0);
+    EXPECT_EQ(selected(), "solver");
+
+    openPanel("log");
+    FLogMsg::warning("span", "something is odd", "Look at it");
+    ASSERT_TRUE(waitUntil([&] { return list("logList").model()->rowCount() > 0; }));
+    const int last = list("logList").model()->rowCount() - 1;
+    // Looking at a computation that never ran has created no folder, which would have been reported.
+    EXPECT_EQ(last, 0);
+    EXPECT_EQ(list("logList").model()->index(last, FLogModel::textColumn).data().toString().toStdString(),
+              "something is odd. Look at it");
+    click(list("logList"), last);
+    press(&list("logList"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "warning\tspan\tsomething is odd. Look at it\n");
+    press(&list("logList"), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(selected(), "span");
+}
+
+TEST_F(ListPanelsTest, theLogKeepsTheLastMessages) {
+    FLogModel model;
+    const int count = FLogModel::most + 100;
+    for (int i = 0; i < count; ++i) {
+        FLogMsg::info("source", QString::number(i), {});
+    }
+    ASSERT_TRUE(waitUntil([&] { return model.rowCount() > 0; }));
+    EXPECT_LE(model.rowCount(), FLogModel::most);
+    EXPECT_EQ(model.message(model.rowCount() - 1).message, QString::number(count - 1));
+}

@@ -5,6 +5,7 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
 #include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FMessageCatcher.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
@@ -88,27 +89,25 @@ void FProjectFiles::open(const QString& path) {
         }
         recovers = answer == FRecoveryQuestion::Answer::Recover;
     }
+    const FMessageCatcher messages;
     const FWaitCursor wait;
-    mWindow.documents().closeAll();
     const bool isWhole = FProject::instance()->open(path, recovers);
+    const QString present = FMerixCtrl::instance()->getProjectFile();
+    const bool isOpen = !present.isEmpty() && present == QFileInfo(path).canonicalFilePath();
+    const QString name = QFileInfo(path).fileName();
+    if (!isOpen) {
+        showFailure(QStringLiteral("%1 couldn't be opened: %2.").arg(name, messages.text()));
+        return;
+    }
+    mWindow.documents().closeAll();
     if (recovers) {
         mWindow.unsavedWork().assume();
     }
-    reportOpening(path, isWhole);
-}
-
-void FProjectFiles::reportOpening(const QString& path, bool isWhole) {
-    const auto showLog = [this] { mWindow.raisePanel(QStringLiteral("log")); };
-    const QString name = QFileInfo(path).fileName();
     if (!isWhole) {
-        mWindow.notices().showNotice(FMerixCtrl::instance()->getProjectFile() == QFileInfo(path).canonicalFilePath()
-                                         ? QStringLiteral("Parts of %1 couldn't be read.").arg(name)
-                                         : QStringLiteral("%1 couldn't be opened.").arg(name),
-                                     QStringLiteral("Show the messages"), showLog);
+        showFailure(QStringLiteral("Parts of %1 couldn't be read.").arg(name));
     } else if (!FProject::instance()->getHolder().isEmpty()) {
         mWindow.notices().showNotice(
-            QStringLiteral("%1 is open elsewhere (%2): you can look at it, but neither save nor "
-                           "run it here.")
+            QStringLiteral("%1 is open elsewhere (%2): you can look at it, but neither save nor run it here.")
                 .arg(name, FProject::instance()->getHolder()),
             QStringLiteral("Save under another name…"), [this] { saveAs(); });
     } else {
@@ -116,14 +115,19 @@ void FProjectFiles::reportOpening(const QString& path, bool isWhole) {
     }
 }
 
+void FProjectFiles::showFailure(const QString& text) {
+    mWindow.notices().showNotice(text, QStringLiteral("Show the messages"),
+                                 [this] { mWindow.raisePanel(QStringLiteral("log")); });
+}
+
 bool FProjectFiles::save() {
     if (FMerixCtrl::instance()->getProjectFile().isEmpty()) {
         return saveAs();
     }
+    const FMessageCatcher messages;
     const bool isSaved = FProject::instance()->save(QString());
     if (!isSaved) {
-        mWindow.notices().showNotice(QStringLiteral("The project wasn't saved."), QStringLiteral("Show the messages"),
-                                     [this] { mWindow.raisePanel(QStringLiteral("log")); });
+        showFailure(QStringLiteral("The project wasn't saved: %1.").arg(messages.text()));
     }
     return isSaved;
 }
@@ -205,12 +209,11 @@ bool FProjectFiles::executeScript(const QString& path) {
     stream.setCodec("UTF-8");
     FCmdInput input;
     input.readInputString(stream, path);
+    const FMessageCatcher messages;
     bool isDone = false;
     mWindow.executeLocked([&] { isDone = input.exec(); });
     if (!isDone) {
-        mWindow.notices().showNotice(QStringLiteral("%1 ended with an error.").arg(QFileInfo(path).fileName()),
-                                     QStringLiteral("Show the messages"),
-                                     [this] { mWindow.raisePanel(QStringLiteral("log")); });
+        showFailure(QStringLiteral("%1 ended with an error: %2.").arg(QFileInfo(path).fileName(), messages.text()));
     }
     return isDone;
 }

@@ -33,7 +33,8 @@ class MERIX_EXPORT FProjectFiles : public QObject {
 
  private:
     bool isIdle();
-    void reportOpening(const QString& path, bool isWhole);
+    /** Shows a notice that leads to the messages. */
+    void showFailure(const QString& text);
     static bool copyFolder(const QString& from, const QString& to);
 
     FMainWindow& mWindow;

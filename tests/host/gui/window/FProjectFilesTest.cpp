@@ -118,11 +118,16 @@ TEST_F(FProjectFilesTest, whatASessionLeftIsOfferedWithItsAgeAndDifferences) {
 }
 
 TEST_F(FProjectFilesTest, filesThatCantBeUsedAreReportedInTheWindow) {
-    folder.write("damaged.mrx", "merix project 1\nparameter a(1)\nnonsense b(\n");
+    folder.write("damaged.mrx", "// merix project, format 1\n\nparameter a(1)\nnonsense b()\n");
     open(folder.path("damaged.mrx"));
-    EXPECT_FALSE(window().notices().text().isEmpty());
+    EXPECT_TRUE(window().notices().text().startsWith("Parts of damaged.mrx"))
+        << window().notices().text().toStdString();
+    ASSERT_TRUE(run("parameter kept(1)"));
+    answer("Discard");
     open(folder.path("missing.mrx"));
-    EXPECT_TRUE(window().notices().text().contains("missing.mrx")) << window().notices().text().toStdString();
+    EXPECT_TRUE(window().notices().text().startsWith("missing.mrx couldn't be opened: "))
+        << window().notices().text().toStdString();
+    EXPECT_NE(object<FManaged>("kept"), nullptr);
     EXPECT_FALSE(window().projectFiles().executeScript(folder.path("missing.merix")));
     EXPECT_FALSE(window().projectFiles().executeScript(folder.write("bad.merix", "nonsense(")));
     EXPECT_TRUE(window().notices().text().contains("bad.merix"));

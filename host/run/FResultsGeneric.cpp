@@ -77,9 +77,11 @@ void FResultsGeneric::report() const {
     const std::shared_ptr<const FRunRecord> run = getRun();
     const bool hasFailed = run && !run->isSuccess();
     const FNumberFlags accepted = computation ? FNumberCheck::accepted(computation->getSuccessRules()) : FNumberFlags();
+    // The message of a failed run has the entries that changed.
+    const QString changed = run && !hasFailed ? run->changedInput : QString();
     for (int i = 0; i < mTables.size(); ++i) {
         FValueReport::log(*mTables[i].ptr(), computation ? computation->getName() : getName(), hasFailed, accepted,
-                          mReports[i]);
+                          changed, mReports[i]);
     }
 }
 

@@ -94,7 +94,8 @@ void logFile(const FTableData& table, const QString& source, bool isNote, const 
 
 }  // namespace
 
-void log(const FTableData& table, const QString& source, bool isNote, FNumberFlags accepted, QString& earlier) {
+void log(const FTableData& table, const QString& source, bool isNote, FNumberFlags accepted, const QString& changed,
+         QString& earlier) {
     FGroup suspicious;
     FGroup missing;
     FNumberOrigin ofFile;
@@ -126,7 +127,9 @@ void log(const FTableData& table, const QString& source, bool isNote, FNumberFla
     earlier = key;
     logFile(table, source, isNote, ofFile);
     if (!groups.isEmpty()) {
-        send(isNote, source, text, FValueRemark::remedy(first.flags & ~fileFlags), first.place);
+        const QString runs =
+            changed.isEmpty() ? QString() : QStringLiteral(". Changed since the run before: ") + changed;
+        send(isNote, source, text + runs, FValueRemark::remedy(first.flags & ~fileFlags), first.place);
     }
 }
 

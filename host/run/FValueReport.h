@@ -16,9 +16,11 @@ namespace FValueReport {
  * @param source   the object that reports
  * @param isNote   whether it is only a note, as for the files of a run that failed
  * @param accepted flags that aren't reported for numbers; a NaN is always reported with its reason
+ * @param changed  the entries that differ from the run before, so that the messages of a loop of runs tell the runs
+ *                 apart; may be empty
  * @param earlier  the last message about this table, which isn't repeated; receives the new one
  */
 MERIX_EXPORT void log(const FTableData& table, const QString& source, bool isNote, FNumberFlags accepted,
-                      QString& earlier);
+                      const QString& changed, QString& earlier);
 
 }  // namespace FValueReport

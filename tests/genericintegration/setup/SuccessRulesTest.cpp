@@ -75,6 +75,15 @@ TEST_F(SuccessRulesTest, furtherCausesAndChangedEntriesFollowTheFirst) {
     }
 }
 
+TEST_F(SuccessRulesTest, warningsAboutNumbersOfALoopTellTheRunsApart) {
+    for (const char* x : {"7", "8"}) {
+        ASSERT_TRUE(run(QString("conf.setEntryValue(\"x\", %1)").arg(x)));
+        EXPECT_TRUE(runProgram("echo f 4D+05 > Out.txt; echo said 2"));
+        results()->prepareResults();
+    }
+    EXPECT_TRUE(logHolds("may shift the columns. Changed since the run before: x = 8")) << logText();
+}
+
 TEST_F(SuccessRulesTest, rulesAboutTextsNeverReadAnOldFile) {
     ASSERT_TRUE(run("comp.setRequiredTexts([[\"log\", \"DONE\"]])"));
     write("log", "DONE");

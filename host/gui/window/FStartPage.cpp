@@ -112,11 +112,16 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
     }
     example->setMenu(examples);
     example->setEnabled(!examples->isEmpty());
-    connect(mpRecent, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* item) { mWindow.projectFiles().open(item->data(Qt::UserRole).toString()); });
-    connect(mpRecent, &QListWidget::itemClicked, this,
-            [this](const QListWidgetItem* item) { mWindow.projectFiles().open(item->data(Qt::UserRole).toString()); });
+    // Once also on desktops where a click activates.
+    connect(mpRecent, &QListWidget::itemActivated, this, [this] { mOpenRecent.request(); });
+    connect(mpRecent, &QListWidget::itemClicked, this, [this] { mOpenRecent.request(); });
     refresh();
+}
+
+void FStartPage::openRecent() {
+    if (const QListWidgetItem* item = mpRecent->currentItem()) {
+        mWindow.projectFiles().open(item->data(Qt::UserRole).toString());
+    }
 }
 
 void FStartPage::refresh() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/core/FQueuedCall.h"
 
 #include <QWidget>
 
@@ -22,9 +23,11 @@ class MERIX_EXPORT FStartPage : public QWidget {
     void changeEvent(QEvent* event) override;
 
  private:
+    void openRecent();
     void setColors();
 
     FMainWindow& mWindow;
     QListWidget* mpRecent;
     QList<QLabel*> mSecondary;
+    FQueuedCall mOpenRecent{[this] { openRecent(); }};
 };

@@ -86,7 +86,9 @@ TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
     EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)")) << folder.read("p.mrx").toStdString();
     EXPECT_EQ(find<QListWidget>("recentProjects")->item(0)->data(Qt::UserRole).toString(), file);
 
-    open(file);
+    auto* recent = find<QListWidget>("recentProjects");
+    QTest::mouseClick(recent->viewport(), Qt::LeftButton, {}, recent->visualItemRect(recent->item(0)).center());
+    settle();
     EXPECT_EQ(textOf("span.getValue()").toStdString(), "2");
     ASSERT_TRUE(run("span.setValue(3)"));
     answer("Discard");

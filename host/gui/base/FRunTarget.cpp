@@ -6,8 +6,6 @@
 #include "host/design/FConnectorInterface.h"
 #include "host/run/FExternComputation.h"
 
-#include <algorithm>
-
 namespace {
 
 /** The computation that the object is, belongs to or is used by; null if there is none. */
@@ -44,12 +42,19 @@ FExternComputation* FRunTarget::get() const {
     return all.isEmpty() ? nullptr : dynamic_cast<FExternComputation*>(all.first());
 }
 
-bool FRunTarget::isAnyRunning() {
-    const QList<FManaged*> all = FObjectManager::instance()->getManaged(FExternComputation::null());
-    return std::any_of(all.begin(), all.end(), [](const FManaged* object) {
-        const auto* computation = dynamic_cast<const FExternComputation*>(object);
-        return computation && !computation->canRun();
-    });
+FExternComputation* FRunTarget::getRunning() const {
+    FExternComputation* target = get();
+    return target && !target->canRun() ? target : firstRunning();
+}
+
+FExternComputation* FRunTarget::firstRunning() {
+    for (FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
+        auto* computation = dynamic_cast<FExternComputation*>(object);
+        if (computation && !computation->canRun()) {
+            return computation;
+        }
+    }
+    return nullptr;
 }
 
 void FRunTarget::followSelection() {

@@ -39,8 +39,8 @@ bool hasResults(const FSituation& now) {
     return now.hasResults;
 }
 
-bool isRunning(const FSituation& now) {
-    return now.isRunning;
+bool isAnyRunning(const FSituation& now) {
+    return now.isAnyRunning;
 }
 
 // ---- texts ----
@@ -84,7 +84,7 @@ void run(FMainWindow& window) {
 }
 
 void stop(FMainWindow& window) {
-    if (FExternComputation* computation = window.runTarget().get()) {
+    if (FExternComputation* computation = window.runTarget().getRunning()) {
         computation->cancel();
     }
 }
@@ -214,7 +214,7 @@ std::vector<FActionRow> makeRows() {
         {"run", "&Run", 0, "&Run", "media-playback-start", "F5", "Write the input files and run the program", true,
          &canRun, &run, nullptr, &runText},
         {"stop", "&Run", 0, "&Stop", "media-playback-stop", "Shift+F5", "End the program that is running", true,
-         &isRunning, &stop},
+         &isAnyRunning, &stop},
         {"reread", "&Run", 0, "Re-read r&esults", "view-refresh", "Ctrl+F5",
          "Read the output files again, with the present marks", true,
          [](const FSituation& now) { return now.canReread; }, &reread},

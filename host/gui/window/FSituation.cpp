@@ -28,6 +28,7 @@ FSituation FSituation::now(const FRunTarget& target, const FUnsavedWork& unsaved
         situation.hasResults = static_cast<bool>(computation->getCurrentResults());
         situation.canReread = computation->canRereadResults();
     }
+    situation.isAnyRunning = FRunTarget::isAnyRunning();
     const QStringList done = FHistory::instance()->getLabels();
     situation.undoLabel = labelOrNull(done, done.size() - 1);
     situation.redoLabel = labelOrNull(FHistory::instance()->getUndoneLabels(), 0);

@@ -18,6 +18,7 @@ struct MERIX_EXPORT FSituation {
     int selected = 0;                           //!< number of selected objects
     FExternComputation* computation = nullptr;  //!< the one that Run acts on
     bool isRunning = false;                     //!< that computation runs
+    bool isAnyRunning = false;
     bool canReread = false;
     bool hasResults = false;
     QString undoLabel;  //!< null if nothing can be undone

@@ -27,7 +27,7 @@ bool FEmptyHint::eventFilter(QObject* watched, QEvent* event) {
     }
     QPainter painter(mpView->viewport());
     painter.setPen(FStateColor::of(FStateColor::State::Secondary));
-    const int margin = mpView->fontMetrics().height();
+    const int margin = mpView->fontMetrics().height() / 3;
     painter.drawText(mpView->viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, mText);
     return true;

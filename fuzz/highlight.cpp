@@ -34,7 +34,7 @@ void checkLine(const QString& line, const QStringList& names, const QRegExp& sea
 }
 
 void checkEdit(const QString& before, const QString& after) {
-    const FTextChange change = FLineEnds::change(before, after);
+    const FTextReplacement change = FLineEnds::change(before, after);
     FFuzzCheck::holds(linesOf(change.appliedTo(before)) == linesOf(after), "the lines are those of the document");
     FFuzzCheck::holds(FLineEnds::change(before, linesOf(before).join(QChar(0x2029))).isEmpty(),
                       "a document that wasn't edited changes nothing");

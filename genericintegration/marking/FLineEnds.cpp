@@ -121,7 +121,7 @@ class FInsertion {
 
 }  // namespace
 
-FTextChange change(const QString& text, const QString& document) {
+FTextReplacement change(const QString& text, const QString& document) {
     const QStringView old(text);
     const QStringView lines(document);
     const FPlaces start = commonStart(old, lines);
@@ -143,7 +143,7 @@ FTextChange change(const QString& text, const QString& document) {
     return {start.text, end.text - start.text, insertion.followedBy(old.mid(end.text))};
 }
 
-FTextChange changeOfDocument(const QString& document, const QString& text) {
+FTextReplacement changeOfDocument(const QString& document, const QString& text) {
     const FPlaces start = commonStart(text, document);
     const FPlaces end = commonEnd(text, document, start);
     return {start.document, end.document - start.document, text.mid(start.text, end.text - start.text)};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "genericintegration/marking/FTextChange.h"
+#include "genericintegration/marking/FTextReplacement.h"
 
 /**
  * Takes over what was edited in a document of lines, which doesn't hold how the lines of its text ended.
@@ -17,9 +17,9 @@ namespace FLineEnds {
  * @param document  its lines, with any of the line ends above: QTextDocument::toRawText(), but not toPlainText(), which
  *                  replaces other characters
  */
-FTextChange change(const QString& text, const QString& document);
+FTextReplacement change(const QString& text, const QString& document);
 
 /** The smallest change that gives a document the lines of a text, with positions of the document. */
-FTextChange changeOfDocument(const QString& document, const QString& text);
+FTextReplacement changeOfDocument(const QString& document, const QString& text);
 
 }  // namespace FLineEnds

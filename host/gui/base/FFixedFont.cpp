@@ -4,6 +4,8 @@
 #include <QFontInfo>
 #include <QGuiApplication>
 
+#include <algorithm>
+
 QFont FFixedFont::get() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(QGuiApplication::font().pointSizeF());
@@ -12,5 +14,16 @@ QFont FFixedFont::get() {
         font.setFamily(QStringLiteral("monospace"));
         font.setStyleHint(QFont::TypeWriter);
     }
+    return font;
+}
+
+// Asked of the database, since a font system takes something else that is meant to look similar.
+QFont FFixedFont::named(const QString& family, qreal points) {
+    QFont font = get();
+    if (QFontDatabase().hasFamily(family)) {
+        font = QFont(family);
+        font.setStyleHint(QFont::TypeWriter);
+    }
+    font.setPointSizeF(std::max(points, QGuiApplication::font().pointSizeF()));
     return font;
 }

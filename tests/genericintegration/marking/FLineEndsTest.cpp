@@ -47,7 +47,7 @@ TEST(FLineEndsTest, onlyTheEditChanges) {
 }
 
 TEST(FLineEndsTest, noSurrogatePairIsCut) {
-    const FTextChange change = FLineEnds::change("\U0001F600x\U0001F601", "\U0001F602x\U00010A01");
+    const FTextReplacement change = FLineEnds::change("\U0001F600x\U0001F601", "\U0001F602x\U00010A01");
     EXPECT_EQ(change.position, 0);
     EXPECT_EQ(change.removed, 5);
 }
@@ -79,7 +79,7 @@ TEST(FLineEndsTest, randomEditsKeepTheOtherLines) {
                     lines = lines.isEmpty() ? QStringList{""} : lines;
             }
         }
-        const FTextChange change = FLineEnds::change(text, lines.join(separator));
+        const FTextReplacement change = FLineEnds::change(text, lines.join(separator));
         const QString result = change.appliedTo(text);
         ASSERT_EQ(linesOf(result), lines) << seed;
         ASSERT_EQ(change.isEmpty(), lines == before) << seed;

@@ -3,7 +3,7 @@
 #include <QString>
 
 /** A part of a text, and what replaces it. */
-struct FTextChange {
+struct FTextReplacement {
     int position = 0;  //!< in UTF-16 units
     int removed = 0;   //!< length of the part that is replaced
     QString inserted{};

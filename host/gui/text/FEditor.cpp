@@ -1,0 +1,82 @@
+#include "host/gui/text/FEditor.h"
+
+#include "host/gui/base/FFixedFont.h"
+#include "host/gui/text/FLineNumberDisplay.h"
+
+#include <QTextBlock>
+
+#include <algorithm>
+
+FEditor::FEditor(int digits, bool showsLineNumbers, QWidget* parent)
+    : QPlainTextEdit(parent),
+      mDigits(digits),
+      mShowsLineNumbers(showsLineNumbers),
+      mpGutter(new FLineNumberDisplay(this)) {
+    setUndoRedoEnabled(false);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    constexpr qreal points = 9;
+    setFont(FFixedFont::named(QStringLiteral("Courier New"), points));
+    connect(this, &QPlainTextEdit::blockCountChanged, this, &FEditor::updateLineNumberAreaWidth);
+    connect(this, &QPlainTextEdit::updateRequest, mpGutter, &FLineNumberDisplay::follow);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this,
+            [this] { mpGutter->setCurrentBlock(textCursor().blockNumber()); });
+    updateLineNumberAreaWidth(0);
+}
+
+void FEditor::setLineNumbersShown(bool shown) {
+    mShowsLineNumbers = shown;
+    updateLineNumberAreaWidth(0);
+    mpGutter->setCurrentBlock(-1);
+    emit updateRequest(rect(), 0);
+}
+
+int FEditor::lineNumberAreaWidth() const {
+    if (!mShowsLineNumbers) {
+        return 0;
+    }
+    const int digits = std::max(mDigits, static_cast<int>(QString::number(blockCount()).size()));
+    return digits * fontMetrics().horizontalAdvance(QLatin1Char('9')) + 2 * gutterMargin(fontMetrics());
+}
+
+std::vector<FEditor::ShownBlock> FEditor::shownBlocks(const QRect& rect) const {
+    std::vector<ShownBlock> shown;
+    QTextBlock block = firstVisibleBlock();
+    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+    while (block.isValid() && top <= rect.bottom()) {
+        const qreal height = blockBoundingRect(block).height();
+        if (block.isVisible() && top + height >= rect.top()) {
+            shown.push_back({block.blockNumber(), qRound(top), fontMetrics().height()});
+        }
+        top += height;
+        block = block.next();
+    }
+    return shown;
+}
+
+void FEditor::goTo(int line, int column) {
+    const QTextBlock block = document()->findBlockByNumber(std::clamp(line, 1, blockCount()) - 1);
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + std::clamp(column - 1, 0, block.length() - 1));
+    setTextCursor(cursor);
+    centerCursor();
+}
+
+void FEditor::updateLineNumberAreaWidth(int blocks) {
+    Q_UNUSED(blocks)
+    setViewportMargins(lineNumberAreaWidth(), 0, 0, 0);
+    const QRect contents = contentsRect();
+    mpGutter->setGeometry(contents.left(), contents.top(), lineNumberAreaWidth(), viewport()->height());
+    mpGutter->setVisible(mShowsLineNumbers);
+}
+
+void FEditor::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    updateLineNumberAreaWidth(0);
+}
+
+void FEditor::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        updateLineNumberAreaWidth(0);
+    }
+}

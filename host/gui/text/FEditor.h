@@ -1,0 +1,56 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QPlainTextEdit>
+
+#include <vector>
+
+class FLineNumberDisplay;
+
+/**
+ * A text editor with a gutter for line numbers. Lines aren't wrapped. It keeps no undo steps of its own: what it edits
+ * belongs to the project, and so does undo.
+ */
+class MERIX_EXPORT FEditor : public QPlainTextEdit {
+    Q_OBJECT
+
+ public:
+    /** A block that is in view, in the coordinates of the gutter. */
+    struct ShownBlock {
+        int number;  //!< from 0
+        int top;
+        int height;  //!< of its first line
+    };
+
+    /**
+     * @param digits  how many digits the gutter has room for at least
+     * @param showsLineNumbers  whether the gutter is there at first
+     */
+    FEditor(int digits, bool showsLineNumbers, QWidget* parent);
+
+    bool areLineNumbersShown() const { return mShowsLineNumbers; }
+    void setLineNumbersShown(bool shown);
+    /** Width of the gutter in pixels; 0 if it isn't shown. */
+    int lineNumberAreaWidth() const;
+    FLineNumberDisplay* lineNumberDisplay() const { return mpGutter; }
+    static int gutterMargin(const QFontMetrics& metrics) { return metrics.averageCharWidth(); }
+
+    /** The blocks in a part of the gutter. */
+    std::vector<ShownBlock> shownBlocks(const QRect& rect) const;
+    /** Moves the cursor to a place, counted from 1, and scrolls it to the middle. Column 0 stands for the line. */
+    void goTo(int line, int column);
+
+ public slots:
+    /** Makes room for the numbers of that many blocks; 0 for those that there are. */
+    void updateLineNumberAreaWidth(int blocks);
+
+ protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+ private:
+    int mDigits;
+    bool mShowsLineNumbers;
+    FLineNumberDisplay* mpGutter;
+};

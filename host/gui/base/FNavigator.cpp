@@ -32,10 +32,8 @@ void FNavigator::showPlace(const QString& place, const QString& object) {
     if (!managed && !QFileInfo(name).isFile()) {
         managed = FObjectManager::instance()->find(object);
     }
-    if (managed && line > 0) {
+    if (managed) {
         showTemplate(managed, line, column);
-    } else if (managed) {
-        showObject(managed);
     } else if (!name.isEmpty()) {
         showFile({name, line, column});
     }

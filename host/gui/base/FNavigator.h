@@ -34,7 +34,10 @@ class MERIX_EXPORT FNavigator {
     virtual void showObject(FManaged* object) = 0;
     /** Shows a file, which isn't edited, with the place marked. */
     virtual void showFile(const Place& place) = 0;
-    /** Shows a place of a template, which the user can edit. Line 0 stands for the template as a whole. */
+    /**
+     * Selects the object, and opens the page on which the user edits it, if its class has one, at a place of its text.
+     * Line 0 stands for the object as a whole.
+     */
     virtual void showTemplate(FManaged* file, int line, int column) = 0;
     /** Shows the tables of results. */
     virtual void showResults(const FExpr<FResultsGeneric>& results) = 0;

@@ -7,6 +7,7 @@
 #include "host/gui/base/FCommandCall.h"
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FObjectPages.h"
 #include "host/gui/panels/FObjectNameDelegate.h"
 #include "host/gui/panels/FObjectTreeModel.h"
 #include "host/run/FResultsGeneric.h"
@@ -161,11 +162,15 @@ void FObjectTreeWgt::doubleClicked(const QModelIndex& index) {
     if (!object) {
         mpView->setExpanded(index, !mpView->isExpanded(index));
     } else if (!object->doubleClickedInTree()) {
-        if (const auto results = FExpr<FResultsGeneric>(object)) {
-            mNavigator.showResults(results);
-        } else {
-            mNavigator.showTemplate(object, 0, 0);
-        }
+        open(object);
+    }
+}
+
+void FObjectTreeWgt::open(FManaged* object) {
+    if (const auto results = FExpr<FResultsGeneric>(object)) {
+        mNavigator.showResults(results);
+    } else if (object) {
+        mNavigator.showTemplate(object, 0, 0);
     }
 }
 
@@ -177,6 +182,12 @@ void FObjectTreeWgt::fillMenu(QMenu& menu) {
                        [row, selected] { FCommandCall::execute(*row, selected); });
     }
     menu.addSeparator();
+    if (selected->count() == 1) {
+        const FExpr<FManaged> object(selected->at(0));
+        menu.addAction(FIcons::get(QStringLiteral("document-edit")), QStringLiteral("&Open"), this,
+                       [this, object] { open(object.ptr()); })
+            ->setEnabled(FObjectPages::has(object.ptr()) || FExpr<FResultsGeneric>(object));
+    }
     const bool isAny = FSelectionSet::instance()->count() > 0;
     menu.addAction(FIcons::get(QStringLiteral("edit-rename")), QStringLiteral("&Rename"), this,
                    &FObjectTreeWgt::renameSelected)

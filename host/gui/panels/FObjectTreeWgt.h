@@ -34,6 +34,8 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     void takeSelection();
     void showSelection();
     void doubleClicked(const QModelIndex& index);
+    /** Shows the tables of results, and the page of another object. */
+    void open(FManaged* object);
     void openMenu(const QPoint& position);
     void keepExpanded();
     void restoreExpanded();

@@ -1,8 +1,11 @@
 #include "host/gui/window/FDocumentTabs.h"
 
+#include "host/gui/base/FObjectPage.h"
+#include "host/gui/base/FPendingEdit.h"
 #include "host/gui/base/FStateColor.h"
 
 #include <QPainter>
+#include <QPointer>
 #include <QTabBar>
 #include <QVariant>
 
@@ -20,7 +23,7 @@ FDocumentTabs::FDocumentTabs(QWidget* parent) : QTabWidget(parent) {
     setMovable(true);
     tabBar()->setElideMode(Qt::ElideMiddle);
     tabBar()->setExpanding(false);
-    connect(this, &QTabWidget::tabCloseRequested, this, &FDocumentTabs::closeTab);
+    connect(this, &QTabWidget::tabCloseRequested, this, &FDocumentTabs::closeByUser);
 }
 
 QWidget* FDocumentTabs::find(const QString& key) const {
@@ -38,10 +41,19 @@ QWidget* FDocumentTabs::open(const QString& key, const QString& title, const QIc
     if (!document) {
         document = make();
         document->setProperty(keyProperty, key);
-        setTabToolTip(addTab(document, icon, title), title);
+        addTab(document, icon, QString());
+        setTitle(key, title);
     }
     setCurrentWidget(document);
     return document;
+}
+
+void FDocumentTabs::setTitle(const QString& key, const QString& title) {
+    if (QWidget* document = find(key)) {
+        // A tab takes "&" for the mark of an access key.
+        setTabText(indexOf(document), QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
+        setTabToolTip(indexOf(document), title);
+    }
 }
 
 void FDocumentTabs::close(const QString& key) {
@@ -66,8 +78,19 @@ void FDocumentTabs::paintEvent(QPaintEvent* event) {
     }
 }
 
+void FDocumentTabs::closeByUser(int index) {
+    const QPointer<QWidget> document = widget(index);
+    FPendingEdit::commitAll();
+    if (document) {
+        closeTab(indexOf(document));
+    }
+}
+
 void FDocumentTabs::closeTab(int index) {
     QWidget* document = widget(index);
     removeTab(index);
+    if (auto* page = dynamic_cast<FObjectPage*>(document)) {
+        page->letGo();
+    }
     document->deleteLater();
 }

@@ -17,6 +17,8 @@ class MERIX_EXPORT FDocumentTabs : public QTabWidget {
     QWidget* find(const QString& key) const;
     /** Shows the document with that key; makes it if it isn't open. */
     QWidget* open(const QString& key, const QString& title, const QIcon& icon, const std::function<QWidget*()>& make);
+    void setTitle(const QString& key, const QString& title);
+    /** Closes the document without taking over what was typed there, since what it shows may be gone. */
     void close(const QString& key);
     void closeAll();
 
@@ -24,5 +26,6 @@ class MERIX_EXPORT FDocumentTabs : public QTabWidget {
     void paintEvent(QPaintEvent* event) override;
 
  private:
+    void closeByUser(int index);
     void closeTab(int index);
 };

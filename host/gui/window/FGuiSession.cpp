@@ -45,7 +45,7 @@ void FGuiSession::show(FMainWindow& window) const {
         } else if (QAction* action = window.actions().get(what)) {
             action->trigger();
         } else if (object) {
-            window.showObject(object);
+            window.showTemplate(object, 0, 0);
         } else {
             FLogMsg::warning(QStringLiteral("merix"),
                              QStringLiteral("there is no panel, action or object \"%1\"").arg(what),

@@ -7,6 +7,7 @@
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
 #include "host/gui/panels/FEntriesWgt.h"
 #include "host/gui/panels/FHelpPanel.h"
@@ -20,6 +21,7 @@
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFindField.h"
 #include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FPageTabs.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FStartPage.h"
@@ -79,6 +81,7 @@ FMainWindow::FMainWindow() {
     mpCentre = new QStackedWidget(centre);
     mpStartPage = new FStartPage(*this);
     mpDocuments = new FDocumentTabs(centre);
+    mpPages = std::make_unique<FPageTabs>(*mpDocuments, *this);
     mpCentre->addWidget(mpStartPage);
     mpCentre->addWidget(mpDocuments);
     column->addWidget(mpNotices);
@@ -99,6 +102,7 @@ FMainWindow::FMainWindow() {
 
 FMainWindow::~FMainWindow() {
     // Panels refer to members of the window, which are destroyed before its children.
+    mpPages.reset();
     qDeleteAll(mDocks);
     delete centralWidget();
 }
@@ -315,9 +319,11 @@ void FMainWindow::showFile(const Place& place) {
 }
 
 void FMainWindow::showTemplate(FManaged* file, int line, int column) {
-    Q_UNUSED(line)
-    Q_UNUSED(column)
     showObject(file);
+    if (FObjectPage* page = mpPages->open(file)) {
+        page->goTo(line, column);
+        page->widget()->setFocus();
+    }
 }
 
 void FMainWindow::showResults(const FExpr<FResultsGeneric>& results) {

@@ -11,11 +11,13 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <memory>
 
 class FActions;
 class FDocumentTabs;
 class FFindField;
 class FNoticeBar;
+class FPageTabs;
 class FProjectFiles;
 class FStartPage;
 class FTablePanel;
@@ -95,6 +97,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     QStackedWidget* mpCentre = nullptr;
     FStartPage* mpStartPage = nullptr;
     FDocumentTabs* mpDocuments = nullptr;
+    std::unique_ptr<FPageTabs> mpPages;
     FNoticeBar* mpNotices = nullptr;
     FFindField* mpFind = nullptr;
     QToolButton* mpProblems = nullptr;

@@ -66,19 +66,22 @@ void FResultProblems::findValues(const FGenIntResultsFile& file, FProblemList& p
     for (const FGenIntResultsFileValue* value : FTemplateValues::among(file.getValues()->getObjects())) {
         const QString which = QStringLiteral("value %1, \"%2\", ").arg(QString::number(number), value->mName);
         if (numbers.contains(value->mName)) {
-            problems.warning(
-                file.getName(),
-                QStringLiteral("values %1 and %2 have the name \"%3\"; by name, only the first can be read")
-                    .arg(QString::number(numbers.value(value->mName)), QString::number(number), value->mName),
-                QStringLiteral("Give each value a name of its own in the list of setValues"));
+            problems
+                .warning(file.getName(),
+                         QStringLiteral("values %1 and %2 have the name \"%3\"; by name, only the first can be read")
+                             .arg(QString::number(numbers.value(value->mName)), QString::number(number), value->mName),
+                         QStringLiteral("Give each value a name of its own in the list of setValues"))
+                .part = value->mName;
         } else {
             numbers.insert(value->mName, number);
         }
         if (const QString fault = value->placeFault(); !fault.isEmpty()) {
-            problems.error(file.getName(), which + fault, remedy);
+            problems.error(file.getName(), which + fault, remedy).part = value->mName;
         } else if (value->mColumn < 0) {
-            problems.error(file.getName(), which + QStringLiteral("has the column %1").arg(value->mColumn),
-                           QStringLiteral("Columns count from 0; correct it in the list of setValues"));
+            problems
+                .error(file.getName(), which + QStringLiteral("has the column %1").arg(value->mColumn),
+                       QStringLiteral("Columns count from 0; correct it in the list of setValues"))
+                .part = value->mName;
         }
         ++number;
     }

@@ -30,6 +30,8 @@ class MERIX_EXPORT FChanges : public QObject {
     void objectChanged(FManaged* object);
 
     void stepDone(const QString& label);
+    /** The last step becomes a part of the one whose end is reported next. */
+    void stepJoined(const QString& label);
     void stepUndone(const QString& label);
     void stepRedone(const QString& label);
     /** A step that was open failed; what it had changed is as before. */

@@ -123,14 +123,51 @@ void FHistory::close() {
     const Objects changed = objectsOf(step);
     dropUndone();
     const QString label = step.label;
-    keep(std::move(step), true);
+    const bool joins = mayJoin(step);
+    keep(joins ? joinedWithLast(std::move(step)) : std::move(step), true);
     if (mDone.empty()) {
         FLogMsg::warning(QStringLiteral("FHistory"),
                          QStringLiteral("\"%1\" needs more memory than all steps may have together").arg(label),
                          QStringLiteral("Neither it nor any step before it can be undone"));
     }
     announceChanged(changed);
+    if (joins) {
+        emit FChanges::instance()->stepJoined(label);
+    }
     emit FChanges::instance()->stepDone(label);
+}
+
+bool FHistory::mayJoin(const Transaction& step) const {
+    const auto isPartOfText = [](const FieldChange& field) { return field.before.type() == typeid(FTextChange); };
+    const auto changesLongText = [&](const ObjectChange& change) {
+        return std::any_of(change.fields.begin(), change.fields.end(), isPartOfText);
+    };
+    return step.joinsLast && !mDone.empty() && mDone.back().label == step.label && step.model.empty() &&
+           mDone.back().model.empty() && std::none_of(step.objects.begin(), step.objects.end(), changesLongText);
+}
+
+FHistory::Transaction FHistory::joinedWithLast(Transaction step) {
+    Transaction joined = std::move(mDone.back());
+    mDone.pop_back();
+    mSize -= joined.size;
+    for (ObjectChange& change : step.objects) {
+        const auto known = std::find_if(joined.objects.begin(), joined.objects.end(),
+                                        [&](const ObjectChange& other) { return other.recorded == change.recorded; });
+        if (known == joined.objects.end()) {
+            joined.objects.push_back(std::move(change));
+            continue;
+        }
+        for (FieldChange& field : change.fields) {
+            const auto first = std::find_if(known->fields.begin(), known->fields.end(),
+                                            [&](const FieldChange& other) { return other.field == field.field; });
+            if (first == known->fields.end()) {
+                known->fields.push_back(std::move(field));
+            } else {
+                first->after = std::move(field.after);
+            }
+        }
+    }
+    return joined;
 }
 
 void FHistory::takeBack() {

@@ -33,6 +33,11 @@ class MERIX_EXPORT FHistory {
     void addStep(const FRecorded* object);
     /** The object belongs to the step if it has changed by its end. */
     void record(const FRecorded* object);
+    /**
+     * The open step becomes a part of the last one at its end, if that has the same label, neither of them brings
+     * objects into the model or takes them out of it, and this one changes no long text.
+     */
+    void joinLast() { mOpen.joinsLast = true; }
     bool inTransaction() const { return mDepth > 0; }
     /** Whether anything was recorded in the open transaction. */
     bool hasOpenChanges() const { return !mOpen.isEmpty(); }
@@ -102,6 +107,7 @@ class MERIX_EXPORT FHistory {
         QString label;
         std::vector<ModelChange> model;
         std::vector<ObjectChange> objects;
+        bool joinsLast = false;
         std::size_t size = 0;  // of what the model doesn't hold: it depends on whether the step is done or undone
         bool isEmpty() const { return model.empty() && objects.empty(); }
     };
@@ -132,6 +138,9 @@ class MERIX_EXPORT FHistory {
     static void announceChanged(const Objects& objects);
     static std::size_t memoryOf(const Transaction& step, bool isDone);
     void keep(Transaction step, bool isDone);
+    bool mayJoin(const Transaction& step) const;
+    /** Makes one step of the last one and the one that follows it. */
+    Transaction joinedWithLast(Transaction step);
     /** Takes the last of the steps over to the others. */
     bool move(std::deque<Transaction>& steps, bool forward);
     void replay(const Transaction& step, bool forward);

@@ -19,6 +19,8 @@ class MERIX_EXPORT FUserStep {
 
     /** Takes back at the end of the step what was done in it. */
     void rollback() { mIsFailed = true; }
+    /** Makes it a part of the step before; see FHistory. */
+    void joinLast() { FHistory::instance()->joinLast(); }
 
     /**
      * Takes over text that is still in editors, as a step of its own; nothing happens in an open step. Whatever reads

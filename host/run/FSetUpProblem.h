@@ -19,6 +19,7 @@ struct MERIX_EXPORT FSetUpProblem {
     QString text;                  //!< a sentence without its final full stop
     QString remedy;                //!< the same; empty if there is none to give
     bool isReportedByRun = false;  //!< the run fails for this reason, and reports it itself
+    QString part{};                //!< name of the part of the object that it concerns, such as a value to read
     bool isOfValue = false;        //!< it depends on the present value of an entry
 
     /** "error", "warning" or "note". */

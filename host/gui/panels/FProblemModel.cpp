@@ -1,18 +1,13 @@
 #include "host/gui/panels/FProblemModel.h"
 
-#include "host/core/FChanges.h"
-#include "host/core/FObjectManager.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateColor.h"
-#include "host/run/FExternComputation.h"
 
-#include <QSet>
+#include <algorithm>
 
 namespace {
 
 using Severity = FSetUpProblem::Severity;
-
-constexpr int usualDelay = 300;
 
 const char* iconOf(Severity severity) {
     return severity == Severity::Error     ? "dialog-error"
@@ -28,37 +23,22 @@ QVariant colorOf(Severity severity) {
 
 }  // namespace
 
-FProblemModel::FProblemModel() {
-    mTimer.setSingleShot(true);
-    mTimer.setInterval(usualDelay);
-    connect(&mTimer, &QTimer::timeout, this, &FProblemModel::check);
-    const FChanges* changes = FChanges::instance();
-    const auto checkSoon = [this] { mTimer.start(); };
-    connect(changes, &FChanges::stepDone, this, checkSoon);
-    connect(changes, &FChanges::stepUndone, this, checkSoon);
-    connect(changes, &FChanges::stepRedone, this, checkSoon);
-    connect(changes, &FChanges::projectOpened, this, checkSoon);
-    connect(changes, &FChanges::projectClosed, this, checkSoon);
-    connect(changes, &FChanges::objectLeft, this, checkSoon);
-    mTimer.start();
+FProblemModel::FProblemModel(const FExpr<FManaged>& object)
+    : mpWatch(FProblemWatch::get()), mObject(object), mIsOfAll(object.isEmpty()) {
+    connect(mpWatch.get(), &FProblemWatch::checked, this, &FProblemModel::take);
+    take();
 }
 
-// Nothing is read for it: values that come from files of other runs are left to the check before a run.
-void FProblemModel::check() {
+void FProblemModel::take() {
     beginResetModel();
-    mProblems.clear();
-    QSet<QString> known;
-    for (const FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
-        for (const FSetUpProblem& problem :
-             FSetUpCheck::problemsOf(dynamic_cast<const FExternComputation&>(*object), false)) {
-            if (!known.contains(problem.key())) {
-                known.insert(problem.key());
-                mProblems.append(problem);
-            }
-        }
+    mProblems = mpWatch->problems();
+    if (!mIsOfAll) {
+        const QString name = mObject ? mObject->getName() : QString();
+        const auto isOfOther = [&](const FSetUpProblem& problem) {
+            return problem.object != name && !problem.place.startsWith(name + QLatin1Char(':'));
+        };
+        mProblems.erase(std::remove_if(mProblems.begin(), mProblems.end(), isOfOther), mProblems.end());
     }
-    std::stable_sort(mProblems.begin(), mProblems.end(),
-                     [](const FSetUpProblem& a, const FSetUpProblem& b) { return a.severity > b.severity; });
     endResetModel();
     emit checked();
 }

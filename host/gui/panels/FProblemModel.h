@@ -1,25 +1,22 @@
 #pragma once
 
 #include "host/core/FExport.h"
-#include "host/run/FSetUpCheck.h"
+#include "host/core/FManaged.h"
+#include "host/gui/base/FProblemWatch.h"
 
 #include <QAbstractTableModel>
-#include <QTimer>
 
-/** What is wrong with the set-ups of all computations. Checked a moment after each change. */
+/** The problems that FProblemWatch finds: all, or those of one object. */
 class MERIX_EXPORT FProblemModel : public QAbstractTableModel {
     Q_OBJECT
 
  public:
     enum Column { severityColumn, objectColumn, textColumn, remedyColumn, columns };
 
-    FProblemModel();
+    /** @param object  whose problems are shown, also those in its text; empty for all */
+    explicit FProblemModel(const FExpr<FManaged>& object = {});
 
     const FSetUpProblem& problem(int row) const { return mProblems.at(row); }
-    /** Checks now. */
-    void check();
-    /** Time between a change and the check, in milliseconds. */
-    void setDelay(int delay) { mTimer.setInterval(delay); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -30,6 +27,10 @@ class MERIX_EXPORT FProblemModel : public QAbstractTableModel {
     void checked();
 
  private:
+    void take();
+
+    std::shared_ptr<FProblemWatch> mpWatch;
+    FExpr<FManaged> mObject;
+    bool mIsOfAll;
     FSetUpCheck::Problems mProblems;
-    QTimer mTimer;
 };

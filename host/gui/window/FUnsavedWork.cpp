@@ -5,6 +5,7 @@
 FUnsavedWork::FUnsavedWork() {
     const FChanges* changes = FChanges::instance();
     connect(changes, &FChanges::stepDone, this, &FUnsavedWork::done);
+    connect(changes, &FChanges::stepJoined, this, &FUnsavedWork::joined);
     connect(changes, &FChanges::stepUndone, this, [this] { moved(-1); });
     connect(changes, &FChanges::stepRedone, this, [this] { moved(1); });
     connect(changes, &FChanges::projectSaved, this, &FUnsavedWork::saved);
@@ -22,6 +23,13 @@ void FUnsavedWork::done() {
         mSavedPosition = nowhere;  // the steps back to it can't be redone any more
     }
     moved(1);
+}
+
+void FUnsavedWork::joined() {
+    if (mPosition == mSavedPosition) {
+        mSavedPosition = nowhere;  // what was saved is in the middle of a step now
+    }
+    moved(-1);
 }
 
 void FUnsavedWork::moved(int steps) {

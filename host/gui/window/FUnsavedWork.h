@@ -23,6 +23,7 @@ class MERIX_EXPORT FUnsavedWork : public QObject {
 
     void moved(int steps);
     void done();
+    void joined();
     void saved();
 
     int mPosition = 1 << 30;       //!< grows with each step; starts so high that undo never leads to `nowhere`

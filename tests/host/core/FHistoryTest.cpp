@@ -183,4 +183,50 @@ TEST_F(FHistoryTest, aStepOfAnObjectThatWentWithoutAStep) {
     EXPECT_EQ(textOf("a.getNumber()"), "1");
 }
 
+TEST_F(FHistoryTest, stepsBecomeOneOnlyWhereTheyMay) {
+    run("thing a(1)\nthing b(10)");
+    auto* a = object<FThing>("a");
+    const auto change = [&](const QString& thing, double number, const QString& label) {
+        FUserStep step(label);
+        step.joinLast();
+        object<FThing>(thing)->setNumber(number);
+        history().addStep(object<FThing>(thing));
+    };
+    history().clear();
+    change("a", 2, "turn");
+    change("a", 3, "turn");
+    change("b", 20, "turn");
+    change("a", 4, "turn");
+    EXPECT_EQ(history().getLabels(), QStringList("turn"));
+    change("a", 5, "other");
+    EXPECT_EQ(history().getLabels(), (QStringList{"turn", "other"}));
+    EXPECT_TRUE(history().undo());
+    EXPECT_EQ(a->getNumber(), 4);
+    EXPECT_TRUE(history().undo());
+    EXPECT_EQ(a->getNumber(), 1);
+    EXPECT_EQ(object<FThing>("b")->getNumber(), 10);
+    EXPECT_TRUE(history().redo());
+    EXPECT_EQ(a->getNumber(), 4);
+    EXPECT_EQ(object<FThing>("b")->getNumber(), 20);
+    // One that brings an object stays on its own, and so does what follows it.
+    {
+        FUserStep step("turn");
+        step.joinLast();
+        FThing::create("c")->setNumber(1);
+    }
+    change("a", 6, "turn");
+    EXPECT_EQ(history().getLabels(), (QStringList{"turn", "turn", "turn"}));
+    // A long text is kept as the part that changed.
+    const QString text(10'000, 'x');
+    for (const char* end : {"1", "2"}) {
+        FUserStep step("turn");
+        step.joinLast();
+        a->setText(text + end);
+        history().addStep(a);
+    }
+    EXPECT_EQ(history().getLabels().size(), 5);
+    EXPECT_TRUE(history().undo());
+    EXPECT_EQ(a->getText(), text + "1");
+}
+
 }  // namespace

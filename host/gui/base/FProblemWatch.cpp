@@ -1,0 +1,58 @@
+#include "host/gui/base/FProblemWatch.h"
+
+#include "host/core/FChanges.h"
+#include "host/core/FObjectManager.h"
+#include "host/run/FExternComputation.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int usualDelay = 300;
+
+}  // namespace
+
+std::shared_ptr<FProblemWatch> FProblemWatch::get() {
+    static std::weak_ptr<FProblemWatch> present;
+    std::shared_ptr<FProblemWatch> watch = present.lock();
+    if (!watch) {
+        watch.reset(new FProblemWatch);
+        present = watch;
+    }
+    return watch;
+}
+
+FProblemWatch::FProblemWatch() {
+    mTimer.setSingleShot(true);
+    mTimer.setInterval(usualDelay);
+    connect(&mTimer, &QTimer::timeout, this, &FProblemWatch::check);
+    const FChanges* changes = FChanges::instance();
+    const auto checkSoon = [this] { mTimer.start(); };
+    connect(changes, &FChanges::stepDone, this, checkSoon);
+    connect(changes, &FChanges::stepUndone, this, checkSoon);
+    connect(changes, &FChanges::stepRedone, this, checkSoon);
+    connect(changes, &FChanges::projectOpened, this, checkSoon);
+    connect(changes, &FChanges::projectClosed, this, checkSoon);
+    connect(changes, &FChanges::objectLeft, this, checkSoon);
+    mTimer.start();
+}
+
+// Nothing is read for it: values that come from files of other runs are left to the check before a run.
+void FProblemWatch::check() {
+    mProblems.clear();
+    QSet<QString> known;
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
+        for (const FSetUpProblem& problem :
+             FSetUpCheck::problemsOf(dynamic_cast<const FExternComputation&>(*object), false)) {
+            if (!known.contains(problem.key())) {
+                known.insert(problem.key());
+                mProblems.append(problem);
+            }
+        }
+    }
+    std::stable_sort(mProblems.begin(), mProblems.end(),
+                     [](const FSetUpProblem& a, const FSetUpProblem& b) { return a.severity > b.severity; });
+    emit checked();
+}

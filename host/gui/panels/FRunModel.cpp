@@ -11,6 +11,7 @@
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FValueSummary.h"
 
+#include <algorithm>
 #include <cmath>
 
 using State = FRunRecord::State;
@@ -52,14 +53,15 @@ QString causeOf(const FRunRecord& record) {
                : record.message.section(QLatin1Char('\n'), 0, 0);
 }
 
-QString summaryOf(const FExternComputation* computation, const FRunRecord& record) {
+QList<FExpr<FTableData>> readTables(const FExternComputation* computation) {
     const auto* results =
         computation ? dynamic_cast<const FResultsGeneric*>(computation->getCurrentResults().ptr()) : nullptr;
-    if (!results || !results->readSilently() || results->tables().isEmpty()) {
-        return record.message;
-    }
-    const QString values =
-        FValueSummary(results->tables(), FNumberCheck::accepted(computation->getSuccessRules())).toText();
+    return results && results->readSilently() ? results->tables() : QList<FExpr<FTableData>>();
+}
+
+QString summaryOf(const FExternComputation& computation, const QList<FExpr<FTableData>>& tables,
+                  const FRunRecord& record) {
+    const QString values = FValueSummary(tables, FNumberCheck::accepted(computation.getSuccessRules())).toText();
     return record.message.isEmpty() ? values : QStringLiteral("%1. %2").arg(values, record.message);
 }
 
@@ -133,6 +135,10 @@ void FRunModel::follow(FExternComputation* computation) {
                              known.record->start == record->start && known.record->computation == record->computation);
         if (isSame) {
             known.record = record;
+            // At once: a script may start the next run before the event loop is reached.
+            if (record->isOver() && !known.isSummarized) {
+                summarize(row);
+            }
             rowChanged(row);
             return;
         }
@@ -165,15 +171,39 @@ void FRunModel::tick() {
 
 void FRunModel::summarize() {
     for (int row = 0; row < rowCount(); ++row) {
-        Attempt& done = mAttempts[static_cast<std::size_t>(row)];
-        if (!done.record->isOver() || done.isSummarized) {
-            continue;
+        if (attempt(row).record->isOver() && !attempt(row).isSummarized) {
+            summarize(row);
+            rowChanged(row);
         }
-        done.isSummarized = true;
-        const bool hasNumbers = done.record->isSuccess() && isLast(row);
-        done.said = hasNumbers ? summaryOf(computation(row), *done.record) : causeOf(*done.record);
-        rowChanged(row);
     }
+}
+
+void FRunModel::summarize(int row) {
+    Attempt& done = mAttempts[static_cast<std::size_t>(row)];
+    done.isSummarized = true;
+    if (done.record->isSuccess() && isLast(row)) {
+        done.tables = readTables(computation(row));
+    }
+    done.said = done.tables.isEmpty() ? causeOf(*done.record) : summaryOf(*computation(row), done.tables, *done.record);
+    limitNumbers();
+}
+
+void FRunModel::limitNumbers() {
+    int numbers = 0;
+    for (Attempt& kept : mAttempts) {
+        for (const FExpr<FTableData>& table : qAsConst(kept.tables)) {
+            numbers += table->getRowCount() * std::max(table->getColumnCount(), 1);
+        }
+        if (numbers > mostNumbers && &kept != &mAttempts.front()) {
+            kept.tables.clear();
+        }
+    }
+}
+
+int FRunModel::rowOf(const std::shared_ptr<const FRunRecord>& record) const {
+    const auto found = std::find_if(mAttempts.begin(), mAttempts.end(),
+                                    [&](const Attempt& attempt) { return attempt.record == record; });
+    return found == mAttempts.end() ? -1 : static_cast<int>(found - mAttempts.begin());
 }
 
 FExternComputation* FRunModel::computation(int row) const {

@@ -4,8 +4,10 @@
 #include "host/core/FExpr.h"
 #include "host/core/FQueuedCall.h"
 #include "host/run/FRunRecord.h"
+#include "host/run/FTableData.h"
 
 #include <QAbstractTableModel>
+#include <QList>
 #include <QTimer>
 
 #include <deque>
@@ -23,17 +25,24 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
  public:
     /** Runs beyond that number push out the oldest. */
     static constexpr std::size_t most = 1000;
+    /** So many numbers of earlier runs are kept. */
+    static constexpr int mostNumbers = 200'000;
     enum Column { runColumn, stateColumn, startColumn, tookColumn, saidColumn, columns };
 
     FRunModel();
 
     const FRunRecord& record(int row) const { return *attempt(row).record; }
+    const std::shared_ptr<const FRunRecord>& recordOf(int row) const { return attempt(row).record; }
+    /** The row with that record; -1 if there is none. */
+    int rowOf(const std::shared_ptr<const FRunRecord>& record) const;
     /** Null if it is no longer in the model. */
     FExternComputation* computation(int row) const;
     /** Where the files of the run are, with a slash at the end; empty if later runs have replaced them. */
     QString folderOf(int row) const;
     /** Whether the run is the last one of its computation, so that its results are the present ones. */
     bool isLast(int row) const;
+    /** The tables that the run gave; none if it has failed, or if its numbers aren't kept any more. */
+    const QList<FExpr<FTableData>>& tablesOf(int row) const { return attempt(row).tables; }
     bool isStopping(int row) const { return attempt(row).isStopping; }
     /** Requests the end of a run. */
     void stop(int row);
@@ -59,6 +68,7 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
         bool isStopping = false;
         bool isSummarized = false;
         QString said{};
+        QList<FExpr<FTableData>> tables{};
     };
 
     const Attempt& attempt(int row) const { return mAttempts[static_cast<std::size_t>(row)]; }
@@ -70,6 +80,8 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
     void tick();
     /** Reads what runs that have ended have to say, which may take a while for large files. */
     void summarize();
+    void summarize(int row);
+    void limitNumbers();
     QString stateText(const FRunRecord& record, bool isStopping) const;
     QString textOf(int row, int column) const;
 

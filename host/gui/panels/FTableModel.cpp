@@ -43,10 +43,12 @@ std::string_view textOfPart(const FAverageRows& rows, int part) {
 
 }  // namespace
 
-void FTableModel::setTable(const FExpr<FTableData>& table, const FExpr<FTableData>& before, FNumberFlags accepted) {
+void FTableModel::setTable(const FExpr<FTableData>& table, const FExpr<FTableData>& before, const QString& title,
+                           FNumberFlags accepted) {
     beginResetModel();
     mTable = table;
     mBefore = before;
+    mBeforeTitle = title;
     mAccepted = accepted;
     makeColumns();
     endResetModel();
@@ -62,7 +64,7 @@ void FTableModel::makeColumns() {
                             : count == 1    ? QStringLiteral("Value")
                                             : QString::number(column)});
         if (mBefore) {
-            mColumns.push_back({Kind::Before, column, QStringLiteral("Run before")});
+            mColumns.push_back({Kind::Before, column, mBeforeTitle});
             mColumns.push_back({Kind::Difference, column, QStringLiteral("Difference")});
         }
     }

@@ -22,9 +22,11 @@ class MERIX_EXPORT FTableModel : public QAbstractItemModel {
     /**
      * @param table     empty for no rows
      * @param before    the same table of another run; empty for none
+     * @param title     of the column with the numbers of that run
      * @param accepted  flags that aren't suspicious
      */
-    void setTable(const FExpr<FTableData>& table, const FExpr<FTableData>& before, FNumberFlags accepted);
+    void setTable(const FExpr<FTableData>& table, const FExpr<FTableData>& before, const QString& title,
+                  FNumberFlags accepted);
 
     Kind kindOf(int column) const { return mColumns[static_cast<std::size_t>(column)].kind; }
     /** The place of a row in its file, whose name is relative to the folder of the run; line 0 if there is none. */
@@ -58,6 +60,7 @@ class MERIX_EXPORT FTableModel : public QAbstractItemModel {
 
     FExpr<FTableData> mTable;
     FExpr<FTableData> mBefore;
+    QString mBeforeTitle;
     FNumberFlags mAccepted;
     std::vector<Column> mColumns;
 };

@@ -9,6 +9,7 @@
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FListView.h"
+#include "host/gui/panels/FRunModel.h"
 #include "host/gui/panels/FTableModel.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FNumberCheck.h"
@@ -22,6 +23,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QToolButton>
 
 namespace {
@@ -58,8 +60,9 @@ QString FTablePanel::titleOf(const FExpr<FResultsGeneric>& results) {
                                      : results->getName();
 }
 
-FTablePanel::FTablePanel(FNavigator& navigator, const FExpr<FResultsGeneric>& results)
+FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FExpr<FResultsGeneric>& results)
     : mNavigator(navigator),
+      mRuns(runs),
       mComputation(isCurrent(*results.ptr()) ? results->getComputation() : FExpr<FExternComputation>()),
       mResultsId(mComputation ? 0 : results->getDbId()),
       mpSign(new QLabel(this)),
@@ -109,6 +112,11 @@ void FTablePanel::makeHeader(QHBoxLayout& row) {
                           QStringLiteral("Show the numbers of the run before beside these"));
     mpCompare->setCheckable(true);
     connect(mpCompare, &QToolButton::clicked, this, &FTablePanel::compare);
+    auto* others = new QMenu(mpCompare);
+    others->setObjectName(QStringLiteral("runsToCompare"));
+    connect(others, &QMenu::aboutToShow, this, [this, others] { fillRuns(*others); });
+    mpCompare->setMenu(others);
+    mpCompare->setPopupMode(QToolButton::MenuButtonPopup);
     const QToolButton* copy = addButton(row, QStringLiteral("copyResults"), QStringLiteral("edit-copy"),
                                         QStringLiteral("Copy the selected rows, or all, as CSV (Ctrl+C)"));
     connect(copy, &QToolButton::clicked, this, [this] { FClipboard::setText(mpView->toText()); });
@@ -155,7 +163,9 @@ void FTablePanel::refresh() {
     }
     if (shown->prepareResults() && mTables != shown->tables()) {
         mTables = shown->tables();
-        if (mpCompare->isChecked()) {
+        if (!mChosen.isEmpty()) {
+            setBefore(mChosen, mBeforeTitle);
+        } else if (mpCompare->isChecked()) {
             readBefore();
         }
         const QString before = mpTable->currentText();
@@ -172,7 +182,7 @@ void FTablePanel::refresh() {
 
 void FTablePanel::showTable() {
     const int number = mpTable->currentIndex();
-    mpModel->setTable(mTables.value(number), mBefore.value(number), accepted());
+    mpModel->setTable(mTables.value(number), mBefore.value(number), mBeforeTitle, accepted());
     bool hasParts = false;
     for (int row = 0; row < mpModel->rowCount() && !hasParts; ++row) {
         hasParts = mpModel->rowCount(mpModel->index(row, 0)) > 0;
@@ -232,7 +242,47 @@ void FTablePanel::showPlace(const QModelIndex& index) {
 
 // ---- comparison ----
 
+void FTablePanel::fillRuns(QMenu& menu) {
+    menu.clear();
+    const QAction* before = menu.addAction(QStringLiteral("The run before"));
+    connect(before, &QAction::triggered, this, [this] { compare(true); });
+    menu.addSeparator();
+    const FResultsGeneric* shown = results();
+    const FExpr<FExternComputation> computation = shown ? shown->getComputation() : FExpr<FExternComputation>();
+    for (int row = 0; row < mRuns.rowCount(); ++row) {
+        const QList<FExpr<FTableData>>& tables = mRuns.tablesOf(row);
+        if (!tables.isEmpty() && tables != mTables && mRuns.computation(row) == computation.ptr()) {
+            const QAction* run = menu.addAction(
+                QStringLiteral("%1, %2").arg(mRuns.index(row, FRunModel::runColumn).data().toString(),
+                                             mRuns.index(row, FRunModel::startColumn).data().toString()));
+            // Rows move with each further run.
+            const std::shared_ptr<const FRunRecord> record = mRuns.recordOf(row);
+            connect(run, &QAction::triggered, this, [this, record] { compareWith(mRuns.rowOf(record)); });
+        }
+    }
+}
+
+void FTablePanel::compareWith(int run) {
+    if (run >= 0) {
+        mChosen = mRuns.tablesOf(run);
+        setBefore(mChosen, mRuns.index(run, FRunModel::runColumn).data().toString());
+    }
+    mpCompare->setChecked(!mBefore.isEmpty());
+    showTable();
+}
+
+void FTablePanel::setBefore(const QList<FExpr<FTableData>>& tables, const QString& title) {
+    mBefore.clear();
+    mBeforeTitle = title;
+    for (const FExpr<FTableData>& table : qAsConst(mTables)) {
+        const auto same = std::find_if(tables.begin(), tables.end(),
+                                       [&](const auto& other) { return other->getName() == table->getName(); });
+        mBefore.append(same == tables.end() ? FExpr<FTableData>(new FTableData) : *same);
+    }
+}
+
 void FTablePanel::compare(bool isCompared) {
+    mChosen.clear();
     if (isCompared) {
         readBefore();
     } else {
@@ -264,11 +314,7 @@ void FTablePanel::readBefore() {
         return;
     }
     if (read->readSilently()) {
-        for (const FExpr<FTableData>& table : qAsConst(mTables)) {
-            const auto same = std::find_if(read->tables().begin(), read->tables().end(),
-                                           [&](const auto& other) { return other->getName() == table->getName(); });
-            mBefore.append(same == read->tables().end() ? FExpr<FTableData>(new FTableData) : *same);
-        }
+        setBefore(read->tables(), QStringLiteral("Run before"));
     }
     FManaged::destroy(earlier.ptr(), false);
 }
@@ -279,7 +325,7 @@ QString FTablePanel::toCsv() const {
     QString text;
     for (int number = 0; number < mTables.size(); ++number) {
         FTableModel table;
-        table.setTable(mTables.at(number), mBefore.value(number), accepted());
+        table.setTable(mTables.at(number), mBefore.value(number), mBeforeTitle, accepted());
         text += mTables.size() > 1 ? mTables.at(number)->getName() + QLatin1Char('\n') : QString();
         text += table.toCsv({});
     }

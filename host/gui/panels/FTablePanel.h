@@ -9,10 +9,12 @@
 
 class FExternComputation;
 class FListView;
+class FRunModel;
 class FTableModel;
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QToolButton;
 
 /**
@@ -23,11 +25,14 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     Q_OBJECT
 
  public:
-    FTablePanel(FNavigator& navigator, const FExpr<FResultsGeneric>& results);
+    /** @param runs  whose numbers can be shown beside these; outlives the panel */
+    FTablePanel(FNavigator& navigator, const FRunModel& runs, const FExpr<FResultsGeneric>& results);
 
     FTableModel& model() { return *mpModel; }
     /** Shows the numbers of the run before beside these, or no longer. */
     void compare(bool isCompared);
+    /** Shows the numbers of a run, by its row, beside these. */
+    void compareWith(int run);
     /** Asks for a file, and writes all tables to it. */
     void exportCsv();
 
@@ -48,6 +53,9 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     FResultsGeneric* results() const;
     /** Reads what isn't read yet, and shows it. */
     void refresh();
+    void fillRuns(QMenu& menu);
+    /** Takes over the tables of another run, in the order of these. */
+    void setBefore(const QList<FExpr<FTableData>>& tables, const QString& title);
     void readBefore();
     void showTable();
     void showState();
@@ -57,10 +65,13 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     QString toCsv() const;
 
     FNavigator& mNavigator;
+    const FRunModel& mRuns;
     FExpr<FExternComputation> mComputation;  //!< whose present results are shown; empty for others
     int mResultsId;  //!< 0 for present ones; not a handle, which would keep results of earlier runs
     QList<FExpr<FTableData>> mTables;
-    QList<FExpr<FTableData>> mBefore;
+    QList<FExpr<FTableData>> mChosen;  //!< of the run that was chosen; empty for the run before
+    QList<FExpr<FTableData>> mBefore;  //!< in the order of `mTables`
+    QString mBeforeTitle;
     QLabel* mpSign;
     QLabel* mpState;
     QComboBox* mpTable;

@@ -15,6 +15,7 @@
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FProblemModel.h"
 #include "host/gui/panels/FProblemsPanel.h"
+#include "host/gui/panels/FRunPanel.h"
 #include "host/gui/panels/FTablePanel.h"
 #include "host/gui/text/FOutputDocument.h"
 #include "host/gui/window/FActions.h"
@@ -101,10 +102,10 @@ FMainWindow::FMainWindow() {
 }
 
 FMainWindow::~FMainWindow() {
-    // Panels refer to members of the window, which are destroyed before its children.
+    // Documents refer to panels, and both to members of the window, which are destroyed before its children.
     mpPages.reset();
-    qDeleteAll(mDocks);
     delete centralWidget();
+    qDeleteAll(mDocks);
 }
 
 void FMainWindow::makeToolbar() {
@@ -337,10 +338,11 @@ FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
     const QString key = FTablePanel::keyOf(results);
     QWidget* document =
         mpDocuments->open(key, FTablePanel::titleOf(results), FIcons::get(QStringLiteral("results")), [&] {
-            auto* panel = new FTablePanel(*this, results);
+            auto* shown =
+                new FTablePanel(*this, dynamic_cast<FRunPanel*>(panel(QStringLiteral("runs")))->model(), results);
             connect(
-                panel, &FTablePanel::gone, this, [this, key] { mpDocuments->close(key); }, Qt::QueuedConnection);
-            return panel;
+                shown, &FTablePanel::gone, this, [this, key] { mpDocuments->close(key); }, Qt::QueuedConnection);
+            return shown;
         });
     document->setFocus();
     return qobject_cast<FTablePanel*>(document);

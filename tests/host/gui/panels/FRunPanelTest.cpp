@@ -60,6 +60,17 @@ class FRunPanelTest : public FWindowTest {
 
 }  // namespace
 
+TEST_F(FRunPanelTest, eachRunOfAScriptKeepsWhatItSaid) {
+    EXPECT_TRUE(
+        FWindowTest::run("solver.setArguments([\"-c\", \"echo speed = 2 > out.txt\"])\nsolver.run()\n"
+                         "solver.setArguments([\"-c\", \"echo speed = 3D-01 > out.txt\"])\nsolver.run()"));
+    settle();
+    ASSERT_EQ(model().rowCount(), 2);
+    EXPECT_EQ(cell(0, FRunModel::saidColumn), "1 value, 1 suspicious: speed is followed by D-01 (out.txt:1)");
+    EXPECT_EQ(cell(1, FRunModel::saidColumn), "1 value");
+    EXPECT_EQ(model().tablesOf(1).value(0)->getElementAt(0, 0), 2);
+}
+
 TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
     const QAbstractItemModelTester tester(&model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(model().rowCount(), 0);

@@ -18,6 +18,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QToolButton>
 
 namespace {
@@ -140,6 +141,19 @@ TEST_F(FTablePanelTest, twoRunsAreComparedAndExported) {
               "speed,2.5,2,+0.5 (+25 %),2.5,\"line 1, column 9\",\n");
     find<QToolButton>("compareResults")->click();
     EXPECT_EQ(row("speed"), "speed|2.5|2.5|line 1, column 9|");
+
+    runProgram("5");
+    auto* runs = find<QMenu>("runsToCompare");
+    emit runs->aboutToShow();
+    const QList<QAction*> actions = runs->actions();
+    ASSERT_EQ(actions.size(), 4) << "the run before, a line, and the two runs other than this one";
+    EXPECT_TRUE(actions.last()->text().startsWith("solver 1, ")) << actions.last()->text().toStdString();
+    actions.last()->trigger();
+    EXPECT_EQ(panel().model().headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), "solver 1");
+    EXPECT_EQ(row("speed"), "speed|5|2|+3 (+150 %)|5|line 1, column 9|");
+    runProgram("2.5");
+    EXPECT_EQ(row("speed"), "speed|2.5|2|+0.5 (+25 %)|2.5|line 1, column 9|") << "the chosen run stays";
+    find<QToolButton>("compareResults")->click();
     auto* files = find<QComboBox>("resultFile");
     files->setCurrentIndex(1);
     emit files->activated(1);

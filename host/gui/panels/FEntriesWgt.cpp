@@ -8,6 +8,7 @@
 #include "host/gui/panels/FEntryChange.h"
 #include "host/gui/panels/FEntryDelegate.h"
 #include "host/gui/panels/FEntryModel.h"
+#include "host/gui/panels/FNewEntryDialog.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -52,7 +53,7 @@ FEntriesWgt::FEntriesWgt(FNavigator& navigator, QWidget* parent)
     bar->setObjectName(QStringLiteral("entryBar"));
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     bar->setIconSize(QSize(size, size));
-    mpAdd = makeAction("addEntry", "list-add", QStringLiteral("&Add entry"),
+    mpAdd = makeAction("addEntry", "list-add", QStringLiteral("&Add entry…"),
                        QStringLiteral("Adds an entry to the definition"), &FEntriesWgt::addEntry);
     mpRemove = makeAction("removeEntry", "list-remove", QStringLiteral("Re&move entry"),
                           QStringLiteral("Removes the entry from the definition and all its configurations"),
@@ -182,13 +183,13 @@ void FEntriesWgt::addEntry() {
     if (!configuration) {
         return;
     }
-    QString path;
-    const QString fault = FEntryChange::addEntry(*configuration, mpModel->entryAt(current()), path);
-    tell(fault);
-    mpModel->setConfiguration(configuration);
-    if (fault.isEmpty() && showEntry(path)) {
-        renameEntry();
-    }
+    auto* dialog =
+        new FNewEntryDialog(*configuration, FEntryChange::freePath(*configuration, mpModel->entryAt(current())), this);
+    connect(dialog, &FNewEntryDialog::added, this, [this](const QString& path) {
+        mpModel->setConfiguration(mpModel->configuration());
+        showEntry(path);
+    });
+    dialog->open();
 }
 
 void FEntriesWgt::removeEntry() {

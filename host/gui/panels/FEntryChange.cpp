@@ -111,21 +111,28 @@ QString FEntryChange::removeOccurrence(FEntry& entry) {
     return {};
 }
 
-QString FEntryChange::addEntry(FConfiguration& configuration, const FEntry* beside, QString& path) {
+QString FEntryChange::freePath(const FConfiguration& configuration, const FEntry* beside) {
     const FDefinition* definition = configuration.getDefinition().ptr();
-    if (!definition) {
-        return QStringLiteral("The configuration has no definition");
-    }
     const FEntryDef* neighbour = beside ? beside->getDefinition().ptr() : nullptr;
     const FEntryHolder* holder = definition;
     if (neighbour) {
         holder = neighbour->isGroup() ? static_cast<const FEntryHolder*>(neighbour) : neighbour->getHolder();
     }
     const auto* group = dynamic_cast<const FEntryBase*>(holder);
-    const QString name = holder->freeEntryName(QStringLiteral("newEntry"), nullptr);
-    path = group ? group->getFullName() + QLatin1Char('|') + name : name;
-    return onDefinition(configuration, "addEntry", {text(path), FExprBase(new FDouble(0))},
-                        QStringLiteral("Add entry %1").arg(path));
+    const QString name = holder ? holder->freeEntryName(QStringLiteral("newEntry"), nullptr) : QString();
+    return group ? group->getFullName() + QLatin1Char('|') + name : name;
+}
+
+QString FEntryChange::addEntry(FConfiguration& configuration, const NewEntry& entry) {
+    QString fault;
+    const FExprBase standard = FScriptText::bind(entry.standard, fault);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    return onDefinition(configuration, "addEntry",
+                        {text(entry.path), standard, FExprBase(new FInteger(entry.most)),
+                         FExprBase(new FInteger(entry.least)), FExprBase(new FBool(false)), text(entry.description)},
+                        QStringLiteral("Add entry %1").arg(entry.path));
 }
 
 QString FEntryChange::renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name) {

@@ -28,12 +28,18 @@ MERIX_EXPORT QString addOccurrence(FEntry& entry);
 MERIX_EXPORT bool mayRemoveOccurrence(const FEntry& entry);
 MERIX_EXPORT QString removeOccurrence(FEntry& entry);
 
-/**
- * Adds an entry with the default 0 to the definition of a configuration.
- * @param beside  in whose group it is added; null for none
- * @param path    gets the path of the new entry in the definition
- */
-MERIX_EXPORT QString addEntry(FConfiguration& configuration, const FEntry* beside, QString& path);
+struct NewEntry {
+    QString path;      //!< in the definition
+    QString standard;  //!< script text of the default value
+    int most = 1;      //!< occurrences
+    int least = 1;
+    QString description{};
+};
+
+/** Adds an entry to the definition of a configuration. */
+MERIX_EXPORT QString addEntry(FConfiguration& configuration, const NewEntry& entry);
+/** A free path for a new entry: in the group of another, or of the definition if that is null. */
+MERIX_EXPORT QString freePath(const FConfiguration& configuration, const FEntry* beside);
 /** Renames the entry in the definition; the tags of templates follow. */
 MERIX_EXPORT QString renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name);
 /** Removes the entry from the definition, and thus from all its configurations. */

@@ -10,7 +10,11 @@
 #include "tests/support/window/FVisualCheck.h"
 #include "tests/support/window/FWindowTest.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QToolButton>
 
 #include <functional>
@@ -108,6 +112,14 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     texts.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));
     check(texts, "texts");
+    texts.close();
+    FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("solver"))});
+    settle();
+    find<QAction>("addEntry")->trigger();
+    find<QComboBox>("newEntryType")->setCurrentIndex(1);
+    find<QLineEdit>("newEntryPath")->clear();
+    press(find<QLineEdit>("newEntryPath"), Qt::Key_Return);
+    check(*find<QDialog>("newEntry"), "new entry");
 }
 
 INSTANTIATE_TEST_SUITE_P(, VisualTest,

@@ -1,0 +1,14 @@
+#pragma once
+
+/** What a layout asks of the scene whose items it places. */
+class FLayoutScene {
+ public:
+    virtual void calcItemRatios() = 0;
+    virtual void redraw() = 0;
+
+ protected:
+    FLayoutScene() = default;
+    ~FLayoutScene() = default;
+    FLayoutScene(const FLayoutScene&) = default;
+    FLayoutScene& operator=(const FLayoutScene&) = default;
+};

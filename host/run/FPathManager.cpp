@@ -87,6 +87,8 @@ QString FPathManager::knownRoot() {
 
 void FPathManager::takeOpened() {
     mNames.forget();
+    // Runs of the project before, which never got a file, aren't those of this one.
+    mTemporaryRoot.clear();
     mProjectRoot = FMerixCtrl::instance()->getProjectFile().isEmpty() ? QString() : resultsRoot();
 }
 

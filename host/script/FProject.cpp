@@ -225,12 +225,9 @@ QString FProject::keepPrevious(const QString& file) const {
 
 void FProject::close(bool keepUnsaved) {
     mAutosave.stop(keepUnsaved);
-    const bool wasOpen = !FMerixCtrl::instance()->getProjectFile().isEmpty();
     mLock.release();
     mIsDamaged = false;
     mStamp = Stamp();
     FMerixCtrl::instance()->setProjectFile(QString());
-    if (wasOpen) {
-        emit FChanges::instance()->projectClosed();
-    }
+    emit FChanges::instance()->projectClosed();
 }

@@ -4,8 +4,10 @@
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FDesign.h"
 #include "host/run/FExternComputation.h"
+#include "host/script/FProject.h"
 #include "tests/support/FModelTest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -72,4 +74,19 @@ TEST_F(FPathManagerTest, hasATemporaryFolderForAProjectWithoutAFile) {
     EXPECT_TRUE(QFileInfo(QFileInfo(folder).path()).isDir()) << folder.toStdString();
     EXPECT_EQ(mPaths->getDesignDir({}), folder);
     EXPECT_LE(log().size(), 1) << "told once";
+}
+
+TEST_F(FPathManagerTest, theNextProjectWithoutAFileHasAFolderOfItsOwn) {
+    FProject::instance()->create();
+    const QTemporaryDir place;
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(place.path()));
+    const QString first = mPaths->getResultsDir({}, {});
+    ASSERT_TRUE(QDir().mkpath(first + "/solver"));
+    FProject::instance()->create();
+    EXPECT_NE(mPaths->getResultsDir({}, {}), first) << "runs of the project before aren't its runs";
+    EXPECT_TRUE(FProject::instance()->save(place.filePath("p.mrx")));
+    EXPECT_TRUE(QDir(first + "/solver").exists()) << "nor are they moved to its file";
+    FProject::instance()->create();
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
 }

@@ -22,7 +22,7 @@ class FSoftConListLayout : public FSoftConLayout {
     double getFrameBottom() const override { return 5; }
     FSoftConLayoutIconTextMeasurements getIconTextMeasurements() const override { return {7, 5, {}, {}, false}; }
     QString getSizeName() const override { return QStringLiteral("Small"); }
-    double getAreaMinWidth(int area) const;
+    virtual double getAreaMinWidth(int area) const;
 
  protected:
     QHash<int, double> mAreaItemWidths;  //!< of a row

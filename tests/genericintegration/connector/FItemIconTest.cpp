@@ -1,0 +1,96 @@
+#include "genericintegration/connector/FItemIcon.h"
+
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QElapsedTimer>
+
+#include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
+#include "genericintegration/connector/layout/FSoftConListLayout.h"
+
+namespace {
+
+/** The pixels in which two pictures of the same size differ. */
+QRect difference(const QImage& one, const QImage& other) {
+    QRect rect;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y)) {
+                rect |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return rect;
+}
+
+int darkPixels(const QImage& image, const QRect& rect) {
+    int count = 0;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x) {
+            count += qGray(image.pixel(x, y)) < 100 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+TEST(FItemIconTest, theTypeIsWrittenInTheMiddle) {
+    const auto large = FSoftConLargeGridLayout().getIconTextMeasurements();
+    const QString path = ":/softConFileName_Large";
+    const auto icon = [&](const QString& name) { return FItemIcon::ofFile(path, name, large, FItemIcon::dark); };
+    const QImage plain = icon("name.");
+    ASSERT_EQ(plain.size(), QImage(path).size());
+    EXPECT_TRUE(difference(plain, QImage(path).convertToFormat(plain.format())).isNull()) << "no type, no text";
+
+    const QRect text = difference(icon("a.dat"), plain);
+    EXPECT_NEAR(text.left() + text.right(), plain.width(), 8) << "centred";
+    EXPECT_GT(text.width(), plain.width() / 2);
+    EXPECT_LE(text.bottom(), plain.height() / 2 + 1) << "stands on the middle";
+    EXPECT_GT(text.height(), difference(icon("a.c"), plain).height())
+        << "three letters are larger than any other number";
+    EXPECT_EQ(icon("folder/a.dat\""), icon("b.dat"));
+    EXPECT_NE(icon("a.dat"), FItemIcon::ofFile(path, "a.dat", large, FItemIcon::light));
+    EXPECT_TRUE(FItemIcon::ofFile(":/none", "a.dat", large, FItemIcon::dark).isNull());
+}
+
+TEST(FItemIconTest, smallTypesAreOfOneColor) {
+    const auto small = FSoftConListLayout().getIconTextMeasurements();
+    const QString path = ":/softConFileName_Small";
+    const QImage plain = FItemIcon::ofFile(path, "a.", small, FItemIcon::dark);
+    const QRect text = difference(FItemIcon::ofFile(path, "a.dat", small, FItemIcon::dark), plain);
+    EXPECT_FALSE(text.isNull());
+    EXPECT_NEAR(text.left() + text.right(), plain.width(), 4);
+}
+
+TEST(FItemIconTest, aPictureInsteadOfAType) {
+    const auto large = FSoftConLargeGridLayout().getIconTextMeasurements();
+    const QString path = ":/softConExport_Large";
+    const QImage plain = FItemIcon::ofFile(path, "", large, FItemIcon::light);
+    const QRect picture = difference(FItemIcon::ofFile(path, ":/softConIcon", large, FItemIcon::light), plain);
+    EXPECT_LE(picture.width(), plain.width() / 2);
+    EXPECT_GT(picture.width(), plain.width() / 4);
+    EXPECT_TRUE(QRect(plain.width() / 4, 0, plain.width() / 2, plain.height()).contains(picture));
+    EXPECT_EQ(FItemIcon::ofFile(path, ":/none", large, FItemIcon::light), plain);
+}
+
+TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
+    const QImage empty = FItemIcon::ofText("", 75, 106);
+    ASSERT_EQ(empty.size(), QSize(75, 106));
+    EXPECT_EQ(QColor(empty.pixel(37, 53)), QColor(Qt::white));
+    EXPECT_EQ(QColor(empty.pixel(0, 0)), QColor(230, 230, 230)) << "outside of the page";
+    EXPECT_EQ(QColor(empty.pixel(1, 53)), QColor("#ae0000")) << "the outline";
+    EXPECT_EQ(QColor(empty.pixel(69, 4)), QColor("#ae0000")) << "the fold";
+    EXPECT_NE(QColor(empty.pixel(71, 2)), QColor("#ae0000")) << "the corner is cut off";
+
+    const QImage text = FItemIcon::ofText("first line\r\nsecond line", 75, 106);
+    EXPECT_GT(darkPixels(text, QRect(10, 10, 50, 16)), 20);
+    EXPECT_EQ(darkPixels(text, QRect(10, 40, 50, 50)), 0);
+
+    const QString line = QString(60, 'x') + '\n';
+    const QString longText = line.repeated(500000);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(FItemIcon::ofText(longText, 150, 212), FItemIcon::ofText(line.repeated(100), 150, 212));
+    EXPECT_LT(timer.elapsed(), 500) << "a long text is no more work";
+}
+
+}  // namespace

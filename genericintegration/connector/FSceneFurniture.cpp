@@ -1,0 +1,191 @@
+#include "genericintegration/connector/FSceneFurniture.h"
+
+#include "host/gui/base/FIcons.h"
+
+#include <QFrame>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+// Behind all items, from the back to the front.
+constexpr double panelDepth = -4;
+constexpr double lineDepth = -3;
+constexpr double barDepth = -2;
+constexpr double controlDepth = -1;
+
+}  // namespace
+
+const std::array<QString, filledAreas>& FSceneFurniture::labels() {
+    static const std::array<QString, filledAreas> texts{QStringLiteral("Input Files"), QStringLiteral("Input Geometry"),
+                                                        QStringLiteral("Result Values"),
+                                                        QStringLiteral("Result Files")};
+    return texts;
+}
+
+FSceneFurniture::FSceneFurniture(QGraphicsScene& scene)
+    : QObject(&scene),
+      mScene(scene),
+      mSplitLine(addFrame(QStringLiteral("verticalSplitLine"), lineDepth, true)),
+      mInputArea(addFrame(QStringLiteral("inputArea"), panelDepth, false)),
+      mResultArea(addFrame(QStringLiteral("resultArea"), panelDepth, false)),
+      mTitleBarTop(addTitleBar()),
+      mTitleBarLeft(addTitleBar()),
+      mTitleBarRight(addTitleBar()),
+      mAddInputButton(addAreaButton(QStringLiteral("addButtonRight"), SoftConInputArea)),
+      mAddOutputButton(addAreaButton(QStringLiteral("addButtonRight"), SoftConOutputArea)),
+      mAddExportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConExportArea)),
+      mAddImportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConImportArea)),
+      mScanButton(addButton(QStringLiteral("softConButton"), QIcon(QStringLiteral(":/scanForResults")),
+                            QStringLiteral("Automatic scan for results"))),
+      mConnectButton(addButton(QStringLiteral("softConButton"), QIcon(QStringLiteral(":/softConIcon")),
+                               QStringLiteral("Connect to another connector"))),
+      mDocuInputButton(addDocuButton(SoftConInputArea)),
+      mDocuOutputButton(addDocuButton(SoftConOutputArea)),
+      mDocuExportButton(addDocuButton(SoftConExportArea)),
+      mDocuImportButton(addDocuButton(SoftConImportArea)),
+      mInputLabel(addLabel(SoftConInputArea)),
+      mOutputLabel(addLabel(SoftConOutputArea)),
+      mExportLabel(addLabel(SoftConExportArea)),
+      mImportLabel(addLabel(SoftConImportArea)) {
+    makeLinkButtons();
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addFrame(const QString& name, double depth, bool isShaded) {
+    auto* frame = new QFrame;
+    frame->setObjectName(name);
+    frame->setAutoFillBackground(true);
+    frame->setBackgroundRole(isShaded ? QPalette::Mid : QPalette::AlternateBase);
+    QGraphicsProxyWidget* proxy = mScene.addWidget(frame);
+    proxy->setZValue(depth);
+    return proxy;
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addTitleBar() {
+    auto* widget = new QWidget;
+    widget->setObjectName(QStringLiteral("titleBar_wgt"));
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* bar = new QFrame;
+    bar->setObjectName(QStringLiteral("titleBar"));
+    bar->setAutoFillBackground(true);
+    bar->setBackgroundRole(QPalette::Button);
+    row->addWidget(bar);
+    const QToolButton button;
+    const int margin = widget->fontMetrics().height() / 4;
+    widget->setFixedHeight(std::max(widget->fontMetrics().height(), button.sizeHint().height()) + margin);
+    QGraphicsProxyWidget* proxy = mScene.addWidget(widget);
+    proxy->setZValue(barDepth);
+    return proxy;
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addButton(const QString& name, const QIcon& icon, const QString& what) {
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setAutoRaise(true);
+    button->setIcon(icon);
+    button->setAccessibleName(what);
+    button->resize(button->sizeHint());
+    // The bar behind shows through.
+    button->setAttribute(Qt::WA_NoSystemBackground);
+    QGraphicsProxyWidget* proxy = mScene.addWidget(button);
+    proxy->setZValue(controlDepth);
+    return proxy;
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addAreaButton(const QString& name, SoftConArea area) {
+    QGraphicsProxyWidget* proxy = addButton(name, FIcons::get(QStringLiteral("list-add")),
+                                            QStringLiteral("Add %1").arg(labels()[static_cast<std::size_t>(area)]));
+    connect(qobject_cast<QToolButton*>(proxy->widget()), &QToolButton::clicked, this,
+            [this, area] { emit addRequested(area); });
+    return proxy;
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addDocuButton(SoftConArea area) {
+    const QString label = labels()[static_cast<std::size_t>(area)];
+    QGraphicsProxyWidget* proxy =
+        addButton(QStringLiteral("softConButton"), FIcons::get(QStringLiteral("documentinfo")),
+                  QStringLiteral("About %1").arg(label));
+    connect(qobject_cast<QToolButton*>(proxy->widget()), &QToolButton::clicked, this,
+            [this, label] { emit docuRequested(label); });
+    return proxy;
+}
+
+QGraphicsProxyWidget* FSceneFurniture::addLabel(SoftConArea area) {
+    auto* label = new QLabel(labels()[static_cast<std::size_t>(area)]);
+    label->setObjectName(QStringLiteral("headerLabel"));
+    label->setAttribute(Qt::WA_NoSystemBackground);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->resize(label->sizeHint());
+    QGraphicsProxyWidget* proxy = mScene.addWidget(label);
+    proxy->setZValue(controlDepth);
+    return proxy;
+}
+
+void FSceneFurniture::makeLinkButtons() {
+    QToolButton* scan = scanButton();
+    scan->setCheckable(true);
+    scan->setToolTip(
+        QStringLiteral("Automatic scan for results in computation directory. (If you have set up the computation "
+                       "already just let it run. All new result files except pure text files will be added "
+                       "automatically.)"));
+    connect(scan, &QToolButton::clicked, this, &FSceneFurniture::scanToggled);
+    auto* link = qobject_cast<QToolButton*>(mConnectButton->widget());
+    link->setToolTip(QStringLiteral("Connects this Software Connector to the result of another Software Connector."));
+    connect(link, &QToolButton::clicked, this, &FSceneFurniture::connectRequested);
+}
+
+QToolButton* FSceneFurniture::scanButton() const {
+    return qobject_cast<QToolButton*>(mScanButton->widget());
+}
+
+bool FSceneFurniture::isInputArea(const QGraphicsItem* item) const {
+    return item == mInputArea;
+}
+
+double FSceneFurniture::titleBarHeight() const {
+    return mTitleBarTop->size().height();
+}
+
+FSceneSizes FSceneFurniture::sizes(double computationWidth) const {
+    const QFontMetrics metrics(mInputLabel->widget()->font());
+    FSceneSizes sizes;
+    sizes.computationWidth = computationWidth;
+    sizes.titleBarTop = mTitleBarTop->size().height();
+    sizes.titleBarLeft = mTitleBarLeft->size().height();
+    sizes.titleBarRight = mTitleBarRight->size().height();
+    sizes.button = mAddInputButton->size();
+    sizes.fontHeight = metrics.height();
+    for (std::size_t area = 0; area < filledAreas; ++area) {
+        sizes.labelWidths[area] = metrics.horizontalAdvance(labels()[area]);
+    }
+    return sizes;
+}
+
+void FSceneFurniture::place(const FSceneGeometry& geometry) {
+    mSplitLine->setGeometry(geometry.splitLine);
+    mInputArea->setGeometry(geometry.inputArea);
+    mResultArea->setGeometry(geometry.resultArea);
+    mTitleBarTop->setGeometry(geometry.titleBarTop);
+    mTitleBarLeft->setGeometry(geometry.titleBarLeft);
+    mTitleBarRight->setGeometry(geometry.titleBarRight);
+    mAddInputButton->setPos(geometry.addInputButton);
+    mAddOutputButton->setPos(geometry.addOutputButton);
+    mAddExportButton->setPos(geometry.addExportButton);
+    mAddImportButton->setPos(geometry.addImportButton);
+    mConnectButton->setPos(geometry.connectButton);
+    mScanButton->setPos(geometry.scanButton);
+    mDocuInputButton->setPos(geometry.docuInputButton);
+    mDocuOutputButton->setPos(geometry.docuOutputButton);
+    mDocuExportButton->setPos(geometry.docuExportButton);
+    mDocuImportButton->setPos(geometry.docuImportButton);
+    mInputLabel->setPos(geometry.labels[SoftConInputArea]);
+    mExportLabel->setPos(geometry.labels[SoftConExportArea]);
+    mOutputLabel->setPos(geometry.labels[SoftConOutputArea]);
+    mImportLabel->setPos(geometry.labels[SoftConImportArea]);
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "genericintegration/connector/layout/FSceneGeometry.h"
+
+#include <QObject>
+
+#include <array>
+
+class QAbstractButton;
+class QGraphicsItem;
+class QGraphicsProxyWidget;
+class QGraphicsScene;
+class QToolButton;
+
+/** What a connector's scene shows besides its items: panels, title bars with labels and buttons, and the line between.
+ */
+class FSceneFurniture : public QObject {
+    Q_OBJECT
+
+ public:
+    /** The texts of the labels, by area. */
+    static const std::array<QString, filledAreas>& labels();
+
+    /** Puts the widgets into the scene, which also owns this object. */
+    explicit FSceneFurniture(QGraphicsScene& scene);
+
+    FSceneSizes sizes(double computationWidth) const;
+    double titleBarHeight() const;
+    void place(const FSceneGeometry& geometry);
+    /** Whether the item is the panel behind the two upper areas. */
+    bool isInputArea(const QGraphicsItem* item) const;
+    QToolButton* scanButton() const;
+
+ signals:
+    void addRequested(SoftConArea area);
+    void docuRequested(QString area);
+    void scanToggled(bool isOn);
+    void connectRequested();
+
+ private:
+    QGraphicsProxyWidget* addFrame(const QString& name, double depth, bool isShaded);
+    QGraphicsProxyWidget* addTitleBar();
+    QGraphicsProxyWidget* addButton(const QString& name, const QIcon& icon, const QString& what);
+    QGraphicsProxyWidget* addAreaButton(const QString& name, SoftConArea area);
+    QGraphicsProxyWidget* addDocuButton(SoftConArea area);
+    QGraphicsProxyWidget* addLabel(SoftConArea area);
+    void makeLinkButtons();
+
+    QGraphicsScene& mScene;
+    QGraphicsProxyWidget* mSplitLine;
+    QGraphicsProxyWidget* mInputArea;
+    QGraphicsProxyWidget* mResultArea;
+    QGraphicsProxyWidget* mTitleBarTop;
+    QGraphicsProxyWidget* mTitleBarLeft;
+    QGraphicsProxyWidget* mTitleBarRight;
+    QGraphicsProxyWidget* mAddInputButton;
+    QGraphicsProxyWidget* mAddOutputButton;
+    QGraphicsProxyWidget* mAddExportButton;
+    QGraphicsProxyWidget* mAddImportButton;
+    QGraphicsProxyWidget* mScanButton;
+    QGraphicsProxyWidget* mConnectButton;
+    QGraphicsProxyWidget* mDocuInputButton;
+    QGraphicsProxyWidget* mDocuOutputButton;
+    QGraphicsProxyWidget* mDocuExportButton;
+    QGraphicsProxyWidget* mDocuImportButton;
+    QGraphicsProxyWidget* mInputLabel;
+    QGraphicsProxyWidget* mOutputLabel;
+    QGraphicsProxyWidget* mExportLabel;
+    QGraphicsProxyWidget* mImportLabel;
+};

@@ -1,0 +1,78 @@
+#include "genericintegration/connector/dialogs/FSoftConDialog.h"
+
+#include "genericintegration/connector/layout/FItemCaption.h"
+
+#include <QFileInfo>
+#include <QItemSelection>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalBlocker>
+
+namespace {
+
+QStringList namesIn(const QItemSelection& selection) {
+    QStringList names;
+    for (const QModelIndex& index : selection.indexes()) {
+        if (index.column() == 0) {
+            names.append(index.data().toString());
+        }
+    }
+    return names;
+}
+
+}  // namespace
+
+// The desktop's own dialog has neither the list nor the field.
+FSoftConDialog::FSoftConDialog(QWidget* parent, const QString& caption, const QString& directory, const QString& filter)
+    : QFileDialog(parent, caption, directory, filter) {
+    setOption(QFileDialog::DontUseNativeDialog);
+    setWindowFlags(windowFlags() | Qt::WindowStaysOnTopHint);
+    setFileMode(QFileDialog::ExistingFiles);
+    if (const auto* list = findChild<QListView*>(QStringLiteral("listView"))) {
+        connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FSoftConDialog::updateLineEdit);
+    }
+    if (lineEdit()) {
+        connect(lineEdit(), &QLineEdit::textChanged, this, &FSoftConDialog::lineEditChanged);
+    }
+    setLabelText(QFileDialog::Accept, QStringLiteral("Add"));
+}
+
+QLineEdit* FSoftConDialog::lineEdit() const {
+    return findChild<QLineEdit*>();
+}
+
+bool FSoftConDialog::isAnySelectedThere() const {
+    const QStringList files = selectedFiles();
+    return std::any_of(files.begin(), files.end(), [](const QString& file) { return QFileInfo::exists(file); });
+}
+
+void FSoftConDialog::accept() {
+    const QStringList files = selectedFiles();
+    if (!files.isEmpty()) {
+        emit filesSelected(files);
+        QDialog::accept();
+    }
+}
+
+void FSoftConDialog::updateLineEdit(const QItemSelection& selected, const QItemSelection& deselected) {
+    if (selected.isEmpty() && deselected.isEmpty()) {
+        return;
+    }
+    const QStringList dropped = namesIn(deselected);
+    QStringList names;
+    for (const QString& file : selectedFiles()) {
+        const QString name = FItemCaption::lastPart(file);
+        if (!dropped.contains(name)) {
+            names.append(name);
+        }
+    }
+    names += namesIn(selected);
+    names.removeDuplicates();
+    const QString quote = names.size() > 1 ? QStringLiteral("\"") : QString();
+    const QSignalBlocker blocker(lineEdit());
+    lineEdit()->setText(names.isEmpty() ? QString() : quote + names.join(quote + QLatin1Char(' ') + quote) + quote);
+}
+
+void FSoftConDialog::lineEditChanged(const QString& text) {
+    Q_UNUSED(text)
+}

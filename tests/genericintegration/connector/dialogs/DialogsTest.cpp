@@ -1,0 +1,112 @@
+#include "genericintegration/connector/dialogs/FSoftConConnectConnectorDialog.h"
+#include "genericintegration/connector/dialogs/FSoftConInputDialog.h"
+#include "host/core/FIni.h"
+#include "tests/support/FTestFolder.h"
+#include "tests/support/window/FWindowTest.h"
+
+#include <QCheckBox>
+#include <QFileSystemModel>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTreeWidget>
+
+namespace {
+
+class DialogsTest : public FWindowTest {
+ public:
+    DialogsTest() {
+        folder.write("a.inp", "1");
+        folder.write("b.inp", "2");
+    }
+
+    void open(QFileDialog& dialog) {
+        dialog.open();
+        auto* list = dialog.findChild<QListView*>("listView");
+        ASSERT_NE(list, nullptr);
+        ASSERT_TRUE(waitUntil([list] { return list->model()->rowCount(list->rootIndex()) == 2; }));
+    }
+    static void mark(const QFileDialog& dialog, int row, QItemSelectionModel::SelectionFlag how) {
+        const auto* list = dialog.findChild<QListView*>("listView");
+        list->selectionModel()->select(list->model()->index(row, 0, list->rootIndex()),
+                                       how | QItemSelectionModel::Rows);
+    }
+    static QLineEdit* names(const QFileDialog& dialog) { return dialog.findChild<QLineEdit*>(); }
+    static QPushButton* button(const QDialog& dialog, const QString& text) {
+        for (QPushButton* candidate : dialog.findChildren<QPushButton*>()) {
+            if (QString(candidate->text()).remove('&') == text) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+
+    FTestFolder folder;
+};
+
+}  // namespace
+
+TEST_F(DialogsTest, theFieldListsTheMarkedFilesAndTheButtonSaysWhetherTheyAreNew) {
+    FSoftConInputDialog dialog(&window(), "Add", folder.path(), QString(), true);
+    open(dialog);
+    mark(dialog, 0, QItemSelectionModel::Select);
+    EXPECT_EQ(names(dialog)->text(), "a.inp");
+    mark(dialog, 1, QItemSelectionModel::Select);
+    EXPECT_EQ(names(dialog)->text(), "\"a.inp\" \"b.inp\"");
+    mark(dialog, 0, QItemSelectionModel::Deselect);
+    EXPECT_EQ(names(dialog)->text(), "b.inp");
+    ASSERT_NE(button(dialog, "Add"), nullptr);
+
+    names(dialog)->clear();
+    EXPECT_FALSE(button(dialog, "Add New")->isEnabled());
+    dialog.accept();
+    EXPECT_TRUE(dialog.isVisible()) << "nothing is chosen";
+    QTest::keyClicks(names(dialog), "new.inp");
+    EXPECT_TRUE(button(dialog, "Add New")->isEnabled());
+    dialog.accept();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.selectedFiles(), QStringList{folder.path("new.inp")});
+    EXPECT_TRUE(dialog.areNonExistingAccepted());
+}
+
+TEST_F(DialogsTest, theBoxForTemplatesStartsAsTheUserLeftIt) {
+    const auto isChecked = [this](bool byDefault) {
+        const FSoftConInputDialog dialog(&window(), "Add", folder.path(), QString(), byDefault);
+        const auto* box = dialog.findChild<QCheckBox*>("convertToTemplate");
+        EXPECT_GE(dialog.layout()->indexOf(box), 0) << "it is in the layout of the dialog";
+        return box->isChecked();
+    };
+    EXPECT_TRUE(isChecked(true));
+    EXPECT_FALSE(isChecked(false));
+    FIni().setValue("SoftwareConnector/convertToTemplate", true);
+    EXPECT_TRUE(isChecked(false));
+    FIni().remove("SoftwareConnector/convertToTemplate");
+}
+
+TEST_F(DialogsTest, resultsOfOtherConnectorsAreOfferedAsExpressions) {
+    ASSERT_TRUE(
+        run("softwareConnector first()\nsoftwareConnector second()\n"
+            "genericIntegrationResultsFile polar() { .setFileName(\"out/polar.dat\") }\n"
+            "comp = first.getComputation()\n"
+            "conf = comp.getConfiguration()\n"
+            "conf.getDefinition().addEntry(\"Imports|picture\", resultsFileName(\"flow.png\"))\n"
+            "conf.getDefinition().setFiles([polar])"));
+    auto* caller = dynamic_cast<FConnectorInterface*>(object<FManaged>("second"));
+    FSoftConConnectConnectorDialog dialog(&window(), caller);
+    dialog.open();
+    auto* tree = dialog.findChild<QTreeWidget*>("connectTree");
+    ASSERT_EQ(tree->topLevelItemCount(), 1) << "not the calling one";
+    QTreeWidgetItem* top = tree->topLevelItem(0);
+    EXPECT_EQ(top->text(0), "first/Runner");
+    ASSERT_EQ(top->childCount(), 2);
+    tree->setCurrentItem(top);
+    EXPECT_FALSE(button(dialog, "Add")->isEnabled());
+    tree->setCurrentItem(top->child(0));
+    top->child(1)->setSelected(true);
+    button(dialog, "Add")->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.getSelectedExpressions(),
+              (QStringList{"Runner.getResults().getResultFileName(\"flow.png\")",
+                           "Runner.getResults().getResultTemplateName(\"out/polar.dat\")"}));
+}

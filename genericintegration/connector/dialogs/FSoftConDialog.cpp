@@ -10,10 +10,11 @@
 
 namespace {
 
-QStringList namesIn(const QItemSelection& selection) {
+/** With an empty field, the dialog also marks the folder itself. */
+QStringList namesIn(const QItemSelection& selection, const QModelIndex& folder) {
     QStringList names;
     for (const QModelIndex& index : selection.indexes()) {
-        if (index.column() == 0) {
+        if (index.column() == 0 && index.parent() == folder) {
             names.append(index.data().toString());
         }
     }
@@ -58,15 +59,17 @@ void FSoftConDialog::updateLineEdit(const QItemSelection& selected, const QItemS
     if (selected.isEmpty() && deselected.isEmpty()) {
         return;
     }
-    const QStringList dropped = namesIn(deselected);
+    const auto* list = findChild<QListView*>(QStringLiteral("listView"));
+    const QModelIndex folder = list->rootIndex();
+    const QStringList dropped = namesIn(deselected, folder);
     QStringList names;
     for (const QString& file : selectedFiles()) {
         const QString name = FItemCaption::lastPart(file);
-        if (!dropped.contains(name)) {
+        if (QDir(file) != directory() && !dropped.contains(name)) {
             names.append(name);
         }
     }
-    names += namesIn(selected);
+    names += namesIn(selected, folder);
     names.removeDuplicates();
     const QString quote = names.size() > 1 ? QStringLiteral("\"") : QString();
     const QSignalBlocker blocker(lineEdit());

@@ -1,6 +1,7 @@
 #include "genericintegration/connector/dialogs/FSoftConConnectConnectorDialog.h"
 #include "genericintegration/connector/dialogs/FSoftConInputDialog.h"
 #include "host/core/FIni.h"
+#include "host/design/FConnectorInterface.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
 
@@ -27,10 +28,12 @@ class DialogsTest : public FWindowTest {
         ASSERT_NE(list, nullptr);
         ASSERT_TRUE(waitUntil([list] { return list->model()->rowCount(list->rootIndex()) == 2; }));
     }
-    static void mark(const QFileDialog& dialog, int row, QItemSelectionModel::SelectionFlag how) {
+    static void mark(const QFileDialog& dialog, const QString& name, QItemSelectionModel::SelectionFlag how) {
         const auto* list = dialog.findChild<QListView*>("listView");
-        list->selectionModel()->select(list->model()->index(row, 0, list->rootIndex()),
-                                       how | QItemSelectionModel::Rows);
+        const QModelIndexList found = list->model()->match(list->model()->index(0, 0, list->rootIndex()),
+                                                           Qt::DisplayRole, name, 1, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        list->selectionModel()->select(found.first(), how | QItemSelectionModel::Rows);
     }
     static QLineEdit* names(const QFileDialog& dialog) { return dialog.findChild<QLineEdit*>(); }
     static QPushButton* button(const QDialog& dialog, const QString& text) {
@@ -50,30 +53,30 @@ class DialogsTest : public FWindowTest {
 TEST_F(DialogsTest, theFieldListsTheMarkedFilesAndTheButtonSaysWhetherTheyAreNew) {
     FSoftConInputDialog dialog(&window(), "Add", folder.path(), QString(), true);
     open(dialog);
-    mark(dialog, 0, QItemSelectionModel::Select);
+    mark(dialog, "a.inp", QItemSelectionModel::Select);
     EXPECT_EQ(names(dialog)->text(), "a.inp");
-    mark(dialog, 1, QItemSelectionModel::Select);
+    mark(dialog, "b.inp", QItemSelectionModel::Select);
     EXPECT_EQ(names(dialog)->text(), "\"a.inp\" \"b.inp\"");
-    mark(dialog, 0, QItemSelectionModel::Deselect);
+    mark(dialog, "a.inp", QItemSelectionModel::Deselect);
     EXPECT_EQ(names(dialog)->text(), "b.inp");
-    ASSERT_NE(button(dialog, "Add"), nullptr);
-
+    QPushButton* add = button(dialog, "Add");
+    ASSERT_NE(add, nullptr);
     names(dialog)->clear();
-    EXPECT_FALSE(button(dialog, "Add New")->isEnabled());
-    dialog.accept();
-    EXPECT_TRUE(dialog.isVisible()) << "nothing is chosen";
+    EXPECT_FALSE(add->isEnabled());
     QTest::keyClicks(names(dialog), "new.inp");
-    EXPECT_TRUE(button(dialog, "Add New")->isEnabled());
+    EXPECT_EQ(add->text(), "Add New");
+    EXPECT_TRUE(add->isEnabled());
     dialog.accept();
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.selectedFiles(), QStringList{folder.path("new.inp")});
+    EXPECT_EQ(dialog.selectedFiles().join(" "), folder.path("new.inp"))
+        << dialog.selectedFiles().join(" ").toStdString();
     EXPECT_TRUE(dialog.areNonExistingAccepted());
 }
 
 TEST_F(DialogsTest, theBoxForTemplatesStartsAsTheUserLeftIt) {
     const auto isChecked = [this](bool byDefault) {
         const FSoftConInputDialog dialog(&window(), "Add", folder.path(), QString(), byDefault);
-        const auto* box = dialog.findChild<QCheckBox*>("convertToTemplate");
+        auto* box = dialog.findChild<QCheckBox*>("convertToTemplate");
         EXPECT_GE(dialog.layout()->indexOf(box), 0) << "it is in the layout of the dialog";
         return box->isChecked();
     };
@@ -86,19 +89,19 @@ TEST_F(DialogsTest, theBoxForTemplatesStartsAsTheUserLeftIt) {
 
 TEST_F(DialogsTest, resultsOfOtherConnectorsAreOfferedAsExpressions) {
     ASSERT_TRUE(
-        run("softwareConnector first()\nsoftwareConnector second()\n"
-            "genericIntegrationResultsFile polar() { .setFileName(\"out/polar.dat\") }\n"
-            "comp = first.getComputation()\n"
-            "conf = comp.getConfiguration()\n"
-            "conf.getDefinition().addEntry(\"Imports|picture\", resultsFileName(\"flow.png\"))\n"
-            "conf.getDefinition().setFiles([polar])"));
+        run("genericIntegrationResultsFile polar() { .setFileName(\"out/polar.dat\") }\n"
+            "genericIntegrationDefinition d() { .addEntry(\"Imports|picture\", resultsFileName(\"flow.png\")) "
+            ".setFiles([polar]) }\n"
+            "genericIntegrationConfiguration c() { .setDefinition(d) }\n"
+            "genericIntegrationComputation solver() { .setConfiguration(c) }\n"
+            "softwareConnector first() { .setComputation(solver) }\nsoftwareConnector second()"));
     auto* caller = dynamic_cast<FConnectorInterface*>(object<FManaged>("second"));
     FSoftConConnectConnectorDialog dialog(&window(), caller);
     dialog.open();
     auto* tree = dialog.findChild<QTreeWidget*>("connectTree");
     ASSERT_EQ(tree->topLevelItemCount(), 1) << "not the calling one";
     QTreeWidgetItem* top = tree->topLevelItem(0);
-    EXPECT_EQ(top->text(0), "first/Runner");
+    EXPECT_EQ(top->text(0), "first/solver");
     ASSERT_EQ(top->childCount(), 2);
     tree->setCurrentItem(top);
     EXPECT_FALSE(button(dialog, "Add")->isEnabled());
@@ -107,6 +110,6 @@ TEST_F(DialogsTest, resultsOfOtherConnectorsAreOfferedAsExpressions) {
     button(dialog, "Add")->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(dialog.getSelectedExpressions(),
-              (QStringList{"Runner.getResults().getResultFileName(\"flow.png\")",
-                           "Runner.getResults().getResultTemplateName(\"out/polar.dat\")"}));
+              (QStringList{"solver.getResults().getResultFileName(\"flow.png\")",
+                           "solver.getResults().getResultTemplateName(\"out/polar.dat\")"}));
 }

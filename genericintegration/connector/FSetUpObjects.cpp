@@ -1,0 +1,97 @@
+#include "genericintegration/connector/FSetUpObjects.h"
+
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "host/core/FHistory.h"
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FLogMsg.h"
+#include "host/core/FSelectionSet.h"
+#include "host/design/FEntryDef.h"
+#include "host/lodm/FCustomComputation.h"
+
+namespace {
+
+FEntry* failed(const QString& reason) {
+    FLogMsg::info(QStringLiteral("FSoftConScene"), QStringLiteral("Error, failed to add item to software connector."),
+                  reason);
+    return nullptr;
+}
+
+template <class Fits>
+FEntry* onlyEntry(const FEntryHolder& holder, const Fits& fits) {
+    FEntry* only = nullptr;
+    for (const FExpr<FEntryBase>& handle : holder.getEntries()) {
+        auto* entry = dynamic_cast<FEntry*>(handle.getStored());
+        if (entry && fits(*entry)) {
+            if (only) {
+                return nullptr;
+            }
+            only = entry;
+        }
+    }
+    return only;
+}
+
+/** The only entry that fits, or a new one. */
+template <class Fits>
+FEntry* findOrCreate(const QString& name, FEntryHolder& holder, const Fits& fits) {
+    FEntry* entry = onlyEntry(holder, fits);
+    if (!entry) {
+        entry = FEntry::create(name, &holder, true);
+        FHistory::instance()->addStep(entry);
+    }
+    return entry;
+}
+
+}  // namespace
+
+FSetUpObjects::FSetUpObjects(const FExpr<FExternComputation>& computation) {
+    const auto* custom = dynamic_cast<FCustomComputation*>(computation.getStored());
+    const FObject* configuration = custom ? custom->getConfiguration().getStored() : nullptr;
+    mpConfiguration = const_cast<FConfigurationGenInt*>(dynamic_cast<const FConfigurationGenInt*>(configuration));
+    const FObject* definition = mpConfiguration ? mpConfiguration->getDefinition().getStored() : nullptr;
+    mpDefinition = const_cast<FDefinitionGenInt*>(dynamic_cast<const FDefinitionGenInt*>(definition));
+}
+
+FEntry* FSetUpObjects::findGroup(const QString& name, const FObject* valueType) const {
+    const QList<FExpr<FEntry>> entries = mpConfiguration->getEntry(valueType, false);
+    auto* group = entries.empty() ? nullptr : dynamic_cast<FEntry*>(entries.front()->getParent());
+    if (group) {
+        return group;
+    }
+    if (!mpDefinition->findEntry(name)) {
+        FEntryDef::create(name, mpDefinition, 1, 1, false, false, QString(), {});
+    }
+    return findOrCreate(name, *mpConfiguration, [&name](const FEntry& entry) { return entry.getName() == name; });
+}
+
+FEntry* FSetUpObjects::createEntry(const QString& groupName, const QString& name, const FObject* valueType) const {
+    if (!mpDefinition) {
+        return nullptr;
+    }
+    const FImmediateUpdateBlocker blocker;
+    FEntry* group = findGroup(groupName, valueType);
+    FEntryDef* groupDefinition = group ? group->getDefinition().ptr() : nullptr;
+    if (!groupDefinition) {
+        return failed(QStringLiteral("Could not create parent entry."));
+    }
+    const FEntryDef* definition = FEntryDef::create(name, groupDefinition, 1, 1, false, false, QString(), valueType);
+    if (!definition) {
+        return failed(QStringLiteral("Could not create entry."));
+    }
+    return findOrCreate(definition->getName(), *group,
+                        [definition](const FEntry& entry) { return entry.getDefinition().getStored() == definition; });
+}
+
+void FSetUpObjects::removeEntry(FEntry& entry) {
+    const FImmediateUpdateBlocker blocker;
+    const FExpr<FEntryBase> kept(&entry);
+    const FExpr<FEntryDef> definition = entry.getDefinition();
+    FSelectionSet::instance()->remove(&entry);
+    if (entry.getHolder()) {
+        entry.getHolder()->removeEntry(kept);
+    }
+    if (FDefinitionBase* root = definition ? definition->getRoot() : nullptr) {
+        root->findAndRemoveEntry(definition);
+    }
+}

@@ -1,0 +1,202 @@
+#include "genericintegration/connector/FSoftConObjectItem.h"
+
+#include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/layout/FLabelMetrics.h"
+#include "genericintegration/connector/layout/FSoftConLayout.h"
+#include "host/core/FSelectionSet.h"
+#include "host/gui/base/FIcons.h"
+
+#include <QAction>
+#include <QFontMetricsF>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsSceneEvent>
+#include <QPen>
+#include <QToolButton>
+
+namespace {
+
+FLabelMetrics metricsOf(const QFont& font) {
+    const QFontMetrics metrics(font);
+    return {[metrics](const QString& text) { return static_cast<double>(metrics.horizontalAdvance(text)); },
+            [metrics](const QString& text, int width) { return metrics.elidedText(text, Qt::ElideMiddle, width); },
+            metrics.height()};
+}
+
+}  // namespace
+
+FClassData FSoftConObjectItem::mClass("FSoftConObjectItem", &FSoftwareConnectorItem::mClass);
+
+FSoftConObjectItem::FSoftConObjectItem(FItemScene* scene, QGraphicsItem* parent, const FExpr<FObject>& object,
+                                       SoftConArea area, const QString& image)
+    : FClass(scene, parent, area, image) {
+    setObject(object);
+}
+
+FSoftConObjectItem::~FSoftConObjectItem() {
+    mObject.unregisterClient(this);
+}
+
+void FSoftConObjectItem::init() {
+    mFrame = new QGraphicsRectItem(this);
+    mFrame->setAcceptHoverEvents(true);
+    mFrame->setFlag(ItemStacksBehindParent);
+    mFrame->setBrush(QColor(230, 230, 230));
+    mFrame->setPen(QPen(Qt::lightGray, 1, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+    mFrame->installSceneEventFilter(this);
+
+    auto* button = new QToolButton;
+    button->setObjectName(QStringLiteral("deleteButton"));
+    button->setAutoRaise(true);
+    mDeleteProxy = new QGraphicsProxyWidget(this);
+    mDeleteProxy->setWidget(button);
+    auto* action = new QAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("Delete"), mDeleteProxy);
+    button->setDefaultAction(action);
+    mDeleteProxy->setPos(pixmap().width() + 1, 0);
+    QObject::connect(button, &QToolButton::triggered, this, [this] {
+        if (FItemScene* scene = getScene()) {
+            scene->deleteItem(this);
+        }
+    });
+}
+
+bool FSoftConObjectItem::getPreviewText(QString& /*text*/) {
+    return false;
+}
+
+void FSoftConObjectItem::selectObject() {
+    if (dynamic_cast<FManaged*>(mObject.getStored())) {
+        FSelectionSet::instance()->setSelection({mObject});
+    }
+}
+
+void FSoftConObjectItem::createObject(const QString& /*path*/, const QString& /*relativePath*/) {}
+
+void FSoftConObjectItem::updateItem() {
+    if (mLabelItem) {
+        setupItem(mLabelItem->text(), false);
+    }
+    markOutOfDate();
+}
+
+void FSoftConObjectItem::release() {
+    mCursor.clear();
+    setObject({});
+    deleteLater();
+}
+
+void FSoftConObjectItem::setObject(const FExpr<FObject>& object) {
+    mObject.unregisterClient(this);
+    mObject = object;
+    mObject.registerClient(this);
+}
+
+FLayoutItem FSoftConObjectItem::toLayoutItem() const {
+    FLayoutItem item;
+    const QRectF bounding = boundingRect();
+    item.area = getArea();
+    item.size = bounding.size();
+    item.offset = bounding.topLeft();
+    item.position = pos();
+    item.icon = pixmap().size();
+    item.label = mLabelItem->text();
+    item.labelSize = mLabelItem->boundingRect().size();
+    item.labelPosition = mLabelItem->pos();
+    if (mFrame) {
+        item.frame = mFrame->rect();
+        item.button = mDeleteProxy->size();
+        item.buttonPosition = mDeleteProxy->pos();
+    }
+    return item;
+}
+
+void FSoftConObjectItem::applyLayout(const FLayoutItem& item) {
+    setPos(item.position);
+    mLabelItem->setText(item.label);
+    mLabelItem->setPos(item.labelPosition);
+    if (mFrame) {
+        prepareGeometryChange();
+        mFrame->setRect(item.frame);
+        mDeleteProxy->setPos(item.buttonPosition);
+    }
+}
+
+QRectF FSoftConObjectItem::boundingRect() const {
+    const QRectF picture = QGraphicsPixmapItem::boundingRect();
+    return mFrame ? picture | mFrame->boundingRect() : picture;
+}
+
+void FSoftConObjectItem::setupItem(const QString& name, bool noFrame) {
+    const FItemScene* scene = getScene();
+    const FSoftConLayout* layout = scene ? scene->getLayout() : nullptr;
+    if (layout) {
+        FLayoutItem item = toLayoutItem();
+        layout->setupItem(item, name, metricsOf(mLabelItem->font()), noFrame);
+        applyLayout(item);
+    }
+}
+
+void FSoftConObjectItem::placeCaption(const QString& text) {
+    FItemScene* scene = getScene();
+    if (!text.isEmpty() && scene && scene->getLayout()) {
+        setupItem(text, true);
+        scene->getLayout()->itemChanged(*scene);
+    }
+}
+
+void FSoftConObjectItem::paintIcon(const QString& prefix, const QString& name, const FItemIcon::Colors& colors) {
+    const FItemScene* scene = getScene();
+    if (const FSoftConLayout* layout = scene ? scene->getLayout() : nullptr) {
+        setPixmap(QPixmap::fromImage(
+            FItemIcon::ofFile(prefix + layout->getSizeName(), name, layout->getIconTextMeasurements(), colors)));
+    }
+}
+
+void FSoftConObjectItem::markOutOfDate() {
+    if (!isRefreshing()) {
+        setOutOfDate(true);
+    }
+}
+
+bool FSoftConObjectItem::sceneEventFilter(QGraphicsItem* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::GraphicsSceneHoverEnter:
+            hoverEnterEvent(static_cast<QGraphicsSceneHoverEvent*>(event));
+            watched->setToolTip(getToolTip());
+            return true;
+        case QEvent::GraphicsSceneHoverLeave:
+            hoverLeaveEvent(static_cast<QGraphicsSceneHoverEvent*>(event));
+            return true;
+        case QEvent::GraphicsSceneMousePress:
+            mousePressEvent(static_cast<QGraphicsSceneMouseEvent*>(event));
+            return true;
+        case QEvent::GraphicsSceneMouseRelease:
+            mouseReleaseEvent(static_cast<QGraphicsSceneMouseEvent*>(event));
+            return true;
+        case QEvent::GraphicsSceneMouseDoubleClick:
+            mouseDoubleClickEvent(static_cast<QGraphicsSceneMouseEvent*>(event));
+            // Another tab takes the item from under the pointer.
+            mCursor.clear();
+            return true;
+        default:
+            return FSoftwareConnectorItem::sceneEventFilter(watched, event);
+    }
+}
+
+void FSoftConObjectItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event) {
+    FItemScene* scene = getScene();
+    if (mDoubleClicked) {
+        mDoubleClicked = false;
+    } else if (scene) {
+        scene->callEditor(this);
+    }
+    QGraphicsPixmapItem::mouseReleaseEvent(event);
+}
+
+void FSoftConObjectItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) {
+    FItemScene* scene = getScene();
+    if (scene && mObject) {
+        mDoubleClicked = true;
+        scene->gotoTab(FExpr<FGenIntFile>(mObject));
+    }
+    QGraphicsPixmapItem::mouseDoubleClickEvent(event);
+}

@@ -1,0 +1,77 @@
+#include "genericintegration/connector/FSoftwareConnectorItem.h"
+
+#include "genericintegration/connector/FItemScene.h"
+#include "host/core/FClipboard.h"
+#include "host/gui/base/FIcons.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsSceneContextMenuEvent>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+FClassData FSoftwareConnectorItem::mClass("FSoftwareConnectorItem", &FObject::mClass);
+
+FSoftwareConnectorItem::FSoftwareConnectorItem(FItemScene* scene, QGraphicsItem* parent, SoftConArea area,
+                                               const QString& image)
+    : mArea(area), mScene(scene), mLabelItem(new QGraphicsSimpleTextItem(this)) {
+    setOwnedElsewhere();
+    QObject::setParent(scene->asGraphicsScene());
+    if (parent) {
+        setParentItem(parent);
+    } else {
+        scene->asGraphicsScene()->addItem(this);
+    }
+    setPixmap(QPixmap(image));
+    setAcceptHoverEvents(true);
+    setImediateUpdate(true);
+    setOutOfDate(true);
+}
+
+void FSoftwareConnectorItem::setPixmapSize(const QSize& size) {
+    setPixmap(pixmap().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+FItemScene* FSoftwareConnectorItem::getScene() const {
+    return dynamic_cast<FItemScene*>(scene());
+}
+
+bool FSoftwareConnectorItem::doUpdate() const {
+    // An update of a view changes what it shows.
+    auto* self = const_cast<FSoftwareConnectorItem*>(this);
+    const QScopedValueRollback<bool> refreshing(self->mIsRefreshing, true);
+    self->refresh();
+    return FObject::doUpdate();
+}
+
+void FSoftwareConnectorItem::copyFileName() {
+    if (mLabelItem) {
+        FClipboard::setText(getToolTip());
+    }
+}
+
+void FSoftwareConnectorItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event) {
+    auto* menu = new QMenu(event->widget());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(FIcons::get(QStringLiteral("edit-copy")), QStringLiteral("Copy File Name"), this,
+                    &FSoftwareConnectorItem::copyFileName);
+    menu->popup(event->screenPos());
+}
+
+void FSoftwareConnectorItem::dragEnterEvent(QGraphicsSceneDragDropEvent* event) {
+    event->acceptProposedAction();
+}
+
+void FSoftwareConnectorItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event) {
+    mCursor.enter();
+    setToolTip(getToolTip());
+    QGraphicsPixmapItem::hoverEnterEvent(event);
+}
+
+void FSoftwareConnectorItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event) {
+    mCursor.leave();
+    QGraphicsPixmapItem::hoverLeaveEvent(event);
+}
+
+void FSoftwareConnectorItem::mousePressEvent(QGraphicsSceneMouseEvent* event) {
+    event->accept();
+}

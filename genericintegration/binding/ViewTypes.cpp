@@ -4,16 +4,27 @@
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
+#include "genericintegration/editors/FGenIntCommandFileEditor.h"
 #include "host/core/FInitPrototype.h"
 #include "host/gui/base/FClassLook.h"
+#include "host/gui/base/FObjectPages.h"
 
 namespace {
 
 // In load order, after those that a run needs.
-const FInitPrototypes<FSoftwareConnectorItem, FSoftConObjectItem, FSoftConComputationItem, FSoftConTemplateItem,
-                      FSoftConInputTemplateItem, FSoftConOutputTemplateItem, FSoftConEntryItem, FSoftConExportItem,
-                      FSoftConFileNameItem, FSoftConFileNameRefItem, FSoftConImportItem>
+const FInitPrototypes<FGenIntCommandFileEditor, FSoftwareConnectorItem, FSoftConObjectItem, FSoftConComputationItem,
+                      FSoftConTemplateItem, FSoftConInputTemplateItem, FSoftConOutputTemplateItem, FSoftConEntryItem,
+                      FSoftConExportItem, FSoftConFileNameItem, FSoftConFileNameRefItem, FSoftConImportItem>
     types;
+
+const bool arePagesSet = [] {
+    FObjectPages::set(QStringLiteral("FGenIntCommandFile"), [](FManaged& object, FNavigator& navigator) {
+        auto* page = new FGenIntCommandFileEditor(nullptr, FExpr<FGenIntCommandFile>(&object), {});
+        page->setNavigator(&navigator);
+        return page;
+    });
+    return true;
+}();
 
 /** What the user sees of the plug-in's types. */
 const bool areLooksSet = [] {

@@ -153,23 +153,29 @@ void FTagProblems::findUnknown(const FTemplateTag& tag, const QString& place, FP
     }
     mUnknown.insert(name);
     if (mUnknown.size() <= mostUnknown) {
-        problems.error(mFile.getName(),
-                       QStringLiteral("the tag \"%1\" names no entry, and is left out of %2")
-                           .arg(FTemplateTags::tagOf(shown(name)), mInput.file),
-                       remedyFor(name), place);
+        addRemedy(name, problems.error(mFile.getName(),
+                                       QStringLiteral("the tag \"%1\" names no entry, and is left out of %2")
+                                           .arg(FTemplateTags::tagOf(shown(name)), mInput.file),
+                                       QString(), place));
     }
 }
 
-QString FTagProblems::remedyFor(const QString& name) const {
+void FTagProblems::addRemedy(const QString& name, FSetUpProblem& problem) const {
     const QString bare = withoutIndices(name);
-    for (const QString& candidate : {bare, name.trimmed(), FExportsGroup::prefix() + name.trimmed()}) {
+    QString pattern = QStringLiteral("Did you mean \"%1\"?");
+    problem.right = nearestName(bare, mNames);
+    for (const QString& candidate : {FExportsGroup::prefix() + name.trimmed(), name.trimmed(), bare}) {
         if (candidate != name && mKeys->find(candidate) != FTemplateKeys::notFound) {
-            return QStringLiteral("Write \"%1\"").arg(FTemplateTags::tagOf(candidate));
+            problem.right = candidate;
+            pattern = QStringLiteral("Write \"%1\"");
         }
     }
-    const QString nearest = nearestName(bare, mNames);
-    return nearest.isEmpty() ? QStringLiteral("Add an entry of that name to the definition, or correct the tag")
-                             : QStringLiteral("Did you mean \"%1\"?").arg(FTemplateTags::tagOf(nearest));
+    if (problem.right.isEmpty()) {
+        problem.remedy = QStringLiteral("Add an entry of that name to the definition, or correct the tag");
+    } else {
+        problem.wrong = name;
+        problem.remedy = pattern.arg(FTemplateTags::tagOf(problem.right));
+    }
 }
 
 // Only the first one: the others most likely belong to the same mistake.

@@ -35,7 +35,8 @@ class FTagProblems {
     void findMisspelledMarker(FProblemList& problems);
     void findLoneClosing(qsizetype begin, qsizetype end, FProblemList& problems);
     void findForeignBytes(FProblemList& problems);
-    QString remedyFor(const QString& name) const;
+    /** Adds what to do about a tag that names nothing. */
+    void addRemedy(const QString& name, FSetUpProblem& problem) const;
     QString placeOf(qsizetype position);
     qsizetype fieldAfter(const FTemplateTag& tag) const;
     bool hasTextAfter(const FTemplateTag& tag) const;

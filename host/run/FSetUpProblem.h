@@ -21,6 +21,8 @@ struct MERIX_EXPORT FSetUpProblem {
     bool isReportedByRun = false;  //!< the run fails for this reason, and reports it itself
     QString part{};                //!< name of the part of the object that it concerns, such as a value to read
     bool isOfValue = false;        //!< it depends on the present value of an entry
+    QString wrong = {};            //!< the name in a tag that should be another one; empty if that isn't the problem
+    QString right = {};            //!< that other name
 
     /** "error", "warning" or "note". */
     QString severityName() const;

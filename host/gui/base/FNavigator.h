@@ -32,6 +32,8 @@ class MERIX_EXPORT FNavigator {
 
     /** Selects the object, and shows it in the tree and in the object editor. */
     virtual void showObject(FManaged* object) = 0;
+    /** Shows an entry of a configuration in the object editor. The focus stays where it is. */
+    virtual void showEntry(FManaged* configuration, const QString& path) = 0;
     /** Shows a file, which isn't edited, with the place marked. */
     virtual void showFile(const Place& place) = 0;
     /**

@@ -116,6 +116,7 @@ void FFindField::addEntries() {
                 QStringLiteral("entry of %1").arg(object->getName()), [this, handle, path] {
                     if (handle) {
                         mWindow.showEntry(handle.ptr(), path);
+                        mWindow.raisePanel(QStringLiteral("editor"));
                     }
                 });
         }

@@ -298,7 +298,9 @@ void FMainWindow::showObject(FManaged* object) {
 
 void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
     showObject(configuration);
-    raisePanel(QStringLiteral("editor"));
+    QDockWidget* dock = dockOf(QStringLiteral("editor"));
+    dock->show();
+    dock->raise();
     // The editor shows the selection from the event loop.
     QTimer::singleShot(0, this, [this, path] {
         if (auto* editor = dynamic_cast<FObjectEditorPanel*>(panel(QStringLiteral("editor")))) {

@@ -63,10 +63,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     /** Puts panels and toolbars where they are in a new installation. */
     void resetLayout();
 
-    /** Shows an entry of a configuration in the object editor. */
-    void showEntry(FManaged* configuration, const QString& path);
-
     void showObject(FManaged* object) override;
+    void showEntry(FManaged* configuration, const QString& path) override;
     void showFile(const Place& place) override;
     void showTemplate(FManaged* file, int line, int column) override;
     void showResults(const FExpr<FResultsGeneric>& results) override;

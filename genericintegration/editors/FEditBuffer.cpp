@@ -1,0 +1,150 @@
+#include "genericintegration/editors/FEditBuffer.h"
+
+#include "genericintegration/editors/FShownText.h"
+#include "genericintegration/marking/FLineEnds.h"
+#include "host/core/FChanges.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FUserStep.h"
+
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int usualDelay = 1000;  // milliseconds
+
+FTextReplacement difference(const QString& from, const QString& to) {
+    const int least = std::min(from.size(), to.size());
+    const int start =
+        static_cast<int>(std::mismatch(from.begin(), from.begin() + least, to.begin()).first - from.begin());
+    int end = 0;
+    while (end < least - start && from[from.size() - 1 - end] == to[to.size() - 1 - end]) {
+        ++end;
+    }
+    return {start, from.size() - start - end, to.mid(start, to.size() - start - end)};
+}
+
+/** A typed change of a text that has become another one meanwhile. Where both changed the same, the typed one counts.
+ */
+FTextReplacement moved(const FTextReplacement& typed, const FTextReplacement& other, int size) {
+    if (typed.position + typed.removed <= other.position) {
+        return typed;
+    }
+    const int growth = other.inserted.size() - other.removed;
+    if (other.position + other.removed <= typed.position) {
+        return {typed.position + growth, typed.removed, typed.inserted};
+    }
+    const int begin = std::min(typed.position, other.position);
+    const int end = std::max(typed.position + typed.removed, other.position + other.removed) + growth;
+    return {begin, std::min(end, size) - begin, typed.inserted};
+}
+
+}  // namespace
+
+FEditBuffer::FEditBuffer(QPlainTextEdit& edit) : mEdit(edit) {
+    mTimer.setSingleShot(true);
+    mTimer.setInterval(usualDelay);
+    connect(&mTimer, &QTimer::timeout, this, &FEditBuffer::commitEdit);
+    const auto follow = [this](const FManaged* object) {
+        if (mFile.getStored() == object) {
+            refresh();
+        }
+    };
+    const FChanges* changes = FChanges::instance();
+    connect(changes, &FChanges::objectChanged, this, follow);
+    connect(changes, &FChanges::objectEntered, this, follow);
+    connect(changes, &FChanges::objectLeft, this, [this](const FManaged* object) {
+        if (mFile.getStored() == object) {
+            forgetTyped();
+            refresh();
+        }
+    });
+}
+
+void FEditBuffer::forgetTyped() {
+    mIsPending = false;
+    mTimer.stop();
+}
+
+void FEditBuffer::letGo() {
+    forgetTyped();
+    mFile = FExpr<FGenIntFile>();
+}
+
+QString FEditBuffer::content() const {
+    return mFile ? mFile->getPlainContent() : QString();
+}
+
+void FEditBuffer::setFile(const FExpr<FGenIntFile>& file) {
+    commitEdit();
+    mFile = file;
+    refresh();
+}
+
+void FEditBuffer::fill() {
+    if (!mIsFilled) {
+        mIsFilled = true;
+        refresh();
+    }
+}
+
+void FEditBuffer::refresh() {
+    const QString text = content();
+    // The data is the same after a change that was written here.
+    if (!mIsFilled || mIsPending || (text.constData() == mBase.constData() && text.size() == mBase.size())) {
+        return;
+    }
+    mBase = text;
+    const QScopedValueRollback<bool> guard(mIsReplacing, true);
+    FShownText::change(mEdit, text, [this](int length) { emit aboutToFill(length); });
+    emit refreshed();
+}
+
+void FEditBuffer::touch() {
+    const bool isByUser =
+        !mIsReplacing && !FMerixCtrl::instance()->isBusy() && !FMerixCtrl::instance()->isLoadingProject() && mFile;
+    if (isByUser) {
+        mIsPending = true;
+        mTimer.start();
+    }
+}
+
+void FEditBuffer::write() {
+    forgetTyped();
+    if (!mFile || !mIsFilled) {
+        return;
+    }
+    const QString text = content();
+    FTextReplacement change = FLineEnds::change(mBase, mEdit.document()->toRawText());
+    const bool isElsewhere = text.constData() != mBase.constData() && text != mBase;
+    if (!change.isEmpty()) {
+        if (isElsewhere) {
+            change = moved(change, difference(mBase, text), text.size());
+        }
+        const QString changed = change.appliedTo(text);
+        mFile->setContent(changed.startsWith(QLatin1String("[B64]")) ? FGenIntFile::storedForm(changed) : changed);
+        mBase = isElsewhere ? mBase : content();
+        emit written();
+    }
+    if (isElsewhere) {
+        refresh();
+    }
+}
+
+void FEditBuffer::replace(QTextCursor cursor, const QString& text) {
+    {
+        const QScopedValueRollback<bool> guard(mIsReplacing, true);
+        cursor.insertText(text);
+    }
+    write();
+}
+
+void FEditBuffer::commitEdit() {
+    if (mIsPending) {
+        FUserStep step(QStringLiteral("text altered"));
+        write();
+    }
+}

@@ -1,0 +1,358 @@
+#include "genericintegration/editors/FGenIntCommandFileEditor.h"
+
+#include "genericintegration/editors/FGenIntCommandFileEdit.h"
+#include "genericintegration/editors/FGenIntCommandFileSyntaxHighlighter.h"
+#include "genericintegration/editors/FTemplateReports.h"
+#include "genericintegration/editors/FWrittenTextView.h"
+#include "genericintegration/io/FTemplateKeys.h"
+#include "genericintegration/io/FValueTable.h"
+#include "genericintegration/marking/FDocumentLineEnd.h"
+#include "genericintegration/marking/FTemplateLine.h"
+#include "genericintegration/marking/FWrittenText.h"
+#include "host/core/FChanges.h"
+#include "host/core/FObjectManager.h"
+#include "host/core/FUserStep.h"
+#include "host/design/FConnectorInterface.h"
+#include "host/design/FEntry.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FNavigator.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSplitter>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int checkDelay = 300;  // milliseconds
+
+/** Number, from 1, of the first line that is too long to be analysed; 0 if there is none. */
+int firstLongLine(const QString& text) {
+    int start = 0;
+    for (int line = 1; start <= text.size(); ++line) {
+        int end = text.indexOf(u'\n', start);
+        end = end < 0 ? text.size() : end;
+        if (end - start > FTemplateLine::longest) {
+            return line;
+        }
+        start = end + 1;
+    }
+    return 0;
+}
+
+}  // namespace
+
+FClassData FGenIntCommandFileEditor::mClass("FGenIntCommandFileEditor", &FView::mClass);
+
+FGenIntCommandFileEditor::FGenIntCommandFileEditor() : FGenIntCommandFileEditor(nullptr, {}, {}) {}
+
+FGenIntCommandFileEditor::FGenIntCommandFileEditor(QWidget* parent, const FExpr<FGenIntCommandFile>& file,
+                                                   const FExpr<FGenIntComputation>& computation)
+    : FClass(parent, QString()), mComputation(computation) {
+    setOwnedElsewhere();
+    if (!isInitializingPrototype()) {
+        init();
+        setCommandFile(file);
+        if (parent) {
+            show();
+        }
+    }
+}
+
+FGenIntCommandFileEditor::~FGenIntCommandFileEditor() {
+    if (mpBuffer) {
+        mpBuffer->letGo();
+    }
+    FChanges::instance()->disconnect(this);
+}
+
+void FGenIntCommandFileEditor::init() {
+    setFrameStyle(NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    auto* column = new QVBoxLayout(this);
+    constexpr int margin = 5;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(margin);
+    mpEdit = new FGenIntCommandFileEdit(this, this);
+    mpBuffer = new FEditBuffer(*mpEdit);
+    mpBuffer->setParent(this);
+    mpReports = new FTemplateReports(this);
+    column->addWidget(makeBar());
+    column->addWidget(mpReports);
+    column->addWidget(makeTexts(), 1);
+    setFocusProxy(mpEdit);
+    mCheck.setSingleShot(true);
+    mCheck.setInterval(checkDelay);
+    listen();
+}
+
+QWidget* FGenIntCommandFileEditor::makeBar() {
+    auto* bar = new QWidget(this);
+    bar->setObjectName(QStringLiteral("AttributeRow"));
+    auto* row = new QHBoxLayout(bar);
+    constexpr int margin = 2;
+    row->setContentsMargins(margin, margin, margin, margin);
+    mpModeButton = new QToolButton(bar);
+    mpModeButton->setObjectName(QStringLiteral("templateMode"));
+    mpModeButton->setAccessibleName(QStringLiteral("Plain mode"));
+    mpModeButton->setIcon(FIcons::get(QStringLiteral("document-edit")));
+    mpModeButton->setCheckable(true);
+    mpModeButton->setAutoRaise(true);
+    row->addWidget(mpModeButton);
+    auto* label = new QLabel(QStringLiteral("Template Name"), bar);
+    row->addWidget(label);
+    mpNameEdit = new QLineEdit(bar);
+    mpNameEdit->setObjectName(QStringLiteral("templateName"));
+    mpNameEdit->setAccessibleName(label->text());
+    label->setBuddy(mpNameEdit);
+    row->addWidget(mpNameEdit, 1);
+    mpValuesButton = new QToolButton(bar);
+    mpValuesButton->setObjectName(QStringLiteral("showValues"));
+    mpValuesButton->setText(QStringLiteral("Show values"));
+    mpValuesButton->setToolTip(QStringLiteral("Show beside the template what the present values make of it"));
+    mpValuesButton->setCheckable(true);
+    row->addWidget(mpValuesButton);
+    return bar;
+}
+
+QWidget* FGenIntCommandFileEditor::makeTexts() {
+    auto* texts = new QWidget(this);
+    texts->setObjectName(QStringLiteral("AttributeRow"));
+    texts->setProperty("last", true);
+    auto* row = new QHBoxLayout(texts);
+    constexpr int margin = 4;
+    row->setContentsMargins(margin, margin, margin, margin);
+    auto* splitter = new QSplitter(texts);
+    splitter->setObjectName(QStringLiteral("templateTexts"));
+    splitter->setChildrenCollapsible(false);
+    mpWritten = new FWrittenTextView(
+        *mpEdit, [this] { return writtenText(); }, splitter);
+    splitter->addWidget(mpEdit);
+    splitter->addWidget(mpWritten);
+    row->addWidget(splitter);
+    return texts;
+}
+
+void FGenIntCommandFileEditor::listen() {
+    connect(mpModeButton, &QToolButton::clicked, this, &FGenIntCommandFileEditor::changeMode);
+    connect(mpNameEdit, &QLineEdit::editingFinished, this, &FGenIntCommandFileEditor::fileNameChanged);
+    connect(mpValuesButton, &QToolButton::toggled, mpWritten, &QWidget::setVisible);
+    connect(mpEdit, &FGenIntCommandFileEdit::gotFocus, this, &FGenIntCommandFileEditor::gotFocus);
+    connect(mpEdit, &FGenIntCommandFileEdit::tagClicked, this, &FGenIntCommandFileEditor::showEntry);
+    connect(mpBuffer, &FEditBuffer::aboutToFill, this, [this](int length) {
+        mpEdit->clearBlockUserData();
+        mpEdit->highlighter().prepareFor(length);
+    });
+    connect(mpBuffer, &FEditBuffer::refreshed, this, [this] {
+        mpEdit->highlighter().followDefinition();
+        mpEdit->highlighter().colourShown();
+    });
+    connect(mpBuffer, &FEditBuffer::written, this, &FGenIntCommandFileEditor::markConfiguration);
+    connect(mpReports, &FTemplateReports::placeWanted, this, &FGenIntCommandFileEditor::goTo);
+    connect(mpReports, &FTemplateReports::correctionWanted, this, &FGenIntCommandFileEditor::correct);
+    connect(&mCheck, &QTimer::timeout, this, &FGenIntCommandFileEditor::check);
+    const FChanges* changes = FChanges::instance();
+    connect(changes, &FChanges::stepDone, this, &FGenIntCommandFileEditor::modelChanged);
+    connect(changes, &FChanges::stepUndone, this, &FGenIntCommandFileEditor::modelChanged);
+    connect(changes, &FChanges::stepRedone, this, &FGenIntCommandFileEditor::modelChanged);
+    connect(changes, &FChanges::projectOpened, this, &FGenIntCommandFileEditor::modelChanged);
+}
+
+void FGenIntCommandFileEditor::setCommandFile(const FExpr<FGenIntCommandFile>& file) {
+    mpBuffer->commitEdit();
+    mCommandFile = file;
+    mpBuffer->setFile(FExpr<FGenIntFile>(file));
+    refresh();
+}
+
+QList<FConnectorInterface*> FGenIntCommandFileEditor::getSoftwareConnectors() const {
+    QList<FConnectorInterface*> showing;
+    for (FConnectorInterface* connector : FConnectorInterface::getConnectors()) {
+        if (mComputation && connector->containsComputation(FExpr<FExternComputation>(mComputation))) {
+            showing.append(connector);
+        }
+    }
+    return showing;
+}
+
+FGenIntComputation* FGenIntCommandFileEditor::computation() const {
+    if (mComputation) {
+        return mComputation.ptr();
+    }
+    const FDefinitionGenInt* definition = mpEdit->getDefinition();
+    for (FManaged* object : FObjectManager::instance()->getManaged(FGenIntComputation::null())) {
+        auto* candidate = dynamic_cast<FGenIntComputation*>(object);
+        const FConfigurationCustom* configuration = candidate ? candidate->getConfiguration().ptr() : nullptr;
+        if (definition && configuration && configuration->getDefinition().getObject() == definition) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+bool FGenIntCommandFileEditor::isWriteModeActivated() const {
+    return mpModeButton && mpModeButton->isChecked();
+}
+
+// ---- text ----
+
+void FGenIntCommandFileEditor::refresh() {
+    mpModeButton->setToolTip(isWriteModeActivated() ? QStringLiteral("Enter assisted mode")
+                                                    : QStringLiteral("Enter plain mode"));
+    if (isVisible()) {
+        mpBuffer->fill();
+    }
+    mpBuffer->refresh();
+    showName();
+    modelChanged();
+}
+
+void FGenIntCommandFileEditor::changeMode() {
+    refresh();
+    mpEdit->highlighter().recolour();
+}
+
+void FGenIntCommandFileEditor::showEvent(QShowEvent* event) {
+    mpBuffer->fill();
+    modelChanged();
+    QFrame::showEvent(event);
+}
+
+void FGenIntCommandFileEditor::startTextAltering() {
+    mpBuffer->commitEdit();
+}
+
+void FGenIntCommandFileEditor::setAlteredText() {
+    if (mCommandFile) {
+        FUserStep step(QStringLiteral("text altered"));
+        mpBuffer->write();
+    }
+}
+
+void FGenIntCommandFileEditor::markConfiguration() {
+    const FGenIntComputation* owner = computation();
+    if (owner && owner->getConfiguration()) {
+        owner->getConfiguration()->setOutOfDate(true);
+    }
+}
+
+void FGenIntCommandFileEditor::showName() {
+    const QString name = mCommandFile ? mCommandFile->getFileName() : QString();
+    if (name != mpNameEdit->text()) {
+        mpNameEdit->setText(name);
+    }
+}
+
+void FGenIntCommandFileEditor::fileNameChanged() {
+    if (mCommandFile && mpNameEdit->text() != mCommandFile->getFileName()) {
+        FUserStep step(QStringLiteral("set file name"));
+        mCommandFile->setFileName(mpNameEdit->text());
+    }
+}
+
+// ---- what belongs to the text ----
+
+void FGenIntCommandFileEditor::modelChanged() {
+    showName();
+    if (isVisible()) {
+        mpEdit->highlighter().followDefinition();
+        mpWritten->refreshSoon();
+        mCheck.start();
+    }
+}
+
+// A note says what is so, and not what should be different.
+void FGenIntCommandFileEditor::check() {
+    FSetUpCheck::Problems own;
+    const FGenIntComputation* owner = computation();
+    for (const FSetUpProblem& problem : owner ? FSetUpCheck::problemsOf(*owner, false) : FSetUpCheck::Problems()) {
+        const bool isOwn = mCommandFile && problem.object == mCommandFile->getName();
+        if (isOwn && problem.severity != FSetUpProblem::Severity::Note) {
+            own.append(problem);
+        }
+    }
+    mpReports->show(own, notices());
+}
+
+QStringList FGenIntCommandFileEditor::notices() const {
+    const int line = mCommandFile ? firstLongLine(mCommandFile->getPlainContent()) : 0;
+    return line == 0 ? QStringList()
+                     : QStringList(QStringLiteral("Line %1 has more than %L2 characters: it has no colours, and no "
+                                                  "numbers are offered in it.")
+                                       .arg(line)
+                                       .arg(FTemplateLine::longest));
+}
+
+void FGenIntCommandFileEditor::correct(const QString& wrong, const QString& right) {
+    if (mCommandFile) {
+        FUserStep step(QStringLiteral("correct tag"));
+        mCommandFile->updateFile(wrong, right);
+    }
+}
+
+void FGenIntCommandFileEditor::showEntry(const QString& name) {
+    const FGenIntComputation* owner = computation();
+    FConfigurationCustom* configuration = owner ? owner->getConfiguration().ptr() : nullptr;
+    const FDefinitionGenInt* definition = mpEdit->getDefinition();
+    if (!mpNavigator || !configuration || !definition) {
+        return;
+    }
+    const FValueTable table(*configuration, *definition, FValueTable::Use::Export);
+    const int row = table.getKeys().find(name);
+    if (const FEntry* entry = row == FTemplateKeys::notFound ? nullptr : table.entryOf(row)) {
+        mpNavigator->showEntry(configuration, entry->getFullName());
+    }
+}
+
+FWrittenText FGenIntCommandFileEditor::writtenText() const {
+    const FGenIntComputation* owner = computation();
+    const FConfigurationCustom* configuration = owner ? owner->getConfiguration().ptr() : nullptr;
+    const FDefinitionGenInt* definition = mpEdit->getDefinition();
+    const bool isThere = mCommandFile && configuration && definition;
+    return isThere ? FWrittenText::of(*mCommandFile.ptr(), *configuration, *definition) : FWrittenText();
+}
+
+// ---- page ----
+
+void FGenIntCommandFileEditor::goTo(int line, int column) {
+    mpBuffer->fill();
+    if (line > 0) {
+        mpEdit->goTo(line, column);
+    }
+    setFocusToEditor();
+}
+
+void FGenIntCommandFileEditor::letGo() {
+    mpBuffer->letGo();
+    setCommandFile({});
+    setComputation({});
+    mpNavigator = nullptr;
+    FChanges::instance()->disconnect(this);
+}
+
+void FGenIntCommandFileEditor::setFocusToEditor() {
+    mpEdit->setFocus(Qt::OtherFocusReason);
+}
+
+void FGenIntCommandFileEditor::focusInEvent(QFocusEvent* event) {
+    QFrame::focusInEvent(event);
+    emit gotFocus();
+}
+
+void FGenIntCommandFileEditor::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && mpEdit && isVisible()) {
+        mpEdit->highlighter().recolour();
+    }
+}
+
+void FGenIntCommandFileEditor::setColor(QColor FTemplateColors::*color, const QColor& value) {
+    QColor& present = FTemplateColors::instance().*color;
+    if (present != value) {
+        present = value;
+        mpEdit->highlighter().recolour();
+    }
+}

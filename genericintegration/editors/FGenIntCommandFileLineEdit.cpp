@@ -1,0 +1,41 @@
+#include "genericintegration/editors/FGenIntCommandFileLineEdit.h"
+
+#include "genericintegration/editors/FGenIntCommandFileEdit.h"
+#include "host/gui/fields/FObjectNameValidator.h"
+
+#include <QKeyEvent>
+
+FGenIntCommandFileLineEdit::FGenIntCommandFileLineEdit(FGenIntCommandFileEdit& edit) : QLineEdit(&edit), mEdit(edit) {
+    setObjectName(QStringLiteral("entryName"));
+    setAccessibleName(QStringLiteral("Name of the entry"));
+    setValidator(new FObjectNameValidator(this));
+    hide();
+}
+
+void FGenIntCommandFileLineEdit::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (isVisible()) {
+                mEdit.entryNameChanged();
+                mEdit.setFocus();
+            }
+            event->accept();
+            break;
+        case Qt::Key_Escape:
+            hide();
+            mEdit.setFocus();
+            break;
+        default:
+            QLineEdit::keyPressEvent(event);
+    }
+}
+
+void FGenIntCommandFileLineEdit::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    // The focus comes back with the window, and after a menu.
+    const bool isBrief = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (isVisible() && !isBrief) {
+        mEdit.entryNameChanged();
+    }
+}

@@ -1,0 +1,256 @@
+#include "host/design/FEntryDef.h"
+#include "tests/genericintegration/editors/FTemplatePageTest.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTreeView>
+
+namespace {
+
+class FGenIntCommandFileEditTest : public FTemplatePageTest {};
+
+double defaultOf(const FEntryDef* entry) {
+    return entry ? FExpr<FBasicType>(entry->getDefaultValue())->toDouble() : -1;
+}
+
+}  // namespace
+
+TEST_F(FGenIntCommandFileEditTest, aClickMakesAnEntryOfANumber) {
+    struct Case {
+        QString line, hovered, name, text;
+        double value;
+    };
+    const Case cases[] = {
+        {"Length = 12.5 mm", "Length", "Length", "Length = <entry>Length</entry> mm", 12.5},
+        {"Length = 12.5 mm", "12.5", "Length", "Length = <entry>Length</entry> mm", 12.5},
+        {"1.5e3, 2.0", "2.0", "newEntry", "1.5e3, <entry>newEntry</entry>", 2},
+        {"1.5e3, 2.0", "1.5", "newEntry", "<entry>newEntry</entry>, 2.0", 1500},
+        {"<p name=\"mass\">12</p>", "12", "mass", "<p name=\"mass\"><entry>mass</entry></p>", 12},
+        {"force = 7", "7", "force_01", "force = <entry>force_01</entry>", 7},
+    };
+    open("x");
+    for (const Case& c : cases) {
+        setText("* head\n" + c.line + "\nend");
+        const QString before = savedModel();
+        click(c.hovered);
+        EXPECT_EQ(content(), "* head\n" + c.text + "\nend") << c.line.toStdString();
+        EXPECT_EQ(shown(), content());
+        EXPECT_EQ(defaultOf(entry(c.name)), c.value) << c.line.toStdString();
+        EXPECT_EQ(lastStep(), "create commandfile entry");
+        undo();
+        EXPECT_EQ(savedModel(), before) << c.line.toStdString();
+        EXPECT_EQ(shown(), content());
+    }
+}
+
+TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
+    open("key = 1.5 and words\n<entry>force</entry>\n<entry>open 2\n\nlast");
+    EXPECT_EQ(hover("key")->text(), "key = 1.5");
+    EXPECT_EQ(hover("<entry>force")->objectName(), "editEntryButton");
+    EXPECT_EQ(hover("words"), nullptr);
+    EXPECT_EQ(hover("2"), nullptr) << "in a line with an open tag";
+    ASSERT_NE(hover("key"), nullptr);
+    QTest::mouseMove(edit().viewport(), edit().viewport()->rect().bottomRight() - QPoint(5, 5));
+    settle();
+    EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
+    find<QToolButton>("templateMode")->click();
+    EXPECT_EQ(find("templateMode")->toolTip(), "Enter assisted mode");
+    EXPECT_EQ(hover("key"), nullptr);
+    find<QToolButton>("templateMode")->click();
+    EXPECT_EQ(find("templateMode")->toolTip(), "Enter plain mode");
+    ASSERT_NE(hover("key"), nullptr);
+    // What has become of the text under the button counts.
+    select("1.5");
+    type(&edit(), "x");
+    settle();
+    EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
+}
+
+TEST_F(FGenIntCommandFileEditTest, aTagIsRenamedRemovedReplacedOrDeletedWithItsEntry) {
+    struct Case {
+        QString choice, text, other, step;
+        bool isForceThere;
+    };
+    const QString text = "a <entry>force</entry> b\n";
+    const Case cases[] = {
+        {"Remove", "a 10 b\n", "<entry>force</entry>", "remove commandfile entry", true},
+        {"Delete (from all files)", "a 10 b\n", "10", "remove commandfile entry", false},
+        {"Replace/Geometry/span", "a <entry>Geometry|span</entry> b\n", "<entry>force</entry>",
+         "replace commandfile entry", true},
+    };
+    open(text);
+    for (const Case& c : cases) {
+        setText("<entry>force</entry>", "other");
+        const QString before = savedModel();
+        chooseForTag("<entry>force", c.choice);
+        EXPECT_EQ(content(), c.text) << c.choice.toStdString();
+        EXPECT_EQ(shown(), c.text);
+        EXPECT_EQ(content("other"), c.other);
+        EXPECT_EQ(entry("force") != nullptr, c.isForceThere) << c.choice.toStdString();
+        EXPECT_EQ(lastStep(), c.step);
+        undo();
+        EXPECT_EQ(savedModel(), before) << c.choice.toStdString();
+        EXPECT_EQ(shown(), text);
+    }
+    // The last reference takes the entry with it.
+    setText("", "other");
+    for (const QString& choice : {QStringLiteral("Remove"), QStringLiteral("Replace/Geometry/span")}) {
+        const QString before = savedModel();
+        chooseForTag("<entry>force", choice);
+        EXPECT_EQ(entry("force"), nullptr) << choice.toStdString();
+        undo();
+        EXPECT_EQ(savedModel(), before);
+    }
+}
+
+TEST_F(FGenIntCommandFileEditTest, anEntryIsRenamedAtItsTag) {
+    open("a <entry>Geometry|span</entry> b\n");
+    setText("<entry>Geometry|span</entry>", "other");
+    const QString before = savedModel();
+    chooseForTag("<entry>Geometry", "Rename");
+    auto* field = find<QLineEdit>("entryName");
+    ASSERT_TRUE(field->isVisible());
+    EXPECT_EQ(field->text(), "span");
+    EXPECT_EQ(hover("<entry>Geometry"), nullptr);
+    type(field, "new width|");
+    EXPECT_EQ(field->text(), "newwidth") << "only names can be typed";
+    press(field, Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_EQ(content(), "a <entry>Geometry|newwidth</entry> b\n");
+    EXPECT_EQ(shown(), content());
+    EXPECT_EQ(content("other"), "<entry>Geometry|newwidth</entry>");
+    EXPECT_EQ(lastStep(), "rename commandfile entry");
+    undo();
+    EXPECT_EQ(savedModel(), before);
+    EXPECT_EQ(shown(), content());
+    chooseForTag("<entry>Geometry", "Rename");
+    type(field, "no");
+    press(field, Qt::Key_Escape);
+    EXPECT_EQ(savedModel(), before);
+    chooseForTag("<entry>Geometry", "Rename");
+    EXPECT_TRUE(field->hasFocus());
+    type(field, "left");
+    find("templateName")->setFocus();
+    EXPECT_NE(entry("Geometry|left"), nullptr);
+}
+
+TEST_F(FGenIntCommandFileEditTest, theContextMenuMakesAndInsertsEntries) {
+    open("Max Iterations = 500\nname = abc\n7 rest\n");
+    select("500");
+    const QStringList texts = chooseInText("New Entry");
+    EXPECT_EQ(texts.mid(0, 3), (QStringList{"New Entry", "Entries", ""}));
+    EXPECT_EQ(texts.mid(texts.size() - 5),
+              (QStringList{"", "Show line numbers", "Force Windows line endings", "", "Find"}));
+    EXPECT_EQ(defaultOf(entry("Max_Iterations")), 500);
+    EXPECT_EQ(content(), "Max Iterations = <entry>Max_Iterations</entry>\nname = abc\n7 rest\n");
+    select("abc");
+    chooseInText("New Entry");
+    EXPECT_EQ(defaultOf(entry("name")), 0);
+    select("rest");
+    chooseInText("New Entry");
+    EXPECT_EQ(content().section('\n', 2, 2), "7 <entry>newEntry</entry>");
+    select("7");
+    const QString before = savedModel();
+    chooseInText("Entries/Geometry/span");
+    EXPECT_EQ(content().section('\n', 2, 2), "<entry>Geometry|span</entry> <entry>newEntry</entry>");
+    EXPECT_EQ(lastStep(), "insert commandfile entry");
+    undo();
+    EXPECT_EQ(savedModel(), before);
+    chooseInText("Force Windows line endings");
+    EXPECT_TRUE(file().getForceWindowsLineEndings());
+    EXPECT_EQ(lastStep(), "set force Windows line endings");
+    EXPECT_TRUE(find("lineNumbers")->isVisible());
+    chooseInText("Show line numbers");
+    EXPECT_FALSE(find("lineNumbers")->isVisible());
+    EXPECT_EQ(edit().lineNumberAreaWidth(), 0);
+    // Without a definition there is only the standard menu.
+    ASSERT_TRUE(run("beam.setFiles([other])"));
+    EXPECT_FALSE(chooseInText("").contains("New Entry"));
+}
+
+TEST_F(FGenIntCommandFileEditTest, exportedFilesAreOfferedInTheirGroup) {
+    ASSERT_TRUE(run("beam.addEntry(\"Exports|mesh\", 1)"));
+    open("7 x\n");
+    select("7");
+    chooseInText("Entries/Exports/other.inp");
+    EXPECT_EQ(content(), "<entry>Exports|other.inp</entry> x\n");
+    EXPECT_EQ(hover("<entry>Exports")->accessibleName(), "Change the tag of Exports|other.inp");
+    chooseForTag("<entry>Exports", "Replace/Exports/deck.inp");
+    EXPECT_EQ(content(), "<entry>Exports|deck.inp</entry> x\n");
+}
+
+TEST_F(FGenIntCommandFileEditTest, aClickOnATagShowsItsEntry) {
+    open("a <entry>force</entry> b\n");
+    find<QToolButton>("templateMode")->click();
+    edit().setFocus();
+    QTest::mouseClick(edit().viewport(), Qt::LeftButton, {}, edit().cursorRect(at("force", 2)).center());
+    settle();
+    const QModelIndex shownEntry = find<QTreeView>("entryTree")->currentIndex();
+    EXPECT_EQ(shownEntry.sibling(shownEntry.row(), 0).data().toString(), "force");
+    EXPECT_TRUE(edit().hasFocus());
+}
+
+TEST_F(FGenIntCommandFileEditTest, linesAreSelectedInTheGutter) {
+    open("one\ntwo\nthree\nfour\n");
+    QWidget* gutter = find("lineNumbers");
+    const auto line = [&](int number) {
+        return QPoint(3, edit().cursorRect(QTextCursor(edit().document()->findBlockByNumber(number))).center().y());
+    };
+    QTest::mousePress(gutter, Qt::LeftButton, {}, line(1));
+    EXPECT_EQ(edit().textCursor().selectedText().toStdString(), QString("two\u2029").toStdString());
+    QMouseEvent move(QEvent::MouseMove, line(2), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(gutter, &move);
+    EXPECT_EQ(edit().textCursor().selectedText(), QString("two\u2029three\u2029"));
+    QMouseEvent back(QEvent::MouseMove, line(0), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(gutter, &back);
+    EXPECT_EQ(edit().textCursor().selectedText(), QString("one\u2029two\u2029"));
+    QTest::mouseRelease(gutter, Qt::LeftButton, {}, line(0));
+    QApplication::sendEvent(gutter, &move);
+    EXPECT_EQ(edit().textCursor().selectedText(), QString("one\u2029two\u2029"));
+}
+
+TEST_F(FGenIntCommandFileEditTest, textIsFoundHighlightedAndReplaced) {
+    open("one two\nTWO one\nend two\n");
+    press(&edit(), Qt::Key_F, Qt::ControlModifier);
+    auto* what = find<QLineEdit>("searchText");
+    EXPECT_FALSE(find("searchReplacement")->isVisible());
+    what->setText("two");
+    const auto place = [&] { return edit().textCursor().selectionStart(); };
+    press(what, Qt::Key_Return);
+    EXPECT_EQ(place(), 4);
+    press(&edit(), Qt::Key_F3);
+    EXPECT_EQ(place(), 8);
+    press(&edit(), Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(place(), 4);
+    find<QCheckBox>("searchCase")->setChecked(true);
+    press(&edit(), Qt::Key_F3);
+    EXPECT_EQ(place(), 20);
+    press(&edit(), Qt::Key_F3);
+    EXPECT_EQ(place(), 4) << "from the start again";
+    find<QPushButton>("searchHighlight")->click();
+    const auto formats = [&] { return edit().document()->firstBlock().layout()->formats().size(); };
+    EXPECT_EQ(formats(), 1);
+    find<QPushButton>("searchClose")->click();
+    EXPECT_EQ(formats(), 0);
+    press(&edit(), Qt::Key_H, Qt::ControlModifier);
+    find<QCheckBox>("searchPattern")->setChecked(true);
+    what->setText("t[");
+    find<QPushButton>("searchNext")->click();
+    EXPECT_TRUE(find<QLabel>("searchMessage")->text().contains("isn't valid"));
+    what->setText("t.o");
+    find<QLineEdit>("searchReplacement")->setText("3");
+    find<QPushButton>("searchNext")->click();
+    find<QPushButton>("searchReplace")->click();
+    EXPECT_EQ(shown(), "one two\nTWO one\nend 3\n");
+    find<QCheckBox>("searchCase")->setChecked(false);
+    find<QPushButton>("searchReplaceAll")->click();
+    EXPECT_EQ(shown(), "one 3\n3 one\nend 3\n");
+    what->setText("absent");
+    find<QPushButton>("searchPrevious")->click();
+    EXPECT_TRUE(find<QLabel>("searchMessage")->text().contains("isn't in the text"));
+    find("searchDialog")->close();
+}

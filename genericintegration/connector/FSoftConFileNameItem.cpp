@@ -13,6 +13,7 @@
 #include "host/script/FMemberCmd.h"
 
 #include <QFileInfo>
+#include <QPointer>
 
 namespace {
 
@@ -96,17 +97,19 @@ void FSoftConFileNameItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event
         return;
     }
     const FExprBase fileName = value->getFileName();
-    if (!mayReplace(fileName)) {
+    const QString folder = textOf(value->getSaveDirectory());
+    // While a question is open, the item can be removed.
+    const QPointer<QObject> self(this);
+    if (!mayReplace(fileName) || !self) {
         return;
     }
     QString path = textOf(fileName);
     if (path.isEmpty() && isSetByCommand(fileName)) {
         path = FLinkText::caption(fileName.toString());
     }
-    if (!mayLoad(path)) {
+    if (!mayLoad(path) || !self || getScene() != scene) {
         return;
     }
-    const QString folder = textOf(value->getSaveDirectory());
     const FUserStep step(QStringLiteral("create input template"));
     const FSoftConObjectItem* made = scene->createItem(nullptr, FGenIntCommandFile::null(), path, folder);
     if (made) {

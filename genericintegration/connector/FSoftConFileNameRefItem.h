@@ -10,6 +10,7 @@ class FSoftConFileNameRefItem : public FClass<FSoftConFileNameRefItem, FSoftConF
     FSoftConFileNameRefItem() = default;
     using FClass::FClass;
 
+    bool isReference() const override { return true; }
     void updateItem() override;
 
  protected:

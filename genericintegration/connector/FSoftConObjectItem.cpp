@@ -1,16 +1,18 @@
 #include "genericintegration/connector/FSoftConObjectItem.h"
 
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FLabelMetrics.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FIcons.h"
 
 #include <QAction>
-#include <QFontMetricsF>
+#include <QFontMetrics>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsSceneEvent>
 #include <QPen>
+#include <QPixmapCache>
 #include <QToolButton>
 
 namespace {
@@ -145,10 +147,20 @@ void FSoftConObjectItem::placeCaption(const QString& text) {
 
 void FSoftConObjectItem::paintIcon(const QString& prefix, const QString& name, const FItemIcon::Colors& colors) {
     const FItemScene* scene = getScene();
-    if (const FSoftConLayout* layout = scene ? scene->getLayout() : nullptr) {
-        setPixmap(QPixmap::fromImage(
-            FItemIcon::ofFile(prefix + layout->getSizeName(), name, layout->getIconTextMeasurements(), colors)));
+    const FSoftConLayout* layout = scene ? scene->getLayout() : nullptr;
+    if (!layout) {
+        return;
     }
+    // Many items show the same few types.
+    const QString path = prefix + layout->getSizeName();
+    const QString shown = name.startsWith(QLatin1String(":/")) ? name : FItemCaption::typeText(name);
+    const QString key = path + u'|' + shown;
+    QPixmap icon;
+    if (!QPixmapCache::find(key, &icon)) {
+        icon = QPixmap::fromImage(FItemIcon::ofFile(path, name, layout->getIconTextMeasurements(), colors));
+        QPixmapCache::insert(key, icon);
+    }
+    setPixmap(icon);
 }
 
 void FSoftConObjectItem::markOutOfDate() {

@@ -100,6 +100,7 @@ class FSoftConItemsTest : public FWindowTest {
         const QPoint place = placeOf(item);
         QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, place);
     }
 
     FTestFolder folder;
@@ -255,6 +256,23 @@ TEST_F(FSoftConItemsTest, aFileOfACommandIsReplacedOnlyIfTheUserWantsIt) {
     dialogs().answers.append("Proceed");
     doubleClick(*item);
     EXPECT_EQ(definition().getFiles(0).size(), 1);
+}
+
+TEST_F(FSoftConItemsTest, aLinkIsCalledAfterTheResult) {
+    ASSERT_TRUE(run("softwareConnector d()"));
+    auto* item = make<FSoftConFileNameRefItem, FBool>(SoftConInputArea, "", "");
+    {
+        const FUserStep step("link");
+        FExprBase link;
+        ASSERT_TRUE(link.resolve("Runner_01.getResults().getResultFileName(\"sub/polar.dat\")"));
+        static_cast<FInputFile*>(static_cast<FEntry*>(item->getObject().getStored())->getValue().getStored())
+            ->setFileName(link);
+    }
+    EXPECT_EQ(caption(*item), "polar.dat");
+    EXPECT_THAT(entries(), testing::StartsWith("Exports|polar.dat = inputFile(Runner_01.getResults()"));
+    scene->calls.clear();
+    doubleClick(*item);
+    EXPECT_EQ(scene->takeCalls(), "edit Exports|polar.dat, edit Exports|polar.dat") << "no more than clicks";
 }
 
 TEST_F(FSoftConItemsTest, deletingAnItemUnderThePointer) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/connector/layout/FLinkText.h"
 
 namespace {
@@ -40,6 +41,20 @@ TEST(FItemCaptionTest, namesOfEntriesAndLinks) {
     EXPECT_EQ(FLinkText::name("\""), "");
     EXPECT_EQ(FLinkText::caption("c.GETRESULTFILENAME(\"polar.dat\")"), "polar.dat");
     EXPECT_EQ(FLinkText::caption("path(\"polar.dat\")"), "path(\"polar.dat\")");
+}
+
+TEST(FItemCaptionTest, namesRelativeToABase) {
+    EXPECT_EQ(FItemPath::belowBase("/in/sub/a.dat", "/in"), "sub/a.dat");
+    EXPECT_EQ(FItemPath::belowBase("/in/a.dat", "/in/"), "a.dat");
+    EXPECT_EQ(FItemPath::belowBase("/other/a.dat", "/in"), "") << "a path that was typed may be anywhere";
+    EXPECT_EQ(FItemPath::folderBelow("/in/sub/a.dat", "/in"), "sub/");
+    EXPECT_EQ(FItemPath::folderBelow("/in/a.dat", "/in/"), "");
+    EXPECT_EQ(FItemPath::folderBelow("/inner/sub/a.dat", "/in"), "") << "/in isn't a folder of it";
+    EXPECT_EQ(FItemPath::folderBelow("/in/a.dat", ""), "");
+    EXPECT_EQ(FItemPath::inFolder("/in/a.dat", "sub"), "sub/a.dat");
+    EXPECT_EQ(FItemPath::inFolder("C:\\in\\a.dat", "sub\\"), "sub\\a.dat");
+    EXPECT_EQ(FItemPath::withoutBase("/run/out/polar.csv", "/run"), "out/polar.csv");
+    EXPECT_EQ(FItemPath::withoutBase("polar.csv", ""), "polar.csv");
 }
 
 }  // namespace

@@ -49,6 +49,11 @@ int FResultSample::positionOf(int offset) const {
     return line.position + offset - line.offset;
 }
 
+qint64 FResultSample::offsetAt(int position) const {
+    const Line& line = mLines[static_cast<std::size_t>(lineAtPosition(position))];
+    return mText.index().offsetOfUtf16(line.offset + position - line.position);
+}
+
 int FResultSample::lastFilledLine() const {
     const qint64 trimmed = mText.trimmedSize();
     return trimmed == 0 ? -1 : lineAtOffset(static_cast<int>(mText.index().utf16At(trimmed)) - 1);

@@ -45,6 +45,8 @@ class FResultSample {
     /** The place in the document of a text that the reader found. Line and column count from 1 in the reader's lines.
      */
     FTextRange rangeOf(qint64 line, qint64 column, int length) const;
+    /** Offset in the reader's text of a position of the document. */
+    qint64 offsetAt(int position) const;
     const FResultText& text() const { return mText; }
 
  private:

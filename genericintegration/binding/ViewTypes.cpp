@@ -5,6 +5,9 @@
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
 #include "genericintegration/editors/FGenIntCommandFileEditor.h"
+#include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "genericintegration/marking/FValueParameters.h"
+#include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FInitPrototype.h"
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FObjectPages.h"
@@ -12,9 +15,10 @@
 namespace {
 
 // In load order, after those that a run needs.
-const FInitPrototypes<FGenIntCommandFileEditor, FSoftwareConnectorItem, FSoftConObjectItem, FSoftConComputationItem,
-                      FSoftConTemplateItem, FSoftConInputTemplateItem, FSoftConOutputTemplateItem, FSoftConEntryItem,
-                      FSoftConExportItem, FSoftConFileNameItem, FSoftConFileNameRefItem, FSoftConImportItem>
+const FInitPrototypes<FGenIntCommandFileEditor, FGenIntResultsFileEditor, FSoftwareConnectorItem, FSoftConObjectItem,
+                      FSoftConComputationItem, FSoftConTemplateItem, FSoftConInputTemplateItem,
+                      FSoftConOutputTemplateItem, FSoftConEntryItem, FSoftConExportItem, FSoftConFileNameItem,
+                      FSoftConFileNameRefItem, FSoftConImportItem>
     types;
 
 const bool arePagesSet = [] {
@@ -22,6 +26,12 @@ const bool arePagesSet = [] {
         auto* page = new FGenIntCommandFileEditor(nullptr, FExpr<FGenIntCommandFile>(&object), {});
         page->setNavigator(&navigator);
         return page;
+    });
+    FObjectPages::set(QStringLiteral("FGenIntResultsFile"), [](FManaged& object, FNavigator&) {
+        auto& file = dynamic_cast<FGenIntResultsFile&>(object);
+        const QList<FGenIntComputation*> readers = FValueParameters::readersOf(file);
+        return new FGenIntResultsFileEditor(nullptr, FExpr<FGenIntResultsFile>(&file),
+                                            FExpr<FGenIntComputation>(readers.value(0)));
     });
     return true;
 }();

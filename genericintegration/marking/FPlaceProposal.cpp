@@ -72,16 +72,24 @@ class FAnchorChoice {
         std::transform(mCandidates.begin(), mCandidates.end(), std::back_inserter(texts),
                        [](const Candidate& candidate) { return candidate.text; });
         const std::vector<FAnchorPlaces> places = FAnchorSearch(texts).findInTrimmed(mSample.text());
-        // One that is there once tells the place; of a repeated one, most likely the last is meant.
-        for (const bool isInLine : {true, false}) {
-            for (const Rank rank : {Rank::Only, Rank::Last, Rank::First}) {
-                for (std::size_t i = 0; i < mCandidates.size(); ++i) {
-                    const bool isWanted = (mCandidates[i].line == mNumber.line()) == isInLine &&
-                                          rankOf(mCandidates[i].offset, places[i]) == rank;
-                    if (auto proposal = isWanted ? counted(mCandidates[i], rank) : std::nullopt) {
-                        return proposal;
-                    }
+        std::vector<Rank> ranks;
+        std::transform(
+            mCandidates.begin(), mCandidates.end(), places.begin(), std::back_inserter(ranks),
+            [](const Candidate& candidate, const FAnchorPlaces& found) { return rankOf(candidate.offset, found); });
+        // In the number's line, one that is there once tells the place best; of a repeated one, most likely the last
+        // is meant. Above it, the nearest one belongs to the number.
+        for (const Rank rank : {Rank::Only, Rank::Last, Rank::First}) {
+            for (std::size_t i = 0; i < mCandidates.size(); ++i) {
+                const bool isWanted = mCandidates[i].line == mNumber.line() && ranks[i] == rank;
+                if (auto proposal = isWanted ? counted(mCandidates[i], rank) : std::nullopt) {
+                    return proposal;
                 }
+            }
+        }
+        for (std::size_t i = 0; i < mCandidates.size(); ++i) {
+            const bool isWanted = mCandidates[i].line != mNumber.line() && ranks[i] != Rank::None;
+            if (auto proposal = isWanted ? counted(mCandidates[i], ranks[i]) : std::nullopt) {
+                return proposal;
             }
         }
         return withoutAnchor();

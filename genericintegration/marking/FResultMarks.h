@@ -27,6 +27,8 @@ struct FResultMarks {
     std::vector<FTextRange> readerPlaces{};  //!< where the reader finds the value, if that isn't one of the columns
     int cursor = 0;                          //!< the position to scroll to
 
+    bool operator==(const FResultMarks&) const = default;
+
     /** @param found  the value as the reader found it in the sample */
     static FResultMarks of(const FResultSample& sample, const FValueDescription& value,
                            const FSeparatorSettings& separators, const FFoundValue& found);

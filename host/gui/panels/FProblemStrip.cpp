@@ -17,8 +17,8 @@ FProblemStrip::FProblemStrip(const FExpr<FManaged>& object, QWidget* parent)
     mpView->header()->hide();
     mpView->hideColumn(FProblemModel::objectColumn);
     mpView->header()->setSectionResizeMode(FProblemModel::severityColumn, QHeaderView::ResizeToContents);
-    mpView->header()->setSectionResizeMode(FProblemModel::textColumn, QHeaderView::ResizeToContents);
-    mpView->setTabKeyNavigation(false);
+    mpView->hideColumn(FProblemModel::remedyColumn);  // it is in the tool tip
+    mpView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mpView);

@@ -1,0 +1,105 @@
+#include "genericintegration/editors/FGenIntResultsFileEdit.h"
+
+#include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FStateColor.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextBlock>
+
+namespace {
+
+/** Places framed at most, as many as one could look at. */
+constexpr std::size_t mostFramed = 5000;
+
+}  // namespace
+
+FGenIntResultsFileEdit::FGenIntResultsFileEdit(FGenIntResultsFileEditor* editor)
+    : FEditor(3, true, editor), mEditor(editor) {
+    setObjectName(QStringLiteral("sampleText"));
+    setAccessibleName(QStringLiteral("Sample of the output file"));
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setPlaceholderText(QStringLiteral("This template has no sample of an output file"));
+}
+
+void FGenIntResultsFileEdit::setFramed(const std::vector<FTextRange>& places) {
+    QList<QTextEdit::ExtraSelection> selections;
+    for (std::size_t i = 0; i < std::min(places.size(), mostFramed); ++i) {
+        QTextEdit::ExtraSelection selection;
+        selection.cursor = QTextCursor(document());
+        selection.cursor.setPosition(places[i].begin);
+        selection.cursor.setPosition(places[i].end(), QTextCursor::KeepAnchor);
+        selection.format.setFontUnderline(true);
+        selections.append(selection);
+    }
+    setExtraSelections(selections);
+}
+
+void FGenIntResultsFileEdit::show(FTextRange range, int position) {
+    QTextCursor cursor(document());
+    cursor.setPosition(range.begin);
+    const QRect place = cursorRect(cursor);
+    const bool isInView = viewport()->rect().top() <= place.top() && place.bottom() <= viewport()->rect().bottom();
+    horizontalScrollBar()->setValue(0);
+    cursor.setPosition(range.end());
+    setTextCursor(cursor);
+    if (!isInView) {
+        centerCursor();
+    }
+    cursor.setPosition(position);
+    setTextCursor(cursor);
+}
+
+void FGenIntResultsFileEdit::focusInEvent(QFocusEvent* event) {
+    emit mEditor->gotFocus();
+    FEditor::focusInEvent(event);
+}
+
+int FGenIntResultsFileEdit::characterAt(const QPoint& point) const {
+    const QTextCursor cursor = cursorForPosition(point);
+    const bool isLeft = point.x() < cursorRect(cursor).left() && !cursor.atBlockStart();
+    return cursor.position() - (isLeft ? 1 : 0);
+}
+
+void FGenIntResultsFileEdit::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu(event->pos());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("sampleMenu"));
+    const int position =
+        event->reason() == QContextMenuEvent::Mouse ? characterAt(event->pos()) : textCursor().selectionStart();
+    mEditor->fillMenu(*menu, position);
+    menu->popup(event->globalPos());
+}
+
+void FGenIntResultsFileEdit::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !mEditor->readNumberAt(characterAt(event->pos()))) {
+        FEditor::mouseDoubleClickEvent(event);
+    }
+}
+
+QRect FGenIntResultsFileEdit::rectOf(const QTextCursor& selection) const {
+    QTextCursor end(document());
+    end.setPosition(selection.selectionStart());
+    const QRect first = cursorRect(end);
+    end.setPosition(selection.selectionEnd());
+    const QRect last = cursorRect(end);
+    return {first.topLeft() - QPoint(1, 0), QPoint(last.right() + 1, first.bottom())};
+}
+
+void FGenIntResultsFileEdit::paintEvent(QPaintEvent* event) {
+    FEditor::paintEvent(event);
+    QPainter painter(viewport());
+    painter.setPen(QPen(FStateColor::of(FStateColor::State::Warning), 2));
+    const int first = firstVisibleBlock().position();
+    const int last = cursorForPosition(viewport()->rect().bottomRight()).position();
+    for (const QTextEdit::ExtraSelection& selection : extraSelections()) {
+        if (selection.cursor.selectionEnd() >= first && selection.cursor.selectionStart() <= last) {
+            painter.drawRect(rectOf(selection.cursor));
+        }
+    }
+}

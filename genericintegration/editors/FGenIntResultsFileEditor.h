@@ -1,0 +1,211 @@
+#pragma once
+
+#include "genericintegration/marking/FResultSample.h"
+#include "genericintegration/setup/FAttribCmdSetAverageRows.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FView.h"
+#include "host/gui/base/FObjectPage.h"
+#include "host/gui/base/FPendingEdit.h"
+#include "host/gui/base/FStepJoiner.h"
+
+#include <QColor>
+#include <QFrame>
+#include <QTimer>
+
+#include <memory>
+
+class FAttributeEditor;
+class FGenIntComputation;
+class FGenIntResultsFileEdit;
+class FResultsFileForm;
+class FResultsMarker;
+class FTableData;
+class FUserStep;
+struct FPlaceProposal;
+struct FSetUpProblem;
+class QLineEdit;
+class QMenu;
+class QSplitter;
+
+/**
+ * The page on which the user defines what is read from an output file: a form with the values and their places, a
+ * preview of what the reader finds in the sample, and the sample, in which the present value is marked. The user points
+ * at a number there to have it read.
+ *
+ * It reads the template only while it is shown. Each change by the user is a step.
+ */
+class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame, FView>,
+                                 public FAverageRowsEditor,
+                                 public FObjectPage,
+                                 public FPendingEdit {
+    Q_OBJECT
+    Q_PROPERTY(QColor highlight_color_AnchorBackground READ getAnchorBackground WRITE setAnchorBackground)
+    Q_PROPERTY(QColor highlight_color_AnchorForeground READ getAnchorForeground WRITE setAnchorForeground)
+    Q_PROPERTY(QColor highlight_color_ResultLineBackground READ getResultLineBackground WRITE setResultLineBackground)
+    Q_PROPERTY(QColor highlight_color_ResultLineForeground READ getResultLineForeground WRITE setResultLineForeground)
+    Q_PROPERTY(QColor highlight_color_ColumnBackground READ getColumnBackground WRITE setColumnBackground)
+    Q_PROPERTY(QColor highlight_color_ColumnForeground READ getColumnForeground WRITE setColumnForeground)
+
+ public:
+    static FClassData mClass;
+    static constexpr bool needsWindows = true;
+
+    /** Makes the prototype. */
+    FGenIntResultsFileEditor();
+    FGenIntResultsFileEditor(QWidget* parent, const FExpr<FGenIntResultsFile>& file,
+                             const FExpr<FGenIntComputation>& computation);
+    ~FGenIntResultsFileEditor() override;
+
+    void setResultsFile(const FExpr<FGenIntResultsFile>& file);
+    FExpr<FGenIntResultsFile> getResultsFile() const override { return mResultsFile; }
+    void setComputation(const FExpr<FGenIntComputation>& computation) { mComputation = computation; }
+
+    /** Shows the template as it is now. */
+    void refresh();
+    /** Marks in the sample where the current value is read. */
+    void highlightCurrentValue();
+    void setResultsPreviewBlank();
+    void averageChanged(const FExpr<FUnsigned>& rows) override;
+
+    // ---- for the sample text ----
+    /**
+     * Has a value read the number at a position of the sample: one that does already becomes the current one, else a
+     * new one is added. False if no number is there.
+     */
+    bool readNumberAt(int position);
+    /** Adds what can be done at a position of the sample to its menu. */
+    void fillMenu(QMenu& menu, int position);
+
+    // ---- as a page ----
+    QWidget* widget() override { return this; }
+    void goTo(int line, int column) override;
+    void letGo() override;
+    void commitEdit() override;
+
+    bool doUpdate() const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // ---- colours, which a style sheet may set ----
+    static QColor getAnchorBackground() { return sAnchorBackground; }
+    static QColor getAnchorForeground() { return sAnchorForeground; }
+    static QColor getResultLineBackground() { return sResultLineBackground; }
+    static QColor getResultLineForeground() { return sResultLineForeground; }
+    static QColor getColumnBackground() { return sColumnBackground; }
+    static QColor getColumnForeground() { return sColumnForeground; }
+    void setAnchorBackground(const QColor& color) { setColor(sAnchorBackground, color); }
+    void setAnchorForeground(const QColor& color) { setColor(sAnchorForeground, color); }
+    void setResultLineBackground(const QColor& color) { setColor(sResultLineBackground, color); }
+    void setResultLineForeground(const QColor& color) { setColor(sResultLineForeground, color); }
+    void setColumnBackground(const QColor& color) { setColor(sColumnBackground, color); }
+    void setColumnForeground(const QColor& color) { setColor(sColumnForeground, color); }
+
+ signals:
+    void gotFocus();
+
+ public slots:
+    void fileNameChanged();
+    void filePathChanged();
+    void numberSeparatorChanged(int button);
+    void spacesAndTabsSeparatorChanged();
+    void regExpSeparatorChanged();
+    void selectValueViaCell(int row, int column);
+    void selectValueViaHeader(int section);
+    void deleteResultsValue(bool checked);
+    void currentResultsValueChanged(const QString& name);
+    void currentResultsValueNameChanged(const QString& name);
+    void addResultsValue(bool checked);
+    void valueTypeChanged(const QString& type);
+    void fileImportTypeChanged(const QString& type);
+    void resultsLineChanged(int line);
+    void resultsColumnChanged(int column);
+    void anchorChanged();
+    void occurrenceChanged(const QString& occurrence);
+    void averageToggled(bool isOn);
+    void refreshLabels();
+    /** Makes a parameter that reads the value of the row under the mouse. */
+    void createParam();
+    void refreshResultsPreview();
+
+ protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+    void refreshAnchor();
+    void refreshAverage();
+    void refreshFileImportType();
+    void refreshResultsValues();
+    void refreshResultsValueType();
+    void refreshValuesSelector();
+
+ private:
+    using Change = std::function<void(FGenIntResultsFile& file)>;
+
+    static QColor sAnchorBackground;
+    static QColor sAnchorForeground;
+    static QColor sResultLineBackground;
+    static QColor sResultLineForeground;
+    static QColor sColumnBackground;
+    static QColor sColumnForeground;
+
+    void init();
+    QWidget* makeText();
+    void connectForm();
+    void listen();
+    void restoreSplitter();
+    void saveSplitter() const;
+    void setColor(QColor& color, const QColor& wanted);
+    void takeColors();
+
+    /** Changes the template in a step; nothing happens without a template. */
+    void change(const QString& label, const Change& change);
+    /** The same for a step that joins the one before if it has the same label and value. */
+    void changeJoined(const QString& label, const Change& change);
+    /** The same for the current value; nothing happens without one. */
+    void changeValue(const QString& label, const std::function<void(FGenIntResultsFileValue& value)>& change,
+                     bool joins = false);
+    void inStep(const QString& label, bool joins, const Change& change);
+    /** The current value, if it is one of the template's. */
+    FExpr<FGenIntResultsFileValue> currentValue() const;
+    FExpr<FGenIntResultsFileValue> valueNamed(const QString& name) const;
+    void setFileName(const QString& name, const QString& label);
+    void addProposed(const FPlaceProposal& proposal);
+    void placeCurrentValue(const FPlaceProposal& proposal, const QString& label);
+    void setAnchor(FTextRange selection);
+    bool selectValueAt(FTextRange number);
+    void createParamOf(int row);
+    void chosen(const FSetUpProblem& problem);
+
+    void refreshText();
+    void refreshFileName();
+    void refreshSeparators();
+    void refreshAll();
+    void showCurrentValue();
+    void enableValueFields();
+    void fillSelector(const std::vector<FExpr<FObject>>& values);
+    void previewSoon();
+    void showPlaceOf(const FFoundValue& found);
+    const FResultSample& sample();
+    FSeparatorSettings shownSeparators() const;
+    std::optional<FPlaceProposal> proposalAt(int position);
+    static void showText(QLineEdit& edit, const QString& text);
+
+    FExpr<FGenIntResultsFile> mResultsFile;
+    FExpr<FGenIntComputation> mComputation;
+    FResultsFileForm* mpForm = nullptr;
+    FGenIntResultsFileEdit* mEdit = nullptr;
+    QSplitter* mSplitter = nullptr;
+    FExpr<FAttribCmdSetAverageRows> mAverageCmd;
+    FAttributeEditor* mAverageAttributeEditor = nullptr;
+    std::unique_ptr<FResultsMarker> mpMarker;
+    FExpr<FTableData> mPreviewTable;
+    std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed
+    QString mShownText;
+    QString mLastType;           //!< the type that the current value had before its average was switched on
+    bool mFileChanging = false;  //!< this editor changes the template
+    bool mIsStale = true;        //!< what is shown may not be what the template holds
+    bool mIsMarking = false;
+    FStepJoiner mSteps;
+    QTimer mPreviewTimer;
+};

@@ -1,0 +1,141 @@
+#include "genericintegration/editors/FResultsPreview.h"
+
+#include "genericintegration/marking/FPreviewRow.h"
+#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FToolButton.h"
+#include "host/gui/text/FTextColor.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+namespace {
+
+enum Column { valueColumn, typeColumn, buttonColumn, columns };
+
+QTableWidgetItem* headerItem(const QString& text, bool isItalic) {
+    auto* item = new QTableWidgetItem(text);
+    QFont font = item->font();
+    font.setItalic(isItalic);
+    item->setFont(font);
+    return item;
+}
+
+void showState(QTableWidgetItem& item, const FPreviewRow& row) {
+    if (row.state != FPreviewRow::State::Found) {
+        item.setBackground(FStateColor::backgroundOf(
+            row.state == FPreviewRow::State::Missing ? FStateColor::State::Bad : FStateColor::State::Warning));
+    }
+    if (!row.reason.isEmpty()) {
+        item.setToolTip(row.header + QLatin1Char(' ') + row.reason +
+                        (item.toolTip().isEmpty() ? QString() : QLatin1Char('\n') + item.toolTip()));
+    }
+}
+
+}  // namespace
+
+FResultsPreview::FResultsPreview() {
+    setObjectName(QStringLiteral("resultsPreview"));
+    setAccessibleName(QStringLiteral("Values found in the sample"));
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    constexpr QSize least(100, 50);
+    setMinimumSize(least);
+}
+
+void FResultsPreview::clearRows() {
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        // The widget goes from the event loop, since its click may be the cause.
+        removeCellWidget(row, buttonColumn);
+        removeRow(row);
+    }
+    clear();
+}
+
+void FResultsPreview::setBlank() {
+    const QSignalBlocker blocker(this);
+    mTable = {};
+    clearRows();
+    setColumnCount(2);
+    setHorizontalHeaderItem(valueColumn, headerItem(QStringLiteral("Value"), true));
+    setHorizontalHeaderItem(typeColumn, headerItem(QStringLiteral("Type"), false));
+    setRowCount(1);
+    setVerticalHeaderItem(0, headerItem(QStringLiteral("Name"), false));
+    setItem(0, valueColumn, headerItem(QStringLiteral("please add a value"), true));
+    setItem(0, typeColumn, new QTableWidgetItem);
+    resizeColumnsToContents();
+    resizeRowsToContents();
+}
+
+void FResultsPreview::show(const FExpr<FTableData>& table) {
+    mTable = table;
+    fill();
+}
+
+void FResultsPreview::fill() {
+    const QSignalBlocker blocker(this);
+    clearRows();
+    setColumnCount(mTable->count() + 2);
+    setHorizontalHeaderItem(valueColumn, headerItem(QStringLiteral("Value"), true));
+    setHorizontalHeaderItem(typeColumn, headerItem(QStringLiteral("Type"), false));
+    setHorizontalHeaderItem(buttonColumn, headerItem(QString(), false));
+    setRowCount(mTable->getRowCount());
+    for (int row = 0; row < rowCount(); ++row) {
+        addRow(row);
+    }
+    resizeColumnsToContents();
+    resizeRowsToContents();
+}
+
+void FResultsPreview::addRow(int row) {
+    const FPreviewRow content(*mTable.ptr(), row);
+    auto* value = headerItem(content.value, content.isNotANumber);
+    value->setTextAlignment(Qt::AlignCenter);
+    value->setToolTip(content.toolTip);
+    if (content.isNotANumber) {
+        value->setForeground(FTextColor::foreground(Qt::red));
+    }
+    if (content.state != FPreviewRow::State::Found) {
+        value->setIcon(FIcons::get(content.state == FPreviewRow::State::Missing ? QStringLiteral("dialog-error")
+                                                                                : QStringLiteral("dialog-warning")));
+    }
+    showState(*value, content);
+    setItem(row, valueColumn, value);
+    auto* type = new QTableWidgetItem(content.type);
+    showState(*type, content);
+    setItem(row, typeColumn, type);
+    auto* header = new QTableWidgetItem(content.header);
+    showState(*header, content);
+    setVerticalHeaderItem(row, header);
+    auto* button = new FToolButton(QStringLiteral("createParameter%1").arg(row), QStringLiteral("parameter"),
+                                   QStringLiteral("Create parameter"), this);
+    button->setAccessibleName(QStringLiteral("Create parameter that reads %1").arg(content.header));
+    button->setEnabled(content.canBeParameter);
+    connect(button, &FToolButton::clicked, this, [this, row] { emit parameterWanted(row); });
+    setCellWidget(row, buttonColumn, button);
+}
+
+QString FResultsPreview::valueOf(int row) const {
+    const QTableWidgetItem* header = mTable ? verticalHeaderItem(row) : nullptr;
+    return header ? header->text() : QString();
+}
+
+void FResultsPreview::select(const QString& value) {
+    const QSignalBlocker blocker(this);
+    clearSelection();
+    for (int row = 0; row < rowCount(); ++row) {
+        if (!value.isEmpty() && valueOf(row) == value) {
+            setCurrentCell(row, valueColumn);
+        }
+    }
+}
+
+void FResultsPreview::changeEvent(QEvent* event) {
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && mTable) {
+        fill();
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/core/FExpr.h"
+#include "host/run/FTableData.h"
+
+#include <QTableWidget>
+
+/** What the reader finds in the sample of a result template: a row for each value, with a button to use its number. */
+class FResultsPreview : public QTableWidget {
+    Q_OBJECT
+
+ public:
+    FResultsPreview();
+
+    /** Shows a table that the reader has filled. */
+    void show(const FExpr<FTableData>& table);
+    using QWidget::show;
+    /** Says that there is no value. */
+    void setBlank();
+    /** Selects the row of a value, if there is one. */
+    void select(const QString& value);
+    /** The name of a row's value. */
+    QString valueOf(int row) const;
+
+ signals:
+    void parameterWanted(int row);
+
+ protected:
+    void changeEvent(QEvent* event) override;
+
+ private:
+    void clearRows();
+    void fill();
+    void addRow(int row);
+
+    FExpr<FTableData> mTable;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/core/FExport.h"
+
+#include <QToolButton>
+
+/** A flat button with an icon, whose text is its tool tip and its name. */
+class MERIX_EXPORT FToolButton : public QToolButton {
+    Q_OBJECT
+
+ public:
+    /** @param icon  as FIcons knows it */
+    FToolButton(const QString& id, const QString& icon, const QString& text, QWidget* parent = nullptr);
+};

@@ -42,7 +42,8 @@ QByteArray write(const FDefinitionGenInt& definition) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     FFuzzCheck::holds(FLodmDefinitionParser().write(&buffer, &definition), "a definition can be written");
-    FFuzzCheck::holds(FGenIntObjectArea::write(&buffer, definition, objects), "its objects can be written");
+    QSet<FExpr<FManaged>> inFile;
+    FFuzzCheck::holds(FGenIntObjectArea::write(&buffer, definition, objects, inFile), "its objects can be written");
     return bytes;
 }
 

@@ -5,6 +5,7 @@
 #include "merix/FCommandLine.h"
 #include "merix/FCommandsSubcommand.h"
 #include "merix/FExitCode.h"
+#include "merix/FExportSubcommand.h"
 #include "merix/FGuiSubcommand.h"
 #include "merix/FPluginLoader.h"
 #include "merix/FReadSubcommand.h"
@@ -28,6 +29,7 @@ FCommandLine::Subcommands allSubcommands() {
     all.push_back(std::make_unique<FWriteSubcommand>());
     all.push_back(std::make_unique<FReadSubcommand>());
     all.push_back(std::make_unique<FRunSubcommand>());
+    all.push_back(std::make_unique<FExportSubcommand>());
     all.push_back(std::make_unique<FCommandsSubcommand>());
     return all;
 }

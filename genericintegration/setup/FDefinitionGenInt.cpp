@@ -265,9 +265,14 @@ bool FDefinitionGenInt::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
     if (opens && !openSaveFile(file)) {
         return false;
     }
-    const bool isWritten =
-        FLodmDefinitionParser().write(&file, this) && FGenIntObjectArea::write(&file, *this, objects);
-    return opens ? closeSaveFile(file, isWritten) : isWritten && file.flush();
+    QSet<FExpr<FManaged>> inFile;
+    const bool isWritten = append(objects, file, inFile);
+    return opens ? closeSaveFile(file, isWritten) : isWritten;
+}
+
+bool FDefinitionGenInt::append(const QSet<FExpr<FManaged>>& objects, QFile& file, QSet<FExpr<FManaged>>& inFile) const {
+    return FLodmDefinitionParser().write(&file, this) && FGenIntObjectArea::write(&file, *this, objects, inFile) &&
+           file.flush();
 }
 
 void FDefinitionGenInt::setInProject(bool inProject) {

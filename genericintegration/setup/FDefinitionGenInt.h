@@ -80,6 +80,11 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
      */
     bool save() const override;
     bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const override;
+    /**
+     * Writes the same behind what an open file has. `inFile` are the objects there, and then also those written now:
+     * nothing is missing that is among them, and they aren't written once more as sources of geometry exports.
+     */
+    bool append(const QSet<FExpr<FManaged>>& objects, QFile& file, QSet<FExpr<FManaged>>& inFile) const;
 
     /** Also applies to the files, except that setInUserConfig leaves the files of a default definition unchanged. */
     void setInProject(bool inProject) override;

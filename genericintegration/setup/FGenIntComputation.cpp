@@ -5,8 +5,11 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntCompSignalRapper.h"
 #include "genericintegration/setup/FResultsGenInt.h"
+#include "genericintegration/setup/FSetUpExport.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
+#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
+#include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FViewCtrl.h"
@@ -16,6 +19,7 @@
 #include "host/script/FCmdTable.h"
 
 #include <QCryptographicHash>
+#include <QFileInfo>
 
 namespace {
 
@@ -96,6 +100,18 @@ FManaged* FGenIntComputation::setName(const QString& name) {
     }
     isRenaming = false;
     return this;
+}
+
+bool FGenIntComputation::exportSetUp(const QString& fileName, bool chain) const {
+    const QString path = FFile::resolveEnv(fileName);
+    const FSetUpExport file(*this, chain ? FSetUpExport::Extent::Chain : FSetUpExport::Extent::Single);
+    const QString reason =
+        file.isPossible() ? file.save(path) : QStringLiteral("it has no configuration with a definition");
+    if (!reason.isEmpty()) {
+        FLogMsg::error(getName(), QStringLiteral("its set-up can't be written to \"%1\": %2").arg(path, reason),
+                       QFileInfo::exists(path) ? QStringLiteral("what is there is unchanged") : QString());
+    }
+    return reason.isEmpty();
 }
 
 // ---- steps of a run ----

@@ -56,7 +56,8 @@ Objects exportedObjects(const FDefinitionGenInt& definition) {
 
 }  // namespace
 
-bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects) {
+bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& definition, Objects objects,
+                              Objects& inFile) {
     // Not directly to the device, since a stream doesn't notice a short write.
     QString text;
     QTextStream stream(&text);
@@ -66,11 +67,12 @@ bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& defini
             file->saveScopeManner(stream, 0, false, false);
         }
     }
-    objects += exportedObjects(definition);
+    objects += exportedObjects(definition) - inFile;
     for (const FManaged* object : inOrder(objects)) {
         object->saveScopeManner(stream, 0, false, false);
     }
-    warnOfLeftOut(definition, objects + filesOf(definition));
+    inFile += objects + filesOf(definition) + Objects{FExpr<FManaged>(&definition)};
+    warnOfLeftOut(definition, objects, inFile);
     stream << "curFile : " << nameOf(definition.getCurFile()) << '\n';
     stream << "lastFile : " << nameOf(definition.getLastFile()) << '\n';
     stream.flush();

@@ -107,6 +107,15 @@ QString FSavedFile::copy(QFile& source, const QString& path) {
     return reasonOfCopy(source, replace(path, restOf(source)));
 }
 
+// Closing the temporary file forgets that bytes are missing.
+QString FSavedFile::take(QFile& temporary, const QString& path, bool isWritten) {
+    const bool isWhole = temporary.flush() && isWritten && temporary.seek(0);
+    const QString reason = isWhole ? copy(temporary, path) : reasonOf(temporary);
+    temporary.close();
+    temporary.remove();
+    return reason;
+}
+
 QString FSavedFile::writeBeside(const QString& original, const QString& path, const QByteArray& bytes) {
     return replaceBeside(path, QFile::permissions(original), bytesOf(bytes));
 }

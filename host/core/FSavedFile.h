@@ -27,6 +27,11 @@ class MERIX_EXPORT FSavedFile {
     static QString write(const QString& path, const QByteArray& bytes, const Step& beforeReplacing = {});
     /** Writes the rest of an open file, in the same way. */
     static QString copy(QFile& source, const QString& path);
+    /**
+     * Writes what an open file of FSavingFile holds, which is removed.
+     * @param isWritten  whether everything was written to it
+     */
+    static QString take(QFile& temporary, const QString& path, bool isWritten);
     /** Writes a file of the program's own. It replaces a link, and gets the permissions of the file `original`. */
     static QString writeBeside(const QString& original, const QString& path, const QByteArray& bytes);
     /** Copies the rest of an open file, in the same way, with its permissions. The owner may always write the copy. */

@@ -228,6 +228,30 @@ genericIntegrationComputation solver()
 solver.setConfiguration(cruise)</translation>
     </message>
     <message>
+        <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false)</source>
+        <translation>Writes the whole set-up to an exchange file: definition, templates, configuration with its values, computation, and the connector if there is one. An import reads the file into another project. A file of that name is replaced in one step, or stays as it is if the new one can't be written. A warning names each object that a value needs and that isn't in the file.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):argument0</source>
+        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):argument1</source>
+        <translation>True: also writes the set-ups of all computations that this one uses results of, and of all that use its results, at any distance.</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise) }
+print(solver.exportSetUp("solver.lodm", true))</translation>
+    </message>
+    <message>
+        <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):returnValue</source>
+        <comment>return type: bool</comment>
+        <translation>False, with a message, if the file can't be written, or if the computation has no configuration with a definition.</translation>
+    </message>
+    <message>
         <source>!FCustomComputation.member.getResults()</source>
         <translation>The results of the last run, or of the run in progress. After a new run the earlier object keeps its numbers.</translation>
     </message>

@@ -56,6 +56,7 @@ void FCustomComputation::declareCommands(FCmdTable& table) {
     table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
         .attrName("Configuration")
         .data();
+    table.member<F>("exportSetUp", &F::exportSetUp, {"fileName", "chain=false"});
     table.plain<F>("setCmdFile", &F::mCmdFile, {"fileName"}).copied().attrName("Command File");
 }
 
@@ -102,6 +103,13 @@ FCustomComputation* FCustomComputation::cloneSetup() const {
         copy->setConfiguration(configuration);
     }
     return copy;
+}
+
+bool FCustomComputation::exportSetUp(const QString& fileName, bool chain) const {
+    Q_UNUSED(chain)
+    FLogMsg::error(getName(), QStringLiteral("its set-up can't be written to \"%1\"").arg(fileName),
+                   QStringLiteral("computations of the class %1 have no exchange file").arg(getClass()));
+    return false;
 }
 
 QString FCustomComputation::getResultFile(const QString& path) const {

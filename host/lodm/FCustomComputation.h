@@ -26,6 +26,12 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
      * @return the new computation, in the model; null if the class of either object can't be cloned
      */
     FCustomComputation* cloneSetup() const;
+    /**
+     * Writes the whole set-up as an exchange file, which replaces an existing one in one step.
+     * @param chain  with the set-ups of all computations that this one is linked with, see FComputationChain
+     * @return false, with a message, if that isn't possible
+     */
+    virtual bool exportSetUp(const QString& fileName, bool chain) const;
 
     QString getResultFile(const QString& entry) const override;
     QMap<QString, QString> describeSetUp() const override;

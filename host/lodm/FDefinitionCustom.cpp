@@ -71,11 +71,7 @@ bool FDefinitionCustom::openSaveFile(QFile& file) const {
 }
 
 bool FDefinitionCustom::closeSaveFile(QFile& file, bool isWritten) const {
-    // Closing the file forgets that bytes are missing.
-    const bool isWhole = file.flush() && isWritten && file.seek(0);
-    const QString reason = isWhole ? FSavedFile::copy(file, mSaveFileName) : FSavedFile::reasonOf(file);
-    file.close();
-    file.remove();
+    const QString reason = FSavedFile::take(file, mSaveFileName, isWritten);
     return reason.isEmpty() || cantSave(*this, reason);
 }
 
@@ -90,7 +86,7 @@ bool FDefinitionCustom::save(const QSet<FExpr<FManaged>>& objects, QFile& file) 
     if (opens && !openSaveFile(file)) {
         return false;
     }
-    warnOfLeftOut(*this, {});
+    warnOfLeftOut(*this, {}, {});
     const bool isWritten = FLodmDefinitionParser().write(&file, this);
     return opens ? closeSaveFile(file, isWritten) : isWritten && file.flush();
 }

@@ -6,6 +6,7 @@
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryDef.h"
 #include "host/lodm/FLodmDefaultValue.h"
+#include "host/run/FExternComputation.h"
 #include "host/script/FScriptParser.h"
 
 namespace {
@@ -20,8 +21,8 @@ QStringList namesIn(const FExprBase& value) {
 
 class LeftOut {
  public:
-    LeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved)
-        : mDefinition(definition), mSaved(saved) {}
+    LeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& inFile)
+        : mDefinition(definition), mInFile(inFile) {}
     ~LeftOut() {
         if (mCount > mostErrors) {
             FLogMsg::warning(mDefinition.getName(),
@@ -35,7 +36,7 @@ class LeftOut {
     void check(const FManaged& owner, const QString& valueName, const FExprBase& value, const QString& consequence) {
         for (const QString& name : namesIn(value)) {
             const FManaged* object = FObjectManager::instance()->find(name);
-            const bool isLeftOut = object && object != &mDefinition && !mSaved.contains(FExpr<FManaged>(object));
+            const bool isLeftOut = object && object != &mDefinition && !mInFile.contains(FExpr<FManaged>(object));
             if (isLeftOut && ++mCount <= mostErrors) {
                 FLogMsg::warning(owner.getName(),
                                  QStringLiteral("%1 names \"%2\", which isn't saved along").arg(valueName, name),
@@ -46,7 +47,7 @@ class LeftOut {
 
  private:
     const FDefinition& mDefinition;
-    const QSet<FExpr<FManaged>>& mSaved;
+    const QSet<FExpr<FManaged>>& mInFile;
     int mCount = 0;
 };
 
@@ -62,8 +63,9 @@ void checkValues(const FConfiguration& configuration, LeftOut& leftOut) {
 
 }  // namespace
 
-void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved) {
-    LeftOut leftOut(definition, saved);
+void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved,
+                   const QSet<FExpr<FManaged>>& inFile) {
+    LeftOut leftOut(definition, inFile);
     for (const FExpr<FEntryBase>& handle : definition.getEntryMap()) {
         const auto* entry = static_cast<const FEntryDef*>(handle.ptr());
         leftOut.check(definition, QStringLiteral("the default of entry \"%1\"").arg(entry->getFullName()),
@@ -72,6 +74,9 @@ void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& s
     for (const FExpr<FManaged>& object : saved) {
         if (const auto* configuration = dynamic_cast<const FConfiguration*>(object.ptr())) {
             checkValues(*configuration, leftOut);
+        } else if (const auto* computation = dynamic_cast<const FExternComputation*>(object.ptr())) {
+            leftOut.check(*computation, QStringLiteral("its design"), computation->getDesign(),
+                          QStringLiteral("it has no design when it is read"));
         }
     }
 }

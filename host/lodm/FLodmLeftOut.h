@@ -9,8 +9,10 @@
 class FDefinition;
 
 /**
- * Warns if defaults of entries, or values of configurations in the file, name objects that an exchange file doesn't
+ * Warns if defaults of entries, or values and designs of saved objects, name objects that an exchange file doesn't
  * contain: such a value can be read only where objects of these names exist.
- * @param saved  the objects in the file besides the definition
+ * @param saved   the objects that are saved along with the definition
+ * @param inFile  all objects in the file; the definition needn't be among them
  */
-MERIX_EXPORT void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved);
+MERIX_EXPORT void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& saved,
+                                const QSet<FExpr<FManaged>>& inFile);

@@ -7,6 +7,7 @@
 #include "merix/FExitCode.h"
 #include "merix/FExportSubcommand.h"
 #include "merix/FGuiSubcommand.h"
+#include "merix/FImportSubcommand.h"
 #include "merix/FPluginLoader.h"
 #include "merix/FReadSubcommand.h"
 #include "merix/FRunSubcommand.h"
@@ -30,6 +31,7 @@ FCommandLine::Subcommands allSubcommands() {
     all.push_back(std::make_unique<FReadSubcommand>());
     all.push_back(std::make_unique<FRunSubcommand>());
     all.push_back(std::make_unique<FExportSubcommand>());
+    all.push_back(std::make_unique<FImportSubcommand>());
     all.push_back(std::make_unique<FCommandsSubcommand>());
     return all;
 }

@@ -8,6 +8,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntCheck.h"
 #include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/setup/FImportSoftwareConnector.h"
 #include "genericintegration/setup/FPreviewCommands.h"
 #include "genericintegration/setup/FResultsGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
@@ -17,8 +18,9 @@
 namespace {
 
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
-                      FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FResultsGenInt,
-                      FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass, FPreviewCommands>
+                      FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FImportSoftwareConnector,
+                      FResultsGenInt, FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass,
+                      FPreviewCommands>
     types;
 
 const bool isChecked = FGenIntCheck::enable();

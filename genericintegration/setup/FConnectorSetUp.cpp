@@ -17,6 +17,18 @@ bool isLoading() {
     return FMerixCtrl::instance()->isLoadingProject();
 }
 
+/** The connectors that depend on a computation. */
+QList<FConnectorInterface*> connectorsOf(const FExternComputation& computation) {
+    QList<FConnectorInterface*> connectors;
+    for (FObject* client : computation.getClients()) {
+        auto* connector = dynamic_cast<FConnectorInterface*>(client);
+        if (connector && connector->asManaged()->isInModel()) {
+            connectors.append(connector);
+        }
+    }
+    return connectors;
+}
+
 bool isListedElsewhere(const FExpr<FGenIntFile>& file, const FDefinitionGenInt& definition) {
     const auto entities = FModel::instance()->getEntities(FDefinitionGenInt::null());
     return std::any_of(entities.begin(), entities.end(), [&](FManaged* entity) {
@@ -49,7 +61,7 @@ void FConnectorSetUp::start(const FExpr<FExternComputation>& computation) {
 }
 
 bool FConnectorSetUp::isTaken(const FExpr<FExternComputation>& computation) const {
-    const auto connectors = FConnectorInterface::getConnectors();
+    const auto connectors = computation ? connectorsOf(*computation.ptr()) : FConnectorInterface::getConnectors();
     const auto holder = std::find_if(connectors.begin(), connectors.end(), [&computation](const auto* connector) {
         return connector->containsComputation(computation);
     });

@@ -34,22 +34,21 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     if (text.isEmpty() || !definition) {
         return;
     }
-    // The text starts with as many line ends as there are lines before it, so that messages give lines of the file.
-    const QString area = QString(mObjectAreaLines, QLatin1Char('\n')) + text;
     // Objects that were saved along with the definition may name it.
     if (!mName.isEmpty()) {
-        mNames.setVariable(mName, FExprBase(definition));
+        mNames.setDeclared(mName, FExprBase(definition));
     }
-    FScript script = FSavedTextReader::parse(area, mSource, {true, true});
+    FScript script = FSavedTextReader::parse(text, mSource, {true, true, mObjectAreaLine});
+    mFaultCount += static_cast<int>(script.errors.size());
     const FObjectAreaParts parts(std::move(script.statements), mName);
     startParentReg(definition);
-    FSavedTextReader(mNames, mSource).read(parts.independent);
+    mFaultCount += FSavedTextReader(mNames, mSource).read(parts.independent);
     takeDefaultsOfObjects();
-    FSavedTextReader(mNames, mSource).read(parts.dependent);
+    mFaultCount += FSavedTextReader(mNames, mSource).read(parts.dependent);
     stopParentReg();
     // An object whose name was taken has a different name than in the file.
-    const FExprBase current = mNames.find(nameBehind(area, script.passedOver, QStringLiteral("curFile : ")));
-    const FExprBase last = mNames.find(nameBehind(area, script.passedOver, QStringLiteral("lastFile : ")));
+    const FExprBase current = mNames.find(nameBehind(text, script.passedOver, QStringLiteral("curFile : ")));
+    const FExprBase last = mNames.find(nameBehind(text, script.passedOver, QStringLiteral("lastFile : ")));
     takeFiles(*definition, current, last);
 }
 

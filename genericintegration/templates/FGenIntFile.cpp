@@ -144,6 +144,9 @@ FGenIntFile* FGenIntFile::setFileName(const QString& fileName) {
     markOutOfDate();
     FHistoryTransaction transaction(QStringLiteral("set file name"));
     transaction.addStep(this);
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return this;
+    }
     for (FManaged* entity : FModel::instance()->getEntities(FDefinition::null())) {
         auto* owner = dynamic_cast<FTemplateOwner*>(entity);
         if (owner && owner->getFiles().contains(FExpr<FGenIntFile>(this))) {

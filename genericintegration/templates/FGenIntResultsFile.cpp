@@ -2,6 +2,7 @@
 
 #include "genericintegration/templates/FValueReference.h"
 #include "host/core/FHistory.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FObjectTree.h"
@@ -252,6 +253,9 @@ void FGenIntResultsFile::setSpaceSeparator(bool space) {
 
 FGenIntFile* FGenIntResultsFile::setFileName(const QString& fileName) {
     FGenIntFile::setFileName(fileName);
+    if (FMerixCtrl::instance()->isLoadingProject()) {
+        return this;
+    }
     for (FConnectorInterface* connector : FConnectorInterface::getConnectors()) {
         connector->refreshEditors(this);
     }

@@ -34,9 +34,11 @@ QList<FManaged*> FObjectManager::getManaged(const FObject* prototype, const QStr
 
 QList<FManaged*> FObjectManager::getChildrenOf(const FObject* parent) const {
     QList<FManaged*> found;
-    for (FManaged* object : mById) {
-        if (parent && object->getParent() == parent) {
-            found.append(object);
+    const auto* managed = dynamic_cast<const FManaged*>(parent);
+    // Children are younger than their parent.
+    for (auto object = mById.upperBound(managed ? managed->getDbId() : 0); parent && object != mById.end(); ++object) {
+        if ((*object)->getParent() == parent) {
+            found.append(*object);
         }
     }
     return found;

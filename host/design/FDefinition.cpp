@@ -3,12 +3,13 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FModel.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FDefinitionCommands.h"
 #include "host/design/FEntryDef.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FSavedTextReader.h"
+
+#include <algorithm>
 
 FClassData FDefinition::mClass("FDefinition", &FDefinitionBase::mClass, &definitionCommands);
 
@@ -108,12 +109,13 @@ void FDefinition::updateCommandFiles(const QString& oldName, const QString& newN
 
 QList<FConfiguration*> FDefinition::getConfigurations() const {
     QList<FConfiguration*> found;
-    for (FManaged* entity : FModel::instance()->getEntities(FConfiguration::null())) {
-        auto* configuration = static_cast<FConfiguration*>(entity);
-        if (configuration->getDefinition().ptr() == this) {
+    for (FObject* client : getClients()) {
+        auto* configuration = dynamic_cast<FConfiguration*>(client);
+        if (configuration && configuration->isInModel() && configuration->getDefinition().ptr() == this) {
             found.append(configuration);
         }
     }
+    std::sort(found.begin(), found.end(), [](const auto* a, const auto* b) { return a->getDbId() < b->getDbId(); });
     return found;
 }
 

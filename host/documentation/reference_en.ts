@@ -1116,6 +1116,29 @@ out1.setTabSeaparator(true)</translation>
         <translation>print(getObjects("FImport").read("wing.lodm"))</translation>
     </message>
     <message>
+        <source>!FImportSoftwareConnector</source>
+        <translation>Imports set-ups from an exchange file: definitions with templates, configurations, computations and connectors, as exportSetUp writes them. Where a name is taken, the new object gets another one, and all that the file says of it means the new object. What is missing or damaged in a part of the file is reported with its line; the rest is imported.</translation>
+    </message>
+    <message>
+        <source>!FImportSoftwareConnector.creator.softwareConnectorImport()</source>
+        <translation>Makes an import of set-ups. It can be used many times.</translation>
+    </message>
+    <message>
+        <source>!FImportSoftwareConnector.creator.softwareConnectorImport():example</source>
+        <translation>softwareConnectorImport setUps()
+setUps.read("wing.lodm")</translation>
+    </message>
+    <message>
+        <source>!FImportSoftwareConnector.creator.softwareConnectorImport():returnValue</source>
+        <comment>return type: FImportSoftwareConnector</comment>
+        <translation>The import.</translation>
+    </message>
+    <message>
+        <source>!FImportSoftwareConnector:example</source>
+        <translation>softwareConnectorImport setUps()
+setUps.read("wing.lodm")</translation>
+    </message>
+    <message>
         <source>!FObjectList</source>
         <translation>A list of values or objects, written [a, b, c]; it can hold other lists. A command that lists don't have is carried out by each element that has it, and the results come back as a list: one result for a list of one, an empty list for an empty one. Lists don't change; a new one is written instead.</translation>
     </message>

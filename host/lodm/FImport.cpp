@@ -4,14 +4,34 @@
 #include "host/core/FHold.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FPrototypes.h"
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmPath.h"
 #include "host/run/FPathManager.h"
 #include "host/script/FCmdTable.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
+
+/** The patterns of a filter: "*.txt" and "*.log" of "Text (*.txt *.log)". */
+QStringList patternsOf(const QString& filter) {
+    return filter.section(QLatin1Char('('), -1).section(QLatin1Char(')'), 0, 0).split(QLatin1Char(' '));
+}
+
+QList<FExpr<FImport>> allImports() {
+    QList<FExpr<FImport>> imports;
+    for (const QString& name : FPrototypes::getNames()) {
+        const auto* prototype = dynamic_cast<const FImport*>(FPrototypes::find(name));
+        const FExpr<FImport> import(prototype ? prototype->makeImport() : nullptr);
+        if (import) {
+            imports.append(import);
+        }
+    }
+    return imports;
+}
 
 void commands(FCmdTable& table) {
     table.member<FImport>("read", &FImport::read, {"fileName=\"\"", "flag=false"});
@@ -26,6 +46,7 @@ FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     if (open(file, fileName)) {
         const FBusy busy;
         const FWaitCursor cursor;
+        mFaultCount = 0;
         reset();
         const FGlUpdateBlocker picture;
         const FEditorUpdateBlocker editors;
@@ -34,6 +55,24 @@ FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
         doImport(file, flag);
     }
     return FExpr<FObjectList>(new FObjectList);
+}
+
+FExpr<FImport> FImport::forFile(const QString& fileName) {
+    const QString name = QFileInfo(fileName).fileName();
+    for (const FExpr<FImport>& import : allImports()) {
+        if (QDir::match(patternsOf(import->mFilter), name)) {
+            return import;
+        }
+    }
+    return {};
+}
+
+QStringList FImport::getFilters() {
+    QStringList filters;
+    for (const FExpr<FImport>& import : allImports()) {
+        filters.append(import->mFilter);
+    }
+    return filters;
 }
 
 QString FImport::getCurrentDir() const {

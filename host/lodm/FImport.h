@@ -23,6 +23,15 @@ class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
      * @return a new list for the caller, empty unless a derived class fills it
      */
     virtual FExpr<FObjectList> read(const QString& fileName, bool flag);
+    /** How much of the last file couldn't be imported, or is missing in it; all of it was reported. */
+    int getFaultCount() const { return mFaultCount; }
+
+    /** A new import that isn't in the model; called on the prototype. Null for a class that has no files. */
+    virtual FImport* makeImport() const { return nullptr; }
+    /** An import for a file with such a name, not in the model; an empty handle if no class reads such files. */
+    static FExpr<FImport> forFile(const QString& fileName);
+    /** What the imports read, as their dialogs offer it. */
+    static QStringList getFilters();
 
     /**
      * The folder in which the user chose the last file of this import, or the folder of the samples. It is kept with
@@ -41,6 +50,7 @@ class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
 
     QString mCaption;  //!< of the dialog that asks for a file
     QString mFilter;   //!< of that dialog, such as "Text (*.txt *.log)"
+    int mFaultCount = 0;
 
  private:
     QString mCurrentDir;

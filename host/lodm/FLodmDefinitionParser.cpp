@@ -17,13 +17,12 @@
 #include <algorithm>
 
 const QString FLodmDefinitionParser::smObjectArea = QStringLiteral("<<<object area>>>");
+const char* const FLodmDefinitionParser::xmlHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>";
 
 namespace {
 
 using lodm::word;
 using Nodes = std::vector<FLodmEntry>;
-
-constexpr char xmlHeader[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>";
 
 /** Used in messages instead of a file's name. */
 QString noFile() {
@@ -37,9 +36,9 @@ qint64 mostToRead(const QIODevice& device) {
     return device.isSequential() ? most : std::clamp(device.bytesAvailable() + 1, leastBlock, most);
 }
 
-FPlace placeOf(const QString& text, int offset) {
+FPlace placeOf(const QString& text, int offset, int firstLine) {
     const QStringRef before = text.leftRef(offset);
-    return {before.count(QLatin1Char('\n')) + 1, offset - before.lastIndexOf(QLatin1Char('\n'))};
+    return {before.count(QLatin1Char('\n')) + firstLine, offset - before.lastIndexOf(QLatin1Char('\n'))};
 }
 
 }  // namespace
@@ -69,7 +68,12 @@ bool FLodmDefinitionParser::read(QIODevice* device) {
 }
 
 bool FLodmDefinitionParser::read(const QString& text) {
-    mSource = noFile();
+    return read(text, noFile(), 1);
+}
+
+bool FLodmDefinitionParser::read(const QString& text, const QString& source, int firstLine) {
+    mSource = source;
+    mFirstLine = firstLine;
     return readText(text);
 }
 
@@ -88,7 +92,7 @@ bool FLodmDefinitionParser::readText(const QString& text) {
     mBuilder = FLodmEntryBuilder(mSource);
     definition.replaceEntries(buildNodes(mNodes));
     mHasAllDefaults = !mBuilder.isWaiting();
-    mObjectAreaLines = marker < 0 ? 0 : text.leftRef(marker).count(QLatin1Char('\n'));
+    mObjectAreaLine = placeOf(text, std::max(marker, 0), mFirstLine).line;
     importObjectsFromString(marker < 0 ? QString() : text.mid(marker + smObjectArea.size()));
     if (!mHasAllDefaults) {
         mBuilder.setNames(mNames);
@@ -112,10 +116,10 @@ void FLodmDefinitionParser::takeDefaultsOfObjects() {
 // Parses everything before the model is changed.
 bool FLodmDefinitionParser::parse(const QString& text, Nodes& nodes) {
     if (const auto slow = FLodmSlowTag::find(text)) {
-        error(placeOf(text, slow->place), slow->reason);
+        error(placeOf(text, slow->place, mFirstLine), slow->reason);
         return false;
     }
-    FLodmXmlReader xml(text);
+    FLodmXmlReader xml(text, mFirstLine);
     readStructure(xml, nodes);
     if (xml.hasError()) {
         error(xml.place(), xml.errorString());
@@ -181,6 +185,7 @@ void FLodmDefinitionParser::readDocu(FLodmXmlReader& xml) {
 
 void FLodmDefinitionParser::error(const FPlace& place, const QString& message) {
     mDefinition = {};
+    ++mFaultCount;
     FLogMsg::error(place.toString(mSource), QStringLiteral("the definition can't be read: ") + message,
                    QStringLiteral("nothing was read; correct the file, or save the definition again"));
 }
@@ -210,6 +215,7 @@ bool FLodmDefinitionParser::makeDefinition() {
 }
 
 bool FLodmDefinitionParser::write(QIODevice* device, const FDefinitionCustom* definition) {
-    return device && definition && device->write(xmlHeader) == qint64{sizeof(xmlHeader)} - 1 &&
+    const QByteArray header(xmlHeader);
+    return device && definition && device->write(header) == header.size() &&
            FLodmEntryWriter(device).write(*definition);
 }

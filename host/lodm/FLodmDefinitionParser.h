@@ -23,6 +23,8 @@ class MERIX_EXPORT FLodmDefinitionParser {
  public:
     /** The marker. Well-formed XML contains it only in comments, so no text of an entry is mistaken for it. */
     static const QString smObjectArea;
+    /** The first line of a file. */
+    static const char* const xmlHeader;
     /** Bytes of the longest file that is read. */
     static constexpr qint64 longestFile = qint64{512} << 20U;
 
@@ -44,6 +46,13 @@ class MERIX_EXPORT FLodmDefinitionParser {
      */
     bool read(QIODevice* device);
     bool read(const QString& text);
+    /** Reads a part of a file, whose messages give the name and the lines of the file. */
+    bool read(const QString& text, const QString& source, int firstLine);
+    /** Sets what names mean that the text doesn't declare. Those that it declares join them. */
+    void setNames(FScriptNames names) { mNames = std::move(names); }
+    FScriptNames takeNames() { return std::move(mNames); }
+    /** How many errors were reported; what they concern wasn't read. */
+    int getFaultCount() const { return mFaultCount + mBuilder.getFaultCount(); }
     /** Writes the XML half to an open device; false if not everything could be written. */
     bool write(QIODevice* device, const FDefinitionCustom* definition);
 
@@ -75,8 +84,9 @@ class MERIX_EXPORT FLodmDefinitionParser {
     QString mSource;  //!< name of the file in messages
     QString mName;    //!< the definition's name in the file
     FPlace mNamePlace;
-    FScriptNames mNames;       //!< meaning of the names in default values
-    int mObjectAreaLines = 0;  //!< lines of the file before the object area
+    FScriptNames mNames;      //!< meaning of the names in default values
+    int mObjectAreaLine = 1;  //!< the line of the file where the object area begins
+    int mFaultCount = 0;      //!< apart from defaults
 
  private:
     bool readText(const QString& text);
@@ -86,6 +96,7 @@ class MERIX_EXPORT FLodmDefinitionParser {
     void readDocu(FLodmXmlReader& xml);
     bool makeDefinition();
 
+    int mFirstLine = 1;  //!< the line of the file where the text begins
     std::vector<FLodmEntry> mNodes;
     QMap<unsigned int, QString> mDocu;  //!< of the definition, by area
     FLodmEntryBuilder mBuilder;

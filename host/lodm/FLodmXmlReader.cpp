@@ -75,5 +75,5 @@ QString FLodmXmlReader::tag() const {
 }
 
 FPlace FLodmXmlReader::place() const {
-    return {static_cast<int>(lineNumber()), static_cast<int>(columnNumber()) + 1};
+    return {static_cast<int>(lineNumber()) + mFirstLine - 1, static_cast<int>(columnNumber()) + 1};
 }

@@ -9,7 +9,8 @@
 /** Reads the XML half of an exchange file element by element, up to the first error. */
 class MERIX_EXPORT FLodmXmlReader : public QXmlStreamReader {
  public:
-    explicit FLodmXmlReader(const QString& text) : QXmlStreamReader(text) {}
+    /** @param firstLine  the line of the file where the text begins */
+    explicit FLodmXmlReader(const QString& text, int firstLine = 1) : QXmlStreamReader(text), mFirstLine(firstLine) {}
 
     /** Raises an error, which ends the reading. Later errors are ignored. */
     void raise(const QString& message);
@@ -32,4 +33,7 @@ class MERIX_EXPORT FLodmXmlReader : public QXmlStreamReader {
     QString tag() const;
     /** The place of the reader, usually just after the tag of the present element. */
     FPlace place() const;
+
+ private:
+    int mFirstLine;
 };

@@ -1,5 +1,6 @@
 #include "host/script/FBinder.h"
 
+#include "host/core/FManaged.h"
 #include "host/core/FPrototypes.h"
 #include "host/script/FCmdManager.h"
 #include "host/script/FListLimits.h"
@@ -23,6 +24,15 @@ FExprBase literalObject(const FLiteral& literal) {
         FExprBase operator()(const QString& text) const { return FExprBase(new FString(text)); }
     };
     return std::visit(Maker(), literal);
+}
+
+/** Whether an argument is an object of the model as such, or a list of such: they are taken without their values. */
+bool takesObjects(const FCmdType& type) {
+    const QString listEnding = QStringLiteral("Container");
+    const FObject* prototype =
+        type.script.endsWith(listEnding) ? FPrototypes::find(type.script.chopped(listEnding.size())) : nullptr;
+    const FClassData* cls = prototype ? &prototype->getClassData() : type.cls;
+    return cls && FManaged::mClass.isSuperClassOf(*cls);
 }
 
 /** Has all messages about an expression name one place. */
@@ -159,9 +169,9 @@ bool FBinder::mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExp
     return !mError;
 }
 
-FExprBase FBinder::bindEvaluated(const FSyntaxExpr& expression) {
+FExprBase FBinder::bindEvaluated(const FSyntaxExpr& expression, bool isObject) {
     FExprBase bound = bind(expression, Use::Kept);
-    if (mError || bound.canSafelyBeUpdated(false)) {
+    if (mError || (isObject && !bound.isCmd()) || bound.canSafelyBeUpdated(false)) {
         return bound;
     }
     return fail(expression.place, QStringLiteral("this reads files, which a saved text can't do while it is read"));
@@ -174,8 +184,11 @@ std::vector<FExprBase> FBinder::bindArguments(const std::vector<const FCmdRow*>&
         const bool isKept = std::any_of(rows.begin(), rows.end(), [i](const FCmdRow* row) {
             return i < row->arguments.size() && row->arguments[i].type.isKept;
         });
+        const bool isObject = std::all_of(rows.begin(), rows.end(), [i](const FCmdRow* row) {
+            return i < row->arguments.size() && takesObjects(row->arguments[i].type);
+        });
         const bool isEvaluated = use == Use::Saved && !isKept;
-        arguments.push_back(isEvaluated ? bindEvaluated(call.operands[i])
+        arguments.push_back(isEvaluated ? bindEvaluated(call.operands[i], isObject)
                                         : bind(call.operands[i], isKept ? Use::Kept : use));
     }
     return arguments;

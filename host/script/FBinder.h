@@ -43,8 +43,8 @@ class MERIX_EXPORT FBinder {
     std::vector<FExprBase> bindAll(const std::vector<FSyntaxExpr>& expressions, Use use);
     std::vector<const FCmdRow*> memberRows(const FExprBase& receiver, const FSyntaxExpr& call, bool& isOpen);
     bool mayStand(const std::vector<const FCmdRow*>& rows, const FSyntaxExpr& call, Use use);
-    /** What a saved text has evaluated at once. */
-    FExprBase bindEvaluated(const FSyntaxExpr& expression);
+    /** What a saved text has evaluated at once, unless it is an object that the command takes as such. */
+    FExprBase bindEvaluated(const FSyntaxExpr& expression, bool isObject);
     FExprBase finish(FCmd* command, const FSyntaxExpr& expression, Use use);
     FExprBase fail(const FPlace& place, const QString& message);
 

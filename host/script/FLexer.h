@@ -9,7 +9,7 @@
  */
 class FLexer {
  public:
-    explicit FLexer(QStringView text) : mText(text) {}
+    explicit FLexer(QStringView text, int firstLine = 1) : mText(text), mLine(firstLine) {}
 
     /** The next token; End at the end, as often as it is asked for. */
     FToken next();
@@ -52,7 +52,7 @@ class FLexer {
     QStringView mText;
     qsizetype mPosition = 0;
     qsizetype mLineStart = 0;
-    int mLine = 1;
+    int mLine;
     int mBrackets = 0;
     bool mIsFirstOnLine = true;
     bool mIsSkipping = false;

@@ -2,7 +2,6 @@
 
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FLogMsg.h"
-#include "host/core/FMerixCtrl.h"
 #include "host/core/FUpdateGraph.h"
 
 FScript FSavedTextReader::parse(const QString& text, const QString& file, const FParseMode& mode) {
@@ -20,29 +19,28 @@ int FSavedTextReader::read(const QString& text, const QString& file, const FPars
 
 namespace {
 
-/** How many saved texts are being read, each within the one before. */
+/** Sessions, each within the one before. */
 int nested = 0;
 
-class Reading {
- public:
-    Reading() { ++nested; }
-    ~Reading() { --nested; }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-
- private:
-    const FBusy mBusy;
-};
-
 }  // namespace
+
+FSavedTextReader::Session::Session() {
+    ++nested;
+}
+
+FSavedTextReader::Session::~Session() {
+    if (--nested == 0) {
+        FUpdateGraph::forgetWaitingThatReadFiles();
+    }
+}
 
 bool FSavedTextReader::isReading() {
     return nested > 0;
 }
 
 int FSavedTextReader::read(const FSyntaxBody& statements) {
-    const Reading reading;
     const FImmediateUpdateBlocker blocker;
+    const Session session;
     announce(statements);
     for (std::size_t i = 0; i < mStatements.size(); ++i) {
         goOn(i);
@@ -55,7 +53,6 @@ int FSavedTextReader::read(const FSyntaxBody& statements) {
             workOff();
         }
     }
-    FUpdateGraph::forgetWaitingThatReadFiles();
     if (mErrors > mostErrors) {
         FLogMsg::error(mFile, QStringLiteral("%1 more errors").arg(mErrors - mostErrors));
     }

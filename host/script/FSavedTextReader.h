@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/script/FDeclarer.h"
 #include "host/script/FScriptParser.h"
 
@@ -21,6 +22,21 @@
  */
 class MERIX_EXPORT FSavedTextReader {
  public:
+    /**
+     * As long as one exists, the texts that are read count as one. At the end of the outermost one, updates that would
+     * read files leave the queue; end it before the update blocker around it.
+     */
+    class MERIX_EXPORT Session {
+     public:
+        Session();
+        ~Session();
+        Session(const Session&) = delete;
+        Session& operator=(const Session&) = delete;
+
+     private:
+        const FBusy mBusy;
+    };
+
     FSavedTextReader(FScriptNames& names, const QString& file)
         : mNames(names), mFile(file), mDeclarer(names, file, FBinder::Use::Saved) {}
 

@@ -17,6 +17,11 @@ FExprBase FScriptNames::find(const QString& name) const {
     return declared.isValid() ? declared : FExprBase(FObjectManager::instance()->find(name));
 }
 
+void FScriptNames::announce(const QString& name) {
+    mAnnounced.insert(name);
+    mDeclared.remove(name);
+}
+
 bool FScriptNames::isObject(const QString& name) const {
     return mDeclared.value(name).isValid() || FObjectManager::instance()->find(name);
 }

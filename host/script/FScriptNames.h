@@ -23,9 +23,9 @@ class MERIX_EXPORT FScriptNames {
     void setDeclared(const QString& name, const FExprBase& object) { mDeclared.insert(name, object); }
     /**
      * The script declares an object of that name, perhaps further on: until it does, the name stands for nothing, also
-     * if the model has such an object, and it is never a word of an enumeration.
+     * if the model has such an object, or an earlier text declared one, and it is never a word of an enumeration.
      */
-    void announce(const QString& name) { mAnnounced.insert(name); }
+    void announce(const QString& name);
     bool isAnnounced(const QString& name) const { return mAnnounced.contains(name); }
     /**
      * ` (did you mean "name"?)`, or nothing if no known name is near. Only for the first names that are asked for,

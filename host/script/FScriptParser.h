@@ -27,6 +27,8 @@ struct MERIX_EXPORT FParseMode {
     bool recovers = false;
     /** Pass over lines of the form `word : rest`. */
     bool isObjectArea = false;
+    /** The line of the file where the text begins. */
+    int firstLine = 1;
 };
 
 /** Longest script, in UTF-16 units; a longer one is an error and not looked at. */

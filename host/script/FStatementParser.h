@@ -8,7 +8,7 @@ class FStatementParser {
  public:
     /** `text` has to outlive the parser. */
     FStatementParser(QStringView text, const FParseMode& mode)
-        : mTokens(FLexer(text)), mExpressions(mTokens), mMode(mode) {}
+        : mTokens(FLexer(text, mode.firstLine)), mExpressions(mTokens), mMode(mode) {}
     FStatementParser(const FStatementParser&) = delete;
     FStatementParser& operator=(const FStatementParser&) = delete;
 

@@ -9,17 +9,20 @@ genericIntegrationCommandFile in1() { .setContent("x=<entry>x</entry>") .setFile
 genericIntegrationResultsFile out1() {
     .setFileName("first.txt") .setValues([["v", 0, 0, "v ", First, "FDouble", "", 0, NULL]])
 }
-genericIntegrationDefinition def1() { .addEntry("x", 2) .addEntry("file", resultsFileName("first.txt")) .setFiles([in1, out1]) }
+genericIntegrationDefinition def1() { .addEntry("x", 2) .addEntry("file", resultsFileName("first.txt")) 
+    .setFiles([in1, out1]); .setCurFile(out1)
+}
 genericIntegrationConfiguration conf1() { .setDefinition(def1); .setEntryValue("x", 3) }
 genericIntegrationComputation first() {
     .setConfiguration(conf1); .setExecutable("sh"); .setArguments(["-c", ". ./in.txt; echo v $x > first.txt"])
 }
-softwareConnector con1() { .setComputation(first); .setItemSize("Large") }
+first.openSoftwareConnector()
+first_connector.setItemSize("Large")
 
 genericIntegrationResultsFile out2() {
     .setFileName("second.txt") .setValues([["v", 0, 0, "v ", First, "FDouble", "", 0, NULL]])
 }
-genericIntegrationDefinition def2() { .addEntry("data", inputFile("none")) .setFiles([out2]) }
+genericIntegrationDefinition def2() { .addEntry("data", inputFile("none")) .setFiles([out2]); .setCurFile(out2) }
 genericIntegrationConfiguration conf2() {
     .setDefinition(def2)
     .setEntryValue("data", inputFile(first.getResults().getResultFileName("file")))
@@ -28,13 +31,13 @@ genericIntegrationComputation second() {
     .setConfiguration(conf2); .setExecutable("sh")
     .setArguments(["-c", "read v x < first.txt; echo v $((x*x)) > second.txt"])
 }
-softwareConnector con2() { .setComputation(second) }
+second.openSoftwareConnector()
 
 genericIntegrationCommandFile in3() { .setContent("x=<entry>x</entry>") .setFileName("in.txt") }
 genericIntegrationResultsFile out3() {
     .setFileName("third.txt") .setValues([["v", 0, 0, "v ", First, "FDouble", "", 0, NULL]])
 }
-genericIntegrationDefinition def3() { .addEntry("x", 0) .addEntry("note", "é") .setFiles([in3, out3]) }
+genericIntegrationDefinition def3() { .addEntry("x", 0) .addEntry("note", "é") .setFiles([in3, out3]); .setCurFile(in3) }
 genericIntegrationConfiguration conf3() {
     .setDefinition(def3)
     .setEntryValue("x", second.getResults().getTable("second.txt").getElementAt("v"))
@@ -64,7 +67,7 @@ FChainTest::FChainTest() {
 QString FChainTest::numbers(const QStringList& computations) {
     QStringList found;
     for (const QString& name : computations) {
-        found.append(textOf(name + ".getResults().getTableAt(0).getDataAt(0, 0)"));
+        found.append(textOf(name + ".getResults().getDataAt(\"v\", 0)"));
     }
     return found.join(' ');
 }

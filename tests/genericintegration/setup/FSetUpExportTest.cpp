@@ -43,11 +43,11 @@ TEST_F(FSetUpExportTest, aChainReachesBothSidesWithSuppliersFirst) {
 
 TEST_F(FSetUpExportTest, aFileHoldsOneSetUpOrTheChainInOneStep) {
     ASSERT_TRUE(run("print(second.exportSetUp(\"" + path("one.lodm") + "\"))"));
-    EXPECT_EQ(contents("one.lodm"), "| second con2");
+    EXPECT_EQ(contents("one.lodm"), "| second second_connector");
     EXPECT_TRUE(logHolds("conf2: the value of entry \"data\" names \"first\", which isn't saved along")) << logText();
     const int lines = log().size();
     EXPECT_TRUE(computation("second")->exportSetUp(path("all.lodm"), true));
-    EXPECT_EQ(contents("all.lodm"), "| first con1 | second con2 | third");
+    EXPECT_EQ(contents("all.lodm"), "| first first_connector | second second_connector | third");
     EXPECT_EQ(log().mid(lines), QStringList()) << "the parts before hold what is named";
 
     const QString before = read("all.lodm");

@@ -4,6 +4,7 @@
 #include "genericintegration/editors/FResultsFileForm.h"
 #include "genericintegration/editors/FResultsMarker.h"
 #include "genericintegration/editors/FResultsPreview.h"
+#include "genericintegration/editors/FTemplateReports.h"
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/marking/FPlaceProposal.h"
@@ -16,14 +17,13 @@
 #include "host/core/FUserStep.h"
 #include "host/core/FViewCtrl.h"
 #include "host/design/FParameter.h"
+#include "host/gui/base/FElidedLabel.h"
 #include "host/gui/base/FFormRow.h"
 #include "host/gui/base/FGroupBox.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FSpinBox.h"
-#include "host/gui/base/FStateLabel.h"
 #include "host/gui/base/FToolButton.h"
 #include "host/gui/fields/FAttributeEditor.h"
-#include "host/gui/panels/FProblemStrip.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/run/FValueRemark.h"
 
@@ -131,11 +131,15 @@ void FGenIntResultsFileEditor::init() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(mSplitter);
+    mpReports = new FTemplateReports(this);
+    connect(mpReports, &FTemplateReports::chosen, this, &FGenIntResultsFileEditor::chosen);
+    column->addWidget(mpReports);
+    column->addWidget(mSplitter, 1);
     takeColors();
     restoreSplitter();
     connectForm();
     listen();
+    showProblems();
 }
 
 QWidget* FGenIntResultsFileEditor::makeText() {
@@ -146,9 +150,6 @@ QWidget* FGenIntResultsFileEditor::makeText() {
     auto* column = new QVBoxLayout(pane);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
-    auto* strip = new FProblemStrip(FExpr<FManaged>(mResultsFile), pane);
-    connect(strip, &FProblemStrip::chosen, this, &FGenIntResultsFileEditor::chosen);
-    column->addWidget(strip);
     auto* row = new QWidget;
     row->setObjectName(QStringLiteral("AttributeRow"));
     row->setProperty("last", true);
@@ -224,6 +225,7 @@ void FGenIntResultsFileEditor::listen() {
             letGo();
         }
     });
+    connect(mpProblems.get(), &FProblemWatch::checked, this, &FGenIntResultsFileEditor::showProblems);
     connect(FViewCtrl::instance(), &FViewCtrl::applicationFontChanged, this, &FGenIntResultsFileEditor::refreshLabels);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* before, const QWidget* now) {
         if (before && isAncestorOf(before) && !(now && isAncestorOf(now))) {
@@ -740,6 +742,10 @@ void FGenIntResultsFileEditor::fillMenu(QMenu& menu, int position) {
     }
 }
 
+void FGenIntResultsFileEditor::showProblems() {
+    mpReports->show(mResultsFile ? mpProblems->problemsOf(mResultsFile->getName()) : FSetUpCheck::Problems(), {});
+}
+
 void FGenIntResultsFileEditor::chosen(const FSetUpProblem& problem) {
     const int found = mpForm->mValueSelector->findText(problem.part, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (!problem.part.isEmpty() && found >= 0) {
@@ -963,7 +969,7 @@ void FGenIntResultsFileEditor::highlightCurrentValue() {
     const FExpr<FGenIntResultsFileValue> value = currentValue();
     if (!value || mIsStale) {
         mpMarker->clear();
-        mpForm->mPlaceLabel->clear();
+        mpForm->mPlaceLabel->show(QString());
         return;
     }
     const FValueDescription description = FTemplateValues::describe(*value.ptr());
@@ -974,15 +980,15 @@ void FGenIntResultsFileEditor::highlightCurrentValue() {
 }
 
 void FGenIntResultsFileEditor::showPlaceOf(const FFoundValue& found) {
-    const QString text = found.textIn(sample().text());
+    constexpr int mostShown = 80;  // characters
+    const QString text = found.textIn(sample().text()).left(mostShown);
     const QString reason = FValueRemark::text(found, found.number);
-    const QString place =
-        found.rows ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
-        : found.column > 0
-            ? QStringLiteral("line %1, column %2: %3").arg(found.line).arg(found.column).arg(text.left(80))
-            : QStringLiteral("not found");
+    const QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
+                          : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
+                                             : QStringLiteral("not found");
+    const QString shown = found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text);
     const bool isPlain = reason.isEmpty() || FTemplateValues::isFileName(*currentValue().ptr());
-    mpForm->mPlaceLabel->setText(isPlain ? place : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(place, reason));
+    mpForm->mPlaceLabel->show(isPlain ? shown : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(shown, reason));
 }
 
 void FGenIntResultsFileEditor::previewSoon() {

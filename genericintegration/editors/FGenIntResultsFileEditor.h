@@ -6,6 +6,7 @@
 #include "host/core/FView.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
+#include "host/gui/base/FProblemWatch.h"
 #include "host/gui/base/FStepJoiner.h"
 
 #include <QColor>
@@ -20,9 +21,9 @@ class FGenIntResultsFileEdit;
 class FResultsFileForm;
 class FResultsMarker;
 class FTableData;
+class FTemplateReports;
 class FUserStep;
 struct FPlaceProposal;
-struct FSetUpProblem;
 class QLineEdit;
 class QMenu;
 class QSplitter;
@@ -175,6 +176,7 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void setAnchor(FTextRange selection);
     bool selectValueAt(FTextRange number);
     void createParamOf(int row);
+    void showProblems();
     void chosen(const FSetUpProblem& problem);
 
     void refreshText();
@@ -206,6 +208,8 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     bool mFileChanging = false;  //!< this editor changes the template
     bool mIsStale = true;        //!< what is shown may not be what the template holds
     bool mIsMarking = false;
+    std::shared_ptr<FProblemWatch> mpProblems = FProblemWatch::get();
+    FTemplateReports* mpReports = nullptr;
     FStepJoiner mSteps;
     QTimer mPreviewTimer;
 };

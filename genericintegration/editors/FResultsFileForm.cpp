@@ -3,11 +3,11 @@
 #include "genericintegration/editors/FResultsPreview.h"
 #include "host/core/FNumber.h"
 #include "host/core/FString.h"
+#include "host/gui/base/FElidedLabel.h"
 #include "host/gui/base/FFormRow.h"
 #include "host/gui/base/FGroupBox.h"
 #include "host/gui/base/FOneUndo.h"
 #include "host/gui/base/FSpinBox.h"
-#include "host/gui/base/FStateLabel.h"
 #include "host/gui/base/FToolButton.h"
 
 #include <QApplication>
@@ -179,9 +179,7 @@ FGroupBox* FResultsFileForm::makeValues(QWidget* averageRows) {
 
 FGroupBox* FResultsFileForm::makePreview() {
     mResultsTable = new FResultsPreview;
-    mPlaceLabel = named(new FStateLabel(FStateColor::State::Secondary, this), "valuePlace", "Place of the value");
-    mPlaceLabel->setTextFormat(Qt::PlainText);
-    mPlaceLabel->setWordWrap(true);
+    mPlaceLabel = named(new FElidedLabel(FStateColor::State::Secondary, this), "valuePlace", "Place of the value");
     auto* area = new QScrollArea;
     area->setObjectName(QStringLiteral("AttributeRow"));
     area->setProperty("last", true);

@@ -2,11 +2,11 @@
 
 #include <QFrame>
 
+class FElidedLabel;
 class FFormRow;
 class FGroupBox;
 class FResultsPreview;
 class FSpinBox;
-class FStateLabel;
 class FToolButton;
 class QButtonGroup;
 class QCheckBox;
@@ -55,7 +55,7 @@ class FResultsFileForm : public QFrame {
     QComboBox* mOccurrenceCombo;
     QCheckBox* mAverageCheck;
     FResultsPreview* mResultsTable;
-    FStateLabel* mPlaceLabel;  //!< where the current value is found
+    FElidedLabel* mPlaceLabel;  //!< where the current value is found
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -6,6 +6,7 @@
 #include "host/gui/base/FToolButton.h"
 #include "host/gui/text/FTextColor.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -42,6 +43,10 @@ FResultsPreview::FResultsPreview() {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
+    // The button between the headers, which Qt gives no name.
+    for (auto* corner : findChildren<QAbstractButton*>()) {
+        corner->setAccessibleName(QStringLiteral("Select all"));
+    }
     constexpr QSize least(100, 50);
     setMinimumSize(least);
 }

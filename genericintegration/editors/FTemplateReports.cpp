@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -26,7 +28,8 @@ QString sentence(QString text) {
 
 }  // namespace
 
-FTemplateReports::FTemplateReports(QWidget* parent) : QFrame(parent), mpText(new QLabel(this)) {
+FTemplateReports::FTemplateReports(QWidget* parent)
+    : QFrame(parent), mpText(new QLabel), mpArea(new QScrollArea(this)) {
     setObjectName(QStringLiteral("templateReports"));
     setAutoFillBackground(true);
     auto* row = new QHBoxLayout(this);
@@ -37,7 +40,13 @@ FTemplateReports::FTemplateReports(QWidget* parent) : QFrame(parent), mpText(new
     mpText->setWordWrap(true);
     mpText->setTextInteractionFlags(Qt::TextBrowserInteraction);
     mpText->setTextFormat(Qt::RichText);
-    row->addWidget(mpText);
+    mpArea->setFrameStyle(0);
+    mpArea->setProperty("elides", true);  // it scrolls
+    mpArea->setFocusPolicy(Qt::NoFocus);
+    mpArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mpArea->setWidgetResizable(true);
+    mpArea->setWidget(mpText);
+    row->addWidget(mpArea);
     connect(mpText, &QLabel::linkActivated, this, &FTemplateReports::follow);
     hide();
 }
@@ -68,6 +77,20 @@ void FTemplateReports::fill() {
         lines.append(notice.toHtmlEscaped());
     }
     mpText->setText(lines.join(QStringLiteral("<br>")));
+    fit();
+}
+
+void FTemplateReports::fit() {
+    constexpr int mostLines = 4;
+    const int most = mostLines * mpText->fontMetrics().lineSpacing();
+    // The area gets its size later than this widget.
+    const int needed = mpText->heightForWidth(contentsRect().marginsRemoved(layout()->contentsMargins()).width());
+    mpArea->setFixedHeight(qMin(needed, most));
+}
+
+void FTemplateReports::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    fit();
 }
 
 QString FTemplateReports::textOf(const FSetUpProblem& problem, int number) const {
@@ -99,12 +122,13 @@ void FTemplateReports::follow(const QString& link) {
     } else {
         const auto [line, column] = placeOf(problem);
         emit placeWanted(line, column);
+        emit chosen(problem);
     }
 }
 
 void FTemplateReports::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) {
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::FontChange) {
         fill();
     }
 }

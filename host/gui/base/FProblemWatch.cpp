@@ -56,3 +56,11 @@ void FProblemWatch::check() {
                      [](const FSetUpProblem& a, const FSetUpProblem& b) { return a.severity > b.severity; });
     emit checked();
 }
+
+FSetUpCheck::Problems FProblemWatch::problemsOf(const QString& object) const {
+    FSetUpCheck::Problems own;
+    std::copy_if(mProblems.begin(), mProblems.end(), std::back_inserter(own), [&](const FSetUpProblem& problem) {
+        return problem.object == object || problem.place.startsWith(object + QLatin1Char(':'));
+    });
+    return own;
+}

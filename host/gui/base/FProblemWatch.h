@@ -18,6 +18,8 @@ class MERIX_EXPORT FProblemWatch : public QObject {
 
     /** Errors first. */
     const FSetUpCheck::Problems& problems() const { return mProblems; }
+    /** Those of one object, also those in its text. */
+    FSetUpCheck::Problems problemsOf(const QString& object) const;
     /** Checks now. */
     void check();
     /** Time between a change and the check, in milliseconds. */

@@ -3,8 +3,6 @@
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateColor.h"
 
-#include <algorithm>
-
 namespace {
 
 using Severity = FSetUpProblem::Severity;
@@ -23,8 +21,7 @@ QVariant colorOf(Severity severity) {
 
 }  // namespace
 
-FProblemModel::FProblemModel(const FExpr<FManaged>& object)
-    : mpWatch(FProblemWatch::get()), mObject(object), mIsOfAll(object.isEmpty()) {
+FProblemModel::FProblemModel() : mpWatch(FProblemWatch::get()) {
     connect(mpWatch.get(), &FProblemWatch::checked, this, &FProblemModel::take);
     take();
 }
@@ -32,13 +29,6 @@ FProblemModel::FProblemModel(const FExpr<FManaged>& object)
 void FProblemModel::take() {
     beginResetModel();
     mProblems = mpWatch->problems();
-    if (!mIsOfAll) {
-        const QString name = mObject ? mObject->getName() : QString();
-        const auto isOfOther = [&](const FSetUpProblem& problem) {
-            return problem.object != name && !problem.place.startsWith(name + QLatin1Char(':'));
-        };
-        mProblems.erase(std::remove_if(mProblems.begin(), mProblems.end(), isOfOther), mProblems.end());
-    }
     endResetModel();
     emit checked();
 }

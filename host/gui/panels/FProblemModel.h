@@ -1,20 +1,18 @@
 #pragma once
 
 #include "host/core/FExport.h"
-#include "host/core/FManaged.h"
 #include "host/gui/base/FProblemWatch.h"
 
 #include <QAbstractTableModel>
 
-/** The problems that FProblemWatch finds: all, or those of one object. */
+/** The problems that FProblemWatch finds. */
 class MERIX_EXPORT FProblemModel : public QAbstractTableModel {
     Q_OBJECT
 
  public:
     enum Column { severityColumn, objectColumn, textColumn, remedyColumn, columns };
 
-    /** @param object  whose problems are shown, also those in its text; empty for all */
-    explicit FProblemModel(const FExpr<FManaged>& object = {});
+    FProblemModel();
 
     const FSetUpProblem& problem(int row) const { return mProblems.at(row); }
 
@@ -30,7 +28,5 @@ class MERIX_EXPORT FProblemModel : public QAbstractTableModel {
     void take();
 
     std::shared_ptr<FProblemWatch> mpWatch;
-    FExpr<FManaged> mObject;
-    bool mIsOfAll;
     FSetUpCheck::Problems mProblems;
 };

@@ -537,15 +537,15 @@ TEST_F(FResultsEditorTest, aPageIsThereOnceAndGoesWithItsObject) {
 }
 
 TEST_F(FResultsEditorTest, problemsAreAboveTheText) {
-    EXPECT_FALSE(find("problemStrip")->isVisible());
+    EXPECT_FALSE(find("templateReports")->isVisible());
     ASSERT_TRUE(
         run("out.setValues([[\"a\", 0, 0, \"drag =\", First, \"FDouble\", \"\", 0, NULL],"
             "[\"b\", 0, -1, \"drag =\", First, \"FDouble\", \"\", 0, NULL]])"));
-    ASSERT_TRUE(waitUntil([this] { return find("problemStrip")->isVisible(); }));
+    ASSERT_TRUE(waitUntil([this] { return find("templateReports")->isVisible(); }));
     settle();
-    auto* list = find<QTreeView>("templateProblems");
-    EXPECT_EQ(list->model()->rowCount(), 1);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+    auto* report = find<QLabel>("templateReportText");
+    EXPECT_TRUE(report->text().contains("has the column -1"));
+    QTest::mouseClick(report, Qt::LeftButton, {}, QPoint(report->width() / 4, report->fontMetrics().height() / 2));
     settle();
     EXPECT_EQ(text(current()), "b");
     EXPECT_EQ(find<QSpinBox>("column")->value(), -1) << "it is shown as it is";

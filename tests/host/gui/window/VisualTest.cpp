@@ -53,6 +53,23 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
         }
     }
 
+    /** A result template with a suspicious number, one that is missing, a report, and all rows of its form. */
+    void showTemplate() {
+        ASSERT_TRUE(
+            run("genericIntegrationResultsFile sample() {\n"
+                ".setContent(\"total force: 1.000000E+02 12\nfrequency = 1.25D+01\nlift: none\") "
+                ".setFileName(\"beam.dat\") .setNumberSeparator(false) .setSpacesAndTabsSeparator(true)\n"
+                ".setValues([[\"force\", 0, 0, \"force:\", First, \"FDouble\", \"\", 0, NULL],"
+                "[\"f\", 0, 0, \"frequency =\", First, \"FDouble\", \"\", 0, NULL],"
+                "[\"lift\", 0, -1, \"lift:\", First, \"FFileName\", \"tecplot\", 0, NULL],"
+                "[\"drag\", 7, 3, \"drag:\", First, \"FDouble\", \"\", 0, NULL]]) }\n"
+                "beam.setFiles([sample])"));
+        window().showTemplate(object<FManaged>("sample"), 0, 0);
+        ASSERT_TRUE(waitUntil([this] { return find("templateReports")->isVisible(); }));
+        check(window(), "resultTemplate");
+        ASSERT_TRUE(run("beam.setFiles([])\ndestroy(sample)"));
+    }
+
     /** A run with a suspicious number and one that is missing, one that failed, and one in progress. */
     void showRunsAndDocuments() {
         FMerixCtrl::instance()->setProjectFile(mFolder.path("p.mrx"));
@@ -107,6 +124,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
         openPanel(QString::fromLatin1(row.id));
         check(window(), QString::fromLatin1(row.id));
     }
+    showTemplate();
     showRunsAndDocuments();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());
     texts.show();

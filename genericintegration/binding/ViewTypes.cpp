@@ -1,16 +1,21 @@
+#include "genericintegration/connector/FConnectorPage.h"
+#include "genericintegration/connector/FSetUpBuilder.h"
 #include "genericintegration/connector/FSoftConComputationItem.h"
 #include "genericintegration/connector/FSoftConExportItem.h"
 #include "genericintegration/connector/FSoftConFileNameRefItem.h"
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
+#include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
 #include "genericintegration/editors/FGenIntCommandFileEditor.h"
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
 #include "genericintegration/marking/FValueParameters.h"
+#include "genericintegration/setup/FConnectorClass.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FInitPrototype.h"
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FObjectPages.h"
+#include "host/gui/base/FSetUpAssistant.h"
 
 namespace {
 
@@ -43,6 +48,22 @@ const bool areLooksSet = [] {
                     QStringLiteral("input template"));
     FClassLook::set(QStringLiteral("FGenIntResultsFile"), QStringLiteral("result-template"), templates,
                     QStringLiteral("result template"));
+    return true;
+}();
+
+const bool hasConnectors = [] {
+    FConnectorClass::setWindowClass(FSoftwareConnector::mClass, &FSoftwareConnector::initPrototype);
+    FObjectPages::set(QStringLiteral("FSoftwareConnector"),
+                      [](FManaged& object, FNavigator& navigator) -> FObjectPage* {
+                          return new FConnectorPage(dynamic_cast<FSoftwareConnector&>(object), navigator);
+                      });
+    FClassLook::set(QStringLiteral("FSoftwareConnector"), QStringLiteral("connector"), QStringLiteral("Set-ups"),
+                    QStringLiteral("software connector"));
+    FSetUpAssistant::set([](QWidget* parent) {
+        auto* dialog = new FNewSetUpDialog(parent);
+        QObject::connect(dialog, &FNewSetUpDialog::confirmed, parent, &FSetUpBuilder::build);
+        dialog->open();
+    });
     return true;
 }();
 

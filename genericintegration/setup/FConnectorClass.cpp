@@ -5,12 +5,28 @@
 
 namespace {
 
-[[maybe_unused]] const bool isRegistered = (FConnectorInterface::registerClass(FConnectorRecord::mClass), true);
+struct Choice {
+    FClassData* data = nullptr;
+    FConnectorClass::Build build = nullptr;
+};
+
+Choice& windowClass() {
+    static Choice choice;
+    return choice;
+}
 
 }  // namespace
 
+void FConnectorClass::setWindowClass(FClassData& data, Build build) {
+    windowClass() = {&data, build};
+}
+
 const FObject* FConnectorClass::initPrototype() {
-    FCmdManager::instance()->addTable(FConnectorRecord::mClass);
+    const bool hasWindow = windowClass().build && FPrototypes::hasWindows();
+    const Choice chosen =
+        hasWindow ? windowClass() : Choice{&FConnectorRecord::mClass, &FConnectorRecord::initPrototype};
+    FConnectorInterface::registerClass(*chosen.data);
+    FCmdManager::instance()->addTable(*chosen.data);
     FEnum<SoftConItemSize>::initPrototype();
-    return FConnectorRecord::initPrototype();
+    return chosen.build();
 }

@@ -3,12 +3,9 @@
 #include "genericintegration/setup/FConnectorSetUp.h"
 #include "host/script/FCmdTable.h"
 
-/** Without a window there is no dialog: null, and a message. */
-FExpr<FString> chooseResultsFile();
-
 /**
  * The script commands of software connectors, the same for each class C of connectors. C has `create(name,
- * computation)` and `setUp()`, which returns its FConnectorSetUp.
+ * computation)`, `setUp()`, which returns its FConnectorSetUp, and `chooseResultsFile()`.
  */
 template <class C>
 void connectorCommands(FCmdTable& table) {
@@ -30,7 +27,7 @@ void connectorCommands(FCmdTable& table) {
         .method("refreshAll")
         .onPrototype()
         .systemFlag(2);
-    table.global("chooseResultsFile", &chooseResultsFile).method("chooseResultsFileCommand").systemFlag(2);
+    table.global("chooseResultsFile", &C::chooseResultsFile).method("chooseResultsFileCommand").systemFlag(2);
 }
 
 /** What the history keeps of a connector beside its plain attributes. */

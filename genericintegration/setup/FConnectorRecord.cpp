@@ -1,6 +1,7 @@
 #include "genericintegration/setup/FConnectorRecord.h"
 
 #include "genericintegration/setup/FConnectorCommands.h"
+#include "host/core/FLogMsg.h"
 
 FClassData FConnectorRecord::mClass("FSoftwareConnector", &FView::mClass, &connectorCommands<FConnectorRecord>,
                                     &connectorFields<FConnectorRecord>);
@@ -14,6 +15,13 @@ FConnectorRecord* FConnectorRecord::create(const QString& name, const FExpr<FExt
     connector->mSetUp.start(computation);
     connector->registerObject();
     return connector;
+}
+
+FExpr<FString> FConnectorRecord::chooseResultsFile() {
+    FLogMsg::info(QStringLiteral("chooseResultsFile"),
+                  QStringLiteral("a result file of another connector can be chosen only in a window"),
+                  QStringLiteral("Name it with getResults().getResultFileName() of its computation instead"));
+    return {};
 }
 
 QList<FManaged*> FConnectorRecord::getParts() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "genericintegration/setup/FConnectorSetUp.h"
+#include "host/core/FString.h"
 #include "host/core/FView.h"
 
 /**
@@ -15,6 +16,9 @@ class FConnectorRecord : public FClass<FConnectorRecord, FView>, public FConnect
     explicit FConnectorRecord(const QString& name = QString());
     /** Makes a connector in the model; see FConnectorSetUp::start for the computation. */
     static FConnectorRecord* create(const QString& name, const FExpr<FExternComputation>& computation);
+
+    /** Without a window there is no dialog: null, and a message. */
+    static FExpr<FString> chooseResultsFile();
 
     FConnectorSetUp& setUp() { return mSetUp; }
 

@@ -51,6 +51,8 @@ class MERIX_EXPORT FUserInterface {
         Q_UNUSED(object)
         return nullptr;
     }
+    /** Shows the page of an object that has one, in front of others; nothing without windows. */
+    virtual void showPage(FManaged* object) { Q_UNUSED(object) }
     /** A dialog that blocks the other windows opens, or has closed. */
     virtual void setModalDialog(bool open) { Q_UNUSED(open) }
     virtual void highlight(const QList<FExprBase>& objects) { Q_UNUSED(objects) }

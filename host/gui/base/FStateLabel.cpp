@@ -15,6 +15,11 @@ void FStateLabel::takeColor() {
     }
 }
 
+void FStateLabel::setState(FStateColor::State state) {
+    mState = state;
+    takeColor();
+}
+
 void FStateLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         takeColor();

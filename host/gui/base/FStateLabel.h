@@ -9,6 +9,7 @@
 class MERIX_EXPORT FStateLabel : public QLabel {
  public:
     FStateLabel(FStateColor::State state, QWidget* parent);
+    void setState(FStateColor::State state);
 
  protected:
     void changeEvent(QEvent* event) override;

@@ -4,6 +4,7 @@
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FSetUpAssistant.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FTablePanel.h"
@@ -174,6 +175,10 @@ std::vector<FActionRow> makeRows() {
     return {
         {"newProject", "&File", 0, "&New project", "document-new", "Ctrl+N", "Start an empty project", true, nullptr,
          [](FMainWindow& window) { window.projectFiles().create(); }},
+        {"newSetUp", "&File", 0, "New s&et-up…", "connector", "Ctrl+Shift+N",
+         "Couple a program: its sample files become templates", false,
+         [](const FSituation&) { return FSetUpAssistant::isThere(); },
+         [](FMainWindow& window) { FSetUpAssistant::open(&window); }},
         {"openProject", "&File", 0, "&Open…", "document-open", "Ctrl+O", "Open a project", true, nullptr,
          [](FMainWindow& window) { window.projectFiles().open(); }},
         {"openRecent", "&File", 0, "Open &recent", "document-open-recent", "", "Open a project that was open before",

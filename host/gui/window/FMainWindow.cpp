@@ -321,6 +321,10 @@ void FMainWindow::showFile(const Place& place) {
     }
 }
 
+void FMainWindow::showPage(FManaged* object) {
+    mpPages->open(object);
+}
+
 void FMainWindow::showTemplate(FManaged* file, int line, int column) {
     showObject(file);
     if (FObjectPage* page = mpPages->open(file)) {

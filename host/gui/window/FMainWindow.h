@@ -63,6 +63,9 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     /** Puts panels and toolbars where they are in a new installation. */
     void resetLayout();
 
+    /** Shows the page of an object, if it has one. */
+    void showPage(FManaged* object);
+
     void showObject(FManaged* object) override;
     void showEntry(FManaged* configuration, const QString& path) override;
     void showFile(const Place& place) override;

@@ -3,6 +3,7 @@
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSetUpAssistant.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FProjectFiles.h"
@@ -51,8 +52,9 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
     motto->setAlignment(Qt::AlignCenter);
 
     auto* tiles = new QHBoxLayout;
-    auto* create = new FStartTile(FIcons::get(QStringLiteral("document-new")), QStringLiteral("New project"),
-                                  QStringLiteral("Empty; add a program, its input files and its output files"), this);
+    auto* create =
+        new FStartTile(FIcons::get(QStringLiteral("document-new")), QStringLiteral("New set-up"),
+                       QStringLiteral("A program, its input files and, if you have them, its output files"), this);
     create->setObjectName(QStringLiteral("startNew"));
     auto* open = new FStartTile(FIcons::get(QStringLiteral("document-open")), QStringLiteral("Open a project"),
                                 QStringLiteral("A .mrx file; nothing is run by opening it"), this);
@@ -104,7 +106,7 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
 
     mSecondary = {motto, recentTitle};
     setColors();
-    connect(create, &FStartTile::clicked, this, [this] { mWindow.projectFiles().create(); });
+    connect(create, &FStartTile::clicked, this, [this] { FSetUpAssistant::open(&mWindow); });
     connect(open, &FStartTile::clicked, this, [this] { mWindow.projectFiles().open(); });
     auto* examples = new QMenu(this);
     for (const QString& name : FProjectFiles::getExamples()) {

@@ -83,6 +83,10 @@ QObject* FWindowUserInterface::getObjectEditor(const FExprBase& object) {
     return mWindow.panel(QStringLiteral("editor"));
 }
 
+void FWindowUserInterface::showPage(FManaged* object) {
+    mWindow.showPage(object);
+}
+
 void FWindowUserInterface::highlight(const QList<FExprBase>& objects) {
     QList<FExpr<FObject>> selected;
     for (const FExprBase& object : objects) {

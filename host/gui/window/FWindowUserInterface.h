@@ -20,6 +20,7 @@ class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
     void commitEdits() override;
     void showTexts(const QString& title, const QMap<QString, QString>& texts) override;
     QObject* getObjectEditor(const FExprBase& object) override;
+    void showPage(FManaged* object) override;
     void highlight(const QList<FExprBase>& objects) override;
     int getScreenHeight() const override;
     void setClipboardText(const QString& text) override;

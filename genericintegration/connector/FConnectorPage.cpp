@@ -1,0 +1,34 @@
+#include "genericintegration/connector/FConnectorPage.h"
+
+#include <QVBoxLayout>
+
+FConnectorPage::FConnectorPage(FSoftwareConnector& connector, FNavigator& navigator) : mConnector(&connector) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(&connector);
+    setFocusProxy(&connector);
+    connector.setNavigator(&navigator);
+    connector.show();
+}
+
+FConnectorPage::~FConnectorPage() {
+    letGo();
+}
+
+void FConnectorPage::goTo(int line, int column) {
+    Q_UNUSED(line)
+    Q_UNUSED(column)
+    if (mConnector) {
+        mConnector->gotoOverview();
+    }
+}
+
+void FConnectorPage::letGo() {
+    auto* connector = static_cast<FSoftwareConnector*>(mConnector.getStored());
+    if (connector && connector->parent() == this) {
+        connector->setNavigator(nullptr);
+        connector->hide();
+        connector->setParent(nullptr);
+    }
+    mConnector = FExpr<FSoftwareConnector>();
+}

@@ -1,0 +1,64 @@
+#include "genericintegration/connector/FSetUpBuilder.h"
+
+#include "genericintegration/connector/FSoftConScene.h"
+#include "genericintegration/connector/FSoftwareConnector.h"
+#include "genericintegration/connector/dialogs/FNewSetUp.h"
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FObjectList.h"
+#include "host/core/FString.h"
+#include "host/core/FUserStep.h"
+#include "host/design/FInputFile.h"
+#include "host/gui/base/FCommandCall.h"
+#include "host/script/FCmdManager.h"
+#include "host/script/FCmdRow.h"
+
+namespace {
+
+void set(FGenIntComputation& computation, const char* attribute, const FExprBase& value) {
+    const auto rows = FCmdManager::instance()->findMembers(computation.getClassData(), QString::fromLatin1(attribute));
+    FCommandCall::execute(*rows.front(), FExprBase(&computation), {value});
+}
+
+FGenIntComputation* addComputation(const FNewSetUp& setUp) {
+    FGenIntComputation* computation = FGenIntComputation::create(setUp.name);
+    set(*computation, "setExecutable", FExprBase(new FString(setUp.program)));
+    auto* arguments = new FObjectList;
+    for (const QString& argument : setUp.arguments) {
+        arguments->add(FExpr<FObject>(new FString(argument)));
+    }
+    set(*computation, "setArguments", FExprBase(arguments));
+    return computation;
+}
+
+void addFiles(const FNewSetUp& setUp, FSoftConScene& scene) {
+    QStringList templates;
+    QStringList copied;
+    for (const FNewSetUp::Input& input : setUp.inputs) {
+        (input.isTemplate ? templates : copied).append(input.path);
+    }
+    scene.createItems(templates, FExpr<FObject>(FGenIntCommandFile::null()), QString(), false);
+    scene.createItems(copied, FExpr<FObject>(FInputFile::null()), QString(), false);
+    scene.createItems(setUp.outputs, FExpr<FObject>(FGenIntResultsFile::null()), QString(), false);
+}
+
+}  // namespace
+
+void FSetUpBuilder::build(const FNewSetUp& setUp) {
+    FExpr<FSoftwareConnector> connector;
+    {
+        const FUserStep step(QStringLiteral("New set-up"));
+        FGenIntComputation* computation = addComputation(setUp);
+        connector = FExpr<FSoftwareConnector>(FSoftwareConnector::create(
+            computation->getName() + QStringLiteral("_connector"), FExpr<FExternComputation>(computation)));
+        connector->useLastItemSize();
+        addFiles(setUp, *connector->getScene());
+    }
+    if (connector) {
+        connector->showConnector();
+        connector->gotoFirstTemplate();
+    }
+}

@@ -1,0 +1,614 @@
+#include "genericintegration/connector/FSoftConScene.h"
+
+#include "genericintegration/connector/FConnectorExport.h"
+#include "genericintegration/connector/FConnectorHelp.h"
+#include "genericintegration/connector/FItemDialogs.h"
+#include "genericintegration/connector/FItemFactory.h"
+#include "genericintegration/connector/FSceneDrops.h"
+#include "genericintegration/connector/FSceneFurniture.h"
+#include "genericintegration/connector/FSetUpObjects.h"
+#include "genericintegration/connector/FSoftConComputationItem.h"
+#include "genericintegration/connector/FSoftConFileNameItem.h"
+#include "genericintegration/connector/FSoftConImportItem.h"
+#include "genericintegration/connector/FSoftConTemplateItem.h"
+#include "genericintegration/connector/FSoftConView.h"
+#include "genericintegration/connector/FSoftwareConnector.h"
+#include "genericintegration/connector/layout/FItemCaption.h"
+#include "genericintegration/connector/layout/FItemDifference.h"
+#include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
+#include "genericintegration/connector/layout/FSoftConListLayout.h"
+#include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "host/core/FDocuArea.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FSelectionSet.h"
+#include "host/core/FUserInterface.h"
+#include "host/core/FUserStep.h"
+#include "host/design/FEntry.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FGeometryExport.h"
+#include "host/design/FInputFile.h"
+#include "host/design/FResultsFileName.h"
+#include "host/gui/base/FHtmlToolTip.h"
+#include "host/gui/base/FIcons.h"
+#include "host/run/FPathManager.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QGraphicsSceneContextMenuEvent>
+#include <QGraphicsSceneDragDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QToolButton>
+
+namespace {
+
+constexpr int doubleClickTime = 20;  // milliseconds in which a second click may follow
+
+FSmartPtr<FSoftConLayout> layoutFor(SoftConItemSize size) {
+    switch (size) {
+        case SoftConItemSize::Large:
+            return std::make_shared<FSoftConLargeGridLayout>();
+        case SoftConItemSize::Small:
+            return std::make_shared<FSoftConListLayout>();
+        case SoftConItemSize::Medium:
+            break;
+    }
+    return std::make_shared<FSoftConMediumGridLayout>();
+}
+
+/** All objects that items stand for, with the types of the values of entries. */
+struct Objects {
+    QList<FExpr<FObject>> handles{};
+    QVector<FItemDifference::Row> rows{};
+
+    void add(FObject* object, const FObject* valueType) {
+        handles.append(FExpr<FObject>(object));
+        rows.append({object, valueType});
+    }
+};
+
+Objects objectsOf(const FExpr<FExternComputation>& computation) {
+    Objects objects;
+    objects.add(computation.ptr(), nullptr);
+    const FSetUpObjects setUp(computation);
+    if (const FConfigurationGenInt* configuration = setUp.configuration()) {
+        for (const FObject* type :
+             {static_cast<const FObject*>(FGeometryExport::null()), static_cast<const FObject*>(FInputFile::null()),
+              static_cast<const FObject*>(FResultsFileName::null())}) {
+            for (const FExpr<FEntry>& entry : configuration->getEntry(type, true)) {
+                objects.add(entry.ptr(), type);
+            }
+        }
+    }
+    if (const FDefinitionGenInt* definition = setUp.definition()) {
+        for (const FExpr<FGenIntFile>& file : definition->getFiles()) {
+            if (file) {
+                objects.add(file.ptr(), nullptr);
+            }
+        }
+    }
+    return objects;
+}
+
+QVector<FItemDifference::Row> rowsOf(const QList<FSoftConObjectItem*>& items) {
+    QVector<FItemDifference::Row> rows;
+    for (const FSoftConObjectItem* item : items) {
+        rows.append({item->getObject().getStored(), FItemFactory::valueTypeOf(*item)});
+    }
+    return rows;
+}
+
+template <class Item>
+Item* ownerOf(QGraphicsItem* item) {
+    for (; item; item = item->parentItem()) {
+        if (auto* found = dynamic_cast<Item*>(item)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+FSoftConScene::FSoftConScene(FSoftwareConnector& connector)
+    : QGraphicsScene(&connector), mConnector(connector), mpFurniture(new FSceneFurniture(*this)), mHints(*this) {
+    mSelectTimer.setSingleShot(true);
+    mSelectTimer.setInterval(doubleClickTime);
+    connect(&mSelectTimer, &QTimer::timeout, this, &FSoftConScene::selectItem);
+    connectFurniture();
+}
+
+FSoftConScene::~FSoftConScene() {
+    clearItems();
+}
+
+void FSoftConScene::connectFurniture() {
+    connect(mpFurniture, &FSceneFurniture::addRequested, this, &FSoftConScene::add);
+    connect(mpFurniture, &FSceneFurniture::docuRequested, this, &FSoftConScene::showDocu);
+    connect(mpFurniture, &FSceneFurniture::scanToggled, &mConnector, &FSoftwareConnector::scanForResults);
+    connect(mpFurniture, &FSceneFurniture::connectRequested, &mConnector, &FSoftwareConnector::connectOtherConnector);
+}
+
+FExpr<FExternComputation> FSoftConScene::getComputation() const {
+    return mConnector.getComputation();
+}
+
+QList<FSoftConObjectItem*> FSoftConScene::objectItems() const {
+    QList<FSoftConObjectItem*> found;
+    for (QGraphicsItem* item : items(Qt::AscendingOrder)) {
+        if (auto* object = dynamic_cast<FSoftConObjectItem*>(item)) {
+            found.append(object);
+        }
+    }
+    return found;
+}
+
+// ---- following the objects ----
+
+void FSoftConScene::doUpdate() {
+    const FExpr<FExternComputation> computation = getComputation();
+    if (!computation || mIsUpdating) {
+        return;
+    }
+    const QScopedValueRollback<bool> updating(mIsUpdating, true);
+    const QList<FSoftConObjectItem*> shown = objectItems();
+    const Objects objects = objectsOf(computation);
+    const FItemDifference difference(objects.rows, rowsOf(shown));
+    for (const int place : difference.itemsToRemove()) {
+        FSoftConObjectItem* item = shown[place];
+        const FExpr<FGenIntFile> file(item->getObject());
+        if (file) {
+            emit removeViewerTab(file);
+        }
+        removeObjectItem(item);
+    }
+    for (const int place : difference.objectsToAdd()) {
+        const FExpr<FGenIntFile> file(objects.handles[place]);
+        if (file) {
+            emit addViewerTab(file);
+        }
+        makeItem(nullptr, objects.handles[place], QString(), QString());
+    }
+    if (!difference.itemsToRemove().isEmpty() || !difference.objectsToAdd().isEmpty()) {
+        calcItemRatios();
+    }
+}
+
+void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
+    removeItem(item);
+    item->release();
+    calcItemRatios();
+}
+
+void FSoftConScene::clearItems() {
+    mSelectTimer.stop();
+    mSelectedObject = FExpr<FObject>();
+    for (FSoftConObjectItem* item : objectItems()) {
+        removeObjectItem(item);
+    }
+}
+
+void FSoftConScene::refreshEntryItems() {
+    for (FSoftConObjectItem* item : objectItems()) {
+        if (dynamic_cast<FSoftConEntryItem*>(item)) {
+            item->setOutOfDate(true);
+        }
+    }
+}
+
+void FSoftConScene::updateInputFileItems() {
+    for (FSoftConObjectItem* item : objectItems()) {
+        if (dynamic_cast<FSoftConFileNameItem*>(item)) {
+            item->updateItem();
+        }
+    }
+}
+
+void FSoftConScene::updateItems(int index) {
+    mConnector.setOverviewChecked(index == 0);
+    for (FSoftConObjectItem* item : index == 0 ? objectItems() : QList<FSoftConObjectItem*>()) {
+        if (dynamic_cast<FSoftConTemplateItem*>(item)) {
+            item->updateItem();
+        }
+    }
+}
+
+// ---- layout ----
+
+SoftConArea FSoftConScene::getArea(const QPointF& point) const {
+    return mGeometry ? mGeometry->areaAt(point) : SoftConNoArea;
+}
+
+void FSoftConScene::calcItemRatios() {
+    mRedrawRequired = true;
+    mRedraw.request();
+}
+
+void FSoftConScene::redraw() {
+    if (!mRedrawRequired || FMerixCtrl::instance()->isLoadingProject() || !mLayout) {
+        return;
+    }
+    mRedrawRequired = false;
+    constexpr int margin = 10;
+    layOut(mConnector.getView()->rect().adjusted(0, 0, -margin, -margin));
+}
+
+void FSoftConScene::layOut(const QRect& view) {
+    constexpr double barHeight = 20;  // of a scroll bar that was never shown, less a margin
+    constexpr int gap = 10;
+    const QList<FSoftConObjectItem*> shown = objectItems();
+    mLayoutItems.clear();
+    for (const FSoftConObjectItem* item : shown) {
+        mLayoutItems.push_back(item->toLayoutItem());
+    }
+    QList<FLayoutItem*> placed;
+    for (FLayoutItem& item : mLayoutItems) {
+        if (item.area == SoftConComputationArea) {
+            mLayout->placeCentreItem(item);
+        }
+        placed.append(&item);
+    }
+    mLayout->calcItemRatios(placed);
+    QRectF scene = sceneRect();
+    QRectF area;
+    mLayout->calcSceneRect(view, barHeight, mpFurniture->titleBarHeight(), gap, gap, scene, area);
+    for (int number = 0; number < shown.size(); ++number) {
+        shown[number]->applyLayout(mLayoutItems[static_cast<std::size_t>(number)]);
+    }
+    mGeometry.emplace(area, mpFurniture->sizes(mComputationItemSize.width()));
+    mpFurniture->place(*mGeometry);
+    mHints.place(*mGeometry, mpFurniture->titleBarHeight());
+    updateHints();
+    setSceneRect(scene);
+}
+
+void FSoftConScene::updateHints() {
+    std::array<bool, filledAreas> isFilled{};
+    for (const FLayoutItem& item : mLayoutItems) {
+        if (item.area < filledAreas) {
+            isFilled[static_cast<std::size_t>(item.area)] = true;
+        }
+    }
+    for (int area = 0; area < filledAreas; ++area) {
+        mHints.show(static_cast<SoftConArea>(area), !isFilled[static_cast<std::size_t>(area)]);
+    }
+}
+
+void FSoftConScene::setItemSize(SoftConItemSize size) {
+    const FSmartPtr<FSoftConLayout> layout = layoutFor(size);
+    if (mLayout && mLayout->getSizeName() == layout->getSizeName()) {
+        return;
+    }
+    mLayout = layout;
+    for (FSoftConObjectItem* item : objectItems()) {
+        if (auto* file = dynamic_cast<FSoftConTemplateItem*>(item)) {
+            file->setPreviewOutOfDate();
+        }
+        item->updateItem();
+    }
+    calcItemRatios();
+}
+
+QString FSoftConScene::currentSizeName() const {
+    return mLayout ? mLayout->getSizeName() : QString();
+}
+
+void FSoftConScene::resizeItem(QAction* pAction) {
+    pAction->setChecked(true);
+    mConnector.setItemSizeStr(pAction->text());
+}
+
+// ---- selection ----
+
+void FSoftConScene::callEditor(const FSoftConObjectItem* item) {
+    mSelectedObject = item->getEditorObject();
+    mSelectTimer.start();
+}
+
+void FSoftConScene::selectItem() {
+    const FExpr<FObject> wanted = std::exchange(mSelectedObject, FExpr<FObject>());
+    FSelectionSet* selection = FSelectionSet::instance();
+    if (wanted && !(selection->count() == 1 && selection->contains(wanted.ptr()))) {
+        selection->set({wanted}, false);
+    }
+}
+
+void FSoftConScene::gotoTab(const FExpr<FGenIntFile>& file) {
+    mSelectTimer.stop();
+    emit gotoViewerTab(file);
+}
+
+void FSoftConScene::triggerAddTab(const FExpr<FGenIntFile>& file) {
+    emit addViewerTab(file);
+}
+
+void FSoftConScene::setTabName(const FExpr<FGenIntFile>& file) {
+    mConnector.renameTab(file);
+}
+
+// ---- removing ----
+
+void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
+    if (!item) {
+        return;
+    }
+    const FUserStep step(QStringLiteral("software connector: delete item"));
+    const FExpr<FObject> object = item->getObject();
+    const FExpr<FGenIntFile> file(object);
+    FDefinitionGenInt* definition = FSetUpObjects(getComputation()).definition();
+    if (file) {
+        mConnector.removeOldTab(file);
+        if (definition && dynamic_cast<const FGenIntCommandFile*>(file.ptr())) {
+            removeUnusedEntries(file, *definition);
+        }
+    } else if (definition) {
+        removeTags(object.getStored(), *definition);
+    }
+    if (mSelectedObject == object) {
+        mSelectedObject = FExpr<FObject>();
+    }
+    removeItem(item);
+    item->removeObject();
+    item->release();
+    calcItemRatios();
+}
+
+// The file refers to nothing any more before the references of the others are looked for.
+void FSoftConScene::removeUnusedEntries(const FExpr<FGenIntFile>& file, FDefinitionGenInt& definition) {
+    auto* input = dynamic_cast<FGenIntCommandFile*>(file.ptr());
+    QList<FExpr<FEntryBase>> entries;
+    for (const QString& name : input->getEntryNames()) {
+        if (FEntryBase* entry = definition.getEntryOfScope(name)) {
+            entries.append(FExpr<FEntryBase>(entry));
+        }
+    }
+    input->setContent(QString());
+    bool isAnyRemoved = false;
+    for (const FExpr<FEntryBase>& entry : qAsConst(entries)) {
+        if (!definition.commandFileReferencesEntry(entry)) {
+            isAnyRemoved = definition.findAndRemoveEntry(entry) || isAnyRemoved;
+        }
+    }
+    if (isAnyRemoved) {
+        definition.reinitConfigurations(false);
+        FUserInterface::instance()->reinitializeEditor(true);
+    }
+}
+
+void FSoftConScene::removeTags(const FObject* entry, FDefinitionGenInt& definition) {
+    const auto* removed = dynamic_cast<const FEntry*>(entry);
+    const FExpr<FEntryDef> entryDefinition = removed ? removed->getDefinition() : FExpr<FEntryDef>();
+    if (entryDefinition) {
+        definition.removeEntryFromCommandFiles(FExpr<FEntryBase>(entryDefinition));
+        mConnector.refreshCommandFileEditors();
+    }
+}
+
+// ---- the computation ----
+
+void FSoftConScene::runComputation() {
+    if (const FExpr<FExternComputation> computation = getComputation()) {
+        computation->guiRun();
+    }
+}
+
+void FSoftConScene::readResults() {
+    if (const FExpr<FExternComputation> computation = getComputation()) {
+        computation->rereadResults();
+    }
+}
+
+void FSoftConScene::showOutputFilesPreview() {
+    if (FConfigurationGenInt* configuration = FSetUpObjects(getComputation()).configuration()) {
+        configuration->preview();
+    }
+}
+
+// ---- help and menu ----
+
+void FSoftConScene::showDocu(QString area) {
+    const QString text = FConnectorHelp::section(
+        mConnector.getPrototype()->getDocuString(static_cast<int>(FDocuArea::Description)), area);
+    if (!text.isEmpty()) {
+        FHtmlToolTip::show(text, &mConnector);
+    }
+}
+
+void FSoftConScene::addSizeActions(QMenu& menu, QActionGroup& group) {
+    for (const char* size : {"Large", "Medium", "Small"}) {
+        const QString text = QString::fromLatin1(size);
+        QAction* action = menu.addAction(QIcon(QStringLiteral(":/softConItemSize_") + text), text);
+        action->setCheckable(true);
+        action->setChecked(text == mConnector.getItemSizeStr());
+        group.addAction(action);
+    }
+    connect(&group, &QActionGroup::triggered, this, &FSoftConScene::resizeItem);
+}
+
+void FSoftConScene::contextMenuEvent(QGraphicsSceneContextMenuEvent* event) {
+    QGraphicsItem* under = itemUnder(event->scenePos());
+    if (ownerOf<FSoftConComputationItem>(under)) {
+        event->ignore();
+        QGraphicsScene::contextMenuEvent(event);
+        return;
+    }
+    auto* menu = new QMenu(&mConnector);
+    menu->setObjectName(QStringLiteral("connectorMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const SoftConArea area = getArea(event->scenePos());
+    if (area < filledAreas) {
+        menu->addAction(FIcons::get(QStringLiteral("list-add")),
+                        QStringLiteral("Add %1").arg(FSceneFurniture::labels()[static_cast<std::size_t>(area)]), this,
+                        [this, area] { add(area); });
+    }
+    menu->addSeparator();
+    addSizeActions(*menu, *new QActionGroup(menu));
+    if (auto* item = ownerOf<FSoftwareConnectorItem>(under)) {
+        menu->addAction(FIcons::get(QStringLiteral("edit-copy")), QStringLiteral("Copy File Name"), item,
+                        &FSoftwareConnectorItem::copyFileName);
+    }
+    menu->popup(event->screenPos());
+}
+
+QGraphicsItem* FSoftConScene::itemUnder(const QPointF& point) const {
+    for (QGraphicsItem* item : items(point)) {
+        if (ownerOf<FSoftwareConnectorItem>(item)) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+// ---- adding ----
+
+void FSoftConScene::add(SoftConArea area) {
+    switch (area) {
+        case SoftConInputArea:
+            addInput();
+            break;
+        case SoftConExportArea:
+            addExport();
+            break;
+        case SoftConOutputArea:
+            addOutput();
+            break;
+        case SoftConImportArea:
+            addImport();
+            break;
+        default:
+            break;
+    }
+}
+
+void FSoftConScene::addInput() {
+    FItemDialogs(mConnector, *this).addInput();
+}
+
+void FSoftConScene::addOutput() {
+    FItemDialogs(mConnector, *this).addOutput();
+}
+
+void FSoftConScene::addImport() {
+    FItemDialogs(mConnector, *this).addImport();
+}
+
+void FSoftConScene::addExport() {
+    createItem(nullptr, FExpr<FObject>(new FObjectList), QString(), QString());
+}
+
+void FSoftConScene::addFile() {
+    createItem(nullptr, FExpr<FObject>(FInputFile::null()), QString(), QString());
+}
+
+FSoftConObjectItem* FSoftConScene::makeItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
+                                            const QString& relativePath) {
+    FSoftConObjectItem* item = FItemFactory::make(*this, parent, object, path, relativePath);
+    if (item) {
+        item->updateItem();
+        item->doUpdate();
+        calcItemRatios();
+    }
+    return item;
+}
+
+// Its object is in the model before the scene is updated, so that it gets no second item.
+FSoftConObjectItem* FSoftConScene::createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
+                                              const QString& relativePath) {
+    return makeItem(parent, object, path, relativePath);
+}
+
+void FSoftConScene::createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base,
+                                bool keepFolders) {
+    createItems(FItemRequests::ofPaths(paths, type, base, keepFolders));
+}
+
+void FSoftConScene::createItems(const FItemRequests::List& requests) {
+    const auto isTemplate = [](const FExpr<FObject>& type) {
+        return dynamic_cast<const FGenIntFile*>(type.getStored()) != nullptr;
+    };
+    FItemRequests::createItems(requests, isTemplate, [this](const FSoftConItemStructure& request) {
+        makeItem(nullptr, request.mType, request.mPath, request.mRelativePath);
+    });
+}
+
+bool FSoftConScene::containsImport(const QString& path) const {
+    const QString name = FItemCaption::lastPart(path);
+    const QList<FSoftConObjectItem*> shown = objectItems();
+    return std::any_of(shown.begin(), shown.end(), [&name](const FSoftConObjectItem* item) {
+        const auto* entry = dynamic_cast<const FSoftConImportItem*>(item)
+                                ? dynamic_cast<const FEntry*>(item->getObject().ptr())
+                                : nullptr;
+        const auto* value = entry ? dynamic_cast<const FResultsFileName*>(entry->getValue().getStored()) : nullptr;
+        return value && value->getFileNameText() == name;
+    });
+}
+
+void FSoftConScene::scanForResults(const QDateTime& since) {
+    const FExpr<FExternComputation> computation = getComputation();
+    FPathManager* paths = FPathManager::instance();
+    if (!mpFurniture->scanButton()->isChecked() || !computation || !paths->hasRoot()) {
+        return;
+    }
+    const QString folder = paths->getResultsDir({}, {}) + QLatin1Char('/') + computation->getName() + QLatin1Char('/');
+    const FItemRequests::List found =
+        FItemRequests::ofResults(folder, since, [this](const QString& path) { return containsImport(path); });
+    if (!found.isEmpty()) {
+        const FUserStep step(QStringLiteral("Add result files"));
+        createItems(found);
+    }
+}
+
+// ---- drag and drop ----
+
+FExpr<FObjectList> FSoftConScene::extractFObjectMimeData(const QGraphicsSceneDragDropEvent* event) const {
+    return FSceneDrops::objects(*event->mimeData());
+}
+
+void FSoftConScene::dragEnterEvent(QGraphicsSceneDragDropEvent* event) {
+    event->acceptProposedAction();
+    QGraphicsScene::dragEnterEvent(event);
+}
+
+void FSoftConScene::dragMoveEvent(QGraphicsSceneDragDropEvent* event) {
+    const SoftConArea area = getArea(event->scenePos());
+    const bool isTaken = area == SoftConExportArea
+                             ? !itemUnder(event->scenePos()) && extractFObjectMimeData(event)->count() > 0
+                             : FSceneDrops::hasFiles(*event->mimeData(), area);
+    if (isTaken) {
+        event->acceptProposedAction();
+    } else {
+        QGraphicsScene::dragMoveEvent(event);
+    }
+}
+
+void FSoftConScene::dropEvent(QGraphicsSceneDragDropEvent* event) {
+    const SoftConArea area = getArea(event->scenePos());
+    if (area != SoftConExportArea) {
+        static const QHash<int, QString> labels{{SoftConInputArea, QStringLiteral("Add input files")},
+                                                {SoftConOutputArea, QStringLiteral("Add output templates")},
+                                                {SoftConImportArea, QStringLiteral("Add result files")}};
+        const FItemRequests::List dropped = FSceneDrops::files(*event->mimeData(), area);
+        if (!dropped.isEmpty()) {
+            const FUserStep step(labels.value(area));
+            createItems(dropped);
+        }
+        event->acceptProposedAction();
+    } else if (itemUnder(event->scenePos())) {
+        QGraphicsScene::dropEvent(event);
+    } else if (const FExpr<FObjectList> list = extractFObjectMimeData(event); list->count() > 0) {
+        createItem(nullptr, FExpr<FObject>(list), QString(), QString());
+        event->acceptProposedAction();
+    }
+}
+
+void FSoftConScene::exportIntegration() {
+    const FExpr<FExternComputation> computation = getComputation();
+    if (const auto* ofIntegration = dynamic_cast<const FGenIntComputation*>(computation.ptr())) {
+        FConnectorExport::run(*ofIntegration, &mConnector);
+    }
+}

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "genericintegration/connector/FAreaHints.h"
+#include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/layout/FItemRequests.h"
+#include "genericintegration/connector/layout/FLayoutItem.h"
+#include "genericintegration/connector/layout/FSoftConLayout.h"
+#include "genericintegration/setup/SoftConItemSize.h"
+#include "host/core/FQueuedCall.h"
+
+#include <QGraphicsScene>
+#include <QTimer>
+
+#include <optional>
+#include <vector>
+
+class FDefinitionGenInt;
+class FSceneFurniture;
+class FSoftwareConnector;
+class FSoftwareConnectorItem;
+class QAction;
+class QActionGroup;
+class QMenu;
+
+/**
+ * The scene of a connector: the computation in the centre, its inputs above, its outputs below. It follows the objects
+ * of the set-up: each has an item. What a user does to an item is done to its object.
+ *
+ * Changes only note that the scene must be laid out; that happens once, at the next paint or in the event loop.
+ */
+class FSoftConScene : public QGraphicsScene, public FItemScene {
+    Q_OBJECT
+
+ public:
+    /** @param connector  owns the scene */
+    explicit FSoftConScene(FSoftwareConnector& connector);
+    ~FSoftConScene() override;
+
+    /** Brings the items in line with the objects. */
+    void doUpdate();
+    void setItemSize(SoftConItemSize size);
+    void setRedrawRequired(bool isRequired) { mRedrawRequired = isRequired; }
+    /** The area at a point; the last value for none. */
+    SoftConArea getArea(const QPointF& point) const;
+    void refreshEntryItems();
+    void updateInputFileItems();
+    /** Removes all items at once; the connector has left the model. */
+    void clearItems();
+
+    /** The items that stand for objects, in the order of their creation. */
+    QList<FSoftConObjectItem*> objectItems() const;
+
+    /** Makes items for files, within the limits for a batch. Call it in a step. */
+    void createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base, bool keepFolders);
+    void createItems(const FItemRequests::List& requests);
+    /** Makes items for result files that were written after a time, if the scan is on. */
+    void scanForResults(const QDateTime& since);
+    /** Whether an item shows a result file of exactly the name that the path ends in. */
+    bool containsImport(const QString& path) const;
+
+    // ---- FItemScene ----
+    QGraphicsScene* asGraphicsScene() override { return this; }
+    FSoftConLayout* getLayout() const override { return mLayout.get(); }
+    FExpr<FExternComputation> getComputation() const override;
+    void setComputationItemSize(const QSizeF& size) override { mComputationItemSize = size; }
+    const QSizeF& getComputationItemSize() const { return mComputationItemSize; }
+    void callEditor(const FSoftConObjectItem* item) override;
+    void gotoTab(const FExpr<FGenIntFile>& file) override;
+    void triggerAddTab(const FExpr<FGenIntFile>& file) override;
+    void setTabName(const FExpr<FGenIntFile>& file) override;
+    FSoftConObjectItem* createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
+                                   const QString& relativePath) override;
+    void deleteItem(FSoftConObjectItem* item) override;
+    FExpr<FObjectList> extractFObjectMimeData(const QGraphicsSceneDragDropEvent* event) const override;
+    void calcItemRatios() override;
+    void runComputation() override;
+    void readResults() override;
+    void showOutputFilesPreview() override;
+    void exportIntegration() override;
+
+ public slots:
+    void selectItem();
+    void updateItems(int index);
+    void addInput();
+    void addOutput();
+    void addExport();
+    void addFile();
+    void addImport();
+    void showDocu(QString area);
+    void redraw() override;
+    void resizeItem(QAction* pAction);
+
+ signals:
+    void addViewerTab(FExpr<FGenIntFile> pFile);
+    void removeViewerTab(FExpr<FGenIntFile> pFile);
+    void gotoViewerTab(FExpr<FGenIntFile> pFile);
+
+ protected:
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
+    void dragEnterEvent(QGraphicsSceneDragDropEvent* event) override;
+    void dragMoveEvent(QGraphicsSceneDragDropEvent* event) override;
+    void dropEvent(QGraphicsSceneDragDropEvent* event) override;
+
+ private:
+    void connectFurniture();
+    void add(SoftConArea area);
+    FSoftConObjectItem* makeItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
+                                 const QString& relativePath);
+    void removeObjectItem(FSoftConObjectItem* item);
+    void removeUnusedEntries(const FExpr<FGenIntFile>& file, FDefinitionGenInt& definition);
+    void removeTags(const FObject* entry, FDefinitionGenInt& definition);
+    /** The topmost item at a point that a user can act on: no panel and no hint. */
+    QGraphicsItem* itemUnder(const QPointF& point) const;
+    void layOut(const QRect& view);
+    void updateHints();
+    QString currentSizeName() const;
+    void addSizeActions(QMenu& menu, QActionGroup& group);
+
+    FSoftwareConnector& mConnector;
+    FSceneFurniture* mpFurniture;
+    FAreaHints mHints;
+    FSmartPtr<FSoftConLayout> mLayout;
+    std::optional<FSceneGeometry> mGeometry;
+    std::vector<FLayoutItem> mLayoutItems;
+    QSizeF mComputationItemSize{100, 100};
+    FExpr<FObject> mSelectedObject;  //!< waits to be selected, since a double click may follow
+    QTimer mSelectTimer;
+    bool mRedrawRequired = false;
+    bool mIsUpdating = false;
+    FQueuedCall mRedraw{[this] { redraw(); }};
+};

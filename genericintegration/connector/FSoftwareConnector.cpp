@@ -1,0 +1,444 @@
+#include "genericintegration/connector/FSoftwareConnector.h"
+
+#include "genericintegration/connector/FConnectorHelp.h"
+#include "genericintegration/connector/FSoftConObjectItem.h"
+#include "genericintegration/connector/FSoftConScene.h"
+#include "genericintegration/connector/FSoftConView.h"
+#include "genericintegration/connector/dialogs/FSoftConConnectConnectorDialog.h"
+#include "genericintegration/connector/dialogs/FSoftConTabBar.h"
+#include "genericintegration/connector/layout/FLinkText.h"
+#include "genericintegration/editors/FGenIntCommandFileEditor.h"
+#include "genericintegration/setup/FConfigurationGenInt.h"
+#include "genericintegration/setup/FConnectorCommands.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntCompSignalRapper.h"
+#include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/templates/FGenIntCommandFile.h"
+#include "host/core/FBool.h"
+#include "host/core/FDocuArea.h"
+#include "host/core/FHistory.h"
+#include "host/core/FIO.h"
+#include "host/core/FImmediateUpdateBlocker.h"
+#include "host/core/FIni.h"
+#include "host/core/FModel.h"
+#include "host/core/FSelectionSet.h"
+#include "host/core/FUserInterface.h"
+#include "host/core/FUserStep.h"
+#include "host/design/FEntry.h"
+#include "host/design/FEntryDef.h"
+#include "host/design/FInputFile.h"
+#include "host/gui/base/FObjectPage.h"
+#include "host/gui/base/FObjectPages.h"
+#include "host/gui/fields/FScriptText.h"
+#include "host/run/FResultsOutOfDateBlocker.h"
+
+#include <QGraphicsItem>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+struct Size {
+    SoftConItemSize size;
+    const char* text;
+};
+
+constexpr Size sizes[] = {
+    {SoftConItemSize::Large, "Large"}, {SoftConItemSize::Medium, "Medium"}, {SoftConItemSize::Small, "Small"}};
+
+const QString& sizeKey() {
+    static const QString key = QStringLiteral("SoftwareConnector/lastItemSize");
+    return key;
+}
+
+}  // namespace
+
+FClassData FSoftwareConnector::mClass("FSoftwareConnector", &FSoftConBase::mClass,
+                                      &connectorCommands<FSoftwareConnector>, &connectorFields<FSoftwareConnector>);
+
+const FObject* FSoftwareConnector::initPrototype() {
+    const FObject* prototype = FClass::initPrototype();
+    prototype->addDocu(FConnectorHelp::text(), static_cast<int>(FDocuArea::Help));
+    return prototype;
+}
+
+FSoftwareConnector::FSoftwareConnector(const QString& name) : FClass(name), mSetUp(*this) {
+    if (!isInitializingPrototype()) {
+        init();
+        setImediateUpdate(true);
+    }
+}
+
+// Before the parts of this object that they refer to.
+FSoftwareConnector::~FSoftwareConnector() {
+    setNavigator(nullptr);
+    delete mView;
+}
+
+FSoftwareConnector* FSoftwareConnector::create(const QString& name, const FExpr<FExternComputation>& computation) {
+    auto* connector = new FSoftwareConnector(name);
+    connector->mSetUp.start(computation);
+    connector->registerObject();
+    return connector;
+}
+
+void FSoftwareConnector::init() {
+    setObjectName(QStringLiteral("softCon"));
+    auto* bar = new FSoftConTabBar(this);
+    bar->setObjectName(QStringLiteral("softConTabBar"));
+    setTabBar(bar);
+    setTabsClosable(true);
+    setDocumentMode(true);
+    connect(this, &QTabWidget::tabCloseRequested, this, &FSoftwareConnector::closeTab);
+    mView = new FSoftConView;
+    mpScene = new FSoftConScene(*this);
+    mpScene->setParent(mView);
+    mView->setScene(mpScene);
+    mView->setAcceptDrops(true);
+    connect(mpScene, &FSoftConScene::addViewerTab, this, &FSoftwareConnector::addNewTab);
+    connect(mpScene, &FSoftConScene::removeViewerTab, this, &FSoftwareConnector::removeOldTab);
+    connect(mpScene, &FSoftConScene::gotoViewerTab, this, &FSoftwareConnector::gotoTab);
+    mOverviewButton = new QPushButton(QIcon(QStringLiteral(":/softConOverview")), QStringLiteral("Overview"), this);
+    mOverviewButton->setObjectName(QStringLiteral("ButtonOverview"));
+    mOverviewButton->setFlat(true);
+    mOverviewButton->setCheckable(true);
+    mOverviewButton->setChecked(true);
+    connect(mOverviewButton, &QPushButton::clicked, this, &FSoftwareConnector::gotoOverview);
+    setCornerWidget(mOverviewButton, Qt::TopLeftCorner);
+    addTab(mView, QStringLiteral("Overview"));
+    // Nobody could open it again.
+    bar->setTabButton(0, QTabBar::RightSide, nullptr);
+    bar->setTabButton(0, QTabBar::LeftSide, nullptr);
+    setMinimumSize(10, 10);
+    connect(bar, &QTabBar::currentChanged, this, &FSoftwareConnector::gotFocus);
+    connect(bar, &FSoftConTabBar::clicked, this, &FSoftwareConnector::gotFocus);
+    connect(this, &QTabWidget::currentChanged, mpScene, &FSoftConScene::updateItems);
+    mpScene->setItemSize(mSetUp.mItemSize);
+    mpScene->setRedrawRequired(true);
+}
+
+// ---- the object ----
+
+QList<FManaged*> FSoftwareConnector::getParts() const {
+    FManaged* computation = mSetUp.mComputation.ptr();
+    return computation ? QList<FManaged*>{computation} : QList<FManaged*>();
+}
+
+bool FSoftwareConnector::doUpdate() const {
+    if (mView && isInModel()) {
+        const_cast<FSoftwareConnector*>(this)->follow();
+    }
+    return FManaged::doUpdate();
+}
+
+void FSoftwareConnector::follow() {
+    const FResultsOutOfDateBlocker blocker;
+    mSetUp.follow();
+    listenToRuns();
+    mpScene->setItemSize(mSetUp.mItemSize);
+    mpScene->doUpdate();
+}
+
+void FSoftwareConnector::listenToRuns() {
+    const auto* computation = dynamic_cast<const FGenIntComputation*>(mSetUp.mComputation.ptr());
+    const FGenIntCompSignalRapper* runs = computation ? computation->getSignalRapper() : nullptr;
+    if (runs == mRuns) {
+        return;
+    }
+    if (mRuns) {
+        disconnect(mRuns, nullptr, this, nullptr);
+    }
+    mRuns = runs;
+    if (runs) {
+        connect(runs, &FGenIntCompSignalRapper::genIntRunStarted, this, &FSoftwareConnector::prepareToScanForResults);
+        connect(runs, &FGenIntCompSignalRapper::genIntRunEnded, this, &FSoftwareConnector::scanForResults);
+    }
+}
+
+void FSoftwareConnector::leaveModel() {
+    if (mView) {
+        if (mRuns) {
+            disconnect(mRuns, nullptr, this, nullptr);
+            mRuns = nullptr;
+        }
+        mpScene->clearItems();
+        setNavigator(nullptr);
+        hide();
+        setParent(nullptr);
+    }
+    mSetUp.destroyAll();
+    FSoftConBase::leaveModel();
+}
+
+void FSoftwareConnector::enterModel() {
+    FSoftConBase::enterModel();
+    setOutOfDate(true);
+}
+
+void FSoftwareConnector::setItemSizeStr(const QString& text) {
+    const auto* found = std::find_if(std::begin(sizes), std::end(sizes),
+                                     [&](const Size& size) { return text == QLatin1String(size.text); });
+    if (found == std::end(sizes)) {
+        return;
+    }
+    {
+        const FUserStep step(QStringLiteral("Set item size"));
+        FHistory::instance()->record(this);
+        mSetUp.mItemSize = found->size;
+        setOutOfDate(true);
+    }
+    FIni().setValue(sizeKey(), static_cast<int>(found->size));
+}
+
+QString FSoftwareConnector::getItemSizeStr() const {
+    const auto* found = std::find_if(std::begin(sizes), std::end(sizes),
+                                     [this](const Size& size) { return size.size == mSetUp.mItemSize; });
+    return QString::fromLatin1(found == std::end(sizes) ? "Large" : found->text);
+}
+
+void FSoftwareConnector::useLastItemSize() {
+    const QVariant stored = FIni().value(sizeKey());
+    const auto* found = std::find_if(std::begin(sizes), std::end(sizes), [&stored](const Size& size) {
+        return stored.isValid() && stored.toInt() == static_cast<int>(size.size);
+    });
+    if (found != std::end(sizes)) {
+        FHistory::instance()->record(this);
+        mSetUp.mItemSize = found->size;
+        setOutOfDate(true);
+    }
+}
+
+void FSoftwareConnector::setResultsPath(const QString& path) {
+    FHistory::instance()->record(this);
+    mSetUp.mResultsPath = path;
+}
+
+// ---- tabs ----
+
+void FSoftwareConnector::setNavigator(FNavigator* navigator) {
+    mpNavigator = navigator;
+    while (!navigator && mView && count() > 1) {
+        removePage(1);
+    }
+    if (navigator) {
+        addMissingTabs();
+    }
+}
+
+void FSoftwareConnector::addMissingTabs() {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
+    for (const FExpr<FGenIntFile>& file : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+        if (file && tabOf(file.ptr()) < 0) {
+            addNewTab(file);
+        }
+    }
+}
+
+FObjectPage* FSoftwareConnector::pageAt(int index) const {
+    return dynamic_cast<FObjectPage*>(widget(index));
+}
+
+int FSoftwareConnector::tabOf(const FManaged* file) const {
+    for (int index = 1; index < count(); ++index) {
+        if (widget(index)->property("file").toInt() == file->getDbId()) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+int FSoftwareConnector::addNewTab(FExpr<FGenIntFile> pFile) {
+    if (!pFile || !mpNavigator || !FObjectPages::has(pFile.ptr())) {
+        return 0;
+    }
+    FObjectPage* page = FObjectPages::make(*pFile.ptr(), *mpNavigator);
+    QWidget* tab = page->widget();
+    tab->setProperty("file", pFile->getDbId());
+    tab->setEnabled(!mIsLocked);
+    if (tab->metaObject()->indexOfSignal("gotFocus()") >= 0) {
+        connect(tab, SIGNAL(gotFocus()), this, SLOT(gotFocus()));
+    }
+    return addTab(tab, pFile->getFileName());
+}
+
+void FSoftwareConnector::removePage(int index) {
+    QWidget* tab = widget(index);
+    FObjectPage* page = pageAt(index);
+    removeTab(index);
+    if (page) {
+        page->letGo();
+        tab->hide();
+        tab->deleteLater();
+    }
+}
+
+void FSoftwareConnector::removeOldTab(FExpr<FGenIntFile> pFile) {
+    const int index = pFile ? tabOf(pFile.ptr()) : -1;
+    if (index > 0) {
+        setCurrentIndex(0);
+        removePage(index);
+    }
+}
+
+void FSoftwareConnector::closeTab(int index) {
+    if (index > 0 && index < count()) {
+        FUserInterface::instance()->commitEdits();
+        removePage(index);
+    }
+}
+
+void FSoftwareConnector::gotoTab(FExpr<FGenIntFile> pFile) {
+    const int known = pFile ? tabOf(pFile.ptr()) : 0;
+    setCurrentIndex(known >= 0 ? known : addNewTab(pFile));
+}
+
+void FSoftwareConnector::renameTab(const FExpr<FGenIntFile>& file) {
+    const int index = file ? tabOf(file.ptr()) : -1;
+    if (index > 0 && tabText(index) != file->getFileName()) {
+        setTabText(index, file->getFileName());
+    }
+}
+
+void FSoftwareConnector::gotoFirstTemplate() {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
+    for (const FExpr<FGenIntFile>& file : definition ? definition->getFiles(0) : QList<FExpr<FGenIntFile>>()) {
+        if (file) {
+            gotoTab(file);
+            return;
+        }
+    }
+}
+
+void FSoftwareConnector::gotoOverview() {
+    mOverviewButton->setChecked(true);
+    setCurrentIndex(0);
+}
+
+void FSoftwareConnector::setOverviewChecked(bool isChecked) {
+    mOverviewButton->setChecked(isChecked);
+}
+
+// The values of an input template are in view while it is edited: those of the user's own configurations come last.
+void FSoftwareConnector::gotFocus() {
+    auto* editor = dynamic_cast<FGenIntCommandFileEditor*>(currentWidget());
+    const FDefinition* definition = editor ? getDefinition() : nullptr;
+    if (!definition) {
+        return;
+    }
+    QList<FExpr<FObject>> own;
+    QList<FExpr<FObject>> ofUser;
+    for (FManaged* object : FModel::instance()->getEntities(FConfigurationGenInt::null())) {
+        const auto* configuration = dynamic_cast<const FConfigurationGenInt*>(object);
+        if (configuration && configuration->getDefinition().ptr() == definition) {
+            (object->isInUserConfig() ? ofUser : own).append(FExpr<FObject>(object));
+        }
+    }
+    if (!own.isEmpty()) {
+        editor->setFocusToEditor();
+        FSelectionSet::instance()->clear(false);
+        FSelectionSet::instance()->set(own + ofUser, false);
+    }
+}
+
+// ---- runs and views ----
+
+void FSoftwareConnector::disableGui(bool disable) {
+    mIsLocked = disable;
+    for (QGraphicsItem* item : mpScene->items()) {
+        item->setEnabled(!disable);
+    }
+    for (int index = 1; index < count(); ++index) {
+        widget(index)->setEnabled(!disable);
+    }
+}
+
+void FSoftwareConnector::showConnector() {
+    FUserInterface::instance()->showPage(this);
+}
+
+void FSoftwareConnector::refreshEditors(const FManaged* file) {
+    const int index = file ? tabOf(file) : -1;
+    if (index > 0) {
+        QMetaObject::invokeMethod(widget(index), "refresh", Qt::DirectConnection);
+    }
+}
+
+void FSoftwareConnector::refreshCommandFileEditors() {
+    const FHistoryBlocker blocker;
+    for (int index = 1; index < count(); ++index) {
+        QMetaObject::invokeMethod(widget(index), "refresh", Qt::DirectConnection);
+    }
+    mpScene->refreshEntryItems();
+}
+
+void FSoftwareConnector::prepareToScanForResults() {
+    mLastRunStart = QDateTime::currentDateTime();
+}
+
+void FSoftwareConnector::scanForResults(bool scan) {
+    if (scan) {
+        mpScene->scanForResults(mLastRunStart);
+    }
+}
+
+void FSoftwareConnector::resizeEvent(QResizeEvent* event) {
+    mpScene->setRedrawRequired(true);
+    FSoftConBase::resizeEvent(event);
+    QTimer::singleShot(0, mpScene, &FSoftConScene::redraw);
+}
+
+void FSoftwareConnector::paintEvent(QPaintEvent* event) {
+    mpScene->redraw();
+    FSoftConBase::paintEvent(event);
+}
+
+// ---- links ----
+
+FExpr<FString> FSoftwareConnector::chooseResultsFile() {
+    const FImmediateUpdateBlocker blocker;
+    FSoftConConnectConnectorDialog dialog(nullptr, nullptr);
+    const QStringList chosen = dialog.exec() == QDialog::Accepted ? dialog.getSelectedExpressions() : QStringList();
+    return chosen.isEmpty() ? FExpr<FString>() : FExpr<FString>(new FString(chosen.first()));
+}
+
+void FSoftwareConnector::connectOtherConnector() {
+    const QPointer<FSoftwareConnector> self(this);
+    FSoftConConnectConnectorDialog dialog(this, this);
+    if (dialog.exec() != QDialog::Accepted || !self || !isInModel()) {
+        return;
+    }
+    const FUserStep step(QStringLiteral("Add input file"));
+    for (const QString& expression : dialog.getSelectedExpressions()) {
+        if (!link(expression)) {
+            break;
+        }
+    }
+}
+
+bool FSoftwareConnector::link(const QString& expression) {
+    FSoftConObjectItem* item = mpScene->createItem(nullptr, FExpr<FObject>(FBool::null()), QString(), QString());
+    if (!item) {
+        return false;
+    }
+    auto* entry = dynamic_cast<FEntry*>(item->getObject().ptr());
+    auto* file = entry ? dynamic_cast<FInputFile*>(entry->getValue().getStored()) : nullptr;
+    if (!file) {
+        return true;
+    }
+    QString fault;
+    const FExprBase resolved = FScriptText::bind(expression, fault);
+    if (!resolved.getStored()) {
+        return false;
+    }
+    if (!file->setFileName(resolved)) {
+        mpScene->deleteItem(item);
+        FIO::warning(this, QStringLiteral("Recursion"),
+                     QStringLiteral("Infinite recursion detected. Could not set new input file."));
+        return false;
+    }
+    if (const FExpr<FEntryDef> definition = entry->getDefinition()) {
+        definition->setName(FLinkText::name(expression));
+    }
+    item->updateItem();
+    return true;
+}

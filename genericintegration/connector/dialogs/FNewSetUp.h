@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/** What a user says of a program that is to be coupled. */
+struct FNewSetUp {
+    struct Input {
+        QString path;
+        bool isTemplate;  //!< otherwise the file is copied as it is
+    };
+
+    QString name;
+    QString program;
+    QStringList arguments;
+    std::vector<Input> inputs;
+    QStringList outputs;  //!< samples, from which numbers are read
+};

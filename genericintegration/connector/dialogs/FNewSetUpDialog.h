@@ -1,0 +1,36 @@
+#pragma once
+
+#include "genericintegration/connector/dialogs/FNewSetUp.h"
+
+#include <QDialog>
+
+class FSampleList;
+class FStateLabel;
+class QLineEdit;
+class QPushButton;
+
+/** Asks for a program and its sample files. */
+class FNewSetUpDialog : public QDialog {
+    Q_OBJECT
+
+ public:
+    explicit FNewSetUpDialog(QWidget* parent);
+
+    void accept() override;
+
+ signals:
+    void confirmed(const FNewSetUp& setUp);
+
+ private:
+    QLayout* makeProgramRow();
+    FNewSetUp entered() const;
+    void askProgram();
+    void lookUp();
+
+    QLineEdit* mpProgram;
+    FStateLabel* mpFound;
+    FSampleList* mpInputs;
+    FSampleList* mpOutputs;
+    QLineEdit* mpName;
+    QPushButton* mpCreate = nullptr;
+};

@@ -1,0 +1,97 @@
+#include "genericintegration/connector/dialogs/FSampleList.h"
+
+#include "genericintegration/connector/dialogs/FDropList.h"
+#include "genericintegration/connector/layout/FItemRequests.h"
+#include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FIcons.h"
+#include "host/run/FPathManager.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace {
+
+constexpr int pathRole = Qt::UserRole;
+
+/** Whether the file can become a template without a question: a text that isn't too large. */
+bool isUsualTemplate(const QString& path) {
+    constexpr int looked = 4096;  // bytes
+    QFile file(path);
+    return FItemRequests::checkFileSize(file.size(), QString()).isEmpty() && file.open(QIODevice::ReadOnly) &&
+           !file.read(looked).contains('\0');
+}
+
+}  // namespace
+
+FSampleList::FSampleList(const QString& id, const QString& label, const QString& hint, bool isCheckable,
+                         QWidget* parent)
+    : QWidget(parent), mLabel(label), mIsCheckable(isCheckable), mpList(new FDropList(this)) {
+    setObjectName(id);
+    mpList->setObjectName(id + QStringLiteral("List"));
+    mpList->setAccessibleName(label);
+    constexpr int lines = 4;
+    mpList->setMinimumHeight(lines * fontMetrics().lineSpacing());
+    new FEmptyHint(mpList, hint);
+    auto* buttons = new QVBoxLayout;
+    const auto add = [&](const QString& name, const char* icon, const QString& tip, void (FSampleList::*act)()) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(id + name);
+        button->setAutoRaise(true);
+        button->setIcon(FIcons::get(QString::fromLatin1(icon)));
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
+        connect(button, &QToolButton::clicked, this, act);
+        buttons->addWidget(button);
+    };
+    add(QStringLiteral("Add"), "list-add", QStringLiteral("Select %1…").arg(label.toLower()), &FSampleList::askFiles);
+    add(QStringLiteral("Remove"), "list-remove", QStringLiteral("Take the selected files out of the list"),
+        &FSampleList::removeSelected);
+    buttons->addStretch(1);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(mpList, 1);
+    row->addLayout(buttons);
+    setFocusProxy(mpList);
+    connect(mpList, &FDropList::dropped, this, &FSampleList::addFiles);
+}
+
+void FSampleList::addFiles(const QStringList& added) {
+    for (const QString& path : added) {
+        const QFileInfo file(path);
+        if (paths().contains(file.absoluteFilePath())) {
+            continue;
+        }
+        auto* item = new QListWidgetItem(FIcons::get(QStringLiteral("text-x-generic")), file.fileName(), mpList);
+        item->setData(pathRole, file.absoluteFilePath());
+        item->setToolTip(file.absoluteFilePath());
+        if (mIsCheckable) {
+            item->setText(QStringLiteral("%1 (template)").arg(file.fileName()));
+            item->setCheckState(isUsualTemplate(path) ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+}
+
+QStringList FSampleList::paths() const {
+    QStringList all;
+    for (int row = 0; row < mpList->count(); ++row) {
+        all.append(mpList->item(row)->data(pathRole).toString());
+    }
+    return all;
+}
+
+bool FSampleList::isChecked(int row) const {
+    return mpList->item(row)->checkState() == Qt::Checked;
+}
+
+void FSampleList::askFiles() {
+    addFiles(QFileDialog::getOpenFileNames(this, QStringLiteral("Select %1").arg(mLabel.toLower()),
+                                           FPathManager::getProjectDir(), QString(), nullptr,
+                                           QFileDialog::DontUseNativeDialog));
+}
+
+void FSampleList::removeSelected() {
+    qDeleteAll(mpList->selectedItems());
+}

@@ -40,7 +40,7 @@ void addFiles(const FNewSetUp& setUp, FSoftConScene& scene) {
     for (const FNewSetUp::Input& input : setUp.inputs) {
         (input.isTemplate ? templates : copied).append(input.path);
     }
-    scene.createItems(templates, FExpr<FObject>(FGenIntCommandFile::null()), QString(), false);
+    scene.createItems(templates, FExpr<FObject>(FGenIntCommandFile::null()), QString(), true);
     scene.createItems(copied, FExpr<FObject>(FInputFile::null()), QString(), false);
     scene.createItems(setUp.outputs, FExpr<FObject>(FGenIntResultsFile::null()), QString(), false);
 }

@@ -11,4 +11,5 @@ class FSoftConView : public QGraphicsView {
 
  protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 };

@@ -137,6 +137,21 @@ void FSoftwareConnector::follow() {
     listenToRuns();
     mpScene->setItemSize(mSetUp.mItemSize);
     mpScene->doUpdate();
+    removeStaleTabs();
+}
+
+// Of files that are gone, so that nobody can say which they were.
+void FSoftwareConnector::removeStaleTabs() {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
+    QSet<int> known;
+    for (const FExpr<FGenIntFile>& file : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+        known.insert(file ? file->getDbId() : 0);
+    }
+    for (int index = count() - 1; index > 0; --index) {
+        if (!known.contains(widget(index)->property("file").toInt())) {
+            removePage(index);
+        }
+    }
 }
 
 void FSoftwareConnector::listenToRuns() {

@@ -93,6 +93,7 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     void follow();
     void listenToRuns();
     void addMissingTabs();
+    void removeStaleTabs();
     FObjectPage* pageAt(int index) const;
     /** The tab of a file; -1 if there is none. */
     int tabOf(const FManaged* file) const;

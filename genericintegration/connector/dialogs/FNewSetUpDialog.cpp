@@ -1,5 +1,6 @@
 #include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
 
+#include "genericintegration/connector/dialogs/FCommandWords.h"
 #include "genericintegration/connector/dialogs/FSampleList.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FUserInterface.h"
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -102,7 +102,7 @@ void FNewSetUpDialog::lookUp() {
 
 FNewSetUp FNewSetUpDialog::entered() const {
     FNewSetUp setUp;
-    setUp.arguments = QProcess::splitCommand(mpProgram->text());
+    setUp.arguments = FCommandWords::split(mpProgram->text());
     setUp.program = setUp.arguments.isEmpty() ? QString() : setUp.arguments.takeFirst();
     setUp.name = mpName->text();
     const QStringList inputs = mpInputs->paths();

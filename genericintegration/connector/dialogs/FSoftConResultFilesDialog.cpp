@@ -1,5 +1,7 @@
 #include "genericintegration/connector/dialogs/FSoftConResultFilesDialog.h"
 
+#include <QEvent>
+#include <QLineEdit>
 #include <QPushButton>
 
 void FSoftConResultFilesDialog::lineEditChanged(const QString& text) {
@@ -13,5 +15,15 @@ void FSoftConResultFilesDialog::lineEditChanged(const QString& text) {
     if (found != buttons.end()) {
         (*found)->setText(isAnySelectedThere() ? add : addNew);
         (*found)->setEnabled(!text.isEmpty());
+        (*found)->installEventFilter(this);
     }
+}
+
+// The base decides again whenever it has looked at the folder.
+bool FSoftConResultFilesDialog::eventFilter(QObject* watched, QEvent* event) {
+    auto* button = qobject_cast<QPushButton*>(watched);
+    if (button && event->type() == QEvent::EnabledChange) {
+        button->setEnabled(!lineEdit()->text().isEmpty());
+    }
+    return FSoftConDialog::eventFilter(watched, event);
 }

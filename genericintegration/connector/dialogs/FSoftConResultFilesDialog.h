@@ -11,4 +11,5 @@ class FSoftConResultFilesDialog : public FSoftConDialog {
 
     /** Says on the button whether the files are new ones. */
     void lineEditChanged(const QString& text) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -36,7 +36,7 @@ int FImportSubcommand::importInto(const QString& project) const {
     if (opened != FExitCode::done) {
         return opened;
     }
-    const FExpr<FImport> import = FImport::forFile(path);
+    const std::unique_ptr<FImport> import = FImport::forFile(path);
     if (!import) {
         FLogMsg::error(source, QStringLiteral("nothing imports files such as \"%1\"").arg(path),
                        QStringLiteral("Known kinds: %1").arg(FImport::getFilters().join(QStringLiteral(", "))));

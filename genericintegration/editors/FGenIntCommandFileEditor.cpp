@@ -67,6 +67,8 @@ FGenIntCommandFileEditor::~FGenIntCommandFileEditor() {
         mpBuffer->letGo();
     }
     FChanges::instance()->disconnect(this);
+    // While this object is whole: losing the focus, it refers to it.
+    delete mpEdit;
 }
 
 void FGenIntCommandFileEditor::init() {

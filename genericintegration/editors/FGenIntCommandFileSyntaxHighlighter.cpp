@@ -33,6 +33,12 @@ FGenIntCommandFileSyntaxHighlighter::FGenIntCommandFileSyntaxHighlighter(FGenInt
     prepareFor(edit.document()->characterCount());
 }
 
+// The base changes the document once more when it lets go of it.
+FGenIntCommandFileSyntaxHighlighter::~FGenIntCommandFileSyntaxHighlighter() {
+    mEdit.document()->disconnect(this);
+    mEdit.disconnect(this);
+}
+
 void FGenIntCommandFileSyntaxHighlighter::prepareFor(int length) {
     ++mPass;
     QTextDocument* wanted = length <= mostAsWhole ? mEdit.document() : nullptr;

@@ -24,6 +24,7 @@ class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     static constexpr int mostAsWhole = 2'000'000;
 
     explicit FGenIntCommandFileSyntaxHighlighter(FGenIntCommandFileEdit& edit);
+    ~FGenIntCommandFileSyntaxHighlighter() override;
 
     /** Called before the text is replaced by one of that length. */
     void prepareFor(int length);

@@ -21,13 +21,12 @@ QStringList patternsOf(const QString& filter) {
     return filter.section(QLatin1Char('('), -1).section(QLatin1Char(')'), 0, 0).split(QLatin1Char(' '));
 }
 
-QList<FExpr<FImport>> allImports() {
-    QList<FExpr<FImport>> imports;
+/** The prototypes of all classes. */
+std::vector<const FImport*> allImports() {
+    std::vector<const FImport*> imports;
     for (const QString& name : FPrototypes::getNames()) {
-        const auto* prototype = dynamic_cast<const FImport*>(FPrototypes::find(name));
-        const FExpr<FImport> import(prototype ? prototype->makeImport() : nullptr);
-        if (import) {
-            imports.append(import);
+        if (const auto* prototype = dynamic_cast<const FImport*>(FPrototypes::find(name))) {
+            imports.push_back(prototype);
         }
     }
     return imports;
@@ -57,20 +56,25 @@ FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     return FExpr<FObjectList>(new FObjectList);
 }
 
-FExpr<FImport> FImport::forFile(const QString& fileName) {
+std::unique_ptr<FImport> FImport::forFile(const QString& fileName) {
     const QString name = QFileInfo(fileName).fileName();
-    for (const FExpr<FImport>& import : allImports()) {
-        if (QDir::match(patternsOf(import->mFilter), name)) {
+    for (const FImport* prototype : allImports()) {
+        std::unique_ptr<FImport> import(QDir::match(patternsOf(prototype->mFilter), name) ? prototype->makeImport()
+                                                                                          : nullptr);
+        if (import) {
+            import->setOwnedElsewhere();
             return import;
         }
     }
-    return {};
+    return nullptr;
 }
 
 QStringList FImport::getFilters() {
     QStringList filters;
-    for (const FExpr<FImport>& import : allImports()) {
-        filters.append(import->mFilter);
+    for (const FImport* prototype : allImports()) {
+        if (!prototype->mFilter.isEmpty()) {
+            filters.append(prototype->mFilter);
+        }
     }
     return filters;
 }

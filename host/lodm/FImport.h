@@ -4,6 +4,8 @@
 #include "host/core/FManaged.h"
 #include "host/core/FObjectList.h"
 
+#include <memory>
+
 class QFile;
 
 /**
@@ -26,10 +28,10 @@ class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
     /** How much of the last file couldn't be imported, or is missing in it; all of it was reported. */
     int getFaultCount() const { return mFaultCount; }
 
-    /** A new import that isn't in the model; called on the prototype. Null for a class that has no files. */
+    /** A new import, which the caller owns; called on the prototype. Null for a class that has no files. */
     virtual FImport* makeImport() const { return nullptr; }
-    /** An import for a file with such a name, not in the model; an empty handle if no class reads such files. */
-    static FExpr<FImport> forFile(const QString& fileName);
+    /** An import for a file with such a name, not in the model; null if no class reads such files. */
+    static std::unique_ptr<FImport> forFile(const QString& fileName);
     /** What the imports read, as their dialogs offer it. */
     static QStringList getFilters();
 

@@ -23,7 +23,7 @@ class FImportSoftwareConnectorTest : public FChainTest {
     /** Imports a file, or what is written to one; returns what the log then says. */
     QStringList import(const QString& name) {
         const int lines = log().size();
-        const FExpr<FImport> import = FImport::forFile(name);
+        const std::unique_ptr<FImport> import = FImport::forFile(name);
         EXPECT_EQ(import->read(path(name), false)->count(), 0);
         mFaults = import->getFaultCount();
         return log().mid(lines);
@@ -116,7 +116,7 @@ TEST_F(FImportSoftwareConnectorTest, aScriptImportsInOneStatement) {
     ASSERT_TRUE(FHistory::instance()->undo());
     EXPECT_EQ(FObjectManager::instance()->getNames(), QStringList{"i"});
     EXPECT_EQ(FImport::getFilters(), QStringList{"LODM (*.lodm)"});
-    EXPECT_TRUE(FImport::forFile("a.txt").isEmpty());
+    EXPECT_EQ(FImport::forFile("a.txt"), nullptr);
 }
 
 // The file may end anywhere, also in the middle of a character.

@@ -8,7 +8,6 @@
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/marking/FPlaceProposal.h"
-#include "genericintegration/marking/FValueParameters.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FChanges.h"
 #include "host/core/FIni.h"
@@ -36,7 +35,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -62,12 +60,6 @@ const char* const usualSplitter = "AAAA/wAAAAAAAAACAAABbQAABNAAAAAABgEAAAAB";
 /** Length of the folders at the start of a file name. */
 int folderLength(const QString& fileName) {
     return std::max(fileName.lastIndexOf(u'/'), fileName.lastIndexOf(u'\\')) + 1;
-}
-
-// The item after the present one is to become the current one if that goes.
-QString getNextItemAferDeletion(const QComboBox* combo) {
-    const int current = combo->currentIndex();
-    return combo->itemText(current > 0 ? current - 1 : combo->count() > 1 ? 1 : 0);
 }
 
 void select(QComboBox& combo, int index) {
@@ -106,8 +98,10 @@ void FGenIntResultsFileEditor::setResultsFile(const FExpr<FGenIntResultsFile>& f
     if (mResultsFile) {
         addSupplier(mResultsFile.ptr());
     }
+    setEnabled(static_cast<bool>(file));
     mIsStale = true;
     refresh();
+    showProblems();
 }
 
 // ---- layout ----
@@ -139,7 +133,6 @@ void FGenIntResultsFileEditor::init() {
     restoreSplitter();
     connectForm();
     listen();
-    showProblems();
 }
 
 QWidget* FGenIntResultsFileEditor::makeText() {
@@ -213,6 +206,7 @@ void FGenIntResultsFileEditor::connectForm() {
 }
 
 void FGenIntResultsFileEditor::listen() {
+    mpProblems = FProblemWatch::get();
     const FChanges* changes = FChanges::instance();
     const auto follow = [this](const FManaged* object) {
         if (object == mResultsFile.getStored()) {
@@ -297,7 +291,7 @@ void FGenIntResultsFileEditor::commitEdit() {
 
 bool FGenIntResultsFileEditor::doUpdate() const {
     auto* self = const_cast<FGenIntResultsFileEditor*>(this);
-    if (!mFileChanging) {
+    if (!mSteps.isChanging()) {
         self->mIsStale = true;
     }
     self->refresh();
@@ -342,88 +336,8 @@ void FGenIntResultsFileEditor::changeEvent(QEvent* event) {
 
 // ---- changes ----
 
-void FGenIntResultsFileEditor::inStep(const QString& label, bool joins, const Change& change) {
-    // What was typed elsewhere may concern the template, too.
-    FUserStep::commitEdits();
-    if (!mResultsFile) {
-        return;
-    }
-    const QScopedValueRollback<bool> guard(mFileChanging, true);
-    FUserStep step(label);
-    if (joins) {
-        mSteps.join(step,
-                    QStringLiteral("%1 %2").arg(label).arg(reinterpret_cast<quintptr>(currentValue().getStored())));
-    }
-    FHistory::instance()->addStep(mResultsFile.ptr());
-    mResultsFile->setCurValue(currentValue());
-    change(*mResultsFile.ptr());
-}
-
-void FGenIntResultsFileEditor::change(const QString& label, const Change& change) {
-    inStep(label, false, [&](FGenIntResultsFile& file) {
-        change(file);
-        file.setOutOfDate(true);
-    });
-}
-
-void FGenIntResultsFileEditor::changeJoined(const QString& label, const Change& change) {
-    inStep(label, true, [&](FGenIntResultsFile& file) {
-        change(file);
-        file.setOutOfDate(true);
-    });
-}
-
-void FGenIntResultsFileEditor::changeValue(const QString& label,
-                                           const std::function<void(FGenIntResultsFileValue& value)>& change,
-                                           bool joins) {
-    FUserStep::commitEdits();
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    if (value) {
-        inStep(label, joins, [&](FGenIntResultsFile& file) {
-            change(*value.ptr());
-            file.setOutOfDate(true);
-        });
-    }
-}
-
-// Where a script has set all values anew, the current one is still one of the old ones.
-FExpr<FGenIntResultsFileValue> FGenIntResultsFileEditor::currentValue() const {
-    const FExpr<FGenIntResultsFileValue> value =
-        mResultsFile ? mResultsFile->getCurValue() : FExpr<FGenIntResultsFileValue>();
-    if (!value) {
-        return {};
-    }
-    const std::vector<FExpr<FObject>>& values = mResultsFile->getValues()->getObjects();
-    const bool isThere = std::find(values.begin(), values.end(), value) != values.end();
-    return isThere ? value : valueNamed(value->mName);
-}
-
-// Scripts can make names that differ only in case.
-FExpr<FGenIntResultsFileValue> FGenIntResultsFileEditor::valueNamed(const QString& name) const {
-    for (const FExpr<FObject>& element : mResultsFile->getValues()->getObjects()) {
-        const FExpr<FGenIntResultsFileValue> value(element);
-        if (value && value->mName == name) {
-            return value;
-        }
-    }
-    return mResultsFile->getValue(name);
-}
-
-void FGenIntResultsFileEditor::setFileName(const QString& name, const QString& label) {
-    if (!mResultsFile || name == mResultsFile->getFileName()) {
-        return;
-    }
-    change(label, [&](FGenIntResultsFile& file) {
-        const QString before = file.getFileName();
-        file.setFileName(name);
-        for (const FGenIntResultsFileValue* value : FTemplateValues::among(file.getValues()->getObjects())) {
-            FValueParameters::follow(file, {{}, before, value->mName}, {{}, name, value->mName});
-        }
-    });
-}
-
 void FGenIntResultsFileEditor::fileNameChanged() {
-    setFileName(mpForm->mNameEdit->text(), QStringLiteral("template name changed"));
+    mSteps.setFileName(mpForm->mNameEdit->text(), QStringLiteral("template name changed"));
 }
 
 void FGenIntResultsFileEditor::filePathChanged() {
@@ -432,7 +346,7 @@ void FGenIntResultsFileEditor::filePathChanged() {
         path += u'/';
         mpForm->mPathEdit->setText(path);
     }
-    setFileName(path + mpForm->mNameEdit->text(), QStringLiteral("template path changed"));
+    mSteps.setFileName(path + mpForm->mNameEdit->text(), QStringLiteral("template path changed"));
 }
 
 void FGenIntResultsFileEditor::numberSeparatorChanged(int button) {
@@ -441,8 +355,8 @@ void FGenIntResultsFileEditor::numberSeparatorChanged(int button) {
     if (!mResultsFile || numbers == mResultsFile->getNumberSeparator()) {
         return;
     }
-    change(QStringLiteral("change column separator"),
-           [numbers](FGenIntResultsFile& file) { file.setNumberSeparator(numbers); });
+    mSteps.change(QStringLiteral("change column separator"),
+                  [numbers](FGenIntResultsFile& file) { file.setNumberSeparator(numbers); });
     mpForm->mSpacesAndTabsRow->setVisible(!numbers);
     mpForm->mRegExpRow->setVisible(!numbers);
     highlightCurrentValue();
@@ -451,8 +365,8 @@ void FGenIntResultsFileEditor::numberSeparatorChanged(int button) {
 
 void FGenIntResultsFileEditor::spacesAndTabsSeparatorChanged() {
     const bool isOn = mpForm->mSpacesAndTabsCheck->isChecked();
-    change(QStringLiteral("change column separator"),
-           [isOn](FGenIntResultsFile& file) { file.setSpacesAndTabsSeparator(isOn); });
+    mSteps.change(QStringLiteral("change column separator"),
+                  [isOn](FGenIntResultsFile& file) { file.setSpacesAndTabsSeparator(isOn); });
     highlightCurrentValue();
     refreshResultsPreview();
 }
@@ -462,13 +376,19 @@ void FGenIntResultsFileEditor::regExpSeparatorChanged() {
     if (FMerixCtrl::instance()->isBusy() || !mResultsFile || text == mResultsFile->getRegExprSeparator()) {
         return;
     }
-    change(QStringLiteral("change column separator"),
-           [&text](FGenIntResultsFile& file) { file.setRegExprSeparator(text); });
+    mSteps.change(QStringLiteral("change column separator"),
+                  [&text](FGenIntResultsFile& file) { file.setRegExprSeparator(text); });
     highlightCurrentValue();
     refreshResultsPreview();
 }
 
 // ---- which value ----
+
+// The one before it, or the one after the first.
+QString FGenIntResultsFileEditor::getNextItemAferDeletion(const QComboBox* combo) {
+    const int current = combo->currentIndex();
+    return combo->itemText(current > 0 ? current - 1 : combo->count() > 1 ? 1 : 0);
+}
 
 void FGenIntResultsFileEditor::selectValueViaCell(int row, int column) {
     Q_UNUSED(column)
@@ -493,13 +413,12 @@ void FGenIntResultsFileEditor::currentResultsValueChanged(const QString& name) {
     const auto number = static_cast<std::size_t>(chosen.toInt());
     FExpr<FGenIntResultsFileValue> value(chosen.isValid() && number < values.size() ? values[number]
                                                                                     : FExpr<FObject>());
-    value = value && value->mName == name ? value : valueNamed(name);
+    value = value && value->mName == name ? value : mSteps.valueNamed(name);
     if (value == currentValue()) {
         return;
     }
     mLastType.clear();
-    mSteps.end();
-    inStep(QStringLiteral("change results value"), false, [&](FGenIntResultsFile& file) { file.setCurValue(value); });
+    mSteps.setCurrentValue(value);
     showCurrentValue();
     mEdit->repaint();
 }
@@ -509,12 +428,7 @@ void FGenIntResultsFileEditor::currentResultsValueNameChanged(const QString& nam
     if (!value || FMerixCtrl::instance()->isBusy() || value->mName == name) {
         return;
     }
-    const QString before = value->mName;
-    QString given;
-    changeJoined(QStringLiteral("Set results value name"), [&](FGenIntResultsFile& file) {
-        given = file.setCurValueName(name);
-        FValueParameters::follow(file, {{}, file.getFileName(), before}, {{}, file.getFileName(), given});
-    });
+    const QString given = mSteps.rename(name);
     QLineEdit& edit = *mpForm->mValueSelector->lineEdit();
     const int cursor = edit.cursorPosition();
     const QSignalBlocker blocker(mpForm->mValueSelector);
@@ -528,14 +442,15 @@ void FGenIntResultsFileEditor::currentResultsValueNameChanged(const QString& nam
 void FGenIntResultsFileEditor::addResultsValue(bool checked) {
     Q_UNUSED(checked)
     const FResultsFileForm& form = *mpForm;
-    change(QStringLiteral("add results value"), [&form](FGenIntResultsFile& file) {
-        FExpr<FUnsigned> rows(new FUnsigned(0));
-        if (const FExpr<FUnsigned> present = file.getCurNumAverageRows(); !present.isEmpty()) {
-            rows = present;
-        }
-        file.addValue(QString(), form.mLineSpin->value(), form.mColumnSpin->value(), form.mAnchorEdit->text(),
-                      form.mOccurrenceCombo->currentText(), form.mAverageCheck->isChecked(), rows);
-    });
+    const FExpr<FGenIntResultsFileValue> value = currentValue();
+    const FExpr<FUnsigned> rows = value ? value->mNumAverageRows : FExpr<FUnsigned>();
+    const bool isFirst = form.mOccurrenceCombo->currentIndex() == 0;
+    FValueDescription place;
+    place.line = form.mLineSpin->value();
+    place.column = form.mColumnSpin->value();
+    place.anchor = {form.mAnchorEdit->text(), isFirst ? FAnchorOccurrence::First : FAnchorOccurrence::Last};
+    place.average = form.mAverageCheck->isChecked();
+    mSteps.addValue(place, rows.isEmpty() ? FExpr<FUnsigned>(new FUnsigned(0)) : rows);
     refreshAll();
 }
 
@@ -544,11 +459,7 @@ void FGenIntResultsFileEditor::deleteResultsValue(bool checked) {
     if (!currentValue()) {
         return;
     }
-    const QString neighbour = getNextItemAferDeletion(mpForm->mValueSelector);
-    change(QStringLiteral("delete results value"), [&neighbour](FGenIntResultsFile& file) {
-        file.deleteCurrentValue();
-        file.setCurValue(file.getValue(neighbour));
-    });
+    mSteps.deleteValue(getNextItemAferDeletion(mpForm->mValueSelector));
     refreshAll();
 }
 
@@ -557,7 +468,7 @@ void FGenIntResultsFileEditor::deleteResultsValue(bool checked) {
 void FGenIntResultsFileEditor::valueTypeChanged(const QString& type) {
     const bool isFile = type == FFileName::null()->getClass();
     const QString importType = isFile ? mpForm->mImportTypeCombo->currentText() : QString();
-    changeValue(QStringLiteral("change value type"), [&](FGenIntResultsFileValue& value) {
+    mSteps.changeValue(QStringLiteral("change value type"), [&](FGenIntResultsFileValue& value) {
         value.mType = FObject::getPrototype(type);
         value.mImportType = importType;
     });
@@ -566,19 +477,19 @@ void FGenIntResultsFileEditor::valueTypeChanged(const QString& type) {
 }
 
 void FGenIntResultsFileEditor::fileImportTypeChanged(const QString& type) {
-    changeValue(QStringLiteral("change file import type"),
-                [&type](FGenIntResultsFileValue& value) { value.mImportType = type; });
+    mSteps.changeValue(QStringLiteral("change file import type"),
+                       [&type](FGenIntResultsFileValue& value) { value.mImportType = type; });
 }
 
 void FGenIntResultsFileEditor::resultsLineChanged(int line) {
-    changeValue(
+    mSteps.changeValue(
         QStringLiteral("change line"), [line](FGenIntResultsFileValue& value) { value.mLine = line; }, true);
     previewSoon();
     highlightCurrentValue();
 }
 
 void FGenIntResultsFileEditor::resultsColumnChanged(int column) {
-    changeValue(
+    mSteps.changeValue(
         QStringLiteral("change column"), [column](FGenIntResultsFileValue& value) { value.mColumn = column; }, true);
     previewSoon();
     highlightCurrentValue();
@@ -590,7 +501,7 @@ void FGenIntResultsFileEditor::anchorChanged() {
     if (FMerixCtrl::instance()->isBusy() || !value || text == value->mAnchor) {
         return;
     }
-    change(QStringLiteral("change anchor"), [&text](FGenIntResultsFile& file) { file.setCurrentAnchor(text); });
+    mSteps.change(QStringLiteral("change anchor"), [&text](FGenIntResultsFile& file) { file.setCurrentAnchor(text); });
     previewSoon();
     highlightCurrentValue();
 }
@@ -600,7 +511,7 @@ void FGenIntResultsFileEditor::occurrenceChanged(const QString& occurrence) {
     if (!currentValue()) {
         return;
     }
-    change(QStringLiteral("change occurrence"), [isFirst](FGenIntResultsFile& file) {
+    mSteps.change(QStringLiteral("change occurrence"), [isFirst](FGenIntResultsFile& file) {
         file.setCurrentOccurrence(isFirst ? GenIntAnchorOccurrence::First : GenIntAnchorOccurrence::Last);
     });
     refreshResultsPreview();
@@ -610,7 +521,7 @@ void FGenIntResultsFileEditor::occurrenceChanged(const QString& occurrence) {
 
 void FGenIntResultsFileEditor::averageToggled(bool isOn) {
     const QString label = isOn ? QStringLiteral("active") : QStringLiteral("deactivate");
-    changeValue(label + QStringLiteral(" average calculation"), [&](FGenIntResultsFileValue& value) {
+    mSteps.changeValue(label + QStringLiteral(" average calculation"), [&](FGenIntResultsFileValue& value) {
         value.mCalcAverage = isOn;
         const QString type = FTemplateValues::typeOf(value)->getClass();
         const FObject* before = FObject::getPrototype(mLastType);
@@ -624,7 +535,7 @@ void FGenIntResultsFileEditor::averageToggled(bool isOn) {
 }
 
 void FGenIntResultsFileEditor::averageChanged(const FExpr<FUnsigned>& rows) {
-    changeValue(
+    mSteps.changeValue(
         QStringLiteral("change average rows"),
         [&rows](FGenIntResultsFileValue& value) { value.setNumAverageRows(rows); }, true);
     refreshResultsPreview();
@@ -642,7 +553,8 @@ std::optional<FPlaceProposal> FGenIntResultsFileEditor::proposalAt(int position)
 bool FGenIntResultsFileEditor::readNumberAt(int position) {
     const std::optional<FPlaceProposal> proposal = proposalAt(position);
     if (proposal && !selectValueAt(proposal->range)) {
-        addProposed(*proposal);
+        mSteps.addValue(proposal->value, FExpr<FUnsigned>(new FUnsigned(0)));
+        refreshAll();
     }
     return proposal.has_value();
 }
@@ -659,31 +571,8 @@ bool FGenIntResultsFileEditor::selectValueAt(FTextRange number) {
     return false;
 }
 
-void FGenIntResultsFileEditor::addProposed(const FPlaceProposal& proposal) {
-    const FValueDescription& place = proposal.value;
-    change(QStringLiteral("add results value"), [&place](FGenIntResultsFile& file) {
-        const QString occurrence =
-            place.anchor.occurrence == FAnchorOccurrence::First ? QStringLiteral("First") : QStringLiteral("Last");
-        file.addValue(QString(), place.line, place.column, place.anchor.text, occurrence, false,
-                      FExpr<FUnsigned>(new FUnsigned(0)));
-        if (!place.name.isEmpty()) {
-            file.setCurValueName(place.name);
-        }
-    });
-    refreshAll();
-}
-
-void FGenIntResultsFileEditor::placeCurrentValue(const FPlaceProposal& proposal, const QString& label) {
-    const FValueDescription& place = proposal.value;
-    changeValue(label, [&place](FGenIntResultsFileValue& value) {
-        value.mLine = place.line;
-        value.mColumn = place.column;
-        value.mAnchor = place.anchor.text;
-        value.mOccurrence = FEnum<GenIntAnchorOccurrence>(place.anchor.occurrence == FAnchorOccurrence::First
-                                                              ? GenIntAnchorOccurrence::First
-                                                              : GenIntAnchorOccurrence::Last);
-        value.mCalcAverage = false;
-    });
+void FGenIntResultsFileEditor::moveValue(const FValueDescription& place, const QString& label) {
+    mSteps.moveValue(place, label);
     showCurrentValue();
     refreshResultsPreview();
 }
@@ -702,14 +591,15 @@ void FGenIntResultsFileEditor::setAnchor(FTextRange selection) {
         proposal = FPlaceProposal::from(sample(), separators, number.begin, selection);
     }
     if (proposal) {
-        placeCurrentValue(*proposal, QStringLiteral("change anchor"));
+        moveValue(proposal->value, QStringLiteral("change anchor"));
         return;
     }
     QTextCursor cursor(mEdit->document());
     cursor.setPosition(selection.begin);
     cursor.setPosition(selection.end(), QTextCursor::KeepAnchor);
     const QString text = cursor.selectedText();
-    changeValue(QStringLiteral("change anchor"), [&text](FGenIntResultsFileValue& current) { current.mAnchor = text; });
+    mSteps.changeValue(QStringLiteral("change anchor"),
+                       [&text](FGenIntResultsFileValue& current) { current.mAnchor = text; });
     showCurrentValue();
     refreshResultsPreview();
 }
@@ -734,7 +624,7 @@ void FGenIntResultsFileEditor::fillMenu(QMenu& menu, int position) {
     insert(QStringLiteral("readHere"), QStringLiteral("go-jump"),
            value ? QStringLiteral("Read \"%1\" &here").arg(QString(value->mName).replace(u'&', QLatin1String("&&")))
                  : QStringLiteral("Read the current value &here"),
-           proposal && value, [this, proposal] { placeCurrentValue(*proposal, QStringLiteral("change place")); });
+           proposal && value, [this, proposal] { moveValue(proposal->value, QStringLiteral("change place")); });
     insert(QStringLiteral("useAsAnchor"), QStringLiteral("anchor"), QStringLiteral("&Use as anchor"),
            value && isInLine && selection.length > 0, [this, selection] { setAnchor(selection); });
     if (first) {
@@ -796,7 +686,7 @@ void FGenIntResultsFileEditor::showText(QLineEdit& edit, const QString& text) {
 }
 
 void FGenIntResultsFileEditor::refresh() {
-    if (mFileChanging || !mEdit || !mResultsFile) {
+    if (mSteps.isChanging() || !mEdit || !mResultsFile) {
         return;
     }
     mIsStale = true;
@@ -809,8 +699,9 @@ void FGenIntResultsFileEditor::refresh() {
     refreshText();
     refreshSeparators();
     fillSelector(mResultsFile->getValues()->getObjects());
-    showCurrentValue();
+    // Reader and marks each have a copy of the text; that of the reader is gone before the other is made.
     refreshResultsPreview();
+    showCurrentValue();
 }
 
 void FGenIntResultsFileEditor::refreshFileName() {

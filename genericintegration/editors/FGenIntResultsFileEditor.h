@@ -1,5 +1,6 @@
 #pragma once
 
+#include "genericintegration/editors/FResultsFileSteps.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "genericintegration/setup/FAttribCmdSetAverageRows.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
@@ -7,7 +8,6 @@
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
 #include "host/gui/base/FProblemWatch.h"
-#include "host/gui/base/FStepJoiner.h"
 
 #include <QColor>
 #include <QFrame>
@@ -22,8 +22,8 @@ class FResultsFileForm;
 class FResultsMarker;
 class FTableData;
 class FTemplateReports;
-class FUserStep;
 struct FPlaceProposal;
+class QComboBox;
 class QLineEdit;
 class QMenu;
 class QSplitter;
@@ -139,10 +139,10 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void refreshResultsValues();
     void refreshResultsValueType();
     void refreshValuesSelector();
+    /** The item to choose when the present one goes. */
+    static QString getNextItemAferDeletion(const QComboBox* combo);
 
  private:
-    using Change = std::function<void(FGenIntResultsFile& file)>;
-
     static QColor sAnchorBackground;
     static QColor sAnchorForeground;
     static QColor sResultLineBackground;
@@ -159,20 +159,8 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void setColor(QColor& color, const QColor& wanted);
     void takeColors();
 
-    /** Changes the template in a step; nothing happens without a template. */
-    void change(const QString& label, const Change& change);
-    /** The same for a step that joins the one before if it has the same label and value. */
-    void changeJoined(const QString& label, const Change& change);
-    /** The same for the current value; nothing happens without one. */
-    void changeValue(const QString& label, const std::function<void(FGenIntResultsFileValue& value)>& change,
-                     bool joins = false);
-    void inStep(const QString& label, bool joins, const Change& change);
-    /** The current value, if it is one of the template's. */
-    FExpr<FGenIntResultsFileValue> currentValue() const;
-    FExpr<FGenIntResultsFileValue> valueNamed(const QString& name) const;
-    void setFileName(const QString& name, const QString& label);
-    void addProposed(const FPlaceProposal& proposal);
-    void placeCurrentValue(const FPlaceProposal& proposal, const QString& label);
+    FExpr<FGenIntResultsFileValue> currentValue() const { return mSteps.currentValue(); }
+    void moveValue(const FValueDescription& place, const QString& label);
     void setAnchor(FTextRange selection);
     bool selectValueAt(FTextRange number);
     void createParamOf(int row);
@@ -195,6 +183,7 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
 
     FExpr<FGenIntResultsFile> mResultsFile;
     FExpr<FGenIntComputation> mComputation;
+    FResultsFileSteps mSteps{mResultsFile};
     FResultsFileForm* mpForm = nullptr;
     FGenIntResultsFileEdit* mEdit = nullptr;
     QSplitter* mSplitter = nullptr;
@@ -204,12 +193,9 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     FExpr<FTableData> mPreviewTable;
     std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed
     QString mShownText;
-    QString mLastType;           //!< the type that the current value had before its average was switched on
-    bool mFileChanging = false;  //!< this editor changes the template
-    bool mIsStale = true;        //!< what is shown may not be what the template holds
-    bool mIsMarking = false;
-    std::shared_ptr<FProblemWatch> mpProblems = FProblemWatch::get();
+    QString mLastType;     //!< the type that the current value had before its average was switched on
+    bool mIsStale = true;  //!< what is shown may not be what the template holds
+    std::shared_ptr<FProblemWatch> mpProblems;
     FTemplateReports* mpReports = nullptr;
-    FStepJoiner mSteps;
     QTimer mPreviewTimer;
 };

@@ -1,6 +1,7 @@
 #include "host/gui/base/FElidedLabel.h"
 
 #include <QEvent>
+#include <QVariant>
 
 FElidedLabel::FElidedLabel(FStateColor::State state, QWidget* parent) : FStateLabel(state, parent) {
     setTextFormat(Qt::PlainText);

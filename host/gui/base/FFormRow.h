@@ -3,6 +3,7 @@
 #include "host/core/FExport.h"
 
 #include <QList>
+#include <QVariant>
 #include <QWidget>
 
 class QLabel;

@@ -1,0 +1,133 @@
+#include "genericintegration/editors/FResultsFileSteps.h"
+
+#include "genericintegration/io/FTemplateValues.h"
+#include "genericintegration/marking/FValueParameters.h"
+#include "host/core/FUserStep.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+GenIntAnchorOccurrence occurrenceOf(const FValueDescription& place) {
+    return place.anchor.occurrence == FAnchorOccurrence::First ? GenIntAnchorOccurrence::First
+                                                               : GenIntAnchorOccurrence::Last;
+}
+
+}  // namespace
+
+FExpr<FGenIntResultsFileValue> FResultsFileSteps::currentValue() const {
+    const FExpr<FGenIntResultsFileValue> value = mFile ? mFile->getCurValue() : FExpr<FGenIntResultsFileValue>();
+    if (!value) {
+        return {};
+    }
+    const std::vector<FExpr<FObject>>& values = mFile->getValues()->getObjects();
+    const bool isThere = std::find(values.begin(), values.end(), value) != values.end();
+    return isThere ? value : valueNamed(value->mName);
+}
+
+FExpr<FGenIntResultsFileValue> FResultsFileSteps::valueNamed(const QString& name) const {
+    for (const FExpr<FObject>& element : mFile->getValues()->getObjects()) {
+        const FExpr<FGenIntResultsFileValue> value(element);
+        if (value && value->mName == name) {
+            return value;
+        }
+    }
+    return mFile->getValue(name);
+}
+
+void FResultsFileSteps::inStep(const QString& label, bool joins, const Change& change) {
+    // What was typed elsewhere may concern the template, too.
+    FUserStep::commitEdits();
+    if (!mFile) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(mIsChanging, true);
+    FUserStep step(label);
+    const FExpr<FGenIntResultsFileValue> value = currentValue();
+    if (joins) {
+        mSteps.join(step, label + QString::number(reinterpret_cast<quintptr>(value.getStored())));
+    }
+    FHistory::instance()->addStep(mFile.ptr());
+    mFile->setCurValue(value);
+    change(*mFile.ptr());
+}
+
+void FResultsFileSteps::change(const QString& label, const Change& change) {
+    inStep(label, false, [&](FGenIntResultsFile& file) {
+        change(file);
+        file.setOutOfDate(true);
+    });
+}
+
+void FResultsFileSteps::changeValue(const QString& label, const ValueChange& change, bool joins) {
+    FUserStep::commitEdits();
+    const FExpr<FGenIntResultsFileValue> value = currentValue();
+    if (value) {
+        inStep(label, joins, [&](FGenIntResultsFile& file) {
+            change(*value.ptr());
+            file.setOutOfDate(true);
+        });
+    }
+}
+
+void FResultsFileSteps::setCurrentValue(const FExpr<FGenIntResultsFileValue>& value) {
+    mSteps.end();
+    inStep(QStringLiteral("change results value"), false,
+           [&value](FGenIntResultsFile& file) { file.setCurValue(value); });
+}
+
+void FResultsFileSteps::setFileName(const QString& name, const QString& label) {
+    if (!mFile || name == mFile->getFileName()) {
+        return;
+    }
+    change(label, [&name](FGenIntResultsFile& file) {
+        const QString before = file.getFileName();
+        file.setFileName(name);
+        for (const FGenIntResultsFileValue* value : FTemplateValues::among(file.getValues()->getObjects())) {
+            FValueParameters::follow(file, {{}, before, value->mName}, {{}, name, value->mName});
+        }
+    });
+}
+
+QString FResultsFileSteps::rename(const QString& name) {
+    QString given = name;
+    changeValue(
+        QStringLiteral("Set results value name"),
+        [&](const FGenIntResultsFileValue& value) {
+            const QString before = value.mName;
+            given = mFile->setCurValueName(name);
+            FValueParameters::follow(*mFile.ptr(), {{}, mFile->getFileName(), before},
+                                     {{}, mFile->getFileName(), given});
+        },
+        true);
+    return given;
+}
+
+void FResultsFileSteps::addValue(const FValueDescription& place, const FExpr<FUnsigned>& averageRows) {
+    change(QStringLiteral("add results value"), [&](FGenIntResultsFile& file) {
+        const QString occurrence = FEnum<GenIntAnchorOccurrence>(occurrenceOf(place)).getStringValue();
+        file.addValue(QString(), place.line, place.column, place.anchor.text, occurrence, place.average, averageRows);
+        if (!place.name.isEmpty()) {
+            file.setCurValueName(place.name);
+        }
+    });
+}
+
+void FResultsFileSteps::deleteValue(const QString& next) {
+    change(QStringLiteral("delete results value"), [&next](FGenIntResultsFile& file) {
+        file.deleteCurrentValue();
+        file.setCurValue(file.getValue(next));
+    });
+}
+
+void FResultsFileSteps::moveValue(const FValueDescription& place, const QString& label) {
+    changeValue(label, [&place](FGenIntResultsFileValue& value) {
+        value.mLine = place.line;
+        value.mColumn = place.column;
+        value.mAnchor = place.anchor.text;
+        value.mOccurrence = FEnum<GenIntAnchorOccurrence>(occurrenceOf(place));
+        value.mCalcAverage = false;
+    });
+}

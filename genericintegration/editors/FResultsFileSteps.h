@@ -1,0 +1,51 @@
+#pragma once
+
+#include "genericintegration/io/FValueDescription.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/gui/base/FStepJoiner.h"
+
+#include <functional>
+
+/** What the user of an editor changes in a result template. Each change is a step of the history. */
+class FResultsFileSteps {
+ public:
+    using Change = std::function<void(FGenIntResultsFile& file)>;
+    using ValueChange = std::function<void(FGenIntResultsFileValue& value)>;
+
+    /** @param file  may be empty, and may become another one; outlives the object */
+    explicit FResultsFileSteps(const FExpr<FGenIntResultsFile>& file) : mFile(file) {}
+
+    /** True during a change. */
+    bool isChanging() const { return mIsChanging; }
+    /** The current value; where a script has set all values anew, the one of the same name. */
+    FExpr<FGenIntResultsFileValue> currentValue() const;
+    /** The value of exactly that name, else one whose name differs only in case. */
+    FExpr<FGenIntResultsFileValue> valueNamed(const QString& name) const;
+
+    /** Nothing happens without a template. */
+    void change(const QString& label, const Change& change);
+    /**
+     * The same for the current value; nothing happens without one.
+     * @param joins  whether such steps on the same value become one
+     */
+    void changeValue(const QString& label, const ValueChange& change, bool joins = false);
+
+    void setCurrentValue(const FExpr<FGenIntResultsFileValue>& value);
+    /** Parameters follow. */
+    void setFileName(const QString& name, const QString& label);
+    /** Parameters follow. Returns the name that the current value was given. */
+    QString rename(const QString& name);
+    /** Adds a value; one without a name gets a name. */
+    void addValue(const FValueDescription& place, const FExpr<FUnsigned>& averageRows);
+    /** Deletes the current value, and makes another one the current one. */
+    void deleteValue(const QString& next);
+    /** Moves the current value. */
+    void moveValue(const FValueDescription& place, const QString& label);
+
+ private:
+    void inStep(const QString& label, bool joins, const Change& change);
+
+    const FExpr<FGenIntResultsFile>& mFile;
+    FStepJoiner mSteps;
+    bool mIsChanging = false;
+};

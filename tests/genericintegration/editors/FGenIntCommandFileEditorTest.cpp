@@ -192,6 +192,8 @@ TEST_F(FGenIntCommandFileEditorTest, aLargeTextIsColouredInViewAndOffersEverywhe
     settle();
     EXPECT_EQ(colorAt("beta", true), QColor(207, 246, 207));
     EXPECT_EQ(colorAt("zzz", true), QColor()) << "too long";
+    ASSERT_TRUE(waitUntil([&] { return reports().isVisible(); }));  // it moves the text
+    settle();
     click("beta");
     EXPECT_TRUE(content().contains("\nbeta = <entry>beta</entry>\n"));
     EXPECT_EQ(colorAt("beta</entry>"), QColor(Qt::darkGreen));

@@ -21,17 +21,6 @@ QStringList patternsOf(const QString& filter) {
     return filter.section(QLatin1Char('('), -1).section(QLatin1Char(')'), 0, 0).split(QLatin1Char(' '));
 }
 
-/** The prototypes of all classes. */
-std::vector<const FImport*> allImports() {
-    std::vector<const FImport*> imports;
-    for (const QString& name : FPrototypes::getNames()) {
-        if (const auto* prototype = dynamic_cast<const FImport*>(FPrototypes::find(name))) {
-            imports.push_back(prototype);
-        }
-    }
-    return imports;
-}
-
 void commands(FCmdTable& table) {
     table.member<FImport>("read", &FImport::read, {"fileName=\"\"", "flag=false"});
 }
@@ -56,14 +45,23 @@ FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     return FExpr<FObjectList>(new FObjectList);
 }
 
+std::vector<std::unique_ptr<FImport>> FImport::makeAll() {
+    std::vector<std::unique_ptr<FImport>> imports;
+    for (const QString& name : FPrototypes::getNames()) {
+        const auto* prototype = dynamic_cast<const FImport*>(FPrototypes::find(name));
+        if (FImport* import = prototype ? prototype->makeImport() : nullptr) {
+            import->setOwnedElsewhere();
+            imports.emplace_back(import);
+        }
+    }
+    return imports;
+}
+
 std::unique_ptr<FImport> FImport::forFile(const QString& fileName) {
     const QString name = QFileInfo(fileName).fileName();
-    for (const FImport* prototype : allImports()) {
-        std::unique_ptr<FImport> import(QDir::match(patternsOf(prototype->mFilter), name) ? prototype->makeImport()
-                                                                                          : nullptr);
-        if (import) {
-            import->setOwnedElsewhere();
-            return import;
+    for (std::unique_ptr<FImport>& import : makeAll()) {
+        if (QDir::match(patternsOf(import->mFilter), name)) {
+            return std::move(import);
         }
     }
     return nullptr;
@@ -71,10 +69,8 @@ std::unique_ptr<FImport> FImport::forFile(const QString& fileName) {
 
 QStringList FImport::getFilters() {
     QStringList filters;
-    for (const FImport* prototype : allImports()) {
-        if (!prototype->mFilter.isEmpty()) {
-            filters.append(prototype->mFilter);
-        }
+    for (const std::unique_ptr<FImport>& import : makeAll()) {
+        filters.append(import->mFilter);
     }
     return filters;
 }

@@ -5,6 +5,7 @@
 #include "host/core/FObjectList.h"
 
 #include <memory>
+#include <vector>
 
 class QFile;
 
@@ -55,5 +56,8 @@ class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
     int mFaultCount = 0;
 
  private:
+    /** One of each class that has files. */
+    static std::vector<std::unique_ptr<FImport>> makeAll();
+
     QString mCurrentDir;
 };

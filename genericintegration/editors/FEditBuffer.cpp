@@ -2,6 +2,7 @@
 
 #include "genericintegration/editors/FShownText.h"
 #include "genericintegration/marking/FLineEnds.h"
+#include "genericintegration/marking/FLongLines.h"
 #include "host/core/FChanges.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserStep.h"
@@ -99,7 +100,9 @@ void FEditBuffer::refresh() {
     }
     mBase = text;
     const QScopedValueRollback<bool> guard(mIsReplacing, true);
-    FShownText::change(mEdit, text, [this](int length) { emit aboutToFill(length); });
+    mIsCut = FLongLines::first(text, FLongLines::longest) > 0;
+    mEdit.setReadOnly(mIsCut);
+    FShownText::change(mEdit, mIsCut ? FLongLines::cut(text) : text, [this](int length) { emit aboutToFill(length); });
     emit refreshed();
 }
 
@@ -114,7 +117,7 @@ void FEditBuffer::touch() {
 
 void FEditBuffer::write() {
     forgetTyped();
-    if (!mFile || !mIsFilled) {
+    if (!mFile || !mIsFilled || mIsCut) {
         return;
     }
     const QString text = content();
@@ -135,7 +138,7 @@ void FEditBuffer::write() {
 }
 
 void FEditBuffer::replace(QTextCursor cursor, const QString& text) {
-    {
+    if (!mIsCut) {
         const QScopedValueRollback<bool> guard(mIsReplacing, true);
         cursor.insertText(text);
     }

@@ -14,7 +14,8 @@ class QTextCursor;
  * Keeps the text of a template and that of a widget in step. What is typed gets into the template after a moment
  * without typing, or as soon as somebody reads the model; what changes in the template gets into the widget at once,
  * without moving the cursor or the scroll bars, once the widget has been shown. Line ends and characters that a
- * document doesn't hold stay as they are in the template. Several widgets can show the same template.
+ * document doesn't hold stay as they are in the template. Several widgets can show the same template. A text with lines
+ * that are too long for a widget is shown with these in pieces, and can't be edited.
  */
 class FEditBuffer : public QObject, public FPendingEdit {
     Q_OBJECT
@@ -35,6 +36,8 @@ class FEditBuffer : public QObject, public FPendingEdit {
     void refresh();
     /** The user has changed the text: it will be written when there was no further change for a while. */
     void touch();
+    /** Whether the widget shows lines in pieces. */
+    bool isCut() const { return mIsCut; }
     bool isPending() const { return mIsPending; }
     /** Writes the text into the template, if it differs; within a step of the caller. */
     void write();
@@ -63,6 +66,7 @@ class FEditBuffer : public QObject, public FPendingEdit {
     FExpr<FGenIntFile> mFile;
     QString mBase;  //!< the template's text that the widget last had; shares its data with the template
     bool mIsFilled = false;
+    bool mIsCut = false;
     bool mIsPending = false;
     bool mIsReplacing = false;
     QTimer mTimer;

@@ -103,7 +103,7 @@ FEntryDef* FGenIntCommandFileEdit::getCurrentEntry() const {
 }
 
 bool FGenIntCommandFileEdit::isAssisted() const {
-    return mpEditor && !mpEditor->isWriteModeActivated();
+    return mpEditor && !mpEditor->isWriteModeActivated() && !isReadOnly();
 }
 
 std::pair<int, int> FGenIntCommandFileEdit::shownRange() const {
@@ -288,7 +288,7 @@ void FGenIntCommandFileEdit::replaceText(const QTextCursor& cursor, const QStrin
 
 void FGenIntCommandFileEdit::createEntry(const QString& proposal, double value, QTextCursor cursor) {
     FDefinitionGenInt* definition = getDefinition();
-    if (!definition || cursor.isNull()) {
+    if (!definition || cursor.isNull() || isReadOnly()) {
         return;
     }
     {
@@ -400,7 +400,7 @@ void FGenIntCommandFileEdit::replaceEntry() {
 // The text is written before the references are counted.
 void FGenIntCommandFileEdit::replaceCurrentTag(const QString& label, const QString& text) {
     const FExpr<FEntryBase> entry(getCurrentEntry());
-    {
+    if (!isReadOnly()) {
         FUserStep step(label);
         const QTextCursor tag = currentTag();
         if (!tag.isNull()) {
@@ -515,7 +515,7 @@ void FGenIntCommandFileEdit::focusOutEvent(QFocusEvent* event) {
 
 void FGenIntCommandFileEdit::contextMenuEvent(QContextMenuEvent* event) {
     const FDefinitionGenInt* definition = getDefinition();
-    if (!definition) {
+    if (!definition || isReadOnly()) {
         FEditor::contextMenuEvent(event);
         return;
     }

@@ -6,7 +6,7 @@
 #include "genericintegration/editors/FWrittenTextView.h"
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FValueTable.h"
-#include "genericintegration/marking/FDocumentLineEnd.h"
+#include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/marking/FTemplateLine.h"
 #include "genericintegration/marking/FWrittenText.h"
 #include "host/core/FChanges.h"
@@ -23,25 +23,11 @@
 #include <QSplitter>
 #include <QToolButton>
 
-#include <algorithm>
+#include <tuple>
 
 namespace {
 
 constexpr int checkDelay = 300;  // milliseconds
-
-/** Number, from 1, of the first line that is too long to be analysed; 0 if there is none. */
-int firstLongLine(const QString& text) {
-    int start = 0;
-    for (int line = 1; start <= text.size(); ++line) {
-        int end = text.indexOf(u'\n', start);
-        end = end < 0 ? text.size() : end;
-        if (end - start > FTemplateLine::longest) {
-            return line;
-        }
-        start = end + 1;
-    }
-    return 0;
-}
 
 }  // namespace
 
@@ -280,7 +266,14 @@ void FGenIntCommandFileEditor::check() {
 }
 
 QStringList FGenIntCommandFileEditor::notices() const {
-    const int line = mCommandFile ? firstLongLine(mCommandFile->getPlainContent()) : 0;
+    const QString text = mCommandFile ? mCommandFile->getPlainContent() : QString();
+    if (mpBuffer->isCut()) {
+        return {QStringLiteral("Line %1 has more than %L2 characters: the text is shown in pieces, and can't be edited "
+                               "here. Edit the sample file, and take it over again.")
+                    .arg(FLongLines::first(text, FLongLines::longest))
+                    .arg(FLongLines::longest)};
+    }
+    const int line = FLongLines::first(text, FTemplateLine::longest);
     return line == 0 ? QStringList()
                      : QStringList(QStringLiteral("Line %1 has more than %L2 characters: it has no colours, and no "
                                                   "numbers are offered in it.")
@@ -321,6 +314,9 @@ FWrittenText FGenIntCommandFileEditor::writtenText() const {
 
 void FGenIntCommandFileEditor::goTo(int line, int column) {
     mpBuffer->fill();
+    if (line > 0 && mpBuffer->isCut()) {
+        std::tie(line, column) = FLongLines::placeInCut(mCommandFile->getPlainContent(), line, column);
+    }
     if (line > 0) {
         mpEdit->goTo(line, column);
     }

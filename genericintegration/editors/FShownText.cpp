@@ -11,8 +11,24 @@
 
 namespace {
 
-/** Characters above which filling the widget anew is faster than editing its text. */
-constexpr int mostInserted = 1'000'000;
+/** Whether filling the widget anew is faster than editing its text. */
+bool isLarge(const std::vector<FTextReplacement>& changes) {
+    constexpr int mostInserted = 1'000'000;
+    constexpr std::size_t mostChanges = 50'000;
+    return changes.size() > mostChanges || (changes.size() == 1 && changes.front().inserted.size() > mostInserted);
+}
+
+void replace(QTextDocument& document, const std::vector<FTextReplacement>& changes) {
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    // From the end, so that the positions stay right.
+    for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
+        cursor.setPosition(change->position);
+        cursor.setPosition(change->position + change->removed, QTextCursor::KeepAnchor);
+        cursor.insertText(change->inserted);
+    }
+    cursor.endEditBlock();
+}
 
 /** Where a cursor is, by lines: what is the same after a line has become another one. */
 struct FCaret {
@@ -27,6 +43,12 @@ struct FCaret {
         edit.setTextCursor(cursor);
     }
 
+    bool isIn(const std::vector<FTextReplacement>& changes) const {
+        return std::any_of(changes.begin(), changes.end(), [this](const FTextReplacement& change) {
+            return change.position < position && position < change.position + change.removed;
+        });
+    }
+
     int position;
     int line;
     int column;
@@ -36,23 +58,20 @@ struct FCaret {
 
 void FShownText::change(QPlainTextEdit& edit, const QString& text, const std::function<void(int length)>& fills) {
     QTextDocument& document = *edit.document();
-    const bool isNew = document.isEmpty();
-    const auto change = isNew ? FTextReplacement{0, 0, text} : FLineEnds::changeOfDocument(document.toRawText(), text);
+    const std::vector<FTextReplacement> changes =
+        document.isEmpty() ? std::vector<FTextReplacement>() : FLineEnds::changesOfDocument(document.toRawText(), text);
     const FCaret caret(edit.textCursor());
     const int column = edit.horizontalScrollBar()->value();
     const int line = edit.verticalScrollBar()->value();
-    if (isNew || change.inserted.size() > mostInserted) {
+    if (document.isEmpty() || isLarge(changes)) {
         if (fills) {
             fills(text.size());
         }
         edit.setPlainText(text);
         caret.restoreIn(edit);
-    } else if (!change.isEmpty()) {
-        QTextCursor cursor(&document);
-        cursor.setPosition(change.position);
-        cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
-        cursor.insertText(change.inserted);
-        if (change.position < caret.position && caret.position < change.position + change.removed) {
+    } else if (!changes.empty()) {
+        replace(document, changes);
+        if (caret.isIn(changes)) {
             caret.restoreIn(edit);
         }
     }

@@ -82,7 +82,9 @@ void FTemplateReports::fill() {
 
 void FTemplateReports::fit() {
     constexpr int mostLines = 4;
-    const int most = mostLines * mpText->fontMetrics().lineSpacing();
+    constexpr int mostOfPage = 4;
+    const int line = mpText->fontMetrics().lineSpacing();
+    const int most = qBound(line, parentWidget()->height() / mostOfPage, mostLines * line);
     // The area gets its size later than this widget.
     const int needed = mpText->heightForWidth(contentsRect().marginsRemoved(layout()->contentsMargins()).width());
     mpArea->setFixedHeight(qMin(needed, most));

@@ -2,6 +2,7 @@
 
 #include "genericintegration/editors/FRangeMarks.h"
 #include "genericintegration/editors/FShownText.h"
+#include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/marking/FWrittenText.h"
 
 #include <QScopedValueRollback>
@@ -45,6 +46,9 @@ void FWrittenTextView::couple(QScrollBar* from, QScrollBar* to) {
 void FWrittenTextView::refresh() {
     if (isVisible()) {
         FWrittenText written = mWrite();
+        if (FLongLines::first(written.text, FLongLines::longest) > 0) {
+            written = {FLongLines::cut(written.text)};
+        }
         FShownText::change(*this, written.text);
         mpTags->setRanges(std::move(written.tags));
         mpValues->setRanges(std::move(written.values));

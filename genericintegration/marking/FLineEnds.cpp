@@ -80,6 +80,17 @@ std::vector<QStringView> endsOf(QStringView text) {
     return ends;
 }
 
+std::vector<QStringView> linesOf(QStringView text) {
+    std::vector<QStringView> lines;
+    const QChar* start = text.begin();
+    for (const QStringView end : endsOf(text)) {
+        lines.emplace_back(start, end.begin());
+        start = end.end();
+    }
+    lines.emplace_back(start, text.end());
+    return lines;
+}
+
 QStringView prevailingEnd(QStringView text) {
     std::array<std::pair<QStringView, int>, 3> counts{{{u"\n", 0}, {u"\r\n", 0}, {u"\r", 0}}};
     for (int place = 0; place < text.size();) {
@@ -143,10 +154,30 @@ FTextReplacement change(const QString& text, const QString& document) {
     return {start.text, end.text - start.text, insertion.followedBy(old.mid(end.text))};
 }
 
-FTextReplacement changeOfDocument(const QString& document, const QString& text) {
+std::vector<FTextReplacement> changesOfDocument(const QString& document, const QString& text) {
     const FPlaces start = commonStart(text, document);
     const FPlaces end = commonEnd(text, document, start);
-    return {start.document, end.document - start.document, text.mid(start.text, end.text - start.text)};
+    const QStringView old = QStringView(document).mid(start.document, end.document - start.document);
+    const QStringView fresh = QStringView(text).mid(start.text, end.text - start.text);
+    if (old.isEmpty() && fresh.isEmpty()) {
+        return {};
+    }
+    const std::vector<QStringView> oldLines = linesOf(old);
+    const std::vector<QStringView> lines = linesOf(fresh);
+    if (lines.size() != oldLines.size()) {
+        return {{start.document, static_cast<int>(old.size()), fresh.toString()}};
+    }
+    std::vector<FTextReplacement> changes;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i] != oldLines[i]) {
+            const FPlaces first = commonStart(lines[i], oldLines[i]);
+            const FPlaces last = commonEnd(lines[i], oldLines[i], first);
+            const auto line = static_cast<int>(oldLines[i].begin() - QStringView(document).begin());
+            changes.push_back({line + first.document, last.document - first.document,
+                               lines[i].mid(first.text, last.text - first.text).toString()});
+        }
+    }
+    return changes;
 }
 
 }  // namespace FLineEnds

@@ -2,6 +2,8 @@
 
 #include "genericintegration/marking/FTextReplacement.h"
 
+#include <vector>
+
 /**
  * Takes over what was edited in a document of lines, which doesn't hold how the lines of its text ended.
  *
@@ -19,7 +21,10 @@ namespace FLineEnds {
  */
 FTextReplacement change(const QString& text, const QString& document);
 
-/** The smallest change that gives a document the lines of a text, with positions of the document. */
-FTextReplacement changeOfDocument(const QString& document, const QString& text);
+/**
+ * The changes that give a document the lines of a text, with positions of the document as it is now, in ascending
+ * order: a small one for each line that differs, if the number of lines stays; else one for all of them.
+ */
+std::vector<FTextReplacement> changesOfDocument(const QString& document, const QString& text);
 
 }  // namespace FLineEnds

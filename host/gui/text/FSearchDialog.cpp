@@ -35,7 +35,7 @@ FSearchDialog::FSearchDialog(QPlainTextEdit& edit) : QDialog(&edit), mEdit(edit)
     auto* options = new QHBoxLayout;
     column->addLayout(options);
     mpCase = addOption(options, QStringLiteral("searchCase"), QStringLiteral("Match &case"));
-    mpPattern = addOption(options, QStringLiteral("searchPattern"), QStringLiteral("&Regular expression"));
+    mpPattern = addOption(options, QStringLiteral("searchPattern"), QStringLiteral("Regular e&xpression"));
     options->addStretch(1);
     mpMessage = new QLabel(this);
     mpMessage->setObjectName(QStringLiteral("searchMessage"));

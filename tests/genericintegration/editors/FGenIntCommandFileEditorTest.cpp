@@ -206,6 +206,25 @@ TEST_F(FGenIntCommandFileEditorTest, aLargeTextIsColouredInViewAndOffersEverywhe
     ASSERT_TRUE(waitUntil([&] { return reports().text().contains("more than 20,000 characters"); }));
 }
 
+TEST_F(FGenIntCommandFileEditorTest, aLineThatIsTooLongForAWidgetIsShownInPieces) {
+    const QString text = "one\r\n" + QString(4'000'000, 'z') + "<entry>none</entry>\nlast\n";
+    open(text);
+    EXPECT_EQ(shown().remove('\n'), QString(text).remove('\n').remove('\r'));
+    EXPECT_LT(edit().document()->findBlockByNumber(1).length(), 2000);
+    const int steps = FHistory::instance()->getLabels().size();
+    edit().setTextCursor(at("last", 0));
+    type(&edit(), "x");
+    page().setAlteredText();
+    edit().addEntryViaContextMenu();
+    EXPECT_EQ(content(), text);
+    EXPECT_EQ(FHistory::instance()->getLabels().size(), steps);
+    ASSERT_TRUE(waitUntil([&] { return reports().text().contains("can't be edited here"); }));
+    emit reports().linkActivated("go:0");
+    EXPECT_EQ(edit().textCursor().block().text().mid(edit().textCursor().positionInBlock(), 7), "<entry>");
+    setText("short again\n");
+    EXPECT_FALSE(edit().isReadOnly());
+}
+
 TEST_F(FGenIntCommandFileEditorTest, reportsShowTheirPlaceAndOfferARemedy) {
     open("one\ntwo <entry>forse</entry> three\n<entry>forse</entry>\n");
     ASSERT_TRUE(waitUntil([&] { return reports().isVisible(); }));

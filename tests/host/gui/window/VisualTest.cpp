@@ -1,3 +1,4 @@
+#include "genericintegration/templates/FGenIntFile.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FStateColor.h"
@@ -15,6 +16,8 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QToolButton>
 
 #include <functional>
@@ -68,6 +71,33 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
         ASSERT_TRUE(waitUntil([this] { return find("templateReports")->isVisible(); }));
         check(window(), "resultTemplate");
         ASSERT_TRUE(run("beam.setFiles([])\ndestroy(sample)"));
+    }
+
+    /** A template with a problem and its values beside it, then with a button over a number, and its search. */
+    void showTemplatePage() {
+        ASSERT_TRUE(
+            run("genericIntegrationCommandFile deck() { .setFileName(\"deck.inp\") .setContent(\"*NODE\n"
+                "1, <entry>Geometry|span</entry>, 0.125\nthickness = 2.5\n<entry>Geometry|spam</entry>\n\") }\n"
+                "beam.setFiles([deck])"));
+        window().showTemplate(object<FManaged>("deck"), 0, 0);
+        auto* values = find<QToolButton>("showValues");
+        values->click();
+        ASSERT_TRUE(waitUntil([&] { return find("templateReports")->isVisible(); }));
+        check(window(), "template");
+        values->click();
+        auto* text = find<QPlainTextEdit>("templateText");
+        QTextCursor number(text->document()->findBlockByNumber(2));
+        QTest::mouseMove(text->viewport(), QPoint(1, 1));
+        QTest::mouseMove(text->viewport(), text->cursorRect(number).center() + QPoint(text->fontMetrics().height(), 0));
+        settle();
+        EXPECT_TRUE(find("addEntryButton")->isVisible());
+        check(window(), "number");
+        press(text, Qt::Key_H, Qt::ControlModifier);
+        settle();
+        check(*find("searchDialog"), "search");
+        find("searchDialog")->close();
+        QApplication::setActiveWindow(&window());
+        EXPECT_EQ(object<FGenIntFile>("deck")->getPlainContent().count('\t'), 0);
     }
 
     /** A run with a suspicious number and one that is missing, one that failed, and one in progress. */
@@ -125,6 +155,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
         check(window(), QString::fromLatin1(row.id));
     }
     showTemplate();
+    showTemplatePage();
     showRunsAndDocuments();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());
     texts.show();

@@ -275,6 +275,8 @@ void FGenIntCommandFileEdit::scrollContentsBy(int dx, int dy) {
 
 void FGenIntCommandFileEdit::resizeEvent(QResizeEvent* event) {
     FEditor::resizeEvent(event);
+    // The text may have moved under the mouse.
+    mMouse = mMouse ? std::optional(viewport()->mapFromGlobal(QCursor::pos())) : std::nullopt;
     mHover.request();
 }
 

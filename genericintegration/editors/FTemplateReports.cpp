@@ -87,7 +87,7 @@ void FTemplateReports::fit() {
     const int most = qBound(line, parentWidget()->height() / mostOfPage, mostLines * line);
     // The area gets its size later than this widget.
     const int needed = mpText->heightForWidth(contentsRect().marginsRemoved(layout()->contentsMargins()).width());
-    mpArea->setFixedHeight(qMin(needed, most));
+    mpArea->setFixedHeight(qBound(0, needed, most));
 }
 
 void FTemplateReports::resizeEvent(QResizeEvent* event) {

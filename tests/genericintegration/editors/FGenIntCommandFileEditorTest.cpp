@@ -185,6 +185,7 @@ TEST_F(FGenIntCommandFileEditorTest, aLargeTextIsColouredInViewAndOffersEverywhe
     }
     text += "beta = 7\n" + QString(30'000, 'z') + "= 3\n";
     open(text);
+    ASSERT_TRUE(waitUntil([&] { return reports().text().contains("more than 20,000 characters"); }));
     EXPECT_EQ(edit().highlighter().document(), nullptr);
     EXPECT_EQ(colorAt("force"), QColor(Qt::darkGreen));
     EXPECT_TRUE(edit().document()->lastBlock().previous().previous().previous().layout()->formats().isEmpty());
@@ -203,7 +204,6 @@ TEST_F(FGenIntCommandFileEditorTest, aLargeTextIsColouredInViewAndOffersEverywhe
     undo();
     EXPECT_EQ(content(), before);
     EXPECT_EQ(shown(), before);
-    ASSERT_TRUE(waitUntil([&] { return reports().text().contains("more than 20,000 characters"); }));
 }
 
 TEST_F(FGenIntCommandFileEditorTest, aLineThatIsTooLongForAWidgetIsShownInPieces) {

@@ -155,6 +155,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
         check(window(), QString::fromLatin1(row.id));
     }
     showTemplate();
+    settle();
     showTemplatePage();
     showRunsAndDocuments();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());

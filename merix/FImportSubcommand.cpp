@@ -30,7 +30,6 @@ int FImportSubcommand::importInto(const QString& project) const {
         FLogMsg::error(source, QStringLiteral("\"%1\" can't be imported: %2").arg(path, fault));
         return FExitCode::fileError;
     }
-    file.close();
     const int opened =
         QFileInfo::exists(project) ? FSetUpTarget::openProject(project, FSetUpTarget::Access::Run) : FExitCode::done;
     if (opened != FExitCode::done) {
@@ -42,7 +41,7 @@ int FImportSubcommand::importInto(const QString& project) const {
                        QStringLiteral("Known kinds: %1").arg(FImport::getFilters().join(QStringLiteral(", "))));
         return FExitCode::wrongCall;
     }
-    import->read(path, false);
+    import->readOpen(file, false);
     if (import->getFaultCount() > 0) {
         FLogMsg::error(source, QStringLiteral("\"%1\" can't be imported whole").arg(path),
                        QStringLiteral("Nothing was saved; an import in a script keeps what could be read"));

@@ -8,8 +8,11 @@
 #include "merix/FTableOutput.h"
 
 std::vector<FSubcommand::Argument> FRunSubcommand::arguments() {
-    return {
-        mTarget.projectArgument(), mTarget.setArgument(), {"--json", "As JSON", &mJson}, mTarget.computationArgument()};
+    return {mTarget.projectArgument(),
+            mTarget.setArgument(),
+            {"--json", "As JSON", &mJson},
+            {"--chain", "First runs the computations whose results it uses", &mChain},
+            mTarget.computationArgument()};
 }
 
 int FRunSubcommand::run() const {
@@ -19,7 +22,7 @@ int FRunSubcommand::run() const {
         return exitCode;
     }
     FCustomComputation& computation = *mTarget.computation();
-    const bool isDone = computation.run();
+    const bool isDone = mChain ? computation.runWithSuppliers() : computation.run();
     auto* results = dynamic_cast<FResultsGeneric*>(computation.getCurrentResults().ptr());
     if (isDone && results && results->prepareResults()) {
         FStandardOutput::write(FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text));

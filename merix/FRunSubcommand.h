@@ -2,7 +2,7 @@
 
 #include "merix/FSetUpTarget.h"
 
-/** `merix run PROJECT [--set ENTRY=VALUE]…`: runs the computation and prints the values. */
+/** `merix run PROJECT [--set ENTRY=VALUE]… [--chain]`: runs the computation and prints the values. */
 class FRunSubcommand : public FSubcommand {
  public:
     const char* name() const override { return "run"; }
@@ -13,4 +13,5 @@ class FRunSubcommand : public FSubcommand {
  private:
     FSetUpTarget mTarget;
     bool mJson = false;
+    bool mChain = false;
 };

@@ -5,6 +5,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FNumber.h"
+#include "host/core/FObjectManager.h"
 #include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryDef.h"
@@ -53,6 +54,22 @@ bool worksByItself(const FEntry& entry) {
                           object->isTypeOf(FFileName::null()));
     };
     return works(type) || works(stored) || works(entry.getValue().getType());
+}
+
+/**
+ * A computation on whose results an expression depends, although it hasn't run yet; null if there is none. Where runs
+ * are only checked, none has.
+ */
+const FExternComputation* supplierWithoutResults(const FExprBase& expression) {
+    const FObject* stored = expression.getStored();
+    for (const FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
+        const auto* computation = dynamic_cast<const FExternComputation*>(object);
+        const bool hasResults = computation->getCurrentResults() && !FSetUpCheck::isReplacingRuns();
+        if (stored && !hasResults && stored->dependsOn(computation)) {
+            return computation;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -208,6 +225,16 @@ void FEntryProblems::findFile(const FEntry& entry, const FObject* value, FProble
 void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const {
     const FExprBase& name = file.getFileName();
     if (!name.isDetached() && !mMayReadFiles && !name.canSafelyBeUpdated(false)) {
+        return;
+    }
+    if (const FExternComputation* supplier = supplierWithoutResults(name)) {
+        // Where runs are only checked, it might have been run.
+        if (!FSetUpCheck::isReplacingRuns()) {
+            problems.warning(mConfiguration.getName(),
+                             entryText(entry) + QStringLiteral("links to a result of %1, which has none yet: %2")
+                                                    .arg(supplier->getName(), name.toHistoryString()),
+                             QStringLiteral("Run %1 first, or both with run(true)").arg(supplier->getName()));
+        }
         return;
     }
     const QString path = name.isDetached() ? QString() : file.getFileNameText();

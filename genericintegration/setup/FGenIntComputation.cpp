@@ -7,7 +7,6 @@
 #include "genericintegration/setup/FResultsGenInt.h"
 #include "genericintegration/setup/FSetUpExport.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
-#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
@@ -102,8 +101,7 @@ FManaged* FGenIntComputation::setName(const QString& name) {
     return this;
 }
 
-bool FGenIntComputation::exportSetUp(const QString& fileName, bool chain) const {
-    const QString path = FFile::resolveEnv(fileName);
+bool FGenIntComputation::exportSetUp(const QString& path, bool chain) const {
     const FSetUpExport file(*this, chain ? FSetUpExport::Extent::Chain : FSetUpExport::Extent::Single);
     const QString reason =
         file.isPossible() ? file.save(path) : QStringLiteral("it has no configuration with a definition");

@@ -20,7 +20,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     FExpr<FComputationResults> getResults() const override { return FCustomComputation::getResults(); }
     bool isGeneric() const override { return true; }
     QMap<QString, QString> describeSetUp() const override;
-    bool exportSetUp(const QString& fileName, bool chain) const override;
+    bool exportSetUp(const QString& path, bool chain) const override;
 
     /** A new computation of this name with the program's settings, but without a configuration. */
     FObject* clone() const override;

@@ -105,7 +105,7 @@ void FImportSoftwareConnector::importBytes(const QByteArray& bytes, const QStrin
     if (const int line = FTextDecoder::firstInvalidLine(bytes)) {
         ++mFaultCount;
         FLogMsg::warning(source + QLatin1Char(':') + QString::number(line),
-                         QStringLiteral("bytes that aren't UTF-8 stand in this line; they are read as \"\uFFFD\""));
+                         QStringLiteral("this line has bytes that aren't UTF-8; they are read as \"\uFFFD\""));
     }
     FScriptNames names;
     const std::vector<FSetUpPart> parts = FSetUpParts::split(FTextDecoder::decode(bytes));

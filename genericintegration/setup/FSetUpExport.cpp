@@ -20,7 +20,7 @@ FDefinitionGenInt* definitionOf(const FGenIntComputation& computation) {
     return configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
 }
 
-/** What stands beside the definition and its files in the part of a computation. */
+/** The objects in the part of a computation, apart from the definition and its files. */
 QSet<FExpr<FManaged>> objectsOf(const FGenIntComputation& computation) {
     QSet<FExpr<FManaged>> objects{FExpr<FManaged>(&computation), FExpr<FManaged>(computation.getConfiguration())};
     const QList<FConnectorInterface*> connectors = FConnectorInterface::getConnectors();

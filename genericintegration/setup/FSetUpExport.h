@@ -11,7 +11,7 @@ class QFile;
 
 /**
  * Writes set-ups as an exchange file: for each its definition with templates, its computation, its configuration, and
- * its connector if there is one. The set-ups of a chain stand one behind the other, suppliers first.
+ * its connector if there is one. The set-ups of a chain follow each other, suppliers first.
  */
 class FSetUpExport {
  public:

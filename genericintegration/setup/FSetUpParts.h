@@ -19,6 +19,6 @@ struct FSetUpPart {
 /** The parts of an exchange file that holds several set-ups, in their order. */
 class FSetUpParts {
  public:
-    /** A part begins at each line with the XML header. What stands before the first header is a part, too. */
+    /** A part begins at each line with the XML header. What comes before the first header is a part, too. */
     static std::vector<FSetUpPart> split(const QString& text);
 };

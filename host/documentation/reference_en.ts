@@ -762,18 +762,22 @@ print(solver.rereadResults(), solver.getResults().getDataAt("CL", 0))</translati
         <translation>True if all files that results are read from exist, and there is at least one.</translation>
     </message>
     <message>
-        <source>!FExternComputation.member.run()</source>
+        <source>!FExternComputation.member.run(bool,suppliersFirst=false)</source>
         <translation>Runs the program and waits for its end. First, the files of an earlier run are moved to .earlier, so that old results can't be mistaken for new ones; then input files are copied, and exports and input templates are written. A run fails if the input can't be written, if the program isn't found, if it ends by a signal or with an exit code that isn't allowed, if it doesn't write a file that results are read from, or if a rule of the computation is broken. The message then gives the cause, the entries that differ from the run before, the lines of the output that look like a cause, and the folder; the script continues. A script that ignores the result of a failed run ends with code 1. While a run is in progress, a second one is refused.</translation>
     </message>
     <message>
-        <source>!FExternComputation.member.run():example</source>
+        <source>!FExternComputation.member.run(bool,suppliersFirst=false):argument0</source>
+        <translation>True: first runs the computations whose results this one uses, at any distance, each of them only if it has no successful run with the present set-up. If one of them does not succeed, those that use its results are not run, and their state is "not run: upstream failed".</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.run(bool,suppliersFirst=false):example</source>
         <translation>genericIntegrationDefinition wing() {}
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }
 genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("echo"); .setArguments(["0.52", "0.031"]) }
 if (!solver.run()) { print("the run ended as:", solver.getState()) }</translation>
     </message>
     <message>
-        <source>!FExternComputation.member.run():returnValue</source>
+        <source>!FExternComputation.member.run(bool,suppliersFirst=false):returnValue</source>
         <comment>return type: bool</comment>
         <translation>True if the run succeeded.</translation>
     </message>

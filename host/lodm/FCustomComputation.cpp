@@ -1,5 +1,6 @@
 #include "host/lodm/FCustomComputation.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/design/FInputFile.h"
 #include "host/run/FFileDigest.h"
@@ -56,7 +57,11 @@ void FCustomComputation::declareCommands(FCmdTable& table) {
     table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
         .attrName("Configuration")
         .data();
-    table.member<F>("exportSetUp", &F::exportSetUp, {"fileName", "chain=false"});
+    table.member<F>("exportSetUp",
+                    +[](const F& computation, const QString& fileName, bool chain) {
+                        return computation.exportSetUp(FFile::resolveEnv(fileName), chain);
+                    },
+                    {"fileName", "chain=false"});
     table.plain<F>("setCmdFile", &F::mCmdFile, {"fileName"}).copied().attrName("Command File");
 }
 
@@ -105,9 +110,9 @@ FCustomComputation* FCustomComputation::cloneSetup() const {
     return copy;
 }
 
-bool FCustomComputation::exportSetUp(const QString& fileName, bool chain) const {
+bool FCustomComputation::exportSetUp(const QString& path, bool chain) const {
     Q_UNUSED(chain)
-    FLogMsg::error(getName(), QStringLiteral("its set-up can't be written to \"%1\"").arg(fileName),
+    FLogMsg::error(getName(), QStringLiteral("its set-up can't be written to \"%1\"").arg(path),
                    QStringLiteral("computations of the class %1 have no exchange file").arg(getClass()));
     return false;
 }

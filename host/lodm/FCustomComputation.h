@@ -31,7 +31,7 @@ class MERIX_EXPORT FCustomComputation : public FClass<FCustomComputation, FExter
      * @param chain  with the set-ups of all computations that this one is linked with, see FComputationChain
      * @return false, with a message, if that isn't possible
      */
-    virtual bool exportSetUp(const QString& fileName, bool chain) const;
+    virtual bool exportSetUp(const QString& path, bool chain) const;
 
     QString getResultFile(const QString& entry) const override;
     QMap<QString, QString> describeSetUp() const override;

@@ -32,15 +32,7 @@ FClassData FImport::mClass("FImport", &FManaged::mClass, &commands);
 FExpr<FObjectList> FImport::read(const QString& fileName, bool flag) {
     QFile file;
     if (open(file, fileName)) {
-        const FBusy busy;
-        const FWaitCursor cursor;
-        mFaultCount = 0;
-        reset();
-        const FGlUpdateBlocker picture;
-        const FEditorUpdateBlocker editors;
-        const FImmediateUpdateBlocker updates;
-        const FObjectTreeBlocker tree;
-        doImport(file, flag);
+        readOpen(file, flag);
     }
     return FExpr<FObjectList>(new FObjectList);
 }
@@ -55,6 +47,18 @@ std::vector<std::unique_ptr<FImport>> FImport::makeAll() {
         }
     }
     return imports;
+}
+
+void FImport::readOpen(QFile& file, bool flag) {
+    const FBusy busy;
+    const FWaitCursor cursor;
+    mFaultCount = 0;
+    reset();
+    const FGlUpdateBlocker picture;
+    const FEditorUpdateBlocker editors;
+    const FImmediateUpdateBlocker updates;
+    const FObjectTreeBlocker tree;
+    doImport(file, flag);
 }
 
 std::unique_ptr<FImport> FImport::forFile(const QString& fileName) {

@@ -26,6 +26,8 @@ class MERIX_EXPORT FImport : public FClass<FImport, FManaged> {
      * @return a new list for the caller, empty unless a derived class fills it
      */
     virtual FExpr<FObjectList> read(const QString& fileName, bool flag);
+    /** Imports a file that is open for reading. */
+    void readOpen(QFile& file, bool flag);
     /** How much of the last file couldn't be imported, or is missing in it; all of it was reported. */
     int getFaultCount() const { return mFaultCount; }
 

@@ -11,11 +11,11 @@ class MERIX_EXPORT FComputationChain {
  public:
     using Computations = QList<FExternComputation*>;
 
-    /** Those whose results the computation uses, at any distance. Suppliers stand before their clients. */
+    /** Those whose results the computation uses, at any distance. Suppliers come before their clients. */
     static Computations suppliersOf(const FExternComputation& computation);
     /**
      * The computation with all that it uses, and all that use it, at any distance; not those that only share a supplier
-     * with it. Suppliers stand before their clients, unrelated ones in the order of their creation as far as possible.
+     * with it. Suppliers come before their clients, unrelated ones in the order of their creation as far as possible.
      */
     static Computations of(const FExternComputation& computation);
 };

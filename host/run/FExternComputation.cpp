@@ -2,7 +2,9 @@
 
 #include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
+#include "host/core/FIni.h"
 #include "host/core/FLogMsg.h"
+#include "host/run/FChainRun.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultFiles.h"
 #include "host/run/FResultsGeneric.h"
@@ -67,20 +69,67 @@ bool FExternComputation::run(bool wait) {
         takeUnknownResults();
         return false;
     }
-    if (!canRun()) {
-        FLogMsg::warning(getName(), QStringLiteral("A run is still in progress"),
-                         QStringLiteral("start another when it has ended, or cancel it"));
+    if (!mayRun()) {
         return false;
     }
     mSetUpReport.log(FSetUpCheck::problemsOf(*this, true));
+    mAttempt = makeAttempt();
+    const std::shared_ptr<FRunAttempt> attempt = mAttempt;
+    return attempt->execute(wait);
+}
+
+bool FExternComputation::mayRun() const {
+    if (!canRun()) {
+        FLogMsg::warning(getName(), QStringLiteral("A run is still in progress"),
+                         QStringLiteral("start another when it has ended, or cancel it"));
+    }
+    return canRun();
+}
+
+bool FExternComputation::runWithSuppliers(bool wait) {
+    if (FSetUpCheck::isReplacingRuns()) {
+        for (FExternComputation* supplier : FComputationChain::suppliersOf(*this)) {
+            supplier->run();
+        }
+        return run();
+    }
+    return mayRun() && FChainRun::run(*this, wait);
+}
+
+void FExternComputation::guiRun() {
+    const FExpr<FInteger> setting = FIni::getSetting(FChainRun::settingKey());
+    setting && setting->toDouble() == 0 ? run(false) : runWithSuppliers(false);
+}
+
+bool FExternComputation::isUpToDate() const {
+    // The set-up is compared by its values.
+    update();
+    const FComputationResults* results = getCurrentResults().ptr();
+    const std::shared_ptr<const FRunRecord> run = results ? results->getRun() : nullptr;
+    if (!run || run->setUp.isEmpty() || !results->getFaultOfFiles().isEmpty()) {
+        return false;
+    }
+    const QStringList files = mRules.withoutOptional(getReadFiles());
+    const QString folder = results->getResultPath();
+    return !folder.isEmpty() && QDir(folder).exists() && FResultFiles(folder, files).missing().isEmpty();
+}
+
+void FExternComputation::skipRun(const QString& reason) {
+    if (mAttempt) {
+        return;
+    }
+    mAttempt = makeAttempt();
+    const std::shared_ptr<FRunAttempt> attempt = mAttempt;
+    attempt->skip(reason);
+}
+
+std::shared_ptr<FRunAttempt> FExternComputation::makeAttempt() {
     FPathManager* paths = FPathManager::instance();
     const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), mDesign);
     FProcessSetup setup = mProgram.setupIn(folder);
     setup.exitCodes = mRules.exitCodes;
-    const auto attempt = std::make_shared<FRunAttempt>(
-        this, setup, paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign), getReadFiles(), getFurtherFiles());
-    mAttempt = attempt;
-    return attempt->execute(wait);
+    return std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign),
+                                         getReadFiles(), getFurtherFiles());
 }
 
 // The rest of a script that is only checked works with them.
@@ -164,6 +213,9 @@ bool FExternComputation::writeInput(const QString& folder) const {
 bool FExternComputation::cancel() {
     if (mAttempt) {
         mAttempt->cancel();
+    } else if (const std::shared_ptr<FChainRun> chain = mChain) {
+        chain->cancel();
+        return true;
     }
     return mAttempt != nullptr;
 }

@@ -14,6 +14,7 @@
 
 #include <memory>
 
+class FChainRun;
 class FRunAttempt;
 
 /**
@@ -52,8 +53,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     const FSuccessRules& getSuccessRules() const { return mRules; }
 
     // ---- runs ----
-    /** False while a run is in progress. */
-    bool canRun() const { return !mAttempt; }
+    /** False while a run is in progress, or another one that it waits for. */
+    bool canRun() const { return !mAttempt && !mChain; }
     /** Why the program can't be started, for the user; empty if nothing prevents it. */
     virtual QString checkSetup() const { return mProgram.fault(); }
     /**
@@ -62,14 +63,19 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
      *              the program is being started.
      */
     bool run(bool wait = true);
-    /** Starts a run from a window, which doesn't wait for it. */
-    void guiRun() { run(false); }
+    /**
+     * The same, but first runs the computations whose results this one uses, at any distance, as far as they have no
+     * successful run with the present set-up. If one of them doesn't succeed, this one isn't run.
+     */
+    bool runWithSuppliers(bool wait = true);
+    /** Starts a run from a window, which doesn't wait for it: with suppliers unless a setting says otherwise. */
+    void guiRun();
     /**
      * Starts a run as soon as control is back in the event loop, and doesn't wait for it. Calls until then count as
      * one. Nothing happens if the computation can't run by then, or is no longer in the model.
      */
     void triggerRunByTimer();
-    /** Requests the end of the run; false if there is none. */
+    /** Requests the end of the run, or of the one that it waits for; false if there is none. */
     bool cancel();
     void cancelExternalProcess() { cancel(); }
     /**
@@ -177,11 +183,19 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual QString getInputFault() const { return {}; }
 
  private:
+    friend class FChainRun;
     friend class FRunAttempt;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
     bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
     QString rereadRefusal() const;
+    /** Whether a run can be started; tells if not. */
+    bool mayRun() const;
+    std::shared_ptr<FRunAttempt> makeAttempt();
+    /** Whether the last run has succeeded with the present set-up, and its files are there. */
+    bool isUpToDate() const;
+    /** The next run ends before it begins. */
+    void skipRun(const QString& reason);
     void takeUnknownResults();
 
     static void declareCommands(FCmdTable& table);
@@ -202,6 +216,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     FSuccessRules mRules;
     FInputChanges mInput;
     std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
+    std::shared_ptr<FChainRun> mChain;      // null unless a run waits for others
     FExpr<FDesign> mDesign;
     std::shared_ptr<const FRunRecord> mRecord;  // of the last run of this session
     FExpr<FDesign> mRunDesign;                  // its design

@@ -71,8 +71,11 @@ void FExternComputation::declareCommands(FCmdTable& table) {
         .data();
     declareRules(table);
     table
-        .member<F>(
-            "run", +[](F& computation) { return computation.run(); })
+        .member<F>("run",
+                   +[](F& computation, bool suppliersFirst) {
+                       return suppliersFirst ? computation.runWithSuppliers() : computation.run();
+                   },
+                   {"suppliersFirst=false"})
         .unwrapped()
         .outcome();
     table.member<F>("rereadResults", &F::rereadResults);

@@ -21,6 +21,7 @@ struct MERIX_EXPORT FProcessOutcome {
         NumberRule,   //!< of a run: a rule about the numbers that were read is broken
         Cancelled,    //!< by FProcess::cancel(), or by a signal to the supervisor
         Interrupted,  //!< of a run: merix ended during it, so no end is recorded
+        UpstreamFailed,  //!< of a run: it uses results of another one that didn't succeed
     };
 
     Cause cause = Cause::None;

@@ -19,6 +19,8 @@ State stateOf(Cause cause) {
             return State::TimedOut;
         case Cause::Cancelled:
             return State::Cancelled;
+        case Cause::UpstreamFailed:
+            return State::NotRun;
         default:
             return State::Failed;
     }

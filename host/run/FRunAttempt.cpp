@@ -69,6 +69,13 @@ void FRunAttempt::start() {
     }
 }
 
+void FRunAttempt::skip(const QString& reason) {
+    FComputationResults* results = mComputation->takeRun(record());
+    // The files in the folder are those of an earlier run.
+    results->setResultPath(QString());
+    mRun.fail(Cause::UpstreamFailed, reason);
+}
+
 // Files of another process's run must not be moved.
 QString FRunAttempt::findRefusal() {
     const QString holder = FExternComputation::getHolderOfRuns();
@@ -181,6 +188,8 @@ void FRunAttempt::report() const {
     const FRunRecord& run = mRun.record();
     if (run.cause == Cause::Cancelled) {
         FLogMsg::info(run.computation, QStringLiteral("The run was cancelled"), QString());
+    } else if (run.cause == Cause::UpstreamFailed) {
+        FLogMsg::warning(run.computation, run.message);
     } else if (run.cause != Cause::None) {
         FLogMsg::error(run.computation, run.failureText());
     } else if (!run.message.isEmpty()) {

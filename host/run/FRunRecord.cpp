@@ -15,9 +15,11 @@ QString FRunRecord::stateName() const {
         case State::Cancelled:
             return QStringLiteral("cancelled");
         case State::TimedOut:
+            return QStringLiteral("timed out");
+        case State::NotRun:
             break;
     }
-    return QStringLiteral("timed out");
+    return QStringLiteral("not run: upstream failed");
 }
 
 QString FRunRecord::outcomeName() const {

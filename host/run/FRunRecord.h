@@ -8,12 +8,12 @@
 
 /** One attempt to run the program of a computation: its state, and how the program ended. */
 struct MERIX_EXPORT FRunRecord : FProcessOutcome {
-    enum class State { Ready, Writing, Running, Finished, Failed, Cancelled, TimedOut };
+    enum class State { Ready, Writing, Running, Finished, Failed, Cancelled, TimedOut, NotRun };
 
     bool isOver() const { return state >= State::Finished; }
     bool isSuccess() const { return state == State::Finished; }
     /** The state in words, as scripts see it: "ready", "writing", "running", "finished", "failed", "cancelled",
-     *  "timed out". */
+     *  "timed out", "not run: upstream failed". */
     QString stateName() const;
     /** The same, but "interrupted" for a run that ended with its process. */
     QString outcomeName() const;

@@ -10,7 +10,8 @@ struct Example {
     const char* script;
     const char* lastLine;
     const char* useOfSetUp;  //!< the script that includes setup.merix
-    const char* definition;
+    const char* definition;  //!< null if there are several
+    const char* computation;
 
     friend void PrintTo(const Example& example, std::ostream* stream) { *stream << example.script; }
 };
@@ -42,6 +43,9 @@ TEST_P(ExamplesTest, agreesWithItsFormulasAndGivesTheSameNumbersWhenReopened) {
 }
 
 TEST_P(ExamplesTest, keepsItsNumbersWhenTheDefinitionComesFromAnExchangeFile) {
+    if (!GetParam().definition) {
+        GTEST_SKIP() << "It has several definitions.";
+    }
     const QString use = example(GetParam().useOfSetUp);
     const QString setUp = use.section('/', 0, -2) + "/setup.merix";
     const Outcome first = script("include(\"" + use + "\")\nprint(" + GetParam().definition + ".save(\"übung.lodm\"))");
@@ -53,13 +57,30 @@ TEST_P(ExamplesTest, keepsItsNumbersWhenTheDefinitionComesFromAnExchangeFile) {
     EXPECT_EQ(second.output, first.output) << second.errors.toStdString();
 }
 
+TEST_P(ExamplesTest, keepsItsNumbersWhenItsChainIsHandedOn) {
+    const QString use = example(GetParam().useOfSetUp);
+    ASSERT_EQ(script("include(\"" + use.section('/', 0, -2) + "/setup.merix\")\nsaveProject(\"p.mrx\")").exitCode, 0);
+    const QString computation = GetParam().computation;
+    const Outcome exported = merix({"export", "p.mrx", "--computation", computation, "--chain", "--out", "p.lodm"});
+    EXPECT_EQ(exported.exitCode, 0) << exported.errors.toStdString();
+    ASSERT_TRUE(QDir(path()).mkdir("other"));
+    EXPECT_EQ(merix({"import", "p.lodm", "--into", "other/q.mrx"}).exitCode, 0);
+    const Outcome wanted = merix({"run", "p.mrx", "--computation", computation, "--chain"});
+    const Outcome found = merix({"run", "other/q.mrx", "--computation", computation, "--chain"});
+    EXPECT_GE(wanted.output.count('\n'), 3) << wanted.errors.toStdString();
+    EXPECT_EQ(found.output, wanted.output) << found.errors.toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(, ExamplesTest,
                          testing::Values(Example{"cantilever", "ccx", "cantilever/designs.merix",
                                                  "All numbers are within 0.25 % of the theory.",
-                                                 "cantilever/cantilever.merix", "beamDefinition"},
+                                                 "cantilever/cantilever.merix", "beamDefinition", "calculix"},
                                          Example{"bandpass", "ngspice", "bandpass/bandpass.merix",
                                                  "All numbers agree with the formulas.", "bandpass/bandpass.merix",
-                                                 "filterDefinition"}),
+                                                 "filterDefinition", "ngspice"},
+                                         Example{"heat_exchanger", "gmsh", "heat-exchanger/heat-exchanger.merix",
+                                                 "All numbers are within 0.01 % of the formulas.",
+                                                 "heat-exchanger/heat-exchanger.merix", nullptr, "calculix"}),
                          [](const auto& test) { return test.param.name; });
 
 }  // namespace

@@ -158,8 +158,46 @@ TEST_F(SetUpTest, callsAreRefusedWithTheNearestName) {
     EXPECT_EQ(merix({"run", "p.mrx", "--computation", "other"}).exitCode, 1) << "the program failed";
 }
 
+TEST_F(SetUpTest, aChainIsExportedImportedAndRun) {
+    makeProject(R"(
+genericIntegrationResultsFile sum() { .setFileName("sum.txt") .setValues([["sum", 0, 0, "", First, "FDouble", ""]]) }
+genericIntegrationDefinition def2() { .addEntry("data", inputFile("none")) .setFiles([sum]) }
+genericIntegrationConfiguration conf2() {
+    .setDefinition(def2); .setEntryValue("data", inputFile(comp.getResults().getResultTemplateName("out.txt")))
+}
+genericIntegrationComputation adder() {
+    .setConfiguration(conf2); .setExecutable("sh"); .setArguments(["-c", "read w x < out.txt; echo $((x+1)) > sum.txt"])
+}
+)");
+    const Outcome single = merix({"export", "p.mrx", "--computation", "adder", "--out", "ä/a.lodm"});
+    EXPECT_EQ(single.exitCode, 3) << "no folder";
+    const Outcome exported = merix({"export", "p.mrx", "--computation", "adder", "--chain", "--out", "a.lodm"});
+    EXPECT_EQ(exported.exitCode, 0) << exported.errors.toStdString();
+    EXPECT_EQ(exported.errors + exported.output, "");
+
+    ASSERT_TRUE(QDir(path()).mkdir("other"));
+    const Outcome imported = merix({"import", "a.lodm", "--into", "other/q"});
+    EXPECT_EQ(imported.exitCode, 0) << imported.errors.toStdString();
+    const Outcome ran = merix({"run", "other/q.mrx", "--computation", "adder", "--chain"});
+    EXPECT_EQ(ran.exitCode, 0) << ran.errors.toStdString();
+    EXPECT_EQ(ran.output, "sum = 5\n");
+    EXPECT_EQ(merix({"import", "a.lodm", "--into", "other/q.mrx"}).exitCode, 0);
+    const Outcome again = merix({"run", "other/q.mrx", "--computation", "adder_01", "--chain"});
+    EXPECT_EQ(again.output, "sum = 5\n") << again.errors.toStdString();
+
+    const QByteArray project = read("other/q.mrx");
+    write("cut.lodm", read("a.lodm").chopped(100));
+    const Outcome cut = merix({"import", "cut.lodm", "--into", "other/q.mrx"});
+    EXPECT_EQ(cut.exitCode, 1);
+    EXPECT_TRUE(cut.errors.contains("can't be imported whole")) << cut.errors.toStdString();
+    EXPECT_EQ(read("other/q.mrx"), project);
+    EXPECT_EQ(merix({"import", "p.mrx", "--into", "other/q.mrx"}).exitCode, 2) << "of another kind";
+    EXPECT_EQ(merix({"import", "none.lodm", "--into", "other/q.mrx"}).exitCode, 3);
+}
+
 TEST_F(SetUpTest, examplesHaveNoProblems) {
-    for (const char* name : {"cantilever/cantilever.merix", "cantilever/designs.merix", "bandpass/bandpass.merix"}) {
+    for (const char* name : {"cantilever/cantilever.merix", "cantilever/designs.merix", "bandpass/bandpass.merix",
+                             "heat-exchanger/heat-exchanger.merix"}) {
         const Outcome outcome = merix({"check", QString(MERIX_EXAMPLES "/") + name, "--json"});
         const QJsonObject all = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
         for (const QJsonValue& problem : all["problems"].toArray()) {

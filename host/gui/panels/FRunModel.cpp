@@ -35,6 +35,7 @@ Look lookOf(State state) {
         case State::TimedOut:
             return {"chronometer", FStateColor::State::Warning};
         case State::Cancelled:
+        case State::NotRun:
             return {"dialog-cancel", FStateColor::State::Secondary};
         case State::Ready:
         case State::Writing:

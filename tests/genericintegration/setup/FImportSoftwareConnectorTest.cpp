@@ -217,7 +217,7 @@ TEST_F(FImportSoftwareConnectorTest, otherPartsAreReportedWithTheirLine) {
     EXPECT_FALSE(computation("c")->getConfiguration());
 
     write("bytes.lodm", (definition + "// ").toUtf8() + '\xe9' + '\n' + end.toUtf8());
-    EXPECT_EQ(import("bytes.lodm").filter("bytes.lodm:4: bytes that aren't UTF-8").size(), 1);
+    EXPECT_EQ(import("bytes.lodm").filter("bytes.lodm:4: this line has bytes that aren't UTF-8").size(), 1);
     EXPECT_EQ(import("none.lodm"), QStringList());
 }
 

@@ -1,0 +1,132 @@
+#include "host/core/FIni.h"
+#include "host/core/FMerixCtrl.h"
+#include "host/core/FUserStep.h"
+#include "host/run/FRunRecord.h"
+#include "host/run/FSetUpCheck.h"
+#include "tests/genericintegration/setup/FChainTest.h"
+#include "tests/support/waitUntil.h"
+
+namespace {
+
+class FChainRunTest : public FChainTest {
+ protected:
+    FChainRunTest() { FIni::setFile(path("settings.ini")); }
+    ~FChainRunTest() override { FIni::setFile({}); }
+
+    /** Runs "third" with its suppliers; returns which of the chain were run, and their states if one isn't finished. */
+    QString runThird() {
+        std::vector<std::shared_ptr<const FRunRecord>> before;
+        for (const QString& name : mChain) {
+            before.push_back(computation(name)->getLastRecord());
+        }
+        mIsSuccess = computation("third")->runWithSuppliers();
+        QStringList runs;
+        for (int i = 0; i < mChain.size(); ++i) {
+            if (computation(mChain[i])->getLastRecord() != before[static_cast<std::size_t>(i)]) {
+                runs.append(mChain[i]);
+            }
+        }
+        return runs.join(' ');
+    }
+    QString states() const {
+        QStringList words;
+        for (const QString& name : mChain) {
+            words.append(computation(name)->getLastRun().stateName());
+        }
+        return words.join(", ");
+    }
+    static bool waitForEnd() {
+        return waitUntil([] { return computation("third")->canRun() && computation("first")->canRun(); });
+    }
+
+    const QStringList mChain{"first", "second", "third"};
+    bool mIsSuccess = false;
+};
+
+TEST_F(FChainRunTest, whatHasTheNumbersOfThePresentSetUpIsNotRunAgain) {
+    EXPECT_EQ(runThird(), "first second third");
+    EXPECT_TRUE(mIsSuccess);
+    EXPECT_EQ(numbers(mChain), "3 9 10");
+    EXPECT_EQ(runThird(), "third") << "what is asked for is run in any case";
+    ASSERT_TRUE(run("conf1.setEntryValue(\"x\", 4)"));
+    EXPECT_EQ(runThird(), "first second third");
+    EXPECT_EQ(numbers(mChain), "4 16 17");
+    // The other sign gives another file to the second, but no other number to the third.
+    ASSERT_TRUE(run("conf1.setEntryValue(\"x\", -4); conf3.setEntryValue(\"note\", 1)"));
+    EXPECT_EQ(runThird(), "first second third");
+    ASSERT_TRUE(run("second.setTimeLimit(100); second.setArguments([\"-c\", \"echo v 2 > second.txt\"])"));
+    EXPECT_EQ(runThird(), "second third");
+    EXPECT_EQ(numbers(mChain), "-4 2 3");
+    ASSERT_TRUE(QDir(path("study.results/baseline/first")).removeRecursively());
+    EXPECT_EQ(runThird(), "first third") << "the files are gone, but come back as they were";
+    EXPECT_FALSE(logHolds("error")) << logText();
+    ASSERT_TRUE(run("conf1.setEntryValue(\"x\", 5)\nprint(second.run())"));
+    EXPECT_EQ(numbers({"first"}), "-4") << "in a script nothing runs unrequested";
+    EXPECT_EQ(textOf("apart.getState()"), "ready") << "no other client is run";
+}
+
+TEST_F(FChainRunTest, afterAFailureTheOthersAreNotRun) {
+    EXPECT_EQ(runThird(), "first second third");
+    ASSERT_TRUE(run("first.setArguments([\"-c\", \"exit 1\"])"));
+    EXPECT_EQ(runThird(), "first second third");
+    EXPECT_FALSE(mIsSuccess);
+    EXPECT_EQ(states(), "failed, not run: upstream failed, not run: upstream failed");
+    EXPECT_TRUE(logHolds("third: It was not run: it uses results of \"first\", whose run ended as: failed."))
+        << logText();
+    EXPECT_EQ(numbers({"third"}), "NaN") << "never those of the run before";
+    EXPECT_EQ(read("study.results/baseline/third/third.txt"), "v 10\n") << "whose files stay";
+
+    ASSERT_TRUE(
+        run("first.setArguments([\"-c\", \". ./in.txt; echo v $x > first.txt\"])\n"
+            "second.setExecutable(\"no-such-program\")\nprint(third.run(true))"));
+    EXPECT_EQ(states(), "finished, failed, not run: upstream failed");
+    EXPECT_FALSE(computation("third")->run()) << "a single run is started in any case, with what is there";
+    EXPECT_EQ(states(), "finished, failed, failed");
+}
+
+TEST_F(FChainRunTest, aWindowDoesNotWait) {
+    FGenIntComputation* third = computation("third");
+    third->guiRun();
+    EXPECT_FALSE(third->canRun());
+    EXPECT_FALSE(third->runWithSuppliers(false));
+    EXPECT_TRUE(logHolds("third: A run is still in progress")) << logText();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(numbers(mChain), "3 9 10");
+
+    ASSERT_TRUE(run("first.setExecutable(\"sleep\"); first.setArguments([\"100\"])"));
+    third->guiRun();
+    EXPECT_TRUE(third->cancel());
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(states(), "cancelled, not run: upstream failed, not run: upstream failed");
+
+    FIni().setValue("run/suppliersFirst", 0);
+    third->guiRun();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(states().section(", ", 0, 1), "cancelled, not run: upstream failed");
+    EXPECT_NE(third->getLastRun().stateName(), "not run: upstream failed");
+}
+
+TEST_F(FChainRunTest, membersMayLeaveMeanwhile) {
+    EXPECT_TRUE(computation("third")->runWithSuppliers(false));
+    ASSERT_TRUE(run("destroy(second)"));
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(computation("first")->getLastRun().stateName(), "finished");
+    EXPECT_FALSE(computation("third")->getLastRun().isSuccess());
+
+    ASSERT_TRUE(run("first.setExecutable(\"sleep\"); first.setArguments([\"100\"])\napart.setExecutable(\"true\")"));
+    const FExpr<FGenIntComputation> apart(computation("apart"));
+    EXPECT_TRUE(apart->runWithSuppliers(false));
+    ASSERT_TRUE(run("destroy(apart)"));
+    ASSERT_TRUE(waitUntil([] { return computation("first")->canRun(); }));
+    EXPECT_EQ(computation("first")->getLastRun().stateName(), "cancelled");
+}
+
+TEST_F(FChainRunTest, aCheckRunsNothing) {
+    QStringList replaced;
+    FSetUpCheck::setSubstituteForRuns([&replaced](const FExternComputation& each) { replaced.append(each.getName()); });
+    EXPECT_FALSE(computation("third")->runWithSuppliers());
+    FSetUpCheck::setSubstituteForRuns({});
+    EXPECT_EQ(replaced, mChain);
+}
+
+}  // namespace

@@ -8,6 +8,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntCheck.h"
 #include "genericintegration/setup/FGenIntComputation.h"
+#include "genericintegration/setup/FGenIntEditor.h"
 #include "genericintegration/setup/FImportSoftwareConnector.h"
 #include "genericintegration/setup/FPreviewCommands.h"
 #include "genericintegration/setup/FResultsGenInt.h"
@@ -20,7 +21,7 @@ namespace {
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
                       FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FImportSoftwareConnector,
                       FResultsGenInt, FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass,
-                      FPreviewCommands>
+                      FGenIntEditor, FPreviewCommands>
     types;
 
 const bool isChecked = FGenIntCheck::enable();

@@ -896,6 +896,56 @@ for (span in [10, 12, 14]) {
 }</translation>
     </message>
     <message>
+        <source>!FGenIntEditor</source>
+        <translation>Stands for the editing of a definition: when the definition is set, a software connector is made for each computation that has it. A computation that has a connector already keeps it; the new one then has no computation.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.attribute.setDefinition(FDefinitionGenInt,definition)</source>
+        <translation>Sets the definition to edit, and makes a connector for each computation that has it, named after the computation with the ending _Connector. Returns the editor.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.attribute.setDefinition(FDefinitionGenInt,definition):argument0</source>
+        <translation>The definition; NULL for none.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.attribute.setDefinition(FDefinitionGenInt,definition):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise) }
+genericIntegrationEditor editor()
+editor.setDefinition(wing)</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.attribute.setDefinition(FDefinitionGenInt,definition):returnValue</source>
+        <comment>return type: FGenIntEditor</comment>
+        <translation>The editor.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.creator.genericIntegrationEditor()</source>
+        <translation>Makes an editor without a definition.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.creator.genericIntegrationEditor():example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise) }
+genericIntegrationEditor editor()
+editor.setDefinition(wing)</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor.creator.genericIntegrationEditor():returnValue</source>
+        <comment>return type: FGenIntEditor</comment>
+        <translation>The editor.</translation>
+    </message>
+    <message>
+        <source>!FGenIntEditor:example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise) }
+genericIntegrationEditor editor()
+editor.setDefinition(wing)</translation>
+    </message>
+    <message>
         <source>!FGenIntFile</source>
         <translation>A template: a sample of one input or output file of the external program, and the name that the real file has in the folder of a run. It is the common part of genericIntegrationCommandFile (a file that is written) and genericIntegrationResultsFile (a file that is read).</translation>
     </message>

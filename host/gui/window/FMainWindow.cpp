@@ -5,6 +5,7 @@
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
+#include "host/design/FConnectorInterface.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FObjectPage.h"
@@ -219,6 +220,15 @@ void FMainWindow::listen() {
         showStatus(QStringLiteral("Saved %1").arg(QFileInfo(file).fileName()));
     });
     connect(changes, &FChanges::projectOpened, this, [](const QString& file) { FGuiSettings::addRecentProject(file); });
+    connect(changes, &FChanges::projectOpened, this, &FMainWindow::showFirstConnector);
+}
+
+// The picture of the set-up is where most users go on.
+void FMainWindow::showFirstConnector() {
+    const QList<FConnectorInterface*> connectors = FConnectorInterface::getConnectors();
+    if (!connectors.isEmpty()) {
+        showPage(connectors.first()->asManaged());
+    }
 }
 
 void FMainWindow::refresh() {

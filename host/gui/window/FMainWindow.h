@@ -84,6 +84,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void makeStatusBar();
     void showProblemCount(int count);
     void listen();
+    void showFirstConnector();
     void arrangeDocks();
     /** Brings actions, title and status line up to date, from the event loop. */
     void refresh();

@@ -137,16 +137,16 @@ FSoftConObjectItem* FItemFactory::make(FItemScene& scene, QGraphicsItem* parent,
     if (dynamic_cast<const FGenIntResultsFile*>(stored) && isKnown(scene, path, relativePath)) {
         return nullptr;
     }
-    FSoftConObjectItem* item = Maker(scene, parent, object).ofObject();
-    if (!item) {
-        return nullptr;
-    }
+    return Maker(scene, parent, object).ofObject();
+}
+
+void FItemFactory::createObject(FSoftConObjectItem& item, const QString& path, const QString& relativePath) {
+    const FObject* stored = item.getObject().getStored();
     if (dynamic_cast<const FObjectList*>(stored)) {
-        item->createObject(path, QString());
-    } else if (stored == stored->getPrototype()) {
-        item->createObject(path, relativePath);
+        item.createObject(path, QString());
+    } else if (stored && stored == stored->getPrototype()) {
+        item.createObject(path, relativePath);
     }
-    return item;
 }
 
 const FObject* FItemFactory::valueTypeOf(const FSoftConObjectItem& item) {

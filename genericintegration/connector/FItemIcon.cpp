@@ -13,7 +13,6 @@ namespace {
 constexpr int mostLines = 80;
 constexpr int mostColumns = 200;
 
-const QColor pageColor(230, 230, 230);
 const char* const templateColor = "#ae0000";
 
 QFont typeFont(const QString& text, const FSoftConLayoutIconTextMeasurements& measurements) {
@@ -127,9 +126,9 @@ QImage FItemIcon::ofFile(const QString& path, const QString& name,
     return image;
 }
 
-QImage FItemIcon::ofText(const QString& text, int width, int height) {
-    QImage large(2 * width, 2 * height, QImage::Format_ARGB32_Premultiplied);
-    large.fill(pageColor);
+QImage FItemIcon::ofText(const QString& text, const QSize& size, const QColor& ground) {
+    QImage large(2 * size, QImage::Format_ARGB32_Premultiplied);
+    large.fill(ground);
     QPainter painter(&large);
     painter.fillPath(FPage(large.width() - 2, large.height() - 2).outline, Qt::white);
     painter.setRenderHint(QPainter::TextAntialiasing);
@@ -137,8 +136,8 @@ QImage FItemIcon::ofText(const QString& text, int width, int height) {
                      beginning(text));
     painter.end();
 
-    QImage image = large.scaled(width, height, Qt::KeepAspectRatio, Qt::FastTransformation);
-    const FPage page(width, height);
+    QImage image = large.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    const FPage page(size.width(), size.height());
     painter.begin(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(templateColor), 2));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QString>
 
@@ -29,7 +30,10 @@ constexpr Colors dark{"#a2a2a2", "#777777", "#e3e3e3", "#727070"};
 QImage ofFile(const QString& path, const QString& name, const FSoftConLayoutIconTextMeasurements& measurements,
               const Colors& colors);
 
-/** A page with a folded corner that shows the beginning of a text. Its cost doesn't depend on the text's length. */
-QImage ofText(const QString& text, int width, int height);
+/**
+ * A page with a folded corner that shows the beginning of a text. Its cost doesn't depend on the text's length.
+ * @param ground  what is behind the page
+ */
+QImage ofText(const QString& text, const QSize& size, const QColor& ground);
 
 }  // namespace FItemIcon

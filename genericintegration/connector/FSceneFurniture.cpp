@@ -1,5 +1,6 @@
 #include "genericintegration/connector/FSceneFurniture.h"
 
+#include "genericintegration/connector/FSceneColors.h"
 #include "host/gui/base/FIcons.h"
 
 #include <QFrame>
@@ -52,6 +53,15 @@ FSceneFurniture::FSceneFurniture(QGraphicsScene& scene)
       mExportLabel(addLabel(SoftConExportArea)),
       mImportLabel(addLabel(SoftConImportArea)) {
     makeLinkButtons();
+    updateColors();
+}
+
+void FSceneFurniture::updateColors() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, FSceneColors::titleBar());
+    for (const QGraphicsProxyWidget* proxy : {mTitleBarTop, mTitleBarLeft, mTitleBarRight}) {
+        proxy->widget()->setPalette(palette);
+    }
 }
 
 QGraphicsProxyWidget* FSceneFurniture::addFrame(const QString& name, double depth, bool isShaded) {
@@ -72,7 +82,6 @@ QGraphicsProxyWidget* FSceneFurniture::addTitleBar() {
     auto* bar = new QFrame;
     bar->setObjectName(QStringLiteral("titleBar"));
     bar->setAutoFillBackground(true);
-    bar->setBackgroundRole(QPalette::Button);
     row->addWidget(bar);
     const QToolButton button;
     const int margin = widget->fontMetrics().height() / 4;
@@ -144,8 +153,9 @@ QToolButton* FSceneFurniture::scanButton() const {
     return qobject_cast<QToolButton*>(mScanButton->widget());
 }
 
-bool FSceneFurniture::isInputArea(const QGraphicsItem* item) const {
-    return item == mInputArea;
+QList<QObject*> FSceneFurniture::buttons() const {
+    return {mAddExportButton, mDocuExportButton, mDocuInputButton,  mConnectButton,    mAddInputButton,
+            mAddImportButton, mScanButton,       mDocuImportButton, mDocuOutputButton, mAddOutputButton};
 }
 
 double FSceneFurniture::titleBarHeight() const {

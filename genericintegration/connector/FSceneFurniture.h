@@ -27,9 +27,11 @@ class FSceneFurniture : public QObject {
     FSceneSizes sizes(double computationWidth) const;
     double titleBarHeight() const;
     void place(const FSceneGeometry& geometry);
-    /** Whether the item is the panel behind the two upper areas. */
-    bool isInputArea(const QGraphicsItem* item) const;
+    /** After a change of the palette. */
+    void updateColors();
     QToolButton* scanButton() const;
+    /** The proxies of the buttons in reading order. */
+    QList<QObject*> buttons() const;
 
  signals:
     void addRequested(SoftConArea area);

@@ -34,15 +34,15 @@ FGenIntComputation* addComputation(const FNewSetUp& setUp) {
     return computation;
 }
 
-void addFiles(const FNewSetUp& setUp, FSoftConScene& scene) {
+void addFiles(const FNewSetUp& setUp, FSoftwareConnector& connector) {
     QStringList templates;
     QStringList copied;
     for (const FNewSetUp::Input& input : setUp.inputs) {
         (input.isTemplate ? templates : copied).append(input.path);
     }
-    scene.createItems(templates, FExpr<FObject>(FGenIntCommandFile::null()), QString(), true);
-    scene.createItems(copied, FExpr<FObject>(FInputFile::null()), QString(), false);
-    scene.createItems(setUp.outputs, FExpr<FObject>(FGenIntResultsFile::null()), QString(), false);
+    connector.getScene()->createItems(templates, FExpr<FObject>(FGenIntCommandFile::null()), QString(), true);
+    connector.addFiles(copied, FExpr<FObject>(FInputFile::null()));
+    connector.addFiles(setUp.outputs, FExpr<FObject>(FGenIntResultsFile::null()));
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ void FSetUpBuilder::build(const FNewSetUp& setUp) {
         connector = FExpr<FSoftwareConnector>(FSoftwareConnector::create(
             computation->getName() + QStringLiteral("_connector"), FExpr<FExternComputation>(computation)));
         connector->useLastItemSize();
-        addFiles(setUp, *connector->getScene());
+        addFiles(setUp, *connector.ptr());
     }
     if (connector) {
         connector->showConnector();

@@ -58,6 +58,11 @@ void FSoftConEntryItem::updateEntryName() {
     mIsNamed = true;
 }
 
+void FSoftConEntryItem::keepName() {
+    mLastName = displayedName();
+    mIsNamed = true;
+}
+
 void FSoftConEntryItem::refresh() {
     if (getScene() && entry()) {
         updateEntryName();

@@ -18,6 +18,8 @@ class FSoftConEntryItem : public FClass<FSoftConEntryItem, FSoftConObjectItem> {
      */
     virtual QString getDisplayName(const FExpr<FEntry>& entry, bool resolved) const;
     void removeObject() override;
+    /** The entry's present name stays until the item shows something else. */
+    void keepName();
 
  protected:
     void refresh() override;

@@ -75,7 +75,7 @@ QString FSoftConFileNameItem::shownText() const {
     }
     const FExprBase& fileName = value->getFileName();
     if (isSetByCommand(fileName)) {
-        return FLinkText::caption(fileName.toString());
+        return isReference() ? FLinkText::name(fileName.toString()) : FLinkText::caption(fileName.toString());
     }
     return fileName.canSafelyBeUpdated(true) ? textOf(fileName) : entry()->getName();
 }

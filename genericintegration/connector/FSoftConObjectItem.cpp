@@ -1,6 +1,7 @@
 #include "genericintegration/connector/FSoftConObjectItem.h"
 
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/FSceneColors.h"
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FLabelMetrics.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
@@ -42,23 +43,37 @@ void FSoftConObjectItem::init() {
     mFrame = new QGraphicsRectItem(this);
     mFrame->setAcceptHoverEvents(true);
     mFrame->setFlag(ItemStacksBehindParent);
-    mFrame->setBrush(QColor(230, 230, 230));
-    mFrame->setPen(QPen(Qt::lightGray, 1, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+    paintFrame();
     mFrame->installSceneEventFilter(this);
 
     auto* button = new QToolButton;
     button->setObjectName(QStringLiteral("deleteButton"));
     button->setAutoRaise(true);
+    // The frame behind shows through.
+    button->setAttribute(Qt::WA_NoSystemBackground);
     mDeleteProxy = new QGraphicsProxyWidget(this);
     mDeleteProxy->setWidget(button);
     auto* action = new QAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("Delete"), mDeleteProxy);
     button->setDefaultAction(action);
+    button->setAccessibleName(action->text());
     mDeleteProxy->setPos(pixmap().width() + 1, 0);
     QObject::connect(button, &QToolButton::triggered, this, [this] {
         if (FItemScene* scene = getScene()) {
             scene->deleteItem(this);
         }
     });
+}
+
+void FSoftConObjectItem::paintFrame() {
+    mFrame->setBrush(FSceneColors::frame());
+    mFrame->setPen(QPen(FSceneColors::frameLine(), 1, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+    mLabelItem->setBrush(FSceneColors::caption());
+}
+
+void FSoftConObjectItem::updateColors() {
+    if (mFrame) {
+        paintFrame();
+    }
 }
 
 bool FSoftConObjectItem::getPreviewText(QString& /*text*/) {
@@ -109,6 +124,15 @@ FLayoutItem FSoftConObjectItem::toLayoutItem() const {
         item.buttonPosition = mDeleteProxy->pos();
     }
     return item;
+}
+
+void FSoftConObjectItem::fit(FLayoutItem& item) const {
+    if (mFrame) {
+        const double line = mFrame->pen().widthF() / 2;
+        const QRectF bounding = QGraphicsPixmapItem::boundingRect() | item.frame.adjusted(-line, -line, line, line);
+        item.size = bounding.size();
+        item.offset = bounding.topLeft();
+    }
 }
 
 void FSoftConObjectItem::applyLayout(const FLayoutItem& item) {

@@ -35,14 +35,21 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     /** Draws the picture and places its parts. */
     virtual void updateItem();
 
+    /** After a change of the palette. */
+    virtual void updateColors();
+
     /** The item was taken out of the scene: it holds nothing any more, and dies when the event is handled. */
     virtual void release();
 
     FLayoutItem toLayoutItem() const;
+    /** Brings the bounding rectangle up to date after a layout has changed the frame. */
+    void fit(FLayoutItem& item) const;
     /** Takes over what a layout has decided, also the position. */
     void applyLayout(const FLayoutItem& item);
 
     QRectF boundingRect() const override;
+    /** Null for an item that can't be deleted. */
+    QGraphicsProxyWidget* deleteProxy() const { return mDeleteProxy; }
 
  protected:
     /** Makes the frame and the button. */
@@ -63,4 +70,7 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     FExpr<FObject> mObject;       //!< the item depends on it
     QGraphicsRectItem* mFrame = nullptr;
     QGraphicsProxyWidget* mDeleteProxy = nullptr;
+
+ private:
+    void paintFrame();
 };

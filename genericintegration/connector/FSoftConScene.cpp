@@ -36,6 +36,7 @@
 #include "host/gui/base/FIcons.h"
 #include "host/run/FPathManager.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QActionGroup>
 #include <QGraphicsSceneContextMenuEvent>
@@ -138,16 +139,6 @@ FExpr<FExternComputation> FSoftConScene::getComputation() const {
     return mConnector.getComputation();
 }
 
-QList<FSoftConObjectItem*> FSoftConScene::objectItems() const {
-    QList<FSoftConObjectItem*> found;
-    for (QGraphicsItem* item : items(Qt::AscendingOrder)) {
-        if (auto* object = dynamic_cast<FSoftConObjectItem*>(item)) {
-            found.append(object);
-        }
-    }
-    return found;
-}
-
 // ---- following the objects ----
 
 void FSoftConScene::doUpdate() {
@@ -156,7 +147,7 @@ void FSoftConScene::doUpdate() {
         return;
     }
     const QScopedValueRollback<bool> updating(mIsUpdating, true);
-    const QList<FSoftConObjectItem*> shown = objectItems();
+    const QList<FSoftConObjectItem*> shown = mItems;
     const Objects objects = objectsOf(computation);
     const FItemDifference difference(objects.rows, rowsOf(shown));
     for (const int place : difference.itemsToRemove()) {
@@ -180,6 +171,7 @@ void FSoftConScene::doUpdate() {
 }
 
 void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
+    mItems.removeOne(item);
     removeItem(item);
     item->release();
     calcItemRatios();
@@ -188,13 +180,13 @@ void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
 void FSoftConScene::clearItems() {
     mSelectTimer.stop();
     mSelectedObject = FExpr<FObject>();
-    for (FSoftConObjectItem* item : objectItems()) {
-        removeObjectItem(item);
+    while (!mItems.isEmpty()) {
+        removeObjectItem(mItems.last());
     }
 }
 
 void FSoftConScene::refreshEntryItems() {
-    for (FSoftConObjectItem* item : objectItems()) {
+    for (FSoftConObjectItem* item : qAsConst(mItems)) {
         if (dynamic_cast<FSoftConEntryItem*>(item)) {
             item->setOutOfDate(true);
         }
@@ -202,16 +194,32 @@ void FSoftConScene::refreshEntryItems() {
 }
 
 void FSoftConScene::updateInputFileItems() {
-    for (FSoftConObjectItem* item : objectItems()) {
+    for (FSoftConObjectItem* item : qAsConst(mItems)) {
         if (dynamic_cast<FSoftConFileNameItem*>(item)) {
             item->updateItem();
         }
     }
 }
 
+QList<QObject*> FSoftConScene::parts() const {
+    QList<QObject*> parts = mpFurniture->buttons();
+    for (FSoftConObjectItem* item : mItems) {
+        parts.append(item);
+    }
+    return parts;
+}
+
+void FSoftConScene::updateColors() {
+    mHints.updateColors();
+    mpFurniture->updateColors();
+    for (FSoftConObjectItem* item : qAsConst(mItems)) {
+        item->updateColors();
+    }
+}
+
 void FSoftConScene::updateItems(int index) {
     mConnector.setOverviewChecked(index == 0);
-    for (FSoftConObjectItem* item : index == 0 ? objectItems() : QList<FSoftConObjectItem*>()) {
+    for (FSoftConObjectItem* item : index == 0 ? mItems : QList<FSoftConObjectItem*>()) {
         if (dynamic_cast<FSoftConTemplateItem*>(item)) {
             item->updateItem();
         }
@@ -235,15 +243,17 @@ void FSoftConScene::redraw() {
     }
     mRedrawRequired = false;
     constexpr int margin = 10;
-    layOut(mConnector.getView()->rect().adjusted(0, 0, -margin, -margin));
+    QRect view = mConnector.getView()->rect().adjusted(0, 0, -margin, -margin);
+    // Else the computation would cover the labels of narrower areas.
+    view.setWidth(std::max(view.width(), static_cast<int>(2 * mLayout->getMinAreaWidth())));
+    layOut(view);
 }
 
 void FSoftConScene::layOut(const QRect& view) {
     constexpr double barHeight = 20;  // of a scroll bar that was never shown, less a margin
     constexpr int gap = 10;
-    const QList<FSoftConObjectItem*> shown = objectItems();
     mLayoutItems.clear();
-    for (const FSoftConObjectItem* item : shown) {
+    for (const FSoftConObjectItem* item : qAsConst(mItems)) {
         mLayoutItems.push_back(item->toLayoutItem());
     }
     QList<FLayoutItem*> placed;
@@ -254,17 +264,24 @@ void FSoftConScene::layOut(const QRect& view) {
         placed.append(&item);
     }
     mLayout->calcItemRatios(placed);
+    for (int number = 0; number < placed.size(); ++number) {
+        mItems[number]->fit(*placed[number]);
+    }
     QRectF scene = sceneRect();
     QRectF area;
     mLayout->calcSceneRect(view, barHeight, mpFurniture->titleBarHeight(), gap, gap, scene, area);
-    for (int number = 0; number < shown.size(); ++number) {
-        shown[number]->applyLayout(mLayoutItems[static_cast<std::size_t>(number)]);
+    for (int number = 0; number < placed.size(); ++number) {
+        mItems[number]->applyLayout(*placed[number]);
     }
     mGeometry.emplace(area, mpFurniture->sizes(mComputationItemSize.width()));
     mpFurniture->place(*mGeometry);
     mHints.place(*mGeometry, mpFurniture->titleBarHeight());
     updateHints();
     setSceneRect(scene);
+    if (QAccessible::isActive()) {
+        QAccessibleEvent moved(mConnector.getView(), QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&moved);
+    }
 }
 
 void FSoftConScene::updateHints() {
@@ -285,7 +302,7 @@ void FSoftConScene::setItemSize(SoftConItemSize size) {
         return;
     }
     mLayout = layout;
-    for (FSoftConObjectItem* item : objectItems()) {
+    for (FSoftConObjectItem* item : qAsConst(mItems)) {
         if (auto* file = dynamic_cast<FSoftConTemplateItem*>(item)) {
             file->setPreviewOutOfDate();
         }
@@ -352,6 +369,7 @@ void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
     if (mSelectedObject == object) {
         mSelectedObject = FExpr<FObject>();
     }
+    mItems.removeOne(item);
     removeItem(item);
     item->removeObject();
     item->release();
@@ -509,6 +527,10 @@ FSoftConObjectItem* FSoftConScene::makeItem(QGraphicsItem* parent, const FExpr<F
                                             const QString& relativePath) {
     FSoftConObjectItem* item = FItemFactory::make(*this, parent, object, path, relativePath);
     if (item) {
+        // Known before its object is in the model, so that an update of the scene makes no second item.
+        mItems.append(item);
+        FItemFactory::createObject(*item, path, relativePath);
+        item->setEnabled(!mConnector.isLocked());
         item->updateItem();
         item->doUpdate();
         calcItemRatios();
@@ -516,7 +538,6 @@ FSoftConObjectItem* FSoftConScene::makeItem(QGraphicsItem* parent, const FExpr<F
     return item;
 }
 
-// Its object is in the model before the scene is updated, so that it gets no second item.
 FSoftConObjectItem* FSoftConScene::createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
                                               const QString& relativePath) {
     return makeItem(parent, object, path, relativePath);
@@ -538,8 +559,7 @@ void FSoftConScene::createItems(const FItemRequests::List& requests) {
 
 bool FSoftConScene::containsImport(const QString& path) const {
     const QString name = FItemCaption::lastPart(path);
-    const QList<FSoftConObjectItem*> shown = objectItems();
-    return std::any_of(shown.begin(), shown.end(), [&name](const FSoftConObjectItem* item) {
+    return std::any_of(mItems.begin(), mItems.end(), [&name](const FSoftConObjectItem* item) {
         const auto* entry = dynamic_cast<const FSoftConImportItem*>(item)
                                 ? dynamic_cast<const FEntry*>(item->getObject().ptr())
                                 : nullptr;

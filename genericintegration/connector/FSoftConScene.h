@@ -44,11 +44,16 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     SoftConArea getArea(const QPointF& point) const;
     void refreshEntryItems();
     void updateInputFileItems();
+    /** After a change of the palette. */
+    void updateColors();
     /** Removes all items at once; the connector has left the model. */
     void clearItems();
 
     /** The items that stand for objects, in the order of their creation. */
-    QList<FSoftConObjectItem*> objectItems() const;
+    const QList<FSoftConObjectItem*>& objectItems() const { return mItems; }
+
+    /** The buttons of the areas in reading order, then the items. */
+    QList<QObject*> parts() const;
 
     /** Makes items for files, within the limits for a batch. Call it in a step. */
     void createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base, bool keepFolders);
@@ -73,6 +78,7 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     void deleteItem(FSoftConObjectItem* item) override;
     FExpr<FObjectList> extractFObjectMimeData(const QGraphicsSceneDragDropEvent* event) const override;
     void calcItemRatios() override;
+    void requestRedraw() override { mRedraw.request(); }
     void runComputation() override;
     void readResults() override;
     void showOutputFilesPreview() override;
@@ -87,7 +93,7 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     void addFile();
     void addImport();
     void showDocu(QString area);
-    void redraw() override;
+    void redraw();
     void resizeItem(QAction* pAction);
 
  signals:
@@ -118,6 +124,7 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
 
     FSoftwareConnector& mConnector;
     FSceneFurniture* mpFurniture;
+    QList<FSoftConObjectItem*> mItems;
     FAreaHints mHints;
     FSmartPtr<FSoftConLayout> mLayout;
     std::optional<FSceneGeometry> mGeometry;

@@ -1,6 +1,7 @@
 #include "genericintegration/connector/FSoftConTemplateItem.h"
 
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/FSceneColors.h"
 #include "genericintegration/connector/FSetUpObjects.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
@@ -79,9 +80,17 @@ void FSoftConTemplateItem::paintPreview(const QString& text, const QSize& size) 
     if (size == mPaintedSize && text == mPaintedText) {
         return;
     }
-    setPixmap(QPixmap::fromImage(FItemIcon::ofText(text, size.width(), size.height())));
+    setPixmap(QPixmap::fromImage(FItemIcon::ofText(text, size, FSceneColors::frame())));
     mPaintedText = text;
     mPaintedSize = size;
+}
+
+// The page shows its ground beside the round corners.
+void FSoftConTemplateItem::updateColors() {
+    FSoftConObjectItem::updateColors();
+    mPaintedSize = QSize();
+    setPreviewOutOfDate();
+    updateItem();
 }
 
 void FSoftConTemplateItem::refresh() {

@@ -22,6 +22,7 @@ class FSoftConTemplateItem : public FClass<FSoftConTemplateItem, FSoftConObjectI
     void removeObject() override;
     void updateItem() override;
     void release() override;
+    void updateColors() override;
 
  protected:
     void refresh() override;

@@ -2,6 +2,8 @@
 
 #include <QGraphicsView>
 
+class FSoftConScene;
+
 /** The view of a connector's scene. */
 class FSoftConView : public QGraphicsView {
     Q_OBJECT
@@ -9,7 +11,15 @@ class FSoftConView : public QGraphicsView {
  public:
     explicit FSoftConView(QWidget* parent = nullptr);
 
+    /** Null as long as the view has none. */
+    FSoftConScene* connectorScene() const;
+
  protected:
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+
+ private:
+    /** Until the user scrolls, shows the top of what is larger than the view, with the computation in the middle. */
+    void keepAtStart(QScrollBar* bar);
 };

@@ -1,7 +1,8 @@
 #include "genericintegration/connector/FSoftwareConnector.h"
 
 #include "genericintegration/connector/FConnectorHelp.h"
-#include "genericintegration/connector/FSoftConObjectItem.h"
+#include "genericintegration/connector/FSetUpObjects.h"
+#include "genericintegration/connector/FSoftConEntryItem.h"
 #include "genericintegration/connector/FSoftConScene.h"
 #include "genericintegration/connector/FSoftConView.h"
 #include "genericintegration/connector/dialogs/FSoftConConnectConnectorDialog.h"
@@ -324,6 +325,26 @@ void FSoftwareConnector::gotoFirstTemplate() {
     }
 }
 
+void FSoftwareConnector::tabInserted(int index) {
+    FSoftConBase::tabInserted(index);
+    showOverviewButton();
+}
+
+void FSoftwareConnector::tabRemoved(int index) {
+    FSoftConBase::tabRemoved(index);
+    showOverviewButton();
+}
+
+// It leads back where the first tab may be out of sight; beside it, it would be the same thing twice. A corner keeps
+// the room of a button that is only hidden.
+void FSoftwareConnector::showOverviewButton() {
+    const bool isNeeded = tabBar()->sizeHint().width() > width();
+    if (isNeeded != (cornerWidget(Qt::TopLeftCorner) == mOverviewButton)) {
+        setCornerWidget(isNeeded ? mOverviewButton : nullptr, Qt::TopLeftCorner);
+        mOverviewButton->setVisible(isNeeded);
+    }
+}
+
 void FSoftwareConnector::gotoOverview() {
     mOverviewButton->setChecked(true);
     setCurrentIndex(0);
@@ -398,6 +419,7 @@ void FSoftwareConnector::scanForResults(bool scan) {
 
 void FSoftwareConnector::resizeEvent(QResizeEvent* event) {
     mpScene->setRedrawRequired(true);
+    showOverviewButton();
     FSoftConBase::resizeEvent(event);
     QTimer::singleShot(0, mpScene, &FSoftConScene::redraw);
 }
@@ -405,6 +427,42 @@ void FSoftwareConnector::resizeEvent(QResizeEvent* event) {
 void FSoftwareConnector::paintEvent(QPaintEvent* event) {
     mpScene->redraw();
     FSoftConBase::paintEvent(event);
+}
+
+// ---- adding ----
+
+void FSoftwareConnector::addFiles(const QStringList& paths, const FExpr<FObject>& type) {
+    mpScene->createItems(paths, type, QString(), false);
+}
+
+FExpr<FResultsFileName> FSoftwareConnector::addOutputFile(const QString& path) {
+    const FSoftConObjectItem* item =
+        mpScene->createItem(nullptr, FExpr<FObject>(FResultsFileName::null()), path, QString());
+    const auto* entry = item ? dynamic_cast<const FEntry*>(item->getObject().getStored()) : nullptr;
+    return entry ? FExpr<FResultsFileName>(entry->getValue()) : FExpr<FResultsFileName>();
+}
+
+void FSoftwareConnector::addInputTemplateFromString(const QString& content, const QString& fileName) {
+    const FUserStep step(QStringLiteral("Add input template"));
+    addTemplate(FExpr<FGenIntFile>(FGenIntCommandFile::create(QString())), content, fileName);
+}
+
+FExpr<FGenIntResultsFile> FSoftwareConnector::addOutputTemplateFromString(const QString& content,
+                                                                          const QString& fileName) {
+    const FUserStep step(QStringLiteral("Add output template"));
+    const FExpr<FGenIntResultsFile> file(FGenIntResultsFile::create(QString()));
+    addTemplate(FExpr<FGenIntFile>(file), content, fileName);
+    return file;
+}
+
+void FSoftwareConnector::addTemplate(const FExpr<FGenIntFile>& file, const QString& content, const QString& fileName) {
+    file->setContent(content);
+    file->setFileName(fileName);
+    FDefinitionGenInt* definition = FSetUpObjects(getComputation()).definition();
+    if (definition && mpScene->createItem(nullptr, FExpr<FObject>(file), QString(), QString())) {
+        definition->addFile(file);
+        mpScene->triggerAddTab(file);
+    }
 }
 
 // ---- links ----
@@ -453,6 +511,9 @@ bool FSoftwareConnector::link(const QString& expression) {
     }
     if (const FExpr<FEntryDef> definition = entry->getDefinition()) {
         definition->setName(FLinkText::name(expression));
+    }
+    if (auto* linked = dynamic_cast<FSoftConEntryItem*>(item)) {
+        linked->keepName();
     }
     item->updateItem();
     return true;

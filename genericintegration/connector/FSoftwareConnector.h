@@ -2,7 +2,9 @@
 
 #include "genericintegration/setup/FConnectorSetUp.h"
 #include "genericintegration/templates/FGenIntFile.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FString.h"
+#include "host/design/FResultsFileName.h"
 #include "host/gui/base/FSoftConBase.h"
 
 #include <QDateTime>
@@ -48,7 +50,17 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     const QString& getResultsPath() const { return mSetUp.mResultsPath; }
     void setResultsPath(const QString& path);
     void setOverviewChecked(bool isChecked);
+    /** Whether a run has locked the items and pages. */
+    bool isLocked() const { return mIsLocked; }
     void renameTab(const FExpr<FGenIntFile>& file);
+
+    // ---- adding items without a dialog ----
+    /** @param type  null prototype of what the files become; see FSoftConScene::createItems */
+    void addFiles(const QStringList& paths, const FExpr<FObject>& type);
+    /** Null if that failed. */
+    FExpr<FResultsFileName> addOutputFile(const QString& path);
+    void addInputTemplateFromString(const QString& content, const QString& fileName);
+    FExpr<FGenIntResultsFile> addOutputTemplateFromString(const QString& content, const QString& fileName);
 
     // ---- FConnectorInterface ----
     FExpr<FExternComputation> getComputation() const override { return mSetUp.mComputation; }
@@ -85,6 +97,8 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     bool updatesSuppliersItself() const override { return true; }
     void leaveModel() override;
     void enterModel() override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -94,10 +108,12 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     void listenToRuns();
     void addMissingTabs();
     void removeStaleTabs();
+    void showOverviewButton();
     FObjectPage* pageAt(int index) const;
     /** The tab of a file; -1 if there is none. */
     int tabOf(const FManaged* file) const;
     void removePage(int index);
+    void addTemplate(const FExpr<FGenIntFile>& file, const QString& content, const QString& fileName);
     /** Links an input file to a result. False if the walk over further ones is to end. */
     bool link(const QString& expression);
 

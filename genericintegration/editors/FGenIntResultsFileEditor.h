@@ -62,7 +62,7 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void setComputation(const FExpr<FGenIntComputation>& computation) { mComputation = computation; }
 
     /** Shows the template as it is now. */
-    void refresh();
+    Q_INVOKABLE void refresh();
     /** Marks in the sample where the current value is read. */
     void highlightCurrentValue();
     void setResultsPreviewBlank();

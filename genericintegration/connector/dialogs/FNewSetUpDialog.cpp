@@ -66,6 +66,7 @@ QLayout* FNewSetUpDialog::makeProgramRow() {
                        "blanks between quotes"));
     auto* select = new QPushButton(QStringLiteral("&Select…"), this);
     select->setObjectName(QStringLiteral("newSelectProgram"));
+    setTabOrder(mpProgram, select);
     connect(select, &QPushButton::clicked, this, &FNewSetUpDialog::askProgram);
     connect(mpProgram, &QLineEdit::textChanged, this, &FNewSetUpDialog::lookUp);
     auto* row = new QHBoxLayout;

@@ -79,8 +79,8 @@ FItemRequests::List FItemRequests::ofResults(const QString& folder, const QDateT
     const QString base = start.canonicalFilePath() + u'/';
     visitFiles(start, QDir::Time, [&](const QFileInfo& file) {
         const QString path = file.canonicalFilePath();
-        const bool isText = FResultsGeneric::getResultsFileType(path) == ResultsFileType::Text;
-        if (!file.isExecutable() && since < file.lastModified() && !isText && !isShown(path.mid(base.size()))) {
+        if (!file.isExecutable() && since < file.lastModified() &&
+            FResultsGeneric::getResultsFileType(path) != ResultsFileType::Text && !isShown(path.mid(base.size()))) {
             requests.append(std::make_shared<FSoftConItemStructure>(FResultsFileName::null(), path, base, file.size()));
         }
     });

@@ -4,7 +4,8 @@
 class FLayoutScene {
  public:
     virtual void calcItemRatios() = 0;
-    virtual void redraw() = 0;
+    /** Has the scene laid out once, however often it is called before that. */
+    virtual void requestRedraw() = 0;
 
  protected:
     FLayoutScene() = default;

@@ -80,7 +80,7 @@ void FSoftConListLayout::setupItem(FLayoutItem& item, const QString& name, const
 
 void FSoftConListLayout::itemChanged(FLayoutScene& scene) const {
     scene.calcItemRatios();
-    scene.redraw();
+    scene.requestRedraw();
 }
 
 double FSoftConListLayout::getAreaMinWidth(int area) const {

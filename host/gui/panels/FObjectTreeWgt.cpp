@@ -8,6 +8,7 @@
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FObjectPages.h"
+#include "host/gui/panels/FNewObjectMenu.h"
 #include "host/gui/panels/FObjectNameDelegate.h"
 #include "host/gui/panels/FObjectTreeModel.h"
 #include "host/run/FResultsGeneric.h"
@@ -16,6 +17,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -143,6 +145,18 @@ void FObjectTreeWgt::renameSelected() {
     }
 }
 
+// The row appears from the event loop.
+void FObjectTreeWgt::startNaming(const FExpr<FManaged>& object) {
+    QTimer::singleShot(0, this, [this, object] {
+        if (object) {
+            FSelectionSet::instance()->set({FExpr<FObject>(object)});
+            showSelection();
+            reveal(object.ptr());
+            renameSelected();
+        }
+    });
+}
+
 void FObjectTreeWgt::destroySelected() {
     const QList<FExpr<FObject>> objects = FSelectionSet::instance()->getObjects();
     if (objects.isEmpty()) {
@@ -181,6 +195,7 @@ void FObjectTreeWgt::fillMenu(QMenu& menu) {
         menu.addAction(FIcons::get(row->presentation.menuIcon), row->presentation.menuEntry,
                        [row, selected] { FCommandCall::execute(*row, selected); });
     }
+    FNewObjectMenu::append(menu, [this](FManaged* object) { startNaming(FExpr<FManaged>(object)); });
     menu.addSeparator();
     if (selected->count() == 1) {
         const FExpr<FManaged> object(selected->at(0));

@@ -37,6 +37,8 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     /** Shows the tables of results, and the page of another object. */
     void open(FManaged* object);
     void openMenu(const QPoint& position);
+    /** Selects a new object, whose name can be typed. */
+    void startNaming(const FExpr<FManaged>& object);
     void keepExpanded();
     void restoreExpanded();
     QModelIndex shownIndexOf(const FManaged* object) const;

@@ -33,7 +33,7 @@ class FFakeItemScene final : public QGraphicsScene, public FItemScene {
     }
 
     void calcItemRatios() override {}
-    void redraw() override { calls.append("redraw"); }
+    void requestRedraw() override { calls.append("redraw"); }
     QGraphicsScene* asGraphicsScene() override { return this; }
     FSoftConLayout* getLayout() const override { return layout.get(); }
     FExpr<FExternComputation> getComputation() const override { return mComputation; }

@@ -73,15 +73,16 @@ TEST(FItemIconTest, aPictureInsteadOfAType) {
 }
 
 TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
-    const QImage empty = FItemIcon::ofText("", 75, 106);
+    const QColor ground(230, 230, 230);
+    const QImage empty = FItemIcon::ofText("", QSize(75, 106), ground);
     ASSERT_EQ(empty.size(), QSize(75, 106));
     EXPECT_EQ(QColor(empty.pixel(37, 53)), QColor(Qt::white));
-    EXPECT_EQ(QColor(empty.pixel(0, 0)), QColor(230, 230, 230)) << "outside of the page";
+    EXPECT_EQ(QColor(empty.pixel(0, 0)), ground) << "outside of the page";
     EXPECT_EQ(QColor(empty.pixel(1, 53)), QColor("#ae0000")) << "the outline";
     EXPECT_EQ(QColor(empty.pixel(69, 4)), QColor("#ae0000")) << "the fold";
     EXPECT_NE(QColor(empty.pixel(71, 2)), QColor("#ae0000")) << "the corner is cut off";
 
-    const QImage text = FItemIcon::ofText("first line\r\nsecond line", 75, 106);
+    const QImage text = FItemIcon::ofText("first line\r\nsecond line", QSize(75, 106), ground);
     EXPECT_GT(darkPixels(text, QRect(10, 10, 50, 16)), 20);
     EXPECT_EQ(darkPixels(text, QRect(10, 40, 50, 50)), 0);
 
@@ -89,7 +90,8 @@ TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
     const QString longText = line.repeated(500000);
     QElapsedTimer timer;
     timer.start();
-    EXPECT_EQ(FItemIcon::ofText(longText, 150, 212), FItemIcon::ofText(line.repeated(100), 150, 212));
+    EXPECT_EQ(FItemIcon::ofText(longText, QSize(150, 212), ground),
+              FItemIcon::ofText(line.repeated(100), QSize(150, 212), ground));
     EXPECT_LT(timer.elapsed(), 500) << "a long text is no more work";
 }
 

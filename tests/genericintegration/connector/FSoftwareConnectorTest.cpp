@@ -103,7 +103,10 @@ class FSoftwareConnectorTest : public FWindowTest {
         }
         return texts;
     }
-    QPoint pointOf(const QPointF& scenePoint) { return connector().getView()->mapFromScene(scenePoint); }
+    QPoint pointOf(const QPointF& scenePoint) {
+        connector().getView()->ensureVisible(QRectF(scenePoint, QSizeF(1, 1)));
+        return connector().getView()->mapFromScene(scenePoint);
+    }
     QPointF inArea(SoftConArea area) {
         settle();
         const double x = isLeftArea(area) ? -150 : 150;

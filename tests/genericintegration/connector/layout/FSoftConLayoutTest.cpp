@@ -167,7 +167,7 @@ TEST(FSoftConLayoutTest, partsOfAnItem) {
 TEST(FSoftConLayoutTest, onlyAListLaysOutAnewWhenAnItemChanges) {
     struct FCalls final : FLayoutScene {
         void calcItemRatios() override { calls += "calc "; }
-        void redraw() override { calls += "redraw"; }
+        void requestRedraw() override { calls += "redraw"; }
         QString calls;
     };
     FCalls scene;

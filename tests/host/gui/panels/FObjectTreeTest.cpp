@@ -1,10 +1,12 @@
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FObjectMime.h"
 #include "host/gui/panels/FObjectTreeModel.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
@@ -151,4 +153,32 @@ TEST_F(FObjectTreeTest, openBranchesStayOpenWhenManyObjectsCome) {
     EXPECT_TRUE(view().isExpanded(indexOf("beam")));
     EXPECT_FALSE(view().isExpanded(indexOf("Parameters")));
     EXPECT_EQ(view().model()->rowCount(indexOf("Parameters")), 601);
+}
+
+TEST_F(FObjectTreeTest, newGeometryIsAddedFromTheMenuAndNamed) {
+    const auto add = [this](int row) {
+        QMenu menu;
+        dynamic_cast<FObjectTreeWgt&>(*window().panel("objects")).fillMenu(menu);
+        menu.findChild<QMenu*>("newObjectMenu")->actions().at(row)->trigger();
+        settle();
+    };
+    const QString before = savedModel();
+    add(1);
+    auto* name = view().findChild<QLineEdit*>();
+    ASSERT_NE(name, nullptr) << "its name can be typed";
+    name->setText("tip");
+    press(name, Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(savedModel().contains("point tip(")) << savedModel().toStdString();
+    dialogs().answers << "/data/wing \"2\".csv" << QString();
+    add(2);
+
+    add(3);
+    add(4);
+    add(5);
+    EXPECT_EQ(rows(), "Geometry\n  tip\n  curve\n  group\n  feature");
+    for (int step = 0; step < 5; ++step) {
+        trigger("undo");
+    }
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
 }

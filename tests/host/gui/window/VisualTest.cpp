@@ -133,6 +133,27 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
         ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("solver")->canRun(); }));
     }
 
+    /** In all sizes, with items in every area, and empty; then the dialog that makes one. */
+    void showConnector() {
+        ASSERT_TRUE(
+            run("genericIntegrationCommandFile deck() { .setFileName(\"case.inp\") .setContent(\"a\\nb\\nc\") }\n"
+                "d.setFiles([out, deck])\nd.addEntry(\"Exports|mesh\", inputFile(\"/a/folder/of/meshes/mesh.msh\"))\n"
+                "d.addEntry(\"Exports|tip\", geometryExport(\"a rather long name.csv\"))\n"
+                "d.addEntry(\"Imports|flow\", resultsFileName(\"flow.vtk\"))\n"
+                "softwareConnector con() { .setComputation(solver) }"));
+        for (const char* size : {"Large", "Medium", "Small"}) {
+            ASSERT_TRUE(run(QStringLiteral("con.setItemSize(%1)\nsolver.openSoftwareConnector()").arg(size)));
+            check(window(), QStringLiteral("connector%1").arg(size));
+        }
+        ASSERT_TRUE(run("Runner.openSoftwareConnector()"));
+        check(window(), "emptyConnector");
+        trigger("newSetUp");
+        auto* dialog = find<QDialog>("newSetUpDialog");
+        check(*dialog, "newSetUp");
+        dialog->reject();
+        settle();
+    }
+
  private:
     FTestFolder mFolder;
     QFont mUsual;
@@ -158,6 +179,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     settle();
     showTemplatePage();
     showRunsAndDocuments();
+    showConnector();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());
     texts.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));

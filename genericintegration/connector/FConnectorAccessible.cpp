@@ -1,0 +1,54 @@
+#include "genericintegration/connector/FConnectorAccessible.h"
+
+#include "genericintegration/connector/FPartAccessible.h"
+#include "genericintegration/connector/FSoftConScene.h"
+#include "genericintegration/connector/FSoftConView.h"
+
+namespace {
+
+QAccessibleInterface* make(const QString& className, QObject* object) {
+    Q_UNUSED(className)
+    if (auto* view = qobject_cast<FSoftConView*>(object)) {
+        return new FConnectorAccessible(view);
+    }
+    return FPartAccessible::isPart(object) ? new FPartAccessible(object) : nullptr;
+}
+
+}  // namespace
+
+FConnectorAccessible::FConnectorAccessible(FSoftConView* view) : QAccessibleWidget(view, QAccessible::Canvas) {}
+
+void FConnectorAccessible::install() {
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(&make);
+        return true;
+    }();
+    Q_UNUSED(isInstalled)
+}
+
+QList<QObject*> FConnectorAccessible::parts() const {
+    const FSoftConScene* scene = static_cast<const FSoftConView*>(widget())->connectorScene();
+    return scene ? scene->parts() : QList<QObject*>();
+}
+
+int FConnectorAccessible::childCount() const {
+    return parts().size();
+}
+
+QAccessibleInterface* FConnectorAccessible::child(int index) const {
+    return QAccessible::queryAccessibleInterface(parts().value(index));
+}
+
+int FConnectorAccessible::indexOfChild(const QAccessibleInterface* child) const {
+    return child ? parts().indexOf(child->object()) : -1;
+}
+
+QAccessibleInterface* FConnectorAccessible::childAt(int x, int y) const {
+    for (QObject* part : parts()) {
+        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(part);
+        if (found && found->rect().contains(x, y)) {
+            return found;
+        }
+    }
+    return nullptr;
+}

@@ -62,7 +62,8 @@ FGenIntCommandFileEdit::FGenIntCommandFileEdit(FGenIntCommandFileEditor* editor,
 }
 
 FGenIntCommandFileEdit::~FGenIntCommandFileEdit() {
-    disconnect();
+    // No slot is called any more; whoever waits for the end of this object still learns of it.
+    blockSignals(true);
     delete mpSearchDialog;
     delete mpHighlighter;
 }

@@ -10,7 +10,7 @@
 FAreaHints::FAreaHints(QGraphicsScene& scene) {
     static const std::array<QString, filledAreas> texts{
         QStringLiteral("Drop input files here, or press +"),
-        QStringLiteral("Drag geometry from the tree of objects here, or press +"),
+        QStringLiteral("Drag geometry from Objects here, or press +"),
         QStringLiteral("Drop sample outputs here whose numbers are to be read, or press +"),
         QStringLiteral("Press + to name files that the program writes, or let a scan find them"),
     };

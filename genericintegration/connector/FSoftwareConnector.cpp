@@ -96,7 +96,12 @@ void FSoftwareConnector::init() {
     mpScene->setParent(mView);
     mView->setScene(mpScene);
     mView->setAcceptDrops(true);
-    connect(mpScene, &FSoftConScene::addViewerTab, this, &FSoftwareConnector::addNewTab);
+    connect(mpScene, &FSoftConScene::addViewerTab, this, [this](const FExpr<FGenIntFile>& file) {
+        // It may have one since the connector was shown.
+        if (tabOf(file.ptr()) < 0) {
+            addNewTab(file);
+        }
+    });
     connect(mpScene, &FSoftConScene::removeViewerTab, this, &FSoftwareConnector::removeOldTab);
     connect(mpScene, &FSoftConScene::gotoViewerTab, this, &FSoftwareConnector::gotoTab);
     mOverviewButton = new QPushButton(QIcon(QStringLiteral(":/softConOverview")), QStringLiteral("Overview"), this);

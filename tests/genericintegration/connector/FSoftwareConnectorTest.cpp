@@ -187,6 +187,14 @@ TEST_F(FSoftwareConnectorTest, itsItemsAndTabsFollowTheObjects) {
     EXPECT_EQ(items(), allItems);
 }
 
+TEST_F(FSoftwareConnectorTest, eachTemplateHasOneTabAlsoIfItIsShownByTheStepThatMakesIt) {
+    ASSERT_TRUE(run(QString(setUp).remove("softwareConnector con() { .setComputation(solver) }\ndestroy(Runner)\n"
+                                          "destroy(configurationGenInt)\ndestroy(definitionGenInt)\n") +
+                    "solver.openSoftwareConnector()\n"));
+    settle();
+    EXPECT_EQ(object<FSoftwareConnector>("solver_connector")->count(), 4);
+}
+
 TEST_F(FSoftwareConnectorTest, destroyingItTakesTheSetUpAndUndoBringsBackAll) {
     open();
     const QString before = savedModel();

@@ -4,6 +4,7 @@
 #include "host/core/FUserStep.h"
 
 #include <QApplication>
+#include <QWidget>
 
 FStepJoiner::FStepJoiner() {
     const FChanges* changes = FChanges::instance();

@@ -171,7 +171,7 @@ void fillAppearances(QMenu& menu, FMainWindow& window) {
     }
 }
 
-std::vector<FActionRow> makeRows() {
+std::vector<FActionRow> fileRows() {
     return {
         {"newProject", "&File", 0, "&New project", "document-new", "Ctrl+N", "Start an empty project", true, nullptr,
          [](FMainWindow& window) { window.projectFiles().create(); }},
@@ -195,7 +195,11 @@ std::vector<FActionRow> makeRows() {
          [](FMainWindow& window) { window.projectFiles().executeScript(); }},
         {"quit", "&File", 2, "&Quit", "application-exit", "Ctrl+Q", "Close the program", false, nullptr,
          [](FMainWindow& window) { window.close(); }},
+    };
+}
 
+std::vector<FActionRow> otherRows() {
+    return {
         {"undo", "&Edit", 0, "&Undo", "edit-undo", "Ctrl+Z", "Undo the last step", true,
          [](const FSituation& now) { return !now.undoLabel.isNull(); }, &undo, nullptr, &undoText},
         {"redo", "&Edit", 0, "&Redo", "edit-redo", "Ctrl+Shift+Z", "Redo the step that was undone last", true,
@@ -262,7 +266,12 @@ QString plain(const char* text) {
 }  // namespace
 
 const std::vector<FActionRow>& FActionTable::rows() {
-    static const std::vector<FActionRow> table = makeRows();
+    static const std::vector<FActionRow> table = [] {
+        std::vector<FActionRow> all = fileRows();
+        const std::vector<FActionRow> others = otherRows();
+        all.insert(all.end(), others.begin(), others.end());
+        return all;
+    }();
     return table;
 }
 

@@ -127,9 +127,6 @@ QGraphicsProxyWidget* FSceneFurniture::addLabel(SoftConArea area) {
     auto* label = new QLabel(labels()[static_cast<std::size_t>(area)]);
     label->setObjectName(QStringLiteral("headerLabel"));
     label->setAttribute(Qt::WA_NoSystemBackground);
-    QFont bold = label->font();
-    bold.setBold(true);
-    label->setFont(bold);
     label->resize(label->sizeHint());
     QGraphicsProxyWidget* proxy = mScene.addWidget(label);
     proxy->setZValue(controlDepth);
@@ -196,6 +193,17 @@ void FSceneFurniture::place(const FSceneGeometry& geometry) {
     mDocuImportButton->setPos(geometry.docuImportButton);
     mInputLabel->setPos(geometry.labels[SoftConInputArea]);
     mExportLabel->setPos(geometry.labels[SoftConExportArea]);
-    mOutputLabel->setPos(geometry.labels[SoftConOutputArea]);
+    placeOutputLabel(geometry);
     mImportLabel->setPos(geometry.labels[SoftConImportArea]);
+}
+
+// In a narrow window there is little room between the computation and the buttons.
+void FSceneFurniture::placeOutputLabel(const FSceneGeometry& geometry) {
+    const QPointF place = geometry.labels[SoftConOutputArea];
+    const double left = std::max(place.x(), geometry.titleBarRight.left() + 2);
+    const int room = static_cast<int>(geometry.docuOutputButton.x() - left);
+    auto* label = qobject_cast<QLabel*>(mOutputLabel->widget());
+    label->setText(label->fontMetrics().elidedText(labels()[SoftConOutputArea], Qt::ElideRight, room));
+    label->resize(label->sizeHint());
+    mOutputLabel->setPos(left, place.y());
 }

@@ -47,6 +47,7 @@ class FSceneFurniture : public QObject {
     QGraphicsProxyWidget* addDocuButton(SoftConArea area);
     QGraphicsProxyWidget* addLabel(SoftConArea area);
     void makeLinkButtons();
+    void placeOutputLabel(const FSceneGeometry& geometry);
 
     QGraphicsScene& mScene;
     QGraphicsProxyWidget* mSplitLine;

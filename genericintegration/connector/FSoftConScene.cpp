@@ -243,10 +243,7 @@ void FSoftConScene::redraw() {
     }
     mRedrawRequired = false;
     constexpr int margin = 10;
-    QRect view = mConnector.getView()->rect().adjusted(0, 0, -margin, -margin);
-    // Else the computation would cover the labels of narrower areas.
-    view.setWidth(std::max(view.width(), static_cast<int>(2 * mLayout->getMinAreaWidth())));
-    layOut(view);
+    layOut(mConnector.getView()->rect().adjusted(0, 0, -margin, -margin));
 }
 
 void FSoftConScene::layOut(const QRect& view) {

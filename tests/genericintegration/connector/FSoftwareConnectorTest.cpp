@@ -19,6 +19,7 @@
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QDragMoveEvent>
 #include <QDropEvent>
@@ -354,6 +355,54 @@ TEST_F(FSoftwareConnectorTest, theButtonsAskForFiles) {
     FIni().remove("SoftwareConnector/addTemplatePath");
 }
 
+TEST_F(FSoftwareConnectorTest, aScreenReaderFindsItsButtonsAndItems) {
+    open();
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(connector().getView());
+    ASSERT_EQ(view->childCount(), 10 + 4);
+    const auto part = [view](const QString& name) -> QAccessibleInterface* {
+        for (int index = 0; index < view->childCount(); ++index) {
+            if (view->child(index)->text(QAccessible::Name) == name) {
+                EXPECT_EQ(view->indexOfChild(view->child(index)), index);
+                return view->child(index);
+            }
+        }
+        return nullptr;
+    };
+    EXPECT_EQ(part("Add Input Geometry")->role(), QAccessible::Button);
+    EXPECT_TRUE(part("Automatic scan for results")->state().checkable);
+    QAccessibleInterface* input = part("case.inp");
+    ASSERT_NE(input, nullptr);
+    EXPECT_EQ(input->role(), QAccessible::ListItem);
+    EXPECT_EQ(input->parent(), view);
+    const QPoint centre = input->rect().center();
+    EXPECT_EQ(view->childAt(centre.x(), centre.y()), input);
+    auto& actions = *input->actionInterface();
+    actions.doAction(actions.actionNames().first());
+    ASSERT_TRUE(waitUntil([] { return FSelectionSet::instance()->contains(object<FManaged>("c")); }));
+    actions.doAction("Open");
+    settle();
+    EXPECT_EQ(connector().tabText(connector().currentIndex()), "case.inp");
+    ASSERT_EQ(input->childCount(), 1);
+    input->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(items(), "more.inp | out.txt | solver");
+    EXPECT_EQ(part("case.inp"), nullptr);
+}
+
+TEST_F(FSoftwareConnectorTest, textsAndFilesAreAddedWithoutADialog) {
+    open();
+    const QString before = savedModel();
+    connector().addInputTemplateFromString("y = 1", "added.inp");
+    EXPECT_EQ(tabs().last(), "added.inp");
+    expectOneStep(before, "Add input template");
+    trigger("undo");
+    EXPECT_EQ(connector().addOutputTemplateFromString("z = 1", "added.dat")->getPlainContent(), "z = 1");
+    expectOneStep(before, "Add output template");
+    trigger("undo");
+    EXPECT_EQ(connector().addOutputFile("wing.vtk")->getFileNameText(), "wing.vtk");
+    EXPECT_EQ(items(), "case.inp more.inp | out.txt | wing.vtk | solver");
+    expectOneStep(before, "Add import");
+}
+
 TEST_F(FSoftwareConnectorTest, itIsLockedDuringARunAndFindsNewResultFiles) {
     open();
     connector().scanForResults(true);
@@ -393,6 +442,7 @@ TEST_F(FSoftwareConnectorTest, itIsLinkedToResultsOfAnother) {
     choose(0, 0);
     connector().connectOtherConnector();
     EXPECT_TRUE(savedModel().contains("mesher.getResults().getResultTemplateName(\"flow.dat\")"));
+    EXPECT_NE(item("flow.dat"), nullptr) << "called after the template that it is linked to";
     expectOneStep(before, "Add input file");
     // The other way round would be a circle.
     object<FGenIntComputation>("mesher")->openSoftwareConnector();

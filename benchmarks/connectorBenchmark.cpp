@@ -94,6 +94,9 @@ void layOut(benchmark::State& state) {
 void repaint(benchmark::State& state) {
     Connector connector(manyItems, sizes[state.range(0)]);
     connector.show();
+    if (!connector.get().getView()->isVisible()) {
+        state.SkipWithError("the view isn't shown");
+    }
     for (auto _ : state) {
         connector.get().getView()->viewport()->repaint();
     }

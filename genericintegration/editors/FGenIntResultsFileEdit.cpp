@@ -43,16 +43,25 @@ void FGenIntResultsFileEdit::setFramed(const std::vector<FTextRange>& places) {
 void FGenIntResultsFileEdit::show(FTextRange range, int position) {
     QTextCursor cursor(document());
     cursor.setPosition(range.begin);
-    const QRect place = cursorRect(cursor);
-    const bool isInView = viewport()->rect().top() <= place.top() && place.bottom() <= viewport()->rect().bottom();
-    horizontalScrollBar()->setValue(0);
+    QRect place = cursorRect(cursor);
     cursor.setPosition(range.end());
-    setTextCursor(cursor);
-    if (!isInView) {
-        centerCursor();
+    place |= cursorRect(cursor);
+    const QRect view = viewport()->rect();
+    if (!view.contains(place)) {
+        const bool isLineInView = view.top() <= place.top() && place.bottom() <= view.bottom();
+        horizontalScrollBar()->setValue(0);
+        setTextCursor(cursor);
+        if (!isLineInView) {
+            centerCursor();
+        }
     }
+    // What the user points at stays under the pointer, wherever the anchor is.
+    const int left = horizontalScrollBar()->value();
+    const int top = verticalScrollBar()->value();
     cursor.setPosition(position);
     setTextCursor(cursor);
+    horizontalScrollBar()->setValue(left);
+    verticalScrollBar()->setValue(top);
 }
 
 void FGenIntResultsFileEdit::focusInEvent(QFocusEvent* event) {

@@ -555,6 +555,9 @@ bool FGenIntResultsFileEditor::readNumberAt(int position) {
     if (proposal && !selectValueAt(proposal->range)) {
         mSteps.addValue(proposal->value, FExpr<FUnsigned>(new FUnsigned(0)));
         refreshAll();
+        // The user types the name at once, in place of the proposed one.
+        mpForm->mValueSelector->setFocus();
+        mpForm->mValueSelector->lineEdit()->selectAll();
     }
     return proposal.has_value();
 }

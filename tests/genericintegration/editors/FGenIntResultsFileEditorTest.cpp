@@ -28,6 +28,7 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QRandomGenerator>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTreeView>
@@ -466,6 +467,18 @@ TEST_F(FResultsEditorTest, pointingAtANumberReadsIt) {
     EXPECT_EQ(text(file().getCurrentAnchor()), "lift");
     EXPECT_EQ(text(find<QLabel>("valuePlace")->text()), "line 5, column 5: 8") << "the number stays";
     EXPECT_FALSE(choose("readNumber", "drag"));
+}
+
+TEST_F(FResultsEditorTest, theNumberPointedAtStaysInPlaceAndIsNamedAtOnce) {
+    const QString heading = "stress" + QString(400, ' ') + "strain";
+    ASSERT_TRUE(run(QString("out.setValues([])\nout.setContent(\"%1\n3.5 4.5\")").arg(heading)));
+    settle();
+    doubleClickOn("3.5");
+    EXPECT_GT(edit().cursorRect().left(), edit().viewport()->width()) << "the caret is out of view";
+    EXPECT_EQ(edit().horizontalScrollBar()->value(), 0);
+    type(QApplication::focusWidget(), "peak");
+    EXPECT_EQ(text(current()), "peak");
+    agree();
 }
 
 TEST_F(FResultsEditorTest, whereTheReaderReadsElsewhereItsPlaceIsFramed) {

@@ -44,6 +44,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -96,7 +97,8 @@ FMainWindow::FMainWindow() {
     makeStatusBar();
     listen();
 
-    resize(usualSize.boundedTo(screen()->availableSize()));
+    const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(usualSize.boundedTo(screen()->availableSize() - frame));
     restoreGeometry(FGuiSettings::getGeometry());
     showProject(situation().hasProject);
     refresh();

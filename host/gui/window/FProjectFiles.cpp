@@ -26,10 +26,15 @@ namespace {
 const char* const projectFilter = "Projects (*.mrx);;All files (*)";
 const char* const scriptFilter = "Scripts (*.merix);;All files (*)";
 
+// A dialog takes the last part of a folder that doesn't exist for a file's name.
+QString documentsFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 QString startFolder() {
     const QString file = FMerixCtrl::instance()->getProjectFile();
-    return file.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                          : QFileInfo(file).path();
+    return file.isEmpty() ? documentsFolder() : QFileInfo(file).path();
 }
 
 }  // namespace
@@ -154,8 +159,7 @@ void FProjectFiles::openExample(const QString& name) {
         return;
     }
     const QString parent =
-        FUserInterface::instance()->askFolder(QStringLiteral("Folder for a copy of the example"),
-                                              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+        FUserInterface::instance()->askFolder(QStringLiteral("Folder for a copy of the example"), documentsFolder());
     if (parent.isEmpty()) {
         return;
     }

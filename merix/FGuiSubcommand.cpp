@@ -11,7 +11,8 @@ std::vector<FSubcommand::Argument> FGuiSubcommand::arguments() {
     return {
         {"PROJECT", "Opened at start", &mProject},
         {"--script FILE", "Executed at start, after the project was opened", &mScript},
-        {"--show WHAT", "Shows a panel, triggers an action, or selects an object; can be repeated", &mShown},
+        {"--show WHAT", "Shows a panel, an object or a place such as mesh:12, or triggers an action; can be repeated",
+         &mShown},
         {"--screenshot FILE", "Saves a picture of the window when nothing runs, or after 3 s, and ends", &mScreenshot},
         {"--size WxH", "Size of the window in pixels, such as 1280x800", &mSize}};
 }

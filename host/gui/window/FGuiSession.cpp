@@ -15,6 +15,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
+#include <QPainter>
 #include <QTimer>
 
 namespace {
@@ -35,17 +37,30 @@ void whenIdle(QObject* context, const std::function<void()>& function, int round
     });
 }
 
+/** The window with its dialogs. */
+QPixmap pictureOf(QWidget& window) {
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    for (QDialog* dialog : window.findChildren<QDialog*>()) {
+        if (dialog->isVisible()) {
+            const QRect place(window.mapFromGlobal(dialog->mapToGlobal(QPoint())), dialog->size());
+            painter.drawPixmap(place.topLeft(), dialog->grab());
+            painter.drawRect(place.adjusted(-1, -1, 0, 0));
+        }
+    }
+    return picture;
+}
+
 }  // namespace
 
 void FGuiSession::show(FMainWindow& window) const {
     for (const QString& what : shown) {
-        FManaged* object = FObjectManager::instance()->find(what);
         if (window.panel(what)) {
             window.raisePanel(what);
         } else if (QAction* action = window.actions().get(what)) {
             action->trigger();
-        } else if (object) {
-            window.showTemplate(object, 0, 0);
+        } else if (FObjectManager::instance()->find(what.section(QLatin1Char(':'), 0, 0))) {
+            window.showPlace(what, QString());
         } else {
             FLogMsg::warning(QStringLiteral("merix"),
                              QStringLiteral("there is no panel, action or object \"%1\"").arg(what),
@@ -77,7 +92,7 @@ int FGuiSession::run() const {
         if (!screenshot.isEmpty()) {
             constexpr int rounds = 6;
             const auto take = [&] {
-                if (!window.grab().save(screenshot)) {
+                if (!pictureOf(window).save(screenshot)) {
                     FLogMsg::error(QStringLiteral("merix"),
                                    QStringLiteral("can't write the picture \"%1\"").arg(screenshot),
                                    QStringLiteral("Name a file that ends in .png, in a folder that exists"));

@@ -104,7 +104,6 @@ void FProjectFiles::open(const QString& path) {
         showFailure(QStringLiteral("%1 couldn't be opened: %2.").arg(name, messages.text()));
         return;
     }
-    mWindow.documents().closeAll();
     if (recovers) {
         mWindow.unsavedWork().assume();
     }

@@ -16,6 +16,8 @@
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FObjectMime.h"
 #include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FProjectFiles.h"
+#include "host/script/FProject.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
 
@@ -186,6 +188,18 @@ TEST_F(FSoftwareConnectorTest, itsItemsAndTabsFollowTheObjects) {
     }
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
     EXPECT_EQ(items(), allItems);
+}
+
+TEST_F(FSoftwareConnectorTest, itIsInFrontWhenItsProjectIsOpened) {
+    open();
+    ASSERT_TRUE(FProject::instance()->save(folder.path("p.mrx")));
+    trigger("newProject");
+    EXPECT_EQ(window().documents().count(), 0);
+    window().projectFiles().open(folder.path("p.mrx"));
+    settle();
+    EXPECT_EQ(window().documents().count(), 1);
+    EXPECT_EQ(items(), allItems);
+    EXPECT_EQ(connector().count(), 4);
 }
 
 TEST_F(FSoftwareConnectorTest, eachTemplateHasOneTabAlsoIfItIsShownByTheStepThatMakesIt) {

@@ -23,6 +23,10 @@ void FConnectorPage::goTo(int line, int column) {
     }
 }
 
+FObjectPage* FConnectorPage::showPageOf(const FManaged* object) {
+    return mConnector ? mConnector->showPageOf(object) : nullptr;
+}
+
 void FConnectorPage::letGo() {
     auto* connector = static_cast<FSoftwareConnector*>(mConnector.getStored());
     if (connector && connector->parent() == this) {

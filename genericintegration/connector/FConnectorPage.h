@@ -16,6 +16,7 @@ class FConnectorPage : public QWidget, public FObjectPage {
 
     QWidget* widget() override { return this; }
     void goTo(int line, int column) override;
+    FObjectPage* showPageOf(const FManaged* object) override;
     void letGo() override;
 
  private:

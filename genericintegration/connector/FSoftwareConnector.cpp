@@ -39,14 +39,6 @@
 
 namespace {
 
-struct Size {
-    SoftConItemSize size;
-    const char* text;
-};
-
-constexpr Size sizes[] = {
-    {SoftConItemSize::Large, "Large"}, {SoftConItemSize::Medium, "Medium"}, {SoftConItemSize::Small, "Small"}};
-
 const QString& sizeKey() {
     static const QString key = QStringLiteral("SoftwareConnector/lastItemSize");
     return key;
@@ -196,36 +188,34 @@ void FSoftwareConnector::enterModel() {
     setOutOfDate(true);
 }
 
+void FSoftwareConnector::takeItemSize(unsigned int size) {
+    FHistory::instance()->record(this);
+    mSetUp.mItemSize = static_cast<SoftConItemSize>(size);
+    setOutOfDate(true);
+}
+
 void FSoftwareConnector::setItemSizeStr(const QString& text) {
-    const auto* found = std::find_if(std::begin(sizes), std::end(sizes),
-                                     [&](const Size& size) { return text == QLatin1String(size.text); });
-    if (found == std::end(sizes)) {
+    const QMap<unsigned int, QString>& texts = FEnum<SoftConItemSize>::table().getTexts();
+    if (!texts.values().contains(text)) {
         return;
     }
+    const unsigned int size = texts.key(text);
     {
         const FUserStep step(QStringLiteral("Set item size"));
-        FHistory::instance()->record(this);
-        mSetUp.mItemSize = found->size;
-        setOutOfDate(true);
+        takeItemSize(size);
     }
-    FIni().setValue(sizeKey(), static_cast<int>(found->size));
+    FIni().setValue(sizeKey(), size);
 }
 
 QString FSoftwareConnector::getItemSizeStr() const {
-    const auto* found = std::find_if(std::begin(sizes), std::end(sizes),
-                                     [this](const Size& size) { return size.size == mSetUp.mItemSize; });
-    return QString::fromLatin1(found == std::end(sizes) ? "Large" : found->text);
+    return FEnum<SoftConItemSize>::table().getTexts().value(static_cast<unsigned int>(mSetUp.mItemSize));
 }
 
 void FSoftwareConnector::useLastItemSize() {
-    const QVariant stored = FIni().value(sizeKey());
-    const auto* found = std::find_if(std::begin(sizes), std::end(sizes), [&stored](const Size& size) {
-        return stored.isValid() && stored.toInt() == static_cast<int>(size.size);
-    });
-    if (found != std::end(sizes)) {
-        FHistory::instance()->record(this);
-        mSetUp.mItemSize = found->size;
-        setOutOfDate(true);
+    bool isNumber = false;
+    const unsigned int size = FIni().value(sizeKey()).toUInt(&isNumber);
+    if (isNumber && FEnum<SoftConItemSize>::table().getTexts().contains(size)) {
+        takeItemSize(size);
     }
 }
 
@@ -311,6 +301,17 @@ void FSoftwareConnector::closeTab(int index) {
 void FSoftwareConnector::gotoTab(FExpr<FGenIntFile> pFile) {
     const int known = pFile ? tabOf(pFile.ptr()) : 0;
     setCurrentIndex(known >= 0 ? known : addNewTab(pFile));
+}
+
+FObjectPage* FSoftwareConnector::showPageOf(const FManaged* file) {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
+    for (const FExpr<FGenIntFile>& known : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+        if (known.ptr() == file) {
+            gotoTab(known);
+            return pageAt(currentIndex());
+        }
+    }
+    return nullptr;
 }
 
 void FSoftwareConnector::renameTab(const FExpr<FGenIntFile>& file) {

@@ -53,6 +53,8 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     /** Whether a run has locked the items and pages. */
     bool isLocked() const { return mIsLocked; }
     void renameTab(const FExpr<FGenIntFile>& file);
+    /** Shows the tab of a template; null if the definition hasn't the template. */
+    FObjectPage* showPageOf(const FManaged* file);
 
     // ---- adding items without a dialog ----
     /** @param type  null prototype of what the files become; see FSoftConScene::createItems */
@@ -106,6 +108,7 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     void init();
     void follow();
     void listenToRuns();
+    void takeItemSize(unsigned int size);
     void addMissingTabs();
     void removeStaleTabs();
     void showOverviewButton();

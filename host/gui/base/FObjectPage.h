@@ -2,6 +2,9 @@
 
 #include "host/core/FExport.h"
 
+#include <QtGlobal>
+
+class FManaged;
 class QWidget;
 
 /**
@@ -15,6 +18,11 @@ class MERIX_EXPORT FObjectPage {
     virtual QWidget* widget() = 0;
     /** Shows a place of the object's text. Line and column count from 1; line 0 stands for the object as a whole. */
     virtual void goTo(int line, int column) = 0;
+    /** The page of another object within this one, brought to the front; null if there is none. */
+    virtual FObjectPage* showPageOf(const FManaged* object) {
+        Q_UNUSED(object)
+        return nullptr;
+    }
     /**
      * The page has been taken out of the window and will be deleted: it lets go of its object and of all text, and no
      * change of the model reaches it any more. The object may have left the model.

@@ -21,6 +21,7 @@ class MERIX_EXPORT FPageTabs : public QObject {
     FObjectPage* open(FManaged* object);
 
  private:
+    FObjectPage* showWithinAnother(const FManaged* object);
     void close(const FManaged* object);
     void rename(const FManaged* object);
 

@@ -202,6 +202,15 @@ TEST_F(FSoftwareConnectorTest, itIsInFrontWhenItsProjectIsOpened) {
     EXPECT_EQ(connector().count(), 4);
 }
 
+TEST_F(FSoftwareConnectorTest, aTemplateThatIsShownFromElsewhereIsShownInItsTab) {
+    open();
+    emit connector().tabCloseRequested(2);
+    window().showTemplate(object<FManaged>("other"), 1, 1);
+    settle();
+    EXPECT_EQ(window().documents().count(), 1) << "there is no second page of it";
+    EXPECT_EQ(connector().tabText(connector().currentIndex()), "more.inp");
+}
+
 TEST_F(FSoftwareConnectorTest, eachTemplateHasOneTabAlsoIfItIsShownByTheStepThatMakesIt) {
     ASSERT_TRUE(run(QString(setUp).remove("softwareConnector con() { .setComputation(solver) }\ndestroy(Runner)\n"
                                           "destroy(configurationGenInt)\ndestroy(definitionGenInt)\n") +

@@ -51,6 +51,9 @@ std::optional<Extent> askExtent(const FGenIntComputation& computation, QWidget* 
 void FConnectorExport::run(const FGenIntComputation& computation, QWidget* parent) {
     const FExpr<FGenIntComputation> kept(&computation);
     FUserStep::commitEdits();
+    if (!FSetUpExport(computation).isPossible()) {
+        return;
+    }
     const std::optional<Extent> extent = askExtent(computation, parent);
     if (!extent || !kept) {
         return;
@@ -62,9 +65,7 @@ void FConnectorExport::run(const FGenIntComputation& computation, QWidget* paren
     if (path.isEmpty() || !kept) {
         return;
     }
-    const FSetUpExport set(computation, *extent);
-    const QString fault = set.isPossible() ? set.save(path) : QStringLiteral("its computation has no definition");
-    if (!fault.isEmpty()) {
+    if (const QString fault = FSetUpExport(computation, *extent).save(path); !fault.isEmpty()) {
         FIO::warning(parent, QStringLiteral("SoftwareConnector Export"),
                      QStringLiteral("Can't write %1: %2").arg(path, fault));
     }

@@ -308,10 +308,6 @@ void FSoftConScene::setItemSize(SoftConItemSize size) {
     calcItemRatios();
 }
 
-QString FSoftConScene::currentSizeName() const {
-    return mLayout ? mLayout->getSizeName() : QString();
-}
-
 void FSoftConScene::resizeItem(QAction* pAction) {
     pAction->setChecked(true);
     mConnector.setItemSizeStr(pAction->text());

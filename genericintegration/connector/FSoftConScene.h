@@ -119,7 +119,6 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     QGraphicsItem* itemUnder(const QPointF& point) const;
     void layOut(const QRect& view);
     void updateHints();
-    QString currentSizeName() const;
     void addSizeActions(QMenu& menu, QActionGroup& group);
 
     FSoftwareConnector& mConnector;

@@ -13,7 +13,7 @@ class FSoftConTemplateItem : public FClass<FSoftConTemplateItem, FSoftConObjectI
                          const QString& image);
     ~FSoftConTemplateItem() override;
 
-    /** The next `updateItem` paints the page anew. */
+    /** The next `updateItem` paints the page again. */
     virtual void setPreviewOutOfDate() { mPreviewOutOfDate = true; }
     void setOutOfDate(bool outOfDate) const override;
 

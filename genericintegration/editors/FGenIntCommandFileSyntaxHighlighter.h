@@ -14,7 +14,7 @@ class QTextBlock;
 
 /**
  * Colours an input template, and keeps with each block what it offers. Of a large text, it colours only the blocks in
- * view and some around them; the others offer something as soon as it is asked for.
+ * view and some around them; the others are analysed when their data is requested.
  */
 class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     Q_OBJECT

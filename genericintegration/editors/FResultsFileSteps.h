@@ -17,7 +17,7 @@ class FResultsFileSteps {
 
     /** True during a change. */
     bool isChanging() const { return mIsChanging; }
-    /** The current value; where a script has set all values anew, the one of the same name. */
+    /** The current value; after a script has replaced all values, the one of the same name. */
     FExpr<FGenIntResultsFileValue> currentValue() const;
     /** The value of exactly that name, else one whose name differs only in case. */
     FExpr<FGenIntResultsFileValue> valueNamed(const QString& name) const;

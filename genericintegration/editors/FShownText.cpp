@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Whether filling the widget anew is faster than editing its text. */
+/** Whether filling the widget again is faster than editing its text. */
 bool isLarge(const std::vector<FTextReplacement>& changes) {
     constexpr int mostInserted = 1'000'000;
     constexpr std::size_t mostChanges = 50'000;

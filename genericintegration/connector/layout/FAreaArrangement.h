@@ -18,7 +18,7 @@ struct FAreaWeights {
 
 /**
  * Places items in rows and columns, from the centre outward. The areas are quarters of the view. If one of them can't
- * hold its items, the view is divided by need; if that isn't enough either, it is divided anew with room for a scroll
+ * hold its items, the view is divided by need; if that isn't enough either, it is divided again, with room for a scroll
  * bar, and the area extends beyond the view.
  */
 class FAreaArrangement {

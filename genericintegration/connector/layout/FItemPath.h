@@ -11,7 +11,7 @@ QString belowBase(const QString& path, const QString& base);
 QString folderBelow(const QString& path, const QString& base);
 /** The name of a file behind a folder. */
 QString inFolder(const QString& path, const QString& folder);
-/** The path without the base, wherever that stands in it, and without a separator before it. */
+/** The path without the base, wherever it occurs, and without a separator before it. */
 QString withoutBase(const QString& path, const QString& base);
 
 }  // namespace FItemPath

@@ -1,5 +1,6 @@
 #include "genericintegration/connector/layout/FItemRequests.h"
 
+#include "genericintegration/connector/layout/FItemPath.h"
 #include "host/core/FLogMsg.h"
 #include "host/run/FResultsGeneric.h"
 
@@ -36,12 +37,7 @@ void visitFiles(const QFileInfo& entry, QDir::SortFlags order, const Visit& visi
 }
 
 QString folderBelow(const QString& base, const QFileInfo& file) {
-    QString folder = file.filePath();
-    folder.remove(base);
-    if (folder.startsWith(u'/') || folder.startsWith(u'\\')) {
-        folder.remove(0, 1);
-    }
-    return folder.remove(file.fileName());
+    return FItemPath::withoutBase(file.filePath(), base).remove(file.fileName());
 }
 
 QString folderOf(const QFileInfo& file) {

@@ -25,7 +25,7 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
  public:
     /** Runs beyond that number push out the oldest. */
     static constexpr std::size_t most = 1000;
-    /** So many numbers of earlier runs are kept. */
+    /** The numbers of earlier runs are kept up to this count. */
     static constexpr int mostNumbers = 200'000;
     enum Column { runColumn, stateColumn, startColumn, tookColumn, saidColumn, columns };
 

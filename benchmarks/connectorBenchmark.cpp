@@ -3,10 +3,8 @@
 #include "genericintegration/connector/FSoftwareConnector.h"
 #include "host/core/FHistory.h"
 #include "host/core/FObjectManager.h"
-#include "host/core/FPrototypes.h"
 #include "host/core/FUserInterface.h"
 #include "host/core/FUserStep.h"
-#include "host/gui/base/FTheme.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FWindowUserInterface.h"
@@ -178,14 +176,3 @@ BENCHMARK(updateAll)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(open)->Arg(0)->Arg(30)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    FTheme::install();
-    FPrototypes::buildPending();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    FProject::instance()->create();
-    return 0;
-}

@@ -1,26 +1,22 @@
 // The editors of templates, compared with a bare QPlainTextEdit with the same text. Each number is a counter: the times
 // of single events matter, and not how often they can be repeated.
 
+#include "benchmarks/processMemory.h"
 #include "genericintegration/editors/FGenIntCommandFileEdit.h"
 #include "genericintegration/editors/FGenIntCommandFileEditor.h"
 #include "host/core/FHistory.h"
 #include "host/core/FNumber.h"
-#include "host/core/FPrototypes.h"
 #include "host/core/FUserStep.h"
 #include "host/design/FEntryDef.h"
 #include "host/gui/base/FFixedFont.h"
-#include "host/gui/base/FTheme.h"
 #include "host/script/FProject.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTextBlock>
 #include <QtTest/QTest>
-
-#include <malloc.h>
 
 #include <memory>
 
@@ -32,22 +28,6 @@ constexpr int keys = 200;
 double milliseconds(const QElapsedTimer& timer) {
     constexpr double million = 1e6;
     return static_cast<double>(timer.nsecsElapsed()) / million;
-}
-
-/** Megabytes of the process from /proc, such as "VmHWM:" for the peak. */
-double memory(const char* field) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    const QString text = QString::fromLatin1(status.readAll());
-    constexpr double kilo = 1024;
-    return text.section(QLatin1String(field), 1).section(QLatin1String("kB"), 0, 0).trimmed().toDouble() / kilo;
-}
-
-void resetPeak() {
-    malloc_trim(0);
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    clear.open(QIODevice::WriteOnly);
-    clear.write("5");
 }
 
 /** Lines of about 60 characters, with numbers; some have a tag. */
@@ -149,14 +129,14 @@ double settle() {
 template <class Editor>
 void show(benchmark::State& state, const QString& text) {
     for (auto _ : state) {
-        resetPeak();
+        processMemory::resetPeak();
         QElapsedTimer timer;
         timer.start();
         Editor editor(text);
         editor.window().grab();
         state.counters["show_ms"] = milliseconds(timer);
         settle();
-        state.counters["peak_MB"] = memory("VmHWM:");
+        state.counters["peak_MB"] = processMemory::megabytes("VmHWM:");
 
         QPlainTextEdit& edit = editor.edit();
         QTextCursor cursor(edit.document());
@@ -177,7 +157,7 @@ void show(benchmark::State& state, const QString& text) {
         const std::size_t history = FHistory::instance()->getSize();
         state.counters["write_ms"] = editor.write();
         state.counters["history_bytes"] = static_cast<double>(FHistory::instance()->getSize() - history);
-        state.counters["peak_after_write_MB"] = memory("VmHWM:");
+        state.counters["peak_after_write_MB"] = processMemory::megabytes("VmHWM:");
         settle();
         timer.restart();
         edit.moveCursor(QTextCursor::End);
@@ -203,14 +183,3 @@ BENCHMARK_TEMPLATE(longLineText, Bare)->Iterations(1)->Unit(benchmark::kMillisec
 BENCHMARK_TEMPLATE(longLineText, Template)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    FTheme::install();
-    FPrototypes::buildPending();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    FProject::instance()->create();
-    return 0;
-}

@@ -1,23 +1,19 @@
 // The page of a result template with a large sample, compared with a bare QPlainTextEdit with the same text. Each
 // number is a counter: the times of single events matter, and not how often they can be repeated.
 
+#include "benchmarks/processMemory.h"
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FHistory.h"
-#include "host/core/FPrototypes.h"
 #include "host/gui/base/FSpinBox.h"
-#include "host/gui/base/FTheme.h"
 #include "host/script/FProject.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QtTest/QTest>
-
-#include <malloc.h>
 
 #include <memory>
 
@@ -29,22 +25,6 @@ const QSize size(1200, 800);
 double milliseconds(const QElapsedTimer& timer) {
     constexpr double million = 1e6;
     return static_cast<double>(timer.nsecsElapsed()) / million;
-}
-
-/** Megabytes of the process from /proc, such as "VmHWM:" for the peak. */
-double memory(const char* field) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    const QString text = QString::fromLatin1(status.readAll());
-    constexpr double kilo = 1024;
-    return text.section(QLatin1String(field), 1).section(QLatin1String("kB"), 0, 0).trimmed().toDouble() / kilo;
-}
-
-void resetPeak() {
-    malloc_trim(0);
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    clear.open(QIODevice::WriteOnly);
-    clear.write("5");
 }
 
 void settle() {
@@ -108,16 +88,16 @@ void show(benchmark::State& state) {
     for (auto _ : state) {
         {
             FPage page;
-            resetPeak();
-            const double before = memory("VmRSS:");
+            processMemory::resetPeak();
+            const double before = processMemory::megabytes("VmRSS:");
             QElapsedTimer timer;
             timer.start();
             page.show();
             shown = std::min(shown, milliseconds(timer));
-            peak = memory("VmHWM:") - before;
+            peak = processMemory::megabytes("VmHWM:") - before;
         }
-        resetPeak();
-        const double before = memory("VmRSS:");
+        processMemory::resetPeak();
+        const double before = processMemory::megabytes("VmRSS:");
         QElapsedTimer timer;
         timer.start();
         QPlainTextEdit edit;
@@ -128,7 +108,7 @@ void show(benchmark::State& state) {
         edit.show();
         settle();
         bare = std::min(bare, milliseconds(timer));
-        barePeak = memory("VmHWM:") - before;
+        barePeak = processMemory::megabytes("VmHWM:") - before;
     }
     state.counters["page_ms"] = shown;
     state.counters["bare_ms"] = bare;
@@ -174,13 +154,3 @@ BENCHMARK(show)->Iterations(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(turn)->Arg(0)->Arg(1)->Iterations(3)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    FTheme::install();
-    FPrototypes::buildPending();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

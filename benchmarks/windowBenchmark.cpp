@@ -1,10 +1,8 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
-#include "host/core/FPrototypes.h"
 #include "host/core/FSelectionSet.h"
 #include "host/design/FDesign.h"
-#include "host/gui/base/FTheme.h"
 #include "host/gui/panels/FLogModel.h"
 #include "host/gui/text/FOutputDocument.h"
 #include "host/gui/text/FOutputViewer.h"
@@ -207,14 +205,3 @@ BENCHMARK(followGrowingFile)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(logMessages)->Arg(1000000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    FTheme::install();
-    FPrototypes::buildPending();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    FProject::instance()->create();
-    return 0;
-}

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/** What has to hold for each input. A broken promise is told on the standard error and ends the program. */
+/** What has to hold for each input. A broken promise is reported on the standard error and ends the program. */
 namespace FFuzzCheck {
 
 [[noreturn]] void fail(const QString& message);

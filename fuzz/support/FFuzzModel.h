@@ -13,7 +13,7 @@ void prepare();
 void clear();
 
 /**
- * Carries out what touches no file, or the program ends.
+ * Executes what touches no file; anything else ends the program.
  * @return how many errors were told
  * @param tells  whether all messages go to the standard error
  */

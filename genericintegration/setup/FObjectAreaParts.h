@@ -3,8 +3,8 @@
 #include "host/script/FSyntaxStatement.h"
 
 /**
- * The statements of an object area, each in the order of the text. Those that name the definition, or an object that
- * does, at any distance, stand apart: objects that default values name come before them. Time linear in the length.
+ * The statements of an object area, each in the order of the text. Those that name the definition, directly or through
+ * other objects, are kept apart: objects that default values name come before them. Time linear in the length.
  */
 struct FObjectAreaParts {
     /** @param definition  the name of the definition in the file */

@@ -26,7 +26,7 @@
 
 namespace {
 
-/** The PATH that the program is searched in: the environment, or what the settings put in its place. */
+/** The PATH that the program is searched in: that of the environment, or the one in the settings. */
 QString pathOf(const FProgramSettings& program) {
     QString path = qEnvironmentVariable("PATH", QStringLiteral("/bin:/usr/bin"));
     const QString start = QStringLiteral("PATH=");

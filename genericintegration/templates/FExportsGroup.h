@@ -9,7 +9,7 @@ inline QString word() {
     return QStringLiteral("Exports");
 }
 
-/** What stands before the file name in a tag. */
+/** What precedes the file name in a tag. */
 inline QString prefix() {
     return word() + QLatin1Char('|');
 }

@@ -13,7 +13,7 @@ class FGenIntFile : public FClass<FGenIntFile, FManaged> {
  public:
     static FClassData mClass;
 
-    /** The stored form, built anew at each call. */
+    /** The stored form, built again at each call. */
     QString getContent() const;
     /** The stored form of a text. `setContent` takes from it any text, also one that begins like a stored form. */
     static QString storedForm(const QString& content);

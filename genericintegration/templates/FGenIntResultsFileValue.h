@@ -4,7 +4,7 @@
 #include "host/core/FStateField.h"
 
 /**
- * Where one named number stands in an output file, and how it is read. It holds no result.
+ * Where one named number is in an output file, and how it is read. It holds no result.
  *
  * A plain record: the result template and its editor work on the members directly.
  */

@@ -8,7 +8,7 @@
 struct FTemplateTag {
     qsizetype position = 0;  //!< of the opening "<"
     qsizetype length = 0;    //!< of the whole tag
-    QStringView name;        //!< what stands between the two markers, a view of the scanned text
+    QStringView name;        //!< the text between the two markers, a view of the scanned text
 
     qsizetype end() const { return position + length; }
 };

@@ -12,7 +12,8 @@ struct FTextPlace {
 
 /**
  * Turns positions of a text into places. Asking for positions in ascending order takes time linear in the text,
- * whatever their number; a smaller position than the last one makes it count anew. The text must outlive this object.
+ * whatever their number; a smaller position than the last one makes it count from the start. The text must outlive this
+ * object.
  */
 class FTextPlaces {
  public:

@@ -49,9 +49,9 @@ class MERIX_EXPORT FExprBase {
     /** The script text that restores the handle; "NULL" for an empty one. */
     QString toHistoryString() const;
 
-    /** Takes an object or expression as it stands. */
+    /** Takes an object or expression unchanged. */
     void setExpr(const FExprBase& other) { *this = other; }
-    /** Binds an expression's text; the handle is left empty if an unknown name or command stands in it. */
+    /** Binds an expression's text; the handle is left empty if the text has an unknown name or command. */
     bool resolve(const QString& text);
 
     /** Makes `client` depend on what the handle holds. False where that would close a cycle. */

@@ -17,7 +17,7 @@ class QTextStream;
  *
  * It is in the model from `registerObject` until `FManaged::destroy`. A destroyed object is kept by the history and by
  * handles, and the same object comes back on undo, so destructors only free; what else has to happen when an object
- * goes stands in `leaveModel`.
+ * goes is described at `leaveModel`.
  */
 class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
  public:
@@ -66,7 +66,7 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
     /**
      * Writes the object as the script text from which its creator restores it.
      * @param indent   levels of indentation
-     * @param inScope  false if the text stands outside the object's scope: the creator of an object with a
+     * @param inScope  false if the text is outside the object's scope: the creator of an object with a
      *                 configuration of its own is then marked with "&"
      * @param flag     whether the text keeps the object's number, as a project does
      */

@@ -9,7 +9,7 @@ class FExprBase;
 class FObjectList;
 class FUpdateLinks;
 
-/** Non-zero: each build of a prototype is told on the standard output. Set from the environment at start. */
+/** Non-zero: each build of a prototype is reported on the standard output. Set from the environment at start. */
 MERIX_EXPORT extern int VERBOSE;
 
 /** Number of blanks of one level of indentation in saved text. */

@@ -3,7 +3,7 @@
 #include "host/core/FExport.h"
 #include "host/core/FManaged.h"
 
-/** A managed object that can stand in a scope: what a model is made of. */
+/** A managed object that can be in a scope: what a model is made of. */
 class MERIX_EXPORT FEntity : public FClass<FEntity, FManaged> {
  public:
     static FClassData mClass;

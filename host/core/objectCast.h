@@ -11,7 +11,7 @@ concept StatesItsClass = std::derived_from<T, FObject> && std::same_as<decltype(
 
 /**
  * The object as one of class T, or null if it isn't one: a `dynamic_cast` for handles, which are looked at all the
- * time. Classes of the class pattern are told by their class data, in a fraction of the time; any other, as an
+ * time. Classes of the class pattern are recognised by their class data, in a fraction of the time; any other, as an
  * interface, is left to the language.
  */
 template <class T>

@@ -30,7 +30,7 @@ class MERIX_EXPORT FEntryHolder {
 
     /** Appends an entry. An empty handle, and an entry that has a parent already, change nothing. */
     virtual void addEntry(const FExpr<FEntryBase>& entry);
-    /** Takes an entry out; false if it doesn't stand here. */
+    /** Takes an entry out; false if it isn't here. */
     virtual bool removeEntry(const FExpr<FEntryBase>& entry);
     /** The same, also from the groups below. */
     virtual bool findAndRemoveEntry(const FExpr<FEntryBase>& entry);

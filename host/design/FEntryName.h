@@ -13,7 +13,7 @@
 /** True for a text that can be a name; an empty one can't. */
 MERIX_EXPORT bool isEntryName(const QString& text);
 
-/** `text` with a `_` for each character that can't stand in a name; "newEntry" for an empty one. */
+/** `text` with a `_` for each character that a name can't have; "newEntry" for an empty one. */
 MERIX_EXPORT QString legalEntryName(const QString& text);
 
 /**

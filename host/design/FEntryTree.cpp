@@ -174,7 +174,7 @@ void FEntryTree::followLevel(FEntryHolder& entries, const FEntryHolder& definiti
     entries.setEntries(list);
 }
 
-// Present entries mostly stand in the order of their definitions; only where they don't, they are looked up.
+// Present entries are mostly in the order of their definitions; only where they aren't, they are looked up.
 FEntryTree::Entries FEntryTree::wanted(const FEntryHolder& entries, const FEntryHolder& definitions, bool reset) {
     const Entries& present = entries.getEntries();
     QHash<const void*, Entries> rest;

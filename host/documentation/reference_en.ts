@@ -76,7 +76,7 @@ print(cruise.getEntryValue("Geometry|span") / 2)</translation>
     </message>
     <message>
         <source>!FConfiguration.member.setEntryValue(string,path,expression,value)</source>
-        <translation>Sets the value of an entry. It stays an expression and follows the parameters, entries and results that it names; variables of the script are replaced by their present value. It is evaluated when the input files are written; the results of another computation are read then, but that computation isn't run. Only functions and commands that change nothing may stand in it. An entry without a value is written as SHOULD_BE_EXPORTED. An unknown path, or a value that would depend on itself, is refused with a warning.</translation>
+        <translation>Sets the value of an entry. It stays an expression and follows the parameters, entries and results that it names; variables of the script are replaced by their present value. It is evaluated when the input files are written; the results of another computation are read then, but that computation isn't run. It may use only functions and commands that change nothing. An entry without a value is written as SHOULD_BE_EXPORTED. An unknown path, or a value that would depend on itself, is refused with a warning.</translation>
     </message>
     <message>
         <source>!FConfiguration.member.setEntryValue(string,path,expression,value):argument0</source>
@@ -127,7 +127,7 @@ cruise.setDefinition(wing)</translation>
     </message>
     <message>
         <source>!FConfigurationCustom.member.getPreviewText(string,fileName)</source>
-        <translation>The text of an input file as a run would write it now. No file is touched. A value that can be had only by reading files, such as the result of another computation, stands there as its expression. Forced Windows line ends aren't shown, and a tag that names a file through Exports is left out, with a message. A file that the configuration doesn't write gives NULL, with a warning.</translation>
+        <translation>The text of an input file as a run would write it now. No file is touched. A value that needs files to be read, such as the result of another computation, is shown as its expression. Forced Windows line ends aren't shown, and a tag that names a file through Exports is left out, with a message. A file that the configuration doesn't write gives NULL, with a warning.</translation>
     </message>
     <message>
         <source>!FConfigurationCustom.member.getPreviewText(string,fileName):argument0</source>
@@ -359,7 +359,7 @@ print(wing.getEntryNames())</translation>
     </message>
     <message>
         <source>!FDefinition.member.renameEntry(string,path,string,newName)</source>
-        <translation>Renames an entry or a group. The values in the configurations stay; the tags in the input templates get the new path, also those of all entries below a group. Expressions that ask for the old path with getEntryValue don't follow: they give NULL, with a warning, until they are set anew. A name that the group has already is refused with a warning.</translation>
+        <translation>Renames an entry or a group. The values in the configurations stay; the tags in the input templates get the new path, also those of all entries below a group. Expressions that read the old path with getEntryValue don't follow: they give NULL, with a warning, until they are set again. A name that the group has already is refused with a warning.</translation>
     </message>
     <message>
         <source>!FDefinition.member.renameEntry(string,path,string,newName):argument0</source>
@@ -791,7 +791,7 @@ print(readText(solver.getWorkingPath() + "stdout.txt"))</translation>
     </message>
     <message>
         <source>!FGenIntCommandFile</source>
-        <translation>An input template: a sample input file in which tags stand where values go in. A tag is &lt;entry&gt;path&lt;/entry&gt;, where the path names an entry of the definition, groups first, as in Geometry|span; case and indices don't matter. A tag &lt;entry&gt;Exports|wing.dat&lt;/entry&gt; becomes the file name of another template of the same definition. Everything else is written as it stands. A tag that names nothing is left out, with a message. After an &lt;entry&gt; without its &lt;/entry&gt; the rest of the file is lost.</translation>
+        <translation>An input template: a sample input file with tags in the places of the values. A tag is &lt;entry&gt;path&lt;/entry&gt;, where the path names an entry of the definition, groups first, as in Geometry|span; case and indices don't matter. A tag &lt;entry&gt;Exports|wing.dat&lt;/entry&gt; becomes the file name of another template of the same definition. Everything else is written unchanged. A tag that names nothing is left out, with a message. After an &lt;entry&gt; without its &lt;/entry&gt; the rest of the file is lost.</translation>
     </message>
     <message>
         <source>!FGenIntCommandFile.creator.genericIntegrationCommandFile()</source>
@@ -1011,7 +1011,7 @@ in1.setForceWindowsLineEndings(true)</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setNumberSeparator(bool,checked)</source>
-        <translation>Whether a column is a number of the line, whatever stands between the numbers: column 0 is the first number, column 1 the second. It is so for a new template, and the other separators are ignored meanwhile. Exponents with D aren't part of a number, and digits in a label count as numbers of their own. With false, the other separators tell what a column is, and no column is found until one of them is set.</translation>
+        <translation>Whether a column is a number of the line, whatever is between the numbers: column 0 is the first number, column 1 the second. It is so for a new template, and the other separators are ignored meanwhile. Exponents with D aren't part of a number, and digits in a label count as numbers of their own. With false, the other separators define what a column is, and no column is found until one of them is set.</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setNumberSeparator(bool,checked):argument0</source>
@@ -1039,7 +1039,7 @@ out1.setRegExprSeparator("[,;]")</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setSpacesAndTabsSeparator(bool,checked)</source>
-        <translation>Whether blanks and tabs separate columns; any number of them is one separator, and those at the begin of a line don't count. It takes effect only after setNumberSeparator(false). Together with a regular expression either of the two separates.</translation>
+        <translation>Whether blanks and tabs separate columns; any number of them is one separator, and those at the start of a line don't count. It takes effect only after setNumberSeparator(false). Together with a regular expression either of the two separates.</translation>
     </message>
     <message>
         <source>!FGenIntResultsFile.attribute.setSpacesAndTabsSeparator(bool,checked):argument0</source>
@@ -1056,10 +1056,10 @@ out1.setSpacesAndTabsSeparator(true)</translation>
         <translation>Sets the list of values to read. Each value is a list of nine elements:
 
 name: the name of the row in the table of results
-line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text; a number found so without its anchor is told of by a warning. A line below 0 never reaches the first line of the file: it gives the second one or, if the anchor stands in that, NaN
-column: from 0; in which way columns are told apart, setNumberSeparator tells
-anchor: a text that stands in the file, in any case; "" for none
-occurrence: First or Last, if the anchor stands there more than once
+line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text; a number that is found without its anchor is reported by a warning. A line below 0 never reaches the first line of the file: it gives the second one or, if that has the anchor, NaN
+column: from 0; setNumberSeparator sets how a line is split into columns
+anchor: a text of the file, in any case; "" for none
+occurrence: First or Last, if the file has the anchor more than once
 type: "FDouble" for a number, "FFileName" for the name of a further file to import
 import type: for such a file its kind, "text", "table" or "tecplot"; else ""
 average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
@@ -1194,7 +1194,7 @@ setUps.read("wing.lodm")</translation>
     </message>
     <message>
         <source>!FObjectList</source>
-        <translation>A list of values or objects, written [a, b, c]; it can hold other lists. A command that lists don't have is carried out by each element that has it, and the results come back as a list: one result for a list of one, an empty list for an empty one. Lists don't change; a new one is written instead.</translation>
+        <translation>A list of values or objects, written [a, b, c]; it can hold other lists. A command that lists don't have is executed by each element that has it, and the results come back as a list: one result for a list of one, an empty list for an empty one. Lists don't change; a new one is written instead.</translation>
     </message>
     <message>
         <source>!FObjectList.member.at(int,index)</source>
@@ -1258,7 +1258,7 @@ print(area.getValue(), getAttribute(area, "setValue"))</translation>
     </message>
     <message>
         <source>!FParameter.creator.parameter(expression,value=NULL)</source>
-        <translation>Makes a parameter. Its value stays an expression and follows what it names; variables of the script are replaced by their present value. Only functions and commands that change nothing may stand in it.</translation>
+        <translation>Makes a parameter. Its value stays an expression and follows what it names; variables of the script are replaced by their present value. It may use only functions and commands that change nothing.</translation>
     </message>
     <message>
         <source>!FParameter.creator.parameter(expression,value=NULL):argument0</source>
@@ -1302,7 +1302,7 @@ print(area.getValue())</translation>
     </message>
     <message>
         <source>!FResultsGenInt.attribute.setOutputHandles(FCONTAINER,files)</source>
-        <translation>Sets the result templates that the files are read with. Each run sets those of its definition; rereadResults does so again. The tables are made anew when a number is next asked for, also if the list is the same.</translation>
+        <translation>Sets the result templates that the files are read with. Each run sets those of its definition; rereadResults does so again. The tables are made again when a number is next requested, also if the list is the same.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.attribute.setOutputHandles(FCONTAINER,files):argument0</source>
@@ -1445,7 +1445,7 @@ print(solver.getResults().getDataAt("CL", 0))</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column)</source>
-        <translation>The number in a row and a column of the first table: that of the first result template. Outside of the table it is NaN. The rows stand in the order in which the values stand in the file.</translation>
+        <translation>The number in a row and a column of the first table: that of the first result template. Outside of the table it is NaN. The rows are in the order of the values in the file.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getDataAt(unsigned,row,unsigned,column):argument0</source>
@@ -1471,7 +1471,7 @@ print(solver.getResults().getDataAt(0, 0))</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0)</source>
-        <translation>The number in the last row and a column of the first table: that of the first result template: of a result file, the value that stands last in it.</translation>
+        <translation>The number in the last row and a column of the first table: that of the first result template: of a result file, the value that comes last in it.</translation>
     </message>
     <message>
         <source>!FResultsGenInt.member.getLastDataOfColumn(int,column=0):argument0</source>
@@ -2355,7 +2355,7 @@ print(exists("span"))</translation>
     </message>
     <message>
         <source>!Global.exit(int,code=0)</source>
-        <translation>Ends the script after this command, also from within a loop or an included file; "merix script" then ends with the given code. By custom 0 means success. Without it, a script ends with 0, also when a run in it has failed, and with 1 after a script error.</translation>
+        <translation>Ends the script after this command, also from within a loop or an included file; "merix script" then ends with the given code. By convention 0 means success. Without it, a script ends with 0, also when a run in it has failed, and with 1 after a script error.</translation>
     </message>
     <message>
         <source>!Global.exit(int,code=0):argument0</source>
@@ -2385,7 +2385,7 @@ if (!converged) { exit(1) }</translation>
     </message>
     <message>
         <source>!Global.fileName(string,path)</source>
-        <translation>A text that is marked as the name of a file. As the value of an entry it is written into the input files as it stands; nothing is copied, and the file needn't exist. To bring a file into the folder of a run, use inputFile.</translation>
+        <translation>A text that is marked as the name of a file. As the value of an entry it is written into the input files unchanged; nothing is copied, and the file needn't exist. To bring a file into the folder of a run, use inputFile.</translation>
     </message>
     <message>
         <source>!Global.fileName(string,path):argument0</source>
@@ -2497,7 +2497,7 @@ print(getAttribute(in1, "setFileName"))</translation>
     </message>
     <message>
         <source>!Global.getObjects(string,class):argument0</source>
-        <translation>The name of a class as it stands in this reference, such as "FGenIntCommandFile".</translation>
+        <translation>The name of a class as given in this reference, such as "FGenIntCommandFile".</translation>
     </message>
     <message>
         <source>!Global.getObjects(string,class):example</source>
@@ -2512,7 +2512,7 @@ getObjects("FGenIntCommandFile").setForceWindowsLineEndings(true)</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName="")</source>
-        <translation>Makes a definition of an exchange file that save has written: its entries, and its templates. Objects of names that are taken get others. The file is data: nothing in it is run. What is wrong with it is told with its place; faults of the first half of the file keep all of it from being read, of others only what they stand in.</translation>
+        <translation>Makes a definition of an exchange file that save has written: its entries, and its templates. Objects of names that are taken get others. The file is data: nothing in it is run. Errors are reported with their place; an error in the first half of the file prevents all of it from being read, any other only the part that contains it.</translation>
     </message>
     <message>
         <source>!Global.importGenIntDefinition(string,fileName=""):argument0</source>
@@ -2533,7 +2533,7 @@ print(copy.getEntryNames())</translation>
     </message>
     <message>
         <source>!Global.include(string,file)</source>
-        <translation>Carries out another script at this place, as if its lines stood here: it sees and sets the same variables. The name is relative to the folder of the script that includes it if the file lies there, otherwise to the current folder. A file that can't be read or an error in it ends the whole script with exit code 1; more than 50 files within one another are refused.</translation>
+        <translation>Executes another script at this place, as if its lines were here: it sees and sets the same variables. The name is relative to the folder of the script that includes it if the file lies there, otherwise to the current folder. A file that can't be read or an error in it ends the whole script with exit code 1; more than 50 files within one another are refused.</translation>
     </message>
     <message>
         <source>!Global.include(string,file):argument0</source>
@@ -2719,7 +2719,7 @@ print(0.5 * 1.225 * pow(speed, 2))</translation>
     </message>
     <message>
         <source>!Global.print(FObjects,values)</source>
-        <translation>Writes the plain text of each argument to the standard output, with a blank between two of them and a line end behind the last. Texts stand without quotes, numbers in the shortest form that reads back to the same number, and a value that isn't there as NULL. Without arguments it writes an empty line. Messages go to the standard error instead, so that the output can be piped on.</translation>
+        <translation>Writes the plain text of each argument to the standard output, with a blank between two of them and a line end behind the last. Texts are written without quotes, numbers in the shortest form that reads back to the same number, and a value that isn't there as NULL. Without arguments it writes an empty line. Messages go to the standard error instead, so that the output can be piped on.</translation>
     </message>
     <message>
         <source>!Global.print(FObjects,values):argument0</source>
@@ -2903,7 +2903,7 @@ print(span.getValue())</translation>
     </message>
     <message>
         <source>!FManaged.member.setDbId(int,id)</source>
-        <translation>Gives the object the number that it was saved with. It stands in projects and acts only while one is read.</translation>
+        <translation>Gives the object the number that it was saved with. It is written to projects and acts only while one is read.</translation>
     </message>
     <message>
         <source>!FManaged.member.setDbId(int,id):argument0</source>
@@ -2924,11 +2924,11 @@ parameter span() {
     </message>
     <message>
         <source>!FParameter.member.setUpdateOnDemand(bool,onDemand)</source>
-        <translation>Whether the parameter is computed only when somebody asks for it, rather than at once after each change of what it depends on. Of use for values that are read from files.</translation>
+        <translation>Whether the parameter is computed only when it is queried, rather than immediately after each change of what it depends on. Useful for values that are read from files.</translation>
     </message>
     <message>
         <source>!FParameter.member.setUpdateOnDemand(bool,onDemand):argument0</source>
-        <translation>True: when it is asked for. False: at once.</translation>
+        <translation>True: when it is queried. False: immediately.</translation>
     </message>
     <message>
         <source>!FParameter.member.setUpdateOnDemand(bool,onDemand):example</source>

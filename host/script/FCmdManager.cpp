@@ -9,7 +9,7 @@
 
 namespace {
 
-/** The C++ class that carries out commands of a kind, and its class data. */
+/** The C++ class that executes commands of a kind, and its class data. */
 struct Family {
     FClassData* data;
     FObject* (*make)(const FCmdRow& row);

@@ -2,7 +2,7 @@
 
 namespace {
 
-/** The value of a default as it stands in the argument's documented name. */
+/** The value of a default as given in the argument's documented name. */
 FExprBase defaultValue(const QString& text, const FCmdType& type) {
     if (text == QLatin1String("NULL")) {
         return FExprBase(FNull::null());

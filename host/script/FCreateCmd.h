@@ -27,7 +27,7 @@ class FCreateCmd : public FClass<FCreateCmd, FCmd> {
     mutable FExpr<FScope> mScope;  // null: the project itself
 };
 
-/** A creator of an entity, which stands in a scope. */
+/** A creator of an entity, which is in a scope. */
 class FCreateEntityCmd : public FClass<FCreateEntityCmd, FCreateCmd> {
  public:
     static FClassData mClass;
@@ -40,6 +40,6 @@ class FCreateEntityCmd : public FClass<FCreateEntityCmd, FCreateCmd> {
 
  protected:
     void prepare() const override { createScopeAndName(); }
-    /** Finds the scope in which the object is to stand. */
+    /** Finds the scope for the object. */
     void createScopeAndName() const;
 };

@@ -3,7 +3,7 @@
 #include "host/script/FBinder.h"
 #include "host/script/FSyntaxStatement.h"
 
-/** Makes the objects of declarations, and carries out the commands of their blocks. */
+/** Makes the objects of declarations, and executes the commands of their blocks. */
 class FDeclarer {
  public:
     enum class Outcome {
@@ -17,9 +17,9 @@ class FDeclarer {
 
     /** Makes the object, which the declared name means from now on. */
     Outcome create(const FSyntaxDeclaration& declaration, FExprBase& object);
-    /** Carries out a line of a block on the object. */
+    /** Executes a line of a block on the object. */
     Outcome command(const FExprBase& object, const FSyntaxBlockLine& line);
-    /** Carries out a chain of commands. */
+    /** Executes a chain of commands. */
     Outcome command(const FSyntaxExpr& chain);
     /** What was wrong last. */
     const FSyntaxError& getError() const { return mError; }

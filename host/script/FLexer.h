@@ -11,20 +11,20 @@ class FLexer {
  public:
     explicit FLexer(QStringView text, int firstLine = 1) : mText(text), mLine(firstLine) {}
 
-    /** The next token; End at the end, as often as it is asked for. */
+    /** The next token; End at the end, at each further call. */
     FToken next();
 
     /** Takes line ends as blanks, as inside a bracket that never closes. */
     void ignoreLineEnds() { mBrackets = 1; }
 
-    /** Goes on with the line end behind the present place, whatever stands before that. */
+    /** Continues with the line end after the present place, whatever comes before it. */
     void skipLine();
 
     /** Goes on at the end. */
     void skipAll() { mPosition = mText.size(); }
 
     /**
-     * Begins to pass over a damaged statement: goes on `offset` characters behind the begin of `token`. From now on a
+     * Begins to pass over a damaged statement: continues `offset` characters after the start of `token`. From now on a
      * text that lacks its closing quote is taken for its opening quote alone.
      */
     void beginSkipping(const FToken& token, int offset);

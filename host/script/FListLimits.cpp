@@ -26,7 +26,7 @@ QString listFault(const FObjectList& list) {
         if (next.depth > deepestList) {
             return QStringLiteral("the list would hold lists more than %1 levels deep").arg(deepestList);
         }
-        // A list that stands in several places counts in each, as it does in the text.
+        // A list that appears in several places counts in each, as it does in the text.
         if (elements > mostElements) {
             return QStringLiteral("the list would have more than %1 elements, with those of the lists in it")
                 .arg(mostElements);

@@ -30,7 +30,7 @@ struct FOperatorRow {
     FOperator kind;
     FToken::Kind token;
     const char* text;
-    int priority;  //!< a higher one binds tighter; those of `prefixPriority` stand before their operand
+    int priority;  //!< a higher one binds tighter; those of `prefixPriority` precede their operand
 };
 
 constexpr int leastPriority = 1;

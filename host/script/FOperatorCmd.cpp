@@ -92,7 +92,7 @@ QString FOperatorCmd::operandInBrackets(std::size_t index) const {
     const FExprBase& operand = getArguments()[index];
     const auto* inner = dynamic_cast<const FOperatorCmd*>(operand.getStored());
     const bool isPower = isAny(FOperator::Power);
-    // Rows are carried out from left to right, and only powers from right to left.
+    // Rows are evaluated from left to right, and only powers from right to left.
     const bool isOuterSide = (index > 0) != isPower;
     const auto* literal = dynamic_cast<const FDouble*>(operand.getStored());
     const bool isNegativeBase = isPower && index == 0 && literal && std::signbit(literal->toDouble());

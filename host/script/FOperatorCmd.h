@@ -38,7 +38,7 @@ class FOperatorCmd : public FClass<FOperatorCmd, FCmd> {
     std::vector<FOperator> mOperators;
 };
 
-/** A list as it stands in an expression: it gives a new list of its elements' present values. */
+/** A list in an expression: it gives a new list of its elements' present values. */
 class FListCmd : public FClass<FListCmd, FCmd> {
  public:
     static FClassData mClass;

@@ -98,7 +98,7 @@ bool FProjectText::checkHeader() {
     if (!match.hasMatch()) {
         ++mWarnings;
         FLogMsg::error(mPath + QStringLiteral(":1"),
-                       QStringLiteral("a project begins with the line \"%1%2\", but here stands \"%3\"")
+                       QStringLiteral("a project begins with the line \"%1%2\", but this file begins with \"%3\"")
                            .arg(QLatin1String(header))
                            .arg(version)
                            .arg(line.trimmed().left(60)),

@@ -7,7 +7,7 @@
 
 /**
  * The text of a project: a header line that holds the version of the format, then a declaration for each object, in an
- * order in which a name stands before its use. docs/formats/project.md tells the whole.
+ * order in which a name precedes its use. docs/formats/project.md describes the format.
  */
 class MERIX_EXPORT FProjectText {
  public:

@@ -10,7 +10,7 @@ class FManaged;
 
 /**
  * The saved texts of objects, in the order in which they are added as far as that puts each name before its use; an
- * object that is named by one added before it stands before that one. Where names stand in a ring, one of them comes
+ * object that is named by one added before it comes before that one. Where names form a ring, one of them comes
  * after its use. Time linear in the length of the texts.
  */
 class FSavedOrder {

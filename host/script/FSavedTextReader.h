@@ -57,8 +57,8 @@ class MERIX_EXPORT FSavedTextReader {
         FExprBase object;                      //!< empty until it is made
         std::size_t line = 0;                  //!< of the block: the first that hasn't been executed
         QStringList needs;                     //!< names that the next step needs
-        int complete = 0;                      //!< at least so many of them are names of complete objects
-        int made = 0;                          //!< at least so many of them are names of objects
+        int complete = 0;                      //!< at least this number of them are names of complete objects
+        int made = 0;                          //!< at least this number of them are names of objects
         bool isEnded = false;
     };
     /** A name for which there is no complete object yet, and the numbers of the statements that wait for it. */

@@ -28,7 +28,7 @@ class MERIX_EXPORT FScriptNames {
     void announce(const QString& name);
     bool isAnnounced(const QString& name) const { return mAnnounced.contains(name); }
     /**
-     * ` (did you mean "name"?)`, or nothing if no known name is near. Only for the first names that are asked for,
+     * ` (did you mean "name"?)`, or nothing if no known name is near. Only for the first unknown names,
      * since each takes a look at all: a damaged text may hold thousands.
      */
     QString suggestion(const QString& name) const;

@@ -8,7 +8,7 @@
 #include "host/script/FSyntaxStatement.h"
 
 /**
- * A script as far as it could be read. `statements` are fit to be carried out if there are no errors, or if the script
+ * A script as far as it could be read. `statements` can be executed if there are no errors, or if the script
  * was read with recovery.
  */
 struct MERIX_EXPORT FScript {
@@ -34,7 +34,7 @@ struct MERIX_EXPORT FParseMode {
 /** Longest script, in UTF-16 units; a longer one is an error and not looked at. */
 constexpr int longestScript = 512 * 1024 * 1024;
 
-/** Errors that are told one by one; the last error then tells how many more there are. */
+/** Errors that are reported one by one; the last one then gives the number of further errors. */
 constexpr int mostErrors = 1000;
 
 /**

@@ -23,10 +23,10 @@ struct MERIX_EXPORT FSyntaxExpr {
         Literal,  //!< `literal`
         Name,     //!< `name`
         List,     //!< `operands` are its elements
-        Call,     //!< name(operands); a command of a Chain or a block, which stands behind a dot, is a Call as well
+        Call,     //!< name(operands); a command of a Chain or a block, which follows a dot, is a Call as well
         Chain,    //!< the first operand receives the first command, each further operand is a command and a Call
         Unary,    //!< one operator, one operand
-        Row       //!< operands with an operator between each two, to be carried out from left to right
+        Row       //!< operands with an operator between each two, to be evaluated from left to right
     };
 
     Kind kind = Kind::Literal;

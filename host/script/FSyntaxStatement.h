@@ -15,7 +15,7 @@ using FSyntaxBlockLine = std::vector<FSyntaxExpr>;
 
 /** creator name(arguments) { .command(arguments) … } */
 struct MERIX_EXPORT FSyntaxDeclaration {
-    bool isOutsideScope = false;  //!< a `&` stands before the creator
+    bool isOutsideScope = false;  //!< a `&` precedes the creator
     FSyntaxExpr creator;          //!< the Call creator(arguments)
     QString name;
     FPlace namePlace;

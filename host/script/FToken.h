@@ -55,11 +55,11 @@ struct FToken {
     FPlace place;
     int begin = 0;               //!< position of the first character in the script's text
     QStringView text;            //!< as it is written, a text with its quotes
-    bool isFirstOnLine = false;  //!< nothing but blanks stands before it on its line
+    bool isFirstOnLine = false;  //!< only blanks precede it on its line
     bool lacksQuote = false;     //!< a text over several lines that ends where another seems to begin
 
     /** The lines that it extends over. */
     int lineCount() const;
-    /** The token as a message tells of it: "}", the text "abc", the end of the line. Long ones are cut. */
+    /** The token as a message shows it: "}", the text "abc", the end of the line. Long ones are cut. */
     QString toString() const;
 };

@@ -10,13 +10,13 @@
 
 /**
  * The tokens of a script as a parser wants them: one at a time, with questions about it, and with the first error.
- * After an error the stream stands still and its token is of no kind, so that a parser runs to its end by itself and
+ * After an error the stream doesn't advance and its token is of no kind, so that a parser runs to its end by itself and
  * asks for the error only where it matters.
  */
 class FTokenStream {
  public:
     static constexpr int deepestNesting = 200;
-    /** Bounds the memory that the syntax of a script takes; what stands behind is an error and not read. */
+    /** Bounds the memory that the syntax of a script takes; what follows is an error and not read. */
     static constexpr int mostTokens = 8'000'000;
 
     /** Where passing over a damaged statement may stop. */
@@ -71,8 +71,8 @@ class FTokenStream {
     void skipLine();
 
     /**
-     * Whether the error stands where text that was read well before is read anew, and so only follows from an earlier
-     * one.
+     * True if the error is in text that was parsed once before recovery went back. It is a consequence of an earlier
+     * error then.
      */
     bool isFollowUp() const { return mCurrent.begin <= mReadBefore; }
 

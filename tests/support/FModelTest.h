@@ -20,7 +20,7 @@ class FModelTest : public testing::Test {
 
     /** Empties model and history. */
     static void clear();
-    /** Carries out a script; false if an error ended it. */
+    /** Executes a script; false if an error ended it. */
     bool run(const QString& script);
     /** The value of an expression. */
     static FExprBase evaluate(const QString& expression);

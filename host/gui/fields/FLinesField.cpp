@@ -28,7 +28,7 @@ FLinesField::FLinesField(const FAttribCmd& command) : FAttributeEditor(command),
     mpEdit->setToolTip(QStringLiteral("One text in each line. Ctrl+Enter takes over the list."));
     connect(mpEdit, &QPlainTextEdit::textChanged, this, [this] {
         fitHeight();
-        // The signal also tells of a new font.
+        // The signal is also emitted for a new font.
         if (differsFromShown()) {
             noteEntered();
         }

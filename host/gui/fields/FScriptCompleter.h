@@ -21,7 +21,7 @@ class MERIX_EXPORT FScriptCompleter : public QCompleter {
     /** @param names  the variables that the text may use; may be empty */
     explicit FScriptCompleter(QLineEdit* field, std::function<const FScriptNames*()> names = {});
 
-    /** The names that could stand at the end of a text. */
+    /** The names that are possible at the end of a text. */
     QStringList candidates(const QString& text) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -4,7 +4,7 @@
 
 /**
  * A line of script text. Where the attribute keeps its expression, names are completed and the present value of the
- * expression stands beside it; any other attribute takes the value that the text has when it is committed.
+ * expression is shown beside it; any other attribute takes the value that the text has when it is committed.
  */
 class MERIX_EXPORT FScriptField : public FLineField {
     Q_OBJECT

@@ -18,7 +18,7 @@ class QTreeView;
 
 /**
  * The entries of a configuration: values are edited in place; entries and occurrences are added, removed and renamed.
- * Below the tree stands where templates use the present entry.
+ * Below the tree are the places where templates use the present entry.
  */
 class MERIX_EXPORT FEntriesWgt : public QWidget, public FPendingEdit {
     Q_OBJECT

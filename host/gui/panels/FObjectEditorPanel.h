@@ -19,7 +19,7 @@ class QStackedWidget;
 
 /**
  * Shows and edits the selected objects: name, attributes, and the entries of a configuration. With a computation, or
- * the connector of one, stand the entries of its configuration below its settings.
+ * the connector of one, the entries of its configuration are below its settings.
  */
 class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
     Q_OBJECT

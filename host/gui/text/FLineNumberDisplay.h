@@ -6,7 +6,7 @@
 
 class FEditor;
 
-/** The gutter of an editor, with the numbers of its lines. The number of the line with the cursor stands out. */
+/** The gutter of an editor, with the numbers of its lines. The number of the line with the cursor is emphasised. */
 class MERIX_EXPORT FLineNumberDisplay : public QWidget {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ class MERIX_EXPORT FLineNumberDisplay : public QWidget {
 
     /** Scrolls with the editor, or paints again what has changed. */
     void follow(const QRect& rect, int dy);
-    /** The block whose number stands out; -1 for one that isn't known, so that all are painted again. */
+    /** The block whose number is emphasised; -1 for one that isn't known, so that all are painted again. */
     void setCurrentBlock(int block);
 
     QSize sizeHint() const override;

@@ -17,7 +17,7 @@ void collectEntries(const FEntryHolder& holder, std::vector<FExprBase>& entries)
     }
 }
 
-/** The same without files that are gone, which a definition drops when it is asked for its files. */
+/** The same without files that are gone, which a definition drops when its files are queried. */
 FState withoutGoneFiles(FState state) {
     using Files = QList<FExpr<FGenIntFile>>;
     for (std::any& value : state.values) {

@@ -106,7 +106,7 @@ QString modelState() {
     }
     names.sort();
     QString objects;
-    // Twice, since an expression finds what it depends on when it is asked for.
+    // Twice, since an expression finds its dependencies when it is evaluated.
     for (int i = 0; i < 2; ++i) {
         objects.clear();
         for (const FManaged* object : objectsOfHistory()) {

@@ -10,7 +10,7 @@
 
 /**
  * Random statements on the present model, made from the command tables, so that a new command takes part at once: every
- * creator, and every member or function that acts and is a step of the history. Queries stand in the arguments. Most
+ * creator, and every member or function that acts and is a step of the history. Queries appear in the arguments. Most
  * arguments fit.
  */
 class FRandomCommands {

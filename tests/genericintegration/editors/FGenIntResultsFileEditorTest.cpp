@@ -208,7 +208,7 @@ class FResultsEditorTest : public FWindowTest {
         shown.sort();
         EXPECT_EQ(text(shown), text(names));
 
-        // After a script has set all values anew, the one of the same name is shown.
+        // After a script has set all values again, the one of the same name is shown.
         const FGenIntResultsFileValue* value = file().getCurValue().ptr();
         if (std::find(values.begin(), values.end(), value) == values.end()) {
             const auto isNamed = [this](const FGenIntResultsFileValue* each) { return each->mName == current(); };

@@ -8,7 +8,7 @@
 
 namespace {
 
-/** Two and a half blocks of bytes; notes how many were asked for at once. */
+/** Two and a half blocks of bytes; notes how many were requested at once. */
 class FNotingDevice : public QIODevice {
  public:
     FNotingDevice() { open(QIODevice::ReadOnly | QIODevice::Unbuffered); }

@@ -117,7 +117,7 @@ TEST_F(FDefinitionTest, createTakesOnlyPlacesOfDefinitions) {
     EXPECT_EQ(FEntryDef::create("x", span, 1, 1, false, true, "", new FDouble(3)), nullptr);
     EXPECT_EQ(FEntryDef::create("x", &configuration(), 1, 1, false, true, "", new FDouble(3)), nullptr);
     EXPECT_EQ(FEntryDef::create("x", nullptr, 1, 1, false, true, "", new FDouble(3)), nullptr);
-    // An entry stands in one place, and not in itself.
+    // An entry is in one place, and not in itself.
     definition().addEntry(FExpr<FEntryBase>(span));
     span->addEntry(FExpr<FEntryBase>(geometry));
     EXPECT_EQ(definition().getEntries().size(), 2);

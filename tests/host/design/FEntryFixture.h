@@ -5,7 +5,7 @@
 #include "host/design/FConfiguration.h"
 #include "tests/support/FModelTest.h"
 
-/** A definition that notes which names in tags it was told of, as "old -> new". */
+/** A definition that notes which changes of names in tags were reported, as "old -> new". */
 class FNotingDefinition : public FClass<FNotingDefinition, FDefinition> {
  public:
     static FClassData mClass;

@@ -94,7 +94,7 @@ TEST_F(FProjectTest, namesInARingComeBack) {
               "[2,c,a,7]");
     EXPECT_EQ(a->find("b")->getDbId(), 9);
     EXPECT_EQ(a->find(2)->getName(), "c");
-    // What is really missing is told, and costs no more than what needs it.
+    // What is really missing is reported, and costs no more than what needs it.
     write("ring.mrx",
           "// merix project, format 1\nthing a(b.getNumber())\nthing b(a.getNumber())\nthing c(1) {\n"
           ".setFriend(nobody)\n.setText(\"c\")\n.setFriend(a)\n.setNumber(5)\n}\n");
@@ -132,7 +132,7 @@ TEST_F(FProjectTest, aDamagedFileIsKeptAndTheRestIsRead) {
     EXPECT_FALSE(open("p.mrx"));
     EXPECT_EQ(FObjectManager::instance()->getNames(), (QStringList{"a", "c", "d"}));
     for (const char* told :
-         {"p.mrx:1: a project begins with the line \"// merix project, format 1\", but here stands",
+         {"p.mrx:1: a project begins with the line \"// merix project, format 1\", but this file begins with",
           "p.mrx:4:2: FThing has no command \"setNumbr\"", "p.mrx:5:2: setNumber: argument 1",
           "p.mrx:7:1: there is no creator \"thng\"", "p.mrx:10:", "5 errors; what they concern was not loaded"}) {
         EXPECT_TRUE(logHolds(told)) << told << "\n" << logText();

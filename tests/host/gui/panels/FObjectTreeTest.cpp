@@ -112,7 +112,7 @@ TEST_F(FObjectTreeTest, aNameIsEditedInPlaceAsOneStep) {
     EXPECT_NE(rows().find("    deck2"), std::string::npos);
     trigger("undo");
     EXPECT_EQ(savedModel(), before);
-    // A name that is taken gets a suffix, and the user is told.
+    // A name that is taken gets a suffix, and a message says so.
     view().model()->setData(indexOf("deck"), "beam", Qt::EditRole);
     settle();
     EXPECT_NE(object<FManaged>("beam_01"), nullptr);

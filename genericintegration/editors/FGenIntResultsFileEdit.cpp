@@ -1,6 +1,7 @@
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
 
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "genericintegration/editors/FSamplePointing.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateColor.h"
 
@@ -81,12 +82,12 @@ void FGenIntResultsFileEdit::contextMenuEvent(QContextMenuEvent* event) {
     menu->setObjectName(QStringLiteral("sampleMenu"));
     const int position =
         event->reason() == QContextMenuEvent::Mouse ? characterAt(event->pos()) : textCursor().selectionStart();
-    mEditor->fillMenu(*menu, position);
+    mEditor->pointing().fillMenu(*menu, position);
     menu->popup(event->globalPos());
 }
 
 void FGenIntResultsFileEdit::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !mEditor->readNumberAt(characterAt(event->pos()))) {
+    if (event->button() != Qt::LeftButton || !mEditor->pointing().readNumberAt(characterAt(event->pos()))) {
         FEditor::mouseDoubleClickEvent(event);
     }
 }

@@ -2,29 +2,24 @@
 
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
 #include "genericintegration/editors/FResultsFileForm.h"
-#include "genericintegration/editors/FResultsMarker.h"
 #include "genericintegration/editors/FResultsPreview.h"
+#include "genericintegration/editors/FSamplePane.h"
+#include "genericintegration/editors/FSamplePointing.h"
 #include "genericintegration/editors/FTemplateReports.h"
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"
-#include "genericintegration/marking/FPlaceProposal.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FChanges.h"
 #include "host/core/FIni.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
-#include "host/core/FUserStep.h"
 #include "host/core/FViewCtrl.h"
-#include "host/design/FParameter.h"
 #include "host/gui/base/FElidedLabel.h"
 #include "host/gui/base/FFormRow.h"
-#include "host/gui/base/FGroupBox.h"
-#include "host/gui/base/FIcons.h"
 #include "host/gui/base/FSpinBox.h"
 #include "host/gui/base/FToolButton.h"
 #include "host/gui/fields/FAttributeEditor.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
-#include "host/run/FValueRemark.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -33,12 +28,9 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QTextBlock>
 #include <QVBoxLayout>
 
 FClassData FGenIntResultsFileEditor::mClass("FGenIntResultsFileEditor", &FView::mClass);
@@ -56,16 +48,6 @@ constexpr int previewDelay = 200;  // milliseconds
 
 const char* const splitterKey = "GenericIntegration/splitter/main";
 const char* const usualSplitter = "AAAA/wAAAAAAAAACAAABbQAABNAAAAAABgEAAAAB";
-
-/** Length of the folders at the start of a file name. */
-int folderLength(const QString& fileName) {
-    return std::max(fileName.lastIndexOf(u'/'), fileName.lastIndexOf(u'\\')) + 1;
-}
-
-void select(QComboBox& combo, int index) {
-    const QSignalBlocker blocker(&combo);
-    combo.setCurrentIndex(index);
-}
 
 }  // namespace
 
@@ -116,11 +98,12 @@ void FGenIntResultsFileEditor::init() {
     mAverageCmd.setExpr(FExprBase(command));
     mAverageAttributeEditor = FAttributeEditor::create(command);
     mpForm = new FResultsFileForm(mAverageAttributeEditor);
-    mEdit = new FGenIntResultsFileEdit(this);
-    mpMarker = std::make_unique<FResultsMarker>(*mEdit);
+    mpSample = new FSamplePane(*this);
+    mEdit = &mpSample->edit();
+    mpPointing = std::make_unique<FSamplePointing>(mResultsFile, mSteps, *mpSample, *mpForm->mResultsTable);
     mSplitter = new QSplitter(Qt::Horizontal, this);
     mSplitter->addWidget(mpForm);
-    mSplitter->addWidget(makeText());
+    mSplitter->addWidget(mpSample);
     mSplitter->setChildrenCollapsible(false);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -132,27 +115,8 @@ void FGenIntResultsFileEditor::init() {
     takeColors();
     restoreSplitter();
     connectForm();
+    connectSample();
     listen();
-}
-
-QWidget* FGenIntResultsFileEditor::makeText() {
-    const bool isSmall = FViewCtrl::hasSmallScreen();
-    const int margin = isSmall ? 4 : 8;
-    const int spacing = isSmall ? 6 : 12;
-    auto* pane = new QFrame;
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(spacing);
-    auto* row = new QWidget;
-    row->setObjectName(QStringLiteral("AttributeRow"));
-    row->setProperty("last", true);
-    auto* line = new QHBoxLayout(row);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(mEdit);
-    auto* group = new FGroupBox(QStringLiteral("File"));
-    group->layout()->addWidget(row);
-    column->addWidget(group, 1);
-    return pane;
 }
 
 void FGenIntResultsFileEditor::connectForm() {
@@ -205,6 +169,20 @@ void FGenIntResultsFileEditor::connectForm() {
     connect(form.mResultsTable, &FResultsPreview::parameterWanted, this, &Self::createParamOf);
 }
 
+void FGenIntResultsFileEditor::connectSample() {
+    connect(mpPointing.get(), &FSamplePointing::rowChosen, this, &FGenIntResultsFileEditor::selectValueViaHeader);
+    connect(mpPointing.get(), &FSamplePointing::valueMoved, this, [this] {
+        showCurrentValue();
+        refreshResultsPreview();
+    });
+    connect(mpPointing.get(), &FSamplePointing::valueAdded, this, [this] {
+        refreshAll();
+        // The user types the name at once, in place of the proposed one.
+        mpForm->mValueSelector->setFocus();
+        mpForm->mValueSelector->lineEdit()->selectAll();
+    });
+}
+
 void FGenIntResultsFileEditor::listen() {
     mpProblems = FProblemWatch::get();
     const FChanges* changes = FChanges::instance();
@@ -244,14 +222,14 @@ void FGenIntResultsFileEditor::refreshLabels() {
 
 void FGenIntResultsFileEditor::setColor(QColor& color, const QColor& wanted) {
     color = wanted;
-    if (mpMarker) {
+    if (mpSample) {
         takeColors();
     }
 }
 
 void FGenIntResultsFileEditor::takeColors() {
-    mpMarker->setColors({sResultLineBackground, sResultLineForeground}, {sColumnBackground, sColumnForeground},
-                        {sAnchorBackground, sAnchorForeground});
+    mpSample->marker().setColors({sResultLineBackground, sResultLineForeground}, {sColumnBackground, sColumnForeground},
+                                 {sAnchorBackground, sAnchorForeground});
 }
 
 // ---- as a page ----
@@ -270,11 +248,8 @@ void FGenIntResultsFileEditor::letGo() {
     }
     mResultsFile = {};
     mComputation = {};
-    mPreviewTable = {};
-    mpSample.reset();
-    mShownText.clear();
-    mpMarker->forget();
-    mEdit->clear();
+    mpForm->mResultsTable->letGo();
+    mpSample->letGo();
     setEnabled(false);
 }
 
@@ -304,8 +279,9 @@ bool FGenIntResultsFileEditor::eventFilter(QObject* watched, QEvent* event) {
     if (edit && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
         edit->isModified()) {
         edit->setModified(false);
-        refreshFileName();
-        refreshSeparators();
+        mpForm->showFileName(mResultsFile ? mResultsFile->getFileName() : QString());
+        mpForm->showSeparators(mResultsFile ? FTemplateValues::separatorsOf(*mResultsFile.ptr())
+                                            : FSeparatorSettings());
         refreshAnchor();
         return true;
     }
@@ -329,7 +305,7 @@ void FGenIntResultsFileEditor::showEvent(QShowEvent* event) {
 
 void FGenIntResultsFileEditor::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && mpMarker) {
+    if (event->type() == QEvent::PaletteChange && mpSample) {
         takeColors();
     }
 }
@@ -441,16 +417,9 @@ void FGenIntResultsFileEditor::currentResultsValueNameChanged(const QString& nam
 
 void FGenIntResultsFileEditor::addResultsValue(bool checked) {
     Q_UNUSED(checked)
-    const FResultsFileForm& form = *mpForm;
     const FExpr<FGenIntResultsFileValue> value = currentValue();
     const FExpr<FUnsigned> rows = value ? value->mNumAverageRows : FExpr<FUnsigned>();
-    const bool isFirst = form.mOccurrenceCombo->currentIndex() == 0;
-    FValueDescription place;
-    place.line = form.mLineSpin->value();
-    place.column = form.mColumnSpin->value();
-    place.anchor = {form.mAnchorEdit->text(), isFirst ? FAnchorOccurrence::First : FAnchorOccurrence::Last};
-    place.average = form.mAverageCheck->isChecked();
-    mSteps.addValue(place, rows.isEmpty() ? FExpr<FUnsigned>(new FUnsigned(0)) : rows);
+    mSteps.addValue(mpForm->place(), rows.isEmpty() ? FExpr<FUnsigned>(new FUnsigned(0)) : rows);
     refreshAll();
 }
 
@@ -542,99 +511,6 @@ void FGenIntResultsFileEditor::averageChanged(const FExpr<FUnsigned>& rows) {
     highlightCurrentValue();
 }
 
-// ---- pointing at the sample ----
-
-std::optional<FPlaceProposal> FGenIntResultsFileEditor::proposalAt(int position) {
-    FUserStep::commitEdits();
-    return mResultsFile ? FPlaceProposal::at(sample(), FTemplateValues::separatorsOf(*mResultsFile.ptr()), position)
-                        : std::nullopt;
-}
-
-bool FGenIntResultsFileEditor::readNumberAt(int position) {
-    const std::optional<FPlaceProposal> proposal = proposalAt(position);
-    if (proposal && !selectValueAt(proposal->range)) {
-        mSteps.addValue(proposal->value, FExpr<FUnsigned>(new FUnsigned(0)));
-        refreshAll();
-        // The user types the name at once, in place of the proposed one.
-        mpForm->mValueSelector->setFocus();
-        mpForm->mValueSelector->lineEdit()->selectAll();
-    }
-    return proposal.has_value();
-}
-
-bool FGenIntResultsFileEditor::selectValueAt(FTextRange number) {
-    for (int row = 0; mPreviewTable && row < mPreviewTable->getRowCount(); ++row) {
-        const FNumberOrigin& origin = mPreviewTable->getOrigin(row);
-        const bool isPlace = !origin.rows && origin.line > 0 && origin.column > 0;
-        if (isPlace && sample().rangeOf(origin.line, origin.column, number.length) == number) {
-            selectValueViaCell(row, 0);
-            return true;
-        }
-    }
-    return false;
-}
-
-void FGenIntResultsFileEditor::moveValue(const FValueDescription& place, const QString& label) {
-    mSteps.moveValue(place, label);
-    showCurrentValue();
-    refreshResultsPreview();
-}
-
-void FGenIntResultsFileEditor::setAnchor(FTextRange selection) {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    if (!value) {
-        return;
-    }
-    const FSeparatorSettings separators = FTemplateValues::separatorsOf(*mResultsFile.ptr());
-    const FFoundValue found = sample().read(FTemplateValues::describePlace(*value.ptr()), separators);
-    // The value stays at its number if that can be counted from there.
-    std::optional<FPlaceProposal> proposal;
-    if (found.column > 0) {
-        const FTextRange number = sample().rangeOf(found.line, found.column, 1);
-        proposal = FPlaceProposal::from(sample(), separators, number.begin, selection);
-    }
-    if (proposal) {
-        moveValue(proposal->value, QStringLiteral("change anchor"));
-        return;
-    }
-    QTextCursor cursor(mEdit->document());
-    cursor.setPosition(selection.begin);
-    cursor.setPosition(selection.end(), QTextCursor::KeepAnchor);
-    const QString text = cursor.selectedText();
-    mSteps.changeValue(QStringLiteral("change anchor"),
-                       [&text](FGenIntResultsFileValue& current) { current.mAnchor = text; });
-    showCurrentValue();
-    refreshResultsPreview();
-}
-
-void FGenIntResultsFileEditor::fillMenu(QMenu& menu, int position) {
-    const std::optional<FPlaceProposal> proposal = proposalAt(position);
-    QAction* first = menu.actions().value(0);
-    const auto insert = [&](const QString& id, const QString& icon, const QString& text, bool isPossible,
-                            const std::function<void()>& act) {
-        auto* action = new QAction(FIcons::get(icon), text, &menu);
-        action->setObjectName(id);
-        action->setEnabled(isPossible);
-        connect(action, &QAction::triggered, this, act);
-        menu.insertAction(first, action);
-    };
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    const QTextCursor cursor = mEdit->textCursor();
-    const FTextRange selection{cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
-    const bool isInLine = mEdit->document()->findBlock(selection.begin).contains(selection.end());
-    insert(QStringLiteral("readNumber"), QStringLiteral("list-add"), QStringLiteral("&Read this number"),
-           proposal.has_value(), [this, position] { readNumberAt(position); });
-    insert(QStringLiteral("readHere"), QStringLiteral("go-jump"),
-           value ? QStringLiteral("Read \"%1\" &here").arg(QString(value->mName).replace(u'&', QLatin1String("&&")))
-                 : QStringLiteral("Read the current value &here"),
-           proposal && value, [this, proposal] { moveValue(proposal->value, QStringLiteral("change place")); });
-    insert(QStringLiteral("useAsAnchor"), QStringLiteral("anchor"), QStringLiteral("&Use as anchor"),
-           value && isInLine && selection.length > 0, [this, selection] { setAnchor(selection); });
-    if (first) {
-        menu.insertSeparator(first);
-    }
-}
-
 void FGenIntResultsFileEditor::showProblems() {
     mpReports->show(mResultsFile ? mpProblems->problemsOf(mResultsFile->getName()) : FSetUpCheck::Problems(), {});
 }
@@ -674,19 +550,10 @@ void FGenIntResultsFileEditor::createParamOf(int row) {
         report(QStringLiteral("Index out of range."));
         return;
     }
-    const FUserStep step(QStringLiteral("create evaluation: eval_") + value);
-    mResultsFile->createParam(value, mComputation->getName(), true);
+    mSteps.createParameter(value, mComputation->getName());
 }
 
 // ---- showing ----
-
-void FGenIntResultsFileEditor::showText(QLineEdit& edit, const QString& text) {
-    if (edit.text() != text && !(edit.isModified() && edit.hasFocus())) {
-        const QSignalBlocker blocker(&edit);
-        edit.setText(text);
-        edit.setCursorPosition(0);
-    }
-}
 
 void FGenIntResultsFileEditor::refresh() {
     if (mSteps.isChanging() || !mEdit || !mResultsFile) {
@@ -698,46 +565,15 @@ void FGenIntResultsFileEditor::refresh() {
     }
     mIsStale = false;
     const FResultsOutOfDateBlocker blocker;
-    refreshFileName();
-    refreshText();
-    refreshSeparators();
+    mpForm->showFileName(mResultsFile->getFileName());
+    if (mpSample->setText(mResultsFile->getPlainContent())) {
+        mResultsFile->setContentAltered(false);
+    }
+    mpForm->showSeparators(FTemplateValues::separatorsOf(*mResultsFile.ptr()));
     fillSelector(mResultsFile->getValues()->getObjects());
     // Reader and marks each have a copy of the text; that of the reader is gone before the other is made.
     refreshResultsPreview();
     showCurrentValue();
-}
-
-void FGenIntResultsFileEditor::refreshFileName() {
-    const QString name = mResultsFile->getFileName();
-    const int folders = folderLength(name);
-    showText(*mpForm->mPathEdit, name.left(folders));
-    showText(*mpForm->mNameEdit, name.mid(folders));
-}
-
-void FGenIntResultsFileEditor::refreshText() {
-    const QString& text = mResultsFile->getPlainContent();
-    if (text == mShownText && mEdit->document()->isEmpty() == text.isEmpty()) {
-        return;
-    }
-    const QPoint scrolled(mEdit->horizontalScrollBar()->value(), mEdit->verticalScrollBar()->value());
-    mShownText = text;
-    mpSample.reset();
-    mpMarker->clear();  // a new text takes over the format at the cursor
-    mEdit->setPlainText(text);
-    mEdit->horizontalScrollBar()->setValue(scrolled.x());
-    mEdit->verticalScrollBar()->setValue(scrolled.y());
-    mResultsFile->setContentAltered(false);
-}
-
-void FGenIntResultsFileEditor::refreshSeparators() {
-    const QSignalBlocker numbersBlocker(mpForm->mSeparatorMode);
-    const QSignalBlocker blanksBlocker(mpForm->mSpacesAndTabsCheck);
-    const bool numbers = mResultsFile->getNumberSeparator();
-    (numbers ? mpForm->mFindNumbersRadio : mpForm->mCustomRadio)->setChecked(true);
-    mpForm->mSpacesAndTabsCheck->setChecked(mResultsFile->getSpacesAndTabsSeparator());
-    mpForm->mSpacesAndTabsRow->setVisible(!numbers);
-    mpForm->mRegExpRow->setVisible(!numbers);
-    showText(*mpForm->mRegExpEdit, mResultsFile->getRegExprSeparator());
 }
 
 // After values came or went.
@@ -757,132 +593,54 @@ void FGenIntResultsFileEditor::showCurrentValue() {
     refreshResultsValues();
     refreshAnchor();
     refreshAverage();
-    enableValueFields();
+    mpForm->enableFields(static_cast<bool>(currentValue()));
     highlightCurrentValue();
     mpForm->mResultsTable->select(mpForm->mValueSelector->currentText());
 }
 
-void FGenIntResultsFileEditor::enableValueFields() {
-    const bool isThere = static_cast<bool>(currentValue());
-    FResultsFileForm& form = *mpForm;
-    form.mValueSelector->lineEdit()->setReadOnly(!isThere);
-    for (QWidget* field : std::initializer_list<QWidget*>{
-             form.mTypeCombo, form.mDeleteValueButton, form.mImportTypeCombo, form.mLineSpin, form.mColumnSpin,
-             form.mAnchorEdit, form.mOccurrenceCombo, form.mAverageCheck, form.mValueSelector}) {
-        field->setEnabled(isThere || (field == form.mValueSelector && form.mValueSelector->count() > 0));
-    }
-}
-
 void FGenIntResultsFileEditor::refreshValuesSelector() {
     std::vector<FExpr<FObject>> values = mResultsFile->getValues()->getObjects();
-    FGenIntReader::instance()->sortValues(values, mShownText);
+    FGenIntReader::instance()->sortValues(values, mpSample->text());
     fillSelector(values);
 }
 
 void FGenIntResultsFileEditor::fillSelector(const std::vector<FExpr<FObject>>& values) {
-    QComboBox& selector = *mpForm->mValueSelector;
-    const QSignalBlocker blocker(&selector);
-    const bool isTyping = selector.lineEdit()->hasFocus();
-    const int cursor = selector.lineEdit()->cursorPosition();
-    const std::vector<FExpr<FObject>>& all = mResultsFile->getValues()->getObjects();
-    const FExpr<FGenIntResultsFileValue> current = currentValue();
-    selector.clear();
-    for (const FExpr<FObject>& element : values) {
-        const FExpr<FGenIntResultsFileValue> value(element);
-        if (value) {
-            const auto number = std::find(all.begin(), all.end(), element) - all.begin();
-            selector.addItem(value->mName, static_cast<int>(number));
-        }
-    }
-    const auto place = std::find(all.begin(), all.end(), current) - all.begin();
-    selector.setCurrentIndex(current ? selector.findData(static_cast<int>(place)) : -1);
-    if (isTyping) {
-        selector.lineEdit()->setCursorPosition(cursor);
-    }
+    mpForm->showValues(values, mResultsFile->getValues()->getObjects(), currentValue());
 }
 
 void FGenIntResultsFileEditor::refreshResultsValues() {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    mpForm->mLineSpin->show(value ? value->mLine : 0);
-    mpForm->mColumnSpin->show(value ? value->mColumn : 0);
+    mpForm->showNumbers(currentValue());
     mAverageCmd.getStored()->setOutOfDate(true);
     mAverageAttributeEditor->refresh();
 }
 
 void FGenIntResultsFileEditor::refreshResultsValueType() {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    const QString type = value ? FTemplateValues::typeOf(*value.ptr())->getClass() : QString();
-    select(*mpForm->mTypeCombo, std::max(mpForm->mTypeCombo->findText(type), 0));
+    mpForm->showType(currentValue());
 }
 
 void FGenIntResultsFileEditor::refreshFileImportType() {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    mpForm->mImportTypeRow->setVisible(value && FTemplateValues::isFileName(*value.ptr()));
+    mpForm->showImportType(currentValue());
 }
 
 void FGenIntResultsFileEditor::refreshAnchor() {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    showText(*mpForm->mAnchorEdit, value ? value->mAnchor : QString());
-    const bool isFirst = value && value->mOccurrence.get() == GenIntAnchorOccurrence::First;
-    select(*mpForm->mOccurrenceCombo, isFirst ? 0 : 1);
+    mpForm->showAnchor(currentValue());
 }
 
 void FGenIntResultsFileEditor::refreshAverage() {
-    const FExpr<FGenIntResultsFileValue> value = currentValue();
-    const bool isOn = value && value->mCalcAverage;
-    const QSignalBlocker blocker(mpForm->mAverageCheck);
-    mpForm->mAverageCheck->setChecked(isOn);
-    mpForm->mAverageCheck->setToolTip((isOn ? QStringLiteral("deactive") : QStringLiteral("activate")) +
-                                      QStringLiteral(" average calculation"));
-    mAverageAttributeEditor->setEnabled(isOn);
-    for (FFormRow* row : {mpForm->mTypeRow, mpForm->mLineRow, mpForm->mAnchorRow, mpForm->mOccurrenceRow}) {
-        row->setVisible(!isOn);
-    }
-    if (isOn) {
-        select(*mpForm->mTypeCombo, 0);
-        mpForm->mImportTypeRow->hide();
-    }
+    mpForm->showAverage(currentValue());
 }
 
 // ---- marks and preview ----
 
-const FResultSample& FGenIntResultsFileEditor::sample() {
-    if (!mpSample) {
-        mpSample = std::make_unique<FResultSample>(mShownText);
-    }
-    return *mpSample;
-}
-
-// As they are shown, so that a mark can follow a separator while it is being changed.
-FSeparatorSettings FGenIntResultsFileEditor::shownSeparators() const {
-    return {mpForm->mFindNumbersRadio->isChecked(), mpForm->mSpacesAndTabsCheck->isChecked(),
-            mpForm->mRegExpEdit->text()};
-}
-
 void FGenIntResultsFileEditor::highlightCurrentValue() {
     const FExpr<FGenIntResultsFileValue> value = currentValue();
     if (!value || mIsStale) {
-        mpMarker->clear();
+        mpSample->unmark();
         mpForm->mPlaceLabel->show(QString());
         return;
     }
-    const FValueDescription description = FTemplateValues::describe(*value.ptr());
-    const FSeparatorSettings separators = shownSeparators();
-    const FFoundValue found = sample().read(description, separators);
-    mpMarker->paint(FResultMarks::of(sample(), description, separators, found));
-    showPlaceOf(found);
-}
-
-void FGenIntResultsFileEditor::showPlaceOf(const FFoundValue& found) {
-    constexpr int mostShown = 80;  // characters
-    const QString text = found.textIn(sample().text()).left(mostShown);
-    const QString reason = FValueRemark::text(found, found.number);
-    const QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
-                          : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
-                                             : QStringLiteral("not found");
-    const QString shown = found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text);
-    const bool isPlain = reason.isEmpty() || FTemplateValues::isFileName(*currentValue().ptr());
-    mpForm->mPlaceLabel->show(isPlain ? shown : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(shown, reason));
+    const FFoundValue found = mpSample->mark(FTemplateValues::describe(*value.ptr()), mpForm->separators());
+    mpForm->showPlace(found, found.textIn(mpSample->sample().text()), FTemplateValues::isFileName(*value.ptr()));
 }
 
 void FGenIntResultsFileEditor::previewSoon() {
@@ -895,22 +653,19 @@ void FGenIntResultsFileEditor::previewSoon() {
 
 void FGenIntResultsFileEditor::refreshResultsPreview() {
     mPreviewTimer.stop();
-    mPreviewTable = {};
-    if (mResultsFile) {
-        mPreviewTable = FExpr<FTableData>(new FTableData);
-        if (!mResultsFile->getPlainContent().isEmpty()) {
-            FGenIntReader::instance()->parseFile(mResultsFile, mPreviewTable.ptr(), QString());
-        }
+    FExpr<FTableData> table;
+    if (mResultsFile && !mResultsFile->getPlainContent().isEmpty()) {
+        table = FExpr<FTableData>(new FTableData);
+        FGenIntReader::instance()->parseFile(mResultsFile, table.ptr(), QString());
     }
-    if (!mPreviewTable || mPreviewTable->count() == 0) {
+    if (!table || table->count() == 0) {
         setResultsPreviewBlank();
         return;
     }
-    mpForm->mResultsTable->show(mPreviewTable);
+    mpForm->mResultsTable->show(table);
     mpForm->mResultsTable->select(mpForm->mValueSelector->currentText());
 }
 
 void FGenIntResultsFileEditor::setResultsPreviewBlank() {
-    mPreviewTable = {};
     mpForm->mResultsTable->setBlank();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "genericintegration/editors/FResultsFileSteps.h"
-#include "genericintegration/marking/FResultSample.h"
 #include "genericintegration/setup/FAttribCmdSetAverageRows.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FView.h"
@@ -19,13 +18,10 @@ class FAttributeEditor;
 class FGenIntComputation;
 class FGenIntResultsFileEdit;
 class FResultsFileForm;
-class FResultsMarker;
-class FTableData;
+class FSamplePane;
+class FSamplePointing;
 class FTemplateReports;
-struct FPlaceProposal;
 class QComboBox;
-class QLineEdit;
-class QMenu;
 class QSplitter;
 
 /**
@@ -68,14 +64,8 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void setResultsPreviewBlank();
     void averageChanged(const FExpr<FUnsigned>& rows) override;
 
-    // ---- for the sample text ----
-    /**
-     * Has a value read the number at a position of the sample: one that does already becomes the current one, else a
-     * new one is added. False if no number is there.
-     */
-    bool readNumberAt(int position);
-    /** Adds what can be done at a position of the sample to its menu. */
-    void fillMenu(QMenu& menu, int position);
+    /** What the sample calls when the user points at it. */
+    FSamplePointing& pointing() { return *mpPointing; }
 
     // ---- as a page ----
     QWidget* widget() override { return this; }
@@ -151,8 +141,8 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     static QColor sColumnForeground;
 
     void init();
-    QWidget* makeText();
     void connectForm();
+    void connectSample();
     void listen();
     void restoreSplitter();
     void saveSplitter() const;
@@ -160,39 +150,25 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void takeColors();
 
     FExpr<FGenIntResultsFileValue> currentValue() const { return mSteps.currentValue(); }
-    void moveValue(const FValueDescription& place, const QString& label);
-    void setAnchor(FTextRange selection);
-    bool selectValueAt(FTextRange number);
     void createParamOf(int row);
     void showProblems();
     void chosen(const FSetUpProblem& problem);
 
-    void refreshText();
-    void refreshFileName();
-    void refreshSeparators();
     void refreshAll();
     void showCurrentValue();
-    void enableValueFields();
     void fillSelector(const std::vector<FExpr<FObject>>& values);
     void previewSoon();
-    void showPlaceOf(const FFoundValue& found);
-    const FResultSample& sample();
-    FSeparatorSettings shownSeparators() const;
-    std::optional<FPlaceProposal> proposalAt(int position);
-    static void showText(QLineEdit& edit, const QString& text);
 
     FExpr<FGenIntResultsFile> mResultsFile;
     FExpr<FGenIntComputation> mComputation;
     FResultsFileSteps mSteps{mResultsFile};
     FResultsFileForm* mpForm = nullptr;
-    FGenIntResultsFileEdit* mEdit = nullptr;
+    FSamplePane* mpSample = nullptr;
+    FGenIntResultsFileEdit* mEdit = nullptr;  //!< of the sample
+    std::unique_ptr<FSamplePointing> mpPointing;
     QSplitter* mSplitter = nullptr;
     FExpr<FAttribCmdSetAverageRows> mAverageCmd;
     FAttributeEditor* mAverageAttributeEditor = nullptr;
-    std::unique_ptr<FResultsMarker> mpMarker;
-    FExpr<FTableData> mPreviewTable;
-    std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed
-    QString mShownText;
     QString mLastType;     //!< the type that the current value had before its average was switched on
     bool mIsStale = true;  //!< what is shown may not be what the template holds
     std::shared_ptr<FProblemWatch> mpProblems;

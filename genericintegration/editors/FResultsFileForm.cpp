@@ -1,6 +1,8 @@
 #include "genericintegration/editors/FResultsFileForm.h"
 
 #include "genericintegration/editors/FResultsPreview.h"
+#include "genericintegration/io/FFoundValue.h"
+#include "genericintegration/io/FTemplateValues.h"
 #include "host/core/FNumber.h"
 #include "host/core/FString.h"
 #include "host/gui/base/FElidedLabel.h"
@@ -9,6 +11,7 @@
 #include "host/gui/base/FOneUndo.h"
 #include "host/gui/base/FSpinBox.h"
 #include "host/gui/base/FToolButton.h"
+#include "host/run/FValueRemark.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -21,9 +24,12 @@
 #include <QRegExpValidator>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -55,6 +61,24 @@ QComboBox* combo(const char* id, const char* name, const QStringList& items) {
     return box;
 }
 
+/** Length of the folders at the start of a file name. */
+int folderLength(const QString& fileName) {
+    return std::max(fileName.lastIndexOf(u'/'), fileName.lastIndexOf(u'\\')) + 1;
+}
+
+void select(QComboBox& combo, int index) {
+    const QSignalBlocker blocker(&combo);
+    combo.setCurrentIndex(index);
+}
+
+void showText(QLineEdit& edit, const QString& text) {
+    if (edit.text() != text && !(edit.isModified() && edit.hasFocus())) {
+        const QSignalBlocker blocker(&edit);
+        edit.setText(text);
+        edit.setCursorPosition(0);
+    }
+}
+
 const QString& widestLabel() {
     static const QString text = QStringLiteral("Regular Expression");
     return text;
@@ -62,7 +86,7 @@ const QString& widestLabel() {
 
 }  // namespace
 
-FResultsFileForm::FResultsFileForm(QWidget* averageRows) : mpRows(new QWidget) {
+FResultsFileForm::FResultsFileForm(QWidget* averageRows) : mpAverageRows(averageRows), mpRows(new QWidget) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(paneMargin, paneMargin, paneMargin, paneMargin);
     column->setSpacing(0);
@@ -210,6 +234,116 @@ void FResultsFileForm::refreshLabels() {
         isOfMode ? label->setFixedHeight(labelWidth()) : label->setFixedWidth(labelWidth());
     }
 }
+
+// ---- what is shown ----
+
+void FResultsFileForm::showFileName(const QString& fileName) {
+    const int folders = folderLength(fileName);
+    showText(*mPathEdit, fileName.left(folders));
+    showText(*mNameEdit, fileName.mid(folders));
+}
+
+void FResultsFileForm::showSeparators(const FSeparatorSettings& separators) {
+    const QSignalBlocker numbersBlocker(mSeparatorMode);
+    const QSignalBlocker blanksBlocker(mSpacesAndTabsCheck);
+    (separators.findNumbers ? mFindNumbersRadio : mCustomRadio)->setChecked(true);
+    mSpacesAndTabsCheck->setChecked(separators.spacesAndTabs);
+    mSpacesAndTabsRow->setVisible(!separators.findNumbers);
+    mRegExpRow->setVisible(!separators.findNumbers);
+    showText(*mRegExpEdit, separators.regularExpression);
+}
+
+FSeparatorSettings FResultsFileForm::separators() const {
+    return {mFindNumbersRadio->isChecked(), mSpacesAndTabsCheck->isChecked(), mRegExpEdit->text()};
+}
+
+void FResultsFileForm::showValues(const std::vector<FExpr<FObject>>& values, const std::vector<FExpr<FObject>>& all,
+                                  const Value& current) {
+    const QSignalBlocker blocker(mValueSelector);
+    const bool isTyping = mValueSelector->lineEdit()->hasFocus();
+    const int cursor = mValueSelector->lineEdit()->cursorPosition();
+    mValueSelector->clear();
+    for (const FExpr<FObject>& element : values) {
+        const Value value(element);
+        if (value) {
+            const auto number = std::find(all.begin(), all.end(), element) - all.begin();
+            mValueSelector->addItem(value->mName, static_cast<int>(number));
+        }
+    }
+    const auto place = std::find(all.begin(), all.end(), current) - all.begin();
+    mValueSelector->setCurrentIndex(current ? mValueSelector->findData(static_cast<int>(place)) : -1);
+    if (isTyping) {
+        mValueSelector->lineEdit()->setCursorPosition(cursor);
+    }
+}
+
+void FResultsFileForm::showType(const Value& value) {
+    const QString type = value ? FTemplateValues::typeOf(*value.ptr())->getClass() : QString();
+    select(*mTypeCombo, std::max(mTypeCombo->findText(type), 0));
+}
+
+void FResultsFileForm::showImportType(const Value& value) {
+    mImportTypeRow->setVisible(value && FTemplateValues::isFileName(*value.ptr()));
+}
+
+void FResultsFileForm::showNumbers(const Value& value) {
+    mLineSpin->show(value ? value->mLine : 0);
+    mColumnSpin->show(value ? value->mColumn : 0);
+}
+
+void FResultsFileForm::showAnchor(const Value& value) {
+    showText(*mAnchorEdit, value ? value->mAnchor : QString());
+    const bool isFirst = value && value->mOccurrence.get() == GenIntAnchorOccurrence::First;
+    select(*mOccurrenceCombo, isFirst ? 0 : 1);
+}
+
+void FResultsFileForm::showAverage(const Value& value) {
+    const bool isOn = value && value->mCalcAverage;
+    const QSignalBlocker blocker(mAverageCheck);
+    mAverageCheck->setChecked(isOn);
+    mAverageCheck->setToolTip((isOn ? QStringLiteral("deactive") : QStringLiteral("activate")) +
+                              QStringLiteral(" average calculation"));
+    mpAverageRows->setEnabled(isOn);
+    for (FFormRow* row : {mTypeRow, mLineRow, mAnchorRow, mOccurrenceRow}) {
+        row->setVisible(!isOn);
+    }
+    if (isOn) {
+        select(*mTypeCombo, 0);
+        mImportTypeRow->hide();
+    }
+}
+
+void FResultsFileForm::enableFields(bool hasValue) {
+    mValueSelector->lineEdit()->setReadOnly(!hasValue);
+    mValueSelector->setEnabled(hasValue || mValueSelector->count() > 0);
+    for (QWidget* field : std::initializer_list<QWidget*>{mTypeCombo, mDeleteValueButton, mImportTypeCombo, mLineSpin,
+                                                          mColumnSpin, mAnchorEdit, mOccurrenceCombo, mAverageCheck}) {
+        field->setEnabled(hasValue);
+    }
+}
+
+void FResultsFileForm::showPlace(const FFoundValue& found, const QString& text, bool isFileName) {
+    constexpr int mostShown = 80;  // characters
+    const QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
+                          : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
+                                             : QStringLiteral("not found");
+    const QString shown =
+        found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text.left(mostShown));
+    const QString reason = isFileName ? QString() : FValueRemark::text(found, found.number);
+    mPlaceLabel->show(reason.isEmpty() ? shown : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(shown, reason));
+}
+
+FValueDescription FResultsFileForm::place() const {
+    const bool isFirst = mOccurrenceCombo->currentIndex() == 0;
+    FValueDescription place;
+    place.line = mLineSpin->value();
+    place.column = mColumnSpin->value();
+    place.anchor = {mAnchorEdit->text(), isFirst ? FAnchorOccurrence::First : FAnchorOccurrence::Last};
+    place.average = mAverageCheck->isChecked();
+    return place;
+}
+
+// ---- room ----
 
 // The rows take no more height than they need, and are never cut off at the sides. Where there isn't room for all of
 // them, those of the values are in view at first.

@@ -1,12 +1,19 @@
 #pragma once
 
+#include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/io/FValueDescription.h"
+#include "genericintegration/templates/FGenIntResultsFileValue.h"
+
 #include <QFrame>
+
+#include <vector>
 
 class FElidedLabel;
 class FFormRow;
 class FGroupBox;
 class FResultsPreview;
 class FSpinBox;
+struct FFoundValue;
 class FToolButton;
 class QButtonGroup;
 class QCheckBox;
@@ -17,8 +24,9 @@ class QRadioButton;
 class QScrollArea;
 
 /**
- * The form of a result template: its widgets and their places. What they show and change is the business of its editor.
- * The rows scroll if there isn't room for all of them; what is found in the sample stays in view.
+ * The form of a result template: its widgets, their places and what they show. Showing emits no signal of a widget, and
+ * leaves alone what is being typed. What the widgets change is the business of their editor. The rows scroll if there
+ * isn't room for all of them; what is found in the sample stays in view.
  */
 class FResultsFileForm : public QFrame {
     Q_OBJECT
@@ -57,6 +65,33 @@ class FResultsFileForm : public QFrame {
     FResultsPreview* mResultsTable;
     FElidedLabel* mPlaceLabel;  //!< where the current value is found
 
+    // ---- the template ----
+    void showFileName(const QString& fileName);
+    void showSeparators(const FSeparatorSettings& separators);
+    /** As they are shown, so that a mark can follow a separator while it is being changed. */
+    FSeparatorSettings separators() const;
+
+    // ---- the current value; may be empty ----
+    using Value = FExpr<FGenIntResultsFileValue>;
+    /**
+     * Fills the selector.
+     * @param all  in the order of the template: the data of each item is the number of its value there
+     */
+    void showValues(const std::vector<FExpr<FObject>>& values, const std::vector<FExpr<FObject>>& all,
+                    const Value& current);
+    void showType(const Value& value);
+    void showImportType(const Value& value);
+    /** Line and column. */
+    void showNumbers(const Value& value);
+    void showAnchor(const Value& value);
+    /** What isn't used for an average is hidden while there is one. */
+    void showAverage(const Value& value);
+    void enableFields(bool hasValue);
+    /** Says where the value is found in the sample, and what is suspicious about it. */
+    void showPlace(const FFoundValue& found, const QString& text, bool isFileName);
+    /** Where a value is read, as it is shown. */
+    FValueDescription place() const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -68,6 +103,7 @@ class FResultsFileForm : public QFrame {
     int labelWidth() const;
     void alignLabels();
 
+    QWidget* mpAverageRows;
     QList<QLabel*> mLabels;  //!< in their order in the form
     QWidget* mpRows;
     QWidget* mpValues = nullptr;

@@ -131,3 +131,9 @@ void FResultsFileSteps::moveValue(const FValueDescription& place, const QString&
         value.mCalcAverage = false;
     });
 }
+
+// The template stays as it is.
+void FResultsFileSteps::createParameter(const QString& value, const QString& computation) {
+    const FUserStep step(QStringLiteral("create evaluation: eval_") + value);
+    mFile->createParam(value, computation, true);
+}

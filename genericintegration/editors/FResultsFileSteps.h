@@ -41,6 +41,8 @@ class FResultsFileSteps {
     void deleteValue(const QString& next);
     /** Moves the current value. */
     void moveValue(const FValueDescription& place, const QString& label);
+    /** Makes a parameter that reads a value from the results of a computation. */
+    void createParameter(const QString& value, const QString& computation);
 
  private:
     void inStep(const QString& label, bool joins, const Change& change);

@@ -62,7 +62,7 @@ void FResultsPreview::clearRows() {
 
 void FResultsPreview::setBlank() {
     const QSignalBlocker blocker(this);
-    mTable = {};
+    mPreviewTable = {};
     clearRows();
     setColumnCount(2);
     setHorizontalHeaderItem(valueColumn, headerItem(QStringLiteral("Value"), true));
@@ -76,18 +76,18 @@ void FResultsPreview::setBlank() {
 }
 
 void FResultsPreview::show(const FExpr<FTableData>& table) {
-    mTable = table;
+    mPreviewTable = table;
     fill();
 }
 
 void FResultsPreview::fill() {
     const QSignalBlocker blocker(this);
     clearRows();
-    setColumnCount(mTable->count() + 2);
+    setColumnCount(mPreviewTable->count() + 2);
     setHorizontalHeaderItem(valueColumn, headerItem(QStringLiteral("Value"), true));
     setHorizontalHeaderItem(typeColumn, headerItem(QStringLiteral("Type"), false));
     setHorizontalHeaderItem(buttonColumn, headerItem(QString(), false));
-    setRowCount(mTable->getRowCount());
+    setRowCount(mPreviewTable->getRowCount());
     for (int row = 0; row < rowCount(); ++row) {
         addRow(row);
     }
@@ -96,7 +96,7 @@ void FResultsPreview::fill() {
 }
 
 void FResultsPreview::addRow(int row) {
-    const FPreviewRow content(*mTable.ptr(), row);
+    const FPreviewRow content(*mPreviewTable.ptr(), row);
     auto* value = headerItem(content.value, content.isNotANumber);
     value->setTextAlignment(Qt::AlignCenter);
     value->setToolTip(content.toolTip);
@@ -124,7 +124,7 @@ void FResultsPreview::addRow(int row) {
 }
 
 QString FResultsPreview::valueOf(int row) const {
-    const QTableWidgetItem* header = mTable ? verticalHeaderItem(row) : nullptr;
+    const QTableWidgetItem* header = mPreviewTable ? verticalHeaderItem(row) : nullptr;
     return header ? header->text() : QString();
 }
 
@@ -140,7 +140,7 @@ void FResultsPreview::select(const QString& value) {
 
 void FResultsPreview::changeEvent(QEvent* event) {
     QTableWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && mTable) {
+    if (event->type() == QEvent::PaletteChange && mPreviewTable) {
         fill();
     }
 }

@@ -15,8 +15,12 @@ class FResultsPreview : public QTableWidget {
     /** Shows a table that the reader has filled. */
     void show(const FExpr<FTableData>& table);
     using QWidget::show;
+    /** The table that is shown; empty if there is no value. */
+    const FExpr<FTableData>& table() const { return mPreviewTable; }
     /** Says that there is no value. */
     void setBlank();
+    /** Forgets the table; what is shown of it stays. */
+    void letGo() { mPreviewTable = {}; }
     /** Selects the row of a value, if there is one. */
     void select(const QString& value);
     /** The name of a row's value. */
@@ -33,5 +37,5 @@ class FResultsPreview : public QTableWidget {
     void fill();
     void addRow(int row);
 
-    FExpr<FTableData> mTable;
+    FExpr<FTableData> mPreviewTable;
 };

@@ -6,6 +6,7 @@
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/marking/FPreviewRow.h"
 #include "genericintegration/marking/FResultMarks.h"
+#include "genericintegration/marking/FResultSample.h"
 #include "host/core/FHistory.h"
 #include "host/core/FIni.h"
 #include "host/core/FUserStep.h"

@@ -1,0 +1,61 @@
+#include "genericintegration/editors/FSamplePane.h"
+
+#include "genericintegration/editors/FGenIntResultsFileEdit.h"
+#include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "host/core/FViewCtrl.h"
+#include "host/gui/base/FGroupBox.h"
+
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+FSamplePane::FSamplePane(FGenIntResultsFileEditor& page) : mpEdit(new FGenIntResultsFileEdit(&page)), mMarker(*mpEdit) {
+    const bool isSmall = FViewCtrl::hasSmallScreen();
+    const int margin = isSmall ? 4 : 8;
+    const int spacing = isSmall ? 6 : 12;
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    auto* row = new QWidget;
+    row->setObjectName(QStringLiteral("AttributeRow"));
+    row->setProperty("last", true);
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(mpEdit);
+    auto* group = new FGroupBox(QStringLiteral("File"));
+    group->layout()->addWidget(row);
+    column->addWidget(group, 1);
+}
+
+bool FSamplePane::setText(const QString& text) {
+    if (text == mText && mpEdit->document()->isEmpty() == text.isEmpty()) {
+        return false;
+    }
+    const QPoint scrolled(mpEdit->horizontalScrollBar()->value(), mpEdit->verticalScrollBar()->value());
+    mText = text;
+    mpSample.reset();
+    mMarker.clear();  // a new text takes over the format at the cursor
+    mpEdit->setPlainText(text);
+    mpEdit->horizontalScrollBar()->setValue(scrolled.x());
+    mpEdit->verticalScrollBar()->setValue(scrolled.y());
+    return true;
+}
+
+void FSamplePane::letGo() {
+    mpSample.reset();
+    mText.clear();
+    mMarker.forget();
+    mpEdit->clear();
+}
+
+const FResultSample& FSamplePane::sample() {
+    if (!mpSample) {
+        mpSample = std::make_unique<FResultSample>(mText);
+    }
+    return *mpSample;
+}
+
+FFoundValue FSamplePane::mark(const FValueDescription& value, const FSeparatorSettings& separators) {
+    const FFoundValue found = sample().read(value, separators);
+    mMarker.paint(FResultMarks::of(sample(), value, separators, found));
+    return found;
+}

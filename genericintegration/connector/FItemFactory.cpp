@@ -89,7 +89,9 @@ class Maker {
             return make<FSoftConImportItem>(SoftConImportArea, ":/softConImport");
         }
         if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
-            return ofValue(entry->getValue().getStored());
+            const FExprBase value = entry->getValue();
+            // An expression can give another entry's file or export.
+            return ofValue(value.canSafelyBeUpdated(true) ? value.getObject() : value.getStored());
         }
         reportType(object->getClass());
         return nullptr;

@@ -2,6 +2,7 @@
 
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FSoftConLayoutIconTextMeasurements.h"
+#include "host/gui/base/FSvgDrawing.h"
 
 #include <QFont>
 #include <QPainter>
@@ -23,13 +24,20 @@ QFont typeFont(const QString& text, const FSoftConLayoutIconTextMeasurements& me
     return font;
 }
 
-void paintOutlined(QPainter& painter, const QImage& image, const QString& text,
+QImage blank(const QSize& size, double ratio) {
+    QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+void paintOutlined(QPainter& painter, const QSize& size, const QString& text,
                    const FSoftConLayoutIconTextMeasurements& measurements, const FItemIcon::Colors& colors) {
     const QFont font = typeFont(text, measurements);
     QPainterPath measured;
     measured.addText(0, 0, font, text);
     QPainterPath path;
-    path.addText((image.width() - measured.boundingRect().width()) * 0.5, image.height() / 2.0, font, text);
+    path.addText((size.width() - measured.boundingRect().width()) * 0.5, size.height() / 2.0, font, text);
     QLinearGradient gradient(measurements.gradientStart, measurements.gradientStop);
     gradient.setColorAt(0, QColor(colors.gradientStart));
     gradient.setColorAt(1, QColor(colors.gradientEnd));
@@ -39,27 +47,24 @@ void paintOutlined(QPainter& painter, const QImage& image, const QString& text,
     painter.drawPath(path);
 }
 
-void paintType(QImage& image, const QString& text, const FSoftConLayoutIconTextMeasurements& measurements,
-               const FItemIcon::Colors& colors) {
-    QPainter painter(&image);
+void paintType(QPainter& painter, const QSize& size, const QString& text,
+               const FSoftConLayoutIconTextMeasurements& measurements, const FItemIcon::Colors& colors) {
     painter.setRenderHint(QPainter::TextAntialiasing);
     if (measurements.outlined) {
-        paintOutlined(painter, image, text, measurements, colors);
+        paintOutlined(painter, size, text, measurements, colors);
         return;
     }
     painter.setPen(QColor(colors.text));
     painter.setFont(typeFont(text, measurements));
-    painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextSingleLine, text);
+    painter.drawText(QRect(QPoint(), size), Qt::AlignCenter | Qt::TextSingleLine, text);
 }
 
-void paintPicture(QImage& image, const QString& path) {
-    const QImage picture(path);
-    if (picture.isNull()) {
-        return;
+void paintPicture(QPainter& painter, const QSize& size, const FSvgDrawing& picture) {
+    if (!picture.isEmpty()) {
+        const int width = size.width() / 2;
+        const int height = width * picture.size().height() / picture.size().width();
+        picture.paint(painter, QRect((size.width() - width) / 2, (size.height() - height) / 2, width, height));
     }
-    const QImage scaled = picture.scaledToWidth(image.width() / 2, Qt::SmoothTransformation);
-    QPainter painter(&image);
-    painter.drawImage((image.width() - scaled.width()) / 2, (image.height() - scaled.height()) / 2, scaled);
 }
 
 /** A page with round corners, and a line across the upper right one. */
@@ -111,33 +116,41 @@ QString beginning(const QString& text) {
 
 }  // namespace
 
-QImage FItemIcon::ofFile(const QString& path, const QString& name,
+QImage FItemIcon::ofFile(const QString& path, const Extent& extent, const QString& name,
                          const FSoftConLayoutIconTextMeasurements& measurements, const Colors& colors) {
-    QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const QString type = FItemCaption::typeText(name);
-    if (image.isNull()) {
-        return image;
+    const FSvgDrawing drawing(path);
+    if (drawing.isEmpty()) {
+        return {};
     }
+    const QSize size = extent.size.isEmpty() ? drawing.size() : extent.size;
+    QImage image = blank(size, extent.ratio);
+    QPainter painter(&image);
+    drawing.paint(painter, QRect(QPoint(), size));
+    const QString type = FItemCaption::typeText(name);
     if (name.startsWith(QLatin1String(":/"))) {
-        paintPicture(image, name);
+        paintPicture(painter, size, FSvgDrawing(name));
     } else if (!type.isEmpty()) {
-        paintType(image, type, measurements, colors);
+        paintType(painter, size, type, measurements, colors);
     }
     return image;
 }
 
-QImage FItemIcon::ofText(const QString& text, const QSize& size, const QColor& ground) {
-    QImage large(2 * size, QImage::Format_ARGB32_Premultiplied);
+QImage FItemIcon::ofText(const QString& text, const Extent& extent, const QColor& ground) {
+    const QSize size = 2 * extent.size;
+    QImage large = blank(size, extent.ratio);
     large.fill(ground);
     QPainter painter(&large);
-    painter.fillPath(FPage(large.width() - 2, large.height() - 2).outline, Qt::white);
+    painter.fillPath(FPage(size.width() - 2, size.height() - 2).outline, Qt::white);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    painter.drawText(QRect(20, 20, large.width() - 40, large.height() - 40), Qt::AlignLeft | Qt::AlignTop,
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(20, 20, size.width() - 40, size.height() - 40), Qt::AlignLeft | Qt::AlignTop,
                      beginning(text));
     painter.end();
 
-    QImage image = large.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
-    const FPage page(size.width(), size.height());
+    const auto way = extent.ratio > 1 ? Qt::SmoothTransformation : Qt::FastTransformation;
+    QImage image = large.scaled((QSizeF(extent.size) * extent.ratio).toSize(), Qt::KeepAspectRatio, way);
+    image.setDevicePixelRatio(extent.ratio);
+    const FPage page(extent.size.width(), extent.size.height());
     painter.begin(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(templateColor), 2));

@@ -3,12 +3,15 @@
 #include "genericintegration/connector/FSceneColors.h"
 #include "host/gui/base/FIcons.h"
 
+#include <QFontInfo>
 #include <QFrame>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+
+#include <cmath>
 
 namespace {
 
@@ -40,9 +43,9 @@ FSceneFurniture::FSceneFurniture(QGraphicsScene& scene)
       mAddOutputButton(addAreaButton(QStringLiteral("addButtonRight"), SoftConOutputArea)),
       mAddExportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConExportArea)),
       mAddImportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConImportArea)),
-      mScanButton(addButton(QStringLiteral("softConButton"), QIcon(QStringLiteral(":/scanForResults")),
+      mScanButton(addButton(QStringLiteral("softConButton"), FIcons::get(QStringLiteral(":/scanForResults")),
                             QStringLiteral("Automatic scan for results"))),
-      mConnectButton(addButton(QStringLiteral("softConButton"), QIcon(QStringLiteral(":/softConIcon")),
+      mConnectButton(addButton(QStringLiteral("softConButton"), FIcons::get(QStringLiteral(":/softConIcon")),
                                QStringLiteral("Connect to another connector"))),
       mDocuInputButton(addDocuButton(SoftConInputArea)),
       mDocuOutputButton(addDocuButton(SoftConOutputArea)),
@@ -199,11 +202,19 @@ void FSceneFurniture::place(const FSceneGeometry& geometry) {
 
 // In a narrow window there is little room between the computation and the buttons.
 void FSceneFurniture::placeOutputLabel(const FSceneGeometry& geometry) {
+    constexpr double smallest = 0.7;  // of the usual font
     const QPointF place = geometry.labels[SoftConOutputArea];
     const double left = std::max(place.x(), geometry.titleBarRight.left() + 2);
-    const int room = static_cast<int>(geometry.docuOutputButton.x() - left);
+    const double room = geometry.docuOutputButton.x() - left;
     auto* label = qobject_cast<QLabel*>(mOutputLabel->widget());
-    label->setText(label->fontMetrics().elidedText(labels()[SoftConOutputArea], Qt::ElideRight, room));
-    label->resize(label->sizeHint());
+    const QString& text = labels()[SoftConOutputArea];
+    QFont font = mInputLabel->widget()->font();
+    const double needed = QFontMetricsF(font).horizontalAdvance(text);
+    if (needed > room) {
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * std::max(smallest, room / needed));
+    }
+    label->setFont(font);
+    label->setText(label->fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(std::ceil(room))));
+    label->resize(label->sizeHint().width(), mInputLabel->widget()->height());
     mOutputLabel->setPos(left, place.y());
 }

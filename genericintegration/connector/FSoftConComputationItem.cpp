@@ -5,17 +5,29 @@
 
 #include <QFontMetrics>
 #include <QGraphicsSceneContextMenuEvent>
+#include <QGuiApplication>
 #include <QMenu>
+#include <QPalette>
 
 FClassData FSoftConComputationItem::mClass("FSoftConComputationItem", &FSoftConObjectItem::mClass);
 
 FSoftConComputationItem::FSoftConComputationItem(FItemScene* scene, QGraphicsItem* parent, const FExpr<FObject>& object,
                                                  SoftConArea area, const QString& image)
-    : FClass(scene, parent, object, area, image),
-      mArrow(new QGraphicsPixmapItem(QPixmap(QStringLiteral(":/computationArrow")), this)) {
-    scene->setComputationItemSize(pixmap().size());
-    mArrow->setPos(0, pixmap().height());
+    : FClass(scene, parent, object, area, image), mImage(image), mArrow(new QGraphicsPixmapItem(this)) {
+    scene->setComputationItemSize(pictureSize());
+    mArrow->setPos(0, pictureSize().height());
     mArrow->installSceneEventFilter(this);
+    paintPictures();
+}
+
+void FSoftConComputationItem::updateLook() {
+    paintPictures();
+}
+
+void FSoftConComputationItem::paintPictures() {
+    setPixmap(drawingOf(mImage));
+    mArrow->setPixmap(drawingOf(QStringLiteral(":/computationArrow")));
+    mLabelItem->setBrush(QGuiApplication::palette().text());
 }
 
 void FSoftConComputationItem::refresh() {
@@ -24,10 +36,10 @@ void FSoftConComputationItem::refresh() {
         return;
     }
     const QFontMetrics metrics(mLabelItem->font());
-    const int width = pixmap().width();
+    const int width = pictureSize().width();
     const QString name = metrics.elidedText(computation->getName(), Qt::ElideMiddle, width - 72);
     const int left = std::max(65, width / 2 - metrics.horizontalAdvance(name) / 2);
-    const int top = pixmap().height() / 2 - metrics.height() / 2;
+    const int top = pictureSize().height() / 2 - metrics.height() / 2;
     mLabelItem->setText(name);
     mLabelItem->setPos(QPoint(left, top));
 }

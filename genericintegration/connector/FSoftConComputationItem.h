@@ -12,6 +12,7 @@ class FSoftConComputationItem : public FClass<FSoftConComputationItem, FSoftConO
                             const QString& image);
 
     void updateItem() override {}
+    void updateLook() override;
 
  protected:
     void refresh() override;
@@ -19,5 +20,8 @@ class FSoftConComputationItem : public FClass<FSoftConComputationItem, FSoftConO
     void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
 
  private:
+    void paintPictures();
+
+    QString mImage;
     QGraphicsPixmapItem* mArrow = nullptr;
 };

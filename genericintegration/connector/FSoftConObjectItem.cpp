@@ -56,7 +56,7 @@ void FSoftConObjectItem::init() {
     auto* action = new QAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("Delete"), mDeleteProxy);
     button->setDefaultAction(action);
     button->setAccessibleName(action->text());
-    mDeleteProxy->setPos(pixmap().width() + 1, 0);
+    mDeleteProxy->setPos(pictureSize().width() + 1, 0);
     QObject::connect(button, &QToolButton::triggered, this, [this] {
         if (FItemScene* scene = getScene()) {
             scene->deleteItem(this);
@@ -70,10 +70,11 @@ void FSoftConObjectItem::paintFrame() {
     mLabelItem->setBrush(FSceneColors::caption());
 }
 
-void FSoftConObjectItem::updateColors() {
+void FSoftConObjectItem::updateLook() {
     if (mFrame) {
         paintFrame();
     }
+    updateItem();
 }
 
 bool FSoftConObjectItem::getPreviewText(QString& /*text*/) {
@@ -114,7 +115,7 @@ FLayoutItem FSoftConObjectItem::toLayoutItem() const {
     item.size = bounding.size();
     item.offset = bounding.topLeft();
     item.position = pos();
-    item.icon = pixmap().size();
+    item.icon = pictureSize();
     item.label = mLabelItem->text();
     item.labelSize = mLabelItem->boundingRect().size();
     item.labelPosition = mLabelItem->pos();
@@ -178,10 +179,11 @@ void FSoftConObjectItem::paintIcon(const QString& prefix, const QString& name, c
     // Many items show the same few types.
     const QString path = prefix + layout->getSizeName();
     const QString shown = name.startsWith(QLatin1String(":/")) ? name : FItemCaption::typeText(name);
-    const QString key = path + u'|' + shown;
+    const FItemIcon::Extent extent{{layout->getIconWidth(), layout->getIconHeight()}, pixelRatio()};
+    const QString key = path + u'|' + shown + u'|' + QString::number(extent.ratio);
     QPixmap icon;
     if (!QPixmapCache::find(key, &icon)) {
-        icon = QPixmap::fromImage(FItemIcon::ofFile(path, name, layout->getIconTextMeasurements(), colors));
+        icon = QPixmap::fromImage(FItemIcon::ofFile(path, extent, name, layout->getIconTextMeasurements(), colors));
         QPixmapCache::insert(key, icon);
     }
     setPixmap(icon);

@@ -35,8 +35,8 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     /** Draws the picture and places its parts. */
     virtual void updateItem();
 
-    /** After a change of the palette. */
-    virtual void updateColors();
+    /** After a change of the palette or of the screen. */
+    virtual void updateLook();
 
     /** The item was taken out of the scene: it holds nothing any more, and dies when the event is handled. */
     virtual void release();

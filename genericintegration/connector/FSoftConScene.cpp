@@ -209,11 +209,11 @@ QList<QObject*> FSoftConScene::parts() const {
     return parts;
 }
 
-void FSoftConScene::updateColors() {
+void FSoftConScene::updateLook() {
     mHints.updateColors();
     mpFurniture->updateColors();
     for (FSoftConObjectItem* item : qAsConst(mItems)) {
-        item->updateColors();
+        item->updateLook();
     }
 }
 
@@ -242,8 +242,7 @@ void FSoftConScene::redraw() {
         return;
     }
     mRedrawRequired = false;
-    constexpr int margin = 10;
-    layOut(mConnector.getView()->rect().adjusted(0, 0, -margin, -margin));
+    layOut(mConnector.getView()->roomForScene(2 * mLayout->getMinAreaHeight()));
 }
 
 void FSoftConScene::layOut(const QRect& view) {
@@ -433,7 +432,7 @@ void FSoftConScene::showDocu(QString area) {
 void FSoftConScene::addSizeActions(QMenu& menu, QActionGroup& group) {
     for (const char* size : {"Large", "Medium", "Small"}) {
         const QString text = QString::fromLatin1(size);
-        QAction* action = menu.addAction(QIcon(QStringLiteral(":/softConItemSize_") + text), text);
+        QAction* action = menu.addAction(FIcons::get(QStringLiteral(":/softConItemSize_") + text), text);
         action->setCheckable(true);
         action->setChecked(text == mConnector.getItemSizeStr());
         group.addAction(action);

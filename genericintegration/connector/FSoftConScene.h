@@ -44,8 +44,8 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     SoftConArea getArea(const QPointF& point) const;
     void refreshEntryItems();
     void updateInputFileItems();
-    /** After a change of the palette. */
-    void updateColors();
+    /** After a change of the palette or of the screen. */
+    void updateLook();
     /** Removes all items at once; the connector has left the model. */
     void clearItems();
 

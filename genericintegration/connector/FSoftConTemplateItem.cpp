@@ -63,7 +63,7 @@ void FSoftConTemplateItem::updateItem() {
         return;
     }
     if (layout->getSizeName() == QLatin1String("Small")) {
-        setPixmap(QPixmap(QStringLiteral(":/softConTemplate_Small")));
+        setPixmap(drawingOf(QStringLiteral(":/softConTemplate_Small")));
         mPaintedSize = QSize();
     } else {
         QString text;
@@ -80,17 +80,16 @@ void FSoftConTemplateItem::paintPreview(const QString& text, const QSize& size) 
     if (size == mPaintedSize && text == mPaintedText) {
         return;
     }
-    setPixmap(QPixmap::fromImage(FItemIcon::ofText(text, size, FSceneColors::frame())));
+    setPixmap(QPixmap::fromImage(FItemIcon::ofText(text, {size, pixelRatio()}, FSceneColors::frame())));
     mPaintedText = text;
     mPaintedSize = size;
 }
 
 // The page shows its ground beside the round corners.
-void FSoftConTemplateItem::updateColors() {
-    FSoftConObjectItem::updateColors();
+void FSoftConTemplateItem::updateLook() {
     mPaintedSize = QSize();
     setPreviewOutOfDate();
-    updateItem();
+    FSoftConObjectItem::updateLook();
 }
 
 void FSoftConTemplateItem::refresh() {

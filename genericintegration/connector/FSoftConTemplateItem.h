@@ -22,7 +22,7 @@ class FSoftConTemplateItem : public FClass<FSoftConTemplateItem, FSoftConObjectI
     void removeObject() override;
     void updateItem() override;
     void release() override;
-    void updateColors() override;
+    void updateLook() override;
 
  protected:
     void refresh() override;

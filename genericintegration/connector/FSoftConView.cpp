@@ -13,13 +13,21 @@ FSoftConView::FSoftConView(QWidget* parent) : QGraphicsView(parent) {
     setObjectName(QStringLiteral("softConOverview"));
     setAccessibleName(QStringLiteral("Inputs and outputs"));
     setFrameShape(QFrame::NoFrame);
-    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    viewport()->setBackgroundRole(QPalette::AlternateBase);
     keepAtStart(horizontalScrollBar());
     keepAtStart(verticalScrollBar());
 }
 
 FSoftConScene* FSoftConView::connectorScene() const {
     return qobject_cast<FSoftConScene*>(scene());
+}
+
+QRect FSoftConView::roomForScene(double leastHeight) const {
+    constexpr int margin = 10;
+    const QRect room = rect().adjusted(0, 0, -margin, -margin);
+    // Else a horizontal bar would appear as well, only because of the vertical one.
+    const int bar = room.height() < leastHeight ? verticalScrollBar()->sizeHint().width() : 0;
+    return room.adjusted(0, 0, std::min(0, margin - bar), 0);
 }
 
 // Positions are those of the scene, whose origin is the computation.
@@ -40,8 +48,16 @@ void FSoftConView::keepAtStart(QScrollBar* bar) {
 void FSoftConView::changeEvent(QEvent* event) {
     QGraphicsView::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && connectorScene()) {
-        connectorScene()->updateColors();
+        connectorScene()->updateLook();
     }
+}
+
+void FSoftConView::paintEvent(QPaintEvent* event) {
+    if (mRatio != devicePixelRatioF() && connectorScene()) {
+        mRatio = devicePixelRatioF();
+        connectorScene()->updateLook();
+    }
+    QGraphicsView::paintEvent(event);
 }
 
 void FSoftConView::dragEnterEvent(QDragEnterEvent* event) {

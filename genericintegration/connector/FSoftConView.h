@@ -13,13 +13,18 @@ class FSoftConView : public QGraphicsView {
 
     /** Null as long as the view has none. */
     FSoftConScene* connectorScene() const;
+    /** The room that a scene of at least that height can fill, with a margin at its ends. */
+    QRect roomForScene(double leastHeight) const;
 
  protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
  private:
     /** Until the user scrolls, shows the top of what is larger than the view, with the computation in the middle. */
     void keepAtStart(QScrollBar* bar);
+
+    double mRatio = devicePixelRatioF();  //!< for which the scene has painted its pictures
 };

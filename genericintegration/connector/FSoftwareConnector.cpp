@@ -28,6 +28,7 @@
 #include "host/design/FEntry.h"
 #include "host/design/FEntryDef.h"
 #include "host/design/FInputFile.h"
+#include "host/gui/base/FIcons.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FObjectPages.h"
 #include "host/gui/fields/FScriptText.h"
@@ -96,7 +97,8 @@ void FSoftwareConnector::init() {
     });
     connect(mpScene, &FSoftConScene::removeViewerTab, this, &FSoftwareConnector::removeOldTab);
     connect(mpScene, &FSoftConScene::gotoViewerTab, this, &FSoftwareConnector::gotoTab);
-    mOverviewButton = new QPushButton(QIcon(QStringLiteral(":/softConOverview")), QStringLiteral("Overview"), this);
+    mOverviewButton =
+        new QPushButton(FIcons::get(QStringLiteral(":/softConOverview")), QStringLiteral("Overview"), this);
     mOverviewButton->setObjectName(QStringLiteral("ButtonOverview"));
     mOverviewButton->setFlat(true);
     mOverviewButton->setCheckable(true);
@@ -495,6 +497,15 @@ void FSoftwareConnector::connectOtherConnector() {
 }
 
 bool FSoftwareConnector::link(const QString& expression) {
+    QString fault;
+    const FExprBase resolved = FScriptText::bind(expression, fault);
+    const FObject* configuration = FSetUpObjects(getComputation()).configuration();
+    // Each file of the set-up is a part of its configuration.
+    if (configuration && resolved.getStored() && resolved.getStored()->dependsOn(configuration)) {
+        FIO::warning(this, QStringLiteral("Recursion"),
+                     QStringLiteral("Infinite recursion detected. Could not set new input file."));
+        return false;
+    }
     FSoftConObjectItem* item = mpScene->createItem(nullptr, FExpr<FObject>(FBool::null()), QString(), QString());
     if (!item) {
         return false;
@@ -504,15 +515,7 @@ bool FSoftwareConnector::link(const QString& expression) {
     if (!file) {
         return true;
     }
-    QString fault;
-    const FExprBase resolved = FScriptText::bind(expression, fault);
-    if (!resolved.getStored()) {
-        return false;
-    }
-    if (!file->setFileName(resolved)) {
-        mpScene->deleteItem(item);
-        FIO::warning(this, QStringLiteral("Recursion"),
-                     QStringLiteral("Infinite recursion detected. Could not set new input file."));
+    if (!resolved.getStored() || !file->setFileName(resolved)) {
         return false;
     }
     if (const FExpr<FEntryDef> definition = entry->getDefinition()) {

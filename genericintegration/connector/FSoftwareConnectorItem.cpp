@@ -3,9 +3,11 @@
 #include "genericintegration/connector/FItemScene.h"
 #include "host/core/FClipboard.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSvgDrawing.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
+#include <QGraphicsView>
 #include <QMenu>
 #include <QScopedValueRollback>
 
@@ -21,14 +23,32 @@ FSoftwareConnectorItem::FSoftwareConnectorItem(FItemScene* scene, QGraphicsItem*
     } else {
         scene->asGraphicsScene()->addItem(this);
     }
-    setPixmap(QPixmap(image));
+    setPixmap(drawingOf(image));
     setAcceptHoverEvents(true);
     setImediateUpdate(true);
     setOutOfDate(true);
 }
 
 void FSoftwareConnectorItem::setPixmapSize(const QSize& size) {
-    setPixmap(pixmap().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const double ratio = pixmap().devicePixelRatioF();
+    QPixmap scaled = pixmap().scaled((QSizeF(size) * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    setPixmap(scaled);
+}
+
+QSize FSoftwareConnectorItem::pictureSize() const {
+    const QPixmap picture = pixmap();
+    return picture.isNull() ? QSize(0, 0) : (QSizeF(picture.size()) / picture.devicePixelRatioF()).toSize();
+}
+
+double FSoftwareConnectorItem::pixelRatio() const {
+    const QGraphicsView* view = scene() ? scene()->views().value(0) : nullptr;
+    return view ? view->devicePixelRatioF() : 1;
+}
+
+QPixmap FSoftwareConnectorItem::drawingOf(const QString& path) const {
+    const FSvgDrawing drawing(path);
+    return drawing.pixmap(drawing.size(), pixelRatio());
 }
 
 FItemScene* FSoftwareConnectorItem::getScene() const {

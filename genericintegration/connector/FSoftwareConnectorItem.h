@@ -27,6 +27,8 @@ class FSoftwareConnectorItem : public FClass<FSoftwareConnectorItem, QObject, QG
     virtual QString getToolTip() const { return {}; }
     /** Scales the picture, whatever its proportions. */
     virtual void setPixmapSize(const QSize& size);
+    /** The size of the picture, in pixels of the scene. */
+    QSize pictureSize() const;
     /** The scene that the item is in; null once it was removed. */
     FItemScene* getScene() const;
 
@@ -39,6 +41,10 @@ class FSoftwareConnectorItem : public FClass<FSoftwareConnectorItem, QObject, QG
     /** Shows the present state of the object. Called by each update, and so within the step that changed it. */
     virtual void refresh() {}
     bool isRefreshing() const { return mIsRefreshing; }
+    /** A drawing of the resources at its size, for the screen that shows the item; null if there is none. */
+    QPixmap drawingOf(const QString& path) const;
+    /** How many device pixels the screen has for each one of the scene. */
+    double pixelRatio() const;
 
     void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
     void dragEnterEvent(QGraphicsSceneDragDropEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "genericintegration/setup/FResultLinks.h"
 #include "host/gui/base/FEmptyHint.h"
+#include "host/gui/base/FIcons.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -45,12 +46,12 @@ FSoftConConnectConnectorDialog::FSoftConConnectConnectorDialog(QWidget* parent, 
 void FSoftConConnectConnectorDialog::fill(const FConnectorInterface* connector) {
     for (const FResultLinks& other : FResultLinks::of(connector)) {
         auto* top = new QTreeWidgetItem(mTree, {other.title});
-        top->setIcon(0, QIcon(QStringLiteral(":/softConIcon")));
+        top->setIcon(0, FIcons::get(QStringLiteral(":/softConIcon")));
         top->setFlags(Qt::ItemIsEnabled);
         for (const FResultLinks::Link& link : other.links) {
             auto* row = new QTreeWidgetItem(top, {link.name});
-            row->setIcon(0, QIcon(link.isTemplate ? QStringLiteral(":/softConTemplate_Small")
-                                                  : QStringLiteral(":/softConExport_Small")));
+            row->setIcon(0, FIcons::get(link.isTemplate ? QStringLiteral(":/softConTemplate_Small")
+                                                        : QStringLiteral(":/softConExport_Small")));
             row->setData(0, expressionRole, link.expression);
         }
         top->setExpanded(true);

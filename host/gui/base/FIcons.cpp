@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 
 QIcon FIcons::get(const QString& name) {
-    const QString drawing = QStringLiteral(":/icons/%1.svg").arg(name);
+    const QString drawing = name.startsWith(QLatin1String(":/")) ? name : QStringLiteral(":/icons/%1.svg").arg(name);
     return QFile::exists(drawing) ? QIcon(new FSvgIconEngine(drawing)) : QIcon::fromTheme(name);
 }
 

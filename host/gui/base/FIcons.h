@@ -11,7 +11,10 @@
  */
 class MERIX_EXPORT FIcons {
  public:
-    /** A null icon if there is none of that name. */
+    /**
+     * A null icon if there is none of that name.
+     * @param name  or the path of an SVG drawing in the resources, which begins with ":/"
+     */
     static QIcon get(const QString& name);
     /** Chooses the light or dark icons of the theme. */
     static void followPalette();

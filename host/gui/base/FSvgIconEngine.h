@@ -1,20 +1,18 @@
 #pragma once
 
-#include <QByteArray>
+#include "host/gui/base/FSvgDrawing.h"
+
 #include <QIconEngine>
 
-/**
- * Draws an SVG file at any size, crisp on each screen, in the colours of the present palette: what the drawing fills or
- * strokes with `currentColor` gets that of texts.
- */
+/** Shows an SVG drawing as an icon, at any size, crisp on each screen. */
 class FSvgIconEngine : public QIconEngine {
  public:
-    explicit FSvgIconEngine(const QString& path);
+    explicit FSvgIconEngine(const QString& path) : mDrawing(path) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QIconEngine* clone() const override { return new FSvgIconEngine(*this); }
 
  private:
-    QByteArray mDrawing;
+    FSvgDrawing mDrawing;
 };

@@ -7,6 +7,7 @@
 
 #include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
 #include "genericintegration/connector/layout/FSoftConListLayout.h"
+#include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ int darkPixels(const QImage& image, const QRect& rect) {
 TEST(FItemIconTest, theTypeIsWrittenInTheMiddle) {
     const auto large = FSoftConLargeGridLayout().getIconTextMeasurements();
     const QString path = ":/softConFileName_Large";
-    const auto icon = [&](const QString& name) { return FItemIcon::ofFile(path, name, large, FItemIcon::dark); };
+    const auto icon = [&](const QString& name) { return FItemIcon::ofFile(path, {}, name, large, FItemIcon::dark); };
     const QImage plain = icon("name.");
     ASSERT_EQ(plain.size(), QImage(path).size());
     EXPECT_TRUE(difference(plain, QImage(path).convertToFormat(plain.format())).isNull()) << "no type, no text";
@@ -48,15 +49,15 @@ TEST(FItemIconTest, theTypeIsWrittenInTheMiddle) {
     EXPECT_GT(text.height(), difference(icon("a.c"), plain).height())
         << "three letters are larger than any other number";
     EXPECT_EQ(icon("folder/a.dat\""), icon("b.dat"));
-    EXPECT_NE(icon("a.dat"), FItemIcon::ofFile(path, "a.dat", large, FItemIcon::light));
-    EXPECT_TRUE(FItemIcon::ofFile(":/none", "a.dat", large, FItemIcon::dark).isNull());
+    EXPECT_NE(icon("a.dat"), FItemIcon::ofFile(path, {}, "a.dat", large, FItemIcon::light));
+    EXPECT_TRUE(FItemIcon::ofFile(":/none", {}, "a.dat", large, FItemIcon::dark).isNull());
 }
 
 TEST(FItemIconTest, smallTypesAreOfOneColor) {
     const auto small = FSoftConListLayout().getIconTextMeasurements();
     const QString path = ":/softConFileName_Small";
-    const QImage plain = FItemIcon::ofFile(path, "a.", small, FItemIcon::dark);
-    const QRect text = difference(FItemIcon::ofFile(path, "a.dat", small, FItemIcon::dark), plain);
+    const QImage plain = FItemIcon::ofFile(path, {}, "a.", small, FItemIcon::dark);
+    const QRect text = difference(FItemIcon::ofFile(path, {}, "a.dat", small, FItemIcon::dark), plain);
     EXPECT_FALSE(text.isNull());
     EXPECT_NEAR(text.left() + text.right(), plain.width(), 4);
 }
@@ -64,17 +65,36 @@ TEST(FItemIconTest, smallTypesAreOfOneColor) {
 TEST(FItemIconTest, aPictureInsteadOfAType) {
     const auto large = FSoftConLargeGridLayout().getIconTextMeasurements();
     const QString path = ":/softConExport_Large";
-    const QImage plain = FItemIcon::ofFile(path, "", large, FItemIcon::light);
-    const QRect picture = difference(FItemIcon::ofFile(path, ":/softConIcon", large, FItemIcon::light), plain);
+    const QImage plain = FItemIcon::ofFile(path, {}, "", large, FItemIcon::light);
+    const QRect picture = difference(FItemIcon::ofFile(path, {}, ":/softConIcon", large, FItemIcon::light), plain);
     EXPECT_LE(picture.width(), plain.width() / 2);
     EXPECT_GT(picture.width(), plain.width() / 4);
     EXPECT_TRUE(QRect(plain.width() / 4, 0, plain.width() / 2, plain.height()).contains(picture));
-    EXPECT_EQ(FItemIcon::ofFile(path, ":/none", large, FItemIcon::light), plain);
+    EXPECT_EQ(FItemIcon::ofFile(path, {}, ":/none", large, FItemIcon::light), plain);
+}
+
+TEST(FItemIconTest, picturesUseAllPixelsOfTheScreen) {
+    const auto measurements = FSoftConMediumGridLayout().getIconTextMeasurements();
+    const QString path = ":/softConImport_Medium";
+    const auto icon = [&](const QSize& size, double ratio, const QString& name) {
+        return FItemIcon::ofFile(path, {size, ratio}, name, measurements, FItemIcon::light);
+    };
+    const QImage fine = icon({75, 106}, 2, "");
+    EXPECT_EQ(fine.devicePixelRatio(), 2);
+    EXPECT_TRUE(difference(fine, icon({150, 212}, 1, "")).isNull()) << "no scaled picture";
+    const QRect type = difference(icon({75, 106}, 2, "a.dat"), fine);
+    EXPECT_NEAR(type.left() + type.right(), fine.width(), 8);
+
+    const QColor ground(230, 230, 230);
+    const QImage page = FItemIcon::ofText("first line", {QSize(75, 106), 2}, ground);
+    EXPECT_EQ(page.size(), QSize(150, 212));
+    EXPECT_EQ(QColor(page.pixel(2, 106)), QColor("#ae0000")) << "the outline is as thick";
+    EXPECT_GT(darkPixels(page, QRect(20, 20, 100, 32)), 40);
 }
 
 TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
     const QColor ground(230, 230, 230);
-    const QImage empty = FItemIcon::ofText("", QSize(75, 106), ground);
+    const QImage empty = FItemIcon::ofText("", {QSize(75, 106)}, ground);
     ASSERT_EQ(empty.size(), QSize(75, 106));
     EXPECT_EQ(QColor(empty.pixel(37, 53)), QColor(Qt::white));
     EXPECT_EQ(QColor(empty.pixel(0, 0)), ground) << "outside of the page";
@@ -82,7 +102,7 @@ TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
     EXPECT_EQ(QColor(empty.pixel(69, 4)), QColor("#ae0000")) << "the fold";
     EXPECT_NE(QColor(empty.pixel(71, 2)), QColor("#ae0000")) << "the corner is cut off";
 
-    const QImage text = FItemIcon::ofText("first line\r\nsecond line", QSize(75, 106), ground);
+    const QImage text = FItemIcon::ofText("first line\r\nsecond line", {QSize(75, 106)}, ground);
     EXPECT_GT(darkPixels(text, QRect(10, 10, 50, 16)), 20);
     EXPECT_EQ(darkPixels(text, QRect(10, 40, 50, 50)), 0);
 
@@ -90,8 +110,8 @@ TEST(FItemIconTest, aPageShowsTheBeginningOfAText) {
     const QString longText = line.repeated(500000);
     QElapsedTimer timer;
     timer.start();
-    EXPECT_EQ(FItemIcon::ofText(longText, QSize(150, 212), ground),
-              FItemIcon::ofText(line.repeated(100), QSize(150, 212), ground));
+    EXPECT_EQ(FItemIcon::ofText(longText, {QSize(150, 212)}, ground),
+              FItemIcon::ofText(line.repeated(100), {QSize(150, 212)}, ground));
     EXPECT_LT(timer.elapsed(), 500) << "a long text is no more work";
 }
 

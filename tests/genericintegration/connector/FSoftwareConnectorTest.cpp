@@ -470,9 +470,11 @@ TEST_F(FSoftwareConnectorTest, itIsLinkedToResultsOfAnother) {
     // The other way round would be a circle.
     object<FGenIntComputation>("mesher")->openSoftwareConnector();
     settle();
+    const QString linked = savedModel();
     choose(0, 0);
     object<FSoftwareConnector>("con2")->connectOtherConnector();
     settle();
+    EXPECT_EQ(savedModel().toStdString(), linked.toStdString()) << "nothing of the link stays";
     EXPECT_TRUE(find<QLabel>("noticeText")->text().contains("Infinite recursion detected"));
     EXPECT_EQ(object<FSoftwareConnector>("con2")->getScene()->objectItems().size(), 2);
 }

@@ -246,11 +246,14 @@ std::vector<FActionRow> otherRows() {
              }
          }},
 
-        {"help", "&Help", 0, "&Help", "help-contents", "F1", "Show the reference of the selected object's class", false,
-         nullptr, &helpOnSelection},
+        {"help", "&Help", 0, "&Reference", "help-contents", "F1", "Show the reference of the selected object's class",
+         false, nullptr, &helpOnSelection},
+        {"manual", "&Help", 0, "&Manual", "help-contents", "Shift+F1",
+         "How to use this window, from the first set-up to chains of programs", false, nullptr,
+         [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/README.md")); }},
         {"tutorial", "&Help", 0, "&Tutorial", "help-hint", "Ctrl+Shift+F1",
-         "Couple a program, from sample files to a table of numbers", false, nullptr,
-         [](FMainWindow& window) { window.showDocument(QStringLiteral("coupling-a-program.md")); }},
+         "The first set-up, from a program and its files to numbers", false, nullptr,
+         [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/first-set-up.md")); }},
         {"shortcuts", "&Help", 0, "&Keyboard shortcuts", "input-keyboard", "Ctrl+Shift+K",
          "List all actions with their keys", false, nullptr,
          [](FMainWindow& window) { window.showHelpText(FActionTable::toMarkdown()); }},

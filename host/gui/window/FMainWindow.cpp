@@ -22,6 +22,7 @@
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFindField.h"
+#include "host/gui/window/FManualWindow.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "host/gui/window/FPageTabs.h"
 #include "host/gui/window/FPanelTable.h"
@@ -33,9 +34,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
-#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
@@ -381,11 +380,15 @@ void FMainWindow::showHelpText(const QString& markdown) {
 }
 
 void FMainWindow::showDocument(const QString& page) {
-    QFile file(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/merix/docs/") + page));
-    if (file.open(QIODevice::ReadOnly)) {
-        showHelpText(QString::fromUtf8(file.readAll()));
+    if (!mpManual) {
+        mpManual = new FManualWindow(this);
+    }
+    if (mpManual->showPage(page)) {
+        mpManual->show();
+        mpManual->raise();
+        mpManual->activateWindow();
     } else {
-        mpNotices->showNotice(QStringLiteral("The page %1 isn't installed: %2").arg(page, file.errorString()));
+        mpNotices->showNotice(QStringLiteral("The page %1 of the manual isn't installed").arg(page));
     }
 }
 

@@ -16,6 +16,7 @@
 class FActions;
 class FDocumentTabs;
 class FFindField;
+class FManualWindow;
 class FNoticeBar;
 class FPageTabs;
 class FProjectFiles;
@@ -57,7 +58,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void executeLocked(const std::function<void()>& function);
     /** Shows a text in Markdown in the help panel. */
     void showHelpText(const QString& markdown);
-    /** Shows a page of the documentation that comes with the program. */
+    /** Shows a page of the documentation that comes with the program, by its path there. */
     void showDocument(const QString& page);
     void showAbout();
     /** Puts panels and toolbars where they are in a new installation. */
@@ -102,6 +103,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     std::unique_ptr<FPageTabs> mpPages;
     FNoticeBar* mpNotices = nullptr;
     FFindField* mpFind = nullptr;
+    FManualWindow* mpManual = nullptr;  //!< from the first page on that is shown
     QToolButton* mpProblems = nullptr;
     QLabel* mpRunState = nullptr;
     QHash<QString, QDockWidget*> mDocks;

@@ -185,6 +185,9 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));
     check(texts, "texts");
     texts.close();
+    trigger("tutorial");
+    check(*find("manual"), "manual");
+    find<QDialog>("manual")->close();
     FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("solver"))});
     settle();
     find<QAction>("addEntry")->trigger();

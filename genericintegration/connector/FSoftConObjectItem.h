@@ -62,6 +62,8 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     /** Has the item updated, unless it is just being. */
     void markOutOfDate();
 
+    /** It evaluates only what it shows: a picture has no results read, and no warning about those that aren't there. */
+    bool updatesSuppliersItself() const override { return true; }
     bool sceneEventFilter(QGraphicsItem* watched, QEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;

@@ -11,15 +11,33 @@
 #include "host/gui/panels/FNewObjectMenu.h"
 #include "host/gui/panels/FObjectNameDelegate.h"
 #include "host/gui/panels/FObjectTreeModel.h"
+#include "host/lodm/FImport.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FAttributeQuery.h"
 
+#include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QTimer>
 #include <QTreeView>
+#include <QUrl>
 #include <QVBoxLayout>
+
+namespace {
+
+QStringList importableFiles(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile() && FImport::forFile(url.toLocalFile())) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
+}
+
+}  // namespace
 
 FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     : mNavigator(navigator),
@@ -28,7 +46,13 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
       mpSearch(new QLineEdit(this)),
       mpView(new QTreeView(this)) {
     mpModel->setParent(this);
+    // Rows that go, or move below another one, are no choice of the user's. Connected before the filter passes them on.
+    connect(mpModel, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { mIsSelecting = true; });
     mpFilter->setSourceModel(mpModel);
+    connect(mpModel, &QAbstractItemModel::rowsRemoved, this, [this] {
+        mIsSelecting = false;
+        mShowSelection.request();
+    });
     mpFilter->setRecursiveFilteringEnabled(true);
     mpFilter->setFilterRole(FObjectTreeModel::nameRole);
     mpFilter->setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -47,6 +71,7 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     mpView->setItemDelegate(new FObjectNameDelegate(mpView));
     mpView->setDragEnabled(true);
     mpView->setDragDropMode(QAbstractItemView::DragOnly);
+    setAcceptDrops(true);
     mpView->setContextMenuPolicy(Qt::CustomContextMenu);
     mpView->setExpandsOnDoubleClick(false);
     new FEmptyHint(mpView, QStringLiteral("The objects of the project appear here"));
@@ -226,6 +251,19 @@ void FObjectTreeWgt::openMenu(const QPoint& position) {
     menu->setObjectName(QStringLiteral("objectMenu"));
     fillMenu(*menu);
     menu->popup(mpView->viewport()->mapToGlobal(position));
+}
+
+// ---- files ----
+
+void FObjectTreeWgt::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(!importableFiles(*event->mimeData()).isEmpty());
+}
+
+void FObjectTreeWgt::dropEvent(QDropEvent* event) {
+    for (const QString& path : importableFiles(*event->mimeData())) {
+        emit fileDropped(path);
+    }
+    event->acceptProposedAction();
 }
 
 // ---- open branches ----

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/core/FQueuedCall.h"
 #include "host/gui/base/FNavigator.h"
 
 #include <QSet>
@@ -30,6 +31,14 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     /** Destroys the selected objects in one step. */
     static void destroySelected();
 
+ signals:
+    /** The user has dropped a file that can be imported. */
+    void fileDropped(const QString& path);
+
+ protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
  private:
     void takeSelection();
     void showSelection();
@@ -50,4 +59,5 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     QTreeView* mpView;
     QSet<QString> mExpanded;  //!< names of what was open before the tree was rebuilt
     bool mIsSelecting = false;
+    FQueuedCall mShowSelection{[this] { showSelection(); }};
 };

@@ -193,6 +193,9 @@ std::vector<FActionRow> fileRows() {
         {"executeScript", "&File", 1, "&Execute a script…", "system-run", "Ctrl+E",
          "Execute a script file; each of its statements is a step", false, nullptr,
          [](FMainWindow& window) { window.projectFiles().executeScript(); }},
+        {"importSetUps", "&File", 1, "&Import set-up…", "document-import", "Ctrl+I",
+         "Add the set-ups of a file to the project, as a colleague has exported them", false, nullptr,
+         [](FMainWindow& window) { window.projectFiles().importSetUps(); }},
         {"quit", "&File", 2, "&Quit", "application-exit", "Ctrl+Q", "Close the program", false, nullptr,
          [](FMainWindow& window) { window.close(); }},
     };

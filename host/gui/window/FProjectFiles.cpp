@@ -7,6 +7,7 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FMessageCatcher.h"
 #include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "host/gui/window/FRecoveryQuestion.h"
@@ -219,6 +220,10 @@ bool FProjectFiles::executeScript(const QString& path) {
         showFailure(QStringLiteral("%1 ended with an error: %2.").arg(QFileInfo(path).fileName(), messages.text()));
     }
     return isDone;
+}
+
+void FProjectFiles::importSetUps() {
+    FFileImport(mWindow).ask(startFolder());
 }
 
 QString FProjectFiles::ageOf(const QDateTime& time) {

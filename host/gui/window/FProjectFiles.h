@@ -24,6 +24,8 @@ class MERIX_EXPORT FProjectFiles : public QObject {
     /** Executes a script that the user chooses, each statement as a step. */
     void executeScript();
     bool executeScript(const QString& path);
+    /** Imports set-ups from a file that the user chooses. */
+    void importSetUps();
     /** Whether the present project may be given up: it has no unsaved work, or the user has saved or discarded it. */
     bool maySpoil();
 

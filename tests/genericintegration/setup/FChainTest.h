@@ -4,11 +4,7 @@
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 
-/**
- * Tests on a chain of three: "first" writes a number to a file, which "second" reads and squares, and "third" gets that
- * square as the value of an entry, whose default names a template of its own. "apart" uses only "first", and "alone"
- * nothing. The project is in a folder of its own. Nothing has been run.
- */
+/** Tests on a chain of three, see `chainOfThree`. The project is in a folder of its own. Nothing has been run. */
 class FChainTest : public FDirectTest, public FTestFolder {
  public:
     FChainTest();

@@ -6,20 +6,17 @@
 #include <QLabel>
 #include <QToolButton>
 
-FNoticeBar::FNoticeBar(QWidget* parent) : QFrame(parent), mpText(new QLabel(this)), mpClose(new QToolButton(this)) {
+FNoticeBar::FNoticeBar(QWidget* parent)
+    : QFrame(parent), mpSign(new QLabel(this)), mpText(new QLabel(this)), mpClose(new QToolButton(this)) {
     setObjectName(QStringLiteral("notices"));
     setFrameShape(StyledPanel);
     auto* row = new QHBoxLayout(this);
-    auto* sign = new QLabel(this);
-    const int size = fontMetrics().height();
-    sign->setPixmap(FIcons::get(QStringLiteral("dialog-warning")).pixmap(size, size));
-    row->addWidget(sign);
+    row->addWidget(mpSign);
     mpText->setObjectName(QStringLiteral("noticeText"));
     mpText->setWordWrap(true);
     mpText->setTextInteractionFlags(Qt::TextBrowserInteraction);
     row->addWidget(mpText, 1);
     mpClose->setAutoRaise(true);
-    mpClose->setIcon(FIcons::get(QStringLiteral("window-close")));
     mpClose->setToolTip(QStringLiteral("Close this notice"));
     mpClose->setAccessibleName(mpClose->toolTip());
     row->addWidget(mpClose);
@@ -35,6 +32,10 @@ FNoticeBar::FNoticeBar(QWidget* parent) : QFrame(parent), mpText(new QLabel(this
 
 void FNoticeBar::showNotice(const QString& text, const QString& remedy, std::function<void()> mend) {
     mMend = std::move(mend);
+    // Not before: at the start of the program, there is nothing to show.
+    const int size = fontMetrics().height();
+    mpSign->setPixmap(FIcons::get(QStringLiteral("dialog-warning")).pixmap(size, size));
+    mpClose->setIcon(FIcons::get(QStringLiteral("window-close")));
     const QString link = remedy.isEmpty() ? QString() : QStringLiteral(" <a href=\"#\">%1</a>").arg(remedy);
     mpText->setText(text.toHtmlEscaped() + link);
     show();

@@ -21,6 +21,7 @@ class MERIX_EXPORT FNoticeBar : public QFrame {
     QString text() const;
 
  private:
+    QLabel* mpSign;
     QLabel* mpText;
     QToolButton* mpClose;
     std::function<void()> mMend;

@@ -59,6 +59,15 @@ FLogMsg::Sink& sink() {
 bool strictMode = false;
 int strictErrors = 0;
 
+FLogMsg::Kind warningKind() {
+    return strictMode ? FLogMsg::Kind::Error : FLogMsg::Kind::Warning;
+}
+
+void sendWarning(const FLogMsg& message) {
+    strictErrors += strictMode ? 1 : 0;
+    message.send();
+}
+
 const char* wordOf(FLogMsg::Kind kind) {
     return kind == FLogMsg::Kind::Error ? "error: " : kind == FLogMsg::Kind::Warning ? "warning: " : "note: ";
 }
@@ -111,9 +120,12 @@ void FLogMsg::info(const QString& source, const QString& message, const QString&
 }
 
 void FLogMsg::warning(const QString& source, const QString& message, const QString& consequence, const QString& place) {
-    strictErrors += strictMode ? 1 : 0;
-    FLogMsg{strictMode ? Kind::Error : Kind::Warning, source, message, consequence, Stream::StandardError, place}
-        .send();
+    sendWarning({warningKind(), source, message, consequence, Stream::StandardError, place});
+}
+
+void FLogMsg::noResult(const QString& source, const QString& message, const QString& place) {
+    sendWarning(
+        {warningKind(), source, message, QStringLiteral("The result is NULL"), Stream::StandardError, place, true});
 }
 
 void FLogMsg::error(const QString& source, const QString& message, const QString& consequence, Stream stream) {

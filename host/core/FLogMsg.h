@@ -18,6 +18,7 @@ class MERIX_EXPORT FLogMsg {
     QString consequence;  //!< what follows or what to do; a sentence with a capital letter, without its full stop
     Stream stream;        //!< the channel that it was sent to
     QString place;        //!< of the text that it is about, as file:line:column or file:line; empty if there is none
+    bool isForScripts = false;  //!< whether the consequence is only what a script gets, which no window need tell
 
     /**
      * "error|warning|note: PLACE: what. remedy". PLACE is the place, or else the source; with a place, the source
@@ -29,6 +30,8 @@ class MERIX_EXPORT FLogMsg {
                      Stream stream = Stream::StandardOutput);
     static void warning(const QString& source, const QString& message, const QString& consequence = QString(),
                         const QString& place = QString());
+    /** A warning that a command gives script NULL for its result. */
+    static void noResult(const QString& source, const QString& message, const QString& place);
     static void error(const QString& source, const QString& message, const QString& consequence = QString(),
                       Stream stream = Stream::StandardError);
 

@@ -212,8 +212,9 @@ const FCmdRow* FCmd::chooseRow(const std::vector<const FCmdRow*>& rows, FCmdRow:
 
 void FCmd::warn(const QString& message, const QString& consequence) const {
     mHasWarned = true;
-    FLogMsg::warning(mName, message, consequence.isEmpty() ? QStringLiteral("The result is NULL") : consequence,
-                     mPlace.toString(mFile));
+    const QString place = mPlace.toString(mFile);
+    consequence.isEmpty() ? FLogMsg::noResult(mName, message, place)
+                          : FLogMsg::warning(mName, message, consequence, place);
 }
 
 void FCmd::initCmdDocu() const {

@@ -45,8 +45,7 @@ FExpr<FObject> elementOf(const FObjectList& list, int index) {
     if (index < 0 || index >= list.count()) {
         FCmd::warnNow(
             list.getClass(),
-            QStringLiteral("the list has no element %1; it has %2, counted from 0").arg(index).arg(list.count()),
-            QStringLiteral("The result is NULL"));
+            QStringLiteral("the list has no element %1; it has %2, counted from 0").arg(index).arg(list.count()));
     }
     return list.at(index);
 }

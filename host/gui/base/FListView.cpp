@@ -1,6 +1,7 @@
 #include "host/gui/base/FListView.h"
 
 #include "host/core/FClipboard.h"
+#include "host/gui/base/FRoomyStyle.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -19,6 +20,8 @@ FListView::FListView(const QString& id, const QString& name, QAbstractItemModel*
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
     header()->setStretchLastSection(true);
+    FRoomyStyle::applyTo(*this);
+    FRoomyStyle::applyTo(*header());
 }
 
 void FListView::setWidths(const QList<int>& characters) {

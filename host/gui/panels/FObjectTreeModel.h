@@ -32,6 +32,8 @@ class MERIX_EXPORT FObjectTreeModel : public QAbstractItemModel {
     QModelIndex indexOf(const FManaged* object) const;
     /** While held, the tree doesn't follow the model, except that objects which leave it go. */
     void hold(bool isHeld);
+    /** Shows the model as it is now; otherwise done from the event loop. */
+    void follow();
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -53,7 +55,6 @@ class MERIX_EXPORT FObjectTreeModel : public QAbstractItemModel {
     using NodePointer = std::unique_ptr<Node>;
 
     void objectLeft(FManaged* object);
-    void follow();
     void rebuild();
     void fillWith(const QList<FManaged*>& objects);
     void place(FManaged* object);

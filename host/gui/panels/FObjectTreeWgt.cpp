@@ -151,6 +151,7 @@ void FObjectTreeWgt::showSelection() {
 }
 
 void FObjectTreeWgt::reveal(const FManaged* object) {
+    mpModel->follow();
     QModelIndex index = shownIndexOf(object);
     if (!index.isValid() && !mpSearch->text().isEmpty()) {
         mpSearch->clear();

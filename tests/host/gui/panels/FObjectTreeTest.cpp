@@ -95,6 +95,24 @@ TEST_F(FObjectTreeTest, selectionGoesBothWays) {
     EXPECT_EQ(rows(), setUpRows);
 }
 
+TEST_F(FObjectTreeTest, whatIsSelectedStaysSelectedWhenItsRowAppearsOrMoves) {
+    ASSERT_TRUE(run(setUp));
+    window().showObject(object<FManaged>("deck"));
+    EXPECT_EQ(view().currentIndex().data().toString(), "deck");
+    settle();
+    EXPECT_EQ(selected(), QStringList("deck"));
+    view().collapse(indexOf("solver"));
+    window().showObject(object<FManaged>("values"));
+    EXPECT_TRUE(view().isExpanded(indexOf("solver")));
+    ASSERT_TRUE(run("solver.setConfiguration(NULL)"));
+    settle();
+    EXPECT_EQ(selected(), QStringList("values"));
+    EXPECT_TRUE(view().selectionModel()->isSelected(indexOf("values")));
+    ASSERT_TRUE(run("destroy(values)"));
+    settle();
+    EXPECT_EQ(selected(), QStringList());
+}
+
 TEST_F(FObjectTreeTest, aNameIsEditedInPlaceAsOneStep) {
     ASSERT_TRUE(run(setUp));
     const QString before = savedModel();

@@ -67,9 +67,11 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FEx
       mResultsId(mComputation ? 0 : results->getDbId()),
       mpSign(new QLabel(this)),
       mpState(new QLabel(this)),
+      mpRun(new QComboBox(this)),
       mpTable(new QComboBox(this)),
       mpModel(new FTableModel) {
     setObjectName(QStringLiteral("results"));
+    mpRun->view()->setAccessibleName(QStringLiteral("Runs"));
     mpTable->view()->setAccessibleName(QStringLiteral("Tables"));
     mpModel->setParent(this);
     auto* header = new QHBoxLayout;
@@ -84,6 +86,10 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FEx
     connect(mpView, &QTreeView::clicked, this, &FTablePanel::showPlace);
     connect(mpView, &QTreeView::activated, this, &FTablePanel::showPlace);
     connect(mpTable, QOverload<int>::of(&QComboBox::activated), this, &FTablePanel::showTable);
+    connect(mpRun, QOverload<int>::of(&QComboBox::activated), this, [this](int choice) {
+        const QPersistentModelIndex run = mpRun->itemData(choice).value<QPersistentModelIndex>();
+        showRun(run.isValid() ? run.row() : -1);
+    });
 
     const FChanges* changes = FChanges::instance();
     const auto refreshSoon = [this] { mRefresh.request(); };
@@ -92,6 +98,8 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FEx
     connect(changes, &FChanges::objectRenamed, this, refreshSoon);
     connect(changes, &FChanges::stepUndone, this, refreshSoon);
     connect(changes, &FChanges::stepRedone, this, refreshSoon);
+    connect(&runs, &QAbstractItemModel::dataChanged, this, refreshSoon);
+    connect(&runs, &QAbstractItemModel::modelReset, this, refreshSoon);
     refresh();
 }
 
@@ -104,6 +112,11 @@ void FTablePanel::makeHeader(QHBoxLayout& row) {
     mpState->setWordWrap(true);
     mpState->setTextInteractionFlags(Qt::TextSelectableByMouse);
     row.addWidget(mpState, 1);
+    mpRun->setObjectName(QStringLiteral("shownRun"));
+    mpRun->setAccessibleName(QStringLiteral("Run"));
+    mpRun->setToolTip(QStringLiteral("The run whose numbers are shown"));
+    mpRun->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    row.addWidget(mpRun);
     mpTable->setObjectName(QStringLiteral("resultFile"));
     mpTable->setAccessibleName(QStringLiteral("Output file"));
     mpTable->setToolTip(QStringLiteral("The file whose numbers are shown"));
@@ -161,23 +174,33 @@ void FTablePanel::refresh() {
         }
         return;
     }
-    if (shown->prepareResults() && mTables != shown->tables()) {
-        mTables = shown->tables();
-        if (!mChosen.isEmpty()) {
-            setBefore(mChosen, mBeforeTitle);
-        } else if (mpCompare->isChecked()) {
-            readBefore();
-        }
-        const QString before = mpTable->currentText();
-        mpTable->clear();
-        for (const FExpr<FTableData>& table : qAsConst(mTables)) {
-            mpTable->addItem(table->getName());
-        }
-        mpTable->setCurrentIndex(std::max(mpTable->findText(before), 0));
-        showTable();
+    const bool isEarlier = mShownRun.isValid();
+    if (isEarlier || shown->prepareResults()) {
+        take(isEarlier ? mRuns.tablesOf(mShownRun.row()) : shown->tables());
     }
+    offerRuns();
     mpTable->setVisible(mTables.size() > 1);
-    showState();
+    isEarlier ? showStateOfEarlier() : showState();
+}
+
+void FTablePanel::take(const QList<FExpr<FTableData>>& tables) {
+    // The numbers of an earlier run stay if the list of runs doesn't keep them any longer.
+    if (tables == mTables || (tables.isEmpty() && mShownRun.isValid())) {
+        return;
+    }
+    mTables = tables;
+    if (!mChosen.isEmpty()) {
+        setBefore(mChosen, mBeforeTitle);
+    } else if (mpCompare->isChecked()) {
+        readBefore();
+    }
+    const QString before = mpTable->currentText();
+    mpTable->clear();
+    for (const FExpr<FTableData>& table : qAsConst(mTables)) {
+        mpTable->addItem(table->getName());
+    }
+    mpTable->setCurrentIndex(std::max(mpTable->findText(before), 0));
+    showTable();
 }
 
 void FTablePanel::showTable() {
@@ -228,9 +251,19 @@ void FTablePanel::showState() {
     mpSign->show();
 }
 
+void FTablePanel::showStateOfEarlier() {
+    const QString text = QStringLiteral("Earlier run: %1. %2.");
+    mpState->setText(text.arg(titleOfRun(mShownRun.row()), FValueSummary(mTables, accepted()).toText()));
+    const int size = fontMetrics().height();
+    mpSign->setPixmap(FIcons::get(QStringLiteral("view-history")).pixmap(size, size));
+    mpSign->show();
+}
+
 void FTablePanel::showPlace(const QModelIndex& index) {
     const FResultsGeneric* shown = results();
-    const QString folder = shown ? shown->getResultPath() : QString();
+    const QString folder = mShownRun.isValid() ? mRuns.folderOf(mShownRun.row())
+                           : shown             ? shown->getResultPath()
+                                               : QString();
     FNavigator::Place place = mpModel->placeOf(index);
     if (folder.isEmpty() || !QFileInfo::exists(folder + place.file)) {
         mNavigator.showStatus(QStringLiteral("The file %1 of this run is gone").arg(place.file));
@@ -242,31 +275,73 @@ void FTablePanel::showPlace(const QModelIndex& index) {
 
 // ---- comparison ----
 
+QList<int> FTablePanel::otherRuns(const QList<FExpr<FTableData>>& given) const {
+    const FResultsGeneric* shown = results();
+    const FExpr<FExternComputation> computation = shown ? shown->getComputation() : FExpr<FExternComputation>();
+    QList<int> runs;
+    for (int row = 0; computation && row < mRuns.rowCount(); ++row) {
+        const QList<FExpr<FTableData>>& tables = mRuns.tablesOf(row);
+        if (!tables.isEmpty() && tables != given && mRuns.computation(row) == computation.ptr()) {
+            runs.append(row);
+        }
+    }
+    return runs;
+}
+
+QString FTablePanel::titleOfRun(int run) const {
+    return QStringLiteral("%1, %2").arg(mRuns.index(run, FRunModel::runColumn).data().toString(),
+                                        mRuns.index(run, FRunModel::startColumn).data().toString());
+}
+
+/** Has the user choose among the runs of the session, if there are several. */
+void FTablePanel::offerRuns() {
+    mpRun->clear();
+    mpRun->addItem(QStringLiteral("Present results"));
+    const FResultsGeneric* present = results();
+    for (const int run : otherRuns(present ? present->tables() : mTables)) {
+        mpRun->addItem(titleOfRun(run), QVariant::fromValue(QPersistentModelIndex(mRuns.index(run, 0))));
+        if (mShownRun.isValid() && run == mShownRun.row()) {
+            mpRun->setCurrentIndex(mpRun->count() - 1);
+        }
+    }
+    mpRun->setVisible(mComputation && mpRun->count() > 1);
+}
+
+void FTablePanel::showRun(int run) {
+    mShownRun = run < 0 ? QModelIndex() : mRuns.index(run, 0);
+    refresh();
+}
+
 void FTablePanel::fillRuns(QMenu& menu) {
     menu.clear();
     const QAction* before = menu.addAction(QStringLiteral("The run before"));
     connect(before, &QAction::triggered, this, [this] { compare(true); });
+    menu.actions().first()->setVisible(!mShownRun.isValid());
     menu.addSeparator();
-    const FResultsGeneric* shown = results();
-    const FExpr<FExternComputation> computation = shown ? shown->getComputation() : FExpr<FExternComputation>();
-    for (int row = 0; row < mRuns.rowCount(); ++row) {
-        const QList<FExpr<FTableData>>& tables = mRuns.tablesOf(row);
-        if (!tables.isEmpty() && tables != mTables && mRuns.computation(row) == computation.ptr()) {
-            const QAction* run = menu.addAction(
-                QStringLiteral("%1, %2").arg(mRuns.index(row, FRunModel::runColumn).data().toString(),
-                                             mRuns.index(row, FRunModel::startColumn).data().toString()));
-            // Rows move with each further run.
-            const std::shared_ptr<const FRunRecord> record = mRuns.recordOf(row);
-            connect(run, &QAction::triggered, this, [this, record] { compareWith(mRuns.rowOf(record)); });
-        }
+    bool isPresentListed = !mShownRun.isValid();
+    const FResultsGeneric* present = results();
+    for (const int row : otherRuns(mTables)) {
+        isPresentListed = isPresentListed || (present && mRuns.tablesOf(row) == present->tables());
+        // Rows move with each further run.
+        const QPersistentModelIndex run(mRuns.index(row, 0));
+        connect(menu.addAction(titleOfRun(row)), &QAction::triggered, this,
+                [this, run] { compareWith(run.isValid() ? run.row() : -1); });
+    }
+    if (!isPresentListed && present) {
+        connect(menu.addAction(QStringLiteral("Present results")), &QAction::triggered, this,
+                [this, tables = present->tables()] { compareWith(tables, QStringLiteral("Present")); });
     }
 }
 
 void FTablePanel::compareWith(int run) {
     if (run >= 0) {
-        mChosen = mRuns.tablesOf(run);
-        setBefore(mChosen, mRuns.index(run, FRunModel::runColumn).data().toString());
+        compareWith(mRuns.tablesOf(run), mRuns.index(run, FRunModel::runColumn).data().toString());
     }
+}
+
+void FTablePanel::compareWith(const QList<FExpr<FTableData>>& tables, const QString& title) {
+    mChosen = tables;
+    setBefore(mChosen, title);
     mpCompare->setChecked(!mBefore.isEmpty());
     showTable();
 }

@@ -5,6 +5,7 @@
 #include "host/gui/base/FNavigator.h"
 #include "host/run/FTableData.h"
 
+#include <QPersistentModelIndex>
 #include <QWidget>
 
 class FExternComputation;
@@ -19,7 +20,7 @@ class QToolButton;
 
 /**
  * The tables of results, with the state of the run that they come from. The panel of a computation's present results
- * shows those of each further run when it has ended.
+ * shows those of each further run when it has ended, unless an earlier run of the session was chosen.
  */
 class MERIX_EXPORT FTablePanel : public QWidget {
     Q_OBJECT
@@ -33,6 +34,8 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     void compare(bool isCompared);
     /** Shows the numbers of a run, by its row, beside these. */
     void compareWith(int run);
+    /** Shows the numbers of a run, by its row; -1 for the present ones. */
+    void showRun(int run);
     /** Asks for a file, and writes all tables to it. */
     void exportCsv();
 
@@ -53,12 +56,20 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     FResultsGeneric* results() const;
     /** Reads what isn't read yet, and shows it. */
     void refresh();
+    /** Shows other tables, and what they are compared with. */
+    void take(const QList<FExpr<FTableData>>& tables);
+    /** The rows of runs of the same computation whose numbers are kept, but not those that are given. */
+    QList<int> otherRuns(const QList<FExpr<FTableData>>& given) const;
+    QString titleOfRun(int run) const;
+    void offerRuns();
     void fillRuns(QMenu& menu);
+    void compareWith(const QList<FExpr<FTableData>>& tables, const QString& title);
     /** Takes over the tables of another run, in the order of these. */
     void setBefore(const QList<FExpr<FTableData>>& tables, const QString& title);
     void readBefore();
     void showTable();
     void showState();
+    void showStateOfEarlier();
     void showPlace(const QModelIndex& index);
     FNumberFlags accepted() const;
     /** All tables, one below the other. */
@@ -67,13 +78,15 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     FNavigator& mNavigator;
     const FRunModel& mRuns;
     FExpr<FExternComputation> mComputation;  //!< whose present results are shown; empty for others
-    int mResultsId;  //!< 0 for present ones; not a handle, which would keep results of earlier runs
+    int mResultsId;                   //!< 0 for present ones; not a handle, which would keep results of earlier runs
+    QPersistentModelIndex mShownRun;  //!< in the list of runs; invalid for present results
     QList<FExpr<FTableData>> mTables;
     QList<FExpr<FTableData>> mChosen;  //!< of the run that was chosen; empty for the run before
     QList<FExpr<FTableData>> mBefore;  //!< in the order of `mTables`
     QString mBeforeTitle;
     QLabel* mpSign;
     QLabel* mpState;
+    QComboBox* mpRun;
     QComboBox* mpTable;
     QToolButton* mpCompare = nullptr;
     FTableModel* mpModel;

@@ -124,6 +124,36 @@ TEST_F(FTablePanelTest, anOpenDocumentFollowsTheRunsWithoutTakingTheFocus) {
     EXPECT_EQ(window().documents().count(), 0);
 }
 
+TEST_F(FTablePanelTest, anyTwoRunsOfTheSessionAreCompared) {
+    for (const char* speed : {"2", "2.5", "5"}) {
+        runProgram(speed);
+    }
+    trigger("showResults");
+    auto* shown = find<QComboBox>("shownRun");
+    const auto show = [&](int choice) {
+        shown->setCurrentIndex(choice);
+        emit shown->activated(choice);
+        settle();
+    };
+    ASSERT_EQ(shown->count(), 3) << "the present results and the two runs before";
+    show(2);
+    EXPECT_EQ(row("speed"), "speed|2|2|line 1, column 9|");
+    EXPECT_TRUE(state().startsWith("Earlier run: solver 1, ")) << state().toStdString();
+    auto* runs = find<QMenu>("runsToCompare");
+    emit runs->aboutToShow();
+    ASSERT_EQ(runs->actions().size(), 4);
+    EXPECT_FALSE(runs->actions().first()->isVisible()) << "only the present run has one before it";
+    EXPECT_TRUE(runs->actions().at(2)->text().startsWith("solver 3, "));
+    runs->actions().last()->trigger();
+    EXPECT_EQ(row("speed"), "speed|2|2.5|-0.5 (-20 %)|2|line 1, column 9|");
+    runProgram("7");
+    EXPECT_EQ(row("speed"), "speed|2|2.5|-0.5 (-20 %)|2|line 1, column 9|") << "both stay";
+    EXPECT_EQ(shown->currentIndex(), 3);
+    show(0);
+    EXPECT_EQ(row("speed"), "speed|7|2.5|+4.5 (+180 %)|7|line 1, column 9|");
+    EXPECT_TRUE(state().startsWith("Finished. "));
+}
+
 TEST_F(FTablePanelTest, twoRunsAreComparedAndExported) {
     runProgram("2");
     trigger("compareResults");

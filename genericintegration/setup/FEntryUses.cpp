@@ -1,11 +1,9 @@
 #include "genericintegration/setup/FEntryUses.h"
 
-#include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntFile.h"
 #include "genericintegration/templates/FTemplateScanner.h"
 #include "genericintegration/templates/FTextPlaces.h"
-#include "host/design/FEntry.h"
 
 namespace {
 
@@ -13,8 +11,12 @@ constexpr int mostPlaces = 20;
 
 }  // namespace
 
-FEntryUses::FEntryUses(const FConfiguration& configuration, const FDefinitionGenInt& definition)
-    : mDefinition(definition), mTable(configuration, definition, FValueTable::Use::Export) {}
+FEntryUses::FEntryUses(const FDefinitionGenInt& definition)
+    : mDefinition(definition), mPaths(definition.getEntryMap().keys()) {
+    for (const QString& path : qAsConst(mPaths)) {
+        mKeys.append(path, true);
+    }
+}
 
 FSetUpCheck::Uses FEntryUses::find() const {
     FSetUpCheck::Uses uses;
@@ -32,8 +34,8 @@ void FEntryUses::findIn(const FGenIntFile& file, FSetUpCheck::Uses& uses) const 
     QHash<int, QStringList> ofRow;
     FTemplateScanner scanner(text);
     while (const auto tag = scanner.next()) {
-        const int row = mTable.getKeys().find(tag->name);
-        if (row == FTemplateKeys::notFound || !mTable.entryOf(row)) {
+        const int row = mKeys.find(tag->name);
+        if (row == FTemplateKeys::notFound) {
             continue;
         }
         QStringList& found = ofRow[row];
@@ -43,6 +45,6 @@ void FEntryUses::findIn(const FGenIntFile& file, FSetUpCheck::Uses& uses) const 
         }
     }
     for (auto row = ofRow.begin(); row != ofRow.end(); ++row) {
-        uses[mTable.entryOf(row.key())->getFullName()] += *row;
+        uses[mPaths.at(row.key())] += *row;
     }
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "genericintegration/io/FValueTable.h"
+#include "genericintegration/io/FTemplateKeys.h"
 #include "host/run/FSetUpCheck.h"
 
 class FDefinitionGenInt;
 class FGenIntFile;
 
-/** Finds where input templates use the entries of a configuration, in time linear in the size of the templates. */
+/** Finds where input templates use the entries of a definition, in time linear in the size of the templates. */
 class FEntryUses {
  public:
-    FEntryUses(const FConfiguration& configuration, const FDefinitionGenInt& definition);
+    explicit FEntryUses(const FDefinitionGenInt& definition);
 
     /** Each line once, and of each entry only the first ones. */
     FSetUpCheck::Uses find() const;
@@ -18,5 +18,6 @@ class FEntryUses {
     void findIn(const FGenIntFile& file, FSetUpCheck::Uses& uses) const;
 
     const FDefinitionGenInt& mDefinition;
-    FValueTable mTable;
+    QStringList mPaths;
+    FTemplateKeys mKeys;
 };

@@ -57,9 +57,9 @@ FSetUpCheck::Tables FGenIntCheck::tables(const FExternComputation& computation) 
     return tables;
 }
 
-FSetUpCheck::Uses FGenIntCheck::uses(const FConfiguration& configuration) const {
-    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(configuration.getDefinition().ptr());
-    return definition ? FEntryUses(configuration, *definition).find() : Uses();
+FSetUpCheck::Uses FGenIntCheck::uses(const FDefinition& definition) const {
+    const auto* own = dynamic_cast<const FDefinitionGenInt*>(&definition);
+    return own ? FEntryUses(*own).find() : Uses();
 }
 
 bool FGenIntCheck::enable() {

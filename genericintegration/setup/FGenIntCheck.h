@@ -8,7 +8,7 @@ class FGenIntCheck : public FSetUpCheck {
     Problems problems(const FExternComputation& computation, bool mayReadFiles) const override;
     Inputs inputs(const FExternComputation& computation) const override;
     Tables tables(const FExternComputation& computation) const override;
-    Uses uses(const FConfiguration& configuration) const override;
+    Uses uses(const FDefinition& definition) const override;
 
     /** Registers the check. */
     static bool enable();

@@ -16,6 +16,18 @@ FExpr<FDefinition> refuse(const FDefinition& definition, const QString& message)
     return {};
 }
 
+bool isGiven(const FExpr<FObject>& value) {
+    return value && !cmdtype::isScriptNull(value);
+}
+
+QString whatIsWrongWithDefault(const FExpr<FObject>& value) {
+    const FObject* given = valueObject(value);
+    return !isGiven(value) || (given && given->getBlock()->kind == FObjectBlock::Kind::Plain)
+               ? QString()
+               : QStringLiteral("%1 can't be a default: a default is a number, a text, a truth value or a file")
+                     .arg(value.toString());
+}
+
 /** The arguments of a new entry that follow its path. */
 struct NewEntry {
     FExpr<FObject> value;
@@ -25,7 +37,7 @@ struct NewEntry {
     QString description;
     QString type;
 
-    bool hasDefault() const { return value && !cmdtype::isScriptNull(value); }
+    bool hasDefault() const { return isGiven(value); }
     FExprBase valueOrType() const {
         return hasDefault() ? copyOfValue(FExprBase(valueObject(value))) : FExprBase(FPrototypes::find(type));
     }
@@ -36,10 +48,8 @@ QString whatIsWrong(const NewEntry& entry) {
         return QStringLiteral("an entry occurs at least once and at most %1 times, and not less than its least count")
             .arg(FEntryDef::mostOccurrences);
     }
-    const FObject* value = valueObject(entry.value);
-    if (entry.hasDefault() && (!value || value->getBlock()->kind != FObjectBlock::Kind::Plain)) {
-        return QStringLiteral("%1 can't be a default: a default is a number, a text, a truth value or a file")
-            .arg(entry.value.toString());
+    if (const QString reason = whatIsWrongWithDefault(entry.value); !reason.isEmpty()) {
+        return reason;
     }
     if (!entry.type.isEmpty() && !FPrototypes::find(entry.type)) {
         return QStringLiteral("there is no class \"%1\"").arg(entry.type);
@@ -141,6 +151,21 @@ FExpr<FDefinition> renameEntry(FDefinition& definition, const QString& path, con
     return FExpr<FDefinition>(&definition);
 }
 
+FExpr<FDefinition> setEntryDefault(FDefinition& definition, const QString& path, const FExpr<FObject>& value) {
+    FEntryDef* entry = knownEntry(definition, path);
+    if (!entry) {
+        return {};
+    }
+    if (entry->isGroup()) {
+        return refuse(definition, QStringLiteral("\"%1\" is a group, which has no default").arg(path));
+    }
+    if (const QString reason = whatIsWrongWithDefault(value); !reason.isEmpty()) {
+        return refuse(definition, reason);
+    }
+    entry->setDefaultValue(isGiven(value) ? copyOfValue(FExprBase(valueObject(value))) : FExprBase());
+    return FExpr<FDefinition>(&definition);
+}
+
 QStringList getEntryNames(const FDefinition& definition) {
     QStringList paths;
     for (const FExpr<FEntryBase>& entry : definition.getEntries()) {
@@ -159,5 +184,6 @@ void definitionCommands(FCmdTable& table) {
         .data();
     table.member<FDefinition>("removeEntry", &removeEntry, {"path"});
     table.member<FDefinition>("renameEntry", &renameEntry, {"path", "newName"});
+    table.member<FDefinition>("setEntryDefault", &setEntryDefault, {"path", "default"});
     table.member<FDefinition>("getEntryNames", &getEntryNames).query();
 }

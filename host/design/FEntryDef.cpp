@@ -1,7 +1,9 @@
 #include "host/design/FEntryDef.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FQuotedText.h"
+#include "host/design/FConfiguration.h"
 #include "host/design/FDefinition.h"
 #include "host/design/FEntryName.h"
 #include "host/design/FEntryValue.h"
@@ -9,7 +11,27 @@
 
 #include <algorithm>
 
-FClassData FEntryDef::mClass("FEntryDef", &FEntryBase::mClass);
+FClassData FEntryDef::mClass("FEntryDef", &FEntryBase::mClass, nullptr, &FEntryDef::fields);
+
+namespace {
+
+/** The entries below a holder that belong to a definition and have its default. */
+void collectWithDefault(const FEntryHolder& holder, const FEntryDef& definition, QList<FEntry*>& found) {
+    for (const FExpr<FEntryBase>& handle : holder.getEntries()) {
+        auto* entry = static_cast<FEntry*>(FEntryBase::of(handle));
+        if (entry->getDefinition().ptr() != &definition) {
+            collectWithDefault(*entry, definition, found);
+        } else if (entry->hasDefaultValue()) {
+            found.append(entry);
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<std::unique_ptr<FStateField>> FEntryDef::fields() {
+    return FStateFields<FEntryDef>().member(&FEntryDef::mpType).member(&FEntryDef::mDefault).take();
+}
 
 bool FEntryDef::mayHold(const FEntryHolder* parent) {
     const auto* definition = parent ? dynamic_cast<const FDefinition*>(parent->getRoot()) : nullptr;
@@ -47,10 +69,34 @@ FExpr<FEntryBase> FEntryDef::make(const QString& name, int least, int most, bool
     entry->mLeast = std::clamp(least, 0, entry->mMost);
     entry->mHidden = hidden;
     entry->mDescription = description;
-    entry->mDefault = hasDefault ? entryValue(FExprBase(valueObject(valueOrType))) : FExprBase();
-    const FObject* value = hasDefault ? entry->mDefault.getStored() : valueOrType.getStored();
-    entry->mpType = value ? value->getPrototype() : nullptr;
+    if (hasDefault) {
+        entry->takeDefault(valueOrType);
+    } else if (const FObject* type = valueOrType.getStored()) {
+        entry->mpType = type->getPrototype();
+    }
     return handle;
+}
+
+void FEntryDef::takeDefault(const FExprBase& value) {
+    mDefault = entryValue(FExprBase(valueObject(value)));
+    if (const FObject* taken = mDefault.getStored()) {
+        mpType = taken->getPrototype();
+    }
+}
+
+void FEntryDef::setDefaultValue(const FExprBase& value) {
+    QList<FEntry*> followers;
+    if (const auto* definition = dynamic_cast<FDefinition*>(getRoot())) {
+        for (const FConfiguration* configuration : definition->getConfigurations()) {
+            collectWithDefault(*configuration, *this, followers);
+        }
+    }
+    FHistory::instance()->record(this);
+    takeDefault(value);
+    setOutOfDate(true);
+    for (FEntry* entry : followers) {
+        entry->setDefaultValue();
+    }
 }
 
 void FEntryDef::setName(const QString& name) {

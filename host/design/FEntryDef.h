@@ -42,6 +42,11 @@ class MERIX_EXPORT FEntryDef : public FClass<FEntryDef, FEntryBase> {
     bool hasDefault() const { return mDefault.isValid(); }
     /** Empty if there is none. */
     const FExprBase& getDefaultValue() const { return mDefault; }
+    /**
+     * Changes the default, of which the present value is taken; an empty handle takes it away, and the type stays. The
+     * entries of configurations that have the default take the new one. Must not be called for a group.
+     */
+    void setDefaultValue(const FExprBase& value);
 
     /**
      * Renames, with the name made legal and free. The entries of all configurations follow, and so do the tags of the
@@ -57,7 +62,10 @@ class MERIX_EXPORT FEntryDef : public FClass<FEntryDef, FEntryBase> {
     std::size_t getMemory() const override;
 
  private:
+    static std::vector<std::unique_ptr<FStateField>> fields();
+
     FEntryDef(const FEntryDef& other);
+    void takeDefault(const FExprBase& value);
     static bool mayHold(const FEntryHolder* parent);
     QString savedArguments() const;
 

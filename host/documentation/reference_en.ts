@@ -381,6 +381,30 @@ print(wing.getEntryNames())</translation>
         <translation>The definition; NULL if nothing was renamed.</translation>
     </message>
     <message>
+        <source>!FDefinition.member.setEntryDefault(string,path,FObject,default)</source>
+        <translation>Changes the default of an entry. Entries of configurations that have the default get the new one; those with a value of their own keep it. A value of another class changes the type of the entry.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.setEntryDefault(string,path,FObject,default):argument0</source>
+        <translation>The path of the entry; case matters.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.setEntryDefault(string,path,FObject,default):argument1</source>
+        <translation>A number, a text, a truth value or a file. NULL takes the default away.</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.setEntryDefault(string,path,FObject,default):example</source>
+        <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+wing.setEntryDefault("Geometry|span", 14)
+print(cruise.getEntryValue("Geometry|span"))</translation>
+    </message>
+    <message>
+        <source>!FDefinition.member.setEntryDefault(string,path,FObject,default):returnValue</source>
+        <comment>return type: FDefinition</comment>
+        <translation>The definition; NULL if nothing was changed.</translation>
+    </message>
+    <message>
         <source>!FDefinition:example</source>
         <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }

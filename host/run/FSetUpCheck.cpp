@@ -45,10 +45,10 @@ FSetUpCheck::Tables FSetUpCheck::tablesOf(const FExternComputation& computation)
     return all;
 }
 
-FSetUpCheck::Uses FSetUpCheck::usesOf(const FConfiguration& configuration) {
+FSetUpCheck::Uses FSetUpCheck::usesOf(const FDefinition& definition) {
     Uses all;
     for (const FSetUpCheck* check : checks()) {
-        const Uses own = check->uses(configuration);
+        const Uses own = check->uses(definition);
         for (auto use = own.begin(); use != own.end(); ++use) {
             all[use.key()] += *use;
         }

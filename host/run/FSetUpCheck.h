@@ -11,7 +11,7 @@
 
 #include <functional>
 
-class FConfiguration;
+class FDefinition;
 class FExternComputation;
 
 /**
@@ -23,7 +23,7 @@ class MERIX_EXPORT FSetUpCheck {
     using Problems = QVector<FSetUpProblem>;
     using Inputs = QVector<FSetUpInput>;
     using Tables = QVector<FSetUpTable>;
-    /** Places in templates as name:line, by the path of the entry. */
+    /** Places in templates as name:line, by the path of the entry in its definition. */
     using Uses = QHash<QString, QStringList>;
 
     virtual ~FSetUpCheck() = default;
@@ -37,8 +37,8 @@ class MERIX_EXPORT FSetUpCheck {
     virtual Inputs inputs(const FExternComputation& computation) const = 0;
     /** The tables of a run's results, in their order; nothing for computations of other plug-ins. */
     virtual Tables tables(const FExternComputation& computation) const = 0;
-    /** Where templates use the entries of a configuration; nothing for configurations of other plug-ins. */
-    virtual Uses uses(const FConfiguration& configuration) const = 0;
+    /** Where templates use the entries of a definition; nothing for definitions of other plug-ins. */
+    virtual Uses uses(const FDefinition& definition) const = 0;
 
     /** The check must outlive the program's work. */
     static void add(const FSetUpCheck* check);
@@ -46,7 +46,7 @@ class MERIX_EXPORT FSetUpCheck {
     static Inputs inputsOf(const FExternComputation& computation);
     static Tables tablesOf(const FExternComputation& computation);
     /** Of an entry that is used very often, the first places. */
-    static Uses usesOf(const FConfiguration& configuration);
+    static Uses usesOf(const FDefinition& definition);
 
     /**
      * Called in place of every run and re-read, which then return false, and whose results have unknown numbers (NaN);

@@ -16,16 +16,12 @@
 namespace {
 
 /** Executes a command of the definition; the reason if it gave nothing. */
-QString onDefinition(const FConfiguration& configuration, const char* name, const std::vector<FExprBase>& arguments,
+QString onDefinition(FDefinition& definition, const char* name, const std::vector<FExprBase>& arguments,
                      const QString& label) {
-    FDefinition* definition = configuration.getDefinition().ptr();
-    if (!definition) {
-        return QStringLiteral("The configuration has no definition");
-    }
-    const auto rows = FCmdManager::instance()->findMembers(definition->getClassData(), QString::fromLatin1(name));
+    const auto rows = FCmdManager::instance()->findMembers(definition.getClassData(), QString::fromLatin1(name));
     auto* command = new FMemberCmd(*rows.front());
     const FExprBase keep(command);
-    command->setReceiver(FExprBase(definition));
+    command->setReceiver(FExprBase(&definition));
     const FMessageCatcher messages;
     const FExprBase result = FCommandCall::execute(*command, arguments, label);
     return result.isValid() ? QString() : messages.text();
@@ -33,11 +29,6 @@ QString onDefinition(const FConfiguration& configuration, const char* name, cons
 
 FExprBase text(const QString& value) {
     return FExprBase(new FString(value));
-}
-
-QString definitionPath(const FEntry& entry) {
-    const FEntryDef* definition = entry.getDefinition().ptr();
-    return definition ? definition->getFullName() : entry.getFullName();
 }
 
 FExprBase bound(const FValueField& field, const QString& entered, QString& fault) {
@@ -94,7 +85,7 @@ bool FEntryChange::mayAddOccurrence(const FEntry& entry) {
 
 QString FEntryChange::addOccurrence(FEntry& entry) {
     const FMessageCatcher messages;
-    const FUserStep step(QStringLiteral("Add an occurrence of %1").arg(definitionPath(entry)));
+    const FUserStep step(QStringLiteral("Add an occurrence of %1").arg(entry.getDefinition()->getFullName()));
     const bool isAdded = FEntryTree().addOccurrence(*entry.getHolder(), *entry.getDefinition().ptr());
     return isAdded ? QString() : messages.text();
 }
@@ -106,42 +97,51 @@ bool FEntryChange::mayRemoveOccurrence(const FEntry& entry) {
 }
 
 QString FEntryChange::removeOccurrence(FEntry& entry) {
-    const FUserStep step(QStringLiteral("Remove an occurrence of %1").arg(definitionPath(entry)));
+    const FUserStep step(QStringLiteral("Remove an occurrence of %1").arg(entry.getDefinition()->getFullName()));
     entry.getHolder()->removeEntry(lastOccurrence(entry));
     return {};
 }
 
-QString FEntryChange::freePath(const FConfiguration& configuration, const FEntry* beside) {
-    const FDefinition* definition = configuration.getDefinition().ptr();
-    const FEntryDef* neighbour = beside ? beside->getDefinition().ptr() : nullptr;
-    const FEntryHolder* holder = definition;
-    if (neighbour) {
-        holder = neighbour->isGroup() ? static_cast<const FEntryHolder*>(neighbour) : neighbour->getHolder();
+QString FEntryChange::freePath(const FDefinition& definition, const FEntryDef* beside) {
+    const FEntryHolder* holder = &definition;
+    if (beside) {
+        holder = beside->isGroup() ? static_cast<const FEntryHolder*>(beside) : beside->getHolder();
     }
     const auto* group = dynamic_cast<const FEntryBase*>(holder);
-    const QString name = holder ? holder->freeEntryName(QStringLiteral("newEntry"), nullptr) : QString();
+    const QString name = holder->freeEntryName(QStringLiteral("newEntry"), nullptr);
     return group ? group->getFullName() + QLatin1Char('|') + name : name;
 }
 
-QString FEntryChange::addEntry(FConfiguration& configuration, const NewEntry& entry) {
+QString FEntryChange::addEntry(FDefinition& definition, const NewEntry& entry) {
     QString fault;
     const FExprBase standard = FScriptText::bind(entry.standard, fault);
     if (!fault.isEmpty()) {
         return fault;
     }
-    return onDefinition(configuration, "addEntry",
+    return onDefinition(definition, "addEntry",
                         {text(entry.path), standard, FExprBase(new FInteger(entry.most)),
                          FExprBase(new FInteger(entry.least)), FExprBase(new FBool(false)), text(entry.description)},
                         QStringLiteral("Add entry %1").arg(entry.path));
 }
 
-QString FEntryChange::renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name) {
-    const QString path = definitionPath(entry);
-    return onDefinition(configuration, "renameEntry", {text(path), text(name)},
+QString FEntryChange::renameEntry(FDefinition& definition, const FEntryDef& entry, const QString& name) {
+    const QString path = entry.getFullName();
+    return onDefinition(definition, "renameEntry", {text(path), text(name)},
                         QStringLiteral("Rename entry %1").arg(path));
 }
 
-QString FEntryChange::removeEntry(FConfiguration& configuration, const FEntry& entry) {
-    const QString path = definitionPath(entry);
-    return onDefinition(configuration, "removeEntry", {text(path)}, QStringLiteral("Remove entry %1").arg(path));
+QString FEntryChange::removeEntry(FDefinition& definition, const FEntryDef& entry) {
+    const QString path = entry.getFullName();
+    return onDefinition(definition, "removeEntry", {text(path)}, QStringLiteral("Remove entry %1").arg(path));
+}
+
+QString FEntryChange::setDefault(FDefinition& definition, const FEntryDef& entry, const QString& entered) {
+    QString fault;
+    const FExprBase value = FScriptText::bind(entered, fault);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    const QString path = entry.getFullName();
+    return onDefinition(definition, "setEntryDefault", {text(path), value},
+                        QStringLiteral("Set the default of %1").arg(path));
 }

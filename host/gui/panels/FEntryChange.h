@@ -4,14 +4,14 @@
 
 #include <QString>
 
-class FConfiguration;
+class FDefinition;
 class FEntry;
-class FEntryHolder;
+class FEntryDef;
 struct FValueField;
 
 /**
- * What a user does to the entries of a configuration, each call as one step. All give the reason if nothing was done,
- * else an empty text.
+ * What a user does to the entries of a configuration or definition, each call as one step. All give the reason if
+ * nothing was done, else an empty text.
  */
 namespace FEntryChange {
 
@@ -36,13 +36,14 @@ struct NewEntry {
     QString description{};
 };
 
-/** Adds an entry to the definition of a configuration. */
-MERIX_EXPORT QString addEntry(FConfiguration& configuration, const NewEntry& entry);
+MERIX_EXPORT QString addEntry(FDefinition& definition, const NewEntry& entry);
 /** A free path for a new entry: in the group of another, or of the definition if that is null. */
-MERIX_EXPORT QString freePath(const FConfiguration& configuration, const FEntry* beside);
-/** Renames the entry in the definition; the tags of templates follow. */
-MERIX_EXPORT QString renameEntry(FConfiguration& configuration, const FEntry& entry, const QString& name);
-/** Removes the entry from the definition, and thus from all its configurations. */
-MERIX_EXPORT QString removeEntry(FConfiguration& configuration, const FEntry& entry);
+MERIX_EXPORT QString freePath(const FDefinition& definition, const FEntryDef* beside);
+/** Renames the entry; the tags of templates follow. */
+MERIX_EXPORT QString renameEntry(FDefinition& definition, const FEntryDef& entry, const QString& name);
+/** Removes the entry, also from all configurations. */
+MERIX_EXPORT QString removeEntry(FDefinition& definition, const FEntryDef& entry);
+/** @param text  script text of the default; a blank one takes it away */
+MERIX_EXPORT QString setDefault(FDefinition& definition, const FEntryDef& entry, const QString& text);
 
 }  // namespace FEntryChange

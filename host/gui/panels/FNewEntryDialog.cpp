@@ -5,6 +5,7 @@
 #include "host/gui/base/FStateLabel.h"
 #include "host/gui/fields/FScriptCompleter.h"
 #include "host/gui/panels/FEntryChange.h"
+#include "host/gui/panels/FEntryTypes.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -14,23 +15,9 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-namespace {
-
-struct Type {
-    const char* word;
-    const char* value;  //!< a default of that type, as script text
-};
-
-constexpr Type types[] = {{"number", "0"},
-                          {"text", "\"\""},
-                          {"input file", "inputFile(\"\")"},
-                          {"file of the run's results", "resultsFileName(\"results.dat\")"}};
-
-}  // namespace
-
-FNewEntryDialog::FNewEntryDialog(FConfiguration& configuration, const QString& path, QWidget* parent)
+FNewEntryDialog::FNewEntryDialog(FDefinition& definition, const QString& path, QWidget* parent)
     : QDialog(parent),
-      mConfiguration(&configuration),
+      mDefinition(&definition),
       mpPath(makeLine(QStringLiteral("newEntryPath"), QStringLiteral("Name"),
                       QStringLiteral("The name that tags of templates use, with its groups: group|name"))),
       mpType(new QComboBox(this)),
@@ -46,7 +33,7 @@ FNewEntryDialog::FNewEntryDialog(FConfiguration& configuration, const QString& p
     setAttribute(Qt::WA_DeleteOnClose);
     mpType->setObjectName(QStringLiteral("newEntryType"));
     mpType->setAccessibleName(QStringLiteral("Type"));
-    for (const Type& type : types) {
+    for (const FEntryTypes::Type& type : FEntryTypes::choices()) {
         mpType->addItem(QString::fromLatin1(type.word), QString::fromLatin1(type.value));
     }
     mpPath->setText(path);
@@ -108,13 +95,13 @@ void FNewEntryDialog::proposeDefault() {
 }
 
 void FNewEntryDialog::accept() {
-    if (!mConfiguration) {
+    if (!mDefinition) {
         reject();
         return;
     }
     const QString path = mpPath->text().trimmed();
     const QString fault = FEntryChange::addEntry(
-        *mConfiguration.ptr(),
+        *mDefinition.ptr(),
         {path, mpDefault->text(), mpMost->value(), mpLeast->value(), mpDescription->text().trimmed()});
     if (!fault.isEmpty()) {
         mpFault->setText(QChar(0x26a0) + QLatin1Char(' ') + fault);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
-#include "host/design/FConfiguration.h"
+#include "host/design/FDefinition.h"
 
 #include <QDialog>
 
@@ -10,13 +10,13 @@ class QComboBox;
 class QLineEdit;
 class QSpinBox;
 
-/** Asks what a new entry of the definition of a configuration is, and adds it. What is refused stays in the fields. */
+/** Asks what a new entry of a definition is, and adds it. What is refused stays in the fields. */
 class MERIX_EXPORT FNewEntryDialog : public QDialog {
     Q_OBJECT
 
  public:
     /** @param path  of the entry, as proposed to the user */
-    FNewEntryDialog(FConfiguration& configuration, const QString& path, QWidget* parent);
+    FNewEntryDialog(FDefinition& definition, const QString& path, QWidget* parent);
 
     void accept() override;
 
@@ -29,7 +29,7 @@ class MERIX_EXPORT FNewEntryDialog : public QDialog {
     QSpinBox* makeCount(const QString& id, const QString& label, int least);
     void proposeDefault();
 
-    FExpr<FConfiguration> mConfiguration;
+    FExpr<FDefinition> mDefinition;
     QLineEdit* mpPath;
     QComboBox* mpType;
     QLineEdit* mpDefault;

@@ -11,6 +11,8 @@
 #include "host/gui/fields/FObjectNameValidator.h"
 #include "host/gui/panels/FAttributeForm.h"
 #include "host/gui/panels/FEntriesWgt.h"
+#include "host/gui/panels/FEntryDefModel.h"
+#include "host/gui/panels/FEntryDefsWgt.h"
 #include "host/gui/panels/FEntryModel.h"
 #include "host/lodm/FCustomComputation.h"
 
@@ -67,9 +69,11 @@ FObjectEditorPanel::FObjectEditorPanel(FNavigator& navigator)
     mpForm = new FAttributeForm(mpScroll);
     mpScroll->setWidget(mpForm);
     mpEntries = new FEntriesWgt(navigator, mpSplitter);
+    mpDefined = new FEntryDefsWgt(navigator, mpSplitter);
     mpSplitter->setObjectName(QString::fromLatin1(layoutName));
     mpSplitter->addWidget(mpScroll);
     mpSplitter->addWidget(mpEntries);
+    mpSplitter->addWidget(mpDefined);
     mpSplitter->setChildrenCollapsible(false);
     mFormShare = FGuiSettings::getLayout(QString::fromLatin1(layoutName)).toDouble();
     mFormShare = mFormShare > 0 ? mFormShare : usualFormShare;
@@ -162,6 +166,7 @@ void FObjectEditorPanel::rebuild() {
     if (mShown.isEmpty()) {
         mpForm->setReceiver({});
         mpEntries->setConfiguration(nullptr);
+        mpDefined->setDefinition(nullptr);
         mpPages->setCurrentIndex(0);
         return;
     }
@@ -180,17 +185,23 @@ void FObjectEditorPanel::rebuild() {
 
 void FObjectEditorPanel::showEntries() {
     FConfiguration* configuration = mEdited.size() == 1 ? configurationOf(mEdited.first().getObject()) : nullptr;
+    auto* definition = mEdited.size() == 1 ? dynamic_cast<FDefinition*>(mEdited.first().getObject()) : nullptr;
     mpEntries->setConfiguration(configuration);
     mpEntries->setVisible(configuration);
-    mpScroll->setVisible(!configuration || !mpForm->fields().isEmpty());
+    mpDefined->setDefinition(definition);
+    mpDefined->setVisible(definition);
+    mpScroll->setVisible((!configuration && !definition) || !mpForm->fields().isEmpty());
     mShareHeight.request();
 }
 
 // A short form leaves the rest to the entries.
 void FObjectEditorPanel::shareHeight() {
     const int form = std::min(mpForm->sizeHint().height(), static_cast<int>(mFormShare * mpSplitter->height()));
-    if (mpEntries->isVisibleTo(mpSplitter) && mpScroll->isVisibleTo(mpSplitter)) {
-        mpSplitter->setSizes({form, mpSplitter->height() - form - mpSplitter->handleWidth()});
+    const bool hasEntries = mpEntries->isVisibleTo(mpSplitter) || mpDefined->isVisibleTo(mpSplitter);
+    if (hasEntries && mpScroll->isVisibleTo(mpSplitter)) {
+        // Only one of the two trees is visible, and takes what is left.
+        const int rest = mpSplitter->height() - form - mpSplitter->handleWidth();
+        mpSplitter->setSizes({form, rest, rest});
     }
 }
 
@@ -230,6 +241,7 @@ void FObjectEditorPanel::clearFor(const FManaged* left) {
         mEdited.clear();
         mpForm->setReceiver({});
         mpEntries->setConfiguration(nullptr);
+        mpDefined->setDefinition(nullptr);
         mpPages->setCurrentIndex(0);
         mRebuild.request();
     }
@@ -238,4 +250,5 @@ void FObjectEditorPanel::clearFor(const FManaged* left) {
 void FObjectEditorPanel::hold(bool isHeld) {
     mpForm->hold(isHeld);
     mpEntries->model().hold(isHeld);
+    mpDefined->model().hold(isHeld);
 }

@@ -10,6 +10,7 @@
 class FAttributeForm;
 class FConfiguration;
 class FEntriesWgt;
+class FEntryDefsWgt;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -18,8 +19,8 @@ class QSplitter;
 class QStackedWidget;
 
 /**
- * Shows and edits the selected objects: name, attributes, and the entries of a configuration. With a computation, or
- * the connector of one, the entries of its configuration are below its settings.
+ * Shows and edits the selected objects: name, attributes, and the entries of a configuration or definition. With a
+ * computation, or the connector of one, the entries of its configuration are below its settings.
  */
 class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
     Q_OBJECT
@@ -52,6 +53,7 @@ class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
     QLabel* mpClass;
     FAttributeForm* mpForm;
     FEntriesWgt* mpEntries;
+    FEntryDefsWgt* mpDefined;
     QSplitter* mpSplitter;
     QScrollArea* mpScroll;
     QList<FExpr<FObject>> mShown;

@@ -43,6 +43,27 @@ TEST_F(FDefinitionTest, whatCannotBeAddedIsRefusedWithItsPlaceAndChangesNothing)
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
 }
 
+TEST_F(FDefinitionTest, aNewDefaultReachesTheEntriesThatHaveTheOldOne) {
+    run("def.addEntry(\"Wing|span\", 5, 3, 2)\nconf.setEntryValue(\"Wing|span[1]\", 9)");
+    const QString before = savedModel();
+    run("def.setEntryDefault(\"Wing|span\", 6)");
+    EXPECT_EQ(textOf("conf.getEntryValue(\"Wing|span[0]\")"), "6");
+    EXPECT_EQ(textOf("conf.getEntryValue(\"Wing|span[1]\")"), "9");
+    run("undo()");
+    EXPECT_EQ(savedModel(), before);
+    run("redo()\ndef.setEntryDefault(\"Wing|span\", \"long\")");
+    EXPECT_EQ(textOf("conf.getEntryValue(\"Wing|span[0]\")"), "long");
+    run("def.setEntryDefault(\"Wing|span\", NULL)");
+    EXPECT_EQ(textOf("conf.getEntryValue(\"Wing|span[0]\")"), "NULL");
+    const QString without = savedModel();
+    run("def.setEntryDefault(\"Wing\", 1)\ndef.setEntryDefault(\"Wing|spam\", 1)\n"
+        "def.setEntryDefault(\"Wing|span\", def)");
+    EXPECT_TRUE(logHolds("\"Wing\" is a group, which has no default"));
+    EXPECT_TRUE(logHolds("(did you mean \"Wing|span\"?)"));
+    EXPECT_TRUE(logHolds("can't be a default"));
+    EXPECT_EQ(savedModel(), without);
+}
+
 TEST_F(FDefinitionTest, aRenamedEntryTakesValuesAndTagsAlong) {
     run("def.addEntry(\"Geometry|Wing|chord\", 3)\nconf.setEntryValue(\"Geometry|span\", 12)\n"
         "parameter p(conf.getEntryValue(\"Geometry|span\"))");

@@ -258,9 +258,8 @@ TEST_F(FEntriesWgtTest, entriesOfTheDefinitionAreAddedRenamedAndRemoved) {
 }
 
 TEST_F(FEntriesWgtTest, whereTemplatesUseAnEntryIsShown) {
-    ASSERT_TRUE(
-        waitUntil([this] { return !entries().model().usesOf(*entries().model().entryAt(cell("force"))).isEmpty(); }));
-    EXPECT_EQ(entries().model().usesOf(*entries().model().entryAt(cell("force"))), (QStringList{"deck:2", "deck:3"}));
+    ASSERT_TRUE(waitUntil([this] { return !entries().model().usesOf(cell("force")).isEmpty(); }));
+    EXPECT_EQ(entries().model().usesOf(cell("force")), (QStringList{"deck:2", "deck:3"}));
     EXPECT_TRUE(entries().showEntry("Geometry|span"));
     settle();
     EXPECT_TRUE(find<QLabel>("entryDetails")->text().contains("deck:1"));

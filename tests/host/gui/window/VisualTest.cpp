@@ -175,6 +175,10 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
         openPanel(QString::fromLatin1(row.id));
         check(window(), QString::fromLatin1(row.id));
     }
+    FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("beam"))});
+    openPanel("editor");
+    check(window(), "definition");
+    FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("solver"))});
     showTemplate();
     settle();
     showTemplatePage();

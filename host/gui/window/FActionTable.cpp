@@ -9,6 +9,7 @@
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FTablePanel.h"
 #include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/lodm/FCustomComputation.h"
@@ -217,6 +218,8 @@ std::vector<FActionRow> otherRows() {
 
         {"panels", "&View", 0, "&Panels", "view-list-tree", "", "Show or hide panels", false, &hasProject, nullptr,
          &fillPanels},
+        {"movePanel", "&View", 0, "&Move the panel", "transform-move", "", "Move the panel that has the focus", false,
+         &hasProject, nullptr, [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
         {"appearance", "&View", 1, "&Appearance", "preferences-desktop-theme", "", "Light or dark colours", false,
          nullptr, nullptr, &fillAppearances},
         {"resetLayout", "&View", 2, "&Reset the layout", "view-restore", "Ctrl+Shift+L",

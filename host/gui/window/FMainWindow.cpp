@@ -21,10 +21,12 @@
 #include "host/gui/text/FOutputDocument.h"
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FFileDrop.h"
 #include "host/gui/window/FFindField.h"
 #include "host/gui/window/FManualWindow.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "host/gui/window/FPageTabs.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FStartPage.h"
@@ -35,6 +37,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
@@ -68,12 +71,15 @@ QString projectName() {
 FMainWindow::FMainWindow() {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowIcon(FIcons::get(QStringLiteral("merix")));
-    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    // With grouped dragging, a tab can be dragged out of its group.
+    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
+    setAcceptDrops(true);
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     mpProjectFiles = new FProjectFiles(*this);
     mpActions = new FActions(*this);
+    mpPanelDocks = std::make_unique<FPanelDocks>(*this);
 
     auto* centre = new QWidget(this);
     auto* column = new QVBoxLayout(centre);
@@ -106,6 +112,7 @@ FMainWindow::FMainWindow() {
 FMainWindow::~FMainWindow() {
     // Documents refer to panels, and both to members of the window, which are destroyed before its children.
     mpPages.reset();
+    mpPanelDocks.reset();
     delete centralWidget();
     qDeleteAll(mDocks);
 }
@@ -143,6 +150,7 @@ void FMainWindow::makeDocks() {
         auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.shortcut)), this);
         connect(shortcut, &QShortcut::activated, this, [this, id] { raisePanel(id); });
         mDocks.insert(id, dock);
+        mpPanelDocks->add(dock);
     }
     arrangeDocks();
 }
@@ -456,4 +464,18 @@ void FMainWindow::changeEvent(QEvent* event) {
         mRefresh.request();
     }
     QMainWindow::changeEvent(event);
+}
+
+// Only what no part of the window takes itself gets here.
+void FMainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!mIsLocked && !FFileDrop::filesIn(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+// Later, since the program from which the files come waits for the answer, and opening one may ask something.
+void FMainWindow::dropEvent(QDropEvent* event) {
+    const QStringList files = FFileDrop::filesIn(event->mimeData());
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, files] { FFileDrop::take(files, *this); });
 }

@@ -19,6 +19,7 @@ class FFindField;
 class FManualWindow;
 class FNoticeBar;
 class FPageTabs;
+class FPanelDocks;
 class FProjectFiles;
 class FStartPage;
 class FTablePanel;
@@ -44,6 +45,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FNoticeBar& notices() { return *mpNotices; }
     FRunTarget& runTarget() { return mRunTarget; }
     FUnsavedWork& unsavedWork() { return mUnsaved; }
+    FPanelDocks& panelDocks() { return *mpPanelDocks; }
     FSituation situation() const { return FSituation::now(mRunTarget, mUnsaved); }
 
     /** The panel of that id; null if there is none. */
@@ -78,6 +80,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
  protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     void makeDocks();
@@ -107,6 +111,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     QToolButton* mpProblems = nullptr;
     QLabel* mpRunState = nullptr;
     QHash<QString, QDockWidget*> mDocks;
+    std::unique_ptr<FPanelDocks> mpPanelDocks;
     bool mShowsProject = false;
     bool mIsLocked = false;
 };

@@ -11,33 +11,15 @@
 #include "host/gui/panels/FNewObjectMenu.h"
 #include "host/gui/panels/FObjectNameDelegate.h"
 #include "host/gui/panels/FObjectTreeModel.h"
-#include "host/lodm/FImport.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FAttributeQuery.h"
 
-#include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QTimer>
 #include <QTreeView>
-#include <QUrl>
 #include <QVBoxLayout>
-
-namespace {
-
-QStringList importableFiles(const QMimeData& data) {
-    QStringList paths;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile() && FImport::forFile(url.toLocalFile())) {
-            paths.append(url.toLocalFile());
-        }
-    }
-    return paths;
-}
-
-}  // namespace
 
 FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     : mNavigator(navigator),
@@ -71,7 +53,6 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     mpView->setItemDelegate(new FObjectNameDelegate(mpView));
     mpView->setDragEnabled(true);
     mpView->setDragDropMode(QAbstractItemView::DragOnly);
-    setAcceptDrops(true);
     mpView->setContextMenuPolicy(Qt::CustomContextMenu);
     mpView->setExpandsOnDoubleClick(false);
     new FEmptyHint(mpView, QStringLiteral("The objects of the project appear here"));
@@ -252,19 +233,6 @@ void FObjectTreeWgt::openMenu(const QPoint& position) {
     menu->setObjectName(QStringLiteral("objectMenu"));
     fillMenu(*menu);
     menu->popup(mpView->viewport()->mapToGlobal(position));
-}
-
-// ---- files ----
-
-void FObjectTreeWgt::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(!importableFiles(*event->mimeData()).isEmpty());
-}
-
-void FObjectTreeWgt::dropEvent(QDropEvent* event) {
-    for (const QString& path : importableFiles(*event->mimeData())) {
-        emit fileDropped(path);
-    }
-    event->acceptProposedAction();
 }
 
 // ---- open branches ----

@@ -31,14 +31,6 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     /** Destroys the selected objects in one step. */
     static void destroySelected();
 
- signals:
-    /** The user has dropped a file that can be imported. */
-    void fileDropped(const QString& path);
-
- protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
-
  private:
     void takeSelection();
     void showSelection();

@@ -2,9 +2,11 @@
 
 #include "host/design/FConnectorInterface.h"
 #include "host/gui/base/FSetUpAssistant.h"
+#include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "host/gui/window/FProjectFiles.h"
+#include "host/lodm/FImport.h"
 
 #include <QFileInfo>
 #include <QMimeData>
@@ -17,17 +19,14 @@ bool isProject(const QString& file) {
 }
 
 void tellWhere(const QString& name, FMainWindow& window) {
+    const QString what = QStringLiteral("%1 is neither a project nor an export of set-ups. ").arg(name);
     if (!FConnectorInterface::getConnectors().isEmpty()) {
         window.notices().showNotice(
-            QStringLiteral(
-                "%1 isn't a project. Drop it on an area of a software connector: on \"Input Files\" what the "
-                "program reads, on \"Result Values\" an output with its numbers.")
-                .arg(name));
+            what + QStringLiteral("Drop it on an area of a software connector: on \"Input Files\" what the program "
+                                  "reads, on \"Result Values\" an output with its numbers."));
     } else if (FSetUpAssistant::isThere()) {
         window.notices().showNotice(
-            QStringLiteral(
-                "%1 isn't a project. Couple the program that it belongs to first: a set-up takes such files.")
-                .arg(name),
+            what + QStringLiteral("Couple the program that it belongs to first: a set-up takes such files."),
             QStringLiteral("New set-up…"), [&window] { FSetUpAssistant::open(&window); });
     }
 }
@@ -48,7 +47,13 @@ void FFileDrop::take(const QStringList& files, FMainWindow& window) {
     const auto project = std::find_if(files.begin(), files.end(), &isProject);
     if (project != files.end()) {
         window.projectFiles().open(*project);
-    } else if (!files.isEmpty()) {
-        tellWhere(QFileInfo(files.first()).fileName(), window);
+        return;
+    }
+    for (const QString& file : files) {
+        if (FImport::forFile(file)) {
+            FFileImport(window).read(file);
+        } else {
+            tellWhere(QFileInfo(file).fileName(), window);
+        }
     }
 }

@@ -8,17 +8,9 @@
 #include "host/gui/panels/FProblemsPanel.h"
 #include "host/gui/panels/FRunPanel.h"
 #include "host/gui/panels/FUndoPanel.h"
-#include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
 
 namespace {
-
-QWidget* makeObjects(FMainWindow& window) {
-    auto* tree = new FObjectTreeWgt(window);
-    QObject::connect(tree, &FObjectTreeWgt::fileDropped, &window,
-                     [&window](const QString& path) { FFileImport(window).read(path); });
-    return tree;
-}
 
 QWidget* makeConsole(FMainWindow& window) {
     auto* console = new FConsole([&window](const std::function<void()>& function) { window.executeLocked(function); });
@@ -30,7 +22,8 @@ QWidget* makeConsole(FMainWindow& window) {
 
 const std::vector<FPanelRow>& FPanelTable::rows() {
     static const std::vector<FPanelRow> table{
-        {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1", "objectTree", &makeObjects},
+        {"objects", "Objects", "view-list-tree", Qt::LeftDockWidgetArea, "Ctrl+1", "objectTree",
+         [](FMainWindow& window) -> QWidget* { return new FObjectTreeWgt(window); }},
         {"runs", "Runs", "media-playback-start", Qt::BottomDockWidgetArea, "Ctrl+3", "runList",
          [](FMainWindow& window) -> QWidget* { return new FRunPanel(window); }},
         {"problems", "Problems", "dialog-warning", Qt::BottomDockWidgetArea, "Ctrl+4", "problemList",

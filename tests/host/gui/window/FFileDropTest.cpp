@@ -66,7 +66,8 @@ TEST_F(FFileDropTest, aProjectIsOpenedWhereverItIsDroppedAndAsksAboutUnsavedWork
 
 TEST_F(FFileDropTest, whereAnotherFileCanBeDroppedIsTold) {
     EXPECT_TRUE(drop(&window(), {"out.txt"}));
-    EXPECT_TRUE(window().notices().text().startsWith("out.txt isn't a project. Couple the program"))
+    EXPECT_TRUE(window().notices().text().startsWith(
+        "out.txt is neither a project nor an export of set-ups. Couple the program"))
         << window().notices().text().toStdString();
     ASSERT_TRUE(run("softwareConnector solver()"));
     settle();

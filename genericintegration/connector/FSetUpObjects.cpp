@@ -47,10 +47,10 @@ FEntry* findOrCreate(const QString& name, FEntryHolder& holder, const Fits& fits
 
 FSetUpObjects::FSetUpObjects(const FExpr<FExternComputation>& computation) {
     const auto* custom = dynamic_cast<FCustomComputation*>(computation.getStored());
-    const FObject* configuration = custom ? custom->getConfiguration().getStored() : nullptr;
-    mpConfiguration = const_cast<FConfigurationGenInt*>(dynamic_cast<const FConfigurationGenInt*>(configuration));
-    const FObject* definition = mpConfiguration ? mpConfiguration->getDefinition().getStored() : nullptr;
-    mpDefinition = const_cast<FDefinitionGenInt*>(dynamic_cast<const FDefinitionGenInt*>(definition));
+    FObject* configuration = custom ? custom->getConfiguration().getStored() : nullptr;
+    mpConfiguration = dynamic_cast<FConfigurationGenInt*>(configuration);
+    FObject* definition = mpConfiguration ? mpConfiguration->getDefinition().getStored() : nullptr;
+    mpDefinition = dynamic_cast<FDefinitionGenInt*>(definition);
 }
 
 FEntry* FSetUpObjects::findGroup(const QString& name, const FObject* valueType) const {

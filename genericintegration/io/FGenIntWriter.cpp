@@ -110,8 +110,9 @@ bool FGenIntWriter::exportFile(const FGenIntFile& file, const QString& directory
                                const FExpr<FConfiguration>& configuration) const {
     QFile device(directory + file.getFileName());
     QString reason;
-    bool written = openForWriting(device, file.getFileName(), reason);
-    if (written) {
+    const bool isOpen = openForWriting(device, file.getFileName(), reason);
+    bool written = isOpen;
+    if (isOpen) {
         FUtf8Output output(device);
         writeTemplate([&output](QStringView piece) { output.write(piece); }, file.getPlainContent(), table,
                       configuration, file.getForceWindowsLineEndings());
@@ -120,9 +121,9 @@ bool FGenIntWriter::exportFile(const FGenIntFile& file, const QString& directory
     }
     if (!written) {
         mFault = QStringLiteral("'%1' (%2)").arg(device.fileName(), reason);
-        FLogMsg::info(source(),
-                      QStringLiteral("Could not open file ") + device.fileName() + QStringLiteral(" for writing."),
-                      QStringLiteral("Writing process aborted."));
+        const QString problem = isOpen ? QStringLiteral("Could not write file %1: %2.").arg(device.fileName(), reason)
+                                       : QStringLiteral("Could not open file %1 for writing.").arg(device.fileName());
+        FLogMsg::info(source(), problem, QStringLiteral("Writing process aborted."));
     }
     return written;
 }

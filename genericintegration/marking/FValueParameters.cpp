@@ -3,6 +3,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "host/design/FParameter.h"
 
@@ -11,10 +12,8 @@ QList<FGenIntComputation*> FValueParameters::readersOf(const FGenIntResultsFile&
     QList<FGenIntComputation*> readers;
     for (FManaged* object : FObjectManager::instance()->getManaged(FGenIntComputation::null())) {
         auto* computation = dynamic_cast<FGenIntComputation*>(object);
-        const FConfigurationCustom* configuration = computation ? computation->getConfiguration().ptr() : nullptr;
-        const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
-        const auto* own = dynamic_cast<const FDefinitionGenInt*>(definition);
-        if (own && own->getResultsFiles().contains(handle)) {
+        const FDefinitionGenInt* definition = computation ? computation->definition() : nullptr;
+        if (definition && definition->getResultsFiles().contains(handle)) {
             readers.append(computation);
         }
     }
@@ -32,7 +31,11 @@ void FValueParameters::follow(const FGenIntResultsFile& file, FValueReference be
             }
             FExprBase fresh;
             fresh.resolve(after.text());
-            if (!fresh.isEmpty()) {
+            if (fresh.isEmpty()) {
+                FLogMsg::warning(parameter->getName(),
+                                 QStringLiteral("it reads \"%1\", which has another name now").arg(before.text()),
+                                 QStringLiteral("set it to \"%1\"").arg(after.text()));
+            } else {
                 parameter->setValue(fresh);
             }
         }

@@ -11,15 +11,9 @@
 
 namespace {
 
-const FConfigurationCustom* configurationOf(const FExternComputation& computation) {
-    const auto* own = dynamic_cast<const FGenIntComputation*>(&computation);
-    return own ? own->getConfiguration().ptr() : nullptr;
-}
-
 const FDefinitionGenInt* definitionOf(const FExternComputation& computation) {
-    const FConfigurationCustom* configuration = configurationOf(computation);
-    const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
-    return dynamic_cast<const FDefinitionGenInt*>(definition);
+    const auto* own = dynamic_cast<const FGenIntComputation*>(&computation);
+    return own ? own->definition() : nullptr;
 }
 
 /** The problems of a computation of this plug-in; nothing for another one. */
@@ -28,7 +22,7 @@ std::optional<FProblems> coreOf(const FExternComputation& computation, bool mayR
     if (!own) {
         return std::nullopt;
     }
-    return FProblems(own, configurationOf(computation), definitionOf(computation), mayReadFiles);
+    return FProblems(own, own->getConfiguration().ptr(), own->definition(), mayReadFiles);
 }
 
 }  // namespace

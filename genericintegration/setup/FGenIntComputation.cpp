@@ -131,6 +131,9 @@ QMap<QString, QString> FGenIntComputation::describeSetUp() const {
     const FDefinitionGenInt* described = definition();
     const QList<FExpr<FGenIntFile>> files = described ? described->getFiles(0) : QList<FExpr<FGenIntFile>>();
     for (const FExpr<FGenIntFile>& file : files) {
+        if (!file) {
+            continue;
+        }
         const QByteArray content = (file->getForceWindowsLineEndings() ? "1" : "0") + file->getPlainContent().toUtf8();
         setUp.insert(QStringLiteral("input file %1:").arg(file->getFileName()),
                      QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex()));

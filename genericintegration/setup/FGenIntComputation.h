@@ -21,6 +21,8 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     bool isGeneric() const override { return true; }
     QMap<QString, QString> describeSetUp() const override;
     bool exportSetUp(const QString& path, bool chain) const override;
+    /** That of the configuration; null without one. */
+    FDefinitionGenInt* definition() const;
 
     /** A new computation of this name with the program's settings, but without a configuration. */
     FObject* clone() const override;
@@ -55,7 +57,6 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     friend class FClass<FGenIntComputation, FCustomComputation>;
 
     void enableSoftCons(bool enable) const;
-    FDefinitionGenInt* definition() const;
 
     std::unique_ptr<FGenIntCompSignalRapper> mpSignalRapper;
 };

@@ -18,11 +18,6 @@ void commands(FCmdTable& table) {
         .data();
 }
 
-bool hasDefinition(const FGenIntComputation& computation, const FDefinitionGenInt& definition) {
-    const FConfigurationCustom* configuration = computation.getConfiguration().ptr();
-    return configuration && configuration->getDefinition().ptr() == &definition;
-}
-
 }  // namespace
 
 FClassData FGenIntEditor::mClass("FGenIntEditor", &FManaged::mClass, &commands, &FGenIntEditor::fields);
@@ -63,7 +58,7 @@ bool FGenIntEditor::doUpdate() const {
 void FGenIntEditor::makeConnectors() const {
     for (FManaged* object : FObjectManager::instance()->getManaged(FGenIntComputation::null())) {
         const auto* computation = dynamic_cast<const FGenIntComputation*>(object);
-        if (computation && hasDefinition(*computation, *mDefinition.ptr())) {
+        if (computation && computation->definition() == mDefinition.ptr()) {
             FConnectorInterface::create(computation->getName() + QStringLiteral("_Connector"),
                                         FExpr<FExternComputation>(computation));
         }

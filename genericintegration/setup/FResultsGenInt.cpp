@@ -238,8 +238,7 @@ FExpr<FTableData> FResultsGenInt::getData(const QString& name) {
 
 QString FResultsGenInt::getResultTemplateName(const QString& fileName) const {
     const auto* computation = dynamic_cast<const FGenIntComputation*>(getComputation().ptr());
-    const FConfigurationCustom* configuration = computation ? computation->getConfiguration().ptr() : nullptr;
-    auto* definition = configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
+    const FDefinitionGenInt* definition = computation ? computation->definition() : nullptr;
     const QString folder = getResultPath();
     if (!definition || folder.isEmpty()) {
         return {};

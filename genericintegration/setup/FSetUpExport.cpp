@@ -15,11 +15,6 @@
 
 namespace {
 
-FDefinitionGenInt* definitionOf(const FGenIntComputation& computation) {
-    const FConfigurationCustom* configuration = computation.getConfiguration().ptr();
-    return configuration ? dynamic_cast<FDefinitionGenInt*>(configuration->getDefinition().ptr()) : nullptr;
-}
-
 /** The objects in the part of a computation, apart from the definition and its files. */
 QSet<FExpr<FManaged>> objectsOf(const FGenIntComputation& computation) {
     QSet<FExpr<FManaged>> objects{FExpr<FManaged>(&computation), FExpr<FManaged>(computation.getConfiguration())};
@@ -36,14 +31,14 @@ QSet<FExpr<FManaged>> objectsOf(const FGenIntComputation& computation) {
 }  // namespace
 
 FSetUpExport::FSetUpExport(const FGenIntComputation& computation, Extent extent)
-    : mIsPossible(definitionOf(computation) != nullptr) {
+    : mIsPossible(computation.definition() != nullptr) {
     if (extent == Extent::Single) {
         mComputations.push_back(&computation);
         return;
     }
     for (const FExternComputation* member : FComputationChain::of(computation)) {
         const auto* ofIntegration = dynamic_cast<const FGenIntComputation*>(member);
-        if (ofIntegration && definitionOf(*ofIntegration)) {
+        if (ofIntegration && ofIntegration->definition()) {
             mComputations.push_back(ofIntegration);
         }
     }
@@ -64,6 +59,6 @@ QString FSetUpExport::save(const QString& path) const {
 bool FSetUpExport::write(QFile& file) const {
     QSet<FExpr<FManaged>> inFile;
     return mIsPossible && std::all_of(mComputations.begin(), mComputations.end(), [&](const auto* computation) {
-               return definitionOf(*computation)->append(objectsOf(*computation), file, inFile);
+               return computation->definition()->append(objectsOf(*computation), file, inFile);
            });
 }

@@ -4,6 +4,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FIni.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FQuotedText.h"
 #include "host/run/FChainRun.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultFiles.h"
@@ -16,6 +17,20 @@
 #include <QTimer>
 
 #include <utility>
+
+namespace {
+
+/** As one text that differs for different lists. */
+QString joined(QStringList words) {
+    for (QString& word : words) {
+        if (word.isEmpty() || word.contains(QLatin1Char(' ')) || word.contains(QLatin1Char('"'))) {
+            word = quoteText(word);
+        }
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+}  // namespace
 
 FClassData FExternComputation::mClass("FExternComputation", &FManaged::mClass, &FExternComputation::declareCommands,
                                       &FExternComputation::fields);
@@ -267,10 +282,9 @@ void FExternComputation::runMoved(const QString& from, const QString& to) {
 }
 
 QMap<QString, QString> FExternComputation::describeSetUp() const {
-    const QString blank(QLatin1Char(' '));
     return {{QStringLiteral("program"), mProgram.executable},
-            {QStringLiteral("arguments"), mProgram.arguments.join(blank)},
-            {QStringLiteral("environment"), mProgram.environment.join(blank)},
+            {QStringLiteral("arguments"), joined(mProgram.arguments)},
+            {QStringLiteral("environment"), joined(mProgram.environment)},
             {QStringLiteral("standard input"), mProgram.standardInput}};
 }
 

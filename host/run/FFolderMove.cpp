@@ -14,10 +14,13 @@
 namespace {
 
 // QFile would make the target of a relative link absolute.
-bool copyLink(const QByteArray& from, const QByteArray& to) {
+QString copyLink(const QByteArray& from, const QByteArray& to) {
     std::array<char, PATH_MAX> target{};
-    return ::readlink(from.constData(), target.data(), target.size() - 1) > 0 &&
-           ::symlink(target.data(), to.constData()) == 0;
+    if (::readlink(from.constData(), target.data(), target.size() - 1) > 0 &&
+        ::symlink(target.data(), to.constData()) == 0) {
+        return {};
+    }
+    return QStringLiteral("the link %1: %2").arg(QFile::decodeName(from), qt_error_string());
 }
 
 QString copyFile(const QFileInfo& from, const QString& to) {
@@ -42,7 +45,7 @@ QString copyContents(const QString& from, const QString& to) {
     for (const QFileInfo& entry : QDir(from).entryInfoList(all)) {
         const QString target = to + QLatin1Char('/') + entry.fileName();
         if (entry.isSymLink()) {
-            copyLink(QFile::encodeName(entry.filePath()), QFile::encodeName(target));
+            reason = copyLink(QFile::encodeName(entry.filePath()), QFile::encodeName(target));
         } else if (entry.isDir()) {
             reason = copyContents(entry.filePath(), target);
         } else if (entry.isFile()) {

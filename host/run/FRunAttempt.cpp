@@ -107,7 +107,7 @@ QString FRunAttempt::writeInput(FComputationResults* results) {
         const QString reason = isCopied ? mComputation->getInputFault() : QString();
         return reason.isEmpty()
                    ? QStringLiteral(
-                         "The input files of the run could not be written; see the messages above for the reason.")
+                         "The input files of the run could not be written. The last error in the log gives the reason.")
                    : QStringLiteral("The input files of the run could not be written: %1.").arg(reason);
     }
     mRun.noteChangedInput(mComputation->compareInput());

@@ -99,7 +99,7 @@ TEST_F(RunTest, theFirstSaveTakesTheRunsAlong) {
     const Outcome reread = script("openProject(\"beam.mrx\")\nprint(comp.rereadResults(), comp.getState(), " + mNumber +
                                   ")\ncomp.setArguments([])\nprint(comp.getResults().getState())\n");
     EXPECT_EQ(reread.output,
-              "true finished 7\nfinished, of an earlier set-up (arguments was -c echo f 7 > out.dat, is empty)\n")
+              "true finished 7\nfinished, of an earlier set-up (arguments was -c \"echo f 7 > out.dat\", is empty)\n")
         << reread.errors.toStdString();
 }
 
@@ -112,7 +112,7 @@ TEST_F(RunTest, resultsOfADesignAreSavedAndReadBack) {
                                 ", comp.getState())\n");
     EXPECT_EQ(read.output, "2\n1 finished\n") << read.errors.toStdString();
     EXPECT_EQ(read.errors.count("\n"), 1) << read.errors.toStdString();
-    EXPECT_TRUE(read.errors.contains("are of an earlier set-up (arguments was -c echo f 1"))
+    EXPECT_TRUE(read.errors.contains("are of an earlier set-up (arguments was -c \"echo f 1"))
         << read.errors.toStdString();
 
     const Outcome renamed = script(

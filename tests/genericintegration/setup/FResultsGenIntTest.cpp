@@ -143,6 +143,15 @@ TEST_F(FResultsGenIntTest, tellsThatNumbersAreOfAnEarlierSetUp) {
     EXPECT_FALSE(textOf(table + ".getListing()").contains("earlier set-up"));
     FTestFolder::write("m.dat", "2");
     EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[file of mesh changed]");
+    FTestFolder::write("m.dat", "1");
+    ASSERT_TRUE(run("comp.setEnvironment([\"A=1 B\"])\nok = comp.run()\ncomp.setEnvironment([\"A=1\", \"B\"])"));
+    EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[environment was \"A=1 B\", is A=1 B]");
+    ASSERT_TRUE(
+        run("genericIntegrationCommandFile one() { .setFileName(\"one\") }\n"
+            "genericIntegrationCommandFile two() { .setFileName(\"two\") }\n"
+            "def.setFiles([one, two])\nok = comp.run()\ndestroy(one)\ndestroy(two)"));
+    const QString state = textOf("comp.getResults().getState()");
+    EXPECT_TRUE(state.contains("input file one") && state.contains("input file two")) << state.toStdString();
 }
 
 TEST_F(FResultsGenIntTest, keepsWhatImportsBring) {

@@ -164,7 +164,7 @@ void FVisualCheck::checkTabs() {
     }
     QSet<QWidget*> reached;
     QWidget* first = mWindow.nextInFocusChain();
-    while (!wanted.contains(first)) {
+    while (!wanted.contains(first) && first != &mWindow) {
         first = first->nextInFocusChain();
     }
     first->setFocus(Qt::TabFocusReason);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/FExport.h"
+
 #include <unordered_set>
 #include <vector>
 
@@ -27,7 +29,7 @@ class FUpdateGraph {
     static std::vector<FObject*> clientsOf(const FObject* object);
     static std::vector<FObject*> suppliersOf(const FObject* object);
     /** What goes out of date with an object: its clients, and the whole that it is a part of. */
-    static std::vector<FObject*> reachedBy(const FObject* object);
+    static MERIX_EXPORT std::vector<FObject*> reachedBy(const FObject* object);
     /**
      * What `next` leads to from an object, step by step, and is of one of the types, each once. Objects that have left
      * the model are skipped, and so is what only they lead to.

@@ -7,12 +7,16 @@
 
 #include <utility>
 
+using Cause = FRunRecord::Cause;
+using State = FRunRecord::State;
+
 bool FChainRun::run(FExternComputation& target, bool wait) {
     const std::shared_ptr<FChainRun> chain(new FChainRun(target));
     chain->mSelf = chain;
     target.mChain = chain;
     QEventLoop loop;
     connect(chain.get(), &FChainRun::ended, &loop, &QEventLoop::quit);
+    chain->announce();
     chain->goOn();
     if (wait && !chain->mIsOver) {
         loop.exec();
@@ -22,9 +26,28 @@ bool FChainRun::run(FExternComputation& target, bool wait) {
 
 FChainRun::FChainRun(FExternComputation& target) : mTarget(&target) {
     for (FExternComputation* supplier : FComputationChain::suppliersOf(target)) {
-        mWaiting.append(FExpr<FExternComputation>(supplier));
+        addMember(*supplier);
     }
-    mWaiting.append(mTarget);
+    addMember(target);
+}
+
+void FChainRun::addMember(FExternComputation& computation) {
+    auto plan = std::make_shared<FRunRecord>();
+    plan->state = State::Waiting;
+    plan->computation = computation.getName();
+    plan->message = QStringLiteral("It comes after the computations whose results it uses.");
+    mMembers.append({FExpr<FExternComputation>(&computation), plan});
+}
+
+void FChainRun::announce() const {
+    if (mMembers.size() < 2) {
+        return;
+    }
+    for (const Member& member : mMembers) {
+        if (member.computation->canRun() || member.computation == mTarget) {
+            member.computation->setPlannedRun(member.plan);
+        }
+    }
 }
 
 void FChainRun::cancel() {
@@ -35,17 +58,28 @@ void FChainRun::cancel() {
 }
 
 void FChainRun::goOn() {
-    while (!mIsOver && !mIsCancelled && !mWaiting.isEmpty()) {
-        mCurrent = mWaiting.takeFirst();
+    while (!mIsOver && !mIsCancelled && mNext < mMembers.size()) {
+        const Member& next = mMembers.at(mNext++);
+        mCurrent = next.computation;
         FExternComputation* member = mCurrent.ptr();
         // One that has left the model is no supplier any more.
-        if (!member || (member != mTarget.ptr() && member->isUpToDate())) {
+        if (!member) {
+            continue;
+        }
+        if (member != mTarget.ptr() && member->isUpToDate()) {
+            next.plan->state = State::UpToDate;
+            next.plan->message =
+                QStringLiteral("It isn't run again: its last run succeeded, and its set-up is the same.");
+            member->setPlannedRun(next.plan);
             continue;
         }
         if (!start(*member)) {
             return;
         }
         take(*member);
+    }
+    if (FExternComputation* target = mTarget.ptr(); !mIsOver && mIsCancelled && target) {
+        target->skipRun(Cause::Cancelled, QStringLiteral("The run was cancelled before it started."));
     }
     end(!mIsCancelled && mTarget);
 }
@@ -93,9 +127,11 @@ void FChainRun::take(const FExternComputation& member) {
 }
 
 void FChainRun::giveUp(const FExternComputation& failed) {
-    for (const FExpr<FExternComputation>& member : std::exchange(mWaiting, {})) {
+    for (; mNext < mMembers.size(); ++mNext) {
+        FExternComputation* member = mMembers.at(mNext).computation.ptr();
         if (member && member->dependsOn(&failed)) {
-            member->skipRun(QStringLiteral("It was not run: it uses results of \"%1\", whose run ended as: %2.")
+            member->skipRun(Cause::UpstreamFailed,
+                            QStringLiteral("It was not run: it uses results of \"%1\", whose run ended as: %2.")
                                 .arg(failed.getName(), failed.getLastRun().outcomeName()));
         }
     }
@@ -109,8 +145,22 @@ void FChainRun::end(bool isSuccess) {
     if (FExternComputation* target = mTarget.ptr(); target && target->mChain == mSelf) {
         target->mChain.reset();
     }
+    withdraw();
     emit ended();
     // This object may be the receiver of the signal being handled.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [self = std::move(mSelf)] {}, Qt::QueuedConnection);
+}
+
+void FChainRun::withdraw() const {
+    for (const Member& member : mMembers) {
+        FExternComputation* computation = member.computation.ptr();
+        if (member.plan->state == State::Waiting) {
+            member.plan->state = State::Cancelled;
+            member.plan->message = QStringLiteral("It was not run: the chain that it belongs to ended before.");
+        }
+        if (computation && computation->getPlannedRun() == member.plan) {
+            computation->setPlannedRun(nullptr);
+        }
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "host/core/FExpr.h"
 #include "host/run/FComputationChain.h"
+#include "host/run/FRunRecord.h"
 
 #include <QObject>
 
@@ -16,9 +17,6 @@ class FChainRun : public QObject {
     Q_OBJECT
 
  public:
-    /** The window's setting: 0 if its runs leave out what comes before. */
-    static QString settingKey() { return QStringLiteral("run/suppliersFirst"); }
-
     /** Starts, and waits for the end if requested. True if the runs succeeded, or else were started. */
     static bool run(FExternComputation& target, bool wait);
     /** Requests the end of the run in progress; no other one is started. */
@@ -29,8 +27,15 @@ class FChainRun : public QObject {
     void ended();
 
  private:
+    struct Member {
+        FExpr<FExternComputation> computation;
+        std::shared_ptr<FRunRecord> plan;  //!< what views show until it is run
+    };
+
     explicit FChainRun(FExternComputation& target);
 
+    void addMember(FExternComputation& computation);
+    void announce() const;
     void goOn();
     /** Runs a computation; false if its end is awaited. */
     bool start(FExternComputation& member);
@@ -40,9 +45,12 @@ class FChainRun : public QObject {
     /** Marks those that use results of a computation that didn't succeed. */
     void giveUp(const FExternComputation& failed);
     void end(bool isSuccess);
+    /** Takes back what was announced; what still waits won't be run. */
+    void withdraw() const;
 
     FExpr<FExternComputation> mTarget;
-    QList<FExpr<FExternComputation>> mWaiting;  // with the target as the last one
+    QList<Member> mMembers;  // suppliers first, the target last
+    int mNext = 0;           // the first member that still waits
     FExpr<FExternComputation> mCurrent;
     std::shared_ptr<FChainRun> mSelf;  // until the end
     bool mIsCancelled = false;

@@ -2,7 +2,6 @@
 
 #include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
-#include "host/core/FIni.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FQuotedText.h"
 #include "host/run/FChainRun.h"
@@ -11,6 +10,7 @@
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunAttempt.h"
 #include "host/run/FRunLock.h"
+#include "host/run/FRunSettings.h"
 #include "host/script/FProject.h"
 
 #include <QDir>
@@ -112,8 +112,7 @@ bool FExternComputation::runWithSuppliers(bool wait) {
 }
 
 void FExternComputation::guiRun() {
-    const FExpr<FInteger> setting = FIni::getSetting(FChainRun::settingKey());
-    setting && setting->toDouble() == 0 ? run(false) : runWithSuppliers(false);
+    FRunSettings::areSuppliersFirst() ? runWithSuppliers(false) : run(false);
 }
 
 bool FExternComputation::isUpToDate() const {
@@ -129,13 +128,20 @@ bool FExternComputation::isUpToDate() const {
     return !folder.isEmpty() && QDir(folder).exists() && FResultFiles(folder, files).missing().isEmpty();
 }
 
-void FExternComputation::skipRun(const QString& reason) {
+void FExternComputation::setPlannedRun(const std::shared_ptr<const FRunRecord>& run) {
+    mPlanned = run;
+    if (isInModel()) {
+        emit FChanges::instance()->objectChanged(this);
+    }
+}
+
+void FExternComputation::skipRun(FRunRecord::Cause cause, const QString& reason) {
     if (mAttempt) {
         return;
     }
     mAttempt = makeAttempt();
     const std::shared_ptr<FRunAttempt> attempt = mAttempt;
-    attempt->skip(reason);
+    attempt->skip(cause, reason);
 }
 
 std::shared_ptr<FRunAttempt> FExternComputation::makeAttempt() {
@@ -170,6 +176,7 @@ void FExternComputation::triggerRunByTimer() {
 
 FComputationResults* FExternComputation::takeRun(const std::shared_ptr<const FRunRecord>& run) {
     mRecord = run;
+    mPlanned.reset();
     mRunDesign = mDesign;
     mResults.make(*this, run);
     return mResults.get().ptr();

@@ -93,6 +93,11 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     const FRunRecord& getLastRun() const;
     /** The same to keep: it is updated during the run, and is that of the same run later. Null before the first run. */
     std::shared_ptr<const FRunRecord> getLastRecord() const;
+    /**
+     * What a run of a chain in progress intends with the computation, in state `Waiting` or `UpToDate`. Null otherwise,
+     * so also from the start of its own run on. FChanges reports the computation as changed.
+     */
+    const std::shared_ptr<const FRunRecord>& getPlannedRun() const { return mPlanned; }
     /** The last run in a design's folder, as its stored record tells; null if there is none. */
     std::shared_ptr<const FRunRecord> getStoredRun(const FExpr<FDesign>& design) const;
     /**
@@ -194,8 +199,9 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     std::shared_ptr<FRunAttempt> makeAttempt();
     /** Whether the last run has succeeded with the present set-up, and its files are there. */
     bool isUpToDate() const;
-    /** The next run ends before it begins. */
-    void skipRun(const QString& reason);
+    void setPlannedRun(const std::shared_ptr<const FRunRecord>& run);
+    /** A run that ends before it begins. */
+    void skipRun(FRunRecord::Cause cause, const QString& reason);
     void takeUnknownResults();
 
     static void declareCommands(FCmdTable& table);
@@ -217,6 +223,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     FInputChanges mInput;
     std::shared_ptr<FRunAttempt> mAttempt;  // null if no run is in progress
     std::shared_ptr<FChainRun> mChain;      // null unless a run waits for others
+    std::shared_ptr<const FRunRecord> mPlanned;
     FExpr<FDesign> mDesign;
     std::shared_ptr<const FRunRecord> mRecord;  // of the last run of this session
     FExpr<FDesign> mRunDesign;                  // its design

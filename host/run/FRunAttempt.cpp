@@ -69,11 +69,11 @@ void FRunAttempt::start() {
     }
 }
 
-void FRunAttempt::skip(const QString& reason) {
+void FRunAttempt::skip(Cause cause, const QString& reason) {
     FComputationResults* results = mComputation->takeRun(record());
     // The files in the folder are those of an earlier run.
     results->setResultPath(QString());
-    mRun.fail(Cause::UpstreamFailed, reason);
+    mRun.fail(cause, reason);
 }
 
 // Files of another process's run must not be moved.

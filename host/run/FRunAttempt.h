@@ -31,8 +31,8 @@ class FRunAttempt : public QObject {
 
     /** Starts the run, and waits for its end if requested. True if the run succeeded, or else was started. */
     bool execute(bool wait);
-    /** Ends the run before anything is touched, since what it uses isn't there. */
-    void skip(const QString& reason);
+    /** Ends the run before anything is touched. */
+    void skip(FRunRecord::Cause cause, const QString& reason);
     void cancel() { mRun.cancel(); }
 
     // ---- parts of the computation's steps ----

@@ -1,9 +1,16 @@
 #include "host/run/FRunRecord.h"
 
+bool FRunRecord::isSkipped() const {
+    return state == State::Waiting || state == State::UpToDate || state == State::NotRun ||
+           (state == State::Cancelled && !start.isValid() && setUp.isEmpty());
+}
+
 QString FRunRecord::stateName() const {
     switch (state) {
         case State::Ready:
             return QStringLiteral("ready");
+        case State::Waiting:
+            return QStringLiteral("waiting");
         case State::Writing:
             return QStringLiteral("writing");
         case State::Running:
@@ -16,6 +23,8 @@ QString FRunRecord::stateName() const {
             return QStringLiteral("cancelled");
         case State::TimedOut:
             return QStringLiteral("timed out");
+        case State::UpToDate:
+            return QStringLiteral("up to date");
         case State::NotRun:
             break;
     }
@@ -53,6 +62,8 @@ QString FRunRecord::failureText() const {
     if (!remedy.isEmpty()) {
         parts.append(remedy);
     }
-    parts.append(QStringLiteral("Folder of the run: ") + folder);
+    if (!isSkipped()) {
+        parts.append(QStringLiteral("Folder of the run: ") + folder);
+    }
     return parts.join(QLatin1Char('\n'));
 }

@@ -6,14 +6,19 @@
 #include <QMap>
 #include <QStringList>
 
-/** One attempt to run the program of a computation: its state, and how the program ended. */
+/**
+ * One attempt to run the program of a computation: its state, and how the program ended. In a run of a chain there are
+ * also attempts that are to come or that aren't needed; they have neither a start nor a folder.
+ */
 struct MERIX_EXPORT FRunRecord : FProcessOutcome {
-    enum class State { Ready, Writing, Running, Finished, Failed, Cancelled, TimedOut, NotRun };
+    enum class State { Ready, Waiting, Writing, Running, Finished, Failed, Cancelled, TimedOut, NotRun, UpToDate };
 
     bool isOver() const { return state >= State::Finished; }
     bool isSuccess() const { return state == State::Finished; }
-    /** The state in words, as scripts see it: "ready", "writing", "running", "finished", "failed", "cancelled",
-     *  "timed out", "not run: upstream failed". */
+    /** Whether nothing in the folder was touched: it is still to come, wasn't needed, or ended before it began. */
+    bool isSkipped() const;
+    /** The state in words, as scripts see it: "ready", "waiting", "writing", "running", "finished", "failed",
+     *  "cancelled", "timed out", "not run: upstream failed", "up to date". */
     QString stateName() const;
     /** The same, but "interrupted" for a run that ended with its process. */
     QString outcomeName() const;

@@ -6,6 +6,7 @@
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FObjectMime.h"
+#include "host/gui/base/FRunLook.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/run/FExternComputation.h"
 
@@ -40,7 +41,7 @@ QString toolTipOf(const FManaged& object) {
     if (const auto* results = dynamic_cast<const FComputationResults*>(&object)) {
         text += QLatin1Char('\n') + results->getStateText();
     } else if (const auto* computation = dynamic_cast<const FExternComputation*>(&object)) {
-        text += QLatin1Char('\n') + computation->getLastRun().stateName();
+        text += QLatin1Char('\n') + FRunLook::textOf(*computation);
     }
     return text;
 }

@@ -3,7 +3,7 @@
 #include "host/core/FChanges.h"
 #include "host/core/FObjectManager.h"
 #include "host/gui/base/FIcons.h"
-#include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FRunLook.h"
 #include "host/run/FCauseLines.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FNumberCheck.h"
@@ -20,30 +20,6 @@ using Cause = FRunRecord::Cause;
 namespace {
 
 constexpr int second = 1000;  // milliseconds
-
-struct Look {
-    const char* icon;
-    FStateColor::State color;
-};
-
-Look lookOf(State state) {
-    switch (state) {
-        case State::Finished:
-            return {"dialog-ok-apply", FStateColor::State::Good};
-        case State::Failed:
-            return {"dialog-error", FStateColor::State::Bad};
-        case State::TimedOut:
-            return {"chronometer", FStateColor::State::Warning};
-        case State::Cancelled:
-        case State::NotRun:
-            return {"dialog-cancel", FStateColor::State::Secondary};
-        case State::Ready:
-        case State::Writing:
-        case State::Running:
-            break;
-    }
-    return {"media-playback-start", FStateColor::State::Secondary};
-}
 
 /** What a run that failed has to say: the program's own words if there are any. */
 QString causeOf(const FRunRecord& record) {
@@ -123,28 +99,73 @@ void FRunModel::add(FExternComputation* computation, const std::shared_ptr<const
     rowChanged(0);
 }
 
-// A run whose files have moved has a new record.
 void FRunModel::follow(FExternComputation* computation) {
-    const std::shared_ptr<const FRunRecord> record = computation ? computation->getLastRecord() : nullptr;
-    if (!record || record->state == State::Ready) {
+    if (!computation) {
+        return;
+    }
+    followPlan(computation);
+    const std::shared_ptr<const FRunRecord> record = computation->getLastRecord();
+    if (!record || record->state == State::Ready || computation->getPlannedRun()) {
         return;
     }
     for (int row = 0; row < rowCount(); ++row) {
-        Attempt& known = mAttempts[static_cast<std::size_t>(row)];
-        const bool isSame = known.record == record ||
-                            (known.record->isOver() && known.record->start.isValid() &&
-                             known.record->start == record->start && known.record->computation == record->computation);
+        const FRunRecord& known = *attempt(row).record;
+        // A run whose files have moved has a new record.
+        const bool isSame =
+            attempt(row).record == record || (known.isOver() && known.start.isValid() && known.start == record->start &&
+                                              known.computation == record->computation);
         if (isSame) {
-            known.record = record;
-            // At once: a script may start the next run before the event loop is reached.
-            if (record->isOver() && !known.isSummarized) {
-                summarize(row);
-            }
-            rowChanged(row);
+            takeRecord(row, record);
             return;
         }
     }
-    add(computation, record, ++mNumber);
+    const int waiting = waitingRowOf(computation);
+    if (waiting < 0) {
+        add(computation, record, ++mNumber);
+    } else {
+        Attempt& started = mAttempts[static_cast<std::size_t>(waiting)];
+        started.isPlanned = false;
+        started.number = ++mNumber;
+        started.said.clear();
+        takeRecord(waiting, record);
+    }
+    if (!record->isOver()) {
+        emit runStarted(waiting < 0 ? 0 : waiting);
+    }
+}
+
+void FRunModel::followPlan(FExternComputation* computation) {
+    const std::shared_ptr<const FRunRecord>& plan = computation->getPlannedRun();
+    if (plan && rowOf(plan) < 0) {
+        add(computation, plan, 0);
+        mAttempts.front().isPlanned = true;
+        mAttempts.front().said = plan->message;
+    }
+    for (int row = 0; row < rowCount(); ++row) {
+        if (attempt(row).isPlanned && attempt(row).computation.ptr() == computation) {
+            rowChanged(row);
+        }
+    }
+}
+
+void FRunModel::takeRecord(int row, const std::shared_ptr<const FRunRecord>& record) {
+    Attempt& shown = mAttempts[static_cast<std::size_t>(row)];
+    shown.record = record;
+    // At once: a script may start the next run before the event loop is reached.
+    if (record->isOver() && !shown.isSummarized) {
+        summarize(row);
+    }
+    rowChanged(row);
+}
+
+int FRunModel::waitingRowOf(const FExternComputation* computation) const {
+    for (int row = 0; row < rowCount(); ++row) {
+        if (attempt(row).isPlanned && record(row).state == State::Waiting &&
+            attempt(row).computation.ptr() == computation) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 void FRunModel::rowChanged(int row) {
@@ -211,8 +232,13 @@ FExternComputation* FRunModel::computation(int row) const {
     return attempt(row).computation.ptr();
 }
 
+bool FRunModel::canStop(int row) const {
+    const FExternComputation* running = record(row).isOver() || !isLast(row) ? nullptr : computation(row);
+    return running && !running->canRun() && !isStopping(row);
+}
+
 void FRunModel::stop(int row) {
-    if (FExternComputation* running = record(row).isOver() || !isLast(row) ? nullptr : computation(row)) {
+    if (FExternComputation* running = canStop(row) ? computation(row) : nullptr) {
         mAttempts[static_cast<std::size_t>(row)].isStopping = running->cancel();
         rowChanged(row);
     }
@@ -228,9 +254,12 @@ bool FRunModel::isLast(int row) const {
 }
 
 QString FRunModel::folderOf(int row) const {
+    if (record(row).isSkipped()) {
+        return {};
+    }
     int newer = 0;
     for (int other = 0; other < row; ++other) {
-        newer += record(other).folder == record(row).folder;
+        newer += !record(other).isSkipped() && record(other).folder == record(row).folder;
     }
     return newer == 0 ? record(row).folder : newer == 1 ? attempt(row).earlier : QString();
 }
@@ -268,20 +297,16 @@ int FRunModel::columnCount(const QModelIndex& parent) const {
 }
 
 QString FRunModel::stateText(const FRunRecord& record, bool isStopping) const {
-    if (isStopping && !record.isOver()) {
-        return QStringLiteral("stopping");
-    }
-    return record.cause == Cause::ExitCode ? QStringLiteral("failed, exit code %1").arg(record.exitCode)
-           : record.cause == Cause::Signal ? QStringLiteral("failed, signal %1").arg(record.signal)
-                                           : record.stateName();
+    return isStopping && !record.isOver() ? QStringLiteral("stopping") : FRunLook::textOf(record);
 }
 
 QString FRunModel::textOf(int row, int column) const {
     const Attempt& shown = attempt(row);
     switch (column) {
         case runColumn:
-            return shown.number > 0 ? QStringLiteral("%1 %2").arg(shown.record->computation).arg(shown.number)
-                                    : QStringLiteral("%1, earlier").arg(shown.record->computation);
+            return shown.number > 0  ? QStringLiteral("%1 %2").arg(shown.record->computation).arg(shown.number)
+                   : shown.isPlanned ? shown.record->computation
+                                     : QStringLiteral("%1, earlier").arg(shown.record->computation);
         case stateColumn:
             return stateText(*shown.record, shown.isStopping);
         case startColumn:
@@ -298,7 +323,7 @@ QVariant FRunModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const FRunRecord& run = record(index.row());
-    const Look look = lookOf(run.state);
+    const FRunLook look = FRunLook::of(run.state);
     const bool isState = index.column() == stateColumn;
     switch (role) {
         case Qt::DisplayRole:

@@ -17,7 +17,7 @@ class FExternComputation;
 
 /**
  * The runs of all computations in this session, the newest first, and the last run that is stored for each computation
- * of the project.
+ * of the project. When a chain is run, each of its members has a row at once, which becomes that of its run.
  */
 class MERIX_EXPORT FRunModel : public QAbstractTableModel {
     Q_OBJECT
@@ -44,6 +44,8 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
     /** The tables that the run gave; none if it has failed, or if its numbers aren't kept any more. */
     const QList<FExpr<FTableData>>& tablesOf(int row) const { return attempt(row).tables; }
     bool isStopping(int row) const { return attempt(row).isStopping; }
+    /** Whether `stop` can do something. */
+    bool canStop(int row) const;
     /** Requests the end of a run. */
     void stop(int row);
     /** Seconds since the start of a run, or that it took; below 0 if its program wasn't started. */
@@ -58,13 +60,18 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+ signals:
+    /** A run is in progress in that row from now on. */
+    void runStarted(int row);
+
  private:
     struct Attempt {
-        int number = 0;  //!< 0 for a run of an earlier session
+        int number = 0;  //!< 0 for a run of an earlier session, and for one that is only planned
         std::shared_ptr<const FRunRecord> record{};
         FExpr<FExternComputation> computation{};
         QString earlier{};  //!< where the next run moves the files
         double timeLimit = 0;
+        bool isPlanned = false;
         bool isStopping = false;
         bool isSummarized = false;
         QString said{};
@@ -73,6 +80,10 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
 
     const Attempt& attempt(int row) const { return mAttempts[static_cast<std::size_t>(row)]; }
     void follow(FExternComputation* computation);
+    void followPlan(FExternComputation* computation);
+    void takeRecord(int row, const std::shared_ptr<const FRunRecord>& record);
+    /** The row in which the computation waits for its run; -1 if there is none. */
+    int waitingRowOf(const FExternComputation* computation) const;
     void add(FExternComputation* computation, const std::shared_ptr<const FRunRecord>& record, int number);
     void addStored();
     void clear();

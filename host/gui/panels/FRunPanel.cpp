@@ -96,9 +96,13 @@ FRunPanel::FRunPanel(FNavigator& navigator)
     connect(mpView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &FRunPanel::showCurrent);
     connect(mpView, &QTreeView::activated, this, &FRunPanel::showResults);
     connect(mpModel, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
-        mpView->setCurrentIndex(mpModel->index(first, 0));
+        if (!mpView->currentIndex().isValid()) {
+            mpView->setCurrentIndex(mpModel->index(first, 0));
+        }
         rowsChanged(first, last);
     });
+    connect(mpModel, &FRunModel::runStarted, this,
+            [this](int row) { mpView->setCurrentIndex(mpModel->index(row, 0)); });
     connect(mpModel, &QAbstractItemModel::modelReset, this, &FRunPanel::showCurrent);
     connect(mpModel, &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex& first, const QModelIndex& last) { rowsChanged(first.row(), last.row()); });
@@ -184,7 +188,7 @@ void FRunPanel::rowsChanged(int first, int last) {
 void FRunPanel::showBar(int row) {
     const QModelIndex index = mpModel->index(row, FRunModel::saidColumn);
     auto* bar = qobject_cast<QProgressBar*>(mpView->indexWidget(index));
-    if (mpModel->record(row).isOver()) {
+    if (mpModel->record(row).isOver() || mpModel->record(row).isSkipped()) {
         if (bar) {
             mpView->setIndexWidget(index, nullptr);
         }
@@ -223,10 +227,12 @@ void FRunPanel::updateButtons() {
     const bool isThere = row >= 0;
     const FExternComputation* computation = isThere ? mpModel->computation(row) : nullptr;
     const bool isOver = isThere && mpModel->record(row).isOver();
-    mpStop->setEnabled(isThere && !isOver && !mpModel->isStopping(row));
+    mpStop->setEnabled(isThere && mpModel->canStop(row));
     mpAgain->setEnabled(computation && computation->canRun());
     mpFolder->setEnabled(isThere && !mpModel->folderOf(row).isEmpty());
-    mpResults->setEnabled(computation && isOver && mpModel->isLast(row) && computation->getCurrentResults());
+    const bool hasResults =
+        isOver && (!mpModel->record(row).isSkipped() || mpModel->record(row).state == FRunRecord::State::UpToDate);
+    mpResults->setEnabled(computation && hasResults && mpModel->isLast(row) && computation->getCurrentResults());
 }
 
 QString FRunPanel::detailsOf(int row) const {
@@ -241,13 +247,15 @@ QString FRunPanel::detailsOf(int row) const {
     } else {
         // The folder gets a line of its own below.
         const QStringList parts = text.split(QLatin1Char('\n'));
-        for (const QString& part : parts.mid(0, parts.size() - 1)) {
+        for (const QString& part : parts.mid(0, parts.size() - (run.isSkipped() ? 0 : 1))) {
             lines.append(lineToHtml(part, folder));
         }
     }
-    lines.append(folder.isEmpty() ? QStringLiteral("Later runs have replaced the files of this one.")
-                                  : QStringLiteral("Folder: ") +
-                                        link(QUrl::fromLocalFile(folder), QDir::toNativeSeparators(folder)));
+    if (!run.isSkipped()) {
+        lines.append(folder.isEmpty() ? QStringLiteral("Later runs have replaced the files of this one.")
+                                      : QStringLiteral("Folder: ") +
+                                            link(QUrl::fromLocalFile(folder), QDir::toNativeSeparators(folder)));
+    }
     if (!folder.isEmpty() && run.start.isValid()) {
         lines.append(
             QStringLiteral("Output: %1, %2")

@@ -22,4 +22,6 @@ struct FActionRow {
     void (*fill)(QMenu& menu, FMainWindow& window) = nullptr;
     /** A text that depends on the situation; null for `text`. */
     QString (*textNow)(const FSituation& situation) = nullptr;
+    /** For a setting that `run` turns over: whether it is on. */
+    bool (*isOn)() = nullptr;
 };

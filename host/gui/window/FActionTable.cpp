@@ -14,6 +14,7 @@
 #include "host/gui/window/FProjectFiles.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/run/FRunSettings.h"
 
 #include <QActionGroup>
 #include <QDockWidget>
@@ -235,6 +236,10 @@ std::vector<FActionRow> otherRows() {
          [](const FSituation& now) { return now.canReread; }, &reread},
         {"preview", "&Run", 1, "&Preview input files", "document-preview", "Ctrl+P",
          "Show the input files as a run would write them", false, &hasComputation, &preview},
+        {"suppliersFirst", "&Run", 2, "Run s&uppliers first", "insert-link", "Ctrl+Shift+F5",
+         "Before a run, run the computations whose results it uses, as far as their set-up has changed", false, nullptr,
+         [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); }, nullptr, nullptr,
+         &FRunSettings::areSuppliersFirst},
         {"showResults", "Resul&ts", 0, "&Show results", "results", "Ctrl+T",
          "Show the numbers that were read from the output files", false, &hasResults, &showResults},
         {"compareResults", "Resul&ts", 0, "&Compare with the run before", "view-split-left-right", "Ctrl+Shift+T",

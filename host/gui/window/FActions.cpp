@@ -37,6 +37,7 @@ QAction* FActions::make(const FActionRow& row) {
     action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut), QKeySequence::PortableText));
     action->setToolTip(toolTipOf(QString::fromUtf8(row.tip), *action));
     action->setStatusTip(QString::fromUtf8(row.tip));
+    action->setCheckable(row.isOn != nullptr);
     if (row.run) {
         connect(action, &QAction::triggered, this, [this, &row] { row.run(mWindow); });
     }
@@ -92,6 +93,9 @@ void FActions::update(const FSituation& situation, bool isLocked) {
         QAction* action = get(QString::fromLatin1(row.id));
         const bool isAllowed = !isLocked || action->objectName() == QLatin1String("stop");
         action->setEnabled(isAllowed && (!row.when || row.when(situation)));
+        if (row.isOn) {
+            action->setChecked(row.isOn());
+        }
         if (row.textNow) {
             const QString text = row.textNow(situation);
             action->setText(text);

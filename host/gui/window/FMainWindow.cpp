@@ -10,6 +10,7 @@
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
+#include "host/gui/base/FRunLook.h"
 #include "host/gui/panels/FEntriesWgt.h"
 #include "host/gui/panels/FHelpPanel.h"
 #include "host/gui/panels/FObjectEditorPanel.h"
@@ -248,8 +249,7 @@ void FMainWindow::refresh() {
     const FExternComputation* computation = now.computation;
     mpProblems->setVisible(now.hasProject);
     mpRunState->setText(
-        computation ? QStringLiteral("%1: %2").arg(computation->getName(), computation->getLastRun().stateName())
-                    : QString());
+        computation ? QStringLiteral("%1: %2").arg(computation->getName(), FRunLook::textOf(*computation)) : QString());
     if (now.hasProject != mShowsProject) {
         showProject(now.hasProject);
     }

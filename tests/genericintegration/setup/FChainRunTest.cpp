@@ -1,7 +1,9 @@
+#include "host/core/FChanges.h"
 #include "host/core/FIni.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserStep.h"
 #include "host/run/FRunRecord.h"
+#include "host/run/FRunSettings.h"
 #include "host/run/FSetUpCheck.h"
 #include "tests/genericintegration/setup/FChainTest.h"
 #include "tests/support/waitUntil.h"
@@ -99,11 +101,66 @@ TEST_F(FChainRunTest, aWindowDoesNotWait) {
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(states(), "cancelled, not run: upstream failed, not run: upstream failed");
 
-    FIni().setValue("run/suppliersFirst", 0);
+    FRunSettings::setSuppliersFirst(false);
     third->guiRun();
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(states().section(", ", 0, 1), "cancelled, not run: upstream failed");
     EXPECT_NE(third->getLastRun().stateName(), "not run: upstream failed");
+}
+
+TEST_F(FChainRunTest, eachMemberSaysWhatIsIntended) {
+    QStringList told;
+    const auto listening = QObject::connect(FChanges::instance(), &FChanges::objectChanged, [&](FManaged* object) {
+        const auto* member = dynamic_cast<FGenIntComputation*>(object);
+        const auto plan = member ? member->getPlannedRun() : nullptr;
+        const QString state = !member ? QString() : plan ? plan->stateName() : member->getLastRun().stateName();
+        if (member && told.filter(member->getName() + ' ').value(0) != member->getName() + ' ' + state) {
+            told.prepend(member->getName() + ' ' + state);
+        }
+    });
+    const auto sinceLast = [&told] {
+        QStringList since;
+        while (!told.isEmpty()) {
+            since.append(told.takeLast());
+        }
+        return since.join(", ");
+    };
+    runThird();
+    EXPECT_EQ(sinceLast(),
+              "first waiting, second waiting, third waiting, first writing, first running, first finished, second "
+              "writing, second running, second finished, third writing, third running, third finished");
+    ASSERT_TRUE(run("second.setArguments([\"-c\", \"exit 1\"])"));
+    sinceLast();
+    runThird();
+    EXPECT_EQ(sinceLast(),
+              "first waiting, second waiting, third waiting, first up to date, second writing, second running, second "
+              "failed, third not run: upstream failed, first finished");
+
+    // A client that uses both, and of which one fails: the other one is neither run nor marked.
+    ASSERT_TRUE(
+        run("apart.setExecutable(\"true\")\ndef5.addEntry(\"a\", 0)\ndef5.addEntry(\"b\", 0)\n"
+            "conf5.setEntryValue(\"a\", third.getResults().getDataAt(0, 0))\n"
+            "conf5.setEntryValue(\"b\", apart.getResults().getDataAt(0, 0))\nalone.setExecutable(\"true\")"));
+    sinceLast();
+    EXPECT_FALSE(computation("alone")->runWithSuppliers());
+    EXPECT_TRUE(
+        sinceLast().endsWith("third not run: upstream failed, alone not run: upstream failed, "
+                             "first finished, apart ready"));
+    QObject::disconnect(listening);
+}
+
+TEST_F(FChainRunTest, aRunThatIsCancelledBetweenTwoOthersDoesNotGoOn) {
+    FGenIntComputation* first = computation("first");
+    QObject::connect(first, &FExternComputation::runChanged, first, [first] {
+        if (first->canRun()) {
+            EXPECT_TRUE(computation("third")->cancel());
+        }
+    });
+    EXPECT_FALSE(computation("third")->runWithSuppliers());
+    EXPECT_EQ(states(), "finished, ready, cancelled");
+    EXPECT_TRUE(computation("third")->wasAborted());
+    EXPECT_TRUE(computation("third")->canRun());
+    EXPECT_FALSE(has("study.results/baseline/third/in.txt"));
 }
 
 TEST_F(FChainRunTest, membersMayLeaveMeanwhile) {

@@ -1,10 +1,12 @@
 #include "genericintegration/setup/FSetUpExport.h"
 
 #include "host/run/FComputationChain.h"
+#include "host/run/FComputationGraph.h"
 #include "tests/genericintegration/setup/FChainTest.h"
 #include "tests/support/FFileSizeLimit.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QRegularExpression>
 
 namespace {
@@ -37,8 +39,53 @@ TEST_F(FSetUpExportTest, aChainReachesBothSidesWithSuppliersFirst) {
     ASSERT_TRUE(
         run("genericIntegrationComputation late()\nconf1.setEntryValue(\"x\", late.getResults().getDataAt(0, 0))"));
     EXPECT_EQ(chainOf("second"), (QStringList{"late", "first", "second", "third"}));
-    EXPECT_EQ(chainOf("first"), (QStringList{"late", "first", "second", "apart", "third"}));
+    EXPECT_EQ(chainOf("first"), (QStringList{"late", "first", "second", "third", "apart"}));
     EXPECT_EQ(chainOf("alone"), QStringList{"alone"});
+}
+
+TEST_F(FSetUpExportTest, linksHaveTheNamesOfTheirFilesAndEntries) {
+    // Through a parameter, by the name of a template, and through the value of another configuration.
+    ASSERT_TRUE(
+        run("parameter twice(2 * second.getResults().getDataAt(0, 0))\n"
+            "conf3.setEntryValue(\"note\", inputFile(first.getResults().getResultTemplateName(\"first.txt\")))\n"
+            "def5.addEntry(\"Group|y\", 0)\nconf5.setEntryValue(\"Group|y\", twice + conf3.getEntryValue(\"x\"))"));
+    const FComputationGraph graph;
+    QStringList lines;
+    for (const FComputationGraph::Link& link : graph.links()) {
+        const auto nameOf = [&](int index) { return graph.computations()[static_cast<std::size_t>(index)]->getName(); };
+        lines.append(QString("%1 > %2: %3; %4")
+                         .arg(nameOf(link.supplier), nameOf(link.client), link.files.join(' '), link.values.join(' ')));
+    }
+    lines.sort();
+    EXPECT_EQ(lines, (QStringList{"first > apart: first.txt; ", "first > second: first.txt; ",
+                                  "first > third: first.txt; ", "second > alone: ; Group|y", "second > third: ; x"}));
+}
+
+TEST_F(FSetUpExportTest, theChainOfManyIsFoundInTimeInProportion) {
+    const auto timeOf = [this](int count) {
+        clear();
+        QString script;
+        for (int i = 0; i < count; ++i) {
+            script += QString(
+                          "genericIntegrationDefinition d%1() { .addEntry(\"x\", 0) }\n"
+                          "genericIntegrationConfiguration c%1() { .setDefinition(d%1) }\n"
+                          "genericIntegrationComputation r%1() { .setConfiguration(c%1) }\n")
+                          .arg(i);
+        }
+        // From the last one to the first one.
+        for (int i = 1; i < count; ++i) {
+            script += QString("c%1.setEntryValue(\"x\", r%2.getResults().getDataAt(0, 0))\n").arg(i - 1).arg(i);
+        }
+        EXPECT_TRUE(run(script));
+        QElapsedTimer timer;
+        timer.start();
+        const QStringList chain = chainOf(QString("r%1").arg(count / 2));
+        EXPECT_EQ(chain.size(), count);
+        EXPECT_EQ(chain.first(), QString("r%1").arg(count - 1));
+        return std::max<qint64>(timer.nsecsElapsed(), 1);
+    };
+    const qint64 few = timeOf(100);
+    EXPECT_LT(timeOf(1000), 40 * few);
 }
 
 TEST_F(FSetUpExportTest, aFileHoldsOneSetUpOrTheChainInOneStep) {

@@ -10,10 +10,12 @@
 #include "host/run/FExternComputation.h"
 #include "host/script/FProject.h"
 #include "tests/support/FTestFolder.h"
+#include "tests/support/chainOfThree.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QLabel>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -132,6 +134,61 @@ TEST_F(FRunPanelTest, aRunIsWatchedAndStopped) {
     ASSERT_TRUE(FWindowTest::run("destroy(solver)"));
     ASSERT_TRUE(waitUntil([&] { return cell(0, FRunModel::stateColumn) == "cancelled"; }));
     EXPECT_FALSE(isPossible("runAgain"));
+}
+
+TEST_F(FRunPanelTest, aChainShowsWhatEachOfItsMembersDoes) {
+    const QAbstractItemModelTester tester(&model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const auto rows = [this] {
+        QStringList lines;
+        for (int row = 0; row < model().rowCount(); ++row) {
+            lines.append(cell(row, FRunModel::runColumn) + ": " + cell(row, FRunModel::stateColumn));
+        }
+        return lines.join("; ").toStdString();
+    };
+    const auto selected = [this] { return find<FListView>("runList")->currentIndex().row(); };
+    ASSERT_TRUE(FWindowTest::run(QString(chainOfThree) + "\nfirst.setArguments([\"-c\", \"while test ! -e go; do sleep "
+                                                         "0.05; done; echo v 3 > first.txt\"])"));
+    window().showObject(object<FManaged>("third"));
+    auto* first = object<FExternComputation>("first");
+    trigger("run");
+    ASSERT_TRUE(waitUntil([&] { return first->getLastRun().start.isValid(); }));
+    settle();
+    EXPECT_EQ(rows(), "third: waiting; second: waiting; first 1: running");
+    EXPECT_EQ(find<QLabel>("runState")->text(), "third: waiting");
+    EXPECT_EQ(selected(), 2) << "the one whose output is being written";
+    EXPECT_EQ(window().findChildren<QProgressBar*>("runProgress").size(), 1);
+    auto* list = find<FListView>("runList");
+    list->setCurrentIndex(model().index(1, 0));
+    EXPECT_FALSE(isPossible("stopRun")) << "nothing of it is in progress";
+    EXPECT_FALSE(isPossible("openRunFolder"));
+    EXPECT_TRUE(details().contains("after the computations whose results it uses")) << details().toStdString();
+    list->setCurrentIndex(model().index(0, 0));
+    EXPECT_TRUE(isPossible("stopRun"));
+    find<QToolButton>("stopRun")->click();
+    ASSERT_TRUE(waitUntil([&] { return object<FExternComputation>("third")->canRun(); }));
+    settle();
+    EXPECT_EQ(rows(), "third 3: not run: upstream failed; second 2: not run: upstream failed; first 1: cancelled");
+
+    ASSERT_TRUE(FWindowTest::run("first.setArguments([\"-c\", \"echo v 3 > first.txt\"])\nfirst.run()"));
+    trigger("run");
+    ASSERT_TRUE(waitUntil([&] { return object<FExternComputation>("third")->canRun(); }));
+    settle();
+    EXPECT_EQ(rows().substr(0, rows().find("; first 4")), "third 6: finished; second 5: finished; first: up to date");
+    list->setCurrentIndex(model().index(2, 0));
+    EXPECT_TRUE(details().contains("its last run succeeded")) << details().toStdString();
+    EXPECT_FALSE(details().contains("Later runs")) << details().toStdString();
+    EXPECT_TRUE(isPossible("showRunResults"));
+    EXPECT_FALSE(isPossible("openRunFolder"));
+
+    // The setting is an action of the menu.
+    EXPECT_TRUE(action("suppliersFirst")->isChecked());
+    trigger("suppliersFirst");
+    EXPECT_FALSE(action("suppliersFirst")->isChecked());
+    const int before = model().rowCount();
+    trigger("run");
+    ASSERT_TRUE(waitUntil([&] { return object<FExternComputation>("third")->canRun(); }));
+    settle();
+    EXPECT_EQ(model().rowCount(), before + 1);
 }
 
 TEST_F(FRunPanelTest, theStoredRunOfAProjectIsShownWhenItIsOpened) {

@@ -6,6 +6,7 @@
 #include "genericintegration/editors/FGenIntCommandFileEntryData.h"
 #include "genericintegration/editors/FGenIntCommandFileLineEdit.h"
 #include "genericintegration/editors/FGenIntCommandFileSyntaxHighlighter.h"
+#include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/marking/FEntryNameProposal.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FTemplateTags.h"
@@ -99,8 +100,20 @@ FDefinitionGenInt* FGenIntCommandFileEdit::getDefinition() const {
 
 FEntryDef* FGenIntCommandFileEdit::getCurrentEntry() const {
     const FDefinitionGenInt* definition = getDefinition();
-    const bool isKnown = definition && !mCurrentEntryName.isEmpty();
-    return isKnown ? dynamic_cast<FEntryDef*>(definition->getEntryOfScope(mCurrentEntryName)) : nullptr;
+    if (!definition || mCurrentEntryName.isEmpty()) {
+        return nullptr;
+    }
+    if (auto* entry = dynamic_cast<FEntryDef*>(definition->getEntryOfScope(mCurrentEntryName))) {
+        return entry;
+    }
+    // As the writer finds it: case doesn't matter.
+    const QStringList paths = definition->getEntryMap().keys();
+    FTemplateKeys keys;
+    for (const QString& path : paths) {
+        keys.append(path, true);
+    }
+    const int row = keys.find(mCurrentEntryName);
+    return row == FTemplateKeys::notFound ? nullptr : dynamic_cast<FEntryDef*>(definition->getEntryOfScope(paths[row]));
 }
 
 bool FGenIntCommandFileEdit::isAssisted() const {
@@ -134,7 +147,7 @@ QTextCursor FGenIntCommandFileEdit::selection(const QTextBlock& block, int from,
     return cursor;
 }
 
-// The lists of a line can be out of step, so that what is found needn't be a tag of its name.
+// A tag whose name has unusual characters is in fewer lists than the others. Numbers are the last ones in each list.
 std::optional<FGenIntCommandFileEdit::Region> FGenIntCommandFileEdit::regionAt(const QTextCursor& place) const {
     const QTextBlock block = place.block();
     FGenIntCommandFileEntryData* offered = mpHighlighter->dataOf(block);
@@ -144,13 +157,20 @@ std::optional<FGenIntCommandFileEdit::Region> FGenIntCommandFileEdit::regionAt(c
     }
     const FTemplateRegions& regions = offered->regions;
     const bool isNumber = regions.isPossibleValue(index);
-    if (!isNumber && regions.text(index) != FTemplateTags::tagOf(regions.name(index))) {
+    const int ofValue = index + regions.names.size() - regions.regionStarts.size();
+    const QString name = isNumber ? regions.name(ofValue) : FTemplateTags::nameIn(regions.text(index));
+    const int start = regions.regionStart(index);
+    const int end = regions.regionEnd(index);
+    // What is typed in plain mode isn't analysed.
+    const bool isThere = block.text().mid(start, end - start) == regions.text(index);
+    const bool isWhole =
+        isNumber ? start <= regions.valueStart(ofValue) && regions.valueStart(ofValue) < end : !name.isEmpty();
+    if (!isThere || !isWhole) {
         return std::nullopt;
     }
-    const int end = regions.regionEnd(index);
-    const QTextCursor whole = selection(block, regions.regionStart(index), end);
-    offered->cursor = isNumber ? selection(block, regions.valueStart(index), end) : whole;
-    return Region{isNumber, regions.name(index), regions.text(index), regions.value(index), whole, offered->cursor};
+    const QTextCursor whole = selection(block, start, end);
+    offered->cursor = isNumber ? selection(block, regions.valueStart(ofValue), end) : whole;
+    return Region{isNumber, name, regions.text(index), regions.value(index), whole, offered->cursor};
 }
 
 QString FGenIntCommandFileEdit::tagAt(const QTextCursor& place) const {

@@ -16,6 +16,7 @@
 #include "host/design/FEntry.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FNavigator.h"
+#include "host/gui/base/FOneUndo.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -95,6 +96,7 @@ QWidget* FGenIntCommandFileEditor::makeBar() {
     mpNameEdit = new QLineEdit(bar);
     mpNameEdit->setObjectName(QStringLiteral("templateName"));
     mpNameEdit->setAccessibleName(label->text());
+    new FOneUndo(mpNameEdit, FOneUndo::Change::Finished);
     label->setBuddy(mpNameEdit);
     row->addWidget(mpNameEdit, 1);
     mpValuesButton = new QToolButton(bar);
@@ -235,6 +237,7 @@ void FGenIntCommandFileEditor::showName() {
 }
 
 void FGenIntCommandFileEditor::fileNameChanged() {
+    mpNameEdit->setModified(false);
     if (mCommandFile && mpNameEdit->text() != mCommandFile->getFileName()) {
         FUserStep step(QStringLiteral("set file name"));
         mCommandFile->setFileName(mpNameEdit->text());

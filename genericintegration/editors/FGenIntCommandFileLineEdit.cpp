@@ -16,7 +16,8 @@ void FGenIntCommandFileLineEdit::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (isVisible()) {
+            // A word of the script language is not a name, but can become one.
+            if (isVisible() && hasAcceptableInput()) {
                 mEdit.entryNameChanged();
                 mEdit.setFocus();
             }
@@ -35,7 +36,9 @@ void FGenIntCommandFileLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     // The focus comes back with the window, and after a menu.
     const bool isBrief = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    if (isVisible() && !isBrief) {
+    if (isVisible() && !isBrief && hasAcceptableInput()) {
         mEdit.entryNameChanged();
+    } else if (!isBrief) {
+        hide();
     }
 }

@@ -5,6 +5,7 @@
 #include "genericintegration/io/FTemplateValues.h"
 #include "host/core/FNumber.h"
 #include "host/core/FString.h"
+#include "host/gui/base/FComboBox.h"
 #include "host/gui/base/FElidedLabel.h"
 #include "host/gui/base/FFormRow.h"
 #include "host/gui/base/FGroupBox.h"
@@ -54,7 +55,7 @@ Button* mark(const char* id, const char* name) {
 }
 
 QComboBox* combo(const char* id, const char* name, const QStringList& items) {
-    auto* box = named(new QComboBox, id, name);
+    auto* box = named(new FComboBox, id, name);
     box->addItems(items);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(shortestContents);
@@ -168,16 +169,19 @@ FGroupBox* FResultsFileForm::makeValues(QWidget* averageRows) {
     mValueSelector->setCompleter(nullptr);
     mValueSelector->lineEdit()->setValidator(
         new QRegExpValidator(QRegExp(QStringLiteral("[\\d|\\s|\\w]*")), mValueSelector));
-    new FOneUndo(mValueSelector);
+    new FOneUndo(mValueSelector, FOneUndo::Change::EachKey);
     mAddValueButton =
         new FToolButton(QStringLiteral("addValue"), QStringLiteral("list-add"), QStringLiteral("Add Value"));
     mTypeCombo = combo("valueType", "Type", {FDouble::null()->getClass(), FFileName::null()->getClass()});
     mImportTypeCombo = combo("importType", "Import Type", {QStringLiteral("tecplot")});
     mLineSpin = named(new FSpinBox(-greatestLine, greatestLine), "line", "Line");
     mColumnSpin = named(new FSpinBox(0, greatestColumn), "column", "Column");
-    new FOneUndo(mLineSpin);
-    new FOneUndo(mColumnSpin);
+    new FOneUndo(mLineSpin, FOneUndo::Change::EachKey);
+    new FOneUndo(mColumnSpin, FOneUndo::Change::EachKey);
     mAnchorEdit = named(new QLineEdit, "anchor", "Anchor String");
+    for (QLineEdit* edit : {mPathEdit, mRegExpEdit, mAnchorEdit}) {
+        new FOneUndo(edit, FOneUndo::Change::Finished);
+    }
     mOccurrenceCombo = combo("occurrence", "Occurrence", {QStringLiteral("First"), QStringLiteral("Last")});
     mAverageCheck = mark<QCheckBox>("average", "Average");
     const QString tip = QStringLiteral("Number of last rows to calculate average from (useful for tabulated data)");

@@ -22,6 +22,12 @@ QString tagOf(const QString& name) {
     return openingMarker.toString() + name + closingMarker.toString();
 }
 
+QString nameIn(const QString& text) {
+    const bool isTag = text.startsWith(openingMarker) && text.endsWith(closingMarker);
+    const QString name = isTag ? text.mid(openingMarker.size()).chopped(closingMarker.size()) : QString();
+    return name.contains(openingMarker) ? QString() : name;
+}
+
 QStringList entryNames(const QString& text) {
     QStringList names = namesOf(text, Qt::CaseSensitive);
     names.removeDuplicates();

@@ -12,6 +12,9 @@ inline constexpr QStringView closingMarker = u"</entry>";
 /** The tag of a name. */
 QString tagOf(const QString& name);
 
+/** The name in a text that is one tag, with markers in small letters; empty if it is none, or contains another one. */
+QString nameIn(const QString& text);
+
 /**
  * Names of all tags whose markers are spelled in small letters, each once (names that differ in case are different
  * ones), in order of first appearance.

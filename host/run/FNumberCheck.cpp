@@ -1,8 +1,8 @@
 #include "host/run/FNumberCheck.h"
 
-#include "host/core/FNearestName.h"
 #include "host/run/FSuccessRules.h"
 #include "host/run/FValueRemark.h"
+#include "host/script/FCmdManager.h"
 
 #include <algorithm>
 #include <cmath>
@@ -74,9 +74,7 @@ QStringList unknownValues(const FSuccessRules& rules, const Tables& tables) {
     QStringList unknown;
     for (const QString& name : rules.requiredValues) {
         if (name == FSuccessRules::allValues() ? known.isEmpty() : !known.contains(name)) {
-            const QString nearest = nearestName(name, known);
-            unknown.append(QLatin1Char('"') + name + QLatin1Char('"') +
-                           (nearest.isEmpty() ? QString() : QStringLiteral(" (did you mean \"%1\"?)").arg(nearest)));
+            unknown.append(QLatin1Char('"') + name + QLatin1Char('"') + didYouMean(name, known));
         }
     }
     return unknown;

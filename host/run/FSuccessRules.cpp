@@ -1,7 +1,7 @@
 #include "host/run/FSuccessRules.h"
 
-#include "host/core/FNearestName.h"
 #include "host/run/FSafePath.h"
+#include "host/script/FCmdManager.h"
 
 #include <QDir>
 
@@ -97,7 +97,6 @@ QString FSuccessRules::faultOfTreatment(const QString& treatment) {
     if (words.contains(treatment)) {
         return {};
     }
-    const QString nearest = nearestName(treatment, words);
-    const QString hint = nearest.isEmpty() ? QString() : QStringLiteral(" (did you mean %1?)").arg(quoted(nearest));
-    return QStringLiteral("%1 is neither \"accept\" nor \"warn\" nor \"fail\"").arg(quoted(treatment)) + hint;
+    return QStringLiteral("%1 is neither \"accept\" nor \"warn\" nor \"fail\"").arg(quoted(treatment)) +
+           didYouMean(treatment, words);
 }

@@ -1,11 +1,11 @@
 #include "host/run/FTableCommands.h"
 
-#include "host/core/FNearestName.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FTableData.h"
 #include "host/run/FValueListing.h"
 #include "host/run/FValueOrigin.h"
 #include "host/script/FCmd.h"
+#include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 
 namespace FTableCommands {
@@ -99,12 +99,11 @@ bool checkRow(const F& table, const QString& row) {
     if (table.findRow(row) >= 0) {
         return true;
     }
-    const QString near = nearestName(row, table.getRowNames());
-    const QString hint = near.isEmpty() ? QString() : QStringLiteral(" (did you mean \"%1\"?)").arg(near);
+    const QString hint = didYouMean(row, table.getRowNames());
     const QString names = table.getRowNames().mid(0, 10).join(QStringLiteral(", "));
     FCmd::warnNow(table.getName(), QStringLiteral("%1 has no value \"%2\"%3").arg(table.getName(), row, hint),
                   table.getRowCount() == 0 ? emptyRemedy(table)
-                  : near.isEmpty()         ? QStringLiteral("The result is NaN. It has %1").arg(names)
+                  : hint.isEmpty()         ? QStringLiteral("The result is NaN. It has %1").arg(names)
                                            : QStringLiteral("The result is NaN"));
     return false;
 }

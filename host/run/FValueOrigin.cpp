@@ -1,6 +1,5 @@
 #include "host/run/FValueOrigin.h"
 
-#include "host/core/FNearestName.h"
 #include "host/core/FNumber.h"
 #include "host/core/FObjectList.h"
 #include "host/core/FString.h"
@@ -8,9 +7,9 @@
 #include "host/run/FUtf8.h"
 #include "host/run/FValueRemark.h"
 #include "host/script/FCmd.h"
+#include "host/script/FCmdManager.h"
 #include "host/script/FCmdTable.h"
 
-#include <functional>
 #include <utility>
 
 namespace {
@@ -41,50 +40,42 @@ FValueOrigin::FValueOrigin(const FTableData& table, int row)
 FValueOrigin::FValueOrigin(QString file, QString name, double value, FNumberOrigin origin)
     : mFile(std::move(file)), mName(std::move(name)), mValue(value), mOrigin(std::move(origin)) {}
 
+const std::vector<FValueOrigin::Part>& FValueOrigin::parts() {
+    using F = const FValueOrigin&;
+    static const std::vector<Part> table = {
+        {"name", +[](F origin) { return textObject(origin.mName); }},
+        {"value", +[](F origin) { return FExpr<FObject>(new FDouble(origin.mValue)); }},
+        {"file", +[](F origin) { return textObject(origin.mFile); }},
+        {"line", +[](F origin) { return numberObject(origin.mOrigin.line); }},
+        {"column", +[](F origin) { return numberObject(origin.mOrigin.column); }},
+        {"text", +[](F origin) { return textObject(origin.mOrigin.text); }},
+        {"flags",
+         +[](F origin) { return FExpr<FObject>(FCmdTypeOf<QStringList>::handle(namesOf(origin.mOrigin.flags))); }},
+        {"reason", +[](F origin) { return textObject(FValueRemark::text(origin.mOrigin, origin.mValue)); }},
+        {"anchor", +[](F origin) { return textObject(origin.mOrigin.anchor); }},
+        {"anchorLine", +[](F origin) { return numberObject(origin.mOrigin.anchorLine); }},
+        {"anchorColumn", +[](F origin) { return numberObject(origin.mOrigin.anchorColumn); }},
+        {"number", +[](F origin) { return numberObject(origin.mOrigin.valueNumber); }},
+        {"rows", +[](F origin) { return origin.rows(); }},
+    };
+    return table;
+}
+
 QStringList FValueOrigin::getNames() {
-    return {QStringLiteral("name"),       QStringLiteral("value"),        QStringLiteral("file"),
-            QStringLiteral("line"),       QStringLiteral("column"),       QStringLiteral("text"),
-            QStringLiteral("flags"),      QStringLiteral("reason"),       QStringLiteral("anchor"),
-            QStringLiteral("anchorLine"), QStringLiteral("anchorColumn"), QStringLiteral("number"),
-            QStringLiteral("rows")};
+    QStringList names;
+    for (const Part& part : parts()) {
+        names.append(QString::fromLatin1(part.name));
+    }
+    return names;
 }
 
 FExpr<FObject> FValueOrigin::get(const QString& name) const {
-    const auto flags = [this] { return FExpr<FObject>(FCmdTypeOf<QStringList>::handle(namesOf(mOrigin.flags))); };
-    switch (getNames().indexOf(name)) {
-        case 0:
-            return textObject(mName);
-        case 1:
-            return FExpr<FObject>(new FDouble(mValue));
-        case 2:
-            return textObject(mFile);
-        case 3:
-            return numberObject(mOrigin.line);
-        case 4:
-            return numberObject(mOrigin.column);
-        case 5:
-            return textObject(mOrigin.text);
-        case 6:
-            return flags();
-        case 7:
-            return textObject(FValueRemark::text(mOrigin, mValue));
-        case 8:
-            return textObject(mOrigin.anchor);
-        case 9:
-            return numberObject(mOrigin.anchorLine);
-        case 10:
-            return numberObject(mOrigin.anchorColumn);
-        case 11:
-            return numberObject(mOrigin.valueNumber);
-        case 12:
-            return rows();
-        default:
-            break;
+    for (const Part& part : parts()) {
+        if (name == QLatin1String(part.name)) {
+            return part.get(*this);
+        }
     }
-    const QString near = nearestName(name, getNames());
-    FCmd::warnNow(getClass(),
-                  QStringLiteral("an origin has no \"%1\"%2")
-                      .arg(name, near.isEmpty() ? QString() : QStringLiteral(" (did you mean \"%1\"?)").arg(near)),
+    FCmd::warnNow(getClass(), QStringLiteral("an origin has no \"%1\"%2").arg(name, didYouMean(name, getNames())),
                   QStringLiteral("It has ") + getNames().join(QStringLiteral(", ")));
     return {};
 }

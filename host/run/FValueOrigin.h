@@ -25,7 +25,13 @@ class MERIX_EXPORT FValueOrigin : public FClass<FValueOrigin, FObject> {
     QString getKeptText(QString& fault) const override;
 
  private:
+    struct Part {
+        const char* name;
+        FExpr<FObject> (*get)(const FValueOrigin& origin);
+    };
+
     FValueOrigin(QString file, QString name, double value, FNumberOrigin origin);
+    static const std::vector<Part>& parts();
     FExpr<FObject> rows() const;
 
     QString mFile;

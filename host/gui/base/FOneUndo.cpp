@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-FOneUndo::FOneUndo(QWidget* field) : QObject(field) {
+FOneUndo::FOneUndo(QWidget* field, Change change) : QObject(field), mChange(change) {
     field->installEventFilter(this);
     // A list of choices that can be typed passes its keys on.
     if (auto* line = field->findChild<QLineEdit*>()) {
@@ -13,7 +13,9 @@ FOneUndo::FOneUndo(QWidget* field) : QObject(field) {
 }
 
 bool FOneUndo::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+    const auto* line = qobject_cast<const QLineEdit*>(watched);
+    const bool isTyping = mChange == Change::Finished && line && line->isModified();
+    if (!isTyping && (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)) {
         const auto& key = *static_cast<const QKeyEvent*>(event);
         if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) {
             event->ignore();

@@ -1,16 +1,16 @@
 #include "host/gui/fields/FChoiceField.h"
 
+#include "host/gui/base/FComboBox.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QSignalBlocker>
 
-FChoiceField::FChoiceField(const FAttribCmd& command) : FAttributeEditor(command), mpBox(new QComboBox(this)) {
+FChoiceField::FChoiceField(const FAttribCmd& command) : FAttributeEditor(command), mpBox(new FComboBox(this)) {
     setControl(mpBox);
     mpBox->view()->setAccessibleName(label());
     mpBox->setEnabled(!isReadOnly());
-    // The wheel scrolls the form unless the box was chosen before.
-    mpBox->setFocusPolicy(Qt::StrongFocus);
     constexpr int leastWidth = 8;
     mpBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mpBox->setMinimumContentsLength(leastWidth);
@@ -65,10 +65,6 @@ bool FChoiceField::eventFilter(QObject* watched, QEvent* event) {
     if (watched == mpBox && event->type() == QEvent::FocusIn &&
         static_cast<const QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
         fill();
-    }
-    if (watched == mpBox && event->type() == QEvent::Wheel && !mpBox->hasFocus()) {
-        event->ignore();
-        return true;
     }
     return FAttributeEditor::eventFilter(watched, event);
 }

@@ -69,6 +69,33 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
 }
 
+TEST_F(FGenIntCommandFileEditTest, tagsWithUnusualNamesLeaveTheRestOfTheLineAlone) {
+    open("x <entry>a b</entry> scale = 2.5 <entry>FORCE</entry> end = 3 tail\n");
+    EXPECT_EQ(hover("scale")->text(), "scale = 2.5");
+    click("scale");
+    EXPECT_EQ(content(), "x <entry>a b</entry> scale = <entry>scale</entry> <entry>FORCE</entry> end = 3 tail\n");
+    chooseForTag("<entry>a b", "Replace/Geometry/span");
+    EXPECT_EQ(content(),
+              "x <entry>Geometry|span</entry> scale = <entry>scale</entry> <entry>FORCE</entry> end = 3 tail\n");
+    // Case doesn't matter, as for the writer.
+    setText("<entry>force</entry>", "other");
+    chooseForTag("<entry>FORCE", "Rename");
+    auto* field = find<QLineEdit>("entryName");
+    field->clear();
+    type(field, "while");
+    press(field, Qt::Key_Return);
+    EXPECT_NE(entry("force"), nullptr) << "a word of the language is no name";
+    type(field, "2");
+    press(field, Qt::Key_Return);
+    EXPECT_NE(entry("while2"), nullptr);
+    EXPECT_EQ(content("other"), "<entry>while2</entry>");
+    undo();
+    chooseForTag("<entry>FORCE", "Delete (from all files)");
+    EXPECT_EQ(entry("force"), nullptr);
+    EXPECT_EQ(content("other"), "10");
+    EXPECT_EQ(content(), "x <entry>Geometry|span</entry> scale = <entry>scale</entry> 10 end = 3 tail\n");
+}
+
 TEST_F(FGenIntCommandFileEditTest, aTagIsRenamedRemovedReplacedOrDeletedWithItsEntry) {
     struct Case {
         QString choice, text, other, step;

@@ -70,6 +70,18 @@ TEST_F(FGenIntCommandFileEditorTest, whoeverReadsTheModelGetsWhatWasTyped) {
     typeAtEnd("2");
     find("templateName")->setFocus();
     EXPECT_EQ(content(), "a\n2");
+    auto* name = find<QLineEdit>("templateName");
+    name->clear();
+    type(name, "new.inp");
+    press(name, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(name->text(), "new.inp") << "what isn't in the model yet";
+    name->setText(QString());
+    type(name, "new.inp");
+    press(name, Qt::Key_Return);
+    EXPECT_EQ(file().getFileName(), "new.inp");
+    press(name, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(file().getFileName(), "deck.inp");
+    EXPECT_EQ(name->text(), "deck.inp");
     edit().setFocus();
     typeAtEnd("3");
     FProject::instance()->save(folder.path("p.mrx"));

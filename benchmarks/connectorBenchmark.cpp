@@ -40,7 +40,10 @@ T* object(const char* name) {
     return dynamic_cast<T*>(FObjectManager::instance()->find(QString::fromLatin1(name)));
 }
 
-/** A shown connector with that many items: half of them geometry, half of them input files. */
+/**
+ * A shown connector with that many items: half of them geometry, half of them input files, and a template that uses all
+ * of them.
+ */
 class Connector {
  public:
     explicit Connector(int items, const char* size) {
@@ -49,12 +52,18 @@ class Connector {
         mWindow.resize(1480, 920);
         mWindow.show();
         QString script = QStringLiteral("softwareConnector c()\nc.setItemSize(%1)\npoint p(1, 2, 3)\n").arg(size);
+        QString tags;
         for (int item = 0; item < items / 2; ++item) {
+            tags += QStringLiteral("<entry>Exports|in%1</entry><entry>Exports|geo%1</entry>").arg(item);
             script +=
                 QStringLiteral("definitionGenInt.addEntry(\"Exports|in%1\", inputFile(\"in%1.dat\"))\n").arg(item);
             script +=
                 QStringLiteral("definitionGenInt.addEntry(\"Exports|geo%1\", geometryExport(\"%1.csv\"))\n").arg(item);
         }
+        script += QStringLiteral(
+                      "genericIntegrationCommandFile all() { .setFileName(\"all.inp\") .setContent(\"%1\") }\n"
+                      "definitionGenInt.setFiles([all])\n")
+                      .arg(tags);
         const FUserStep step(QStringLiteral("build"));
         execute(script);
     }

@@ -28,7 +28,7 @@ void FConnectorAccessible::install() {
 
 QList<QObject*> FConnectorAccessible::parts() const {
     const FSoftConScene* scene = static_cast<const FSoftConView*>(widget())->connectorScene();
-    return scene ? scene->parts() : QList<QObject*>();
+    return scene ? scene->buttonParts() + scene->itemParts() : QList<QObject*>();
 }
 
 int FConnectorAccessible::childCount() const {
@@ -47,6 +47,16 @@ QAccessibleInterface* FConnectorAccessible::childAt(int x, int y) const {
     for (QObject* part : parts()) {
         QAccessibleInterface* found = QAccessible::queryAccessibleInterface(part);
         if (found && found->rect().contains(x, y)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QAccessibleInterface* FConnectorAccessible::focusChild() const {
+    for (QObject* part : parts()) {
+        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(part);
+        if (found && found->state().focused) {
             return found;
         }
     }

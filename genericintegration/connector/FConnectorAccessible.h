@@ -14,6 +14,7 @@ class FConnectorAccessible : public QAccessibleWidget {
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
 
     /** Makes the classes known to Qt; further calls do nothing. */
     static void install();

@@ -15,6 +15,7 @@ class FHoverCursor {
     void enter();
     void leave();
     void clear();
+    bool isOn() const { return mDepth > 0; }
 
  private:
     int mDepth = 0;

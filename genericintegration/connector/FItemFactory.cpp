@@ -49,6 +49,16 @@ bool isKnown(const FItemScene& scene, const QString& path, const QString& relati
     return isThere;
 }
 
+/** An expression can give the file of another entry; where that isn't known yet, its prototype. */
+const FObject* valueOf(const FEntry& entry) {
+    const FExprBase& value = entry.getValue();
+    const FObject* stored = value.getStored();
+    if (!stored || !stored->isCmd()) {
+        return stored;
+    }
+    return value.canSafelyBeUpdated(false) ? value.getObject() : stored->getEvaluatedType();
+}
+
 bool isLinked(const FInputFile& value) {
     const FExprBase& name = value.getFileName();
     const FObject* expression = name.isValid() ? name.getStored() : nullptr;
@@ -89,9 +99,7 @@ class Maker {
             return make<FSoftConImportItem>(SoftConImportArea, ":/softConImport");
         }
         if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
-            const FExprBase value = entry->getValue();
-            // An expression can give another entry's file or export.
-            return ofValue(value.canSafelyBeUpdated(true) ? value.getObject() : value.getStored());
+            return ofValue(valueOf(*entry));
         }
         reportType(object->getClass());
         return nullptr;

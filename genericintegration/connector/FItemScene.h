@@ -24,6 +24,8 @@ class FItemScene : public FLayoutScene {
 
     /** Shows the editor of what the item stands for, unless a double click follows. */
     virtual void callEditor(const FSoftConObjectItem* item) = 0;
+    /** The user points at the item, or has left it: the lines from and to it look different. */
+    virtual void emphasisChanged(const FSoftConObjectItem* item) = 0;
     virtual void gotoTab(const FExpr<FGenIntFile>& file) = 0;
     virtual void triggerAddTab(const FExpr<FGenIntFile>& file) = 0;
     virtual void setTabName(const FExpr<FGenIntFile>& file) = 0;

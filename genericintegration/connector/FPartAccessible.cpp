@@ -1,5 +1,6 @@
 #include "genericintegration/connector/FPartAccessible.h"
 
+#include "genericintegration/connector/FItemLinks.h"
 #include "genericintegration/connector/FItemScene.h"
 #include "genericintegration/connector/FSoftConObjectItem.h"
 #include "genericintegration/connector/FSoftConScene.h"
@@ -8,7 +9,6 @@
 #include <QGraphicsProxyWidget>
 #include <QGraphicsSceneEvent>
 #include <QGraphicsView>
-#include <QPointer>
 
 namespace {
 
@@ -72,9 +72,16 @@ QString FPartAccessible::text(QAccessible::Text kind) const {
         return shown ? shown->getLabelItem()->text() : pressed ? pressed->accessibleName() : QString();
     }
     if (kind == QAccessible::Description) {
-        return shown ? shown->getToolTip() : pressed ? pressed->toolTip() : QString();
+        return shown ? description() : pressed ? pressed->toolTip() : QString();
     }
     return {};
+}
+
+QString FPartAccessible::description() const {
+    const auto* scene = qobject_cast<FSoftConScene*>(item()->scene());
+    QStringList texts{item()->getToolTip(), scene ? scene->links().describe(*item()) : QString()};
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
 }
 
 QAccessible::Role FPartAccessible::role() const {
@@ -90,6 +97,8 @@ QAccessible::State FPartAccessible::state() const {
     state.disabled = !part || !part->isEnabled();
     state.invisible = !shown || !shown->isVisible() || !part->isVisible();
     state.offscreen = shown && !shown->rect().intersects(QRect(shown->mapFromGlobal(rect().topLeft()), rect().size()));
+    state.focusable = part && (part->flags() & QGraphicsItem::ItemIsFocusable);
+    state.focused = part && part->hasFocus();
     state.checkable = pressed && pressed->isCheckable();
     state.checked = pressed && pressed->isChecked();
     return state;
@@ -109,7 +118,8 @@ void* FPartAccessible::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QStringList FPartAccessible::actionNames() const {
-    return item() ? QStringList{pressAction(), openAction(), showMenuAction()} : QStringList{pressAction()};
+    return item() ? QStringList{pressAction(), openAction(), showMenuAction(), setFocusAction()}
+                  : QStringList{pressAction(), setFocusAction()};
 }
 
 QString FPartAccessible::localizedActionName(const QString& name) const {
@@ -117,7 +127,8 @@ QString FPartAccessible::localizedActionName(const QString& name) const {
 }
 
 QString FPartAccessible::localizedActionDescription(const QString& name) const {
-    return name == openAction()       ? QStringLiteral("What a double click does")
+    return name == setFocusAction()   ? QStringLiteral("Gives it the keyboard's focus")
+           : name == openAction()     ? QStringLiteral("What a double click does")
            : name == showMenuAction() ? QStringLiteral("Shows what can be done with it")
            : item()                   ? QStringLiteral("Shows it in the editor of objects")
                                       : QStringLiteral("Presses the button");
@@ -133,10 +144,12 @@ void FPartAccessible::doAction(const QString& name) {
     if (!part || !part->isEnabled()) {
         return;
     }
-    if (QAbstractButton* pressed = button()) {
+    if (name == setFocusAction()) {
+        setFocus();
+    } else if (QAbstractButton* pressed = button()) {
         pressed->click();
     } else if (name == openAction()) {
-        openItem();
+        item()->open();
     } else if (name == showMenuAction()) {
         showMenu();
     } else if (FItemScene* scene = item()->getScene()) {
@@ -144,15 +157,10 @@ void FPartAccessible::doAction(const QString& name) {
     }
 }
 
-// As with a mouse: the release that follows a double click is no click.
-void FPartAccessible::openItem() {
-    const QPointer<QObject> opened(item());
-    QGraphicsScene* scene = item()->scene();
-    QGraphicsSceneMouseEvent twice(QEvent::GraphicsSceneMouseDoubleClick);
-    scene->sendEvent(item(), &twice);
-    if (opened && item()->scene()) {
-        QGraphicsSceneMouseEvent release(QEvent::GraphicsSceneMouseRelease);
-        scene->sendEvent(item(), &release);
+void FPartAccessible::setFocus() {
+    if (QGraphicsView* shown = view()) {
+        shown->setFocus();
+        const_cast<QGraphicsItem*>(graphicsItem())->setFocus();
     }
 }
 

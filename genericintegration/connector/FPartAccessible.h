@@ -39,6 +39,7 @@ class FPartAccessible : public QAccessibleObject, public QAccessibleActionInterf
     FSoftConObjectItem* item() const;
     QAbstractButton* button() const;
     QGraphicsView* view() const;
-    void openItem();
+    QString description() const;
+    void setFocus();
     void showMenu();
 };

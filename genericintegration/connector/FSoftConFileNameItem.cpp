@@ -89,34 +89,33 @@ void FSoftConFileNameItem::updateItem() {
     }
 }
 
-void FSoftConFileNameItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) {
+bool FSoftConFileNameItem::open() {
     FItemScene* scene = getScene();
     const FInputFile* value = file();
     if (!scene || !value) {
-        FSoftConEntryItem::mouseDoubleClickEvent(event);
-        return;
+        return FSoftConEntryItem::open();
     }
     const FExprBase fileName = value->getFileName();
     const QString folder = textOf(value->getSaveDirectory());
     // While a question is open, the item can be removed.
     const QPointer<QObject> self(this);
     if (!mayReplace(fileName) || !self) {
-        return;
+        return true;
     }
     QString path = textOf(fileName);
     if (path.isEmpty() && isSetByCommand(fileName)) {
         path = FLinkText::caption(fileName.toString());
     }
     if (!mayLoad(path) || !self || getScene() != scene) {
-        return;
+        return true;
     }
     const FUserStep step(QStringLiteral("create input template"));
     const FSoftConObjectItem* made = scene->createItem(nullptr, FGenIntCommandFile::null(), path, folder);
     if (made) {
-        FSoftConEntryItem::mouseDoubleClickEvent(event);
         scene->deleteItem(this);
         scene->gotoTab(FExpr<FGenIntFile>(made->getObject()));
     }
+    return true;
 }
 
 bool FSoftConFileNameItem::mayReplace(const FExprBase& fileName) {

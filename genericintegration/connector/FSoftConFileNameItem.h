@@ -19,10 +19,9 @@ class FSoftConFileNameItem : public FClass<FSoftConFileNameItem, FSoftConEntryIt
     QString getDisplayName(const FExpr<FEntry>& entry, bool resolved) const override;
     QString getToolTip() const override;
     void updateItem() override;
+    bool open() override;
 
  protected:
-    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
-
     FInputFile* file() const;
     /** What the item shows of the file's name. */
     QString shownText() const;

@@ -12,5 +12,3 @@ void FSoftConFileNameRefItem::updateItem() {
         FSoftConEntryItem::updateItem();
     }
 }
-
-void FSoftConFileNameRefItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* /*event*/) {}

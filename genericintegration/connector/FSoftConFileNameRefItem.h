@@ -12,7 +12,8 @@ class FSoftConFileNameRefItem : public FClass<FSoftConFileNameRefItem, FSoftConF
 
     bool isReference() const override { return true; }
     void updateItem() override;
+    bool open() override { return false; }
 
  protected:
-    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override { Q_UNUSED(event) }
 };

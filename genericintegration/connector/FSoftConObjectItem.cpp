@@ -12,6 +12,9 @@
 #include <QFontMetrics>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsSceneEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
 #include <QPen>
 #include <QPixmapCache>
 #include <QToolButton>
@@ -32,6 +35,7 @@ FClassData FSoftConObjectItem::mClass("FSoftConObjectItem", &FSoftwareConnectorI
 FSoftConObjectItem::FSoftConObjectItem(FItemScene* scene, QGraphicsItem* parent, const FExpr<FObject>& object,
                                        SoftConArea area, const QString& image)
     : FClass(scene, parent, area, image) {
+    setFlag(ItemIsFocusable);
     setObject(object);
 }
 
@@ -49,6 +53,7 @@ void FSoftConObjectItem::init() {
     auto* button = new QToolButton;
     button->setObjectName(QStringLiteral("deleteButton"));
     button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
     // The frame behind shows through.
     button->setAttribute(Qt::WA_NoSystemBackground);
     mDeleteProxy = new QGraphicsProxyWidget(this);
@@ -152,6 +157,22 @@ QRectF FSoftConObjectItem::boundingRect() const {
     return mFrame ? picture | mFrame->boundingRect() : picture;
 }
 
+void FSoftConObjectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) {
+    FSoftwareConnectorItem::paint(painter, option, widget);
+    if (!hasFocus()) {
+        return;
+    }
+    // A line that stands out from what is around it, and one from the picture.
+    constexpr double width = 2;
+    const QPalette palette = QGuiApplication::palette();
+    const QRectF outer = boundingRect().adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(palette.color(QPalette::Base), width));
+    painter->drawRect(outer.adjusted(width, width, -width, -width));
+    painter->setPen(QPen(palette.color(QPalette::Highlight), width));
+    painter->drawRect(outer);
+}
+
 void FSoftConObjectItem::setupItem(const QString& name, bool noFrame) {
     const FItemScene* scene = getScene();
     const FSoftConLayout* layout = scene ? scene->getLayout() : nullptr;
@@ -220,6 +241,44 @@ bool FSoftConObjectItem::sceneEventFilter(QGraphicsItem* watched, QEvent* event)
     }
 }
 
+bool FSoftConObjectItem::isEmphasized() const {
+    return isUnderPointer() || hasFocus() || FSelectionSet::instance()->contains(mObject.getStored());
+}
+
+void FSoftConObjectItem::tellEmphasis() {
+    if (FItemScene* scene = getScene()) {
+        scene->emphasisChanged(this);
+    }
+}
+
+void FSoftConObjectItem::focusInEvent(QFocusEvent* event) {
+    QGraphicsItem::update();
+    tellEmphasis();
+    FSoftwareConnectorItem::focusInEvent(event);
+}
+
+void FSoftConObjectItem::focusOutEvent(QFocusEvent* event) {
+    QGraphicsItem::update();
+    tellEmphasis();
+    FSoftwareConnectorItem::focusOutEvent(event);
+}
+
+void FSoftConObjectItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event) {
+    FSoftwareConnectorItem::hoverEnterEvent(event);
+    tellEmphasis();
+}
+
+void FSoftConObjectItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event) {
+    FSoftwareConnectorItem::hoverLeaveEvent(event);
+    tellEmphasis();
+}
+
+// Also on its frame, which can't have the focus itself.
+void FSoftConObjectItem::mousePressEvent(QGraphicsSceneMouseEvent* event) {
+    FSoftwareConnectorItem::mousePressEvent(event);
+    setFocus(Qt::MouseFocusReason);
+}
+
 void FSoftConObjectItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event) {
     FItemScene* scene = getScene();
     if (mDoubleClicked) {
@@ -230,11 +289,17 @@ void FSoftConObjectItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event) {
     QGraphicsPixmapItem::mouseReleaseEvent(event);
 }
 
-void FSoftConObjectItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) {
+bool FSoftConObjectItem::open() {
     FItemScene* scene = getScene();
+    const FExpr<FGenIntFile> file(mObject);
     if (scene && mObject) {
-        mDoubleClicked = true;
-        scene->gotoTab(FExpr<FGenIntFile>(mObject));
+        scene->gotoTab(file);
     }
+    return static_cast<bool>(file);
+}
+
+void FSoftConObjectItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) {
+    mDoubleClicked = mDoubleClicked || (getScene() && mObject);
+    open();
     QGraphicsPixmapItem::mouseDoubleClickEvent(event);
 }

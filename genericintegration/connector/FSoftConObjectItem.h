@@ -30,11 +30,15 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
      * @param relativePath  the base of the path, or the folder that the file is kept in
      */
     virtual void createObject(const QString& path, const QString& relativePath);
+    /** What a double click does; false if it has no effect on this item. */
+    virtual bool open();
     /** Takes the object out of the set-up. */
     virtual void removeObject() {}
     /** Draws the picture and places its parts. */
     virtual void updateItem();
 
+    /** Whether the user points at the item, has selected its object, or would reach it with keys. */
+    bool isEmphasized() const;
     /** After a change of the palette or of the screen. */
     virtual void updateLook();
 
@@ -48,6 +52,7 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     void applyLayout(const FLayoutItem& item);
 
     QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
     /** Null for an item that can't be deleted. */
     QGraphicsProxyWidget* deleteProxy() const { return mDeleteProxy; }
 
@@ -65,6 +70,11 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     /** It evaluates only what it shows: a picture has no results read, and no warning about those that aren't there. */
     bool updatesSuppliersItself() const override { return true; }
     bool sceneEventFilter(QGraphicsItem* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent* event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent* event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
 
@@ -74,5 +84,6 @@ class FSoftConObjectItem : public FClass<FSoftConObjectItem, FSoftwareConnectorI
     QGraphicsProxyWidget* mDeleteProxy = nullptr;
 
  private:
+    void tellEmphasis();
     void paintFrame();
 };

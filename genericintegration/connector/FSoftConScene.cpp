@@ -4,6 +4,7 @@
 #include "genericintegration/connector/FConnectorHelp.h"
 #include "genericintegration/connector/FItemDialogs.h"
 #include "genericintegration/connector/FItemFactory.h"
+#include "genericintegration/connector/FItemLinks.h"
 #include "genericintegration/connector/FSceneDrops.h"
 #include "genericintegration/connector/FSceneFurniture.h"
 #include "genericintegration/connector/FSetUpObjects.h"
@@ -39,8 +40,11 @@
 #include <QAccessible>
 #include <QAction>
 #include <QActionGroup>
+#include <QElapsedTimer>
+#include <QFocusEvent>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneDragDropEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
@@ -117,11 +121,21 @@ Item* ownerOf(QGraphicsItem* item) {
 }  // namespace
 
 FSoftConScene::FSoftConScene(FSoftwareConnector& connector)
-    : QGraphicsScene(&connector), mConnector(connector), mpFurniture(new FSceneFurniture(*this)), mHints(*this) {
+    : QGraphicsScene(&connector),
+      mConnector(connector),
+      mpFurniture(new FSceneFurniture(*this)),
+      mHints(*this),
+      mpLinks(new FItemLinks) {
+    addItem(mpLinks);
     mSelectTimer.setSingleShot(true);
     mSelectTimer.setInterval(doubleClickTime);
     connect(&mSelectTimer, &QTimer::timeout, this, &FSoftConScene::selectItem);
     connectFurniture();
+    connect(this, &QGraphicsScene::focusItemChanged, this,
+            [this](QGraphicsItem* item, const QGraphicsItem* /*before*/, Qt::FocusReason reason) {
+                focusChanged(item, reason == Qt::TabFocusReason);
+            });
+    connect(FSelectionSet::instance(), &FSelectionSet::selectionReplaced, this, [this] { mpLinks->update(); });
 }
 
 FSoftConScene::~FSoftConScene() {
@@ -168,10 +182,12 @@ void FSoftConScene::doUpdate() {
     if (!difference.itemsToRemove().isEmpty() || !difference.objectsToAdd().isEmpty()) {
         calcItemRatios();
     }
+    requestLinks();
 }
 
 void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
     mItems.removeOne(item);
+    mpLinks->forget(*item);
     removeItem(item);
     item->release();
     calcItemRatios();
@@ -180,6 +196,7 @@ void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
 void FSoftConScene::clearItems() {
     mSelectTimer.stop();
     mSelectedObject = FExpr<FObject>();
+    mpLinks->setLinks({});
     while (!mItems.isEmpty()) {
         removeObjectItem(mItems.last());
     }
@@ -201,8 +218,12 @@ void FSoftConScene::updateInputFileItems() {
     }
 }
 
-QList<QObject*> FSoftConScene::parts() const {
-    QList<QObject*> parts = mpFurniture->buttons();
+QList<QObject*> FSoftConScene::buttonParts() const {
+    return mpFurniture->buttons();
+}
+
+QList<QObject*> FSoftConScene::itemParts() const {
+    QList<QObject*> parts;
     for (FSoftConObjectItem* item : mItems) {
         parts.append(item);
     }
@@ -271,6 +292,7 @@ void FSoftConScene::layOut(const QRect& view) {
     }
     mGeometry.emplace(area, mpFurniture->sizes(mComputationItemSize.width()));
     mpFurniture->place(*mGeometry);
+    mpLinks->place();
     mHints.place(*mGeometry, mpFurniture->titleBarHeight());
     updateHints();
     setSceneRect(scene);
@@ -289,6 +311,90 @@ void FSoftConScene::updateHints() {
     }
     for (int area = 0; area < filledAreas; ++area) {
         mHints.show(static_cast<SoftConArea>(area), !isFilled[static_cast<std::size_t>(area)]);
+    }
+}
+
+// Long templates are read one after the other, and only while the lines are in sight.
+void FSoftConScene::findLinks() {
+    constexpr int slice = 20;  // milliseconds
+    const FSetUpObjects setUp(getComputation());
+    QHash<const FObject*, const FSoftConObjectItem*> inputs;
+    QSet<const FObject*> entries;
+    for (const FSoftConObjectItem* item : qAsConst(mItems)) {
+        if (isUpperArea(item->getArea())) {
+            const FObject* object = item->getObject().getStored();
+            inputs.insert(object, item);
+            if (dynamic_cast<const FSoftConEntryItem*>(item)) {
+                entries.insert(object);
+            }
+        }
+    }
+    if (!mConnector.getView()->isVisible() || !setUp.definition()) {
+        return;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    while (!entries.isEmpty() && mFeeds.readNext(*setUp.definition())) {
+        if (timer.hasExpired(slice)) {
+            requestLinks();
+            return;
+        }
+    }
+    std::vector<FItemLinks::Link> links;
+    for (const auto& [entry, file] : mFeeds.find(*setUp.configuration(), *setUp.definition(), entries)) {
+        const FSoftConObjectItem* to = inputs.value(file);
+        if (to) {
+            links.push_back({inputs.value(entry), to});
+        }
+    }
+    mpLinks->setLinks(links);
+}
+
+void FSoftConScene::emphasisChanged(const FSoftConObjectItem* item) {
+    mpLinks->updateLinksOf(*item);
+}
+
+// ---- keys ----
+
+bool FSoftConScene::event(QEvent* event) {
+    const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    const bool isTab = key && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) &&
+                       !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (!isTab) {
+        return QGraphicsScene::event(event);
+    }
+    event->setAccepted(mKeys.goOn(key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier)));
+    return true;
+}
+
+// The base would give the focus to the first of all buttons.
+void FSoftConScene::focusInEvent(QFocusEvent* event) {
+    const bool isForward = event->reason() == Qt::TabFocusReason;
+    QFocusEvent restored(QEvent::FocusIn, Qt::OtherFocusReason);
+    QGraphicsScene::focusInEvent(&restored);
+    if (isForward || event->reason() == Qt::BacktabFocusReason) {
+        mKeys.enter(isForward);
+    }
+}
+
+void FSoftConScene::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(mKeys.press(*event));
+    if (!event->isAccepted()) {
+        QGraphicsScene::keyPressEvent(event);
+    }
+}
+
+void FSoftConScene::focusChanged(QGraphicsItem* item, bool isByKey) {
+    QObject* part = item ? item->toGraphicsObject() : nullptr;
+    part = part ? part : dynamic_cast<FSoftConObjectItem*>(item);
+    if (part) {
+        mKeys.remember(part);
+        // Nothing moves away from under the mouse.
+        if (isByKey) {
+            mConnector.getView()->ensureVisible(item->sceneBoundingRect(), 0, 0);
+        }
+        QAccessibleEvent focused(part, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focused);
     }
 }
 
@@ -362,6 +468,7 @@ void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
         mSelectedObject = FExpr<FObject>();
     }
     mItems.removeOne(item);
+    mpLinks->forget(*item);
     removeItem(item);
     item->removeObject();
     item->release();

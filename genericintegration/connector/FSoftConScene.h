@@ -2,9 +2,11 @@
 
 #include "genericintegration/connector/FAreaHints.h"
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/FSceneKeys.h"
 #include "genericintegration/connector/layout/FItemRequests.h"
 #include "genericintegration/connector/layout/FLayoutItem.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
+#include "genericintegration/setup/FTemplateFeeds.h"
 #include "genericintegration/setup/SoftConItemSize.h"
 #include "host/core/FQueuedCall.h"
 
@@ -15,6 +17,7 @@
 #include <vector>
 
 class FDefinitionGenInt;
+class FItemLinks;
 class FSceneFurniture;
 class FSoftwareConnector;
 class FSoftwareConnectorItem;
@@ -52,8 +55,12 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     /** The items that stand for objects, in the order of their creation. */
     const QList<FSoftConObjectItem*>& objectItems() const { return mItems; }
 
-    /** The buttons of the areas in reading order, then the items. */
-    QList<QObject*> parts() const;
+    /** The buttons of the areas in reading order. */
+    QList<QObject*> buttonParts() const;
+    QList<QObject*> itemParts() const;
+    const FItemLinks& links() const { return *mpLinks; }
+    /** Has the lines between items follow what the templates use. */
+    void requestLinks() { mFindLinks.request(); }
 
     /** Makes items for files, within the limits for a batch. Call it in a step. */
     void createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base, bool keepFolders);
@@ -70,6 +77,7 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     void setComputationItemSize(const QSizeF& size) override { mComputationItemSize = size; }
     const QSizeF& getComputationItemSize() const { return mComputationItemSize; }
     void callEditor(const FSoftConObjectItem* item) override;
+    void emphasisChanged(const FSoftConObjectItem* item) override;
     void gotoTab(const FExpr<FGenIntFile>& file) override;
     void triggerAddTab(const FExpr<FGenIntFile>& file) override;
     void setTabName(const FExpr<FGenIntFile>& file) override;
@@ -102,6 +110,9 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     void gotoViewerTab(FExpr<FGenIntFile> pFile);
 
  protected:
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
     void dragEnterEvent(QGraphicsSceneDragDropEvent* event) override;
     void dragMoveEvent(QGraphicsSceneDragDropEvent* event) override;
@@ -119,12 +130,17 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     QGraphicsItem* itemUnder(const QPointF& point) const;
     void layOut(const QRect& view);
     void updateHints();
+    void findLinks();
+    void focusChanged(QGraphicsItem* item, bool isByKey);
     void addSizeActions(QMenu& menu, QActionGroup& group);
 
     FSoftwareConnector& mConnector;
     FSceneFurniture* mpFurniture;
     QList<FSoftConObjectItem*> mItems;
     FAreaHints mHints;
+    FItemLinks* mpLinks;
+    FTemplateFeeds mFeeds;
+    FSceneKeys mKeys{*this};
     FSmartPtr<FSoftConLayout> mLayout;
     std::optional<FSceneGeometry> mGeometry;
     std::vector<FLayoutItem> mLayoutItems;
@@ -134,4 +150,5 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     bool mRedrawRequired = false;
     bool mIsUpdating = false;
     FQueuedCall mRedraw{[this] { redraw(); }};
+    FQueuedCall mFindLinks{[this] { findLinks(); }};
 };

@@ -4,6 +4,8 @@
 #include "genericintegration/connector/FSoftConScene.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QGraphicsItem>
 #include <QScrollBar>
 
 #include <memory>
@@ -58,6 +60,26 @@ void FSoftConView::paintEvent(QPaintEvent* event) {
         connectorScene()->updateLook();
     }
     QGraphicsView::paintEvent(event);
+}
+
+// By key, the menu is that of what has the focus.
+void FSoftConView::contextMenuEvent(QContextMenuEvent* event) {
+    const QGraphicsItem* focused = scene() ? scene()->focusItem() : nullptr;
+    if (event->reason() != QContextMenuEvent::Keyboard || !focused) {
+        QGraphicsView::contextMenuEvent(event);
+        return;
+    }
+    const QPoint place = mapFromScene(focused->sceneBoundingRect().center());
+    QContextMenuEvent there(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place), event->modifiers());
+    QGraphicsView::contextMenuEvent(&there);
+    event->setAccepted(there.isAccepted());
+}
+
+void FSoftConView::showEvent(QShowEvent* event) {
+    QGraphicsView::showEvent(event);
+    if (connectorScene()) {
+        connectorScene()->requestLinks();
+    }
 }
 
 void FSoftConView::dragEnterEvent(QDragEnterEvent* event) {

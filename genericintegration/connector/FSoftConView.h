@@ -18,9 +18,11 @@ class FSoftConView : public QGraphicsView {
 
  protected:
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
  private:
     /** Until the user scrolls, shows the top of what is larger than the view, with the computation in the middle. */

@@ -38,6 +38,7 @@ class FSoftwareConnectorItem : public FClass<FSoftwareConnectorItem, QObject, QG
     void copyFileName();
 
  protected:
+    bool isUnderPointer() const { return mCursor.isOn(); }
     /** Shows the present state of the object. Called by each update, and so within the step that changed it. */
     virtual void refresh() {}
     bool isRefreshing() const { return mIsRefreshing; }

@@ -39,6 +39,7 @@ class FFakeItemScene final : public QGraphicsScene, public FItemScene {
     FExpr<FExternComputation> getComputation() const override { return mComputation; }
     void setComputationItemSize(const QSizeF& size) override { computationSize = size; }
     void callEditor(const FSoftConObjectItem* item) override { calls.append("edit " + item->getObject().toString()); }
+    void emphasisChanged(const FSoftConObjectItem* item) override { Q_UNUSED(item) }
     void gotoTab(const FExpr<FGenIntFile>& file) override { calls.append("tab " + nameOf(file)); }
     void triggerAddTab(const FExpr<FGenIntFile>& file) override { calls.append("add tab " + nameOf(file)); }
     void setTabName(const FExpr<FGenIntFile>& file) override { calls.append("name tab " + nameOf(file)); }

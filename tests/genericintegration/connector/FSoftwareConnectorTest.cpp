@@ -1,5 +1,6 @@
 #include "genericintegration/connector/FSoftwareConnector.h"
 
+#include "genericintegration/connector/FItemLinks.h"
 #include "genericintegration/connector/FSceneFurniture.h"
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConObjectItem.h"
@@ -409,6 +410,105 @@ TEST_F(FSoftwareConnectorTest, aScreenReaderFindsItsButtonsAndItems) {
     input->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(items(), "more.inp | out.txt | solver");
     EXPECT_EQ(part("case.inp"), nullptr);
+}
+
+TEST_F(FSoftwareConnectorTest, linesLeadFromWhatTemplatesUse) {
+    open();
+    const auto links = [this](const QString& label) {
+        settle();
+        const FSoftConObjectItem* shown = item(label);
+        return shown ? scene().links().describe(*shown).toStdString() : std::string();
+    };
+    ASSERT_TRUE(
+        run("point p(1, 2, 3)\nd.addEntry(\"Exports|tip\", geometryExport(\"tip.csv\", 0, [p]))\n"
+            "d.addEntry(\"Exports|mesh\", inputFile(\"mesh.msh\"))\n"
+            "input.setContent(\"<ENTRY>exports|TIP</ENTRY> <entry>a</entry>\")\n"
+            "parameter half(c.getEntryValue(\"Exports|mesh\"))\n"));
+    EXPECT_EQ(links("tip"), "used in case.inp");
+    EXPECT_EQ(links("mesh.msh"), "");
+    EXPECT_EQ(links("case.inp"), "uses tip");
+    ASSERT_TRUE(run("c.setEntryValue(\"b\", format(2, c.getEntryValue(\"Exports|mesh\")))"));
+    EXPECT_EQ(links("mesh.msh"), "used in more.inp") << "by way of b";
+    ASSERT_TRUE(run("input.setContent(\"<entry>a</entry>\")"));
+    EXPECT_EQ(links("tip"), "");
+    trigger("undo");
+    EXPECT_EQ(links("tip"), "used in case.inp");
+    // A line isn't in the way of anything.
+    const QRectF from = item("tip")->sceneBoundingRect();
+    const QPointF onLine = scene().links().boundingRect().center();
+    EXPECT_FALSE(from.contains(onLine));
+    EXPECT_FALSE(scene().items(onLine).contains(const_cast<FItemLinks*>(&scene().links())));
+    const auto highlighted = [this] {
+        settle();
+        const QImage picture = connector().getView()->grab().toImage();
+        const QRgb color = connector().palette().color(QPalette::Highlight).rgb();
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                count += picture.pixel(x, y) == color ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    EXPECT_EQ(highlighted(), 0);
+    QTest::mouseMove(connector().getView()->viewport(), pointOf(from.center()));
+    EXPECT_GT(highlighted(), 0) << "the line of the item under the pointer";
+    ASSERT_TRUE(run("destroy(p)"));
+    scene().deleteItem(item("tip"));
+    EXPECT_EQ(links("case.inp"), "");
+}
+
+TEST_F(FSoftwareConnectorTest, keysDoWhatTheMouseDoes) {
+    open();
+    ASSERT_TRUE(
+        run("d.addEntry(\"Exports|mesh\", inputFile(\"mesh.msh\"))\npoint p(1, 2, 3)\n"
+            "d.addEntry(\"Exports|tip\", geometryExport(\"tip.csv\", 0, [p]))"));
+    settle();
+    QGraphicsView* view = connector().getView();
+    const auto focused = [&] {
+        settle();
+        QAccessibleInterface* part = QAccessible::queryAccessibleInterface(view)->focusChild();
+        return part ? part->text(QAccessible::Name).toStdString() : std::string();
+    };
+    find<QTabBar>("softConTabBar")->setFocus();
+    view->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(focused(), "tip");
+    const auto go = [&](std::initializer_list<Qt::Key> keys) {
+        for (const Qt::Key key : keys) {
+            press(view, key);
+        }
+        return focused();
+    };
+    EXPECT_EQ(go({Qt::Key_Right, Qt::Key_Right}), "mesh.msh");
+    EXPECT_EQ(go({Qt::Key_Up}), "mesh.msh") << "there is nothing above";
+    EXPECT_EQ(go({Qt::Key_Left, Qt::Key_Down}), "solver");
+    EXPECT_EQ(go({Qt::Key_Down}), "out.txt");
+    EXPECT_EQ(go({Qt::Key_Up, Qt::Key_Space}), "solver");
+    ASSERT_TRUE(waitUntil([] { return FSelectionSet::instance()->contains(object<FManaged>("solver")); }));
+    EXPECT_EQ(go({Qt::Key_Up, Qt::Key_Right}), "case.inp");
+    press(view, Qt::Key_Return);
+    EXPECT_EQ(connector().tabText(connector().currentIndex()), "case.inp");
+    connector().gotoOverview();
+    view->setFocus();
+    EXPECT_EQ(focused(), "case.inp") << "as it was left";
+    const QString before = savedModel();
+    EXPECT_EQ(go({Qt::Key_Delete}), "mesh.msh");
+    expectOneStep(before, "software connector: delete item");
+    // Tab goes to the buttons, and on to what follows.
+    EXPECT_EQ(go({Qt::Key_Tab}), "Add Input Geometry");
+    EXPECT_EQ(go({Qt::Key_Right, Qt::Key_Right}), "About Input Files");
+    EXPECT_EQ(go({Qt::Key_Left, Qt::Key_Left, Qt::Key_Return}), "Add Input Geometry");
+    EXPECT_EQ(lastStep(), "Add export");
+    QTest::keyClick(view, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(go({Qt::Key_Tab, Qt::Key_Tab}), "");
+    QTest::keyClick(view, Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), "mesh.msh");
+    // The menu is that of the item, not of the place of the pointer.
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(1, 1));
+    QApplication::sendEvent(view->viewport(), &menu);
+    EXPECT_EQ(find<QMenu>("connectorMenu")->actions().last()->text(), "Copy File Name");
+    find<QMenu>("connectorMenu")->close();
 }
 
 TEST_F(FSoftwareConnectorTest, textsAndFilesAreAddedWithoutADialog) {

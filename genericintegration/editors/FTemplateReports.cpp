@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int mostShown = 2;
+constexpr int mostShown = 20;
 
 /** Line and column of a place such as name:line:column. */
 std::pair<int, int> placeOf(const FSetUpProblem& problem) {

@@ -146,7 +146,7 @@ class Program:
     def click(self, role, name=None, under=None, times=1):
         """Clicks on something, when it can be used and has come to rest."""
         node = self.wait(role, name, under, enabled=True)
-        self.click_at(middle(self.at_rest(node)), times)
+        self.click_at(self.middle_of(node), times)
         return node
 
     def click_popup(self, row, rows):
@@ -179,6 +179,9 @@ class Program:
             return before == last[0] and last[0][2] > 0 and last[0][3] > 0
         self.until("an end of its motion", rests)
         return last[0]
+
+    def middle_of(self, node):
+        return middle(self.at_rest(node))
 
     def scroll(self, place, lines):
         """Turns the wheel; a positive number goes down."""

@@ -43,6 +43,8 @@ class MERIX_EXPORT FNavigator {
     virtual void showTemplate(FManaged* file, int line, int column) = 0;
     /** Shows the tables of results. */
     virtual void showResults(const FExpr<FResultsGeneric>& results) = 0;
+    /** Shows the numbers of a run of the session, by its row in the list of runs, in place of the present ones. */
+    virtual void showResultsOfRun(const FExpr<FResultsGeneric>& present, int run) = 0;
     /** Shows the reference of a class or command. */
     virtual void showHelp(const QString& topic) = 0;
     /** Shows a short message for a few seconds. */

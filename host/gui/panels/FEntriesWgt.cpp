@@ -1,5 +1,6 @@
 #include "host/gui/panels/FEntriesWgt.h"
 
+#include "host/gui/base/FWhyNot.h"
 #include "host/gui/fields/FScriptText.h"
 #include "host/gui/panels/FEntryChange.h"
 #include "host/gui/panels/FEntryModel.h"
@@ -67,9 +68,19 @@ void FEntriesWgt::fillMenu(QMenu& menu) {
 void FEntriesWgt::updateActions() {
     FEntryTreeWgt::updateActions();
     const FEntry* entry = mpModel->entryAt(current());
-    mpReset->setEnabled(entry && !entry->isGroup() && !entry->hasDefaultValue());
-    mpAddOccurrence->setEnabled(entry && FEntryChange::mayAddOccurrence(*entry));
-    mpRemoveOccurrence->setEnabled(entry && FEntryChange::mayRemoveOccurrence(*entry));
+    const QString none = whyNoEntry();
+    FWhyNot::apply(*mpReset, !none.isEmpty()            ? none
+                             : entry->isGroup()         ? QStringLiteral("A group has no value")
+                             : entry->hasDefaultValue() ? QStringLiteral("It has its default value")
+                                                        : QString());
+    FWhyNot::apply(*mpAddOccurrence, !none.isEmpty() ? none
+                                     : FEntryChange::mayAddOccurrence(*entry)
+                                         ? QString()
+                                         : QStringLiteral("The definition allows no further one"));
+    FWhyNot::apply(*mpRemoveOccurrence, !none.isEmpty() ? none
+                                        : FEntryChange::mayRemoveOccurrence(*entry)
+                                            ? QString()
+                                            : QStringLiteral("The definition asks for those that there are"));
 }
 
 QString FEntriesWgt::summaryOf(const QModelIndex& index) const {

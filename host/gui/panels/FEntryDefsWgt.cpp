@@ -7,7 +7,7 @@ namespace {
 
 constexpr double nameShare = 0.34;
 constexpr double defaultShare = 0.26;
-constexpr double typeShare = 0.2;
+constexpr double typeShare = 0.22;
 
 }  // namespace
 

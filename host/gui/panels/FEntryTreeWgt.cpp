@@ -5,6 +5,7 @@
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateLabel.h"
+#include "host/gui/base/FWhyNot.h"
 #include "host/gui/panels/FEntryChange.h"
 #include "host/gui/panels/FEntryDelegate.h"
 #include "host/gui/panels/FEntryTreeModel.h"
@@ -245,11 +246,19 @@ bool FEntryTreeWgt::eventFilter(QObject* watched, QEvent* event) {
 
 // ---- what is shown ----
 
+QString FEntryTreeWgt::whyNoEntry() const {
+    return current().isValid() ? QString() : QStringLiteral("Select an entry first");
+}
+
 void FEntryTreeWgt::updateActions() {
-    const bool isOfDefinition = mpModel->definition() && mpModel->definitionOf(current());
-    mpAdd->setEnabled(mpModel->definition());
-    mpRemove->setEnabled(isOfDefinition);
-    mpRename->setEnabled(isOfDefinition);
+    const QString noDefinition = mpModel->definition() ? QString() : QStringLiteral("There is no definition");
+    const QString noEntry = !noDefinition.isEmpty()             ? noDefinition
+                            : !whyNoEntry().isEmpty()           ? whyNoEntry()
+                            : !mpModel->definitionOf(current()) ? QStringLiteral("The definition doesn't have it")
+                                                                : QString();
+    FWhyNot::apply(*mpAdd, noDefinition);
+    FWhyNot::apply(*mpRemove, noEntry);
+    FWhyNot::apply(*mpRename, noEntry);
 }
 
 void FEntryTreeWgt::refresh() {

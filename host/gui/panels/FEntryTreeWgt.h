@@ -59,6 +59,8 @@ class MERIX_EXPORT FEntryTreeWgt : public QWidget, public FPendingEdit {
     void tell(const QString& fault);
     /** Forgets which groups are closed, and the present entry: another definition or configuration follows. */
     void startAnew();
+    /** Why actions on the present entry aren't possible: there is none; else empty. */
+    QString whyNoEntry() const;
     /** Enables the actions for the present entry. */
     virtual void updateActions();
     /** What is known of the present entry, before the places where it is used. */

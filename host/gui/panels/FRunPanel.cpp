@@ -7,8 +7,10 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FListView.h"
+#include "host/gui/base/FWhyNot.h"
 #include "host/gui/panels/FRunModel.h"
 #include "host/gui/panels/FRunTail.h"
+#include "host/gui/panels/FTablePanel.h"
 #include "host/run/FCauseLines.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FResultsGeneric.h"
@@ -86,7 +88,7 @@ FRunPanel::FRunPanel(FNavigator& navigator)
     mpSplitter->addWidget(mpView);
     mpSplitter->addWidget(makeDetails());
     // Shares, not pixels: the splitter scales them to its width.
-    mpSplitter->setSizes({6000, 4000});
+    mpSplitter->setSizes({5500, 4500});
     mpSplitter->restoreState(FGuiSettings::getLayout(QString::fromLatin1(layoutName)));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -117,23 +119,28 @@ FRunPanel::~FRunPanel() {
 }
 
 QWidget* FRunPanel::makeDetails() {
-    mpTabs = new QTabWidget(this);
+    auto* details = new QWidget(this);
+    mpTabs = new QTabWidget(details);
     mpTabs->setObjectName(QStringLiteral("runDetails"));
     mpTabs->setAccessibleName(QStringLiteral("Details of the run"));
     mpTabs->setDocumentMode(true);
-    auto* buttons = new QWidget(mpTabs);
-    auto* row = new QHBoxLayout(buttons);
+    // Beside the tabs, which a row of buttons above would leave no room for in a small window.
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(0);
+    mpStop = addButton(*buttons, QStringLiteral("stopRun"), QStringLiteral("media-playback-stop"),
+                       QStringLiteral("Stop this run"));
+    mpAgain = addButton(*buttons, QStringLiteral("runAgain"), QStringLiteral("media-playback-start"),
+                        QStringLiteral("Run this computation again"));
+    mpFolder = addButton(*buttons, QStringLiteral("openRunFolder"), QStringLiteral("document-open-folder"),
+                         QStringLiteral("Open the folder with the files of this run"));
+    mpResults = addButton(*buttons, QStringLiteral("showRunResults"), QStringLiteral("results"),
+                          QStringLiteral("Show the results of this run"));
+    buttons->addStretch(1);
+    auto* row = new QHBoxLayout(details);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    mpStop = addButton(*row, QStringLiteral("stopRun"), QStringLiteral("media-playback-stop"),
-                       QStringLiteral("Stop this run"));
-    mpAgain = addButton(*row, QStringLiteral("runAgain"), QStringLiteral("media-playback-start"),
-                        QStringLiteral("Run this computation again"));
-    mpFolder = addButton(*row, QStringLiteral("openRunFolder"), QStringLiteral("document-open-folder"),
-                         QStringLiteral("Open the folder with the files of this run"));
-    mpResults = addButton(*row, QStringLiteral("showRunResults"), QStringLiteral("results"),
-                          QStringLiteral("Show the results of this run"));
-    mpTabs->setCornerWidget(buttons);
+    row->addWidget(mpTabs, 1);
+    row->addLayout(buttons);
     mpText = new QTextBrowser(mpTabs);
     mpText->setObjectName(QStringLiteral("runText"));
     mpText->setAccessibleName(QStringLiteral("What happened"));
@@ -148,7 +155,7 @@ QWidget* FRunPanel::makeDetails() {
     connect(mpAgain, &QToolButton::clicked, this, &FRunPanel::runAgain);
     connect(mpFolder, &QToolButton::clicked, this, &FRunPanel::openFolder);
     connect(mpResults, &QToolButton::clicked, this, &FRunPanel::showResults);
-    return mpTabs;
+    return details;
 }
 
 QToolButton* FRunPanel::addButton(QLayout& row, const QString& id, const QString& icon, const QString& tip) {
@@ -227,12 +234,36 @@ void FRunPanel::updateButtons() {
     const bool isThere = row >= 0;
     const FExternComputation* computation = isThere ? mpModel->computation(row) : nullptr;
     const bool isOver = isThere && mpModel->record(row).isOver();
-    mpStop->setEnabled(isThere && mpModel->canStop(row));
-    mpAgain->setEnabled(computation && computation->canRun());
-    mpFolder->setEnabled(isThere && !mpModel->folderOf(row).isEmpty());
-    const bool hasResults =
-        isOver && (!mpModel->record(row).isSkipped() || mpModel->record(row).state == FRunRecord::State::UpToDate);
-    mpResults->setEnabled(computation && hasResults && mpModel->isLast(row) && computation->getCurrentResults());
+    const QString noRun = isThere ? QString() : QStringLiteral("No run is selected");
+    const QString gone = QStringLiteral("The computation is no longer there");
+    FWhyNot::apply(*mpStop, !isThere                   ? noRun
+                            : isOver                   ? QStringLiteral("The run is over")
+                            : mpModel->isStopping(row) ? QStringLiteral("It is being stopped")
+                            : !computation             ? gone
+                            : !mpModel->canStop(row)   ? QStringLiteral("It hasn't started yet")
+                                                       : QString());
+    FWhyNot::apply(*mpAgain, !isThere                 ? noRun
+                             : !computation           ? gone
+                             : !computation->canRun() ? QStringLiteral("The computation is running")
+                                                      : QString());
+    FWhyNot::apply(*mpFolder, !isThere                           ? noRun
+                              : mpModel->folderOf(row).isEmpty() ? QStringLiteral("Later runs have replaced the files")
+                                                                 : QString());
+    FWhyNot::apply(*mpResults, !isThere ? noRun : !computation ? gone : whyNoResults(row));
+}
+
+QString FRunPanel::whyNoResults(int row) const {
+    const FExternComputation& computation = *mpModel->computation(row);
+    const FRunRecord& run = mpModel->record(row);
+    if (!run.isOver()) {
+        return QStringLiteral("The run isn't over");
+    }
+    if (run.isSkipped() && run.state != FRunRecord::State::UpToDate) {
+        return QStringLiteral("Its program wasn't started");
+    }
+    const bool hasPresent = computation.getCurrentResults() || computation.canRereadResults();
+    const bool hasOwn = mpModel->isLast(row) ? hasPresent : hasPresent && !mpModel->tablesOf(row).isEmpty();
+    return hasOwn ? QString() : QStringLiteral("No numbers of this run are kept");
 }
 
 QString FRunPanel::detailsOf(int row) const {
@@ -307,9 +338,15 @@ void FRunPanel::openFolder() {
 }
 
 void FRunPanel::showResults() {
-    const FExternComputation* computation =
-        current() >= 0 && mpResults->isEnabled() ? mpModel->computation(current()) : nullptr;
-    if (computation) {
-        mNavigator.showResults(FExpr<FResultsGeneric>(computation->getCurrentResults()));
+    const int row = current();
+    FExternComputation* computation = row >= 0 && mpResults->isEnabled() ? mpModel->computation(row) : nullptr;
+    if (!computation) {
+        return;
+    }
+    const FExpr<FResultsGeneric> present = FTablePanel::presentOf(*computation);
+    if (mpModel->isLast(row)) {
+        mNavigator.showResults(present);
+    } else {
+        mNavigator.showResultsOfRun(present, row);
     }
 }

@@ -31,6 +31,8 @@ class MERIX_EXPORT FRunPanel : public QWidget {
     int current() const;
     void showCurrent();
     void updateButtons();
+    /** Why the numbers of a run whose computation is there can't be shown; empty if they can. */
+    QString whyNoResults(int row) const;
     void rowsChanged(int first, int last);
     void showBar(int row);
     void runAgain();

@@ -6,6 +6,7 @@
 #include "host/core/FObjectManager.h"
 #include "host/core/FSavedFile.h"
 #include "host/core/FUserInterface.h"
+#include "host/core/FUserStep.h"
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FListView.h"
@@ -60,6 +61,14 @@ QString FTablePanel::titleOf(const FExpr<FResultsGeneric>& results) {
                                      : results->getName();
 }
 
+FExpr<FResultsGeneric> FTablePanel::presentOf(FExternComputation& computation) {
+    if (!computation.getCurrentResults() && computation.canRereadResults()) {
+        FUserStep::commitEdits();
+        computation.rereadResults();
+    }
+    return FExpr<FResultsGeneric>(computation.getCurrentResults());
+}
+
 FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FExpr<FResultsGeneric>& results)
     : mNavigator(navigator),
       mRuns(runs),
@@ -74,14 +83,13 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FEx
     mpRun->view()->setAccessibleName(QStringLiteral("Runs"));
     mpTable->view()->setAccessibleName(QStringLiteral("Tables"));
     mpModel->setParent(this);
-    auto* header = new QHBoxLayout;
-    makeHeader(*header);
+    QWidget* header = makeHeader();
     mpView = new FTableView(mpModel, this);  // Tab follows the order of creation
     new FEmptyHint(mpView, QStringLiteral("Numbers appear here when a run has written the output files"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addLayout(header);
+    column->addWidget(header);
     column->addWidget(mpView, 1);
     connect(mpView, &QTreeView::clicked, this, &FTablePanel::showPlace);
     connect(mpView, &QTreeView::activated, this, &FTablePanel::showPlace);
@@ -103,15 +111,21 @@ FTablePanel::FTablePanel(FNavigator& navigator, const FRunModel& runs, const FEx
     refresh();
 }
 
-void FTablePanel::makeHeader(QHBoxLayout& row) {
+QWidget* FTablePanel::makeHeader() {
+    auto* header = new QWidget(this);
+    mpHeader = new QBoxLayout(QBoxLayout::LeftToRight, header);
     const int margin = fontMetrics().height() / 4;
-    row.setContentsMargins(margin, margin, margin, margin);
-    row.setSpacing(margin);
-    row.addWidget(mpSign);
+    mpHeader->setContentsMargins(margin, margin, margin, margin);
+    mpHeader->setSpacing(margin);
+    auto* state = new QHBoxLayout;
+    state->addWidget(mpSign);
     mpState->setObjectName(QStringLiteral("resultState"));
     mpState->setWordWrap(true);
     mpState->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    row.addWidget(mpState, 1);
+    state->addWidget(mpState, 1);
+    mpHeader->addLayout(state, 1);
+    auto& row = *new QHBoxLayout;
+    mpHeader->addLayout(&row);
     mpRun->setObjectName(QStringLiteral("shownRun"));
     mpRun->setAccessibleName(QStringLiteral("Run"));
     mpRun->setToolTip(QStringLiteral("The run whose numbers are shown"));
@@ -136,6 +150,16 @@ void FTablePanel::makeHeader(QHBoxLayout& row) {
     const QToolButton* save = addButton(row, QStringLiteral("exportTable"), QStringLiteral("document-export"),
                                         QStringLiteral("Write the results to a CSV file"));
     connect(save, &QToolButton::clicked, this, &FTablePanel::exportCsv);
+    row.addStretch();
+    return header;
+}
+
+// What is said of the run is more than a few words: it gets a line of its own where the window is narrow.
+void FTablePanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    constexpr int narrow = 110;  // characters
+    const bool isNarrow = width() < narrow * fontMetrics().averageCharWidth();
+    mpHeader->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 // Not a focus proxy, with which Tab would pass over the header.
@@ -144,7 +168,7 @@ void FTablePanel::focusInEvent(QFocusEvent* event) {
     mpView->setFocus();
 }
 
-QToolButton* FTablePanel::addButton(QHBoxLayout& row, const QString& id, const QString& icon, const QString& tip) {
+QToolButton* FTablePanel::addButton(QBoxLayout& row, const QString& id, const QString& icon, const QString& tip) {
     auto* button = new QToolButton(this);
     button->setObjectName(id);
     button->setAutoRaise(true);

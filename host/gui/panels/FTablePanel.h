@@ -12,8 +12,8 @@ class FExternComputation;
 class FListView;
 class FRunModel;
 class FTableModel;
+class QBoxLayout;
 class QComboBox;
-class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QToolButton;
@@ -42,6 +42,8 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     /** A text that is the same for results that the same panel shows; null for empty results. */
     static QString keyOf(const FExpr<FResultsGeneric>& results);
     static QString titleOf(const FExpr<FResultsGeneric>& results);
+    /** The present results of a computation; of a project that was just opened, they are read again. */
+    static FExpr<FResultsGeneric> presentOf(FExternComputation& computation);
 
  signals:
     /** The results and their computation are no longer in the model. */
@@ -49,10 +51,11 @@ class MERIX_EXPORT FTablePanel : public QWidget {
 
  protected:
     void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
  private:
-    void makeHeader(QHBoxLayout& row);
-    QToolButton* addButton(QHBoxLayout& row, const QString& id, const QString& icon, const QString& tip);
+    QWidget* makeHeader();
+    QToolButton* addButton(QBoxLayout& row, const QString& id, const QString& icon, const QString& tip);
     FResultsGeneric* results() const;
     /** Reads what isn't read yet, and shows it. */
     void refresh();
@@ -84,6 +87,7 @@ class MERIX_EXPORT FTablePanel : public QWidget {
     QList<FExpr<FTableData>> mChosen;  //!< of the run that was chosen; empty for the run before
     QList<FExpr<FTableData>> mBefore;  //!< in the order of `mTables`
     QString mBeforeTitle;
+    QBoxLayout* mpHeader = nullptr;
     QLabel* mpSign;
     QLabel* mpState;
     QComboBox* mpRun;

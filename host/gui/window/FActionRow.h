@@ -15,8 +15,8 @@ struct FActionRow {
     const char* shortcut;  //!< as QKeySequence::PortableText; empty for none
     const char* tip;
     bool isInToolbar;
-    /** Whether the action is possible. */
-    bool (*when)(const FSituation& situation);
+    /** Why the action isn't possible; null if it is. A null function stands for an action that always is. */
+    const char* (*whyNot)(const FSituation& situation);
     void (*run)(FMainWindow& window);
     /** For a submenu, whose entries are made each time that it opens; `run` is null then. */
     void (*fill)(QMenu& menu, FMainWindow& window) = nullptr;

@@ -24,26 +24,53 @@
 
 namespace {
 
-// ---- when ----
+// ---- why not ----
 
-bool hasProject(const FSituation& now) {
-    return now.hasProject;
+const char* needsProject(const FSituation& now) {
+    return now.hasProject ? nullptr : "There is no project yet: make a set-up, or open a project";
 }
 
-bool hasComputation(const FSituation& now) {
-    return now.computation != nullptr;
+const char* needsComputation(const FSituation& now) {
+    return now.computation ? nullptr : "There is no computation yet: make a set-up";
 }
 
-bool canRun(const FSituation& now) {
-    return now.computation && !now.isRunning;
+const char* needsIdleComputation(const FSituation& now) {
+    return now.isRunning ? "It is running: wait for its end, or stop it" : needsComputation(now);
 }
 
-bool hasResults(const FSituation& now) {
-    return now.hasResults;
+const char* needsOutput(const FSituation& now) {
+    return now.canReread                       ? nullptr
+           : now.computation && !now.isRunning ? "No run has left output files"
+                                               : needsIdleComputation(now);
 }
 
-bool isAnyRunning(const FSituation& now) {
-    return now.isAnyRunning;
+const char* needsResults(const FSituation& now) {
+    return now.hasResults ? nullptr : needsOutput(now);
+}
+
+const char* needsRun(const FSituation& now) {
+    return now.isAnyRunning ? nullptr : "Nothing is running";
+}
+
+const char* needsDoneStep(const FSituation& now) {
+    return now.undoLabel.isNull() ? "There is no step to undo" : nullptr;
+}
+
+const char* needsUndoneStep(const FSituation& now) {
+    return now.redoLabel.isNull() ? "No step was undone" : nullptr;
+}
+
+const char* needsOneObject(const FSituation& now) {
+    return now.selected == 1 ? nullptr : "Select one object first";
+}
+
+const char* needsObjects(const FSituation& now) {
+    return now.selected > 0 ? nullptr : "Select objects first";
+}
+
+const char* needsAssistant(const FSituation& now) {
+    Q_UNUSED(now)
+    return FSetUpAssistant::isThere() ? nullptr : "The plug-in that couples programs isn't installed";
 }
 
 // ---- texts ----
@@ -109,8 +136,8 @@ void preview(FMainWindow& window) {
 }
 
 FTablePanel* openResults(FMainWindow& window) {
-    const FExternComputation* computation = window.runTarget().get();
-    return computation ? window.openResults(FExpr<FResultsGeneric>(computation->getCurrentResults())) : nullptr;
+    FExternComputation* computation = window.runTarget().get();
+    return computation ? window.openResults(FTablePanel::presentOf(*computation)) : nullptr;
 }
 
 void showResults(FMainWindow& window) {
@@ -178,8 +205,7 @@ std::vector<FActionRow> fileRows() {
         {"newProject", "&File", 0, "&New project", "document-new", "Ctrl+N", "Start an empty project", true, nullptr,
          [](FMainWindow& window) { window.projectFiles().create(); }},
         {"newSetUp", "&File", 0, "New s&et-up…", "connector", "Ctrl+Shift+N",
-         "Couple a program: its sample files become templates", false,
-         [](const FSituation&) { return FSetUpAssistant::isThere(); },
+         "Couple a program: its sample files become templates", false, &needsAssistant,
          [](FMainWindow& window) { FSetUpAssistant::open(&window); }},
         {"openProject", "&File", 0, "&Open…", "document-open", "Ctrl+O", "Open a project", true, nullptr,
          [](FMainWindow& window) { window.projectFiles().open(); }},
@@ -187,10 +213,10 @@ std::vector<FActionRow> fileRows() {
          false, nullptr, nullptr, &fillRecent},
         {"openExample", "&File", 0, "Open an e&xample", "folder-templates", "",
          "Copy an example to a folder of yours, and open the copy", false, nullptr, nullptr, &fillExamples},
-        {"saveProject", "&File", 0, "&Save", "document-save", "Ctrl+S", "Save the project", true, &hasProject,
+        {"saveProject", "&File", 0, "&Save", "document-save", "Ctrl+S", "Save the project", true, &needsProject,
          [](FMainWindow& window) { window.projectFiles().save(); }},
         {"saveProjectAs", "&File", 0, "Save &as…", "document-save-as", "Ctrl+Shift+S",
-         "Save the project under another name", false, &hasProject,
+         "Save the project under another name", false, &needsProject,
          [](FMainWindow& window) { window.projectFiles().saveAs(); }},
         {"executeScript", "&File", 1, "&Execute a script…", "system-run", "Ctrl+E",
          "Execute a script file; each of its statements is a step", false, nullptr,
@@ -205,52 +231,50 @@ std::vector<FActionRow> fileRows() {
 
 std::vector<FActionRow> otherRows() {
     return {
-        {"undo", "&Edit", 0, "&Undo", "edit-undo", "Ctrl+Z", "Undo the last step", true,
-         [](const FSituation& now) { return !now.undoLabel.isNull(); }, &undo, nullptr, &undoText},
+        {"undo", "&Edit", 0, "&Undo", "edit-undo", "Ctrl+Z", "Undo the last step", true, &needsDoneStep, &undo, nullptr,
+         &undoText},
         {"redo", "&Edit", 0, "&Redo", "edit-redo", "Ctrl+Shift+Z", "Redo the step that was undone last", true,
-         [](const FSituation& now) { return !now.redoLabel.isNull(); }, &redo, nullptr, &redoText},
+         &needsUndoneStep, &redo, nullptr, &redoText},
         {"rename", "&Edit", 1, "Re&name", "edit-rename", "F2", "Change the name of the selected object", false,
-         [](const FSituation& now) { return now.selected == 1; }, &rename},
+         &needsOneObject, &rename},
         {"delete", "&Edit", 1, "&Delete", "edit-delete", "Ctrl+Del", "Delete the selected objects", false,
-         [](const FSituation& now) { return now.selected > 0; },
-         [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
+         &needsObjects, [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
         {"find", "&Edit", 2, "&Find…", "edit-find", "Ctrl+K", "Find an object, an entry or an action by its name",
          false, nullptr, [](FMainWindow& window) { window.focusFind(); }},
 
-        {"panels", "&View", 0, "&Panels", "view-list-tree", "", "Show or hide panels", false, &hasProject, nullptr,
+        {"panels", "&View", 0, "&Panels", "view-list-tree", "", "Show or hide panels", false, &needsProject, nullptr,
          &fillPanels},
         {"movePanel", "&View", 0, "&Move the panel", "transform-move", "", "Move the panel that has the focus", false,
-         &hasProject, nullptr, [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
+         &needsProject, nullptr, [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
         {"appearance", "&View", 1, "&Appearance", "preferences-desktop-theme", "", "Light or dark colours", false,
          nullptr, nullptr, &fillAppearances},
         {"resetLayout", "&View", 2, "&Reset the layout", "view-restore", "Ctrl+Shift+L",
-         "Put all panels where they are in a new installation", false, &hasProject,
+         "Put all panels where they are in a new installation", false, &needsProject,
          [](FMainWindow& window) { window.resetLayout(); }},
 
         {"run", "&Run", 0, "&Run", "media-playback-start", "F5", "Write the input files and run the program", true,
-         &canRun, &run, nullptr, &runText},
+         &needsIdleComputation, &run, nullptr, &runText},
         {"stop", "&Run", 0, "&Stop", "media-playback-stop", "Shift+F5", "End the program that is running", true,
-         &isAnyRunning, &stop},
+         &needsRun, &stop},
         {"reread", "&Run", 0, "Re-read r&esults", "view-refresh", "Ctrl+F5",
-         "Read the output files again, with the present marks", true,
-         [](const FSituation& now) { return now.canReread; }, &reread},
+         "Read the output files again, with the present marks", true, &needsOutput, &reread},
         {"preview", "&Run", 1, "&Preview input files", "document-preview", "Ctrl+P",
-         "Show the input files as a run would write them", false, &hasComputation, &preview},
+         "Show the input files as a run would write them", false, &needsComputation, &preview},
         {"suppliersFirst", "&Run", 2, "Run s&uppliers first", "insert-link", "Ctrl+Shift+F5",
          "Before a run, run the computations whose results it uses, as far as their set-up has changed", false, nullptr,
          [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); }, nullptr, nullptr,
          &FRunSettings::areSuppliersFirst},
         {"showResults", "Resul&ts", 0, "&Show results", "results", "Ctrl+T",
-         "Show the numbers that were read from the output files", false, &hasResults, &showResults},
+         "Show the numbers that were read from the output files", false, &needsResults, &showResults},
         {"compareResults", "Resul&ts", 0, "&Compare with the run before", "view-split-left-right", "Ctrl+Shift+T",
-         "Show the numbers of the run before beside those of the last one", false, &hasResults,
+         "Show the numbers of the run before beside those of the last one", false, &needsResults,
          [](FMainWindow& window) {
              if (FTablePanel* panel = openResults(window)) {
                  panel->compare(true);
              }
          }},
         {"exportResults", "Resul&ts", 1, "&Export results as CSV…", "document-export", "Ctrl+Shift+E",
-         "Write the numbers, with their places, to a file for spreadsheets", false, &hasResults,
+         "Write the numbers, with their places, to a file for spreadsheets", false, &needsResults,
          [](FMainWindow& window) {
              if (FTablePanel* panel = openResults(window)) {
                  panel->exportCsv();

@@ -91,17 +91,24 @@ void FActions::fillToolbar(QToolBar& bar) {
 void FActions::update(const FSituation& situation, bool isLocked) {
     for (const FActionRow& row : FActionTable::rows()) {
         QAction* action = get(QString::fromLatin1(row.id));
-        const bool isAllowed = !isLocked || action->objectName() == QLatin1String("stop");
-        action->setEnabled(isAllowed && (!row.when || row.when(situation)));
         if (row.isOn) {
             action->setChecked(row.isOn());
         }
+        QString tip = QString::fromUtf8(row.tip);
         if (row.textNow) {
             const QString text = row.textNow(situation);
             action->setText(text);
             QString plain = text;
             action->setIconText(plain.remove(QLatin1Char('&')));
-            action->setToolTip(toolTipOf(action->iconText(), *action));
+            tip = action->iconText();
         }
+        const char* const reason = isLocked && action->objectName() != QLatin1String("stop")
+                                       ? "A script is being executed"
+                                   : row.whyNot ? row.whyNot(situation)
+                                                : nullptr;
+        action->setEnabled(!reason);
+        const QString whole = toolTipOf(tip, *action);
+        action->setToolTip(reason ? whole + QLatin1Char('\n') + QString::fromUtf8(reason) : whole);
+        action->setStatusTip(reason ? QString::fromUtf8(reason) : QString::fromUtf8(row.tip));
     }
 }

@@ -132,7 +132,7 @@ void FMainWindow::makeToolbar() {
     auto* row = new QHBoxLayout(end);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch(1);
-    row->addWidget(mpFind, 4);
+    row->addWidget(mpFind, 100);  // up to its largest width, at the right edge
     bar->addWidget(end);
     setContextMenuPolicy(Qt::NoContextMenu);  // Qt's own menu could hide the toolbar for good
 }
@@ -354,6 +354,12 @@ void FMainWindow::showTemplate(FManaged* file, int line, int column) {
 
 void FMainWindow::showResults(const FExpr<FResultsGeneric>& results) {
     openResults(results);
+}
+
+void FMainWindow::showResultsOfRun(const FExpr<FResultsGeneric>& present, int run) {
+    if (FTablePanel* shown = openResults(present)) {
+        shown->showRun(run);
+    }
 }
 
 FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {

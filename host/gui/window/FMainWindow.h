@@ -74,6 +74,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void showFile(const Place& place) override;
     void showTemplate(FManaged* file, int line, int column) override;
     void showResults(const FExpr<FResultsGeneric>& results) override;
+    void showResultsOfRun(const FExpr<FResultsGeneric>& present, int run) override;
     void showHelp(const QString& topic) override;
     void showStatus(const QString& text) override;
 

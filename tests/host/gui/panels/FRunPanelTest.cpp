@@ -4,6 +4,8 @@
 #include "host/gui/base/FListView.h"
 #include "host/gui/panels/FRunModel.h"
 #include "host/gui/panels/FRunTail.h"
+#include "host/gui/panels/FTableModel.h"
+#include "host/gui/panels/FTablePanel.h"
 #include "host/gui/text/FOutputDocument.h"
 #include "host/gui/text/FOutputViewer.h"
 #include "host/gui/window/FDocumentTabs.h"
@@ -105,8 +107,15 @@ TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
     find<FListView>("runList")->setCurrentIndex(model().index(2, 0));
     EXPECT_TRUE(details().contains("Later runs have replaced")) << details().toStdString();
     EXPECT_FALSE(isPossible("openRunFolder"));
-    EXPECT_FALSE(isPossible("showRunResults"));
+    EXPECT_TRUE(find<QToolButton>("openRunFolder")->toolTip().contains("Later runs have replaced"));
     EXPECT_TRUE(isPossible("runAgain"));
+    // Its numbers are kept, those of the failed run aren't there.
+    find<QToolButton>("showRunResults")->click();
+    settle();
+    EXPECT_TRUE(find<QLabel>("resultState")->text().startsWith("Earlier run: solver 1, "));
+    find<FListView>("runList")->setCurrentIndex(model().index(1, 0));
+    EXPECT_FALSE(isPossible("showRunResults"));
+    EXPECT_TRUE(find<QToolButton>("showRunResults")->toolTip().endsWith("No numbers of this run are kept"));
 }
 
 TEST_F(FRunPanelTest, aRunIsWatchedAndStopped) {
@@ -203,6 +212,11 @@ TEST_F(FRunPanelTest, theStoredRunOfAProjectIsShownWhenItIsOpened) {
     ASSERT_EQ(model().rowCount(), 1);
     EXPECT_EQ(cell(0, FRunModel::runColumn), "solver, earlier");
     EXPECT_EQ(cell(0, FRunModel::stateColumn), "finished");
+    find<QToolButton>("showRunResults")->click();
+    settle();
+    auto* results = dynamic_cast<FTablePanel*>(window().documents().currentWidget());
+    ASSERT_NE(results, nullptr) << "the files of the run are read again";
+    EXPECT_EQ(results->model().index(0, 1).data().toString(), "4");
     start("echo speed = 5 > out.txt");
     waitForEnd();
     EXPECT_EQ(cell(0, FRunModel::runColumn), "solver 1");

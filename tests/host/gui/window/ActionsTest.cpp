@@ -3,6 +3,7 @@
 #include "host/gui/window/FPanelTable.h"
 #include "tests/support/window/FWindowTest.h"
 
+#include <QAction>
 #include <QFile>
 #include <QKeySequence>
 
@@ -25,6 +26,22 @@ TEST_F(FWindowTest, actionsAreCompleteAndNoShortcutIsUsedTwice) {
         EXPECT_EQ(shortcuts.count(shortcut), 1) << shortcut.toStdString();
         EXPECT_EQ(QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::PortableText), shortcut);
     }
+}
+
+TEST_F(FWindowTest, anActionThatIsNotPossibleSaysWhy) {
+    const auto whyNot = [this](const char* id) {
+        EXPECT_FALSE(action(id)->isEnabled()) << id;
+        return action(id)->toolTip().section('\n', 1).toStdString();
+    };
+    EXPECT_EQ(whyNot("run"), "There is no computation yet: make a set-up");
+    EXPECT_EQ(whyNot("undo"), "There is no step to undo");
+    ASSERT_TRUE(run("genericIntegrationComputation solver()"));
+    settle();
+    EXPECT_EQ(action("run")->toolTip(), "Run solver (F5)");
+    EXPECT_EQ(whyNot("showResults"), "No run has left output files");
+    EXPECT_EQ(whyNot("rename"), "Select one object first");
+    window().executeLocked([&] { EXPECT_EQ(whyNot("run"), "A script is being executed"); });
+    EXPECT_TRUE(action("run")->isEnabled());
 }
 
 // MERIX_UPDATE_DOCS=1 writes the page instead.

@@ -10,4 +10,11 @@ class FRoomyStyle : public QProxyStyle {
     static void applyTo(QWidget& widget);
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+
+ private:
+    int addedMargin(const QStyleOption* option, const QWidget* widget) const;
 };

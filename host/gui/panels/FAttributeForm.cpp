@@ -143,11 +143,14 @@ void FAttributeForm::alignLabels() {
     for (int i = 0; i < mLabels.size(); ++i) {
         mRows[i]->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
         mRows[i]->setSpacing(isStacked ? 0 : spacing);
+        mRows[i]->setAlignment(mFields[i], isStacked ? Qt::AlignTop : Qt::Alignment());
         // The first line of a label is level with that of its field.
         const int height = std::min(mFields[i]->sizeHint().height(), heightOfLine);
         const int above = std::max((height - mLabels[i]->fontMetrics().height()) / 2, 0);
         mLabels[i]->setContentsMargins(0, isStacked ? 0 : above, 0, 0);
         mLabels[i]->setMinimumWidth(isStacked ? 0 : width);
+        // Else a label that could be wrapped asks for the height of one word a line.
+        mLabels[i]->setMinimumHeight(isStacked ? 1 : 0);
         mLabels[i]->setMaximumWidth(isStacked ? QWIDGETSIZE_MAX : width);
     }
 }

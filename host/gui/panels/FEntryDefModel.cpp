@@ -19,7 +19,7 @@ int FEntryDefModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant FEntryDefModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const char* const titles[] = {"Entry", "Default", "Type", "Occurrences"};
+    static const char* const titles[] = {"Entry", "Default", "Type", "Count"};
     return orientation == Qt::Horizontal && (role == Qt::DisplayRole || role == Qt::ToolTipRole) && section < columns
                ? QString::fromLatin1(titles[section])
                : FEntryTreeModel::headerData(section, orientation, role);

@@ -55,8 +55,16 @@ void FHelpPanel::search(const QString& text) {
     mpTopics->addItems(mNames.filter(text, Qt::CaseInsensitive));
 }
 
+// All topics, if none was searched for; not before, since the list takes a while.
+void FHelpPanel::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (mNames.isEmpty()) {
+        search(mpSearch->text());
+    }
+}
+
 void FHelpPanel::showTopic(const QString& topic) {
-    if (mpTopics->count() == 0 && mpSearch->text().isEmpty()) {
+    if (mNames.isEmpty()) {
         search(QString());
     }
     const FCmdReference reference(topic);

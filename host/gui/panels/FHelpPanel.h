@@ -21,6 +21,9 @@ class MERIX_EXPORT FHelpPanel : public QWidget {
     /** Shows a text in Markdown that isn't part of the reference. */
     void showText(const QString& markdown);
 
+ protected:
+    void showEvent(QShowEvent* event) override;
+
  private:
     void search(const QString& text);
     void fillTopics();

@@ -6,6 +6,8 @@
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateColor.h"
 
+#include <QColor>
+
 FUndoModel::FUndoModel() {
     const FChanges* changes = FChanges::instance();
     const auto follow = [this] { mFollow.request(); };
@@ -52,7 +54,9 @@ QVariant FUndoModel::data(const QModelIndex& index, int role) const {
                    : isUndone ? QStringLiteral("%1 (undone)").arg(mUndone.at(row - mDone.size() - 1))
                               : mDone.at(row - 1);
         case Qt::DecorationRole:
-            return row == present() ? FIcons::get(QStringLiteral("go-next")) : QVariant();
+            // The other rows keep the place of the sign free.
+            return row == present() ? QVariant(FIcons::get(QStringLiteral("go-next")))
+                                    : QVariant(QColor(Qt::transparent));
         case Qt::ForegroundRole:
             return isUndone ? FStateColor::of(FStateColor::State::Secondary) : QVariant();
         default:

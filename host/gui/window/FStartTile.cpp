@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int drawingSize = 32;
+constexpr qreal borderStrength = 0.35;  // readable on light and dark
 
 }  // namespace
 
@@ -54,7 +55,11 @@ void FStartTile::paintEvent(QPaintEvent* event) {
     Q_UNUSED(event)
     QPainter painter(this);
     const bool isHot = isEnabled() && (underMouse() || hasFocus());
-    painter.setPen(palette().color(isHot ? QPalette::Highlight : QPalette::Mid));
+    QColor border = palette().color(isHot ? QPalette::Highlight : QPalette::WindowText);
+    if (!isHot) {
+        border.setAlphaF(borderStrength);
+    }
+    painter.setPen(border);
     painter.setBrush(isDown() ? palette().midlight() : isHot ? palette().base() : QBrush(Qt::NoBrush));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     const int em = fontMetrics().height();

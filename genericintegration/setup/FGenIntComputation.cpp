@@ -11,6 +11,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
+#include "host/core/FUserStep.h"
 #include "host/core/FViewCtrl.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/run/FPathManager.h"
@@ -224,6 +225,7 @@ void FGenIntComputation::openSoftwareConnector() const {
 }
 
 bool FGenIntComputation::doubleClickedInTree() {
+    const FUserStep step(QStringLiteral("Open Software Connector"));
     openSoftwareConnector();
     return true;
 }

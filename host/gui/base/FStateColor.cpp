@@ -3,13 +3,24 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-bool FStateColor::isDark() {
-    const QPalette palette = QGuiApplication::palette();
+namespace {
+
+bool isDarkPalette(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+}  // namespace
+
+bool FStateColor::isDark() {
+    return isDarkPalette(QGuiApplication::palette());
+}
+
 QColor FStateColor::of(State state) {
-    const bool dark = isDark();
+    return of(state, QGuiApplication::palette());
+}
+
+QColor FStateColor::of(State state, const QPalette& palette) {
+    const bool dark = isDarkPalette(palette);
     switch (state) {
         case State::Good:
             return dark ? QColor(0x6c, 0xc1, 0x7c) : QColor(0x1a, 0x70, 0x33);

@@ -4,6 +4,8 @@
 
 #include <QColor>
 
+class QPalette;
+
 /**
  * Colours of texts that show a state, readable on the backgrounds of the present palette. A word or a symbol always
  * accompanies them.
@@ -18,6 +20,8 @@ enum class State {
 };
 
 MERIX_EXPORT QColor of(State state);
+/** The same on another palette than the present one. */
+MERIX_EXPORT QColor of(State state, const QPalette& palette);
 /** A background of that state, on which ordinary text is readable. */
 MERIX_EXPORT QColor backgroundOf(State state);
 /** Whether the program's palette is a dark one. */

@@ -2,6 +2,8 @@
 
 #include "host/core/FExport.h"
 
+#include <QPalette>
+
 /** The appearance of the program: that of the desktop, or a light or dark one of its own. */
 class MERIX_EXPORT FTheme {
  public:
@@ -13,6 +15,8 @@ class MERIX_EXPORT FTheme {
     static void choose(Appearance appearance);
     /** Takes on the chosen appearance; called once at start. */
     static void install();
+    /** The palette of the light appearance, for what is printed or handed on. */
+    static QPalette lightPalette();
 
  private:
     static void apply(Appearance appearance);

@@ -6,6 +6,7 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FSetUpAssistant.h"
 #include "host/gui/base/FTheme.h"
+#include "host/gui/panels/FChainPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FTablePanel.h"
 #include "host/gui/window/FMainWindow.h"
@@ -264,6 +265,13 @@ std::vector<FActionRow> otherRows() {
          "Before a run, run the computations whose results it uses, as far as their set-up has changed", false, nullptr,
          [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); }, nullptr, nullptr,
          &FRunSettings::areSuppliersFirst},
+        {"exportChain", "&Run", 2, "Export the pi&cture of the chain…", "document-export", "Ctrl+Shift+P",
+         "Write the picture of the computations and their links to an SVG file", false, &hasComputation,
+         [](FMainWindow& window) {
+             if (auto* chain = dynamic_cast<FChainPanel*>(window.panel(QStringLiteral("chain")))) {
+                 chain->exportPicture();
+             }
+         }},
         {"showResults", "Resul&ts", 0, "&Show results", "results", "Ctrl+T",
          "Show the numbers that were read from the output files", false, &needsResults, &showResults},
         {"compareResults", "Resul&ts", 0, "&Compare with the run before", "view-split-left-right", "Ctrl+Shift+T",

@@ -1,5 +1,6 @@
 #include "host/gui/window/FPanelTable.h"
 
+#include "host/gui/panels/FChainPanel.h"
 #include "host/gui/panels/FConsole.h"
 #include "host/gui/panels/FHelpPanel.h"
 #include "host/gui/panels/FLogPanel.h"
@@ -30,6 +31,8 @@ const std::vector<FPanelRow>& FPanelTable::rows() {
          [](FMainWindow& window) -> QWidget* { return new FProblemsPanel(window); }},
         {"log", "Log", "view-list-text", Qt::BottomDockWidgetArea, "Ctrl+5", "logList",
          [](FMainWindow& window) -> QWidget* { return new FLogPanel(window); }},
+        {"chain", "Chain", "insert-link", Qt::BottomDockWidgetArea, "Ctrl+9", "chainPicture",
+         [](FMainWindow& window) -> QWidget* { return new FChainPanel(window); }},
         {"console", "Console", "utilities-terminal", Qt::BottomDockWidgetArea, "Ctrl+6", "consoleLine", &makeConsole},
         {"history", "History", "view-history", Qt::BottomDockWidgetArea, "Ctrl+7", "undoList",
          [](FMainWindow&) -> QWidget* { return new FUndoPanel; }},

@@ -8,6 +8,7 @@
 #include "host/run/FExternComputation.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FTestFolder.h"
+#include "tests/support/chainOfThree.h"
 #include "tests/support/window/FVisualCheck.h"
 #include "tests/support/window/FWindowTest.h"
 
@@ -133,6 +134,22 @@ class VisualTest : public FWindowTest, public testing::WithParamInterface<std::t
         ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("solver")->canRun(); }));
     }
 
+    /** A chain with a failure upstream, and a link that passes a box. */
+    void showChain() {
+        QApplication::setActiveWindow(&window());
+        ASSERT_TRUE(run(chainOfThree));
+        ASSERT_TRUE(
+            run("conf3.setEntryValue(\"note\", inputFile(first.getResults().getResultFileName(\"file\")))\n"
+                "first.setExecutable(\"no such program\")"));
+        run("third.run(true)");
+        FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("second_connector"))});
+        settle();
+        openPanel("chain");
+        check(window(), "chains");
+        openPanel("runs");
+        check(window(), "chainRuns");
+    }
+
     /** In all sizes, with items in every area, and empty; then the dialog that makes one. */
     void showConnector() {
         ASSERT_TRUE(
@@ -184,6 +201,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     showTemplatePage();
     showRunsAndDocuments();
     showConnector();
+    showChain();
     FTextsDialog texts("Preview", {{"a.inp", "1"}, {"b.inp", "2"}}, &window());
     texts.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));

@@ -266,7 +266,7 @@ std::vector<FActionRow> otherRows() {
          [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); }, nullptr, nullptr,
          &FRunSettings::areSuppliersFirst},
         {"exportChain", "&Run", 2, "Export the pi&cture of the chain…", "document-export", "Ctrl+Shift+P",
-         "Write the picture of the computations and their links to an SVG file", false, &hasComputation,
+         "Write the picture of the computations and their links to an SVG file", false, &needsComputation,
          [](FMainWindow& window) {
              if (auto* chain = dynamic_cast<FChainPanel*>(window.panel(QStringLiteral("chain")))) {
                  chain->exportPicture();

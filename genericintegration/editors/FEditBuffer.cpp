@@ -2,7 +2,6 @@
 
 #include "genericintegration/editors/FShownText.h"
 #include "genericintegration/marking/FLineEnds.h"
-#include "genericintegration/marking/FLongLines.h"
 #include "host/core/FChanges.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserStep.h"
@@ -98,15 +97,23 @@ void FEditBuffer::refresh() {
     if (!mIsFilled || mIsPending || (text.constData() == mBase.constData() && text.size() == mBase.size())) {
         return;
     }
+    const QString before = shown();
     mBase = text;
     const QScopedValueRollback<bool> guard(mIsReplacing, true);
-    mIsCut = FLongLines::first(text, FLongLines::longest) > 0;
-    mEdit.setReadOnly(mIsCut);
-    FShownText::change(mEdit, mIsCut ? FLongLines::cut(text) : text, [this](int length) { emit aboutToFill(length); });
+    mLongLines = FLongLines(text);
+    mEdit.setReadOnly(isCut());
+    FShownText::change(mEdit, before, isCut() ? mLongLines.cut(text) : text,
+                       [this](int length) { emit aboutToFill(length); });
+    mDiffers = false;
     emit refreshed();
 }
 
+QString FEditBuffer::shown() const {
+    return mDiffers ? mEdit.document()->toRawText() : isCut() ? mLongLines.cut(mBase) : mBase;
+}
+
 void FEditBuffer::touch() {
+    mDiffers = true;
     const bool isByUser =
         !mIsReplacing && !FMerixCtrl::instance()->isBusy() && !FMerixCtrl::instance()->isLoadingProject() && mFile;
     if (isByUser) {
@@ -117,28 +124,26 @@ void FEditBuffer::touch() {
 
 void FEditBuffer::write() {
     forgetTyped();
-    if (!mFile || !mIsFilled || mIsCut) {
+    if (!mFile || !mIsFilled || isCut()) {
         return;
     }
     const QString text = content();
-    FTextReplacement change = FLineEnds::change(mBase, mEdit.document()->toRawText());
+    const FTextReplacement typed = FLineEnds::change(mBase, mEdit.document()->toRawText());
     const bool isElsewhere = text.constData() != mBase.constData() && text != mBase;
-    if (!change.isEmpty()) {
-        if (isElsewhere) {
-            change = moved(change, difference(mBase, text), text.size());
-        }
-        const QString changed = change.appliedTo(text);
-        mFile->setContent(changed.startsWith(QLatin1String("[B64]")) ? FGenIntFile::storedForm(changed) : changed);
-        mBase = isElsewhere ? mBase : content();
+    if (!typed.isEmpty()) {
+        const FTextReplacement change = isElsewhere ? moved(typed, difference(mBase, text), text.size()) : typed;
+        mFile->setPlainContent(change.appliedTo(text));
+        mBase = isElsewhere ? typed.appliedTo(mBase) : content();
         emit written();
     }
+    mDiffers = false;
     if (isElsewhere) {
         refresh();
     }
 }
 
 void FEditBuffer::replace(QTextCursor cursor, const QString& text) {
-    if (!mIsCut) {
+    if (!isCut()) {
         const QScopedValueRollback<bool> guard(mIsReplacing, true);
         cursor.insertText(text);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/templates/FGenIntFile.h"
 #include "host/core/FExpr.h"
 #include "host/gui/base/FPendingEdit.h"
@@ -37,7 +38,9 @@ class FEditBuffer : public QObject, public FPendingEdit {
     /** The user has changed the text: it will be written when there was no further change for a while. */
     void touch();
     /** Whether the widget shows lines in pieces. */
-    bool isCut() const { return mIsCut; }
+    bool isCut() const { return mLongLines.areThere(); }
+    /** The lines that are shown in pieces. */
+    const FLongLines& longLines() const { return mLongLines; }
     bool isPending() const { return mIsPending; }
     /** Writes the text into the template, if it differs; within a step of the caller. */
     void write();
@@ -61,13 +64,16 @@ class FEditBuffer : public QObject, public FPendingEdit {
  private:
     QString content() const;
     void forgetTyped();
+    /** The text that the widget has, with any line ends. */
+    QString shown() const;
 
     QPlainTextEdit& mEdit;
     FExpr<FGenIntFile> mFile;
     QString mBase;  //!< the template's text that the widget last had; shares its data with the template
+    FLongLines mLongLines;
     bool mIsFilled = false;
-    bool mIsCut = false;
     bool mIsPending = false;
+    bool mDiffers = false;  //!< the widget's text may be another one than the base
     bool mIsReplacing = false;
     QTimer mTimer;
 };

@@ -6,6 +6,7 @@
 #include "genericintegration/editors/FWrittenTextView.h"
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FValueTable.h"
+#include "genericintegration/marking/FDocumentLineEnd.h"
 #include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/marking/FTemplateLine.h"
 #include "genericintegration/marking/FWrittenText.h"
@@ -24,13 +25,9 @@
 #include <QSplitter>
 #include <QToolButton>
 
-#include <tuple>
+#include <algorithm>
 
-namespace {
-
-constexpr int checkDelay = 300;  // milliseconds
-
-}  // namespace
+namespace {}  // namespace
 
 FClassData FGenIntCommandFileEditor::mClass("FGenIntCommandFileEditor", &FView::mClass);
 
@@ -68,13 +65,12 @@ void FGenIntCommandFileEditor::init() {
     mpEdit = new FGenIntCommandFileEdit(this, this);
     mpBuffer = new FEditBuffer(*mpEdit);
     mpBuffer->setParent(this);
+    mpEdit->setLineNumbers([this](int block) { return mpBuffer->longLines().numberOf(block); });
     mpReports = new FTemplateReports(this);
     column->addWidget(makeBar());
     column->addWidget(mpReports);
     column->addWidget(makeTexts(), 1);
     setFocusProxy(mpEdit);
-    mCheck.setSingleShot(true);
-    mCheck.setInterval(checkDelay);
     listen();
 }
 
@@ -143,7 +139,8 @@ void FGenIntCommandFileEditor::listen() {
     connect(mpBuffer, &FEditBuffer::written, this, &FGenIntCommandFileEditor::markConfiguration);
     connect(mpReports, &FTemplateReports::placeWanted, this, &FGenIntCommandFileEditor::goTo);
     connect(mpReports, &FTemplateReports::correctionWanted, this, &FGenIntCommandFileEditor::correct);
-    connect(&mCheck, &QTimer::timeout, this, &FGenIntCommandFileEditor::check);
+    mpProblems = FProblemWatch::get();
+    connect(mpProblems.get(), &FProblemWatch::checked, this, &FGenIntCommandFileEditor::showProblems);
     const FChanges* changes = FChanges::instance();
     connect(changes, &FChanges::stepDone, this, &FGenIntCommandFileEditor::modelChanged);
     connect(changes, &FChanges::stepUndone, this, &FGenIntCommandFileEditor::modelChanged);
@@ -208,6 +205,7 @@ void FGenIntCommandFileEditor::changeMode() {
 void FGenIntCommandFileEditor::showEvent(QShowEvent* event) {
     mpBuffer->fill();
     modelChanged();
+    showProblems();
     QFrame::showEvent(event);
 }
 
@@ -251,20 +249,18 @@ void FGenIntCommandFileEditor::modelChanged() {
     if (isVisible()) {
         mpEdit->highlighter().followDefinition();
         mpWritten->refreshSoon();
-        mCheck.start();
     }
 }
 
 // A note says what is so, and not what should be different.
-void FGenIntCommandFileEditor::check() {
-    FSetUpCheck::Problems own;
-    const FGenIntComputation* owner = computation();
-    for (const FSetUpProblem& problem : owner ? FSetUpCheck::problemsOf(*owner, false) : FSetUpCheck::Problems()) {
-        const bool isOwn = mCommandFile && problem.object == mCommandFile->getName();
-        if (isOwn && problem.severity != FSetUpProblem::Severity::Note) {
-            own.append(problem);
-        }
+void FGenIntCommandFileEditor::showProblems() {
+    if (!isVisible()) {
+        return;
     }
+    FSetUpCheck::Problems own =
+        mCommandFile ? mpProblems->problemsOf(mCommandFile->getName()) : FSetUpCheck::Problems();
+    const auto isNote = [](const FSetUpProblem& problem) { return problem.severity == FSetUpProblem::Severity::Note; };
+    own.erase(std::remove_if(own.begin(), own.end(), isNote), own.end());
     mpReports->show(own, notices());
 }
 
@@ -318,9 +314,9 @@ FWrittenText FGenIntCommandFileEditor::writtenText() const {
 void FGenIntCommandFileEditor::goTo(int line, int column) {
     mpBuffer->fill();
     if (line > 0 && mpBuffer->isCut()) {
-        std::tie(line, column) = FLongLines::placeInCut(mCommandFile->getPlainContent(), line, column);
-    }
-    if (line > 0) {
+        const int position = FDocumentLineEnd::positionAt(mCommandFile->getPlainContent(), line, column);
+        mpEdit->goTo(mpBuffer->longLines().shownAt(position));
+    } else if (line > 0) {
         mpEdit->goTo(line, column);
     }
     setFocusToEditor();

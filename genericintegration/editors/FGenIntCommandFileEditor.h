@@ -6,9 +6,11 @@
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FView.h"
 #include "host/gui/base/FObjectPage.h"
+#include "host/gui/base/FProblemWatch.h"
 
 #include <QFrame>
-#include <QTimer>
+
+#include <memory>
 
 class FConnectorInterface;
 class FGenIntCommandFileEdit;
@@ -122,7 +124,7 @@ class FGenIntCommandFileEditor : public FClass<FGenIntCommandFileEditor, QFrame,
     void changeMode();
     void markConfiguration();
     void modelChanged();
-    void check();
+    void showProblems();
     QStringList notices() const;
     void correct(const QString& wrong, const QString& right);
     void showEntry(const QString& name);
@@ -138,5 +140,5 @@ class FGenIntCommandFileEditor : public FClass<FGenIntCommandFileEditor, QFrame,
     QToolButton* mpValuesButton = nullptr;
     FTemplateReports* mpReports = nullptr;
     FWrittenTextView* mpWritten = nullptr;
-    QTimer mCheck;
+    std::shared_ptr<FProblemWatch> mpProblems;
 };

@@ -5,6 +5,7 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 
 #include <QElapsedTimer>
+#include <QScopedValueRollback>
 #include <QTextDocument>
 
 #include <memory>
@@ -121,8 +122,10 @@ void FGenIntCommandFileSyntaxHighlighter::textChanged(int position, int removed,
     colour(first, last);
 }
 
+// A colour that changes asks for an update, which comes here again.
 void FGenIntCommandFileSyntaxHighlighter::colourShown() {
-    if (!isWhole()) {
+    if (!isWhole() && !mIsColouring) {
+        const QScopedValueRollback<bool> guard(mIsColouring, true);
         const auto [first, last] = mEdit.shownRange();
         colour(first - margin, last + margin);
     }

@@ -62,5 +62,6 @@ class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     FTemplateFormats mFormats;
     int mPass = 0;  //!< what is in the state of blocks that have been coloured since; only in a large text
     int mNext = 0;  //!< block with which the next slice starts
+    bool mIsColouring = false;
     QTimer mSlices;
 };

@@ -197,6 +197,9 @@ void FGenIntResultsFileEditor::listen() {
             letGo();
         }
     });
+    connect(changes, &FChanges::stepDone, this, &FGenIntResultsFileEditor::followRows);
+    connect(changes, &FChanges::stepUndone, this, &FGenIntResultsFileEditor::followRows);
+    connect(changes, &FChanges::stepRedone, this, &FGenIntResultsFileEditor::followRows);
     connect(mpProblems.get(), &FProblemWatch::checked, this, &FGenIntResultsFileEditor::showProblems);
     connect(FViewCtrl::instance(), &FViewCtrl::applicationFontChanged, this, &FGenIntResultsFileEditor::refreshLabels);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* before, const QWidget* now) {
@@ -236,8 +239,7 @@ void FGenIntResultsFileEditor::takeColors() {
 
 void FGenIntResultsFileEditor::goTo(int line, int column) {
     if (line > 0) {
-        mEdit->goTo(line, column);
-        mEdit->setFocus();
+        mpSample->goTo(line, column);
     }
 }
 
@@ -512,7 +514,16 @@ void FGenIntResultsFileEditor::averageChanged(const FExpr<FUnsigned>& rows) {
 }
 
 void FGenIntResultsFileEditor::showProblems() {
-    mpReports->show(mResultsFile ? mpProblems->problemsOf(mResultsFile->getName()) : FSetUpCheck::Problems(), {});
+    mpReports->show(mResultsFile ? mpProblems->problemsOf(mResultsFile->getName()) : FSetUpCheck::Problems(),
+                    notices());
+}
+
+QStringList FGenIntResultsFileEditor::notices() const {
+    const int line = mpSample->firstLongLine();
+    return line == 0 ? QStringList()
+                     : QStringList(QStringLiteral("Line %1 has more than %L2 characters: it is shown in pieces.")
+                                       .arg(line)
+                                       .arg(FLongLines::longest));
 }
 
 void FGenIntResultsFileEditor::chosen(const FSetUpProblem& problem) {
@@ -641,6 +652,22 @@ void FGenIntResultsFileEditor::highlightCurrentValue() {
     }
     const FFoundValue found = mpSample->mark(FTemplateValues::describe(*value.ptr()), mpForm->separators());
     mpForm->showPlace(found, found.textIn(mpSample->sample().text()), FTemplateValues::isFileName(*value.ptr()));
+}
+
+// The rows of an average may be an expression, whose value changes while the template stays as it is.
+void FGenIntResultsFileEditor::followRows() {
+    if (!mResultsFile || mIsStale || mSteps.isChanging()) {
+        return;
+    }
+    const FTemplateValues::Values values = FTemplateValues::among(mResultsFile->getValues()->getObjects());
+    const bool isThere = std::any_of(values.begin(), values.end(), [](const FGenIntResultsFileValue* value) {
+        const FObject* rows = value->mCalcAverage ? value->mNumAverageRows.getStored() : nullptr;
+        return rows && (rows->isCmd() || rows->holdsValue());
+    });
+    if (isThere) {
+        previewSoon();
+        highlightCurrentValue();
+    }
 }
 
 void FGenIntResultsFileEditor::previewSoon() {

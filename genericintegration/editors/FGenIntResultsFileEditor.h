@@ -152,12 +152,14 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     FExpr<FGenIntResultsFileValue> currentValue() const { return mSteps.currentValue(); }
     void createParamOf(int row);
     void showProblems();
+    QStringList notices() const;
     void chosen(const FSetUpProblem& problem);
 
     void refreshAll();
     void showCurrentValue();
     void fillSelector(const std::vector<FExpr<FObject>>& values);
     void previewSoon();
+    void followRows();
 
     FExpr<FGenIntResultsFile> mResultsFile;
     FExpr<FGenIntComputation> mComputation;

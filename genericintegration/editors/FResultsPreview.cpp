@@ -9,7 +9,10 @@
 #include <QAbstractButton>
 #include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace {
 
@@ -43,6 +46,7 @@ FResultsPreview::FResultsPreview() {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
+    verticalHeader()->setTextElideMode(Qt::ElideMiddle);
     // The button between the headers, which Qt gives no name.
     for (auto* corner : findChildren<QAbstractButton*>()) {
         corner->setAccessibleName(QStringLiteral("Select all"));
@@ -73,6 +77,7 @@ void FResultsPreview::setBlank() {
     setItem(0, typeColumn, new QTableWidgetItem);
     resizeColumnsToContents();
     resizeRowsToContents();
+    fitNames();
 }
 
 void FResultsPreview::show(const FExpr<FTableData>& table) {
@@ -93,6 +98,7 @@ void FResultsPreview::fill() {
     }
     resizeColumnsToContents();
     resizeRowsToContents();
+    fitNames();
 }
 
 void FResultsPreview::addRow(int row) {
@@ -113,6 +119,7 @@ void FResultsPreview::addRow(int row) {
     showState(*type, content);
     setItem(row, typeColumn, type);
     auto* header = new QTableWidgetItem(content.header);
+    header->setToolTip(content.reason.isEmpty() ? content.header : QString());
     showState(*header, content);
     setVerticalHeaderItem(row, header);
     auto* button = new FToolButton(QStringLiteral("createParameter%1").arg(row), QStringLiteral("parameter"),
@@ -136,6 +143,18 @@ void FResultsPreview::select(const QString& value) {
             setCurrentCell(row, valueColumn);
         }
     }
+}
+
+void FResultsPreview::fitNames() {
+    constexpr int shortest = 8;  // characters
+    const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->width() : 0;
+    const int room = width() - 2 * frameWidth() - bar - horizontalHeader()->length();
+    verticalHeader()->setMaximumWidth(std::max(room, shortest * fontMetrics().averageCharWidth()));
+}
+
+void FResultsPreview::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    fitNames();
 }
 
 void FResultsPreview::changeEvent(QEvent* event) {

@@ -30,10 +30,13 @@ class FResultsPreview : public QTableWidget {
     void parameterWanted(int row);
 
  protected:
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
  private:
     void clearRows();
+    /** Gives the names the room that the columns leave. */
+    void fitNames();
     void fill();
     void addRow(int row);
 

@@ -2,11 +2,14 @@
 
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "genericintegration/marking/FDocumentLineEnd.h"
 #include "host/core/FViewCtrl.h"
 #include "host/gui/base/FGroupBox.h"
 
 #include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 FSamplePane::FSamplePane(FGenIntResultsFileEditor& page) : mpEdit(new FGenIntResultsFileEdit(&page)), mMarker(*mpEdit) {
     const bool isSmall = FViewCtrl::hasSmallScreen();
@@ -24,6 +27,7 @@ FSamplePane::FSamplePane(FGenIntResultsFileEditor& page) : mpEdit(new FGenIntRes
     auto* group = new FGroupBox(QStringLiteral("File"));
     group->layout()->addWidget(row);
     column->addWidget(group, 1);
+    mpEdit->setLineNumbers([this](int block) { return mLongLines.numberOf(block); });
 }
 
 bool FSamplePane::setText(const QString& text) {
@@ -34,7 +38,8 @@ bool FSamplePane::setText(const QString& text) {
     mText = text;
     mpSample.reset();
     mMarker.clear();  // a new text takes over the format at the cursor
-    mpEdit->setPlainText(text);
+    mLongLines = FLongLines(text);
+    mpEdit->setPlainText(mLongLines.areThere() ? mLongLines.cut(text) : text);
     mpEdit->horizontalScrollBar()->setValue(scrolled.x());
     mpEdit->verticalScrollBar()->setValue(scrolled.y());
     return true;
@@ -56,6 +61,34 @@ const FResultSample& FSamplePane::sample() {
 
 FFoundValue FSamplePane::mark(const FValueDescription& value, const FSeparatorSettings& separators) {
     const FFoundValue found = sample().read(value, separators);
-    mMarker.paint(FResultMarks::of(sample(), value, separators, found));
+    mMarker.paint(shown(FResultMarks::of(sample(), value, separators, found)));
     return found;
+}
+
+FTextRange FSamplePane::shown(FTextRange range) const {
+    const int begin = mLongLines.shownAt(range.begin);
+    return {begin, range.length > 0 ? mLongLines.shownAt(range.end() - 1) + 1 - begin : 0};
+}
+
+FResultMarks FSamplePane::shown(FResultMarks marks) const {
+    for (std::vector<FTextRange>* ranges : {&marks.lines, &marks.columns, &marks.readerPlaces}) {
+        std::transform(ranges->begin(), ranges->end(), ranges->begin(),
+                       [this](FTextRange range) { return shown(range); });
+    }
+    if (marks.anchor) {
+        marks.anchor = shown(*marks.anchor);
+    }
+    marks.cursor = mLongLines.shownAt(marks.cursor);
+    return marks;
+}
+
+FTextRange FSamplePane::selection() const {
+    const QTextCursor cursor = mpEdit->textCursor();
+    const int begin = positionOf(cursor.selectionStart());
+    return {begin, positionOf(cursor.selectionEnd()) - begin};
+}
+
+void FSamplePane::goTo(int line, int column) {
+    mpEdit->goTo(mLongLines.shownAt(FDocumentLineEnd::positionAt(mText, line, column)));
+    mpEdit->setFocus();
 }

@@ -2,6 +2,7 @@
 
 #include "genericintegration/editors/FResultsMarker.h"
 #include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/marking/FResultSample.h"
 
 #include <QFrame>
@@ -11,7 +12,10 @@
 class FGenIntResultsFileEdit;
 class FGenIntResultsFileEditor;
 
-/** The sample of a result template as its page shows it, with marks where a value is read. */
+/**
+ * The sample of a result template as its page shows it, with marks where a value is read. Lines that are too long for
+ * the widget are shown in pieces: positions here are those of the sample, and of the widget where that is said.
+ */
 class FSamplePane : public QFrame {
     Q_OBJECT
 
@@ -27,6 +31,15 @@ class FSamplePane : public QFrame {
     /** The text as the reader sees it. */
     const FResultSample& sample();
 
+    /** What is selected. */
+    FTextRange selection() const;
+    /** The position of a position of the widget. */
+    int positionOf(int shown) const { return mLongLines.positionOf(shown); }
+    /** The first line that is shown in pieces, from 1; 0 if none is. */
+    int firstLongLine() const { return mLongLines.areThere() ? FLongLines::first(mText, FLongLines::longest) : 0; }
+    /** Shows a place, counted from 1. */
+    void goTo(int line, int column);
+
     /** Marks where a value is read, and returns what the reader finds there. */
     FFoundValue mark(const FValueDescription& value, const FSeparatorSettings& separators);
     void unmark() { mMarker.clear(); }
@@ -34,8 +47,12 @@ class FSamplePane : public QFrame {
     FResultsMarker& marker() { return mMarker; }
 
  private:
+    FTextRange shown(FTextRange range) const;
+    FResultMarks shown(FResultMarks marks) const;
+
     FGenIntResultsFileEdit* mpEdit;
     FResultsMarker mMarker;
     QString mText;
+    FLongLines mLongLines;
     std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed
 };

@@ -1,6 +1,5 @@
 #include "genericintegration/editors/FSamplePointing.h"
 
-#include "genericintegration/editors/FGenIntResultsFileEdit.h"
 #include "genericintegration/editors/FResultsFileSteps.h"
 #include "genericintegration/editors/FResultsPreview.h"
 #include "genericintegration/editors/FSamplePane.h"
@@ -9,15 +8,15 @@
 #include "host/gui/base/FIcons.h"
 
 #include <QMenu>
-#include <QTextBlock>
 
 FSamplePointing::FSamplePointing(const FExpr<FGenIntResultsFile>& file, FResultsFileSteps& steps, FSamplePane& pane,
                                  FResultsPreview& preview)
     : mFile(file), mSteps(steps), mPane(pane), mPreview(preview) {}
 
-std::optional<FPlaceProposal> FSamplePointing::proposalAt(int position) const {
+std::optional<FPlaceProposal> FSamplePointing::proposalAt(int shown) const {
     FUserStep::commitEdits();
-    return mFile ? FPlaceProposal::at(mPane.sample(), FTemplateValues::separatorsOf(*mFile.ptr()), position)
+    return mFile ? FPlaceProposal::at(mPane.sample(), FTemplateValues::separatorsOf(*mFile.ptr()),
+                                      mPane.positionOf(shown))
                  : std::nullopt;
 }
 
@@ -72,10 +71,8 @@ void FSamplePointing::setAnchor(FTextRange selection) {
         moveValue(proposal->value, QStringLiteral("change anchor"));
         return;
     }
-    QTextCursor cursor(mPane.edit().document());
-    cursor.setPosition(selection.begin);
-    cursor.setPosition(selection.end(), QTextCursor::KeepAnchor);
-    const QString text = cursor.selectedText();
+    const int line = sample.lineAtPosition(selection.begin);
+    const QString text = sample.line(line).mid(selection.begin - sample.linePosition(line), selection.length);
     mSteps.changeValue(QStringLiteral("change anchor"),
                        [&text](FGenIntResultsFileValue& current) { current.mAnchor = text; });
     emit valueMoved();
@@ -93,9 +90,9 @@ void FSamplePointing::fillMenu(QMenu& menu, int position) {
         menu.insertAction(first, action);
     };
     const FExpr<FGenIntResultsFileValue> value = mSteps.currentValue();
-    const QTextCursor cursor = mPane.edit().textCursor();
-    const FTextRange selection{cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
-    const bool isInLine = mPane.edit().document()->findBlock(selection.begin).contains(selection.end());
+    const FTextRange selection = mPane.selection();
+    const FResultSample& sample = mPane.sample();
+    const bool isInLine = sample.lineAtPosition(selection.begin) == sample.lineAtPosition(selection.end());
     insert(QStringLiteral("readNumber"), QStringLiteral("list-add"), QStringLiteral("&Read this number"),
            proposal.has_value(), [this, position] { readNumberAt(position); });
     insert(QStringLiteral("readHere"), QStringLiteral("go-jump"),

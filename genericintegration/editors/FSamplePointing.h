@@ -20,11 +20,11 @@ class FSamplePointing : public QObject {
                     FResultsPreview& preview);
 
     /**
-     * Has a value read the number at a position of the sample: one that does already is chosen, else a new one is
+     * Has a value read the number at a position of the widget: one that does already is chosen, else a new one is
      * added. False if no number is there.
      */
     bool readNumberAt(int position);
-    /** Adds what can be done at a position of the sample to its menu. */
+    /** Adds what can be done at a position of the widget to its menu. */
     void fillMenu(QMenu& menu, int position);
 
  signals:
@@ -36,7 +36,7 @@ class FSamplePointing : public QObject {
     void rowChosen(int row);
 
  private:
-    std::optional<FPlaceProposal> proposalAt(int position) const;
+    std::optional<FPlaceProposal> proposalAt(int shown) const;
     int rowReading(FTextRange number) const;
     void moveValue(const FValueDescription& place, const QString& label);
     void setAnchor(FTextRange selection);

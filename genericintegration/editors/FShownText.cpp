@@ -14,8 +14,7 @@ namespace {
 /** Whether filling the widget again is faster than editing its text. */
 bool isLarge(const std::vector<FTextReplacement>& changes) {
     constexpr int mostInserted = 1'000'000;
-    constexpr std::size_t mostChanges = 50'000;
-    return changes.size() > mostChanges || (changes.size() == 1 && changes.front().inserted.size() > mostInserted);
+    return changes.size() == 1 && changes.front().inserted.size() > mostInserted;
 }
 
 void replace(QTextDocument& document, const std::vector<FTextReplacement>& changes) {
@@ -56,10 +55,11 @@ struct FCaret {
 
 }  // namespace
 
-void FShownText::change(QPlainTextEdit& edit, const QString& text, const std::function<void(int length)>& fills) {
+void FShownText::change(QPlainTextEdit& edit, const QString& shown, const QString& text,
+                        const std::function<void(int length)>& fills) {
     QTextDocument& document = *edit.document();
     const std::vector<FTextReplacement> changes =
-        document.isEmpty() ? std::vector<FTextReplacement>() : FLineEnds::changesOfDocument(document.toRawText(), text);
+        document.isEmpty() ? std::vector<FTextReplacement>() : FLineEnds::changesOfDocument(shown, text);
     const FCaret caret(edit.textCursor());
     const int column = edit.horizontalScrollBar()->value();
     const int line = edit.verticalScrollBar()->value();

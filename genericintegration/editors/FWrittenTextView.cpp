@@ -46,10 +46,12 @@ void FWrittenTextView::couple(QScrollBar* from, QScrollBar* to) {
 void FWrittenTextView::refresh() {
     if (isVisible()) {
         FWrittenText written = mWrite();
-        if (FLongLines::first(written.text, FLongLines::longest) > 0) {
-            written = {FLongLines::cut(written.text)};
+        const FLongLines lines(written.text);
+        setLineNumbers([lines](int block) { return lines.numberOf(block); });
+        if (lines.areThere()) {
+            written = {lines.cut(written.text)};
         }
-        FShownText::change(*this, written.text);
+        FShownText::change(*this, document()->toRawText(), written.text);
         mpTags->setRanges(std::move(written.tags));
         mpValues->setRanges(std::move(written.values));
         const QScopedValueRollback<bool> guard(mIsScrolling, true);

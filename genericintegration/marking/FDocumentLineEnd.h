@@ -28,4 +28,17 @@ inline int lengthBefore(QStringView text, qsizetype place) {
     return text[place - 1] == u'\n' && place > 1 && text[place - 2] == u'\r' ? 2 : 1;
 }
 
+/** The position in the document of a line and column of the text, which count from 1. Takes time linear in the text. */
+inline int positionAt(QStringView text, int line, int column) {
+    qsizetype place = 0;
+    qsizetype joined = 0;  // characters that belong to the line end before them
+    for (int passed = 1; passed < line && place < text.size();) {
+        const int length = lengthAt(text, place);
+        passed += length > 0 ? 1 : 0;
+        joined += length > 1 ? 1 : 0;
+        place += length > 0 ? length : 1;
+    }
+    return static_cast<int>(place - joined) + (column > 0 ? column - 1 : 0);
+}
+
 }  // namespace FDocumentLineEnd

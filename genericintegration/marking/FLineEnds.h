@@ -21,9 +21,16 @@ namespace FLineEnds {
  */
 FTextReplacement change(const QString& text, const QString& document);
 
+/** Most changes of lines that are given one by one. */
+constexpr std::size_t mostChanges = 50'000;
+
 /**
  * The changes that give a document the lines of a text, with positions of the document as it is now, in ascending
- * order: a small one for each line that differs, if the number of lines stays; else one for all of them.
+ * order: a small one for each line that differs, if the number of lines stays and not too many differ; else one for all
+ * of them. Takes time
+ * linear in the text, and little if most of it is the same with the same line ends.
+ *
+ * @param document  its lines, with any of the line ends above
  */
 std::vector<FTextReplacement> changesOfDocument(const QString& document, const QString& text);
 

@@ -4,17 +4,10 @@
 
 #include <algorithm>
 
-namespace FLongLines {
 namespace {
 
 int endOfLine(const QString& text, int start) {
     return static_cast<int>(std::find_if(text.begin() + start, text.end(), &FDocumentLineEnd::isPart) - text.begin());
-}
-
-/** End of the piece that starts at a place of a line. A surrogate pair stays together. */
-int endOfPiece(const QString& text, int start, int lineEnd) {
-    const int end = std::min(start + piece, lineEnd);
-    return end < lineEnd && text[end].isLowSurrogate() ? end + 1 : end;
 }
 
 /** Calls a function with the start and end of each line, until it returns false. */
@@ -31,7 +24,24 @@ void forEachLine(const QString& text, const Function& function) {
 
 }  // namespace
 
-int first(const QString& text, int limit) {
+bool FLongLines::hasLonger(const QString& text, int limit) {
+    // Such a line covers one of these places, and most places are in a short line.
+    for (int place = limit; place < text.size(); place += limit) {
+        int start = place;
+        while (start > 0 && place - start <= limit && !FDocumentLineEnd::isPart(text[start - 1])) {
+            --start;
+        }
+        if (!FDocumentLineEnd::isPart(text[place]) && endOfLine(text, place) - start > limit) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int FLongLines::first(const QString& text, int limit) {
+    if (!hasLonger(text, limit)) {
+        return 0;
+    }
     int line = 0;
     bool isFound = false;
     forEachLine(text, [&](int start, int end) {
@@ -42,39 +52,56 @@ int first(const QString& text, int limit) {
     return isFound ? line : 0;
 }
 
-QString cut(const QString& text) {
-    QString pieces;
-    pieces.reserve(text.size() + text.size() / piece);
-    int copied = 0;
+FLongLines::FLongLines(const QString& text) {
+    if (!hasLonger(text, longest)) {
+        return;
+    }
+    int position = 0;
+    int line = 0;
     forEachLine(text, [&](int start, int end) {
-        int at = endOfPiece(text, start, end);
-        for (; end - start > longest && at < end; at = endOfPiece(text, at, end)) {
-            pieces.append(text.midRef(copied, at - copied)).append(QLatin1Char('\n'));
-            copied = at;
+        for (int at = start + piece; end - start > longest && at < end; at += piece) {
+            at += text[at].isLowSurrogate() ? 1 : 0;
+            if (at < end) {
+                mCuts.push_back({at, position + at - start, line});
+            }
         }
+        position += end - start + 1;
+        ++line;
         return true;
     });
+}
+
+QString FLongLines::cut(const QString& text) const {
+    QString pieces;
+    pieces.reserve(text.size() + static_cast<int>(mCuts.size()));
+    int copied = 0;
+    for (const Cut& cut : mCuts) {
+        pieces.append(text.midRef(copied, cut.offset - copied)).append(QLatin1Char('\n'));
+        copied = cut.offset;
+    }
     return pieces.append(text.midRef(copied));
 }
 
-std::pair<int, int> placeInCut(const QString& text, int line, int column) {
-    int number = 0;
-    int inCut = 0;
-    int inPiece = column;
-    forEachLine(text, [&](int start, int end) {
-        ++number;
-        ++inCut;
-        const int wanted = number == line ? start + column - 1 : end;
-        int pieceStart = start;
-        for (int at = endOfPiece(text, start, end); end - start > longest && at < end && at <= wanted;
-             at = endOfPiece(text, at, end)) {
-            ++inCut;
-            pieceStart = at;
-        }
-        inPiece = std::max(column - (pieceStart - start), 0);
-        return number < line;
+/** How many cuts, from the first one, a condition holds for; it is called with a cut and the number of those before. */
+template <class Condition>
+int FLongLines::cutsBefore(const Condition& condition) const {
+    const auto behind = std::partition_point(mCuts.begin(), mCuts.end(), [&](const Cut& cut) {
+        return condition(cut, static_cast<int>(&cut - mCuts.data()));
     });
-    return {inCut, inPiece};
+    return static_cast<int>(behind - mCuts.begin());
 }
 
-}  // namespace FLongLines
+int FLongLines::shownAt(int position) const {
+    return position + cutsBefore([position](const Cut& cut, int) { return cut.position <= position; });
+}
+
+int FLongLines::positionOf(int shown) const {
+    return shown - cutsBefore([shown](const Cut& cut, int number) { return cut.position + number < shown; });
+}
+
+int FLongLines::numberOf(int shownLine) const {
+    const auto shownLineOf = [](const Cut& cut, int number) { return cut.line + number + 1; };
+    const int cuts = cutsBefore([&](const Cut& cut, int number) { return shownLineOf(cut, number) <= shownLine; });
+    const bool isContinued = cuts > 0 && shownLineOf(mCuts[static_cast<std::size_t>(cuts) - 1], cuts - 1) == shownLine;
+    return isContinued ? 0 : shownLine - cuts + 1;
+}

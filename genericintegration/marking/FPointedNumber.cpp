@@ -3,6 +3,7 @@
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FSeparatorWalk.h"
+#include "genericintegration/marking/FLineNumbers.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
 
@@ -23,9 +24,8 @@ int skipBlanks(const QString& text, int start) {
 
 }  // namespace
 
-FPointedNumber::FPointedNumber(QString line, qint64 number, bool findsNumbers,
-                               std::shared_ptr<const FSeparator> separator)
-    : mText(std::move(line)), mLine(number), mFindsNumbers(findsNumbers), mSeparator(std::move(separator)) {}
+FPointedNumber::FPointedNumber(QString line, qint64 number, std::shared_ptr<const FSeparator> separator)
+    : mText(std::move(line)), mLine(number), mSeparator(std::move(separator)) {}
 
 std::optional<FPointedNumber> FPointedNumber::at(const FResultSample& sample, const FSeparatorSettings& separators,
                                                  int position) {
@@ -40,9 +40,7 @@ std::optional<FPointedNumber> FPointedNumber::at(const FResultSample& sample, co
     QString line = FUtf8::decode(text.text().substr(static_cast<std::size_t>(begin), size));
     line.chop(line.endsWith(u'\r') ? 1 : 0);
     FSeparatorMatches::startText();
-    FPointedNumber pointed(
-        line, number, separators.findNumbers,
-        FSeparator::of(separators.findNumbers ? FNumberPattern::pattern().pattern() : separators.expression()));
+    FPointedNumber pointed(line, number, separators.findNumbers ? nullptr : FSeparator::of(separators.expression()));
     const int unit = static_cast<int>(text.index().utf16At(offset) - text.index().utf16At(begin));
     int column = 0;
     // A click on the right half of the last digit leads behind the number.
@@ -55,13 +53,35 @@ std::optional<FPointedNumber> FPointedNumber::at(const FResultSample& sample, co
 }
 
 bool FPointedNumber::find(int unit, int start, int& column, int& begin, int& length) const {
+    return mSeparator ? findColumn(unit, start, column, begin, length) : findNumber(unit, start, column, begin, length);
+}
+
+bool FPointedNumber::findNumber(int unit, int start, int& column, int& begin, int& length) const {
+    FLineNumbers numbers(mText, start);
+    for (column = 0; column < mostColumns; ++column) {
+        const FTextRange number = numbers.next();
+        if (number.length == 0 || number.begin > unit) {
+            return false;
+        }
+        if (unit < number.end()) {
+            begin = number.begin;
+            length = number.length;
+            bool isNumber = false;
+            mText.midRef(begin, length).toDouble(&isNumber);
+            return isNumber;
+        }
+    }
+    return false;
+}
+
+bool FPointedNumber::findColumn(int unit, int start, int& column, int& begin, int& length) const {
     const QString rest = mText.mid(start);
     FSeparatorWalk walk(*mSeparator, rest);
     for (column = 0; column < mostColumns; ++column) {
         const int match = walk.next();
-        begin = start + (mFindsNumbers && match >= 0 ? match : walk.start());
-        length = mFindsNumbers ? walk.matchedLength() : start + (match < 0 ? rest.size() : match) - begin;
-        if ((mFindsNumbers && match < 0) || begin > unit) {
+        begin = start + walk.start();
+        length = start + (match < 0 ? rest.size() : match) - begin;
+        if (begin > unit) {
             return false;
         }
         if (unit < begin + length) {

@@ -26,14 +26,15 @@ class FPointedNumber {
     int columnFrom(int start) const;
 
  private:
-    FPointedNumber(QString line, qint64 number, bool findsNumbers, std::shared_ptr<const FSeparator> separator);
+    FPointedNumber(QString line, qint64 number, std::shared_ptr<const FSeparator> separator);
     /** The column that begins at or contains a unit, in the line from a start on. */
     bool find(int unit, int start, int& column, int& begin, int& length) const;
+    bool findNumber(int unit, int start, int& column, int& begin, int& length) const;
+    bool findColumn(int unit, int start, int& column, int& begin, int& length) const;
 
     QString mText;
     qint64 mLine;
-    bool mFindsNumbers;
-    std::shared_ptr<const FSeparator> mSeparator;
+    std::shared_ptr<const FSeparator> mSeparator;  //!< null where numbers are columns
     int mStart = 0;
     int mLength = 0;
 };

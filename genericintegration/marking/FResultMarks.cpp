@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "genericintegration/io/FColumnPlace.h"
-#include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSeparator.h"
 #include "genericintegration/io/FSeparatorMatches.h"
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueDescription.h"
+#include "genericintegration/marking/FLineNumbers.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
 
@@ -18,8 +18,19 @@ QString withoutIndent(const QString& text) {
     return text.mid(static_cast<int>(begin - text.begin()));
 }
 
-std::shared_ptr<const FSeparator> separatorOf(const FSeparatorSettings& separators) {
-    return FSeparator::of(separators.findNumbers ? FNumberPattern::pattern().pattern() : separators.expression());
+/** The place of a number in a line; before the missing one if there are fewer. */
+FColumnPlace placeOfNumber(const QString& line, int start, int column) {
+    FLineNumbers numbers(line, start);
+    int end = start;
+    for (; column > 0; --column) {
+        const FTextRange number = numbers.next();
+        if (number.length == 0) {
+            return {-1, 0, false};
+        }
+        end = number.end();
+    }
+    const FTextRange number = numbers.next();
+    return number.length == 0 ? FColumnPlace{end, 0, false} : FColumnPlace{number.begin, number.length, true};
 }
 
 void append(std::vector<FTextRange>& ranges, FTextRange range) {
@@ -34,8 +45,7 @@ class FMarkWalk {
     FMarkWalk(const FResultSample& sample, const FValueDescription& value, const FSeparatorSettings& separators)
         : mSample(sample),
           mValue(value),
-          mFindsNumbers(separators.findNumbers),
-          mSeparator(separatorOf(separators)),
+          mSeparator(separators.findNumbers ? nullptr : FSeparator::of(separators.expression())),
           mLastLine(sample.lineCount() - 1) {
         FSeparatorMatches::startText();
     }
@@ -109,7 +119,8 @@ class FMarkWalk {
         const int position = mSample.linePosition(number);
         const int length = mSample.lineLength(number);
         append(mMarks.lines, {position, length});
-        const FColumnPlace place = FColumnPlace::find(*mSeparator, text, start, mValue.column, mFindsNumbers);
+        const FColumnPlace place = mSeparator ? FColumnPlace::find(*mSeparator, text, start, mValue.column, false)
+                                              : placeOfNumber(text, start, mValue.column);
         const int begin = std::min(position + length - text.size() + std::max(place.start, 0), mSample.documentEnd());
         const FTextRange column{begin, std::max(place.length, 0)};
         append(mMarks.columns, column);
@@ -118,8 +129,7 @@ class FMarkWalk {
 
     const FResultSample& mSample;
     const FValueDescription& mValue;
-    bool mFindsNumbers;
-    std::shared_ptr<const FSeparator> mSeparator;
+    std::shared_ptr<const FSeparator> mSeparator;  //!< null where numbers are columns
     int mLastLine;
     FResultMarks mMarks;
 };

@@ -7,7 +7,10 @@ FClassData FAttribCmdSetAverageRows::mClass("FAttribCmdSetAverageRows", &FAttrib
 FExprBase FAttribCmdSetAverageRows::execute() const {
     const FExprBase argument = getArguments().empty() ? FExprBase() : getArguments().front();
     const FExpr<FUnsigned> rows(argument);
-    if (mpEditor && (!rows.isEmpty() || cmdtype::isScriptNull(argument))) {
+    if (rows.isEmpty() && !cmdtype::isScriptNull(argument)) {
+        warnNow(getClass(), QStringLiteral("%1 isn't a number of rows").arg(argument.toHistoryString()),
+                QStringLiteral("The average stays as it is"));
+    } else if (mpEditor) {
         mpEditor->averageChanged(rows);
     }
     return {};

@@ -14,8 +14,7 @@ bool FTemplateTagEditor::containTag(const QString& name) const {
 void FTemplateTagEditor::replaceTags(const QString& name, const QString& text) const {
     for (const FExpr<FGenIntFile>& file : mFiles) {
         if (file) {
-            const QString content = FTemplateTags::replaceTag(file->getPlainContent(), name, text);
-            file->setContent(FGenIntFile::storedForm(content));
+            file->setPlainContent(FTemplateTags::replaceTag(file->getPlainContent(), name, text));
         }
     }
 }

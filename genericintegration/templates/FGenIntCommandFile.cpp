@@ -34,5 +34,5 @@ void FGenIntCommandFile::updateFile(const QString& oldName, const QString& newNa
     if (oldName.isEmpty() || newName.isEmpty() || oldName == newName) {
         return;
     }
-    setContent(storedForm(FTemplateTags::renameTag(getPlainContent(), oldName, newName)));
+    setPlainContent(FTemplateTags::renameTag(getPlainContent(), oldName, newName));
 }

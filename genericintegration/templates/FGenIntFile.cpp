@@ -69,11 +69,7 @@ std::vector<std::unique_ptr<FStateField>> FGenIntFile::fields() {
 }
 
 QString FGenIntFile::getContent() const {
-    return storedForm(mContent);
-}
-
-QString FGenIntFile::storedForm(const QString& content) {
-    return storedMark() + QString::fromLatin1(content.toUtf8().toBase64());
+    return storedMark() + QString::fromLatin1(mContent.toUtf8().toBase64());
 }
 
 QString FGenIntFile::decode(const QString& stored) const {
@@ -96,20 +92,23 @@ void FGenIntFile::markOutOfDate() {
 }
 
 FGenIntFile* FGenIntFile::setContent(const QString& content) {
+    QString plain = content;
     if (content.startsWith(storedMark())) {
-        mContent = decode(content);
-    } else {
-        mContent = content;
+        plain = decode(content);
+    } else if (FMerixCtrl::instance()->isLoadingProject()) {
         // A content written by hand may have its line ends as "\\n".
-        if (FMerixCtrl::instance()->isLoadingProject()) {
-            mContent.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
-        }
+        plain.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
     }
+    setPlainContent(plain);
+    return this;
+}
+
+void FGenIntFile::setPlainContent(const QString& content) {
+    mContent = content;
     markOutOfDate();
     mContentAltered = true;
     FHistoryTransaction transaction(QStringLiteral("set content"));
     transaction.addStep(this);
-    return this;
 }
 
 void FGenIntFile::initFromFile(const QString& path) {

@@ -15,11 +15,11 @@ class FGenIntFile : public FClass<FGenIntFile, FManaged> {
 
     /** The stored form, built again at each call. */
     QString getContent() const;
-    /** The stored form of a text. `setContent` takes from it any text, also one that begins like a stored form. */
-    static QString storedForm(const QString& content);
     const QString& getPlainContent() const { return mContent; }
     /** Takes either form. Each call marks, flags and records, whether the text is new or not. Returns the object. */
     FGenIntFile* setContent(const QString& content);
+    /** The same with the plain form, whatever it begins with. */
+    void setPlainContent(const QString& content);
     /**
      * Takes the content of a sample file, and its name without folders for the file and the object. A file that can't
      * be opened changes nothing. One that isn't valid UTF-8 is taken with a warning that names the line.

@@ -46,6 +46,7 @@ bool containsTag(const QString& text, const QString& name) {
 QString replaceTag(const QString& text, const QString& name, const QString& replacement) {
     const QStringMatcher matcher(tagOf(name), Qt::CaseInsensitive);
     QString result;
+    result.reserve(text.size());
     int copied = 0;
     for (int found = matcher.indexIn(text); found >= 0; found = matcher.indexIn(text, copied)) {
         result.append(text.midRef(copied, found - copied)).append(replacement);

@@ -8,9 +8,10 @@
 
 namespace {
 
+/** A command without a row takes what is entered as it is. */
 bool isExpression(const FAttribCmd& command) {
     const FCmdRow* row = command.getRow();
-    return row && row->presentation.attrAsExpr && FAttributeQuery::keepsExpression(*row);
+    return !row || (row->presentation.attrAsExpr && FAttributeQuery::keepsExpression(*row));
 }
 
 }  // namespace
@@ -39,7 +40,7 @@ FExprBase FScriptField::enteredValue(QString& fault) const {
     const FCmdRow* row = command().getRow();
     const FExprBase value(bound.getObject());
     std::any converted;
-    if (row && !row->arguments.front().type.convert(value, converted)) {
+    if (!row->arguments.front().type.convert(value, converted)) {
         fault = QStringLiteral("\"%1\" can't be read as the value of this attribute").arg(text());
     }
     return value;

@@ -1,6 +1,7 @@
 #include "host/gui/panels/FRunPanel.h"
 
 #include "host/core/FObjectManager.h"
+#include "host/core/FString.h"
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FEmptyHint.h"
@@ -56,6 +57,18 @@ QList<FManaged*> templatesOf(const FExternComputation& computation) {
         }
     }
     return templates;
+}
+
+/** The file that a template becomes, which is what its tab is called. */
+QString fileNameOf(const FManaged& file) {
+    QString name;
+    for (const FCmdRow* row :
+         FCmdManager::instance()->findMembers(file.getClassData(), QStringLiteral("setFileName"))) {
+        const FExprBase value = row->getter ? row->getter(&file) : FExprBase();
+        const auto* text = dynamic_cast<const FString*>(value.getStored());
+        name = text ? text->getValue() : name;
+    }
+    return name.isEmpty() ? file.getName() : name;
 }
 
 /** A line of the text about a failure, with a link if it is one of a file of the run. */
@@ -299,7 +312,7 @@ QString FRunPanel::detailsOf(int row) const {
             QUrl url;
             url.setScheme(QStringLiteral("template"));
             url.setPath(object->getName());
-            names.append(link(url, object->getName()));
+            names.append(link(url, fileNameOf(*object)));
         }
         if (!names.isEmpty()) {
             lines.append(QStringLiteral("Templates: %1").arg(names.join(QStringLiteral(", "))));

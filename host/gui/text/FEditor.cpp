@@ -1,17 +1,22 @@
 #include "host/gui/text/FEditor.h"
 
 #include "host/gui/base/FFixedFont.h"
+#include "host/gui/text/FLineLayout.h"
 #include "host/gui/text/FLineNumberDisplay.h"
 
 #include <QTextBlock>
 
 #include <algorithm>
+#include <utility>
 
 FEditor::FEditor(int digits, bool showsLineNumbers, QWidget* parent)
     : QPlainTextEdit(parent),
       mDigits(digits),
       mShowsLineNumbers(showsLineNumbers),
       mpGutter(new FLineNumberDisplay(this)) {
+    auto* text = new QTextDocument(this);
+    text->setDocumentLayout(new FLineLayout(text));
+    setDocument(text);
     setUndoRedoEnabled(false);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     constexpr qreal points = 9;
@@ -21,6 +26,11 @@ FEditor::FEditor(int digits, bool showsLineNumbers, QWidget* parent)
     connect(this, &QPlainTextEdit::cursorPositionChanged, this,
             [this] { mpGutter->setCurrentBlock(textCursor().blockNumber()); });
     updateLineNumberAreaWidth(0);
+}
+
+void FEditor::setLineNumbers(std::function<int(int block)> numberOf) {
+    mNumberOf = std::move(numberOf);
+    mpGutter->update();
 }
 
 void FEditor::setLineNumbersShown(bool shown) {
@@ -55,8 +65,12 @@ std::vector<FEditor::ShownBlock> FEditor::shownBlocks(const QRect& rect) const {
 
 void FEditor::goTo(int line, int column) {
     const QTextBlock block = document()->findBlockByNumber(std::clamp(line, 1, blockCount()) - 1);
-    QTextCursor cursor(block);
-    cursor.setPosition(block.position() + std::clamp(column - 1, 0, block.length() - 1));
+    goTo(block.position() + std::clamp(column - 1, 0, block.length() - 1));
+}
+
+void FEditor::goTo(int position) {
+    QTextCursor cursor(document());
+    cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
     setTextCursor(cursor);
     centerCursor();
 }

@@ -4,6 +4,7 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
 #include <vector>
 
 class FLineNumberDisplay;
@@ -29,6 +30,12 @@ class MERIX_EXPORT FEditor : public QPlainTextEdit {
      */
     FEditor(int digits, bool showsLineNumbers, QWidget* parent);
 
+    /**
+     * Has the gutter show other numbers than those of the blocks: a function gives the number of a block, which counts
+     * from 0; for 0 nothing is shown.
+     */
+    void setLineNumbers(std::function<int(int block)> numberOf);
+    int lineNumberOf(int block) const { return mNumberOf ? mNumberOf(block) : block + 1; }
     bool areLineNumbersShown() const { return mShowsLineNumbers; }
     void setLineNumbersShown(bool shown);
     /** Width of the gutter in pixels; 0 if it isn't shown. */
@@ -40,6 +47,8 @@ class MERIX_EXPORT FEditor : public QPlainTextEdit {
     std::vector<ShownBlock> shownBlocks(const QRect& rect) const;
     /** Moves the cursor to a place, counted from 1, and scrolls it to the middle. Column 0 stands for the line. */
     void goTo(int line, int column);
+    /** The same with a position of the document. */
+    void goTo(int position);
 
  public slots:
     /** Makes room for the numbers of that many blocks; 0 for those that there are. */
@@ -52,5 +61,6 @@ class MERIX_EXPORT FEditor : public QPlainTextEdit {
  private:
     int mDigits;
     bool mShowsLineNumbers;
+    std::function<int(int block)> mNumberOf;
     FLineNumberDisplay* mpGutter;
 };

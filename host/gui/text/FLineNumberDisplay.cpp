@@ -37,7 +37,8 @@ void FLineNumberDisplay::paintEvent(QPaintEvent* event) {
     const QColor secondary = FStateColor::of(FStateColor::State::Secondary);
     for (const FEditor::ShownBlock& block : mpEditor->shownBlocks(event->rect())) {
         painter.setPen(block.number == mCurrentBlock ? palette().color(QPalette::WindowText) : secondary);
+        const int number = mpEditor->lineNumberOf(block.number);
         painter.drawText(0, block.top, width() - FEditor::gutterMargin(fontMetrics()), block.height,
-                         Qt::AlignRight | Qt::AlignTop, QString::number(block.number + 1));
+                         Qt::AlignRight | Qt::AlignTop, number > 0 ? QString::number(number) : QString());
     }
 }

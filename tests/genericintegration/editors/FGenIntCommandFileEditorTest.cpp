@@ -230,7 +230,8 @@ TEST_F(FGenIntCommandFileEditorTest, aLineThatIsTooLongForAWidgetIsShownInPieces
     edit().addEntryViaContextMenu();
     EXPECT_EQ(content(), text);
     EXPECT_EQ(FHistory::instance()->getLabels().size(), steps);
-    ASSERT_TRUE(waitUntil([&] { return reports().text().contains("can't be edited here"); }));
+    ASSERT_TRUE(waitUntil(
+        [&] { return reports().text().contains("can't be edited here") && reports().text().contains("none"); }));
     emit reports().linkActivated("go:0");
     EXPECT_EQ(edit().textCursor().block().text().mid(edit().textCursor().positionInBlock(), 7), "<entry>");
     setText("short again\n");

@@ -93,6 +93,13 @@ class FResultsEditorTest : public FWindowTest {
         press(&line(id), Qt::Key_Return);
         settle();
     }
+    void enterRows(const QString& entered) {
+        auto* rows = qobject_cast<QLineEdit*>(page().findChild<FAttributeEditor*>()->focusProxy());
+        rows->selectAll();
+        type(rows, entered);
+        press(rows, Qt::Key_Return);
+        settle();
+    }
     void choose(const char* id, Qt::Key key) {
         combo(id).setFocus();
         press(&combo(id), key);
@@ -120,8 +127,8 @@ class FResultsEditorTest : public FWindowTest {
         cursor.movePosition(QTextCursor::Right);
         return {(left.left() + edit().cursorRect(cursor).left()) / 2, left.center().y()};
     }
-    void doubleClickOn(const QString& part) {
-        QTest::mouseDClick(edit().viewport(), Qt::LeftButton, {}, pointOf(part));
+    void doubleClickOn(const QString& part, int character = 0) {
+        QTest::mouseDClick(edit().viewport(), Qt::LeftButton, {}, pointOf(part, character));
         settle();
     }
     /** Opens the menu at a part of the sample and chooses an action; false if that isn't possible. */
@@ -321,6 +328,47 @@ TEST_F(FResultsEditorTest, eachFieldChangesTheTemplateInOneStep) {
     EXPECT_EQ(file().getCurLine(), 1) << "a new value starts as a copy of what the form shows";
     EXPECT_EQ(text(file().getCurrentAnchor()), "step");
     step("delete results value", [this] { clickOn("deleteValue"); });
+}
+
+TEST_F(FResultsEditorTest, theRowsOfAnAverageFollowAnExpression) {
+    clickOn("average");
+    ASSERT_TRUE(run("parameter rows(3)"));
+    enterRows("rows - 1");
+    EXPECT_EQ(text(file().getCurNumAverageRows().toString()), "rows-1");
+    const FAttributeEditor& field = *page().findChild<FAttributeEditor*>();
+    EXPECT_EQ(text(field.findChild<QLabel*>("valueBeside")->text()), "= 2");
+    EXPECT_EQ(text(preview().item(rowOf("drag"), 0)->text()), "5.5") << "of 2 and 9";
+    ASSERT_TRUE(run("rows.setValue(2)"));
+    EXPECT_TRUE(waitUntil([this] { return preview().item(rowOf("drag"), 0)->text() == "9"; }));
+    agree();
+    const QStringList steps = labels();
+    enterRows("1.5");
+    EXPECT_EQ(text(field.fault()), "1.5 isn't a number of rows. The average stays as it is");
+    EXPECT_EQ(text(labels()), text(steps));
+}
+
+TEST_F(FResultsEditorTest, aLineThatIsTooLongForAWidgetIsReadAndMarkedInPieces) {
+    {
+        const FUserStep step("sample");
+        file().setContent("head = 1\r\n" + QString(";   2.5, ").repeated(50'000) + "\nlast = 3\n");
+    }
+    settle();
+    EXPECT_LT(edit().document()->findBlockByNumber(1).length(), 2000);
+    EXPECT_EQ(edit().lineNumberOf(edit().document()->blockCount() - 2), 3);
+    // The end of a piece cuts this number.
+    doubleClickOn("2\n.5", 2);
+    press(&selector(), Qt::Key_Return);
+    EXPECT_EQ(file().getCurColumn(), 555);
+    EXPECT_EQ(text(preview().item(rowOf(current()), 0)->text()), "2.5");
+    EXPECT_EQ(text(find<QLabel>("valuePlace")->text()), "line 2, column 5000: 2.5");
+    const QString shown = edit().toPlainText();
+    const int place = shown.indexOf("2\n.5");
+    EXPECT_EQ(text(marked().mid(place - 1, 6)), "lc\nccl");
+    EXPECT_EQ(marked().count('c'), 3);
+    doubleClickOn("3");
+    EXPECT_EQ(text(preview().item(rowOf("last_01"), 0)->text()), "3");
+    page().goTo(2, 5000);
+    EXPECT_EQ(edit().textCursor().position(), place);
 }
 
 TEST_F(FResultsEditorTest, theTypeOfAValueReturnsWithTheEndOfItsAverage) {

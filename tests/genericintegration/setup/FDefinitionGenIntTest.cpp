@@ -145,8 +145,7 @@ TEST_F(FDefinitionGenIntTest, aRemovedEntryLeavesItsValueInTheTemplates) {
     run("d.addEntry(\"A|x\", 3)\nd.addEntry(\"A|B|y\", 4)\nd.addEntry(\"A|B|C|z\", 5)\nd.addEntry(\"A|none\", NULL, 1, "
         "1, "
         "false, \"\", \"FDouble\")");
-    in->setContent(FGenIntFile::storedForm(
-        "[B64] <entry>A|x</entry> <entry>A|B|y</entry> <entry>a|b|c|Z</entry> <entry>A|none</entry>"));
+    in->setPlainContent("[B64] <entry>A|x</entry> <entry>A|B|y</entry> <entry>a|b|c|Z</entry> <entry>A|none</entry>");
     run("d.removeEntry(\"A|B\")");
     EXPECT_EQ(in->getPlainContent(), "[B64] <entry>A|x</entry> 4 5 <entry>A|none</entry>");
     run("d.removeEntry(\"A\")");
@@ -173,7 +172,7 @@ TEST_F(FDefinitionGenIntTest, renamesReachTemplatesAndConnectorsOfThisDefinition
     EXPECT_EQ(out->getPlainContent(), "<entry>G|x</entry>");
     EXPECT_EQ(own->mRefreshed, 2);
     EXPECT_EQ(other->mRefreshed, 0);
-    in->setContent(FGenIntFile::storedForm("[B64]<entry>out.dat</entry>"));
+    in->setPlainContent("[B64]<entry>out.dat</entry>");
     out->setFileName("new.dat");
     EXPECT_EQ(in->getPlainContent(), "[B64]<entry>new.dat</entry>");
 

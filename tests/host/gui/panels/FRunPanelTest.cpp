@@ -91,7 +91,7 @@ TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
     EXPECT_EQ(cell(0, FRunModel::stateColumn), "failed, exit code 3");
     EXPECT_EQ(cell(0, FRunModel::saidColumn), "ERROR: no such material (stderr.txt:1)");
     EXPECT_TRUE(details().contains("exit code 3")) << details().toStdString();
-    EXPECT_TRUE(details().contains("Templates: out")) << details().toStdString();
+    EXPECT_TRUE(details().contains("Templates: out.txt")) << details().toStdString();
     // The place in the words of the program leads to the file.
     emit find<QTextBrowser>("runText")->anchorClicked(
         QUrl(QUrl::fromLocalFile(model().folderOf(0) + "stderr.txt").toString() + "#1"));

@@ -8,16 +8,14 @@
 #include <QGraphicsItem>
 #include <QScrollBar>
 
-#include <memory>
-
 FSoftConView::FSoftConView(QWidget* parent) : QGraphicsView(parent) {
     FConnectorAccessible::install();
     setObjectName(QStringLiteral("softConOverview"));
     setAccessibleName(QStringLiteral("Inputs and outputs"));
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::AlternateBase);
-    keepAtStart(horizontalScrollBar());
-    keepAtStart(verticalScrollBar());
+    keepAtStart(horizontalScrollBar(), mIsLeftAtStart);
+    keepAtStart(verticalScrollBar(), mIsTopAtStart);
 }
 
 FSoftConScene* FSoftConView::connectorScene() const {
@@ -33,16 +31,17 @@ QRect FSoftConView::roomForScene(double leastHeight) const {
 }
 
 // Positions are those of the scene, whose origin is the computation.
-void FSoftConView::keepAtStart(QScrollBar* bar) {
-    const auto startOf = [this, bar] {
-        const int start = bar->orientation() == Qt::Horizontal ? -viewport()->width() / 2 : bar->minimum();
-        return qBound(bar->minimum(), start, bar->maximum());
-    };
-    const auto isAtStart = std::make_shared<bool>(true);
-    connect(bar, &QScrollBar::valueChanged, this, [startOf, isAtStart](int value) { *isAtStart = value == startOf(); });
-    connect(bar, &QScrollBar::rangeChanged, this, [bar, startOf, isAtStart] {
-        if (*isAtStart) {
-            bar->setValue(startOf());
+int FSoftConView::startOf(const QScrollBar& bar) const {
+    const int start = bar.orientation() == Qt::Horizontal ? -viewport()->width() / 2 : bar.minimum();
+    return qBound(bar.minimum(), start, bar.maximum());
+}
+
+void FSoftConView::keepAtStart(QScrollBar* bar, bool& isAtStart) {
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar, &isAtStart](int value) { isAtStart = value == startOf(*bar); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar, &isAtStart] {
+        if (isAtStart) {
+            bar->setValue(startOf(*bar));
         }
     });
 }
@@ -75,10 +74,20 @@ void FSoftConView::contextMenuEvent(QContextMenuEvent* event) {
     event->setAccepted(there.isAccepted());
 }
 
+// The base centres what it shows, and the size may be another one than that of the last layout.
 void FSoftConView::showEvent(QShowEvent* event) {
+    const bool isLeftAtStart = mIsLeftAtStart;
+    const bool isTopAtStart = mIsTopAtStart;
     QGraphicsView::showEvent(event);
+    if (isLeftAtStart) {
+        horizontalScrollBar()->setValue(startOf(*horizontalScrollBar()));
+    }
+    if (isTopAtStart) {
+        verticalScrollBar()->setValue(startOf(*verticalScrollBar()));
+    }
     if (connectorScene()) {
         connectorScene()->requestLinks();
+        connectorScene()->calcItemRatios();
     }
 }
 

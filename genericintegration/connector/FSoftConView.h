@@ -26,7 +26,10 @@ class FSoftConView : public QGraphicsView {
 
  private:
     /** Until the user scrolls, shows the top of what is larger than the view, with the computation in the middle. */
-    void keepAtStart(QScrollBar* bar);
+    void keepAtStart(QScrollBar* bar, bool& isAtStart);
+    int startOf(const QScrollBar& bar) const;
 
+    bool mIsLeftAtStart = true;
+    bool mIsTopAtStart = true;
     double mRatio = devicePixelRatioF();  //!< for which the scene has painted its pictures
 };

@@ -7,7 +7,7 @@ Then with another capacitor, for which formulas give the numbers to compare with
 import math
 import shutil
 
-from driver import PROJECT, Program, fresh_folder, run, walk
+from driver import PROJECT, Program, fresh_folder, name_of, run, walk
 from steps import (make_entry, make_value, new_set_up, rename_entry, results_after_run, run_saved, save, set_entry,
                    show_input)
 
@@ -51,15 +51,22 @@ def bandpass():
     for before, number, name in ENTRIES:
         make_entry(program, text, before, number)
         rename_entry(program, text, text.content().split("<entry>")[-1].split("</entry>")[0], name)
+    program.until("where the entry is used",
+                  lambda: any("Used in" in name_of(label) for label in program.all("label")))
+    program.picture("walk-bandpass-inputs")
     program.click("page tab", "filter.log")
     for before, number, name in VALUES:
         make_value(program, before, number, name)
     program.wait("push button", "No problems")
+    program.picture("walk-bandpass-values")
     shown = results_after_run(program, "ngspice")
     check(shown, formulas(10e-3, 100e-9, 100))
     print(f"bandpass: four numbers after {program.clicks} clicks")
+    program.picture("walk-bandpass-results")
 
     program.click("page tab", "ngspice_connector")
+    program.click("page tab", "Overview")
+    program.picture("walk-bandpass-overview")
     show_input(program, "filter.cir")
     set_entry(program, "capacitance", "220")
     changed = results_after_run(program, "ngspice")

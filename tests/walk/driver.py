@@ -40,9 +40,14 @@ def fresh_folder(name):
     return folder
 
 
+def walked():
+    """The name of the walk."""
+    return Path(sys.argv[0]).name.removesuffix("_walk.py")
+
+
 def walk(function):
     """Runs a walk as a program: says how it went, and ends with 1 if it failed."""
-    name = Path(sys.argv[0]).name.removesuffix("_walk.py")
+    name = walked()
     started = time.monotonic()
     try:
         program = function()
@@ -124,6 +129,22 @@ class Program:
 
     def wait_gone(self, role, name=None):
         self.until(f"no {role} {name or ''}", lambda: not self.all(role, name))
+
+    def picture(self, name):
+        """Saves a picture of the screen, once nothing changes there, in the folder PICTURES if that is given."""
+        if "PICTURES" not in os.environ:
+            return
+        seen = [b""]
+
+        def is_still():
+            before, seen[0] = seen[0], subprocess.run(["import", "-silent", "-window", "root", "ppm:-"],
+                                                      check=True, capture_output=True).stdout
+            return seen[0] == before
+        self.until("a screen that is still", is_still)
+        file = Path(os.environ["PICTURES"]) / f"{name}.png"
+        subprocess.run(["convert", "ppm:-", "-strip", "+dither", "-colors", "200", f"png8:{file}"], input=seen[0],
+                       check=True)
+        print(file.name)
 
     def tree(self, under=None):
         """All that is there, to read."""

@@ -1,6 +1,6 @@
 """What users do from sample files to numbers, in the steps that walks have in common."""
 
-from driver import Text, name_of, run
+from driver import Text, name_of, run, walked
 
 
 def numbers(printed):
@@ -19,6 +19,7 @@ def new_set_up(program, command, inputs, outputs):
     for name in outputs:
         program.click("push button", "Select output files…", under=dialog)
         program.choose_file("Select output files", name)
+    program.picture(f"walk-{walked()}-new")
     program.click("push button", "Create", under=dialog)
     program.wait_gone("dialog", "New set-up")
 

@@ -33,6 +33,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -254,6 +255,17 @@ TEST_F(FSoftwareConnectorTest, tabsAreClosedAndOpenedAgain) {
     EXPECT_TRUE(FSelectionSet::instance()->contains(object<FManaged>("c"))) << "its values are in view";
     find<QPushButton>("ButtonOverview")->click();
     EXPECT_EQ(connector().currentIndex(), 0);
+    // In a small window its top is seen, also when it is shown again.
+    window().resize(1024, 700);
+    openPanel("runs");
+    settle();
+    const QScrollBar* bar = connector().getView()->verticalScrollBar();
+    ASSERT_GT(bar->maximum(), bar->minimum());
+    connector().setCurrentIndex(1);
+    settle();
+    connector().gotoOverview();
+    settle();
+    EXPECT_EQ(bar->value(), bar->minimum());
 }
 
 TEST_F(FSoftwareConnectorTest, aClickSelectsAfterTheTimeOfADoubleClick) {

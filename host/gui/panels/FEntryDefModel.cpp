@@ -19,10 +19,12 @@ int FEntryDefModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant FEntryDefModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const char* const titles[] = {"Entry", "Default", "Type", "Count"};
-    return orientation == Qt::Horizontal && (role == Qt::DisplayRole || role == Qt::ToolTipRole) && section < columns
-               ? QString::fromLatin1(titles[section])
-               : FEntryTreeModel::headerData(section, orientation, role);
+    static const std::vector<Header> headers{
+        {"Entry", "The name that tags of templates use"},
+        {"Default", "The value that configurations have until they set another"},
+        {"Type", "What the value is"},
+        {"Count", "How often a configuration has the entry, from the least to the most"}};
+    return orientation == Qt::Horizontal ? headerOf(headers, section, role) : QVariant();
 }
 
 QString FEntryDefModel::typeOf(const FEntryDef& entry) {

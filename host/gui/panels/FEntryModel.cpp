@@ -24,10 +24,11 @@ int FEntryModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant FEntryModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const char* const titles[] = {"Entry", "Value", "Evaluated"};
-    return orientation == Qt::Horizontal && (role == Qt::DisplayRole || role == Qt::ToolTipRole) && section < columns
-               ? QString::fromLatin1(titles[section])
-               : FEntryTreeModel::headerData(section, orientation, role);
+    static const std::vector<Header> headers{
+        {"Entry", "The name that tags of templates use"},
+        {"Value", "A value, or an expression that is evaluated before each run; defaults are grey"},
+        {"Evaluated", "What the expression gives at present"}};
+    return orientation == Qt::Horizontal ? headerOf(headers, section, role) : QVariant();
 }
 
 const std::vector<FValueField>& FEntryModel::fieldsOf(const FEntryBase& entry) const {

@@ -175,6 +175,18 @@ Qt::ItemFlags FEntryTreeModel::flags(const QModelIndex& index) const {
 
 // ---- contents ----
 
+QVariant FEntryTreeModel::headerOf(const std::vector<Header>& headers, int section, int role) {
+    if (section < 0 || section >= static_cast<int>(headers.size())) {
+        return {};
+    }
+    const Header& header = headers[static_cast<std::size_t>(section)];
+    // The title comes first, since it may be elided.
+    return role == Qt::DisplayRole ? QVariant(QString::fromLatin1(header.title))
+           : role == Qt::ToolTipRole
+               ? QStringLiteral("%1: %2").arg(QString::fromLatin1(header.title), QString::fromLatin1(header.tip))
+               : QVariant();
+}
+
 const std::vector<FValueField>& FEntryTreeModel::fieldsOf(const FEntryBase& entry) const {
     Q_UNUSED(entry)
     static const std::vector<FValueField> none;

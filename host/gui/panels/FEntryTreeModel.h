@@ -73,8 +73,15 @@ class MERIX_EXPORT FEntryTreeModel : public QAbstractItemModel {
         FEntryBase* object() const { return FEntryBase::of(entry); }
     };
 
+    struct Header {
+        const char* title;
+        const char* tip;
+    };
+
     FEntryTreeModel();
 
+    /** What the header of a column shows; its tool tip explains the title. */
+    static QVariant headerOf(const std::vector<Header>& headers, int section, int role);
     FDefinitionBase* root() const { return mRoot.ptr(); }
     /** Null shows nothing. */
     void setRoot(FDefinitionBase* root);

@@ -101,7 +101,7 @@ FRunPanel::FRunPanel(FNavigator& navigator)
     mpSplitter->addWidget(mpView);
     mpSplitter->addWidget(makeDetails());
     // Shares, not pixels: the splitter scales them to its width.
-    mpSplitter->setSizes({5500, 4500});
+    mpSplitter->setSizes({5800, 4200});
     mpSplitter->restoreState(FGuiSettings::getLayout(QString::fromLatin1(layoutName)));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -233,11 +233,13 @@ void FMainWindow::listen() {
     connect(changes, &FChanges::projectOpened, this, &FMainWindow::showFirstConnector);
 }
 
-// The picture of the set-up is where most users go on.
+// The picture of the set-up, with its settings and entries in the editor, is where most users go on.
 void FMainWindow::showFirstConnector() {
     const QList<FConnectorInterface*> connectors = FConnectorInterface::getConnectors();
     if (!connectors.isEmpty()) {
-        showPage(connectors.first()->asManaged());
+        FManaged* first = connectors.first()->asManaged();
+        showObject(first);
+        showPage(first);
     }
 }
 

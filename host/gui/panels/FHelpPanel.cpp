@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSplitter>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -72,10 +73,23 @@ void FHelpPanel::showTopic(const QString& topic) {
     mpText->setPlainText(topic.isEmpty()       ? QString()
                          : reference.isEmpty() ? reference.unknownName()
                                                : reference.toText());
+    scrollToHeading(topic);
     const QList<QListWidgetItem*> found = mpTopics->findItems(topic, Qt::MatchExactly);
     if (!found.isEmpty()) {
         const QSignalBlocker blocker(mpTopics);
         mpTopics->setCurrentItem(found.first());
+    }
+}
+
+// What a class inherits is above its own part.
+void FHelpPanel::scrollToHeading(const QString& text) {
+    for (QTextBlock line = mpText->document()->begin(); line.isValid(); line = line.next()) {
+        if (line.text() == text) {
+            // From below, so that the heading becomes the first line in view.
+            mpText->moveCursor(QTextCursor::End);
+            mpText->setTextCursor(QTextCursor(line));
+            return;
+        }
     }
 }
 

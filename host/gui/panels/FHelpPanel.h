@@ -27,6 +27,7 @@ class MERIX_EXPORT FHelpPanel : public QWidget {
  private:
     void search(const QString& text);
     void fillTopics();
+    void scrollToHeading(const QString& text);
 
     QLineEdit* mpSearch;
     QListWidget* mpTopics;

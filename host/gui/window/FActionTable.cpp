@@ -299,7 +299,7 @@ std::vector<FActionRow> otherRows() {
          [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/first-set-up.md")); }},
         {"shortcuts", "&Help", 0, "&Keyboard shortcuts", "input-keyboard", "Ctrl+Shift+K",
          "List all actions with their keys", false, nullptr,
-         [](FMainWindow& window) { window.showHelpText(FActionTable::toMarkdown()); }},
+         [](FMainWindow& window) { window.showDocument(QStringLiteral("reference/shortcuts.md")); }},
         {"about", "&Help", 1, "&About merix", "help-about", "Ctrl+F1", "Version and licence", false, nullptr,
          [](FMainWindow& window) { window.showAbout(); }},
     };

@@ -39,6 +39,9 @@ FFindField::FFindField(FMainWindow& window)
     mpCompleter->setMaxVisibleItems(visibleRows);
     mpCompleter->popup()->setObjectName(QStringLiteral("findResults"));
     mpCompleter->popup()->setAccessibleName(QStringLiteral("What was found"));
+    constexpr int characters = 64;
+    mpCompleter->popup()->setMinimumWidth(characters * fontMetrics().averageCharWidth());
+    mpCompleter->popup()->installEventFilter(this);
     setCompleter(mpCompleter);
     // Not with the field as receiver: without the focus, a field cuts all connections from its completer to itself.
     connect(mpCompleter, QOverload<const QModelIndex&>::of(&QCompleter::activated), mpModel,
@@ -56,6 +59,18 @@ void FFindField::focusInEvent(QFocusEvent* event) {
         collect();
     }
     QLineEdit::focusInEvent(event);
+}
+
+// The list is wider than the field, which is at the right edge of the window.
+bool FFindField::eventFilter(QObject* watched, QEvent* event) {
+    QWidget* list = mpCompleter->popup();
+    if (watched == list && (event->type() == QEvent::Move || event->type() == QEvent::Resize)) {
+        const int right = mapToGlobal(QPoint(width(), 0)).x();
+        if (list->x() + list->width() > right) {
+            list->move(right - list->width(), list->y());
+        }
+    }
+    return QLineEdit::eventFilter(watched, event);
 }
 
 void FFindField::keyPressEvent(QKeyEvent* event) {

@@ -21,6 +21,8 @@ class MERIX_EXPORT FFindField : public QLineEdit {
     /** Takes the focus; what can be found is collected now. */
     void start();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
  protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -36,6 +36,12 @@ FProblemWatch::FProblemWatch() {
     connect(changes, &FChanges::projectOpened, this, checkSoon);
     connect(changes, &FChanges::projectClosed, this, checkSoon);
     connect(changes, &FChanges::objectLeft, this, checkSoon);
+    // A run brings what others link to.
+    connect(changes, &FChanges::objectChanged, this, [checkSoon](FManaged* object) {
+        if (dynamic_cast<FExternComputation*>(object)) {
+            checkSoon();
+        }
+    });
     mTimer.start();
 }
 

@@ -4,6 +4,7 @@
 #include "host/core/FObjectManager.h"
 #include "host/core/FSelectionSet.h"
 #include "host/design/FConnectorInterface.h"
+#include "host/run/FComputationChain.h"
 #include "host/run/FExternComputation.h"
 
 namespace {
@@ -39,7 +40,9 @@ FExternComputation* FRunTarget::get() const {
         return mComputation.ptr();
     }
     const QList<FManaged*> all = FObjectManager::instance()->getManaged(FExternComputation::null());
-    return all.isEmpty() ? nullptr : dynamic_cast<FExternComputation*>(all.first());
+    auto* first = all.isEmpty() ? nullptr : dynamic_cast<FExternComputation*>(all.first());
+    // Its run brings the others up to date.
+    return first && all.size() > 1 ? FComputationChain::of(*first).last() : first;
 }
 
 FExternComputation* FRunTarget::getRunning() const {

@@ -10,7 +10,7 @@ class FExternComputation;
 
 /**
  * The computation that Run acts on: the selected one or the one that uses what is selected; else the last one;
- * else the first of the project.
+ * else the first of the project, or the last of its chain.
  */
 class MERIX_EXPORT FRunTarget : public QObject {
     Q_OBJECT

@@ -1,7 +1,11 @@
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/panels/FLogModel.h"
 #include "host/gui/panels/FUndoModel.h"
+#include "host/run/FExternComputation.h"
+#include "tests/support/FTestFolder.h"
+#include "tests/support/chainOfThree.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractItemModelTester>
@@ -65,6 +69,22 @@ TEST_F(ListPanelsTest, aProblemAndAMessageLeadToTheirObject) {
     press(&list("logList"), Qt::Key_Return);
     settle();
     EXPECT_EQ(selected(), "span");
+}
+
+TEST_F(ListPanelsTest, aRunOfASupplierSolvesTheProblemOfItsClient) {
+    FTestFolder folder;
+    FMerixCtrl::instance()->setProjectFile(folder.path("p.mrx"));
+    ASSERT_TRUE(run(chainOfThree));
+    openPanel("problems");
+    const auto isReported = [this] {
+        const QAbstractItemModel& model = *list("problemList").model();
+        return !model.match(model.index(0, 1), Qt::DisplayRole, "conf2").isEmpty();
+    };
+    ASSERT_TRUE(waitUntil(isReported));
+    FSelectionSet::instance()->set({FExpr<FObject>(object<FManaged>("first"))});
+    trigger("run");
+    EXPECT_TRUE(waitUntil([&] { return !isReported(); }));
+    ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("first")->canRun(); }));
 }
 
 TEST_F(ListPanelsTest, theLogKeepsTheLastMessages) {

@@ -3389,6 +3389,130 @@ print(getAttribute(drag, "setValues"))</translation>
         <translation>print(First, Last)</translation>
     </message>
     <message>
+        <source>!FSoftwareConnectorItem</source>
+        <translation>A picture with a caption in the window of a software connector. Its context menu copies the name of its file.</translation>
+    </message>
+    <message>
+        <source>!FSoftwareConnectorItem:example</source>
+        <translation>softwareConnector wing()
+Runner.openSoftwareConnector()</translation>
+    </message>
+    <message>
+        <source>!FSoftConObjectItem</source>
+        <translation>A picture that stands for an object of the set-up. A click selects the object, a double click opens it, the button at the frame deletes it with what only it used.</translation>
+    </message>
+    <message>
+        <source>!FSoftConObjectItem:example</source>
+        <translation>softwareConnector wing()
+Runner.openSoftwareConnector()</translation>
+    </message>
+    <message>
+        <source>!FSoftConComputationItem</source>
+        <translation>The computation in the centre. Its context menu runs it, reads existing results, shows the input files as a run would write them, and exports the set-up.</translation>
+    </message>
+    <message>
+        <source>!FSoftConComputationItem:example</source>
+        <translation>softwareConnector wing()
+Runner.openSoftwareConnector()
+refreshAllSoftCons()</translation>
+    </message>
+    <message>
+        <source>!FSoftConTemplateItem</source>
+        <translation>A template, shown as a page with the beginning of its text. A double click opens its tab.</translation>
+    </message>
+    <message>
+        <source>!FSoftConTemplateItem:example</source>
+        <translation>softwareConnector wing()
+genericIntegrationCommandFile case() { .setFileName("case.inp") }
+definitionGenInt.setFiles([case])</translation>
+    </message>
+    <message>
+        <source>!FSoftConInputTemplateItem</source>
+        <translation>An input template. A click shows the values of its entries.</translation>
+    </message>
+    <message>
+        <source>!FSoftConInputTemplateItem:example</source>
+        <translation>softwareConnector wing()
+genericIntegrationCommandFile case() { .setContent("a = &lt;entry&gt;a&lt;/entry&gt;") }
+definitionGenInt.setFiles([case])</translation>
+    </message>
+    <message>
+        <source>!FSoftConOutputTemplateItem</source>
+        <translation>A result template. A click selects nothing.</translation>
+    </message>
+    <message>
+        <source>!FSoftConOutputTemplateItem:example</source>
+        <translation>softwareConnector wing()
+genericIntegrationResultsFile polar() { .setFileName("polar.dat") }
+definitionGenInt.setFiles([polar])</translation>
+    </message>
+    <message>
+        <source>!FSoftConEntryItem</source>
+        <translation>An entry that stands for a file. It is called after the file until it gets a name by hand.</translation>
+    </message>
+    <message>
+        <source>!FSoftConEntryItem:example</source>
+        <translation>softwareConnector wing()
+definitionGenInt.addEntry("Exports|mesh", inputFile("wing.msh"))</translation>
+    </message>
+    <message>
+        <source>!FSoftConExportItem</source>
+        <translation>Geometry that is written before a run. More can be dropped on it.</translation>
+    </message>
+    <message>
+        <source>!FSoftConExportItem:example</source>
+        <translation>softwareConnector wing()
+point tip(1, 2, 3)
+definitionGenInt.addEntry("Exports|tip", geometryExport("tip.csv", 0, [tip]))</translation>
+    </message>
+    <message>
+        <source>!FSoftConFileNameItem</source>
+        <translation>A file that is copied before a run. A double click makes it an input template.</translation>
+    </message>
+    <message>
+        <source>!FSoftConFileNameItem:example</source>
+        <translation>softwareConnector wing()
+definitionGenInt.addEntry("Exports|mesh", inputFile("wing.msh"))</translation>
+    </message>
+    <message>
+        <source>!FSoftConFileNameRefItem</source>
+        <translation>A file that another computation leaves, and that is copied before a run.</translation>
+    </message>
+    <message>
+        <source>!FSoftConFileNameRefItem:example</source>
+        <translation>softwareConnector mesher()
+softwareConnector solver()
+definitionGenInt_01.addEntry("Exports|mesh", inputFile(Runner.getResults().getResultFileName("wing.msh")))</translation>
+    </message>
+    <message>
+        <source>!FSoftConImportItem</source>
+        <translation>A file that a run leaves, for others to use.</translation>
+    </message>
+    <message>
+        <source>!FSoftConImportItem:example</source>
+        <translation>softwareConnector wing()
+definitionGenInt.addEntry("Imports|field", resultsFileName("field.vtk"))</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFileEditor</source>
+        <translation>The page of an input template: its text, in which a click makes an entry of a number, and its problems.</translation>
+    </message>
+    <message>
+        <source>!FGenIntCommandFileEditor:example</source>
+        <translation>genericIntegrationCommandFile case() { .setContent("a = &lt;entry&gt;a&lt;/entry&gt;") }</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFileEditor</source>
+        <translation>The page of a result template: the sample, its values, and what they read in it.</translation>
+    </message>
+    <message>
+        <source>!FGenIntResultsFileEditor:example</source>
+        <translation>genericIntegrationResultsFile polar() {
+    .setFileName("polar.dat")
+    .setValues([["cl", 0, 0, "cl", First, "FDouble", ""]])
+}</translation>
+    </message>
+    <message>
         <source>!FSoftwareConnector</source>
         <translation>The view in which a user sets up one external program. It owns one computation with its configuration, its definition and the templates that no other definition lists: destroying the connector destroys them all, and so does destroying the computation. In a program without windows it shows nothing, but keeps all of this.</translation>
     </message>

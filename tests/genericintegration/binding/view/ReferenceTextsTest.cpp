@@ -39,9 +39,10 @@ QSet<QString> keysOfCommands() {
             addClass(keys, row->owner->getName());
         }
     }
-    // So is each class of the plug-in, which has "GenInt" in its name.
+    // So is each class of the plug-in, with those that only windows have.
+    const QRegularExpression ofPlugin("GenInt|SoftCon[A-Z]\\w+Item|SoftwareConnectorItem");
     for (const QString& name : FPrototypes::getNames()) {
-        if (name.contains(QStringLiteral("GenInt")) && !name.contains(QStringLiteral("Cmd"))) {
+        if (name.contains(ofPlugin) && !name.contains(QStringLiteral("Cmd"))) {
             addClass(keys, name);
         }
     }

@@ -5,7 +5,6 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FNumber.h"
-#include "host/core/FObjectManager.h"
 #include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryDef.h"
@@ -20,6 +19,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -57,15 +57,13 @@ bool worksByItself(const FEntry& entry) {
 }
 
 /**
- * A computation on whose results an expression depends, although it hasn't run yet; null if there is none. Where runs
- * are only checked, none has.
+ * A computation on whose results an object depends, although it hasn't run yet; null if there is none. Where runs are
+ * only checked, none has.
  */
-const FExternComputation* supplierWithoutResults(const FExprBase& expression) {
-    const FObject* stored = expression.getStored();
-    for (const FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
-        const auto* computation = dynamic_cast<const FExternComputation*>(object);
-        const bool hasResults = computation->getCurrentResults() && !FSetUpCheck::isReplacingRuns();
-        if (stored && !hasResults && stored->dependsOn(computation)) {
+const FExternComputation* supplierWithoutResults(const FObject& object) {
+    for (const FObject* supplier : object.getSuppliersCmdHelper({FExternComputation::null()})) {
+        const auto* computation = dynamic_cast<const FExternComputation*>(supplier);
+        if (computation && (FSetUpCheck::isReplacingRuns() || !computation->getCurrentResults())) {
             return computation;
         }
     }
@@ -80,6 +78,13 @@ struct FEntryProblems::FUse {
     QString fieldPlace;   //!< of the first tag with any text after it in its line; empty if there is none
 };
 
+/** Entries that need results of a computation which has none yet. */
+struct FEntryProblems::FAwaited {
+    const FExternComputation* supplier;
+    QStringList entries;
+    QString place;  //!< of the first tag of one of them; empty if no template names any
+};
+
 FEntryProblems::FUse FEntryProblems::useOf(const FTagUses& uses, int row) {
     return {uses.places.value(row), uses.columnPlaces.value(row), uses.fieldPlaces.value(row)};
 }
@@ -92,6 +97,7 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
     QStringList unused;
     QStringList further;
     QString lastName;
+    QList<FAwaited> awaited;
     // A copy, since the evaluation of a value may change the entries.
     const QMap<QString, FExpr<FEntryBase>> entries = mConfiguration.getEntryMap();
     for (const FExpr<FEntryBase>& handle : entries) {
@@ -100,7 +106,10 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
         const int row = table.getKeys().find(name);
         // Of several occurrences, tags name the first.
         const bool isNamed = row != FTemplateKeys::notFound && table.entryOf(row) == &entry;
-        findValue(entry, isNamed ? useOf(uses, row) : FUse(), problems);
+        const FUse use = isNamed ? useOf(uses, row) : FUse();
+        if (!isAwaiting(entry, use, awaited)) {
+            findValue(entry, use, problems);
+        }
         if (!uses.places.contains(row) && name != lastName && !worksByItself(entry)) {
             unused.append(name);
             lastName = name;
@@ -108,6 +117,7 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
             further.append(entry.getFullName());
         }
     }
+    findAwaited(awaited, problems);
     findFurther(further, problems);
     if (unused.isEmpty() || uses.isCut || definition.getFiles().isEmpty()) {
         return;
@@ -119,6 +129,43 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
                                .arg(QString::number(unused.size()), listed(unused)),
                      QStringLiteral("Write \"%1\" where the value belongs, or remove the entry")
                          .arg(FTemplateTags::tagOf(unused.first())));
+}
+
+// Its evaluation would only tell, call by call, that there is nothing.
+bool FEntryProblems::isAwaiting(const FEntry& entry, const FUse& use, QList<FAwaited>& awaited) {
+    const FExternComputation* supplier =
+        FSetUpCheck::isReplacingRuns() || entry.getValue().isDetached() ? nullptr : supplierWithoutResults(entry);
+    if (!supplier) {
+        return false;
+    }
+    auto known = std::find_if(awaited.begin(), awaited.end(),
+                              [supplier](const FAwaited& each) { return each.supplier == supplier; });
+    if (known == awaited.end()) {
+        known = awaited.insert(known, {supplier, {}, {}});
+    }
+    known->entries.append(entry.getFullName());
+    known->place = known->place.isEmpty() ? use.place : known->place;
+    return true;
+}
+
+void FEntryProblems::findAwaited(const QList<FAwaited>& awaited, FProblemList& problems) const {
+    for (const FAwaited& each : awaited) {
+        // A run writes something else for them.
+        const bool isWritten = mMayReadFiles && !each.place.isEmpty();
+        const QString needed = each.entries.size() == 1
+                                   ? QStringLiteral("the entry %1 needs").arg(listed(each.entries))
+                                   : QStringLiteral("the entries %1 need").arg(listed(each.entries));
+        problems
+            .add(isWritten ? FSetUpProblem::Severity::Error : FSetUpProblem::Severity::Warning,
+                 mConfiguration.getName(),
+                 QStringLiteral("%1 results of %2, which has none yet%3")
+                     .arg(needed, each.supplier->getName(),
+                          isWritten ? QStringLiteral(", and \"SHOULD_BE_EXPORTED\" is written") : QString()),
+                 QStringLiteral("Run %1 first, or both with run(true) or merix run --chain")
+                     .arg(each.supplier->getName()),
+                 each.place)
+            .isOfValue = true;
+    }
 }
 
 void FEntryProblems::findFurther(const QStringList& names, FProblemList& problems) const {
@@ -227,14 +274,8 @@ void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, 
     if (!name.isDetached() && !mMayReadFiles && !name.canSafelyBeUpdated(false)) {
         return;
     }
-    if (const FExternComputation* supplier = supplierWithoutResults(name)) {
-        // Where runs are only checked, it might have been run.
-        if (!FSetUpCheck::isReplacingRuns()) {
-            problems.warning(mConfiguration.getName(),
-                             entryText(entry) + QStringLiteral("links to a result of %1, which has none yet: %2")
-                                                    .arg(supplier->getName(), name.toHistoryString()),
-                             QStringLiteral("Run %1 first, or both with run(true)").arg(supplier->getName()));
-        }
+    // Where runs are only checked, the other one might have been run.
+    if (FSetUpCheck::isReplacingRuns() && supplierWithoutResults(file)) {
         return;
     }
     const QString path = name.isDetached() ? QString() : file.getFileNameText();

@@ -15,7 +15,7 @@ namespace {
 /** Reports why a file of an entry isn't in the folder of the run. Returns false. */
 bool report(const FConfiguration& configuration, const FEntry& entry, const QString& reason) {
     FLogMsg::error(configuration.getName(), QStringLiteral("entry \"%1\": %2").arg(entry.getFullName(), reason),
-                   QStringLiteral("the input of the run isn't complete"));
+                   QStringLiteral("The input of the run isn't complete"));
     return false;
 }
 

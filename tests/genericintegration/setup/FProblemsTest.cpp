@@ -255,6 +255,16 @@ genericIntegrationConfiguration linked() { .setDefinition(def) }
 linked.setEntryValue("length", comp.getResults().getTable("none").getElementAt("f"))
 genericIntegrationComputation second() { .setConfiguration(linked) .setExecutable("sh") }
 )")) << logText();
+    // As long as there are no results, that is said once, and nothing is evaluated.
+    ASSERT_TRUE(
+        run(R"(linked.setEntryValue("pump|shutoff", comp.getResults().getTable("Out.txt").getElementAt("f") + 1))"));
+    const int before = log().size();
+    const QString need = "need results of comp, which has none yet";
+    EXPECT_EQ(problems(false, "second").filter(need).size(), 1) << problems(false, "second").join('\n').toStdString();
+    EXPECT_EQ(problems(true, "second").filter(need + ", and \"SHOULD_BE_EXPORTED\" is written").size(), 1);
+    EXPECT_EQ(log().size(), before) << logText();
+
+    ASSERT_TRUE(run(R"(comp.setArguments(["-c", "echo f 1 > Out.txt"]); comp.run())"));
     EXPECT_EQ(problems(false, "second"), QStringList());
     const int messages = log().size();
     EXPECT_EQ(problems(true, "second").filter("is NULL, and").size(), 1) << logText();

@@ -92,12 +92,21 @@ bool FSceneKeys::isAtButton() const {
     return mpLastButton && graphicsItemOf(mpLastButton)->hasFocus();
 }
 
+// A click can give the focus to a panel, which is neither.
+bool FSceneKeys::isAtItem() const {
+    return dynamic_cast<FSoftConObjectItem*>(mScene.focusItem());
+}
+
 void FSceneKeys::remember(QObject* part) {
-    (qobject_cast<QGraphicsProxyWidget*>(part) ? mpLastButton : mpLastItem) = part;
+    if (mScene.buttonParts().contains(part)) {
+        mpLastButton = part;
+    } else if (dynamic_cast<FSoftConObjectItem*>(part)) {
+        mpLastItem = part;
+    }
 }
 
 bool FSceneKeys::press(const QKeyEvent& event) {
-    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !mScene.focusItem()) {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
         return false;
     }
     switch (event.key()) {
@@ -114,7 +123,7 @@ bool FSceneKeys::press(const QKeyEvent& event) {
 }
 
 bool FSceneKeys::goOn(bool isForward) {
-    if (!mScene.focusItem()) {
+    if (!isAtItem() && !isAtButton()) {
         enter(isForward);
         return true;
     }
@@ -146,6 +155,10 @@ bool FSceneKeys::move(int key) {
     const QPointF direction = directionOf(key);
     if (direction.isNull()) {
         return false;
+    }
+    if (!isAtItem() && !isAtButton()) {
+        focusItems();
+        return true;
     }
     const QRectF from = mScene.focusItem()->sceneBoundingRect();
     focus(nearest(isAtButton() ? mScene.buttonParts() : mScene.itemParts(),

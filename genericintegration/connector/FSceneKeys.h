@@ -28,6 +28,7 @@ class FSceneKeys {
 
  private:
     bool isAtButton() const;
+    bool isAtItem() const;
     void focusItems();
     void focusButtons();
     bool move(int key);

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QGraphicsItem>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 FSoftConView::FSoftConView(QWidget* parent) : QGraphicsView(parent) {
@@ -72,6 +73,17 @@ void FSoftConView::contextMenuEvent(QContextMenuEvent* event) {
     QContextMenuEvent there(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place), event->modifiers());
     QGraphicsView::contextMenuEvent(&there);
     event->setAccepted(there.isAccepted());
+}
+
+// Not every window system asks for the menu with this key.
+void FSoftConView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        const QPoint place = viewport()->rect().center();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place));
+        contextMenuEvent(&menu);
+    } else {
+        QGraphicsView::keyPressEvent(event);
+    }
 }
 
 // The base centres what it shows, and the size may be another one than that of the last layout.

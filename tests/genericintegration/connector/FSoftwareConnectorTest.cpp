@@ -516,9 +516,16 @@ TEST_F(FSoftwareConnectorTest, keysDoWhatTheMouseDoes) {
     QTest::keyClick(view, Qt::Key_Backtab, Qt::ShiftModifier);
     QTest::keyClick(view, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(focused(), "mesh.msh");
+    // A click beside all items doesn't lead astray.
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, pointOf(inArea(SoftConImportArea)));
+    EXPECT_EQ(focused(), "");
+    EXPECT_EQ(go({Qt::Key_Tab}), "mesh.msh");
     // The menu is that of the item, not of the place of the pointer.
     QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(1, 1));
     QApplication::sendEvent(view->viewport(), &menu);
+    EXPECT_EQ(find<QMenu>("connectorMenu")->actions().last()->text(), "Copy File Name");
+    delete find<QMenu>("connectorMenu");
+    QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(find<QMenu>("connectorMenu")->actions().last()->text(), "Copy File Name");
     find<QMenu>("connectorMenu")->close();
 }

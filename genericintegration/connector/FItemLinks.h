@@ -13,7 +13,7 @@ class FSoftConObjectItem;
 /**
  * The lines of a connector's scene from items to the templates that they feed. They are below all items and take no
  * part in what the mouse does. Lines to the same template join; those of an item that the user points at or has
- * selected stand out.
+ * selected are highlighted.
  */
 class FItemLinks : public QGraphicsItem {
  public:
@@ -31,7 +31,7 @@ class FItemLinks : public QGraphicsItem {
     void forget(const FSoftConObjectItem& item);
     /** After items have moved. */
     void place();
-    /** The item stands out from now on, or no longer. */
+    /** The item is highlighted from now on, or no longer. */
     void updateLinksOf(const FSoftConObjectItem& item);
 
     QRectF boundingRect() const override { return mBounding; }

@@ -162,7 +162,7 @@ void FSoftConObjectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem
     if (!hasFocus()) {
         return;
     }
-    // A line that stands out from what is around it, and one from the picture.
+    // One line that differs from what is around the item, and one that differs from the picture.
     constexpr double width = 2;
     const QPalette palette = QGuiApplication::palette();
     const QRectF outer = boundingRect().adjusted(width / 2, width / 2, -width / 2, -width / 2);

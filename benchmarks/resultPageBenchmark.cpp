@@ -4,6 +4,7 @@
 #include "benchmarks/processMemory.h"
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
+#include "genericintegration/editors/FSamplePointing.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FHistory.h"
 #include "host/gui/base/FSpinBox.h"
@@ -141,7 +142,7 @@ void turn(benchmark::State& state) {
         page.page().refreshResultsPreview();
         preview = std::max(preview, milliseconds(timer));
         timer.start();
-        page.page().readNumberAt(sample().size() / 3);
+        page.page().pointing().readNumberAt(sample().size() / 3);
         pointed = std::max(pointed, milliseconds(timer));
         FHistory::instance()->undo();
     }

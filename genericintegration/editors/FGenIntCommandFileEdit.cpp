@@ -11,6 +11,7 @@
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FBasicType.h"
+#include "host/core/FHold.h"
 #include "host/core/FModel.h"
 #include "host/core/FNumber.h"
 #include "host/core/FObjectEditorWgt.h"
@@ -401,6 +402,7 @@ void FGenIntCommandFileEdit::entryNameChanged() {
     }
     mCurrentEntryName.clear();
     if (name != entry->getName()) {
+        const FWaitCursor busy;  // large templates may have many tags
         const FExpr<FEntryBase> held(entry);
         FUserStep step(QStringLiteral("rename commandfile entry"));
         entry->setName(name);
@@ -444,6 +446,7 @@ void FGenIntCommandFileEdit::deleteEntry() {
         return;
     }
     {
+        const FWaitCursor busy;
         const FExpr<FEntryBase> held(entry);
         FUserStep step(QStringLiteral("remove commandfile entry"));
         destroyEntry(*entry);

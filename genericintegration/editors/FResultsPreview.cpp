@@ -150,6 +150,7 @@ void FResultsPreview::fitNames() {
     const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->width() : 0;
     const int room = width() - 2 * frameWidth() - bar - horizontalHeader()->length();
     verticalHeader()->setMaximumWidth(std::max(room, shortest * fontMetrics().averageCharWidth()));
+    updateGeometries();
 }
 
 void FResultsPreview::resizeEvent(QResizeEvent* event) {

@@ -7,6 +7,8 @@
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <vector>
 
@@ -160,6 +162,9 @@ class FAnchorChoice {
         value.anchor = {anchor.text, rank == Rank::Last ? FAnchorOccurrence::Last : FAnchorOccurrence::First};
         const QString before = mNumber.textBefore();
         value.name = nameFrom(before);
+        if (value.name.isEmpty() && anchor.line != mNumber.line()) {
+            value.name = nameFrom(headingIn(lineText(anchor.line)));
+        }
         value.name = value.name.isEmpty() ? nameFrom(anchor.text) : value.name;
         return verified(value);
     }
@@ -178,6 +183,22 @@ class FAnchorChoice {
             }
         }
         return {};
+    }
+
+    /** The only part of a line, between wide gaps, that is above the number: the heading of its column. */
+    QString headingIn(const QString& line) const {
+        static const QRegularExpression part(QStringLiteral("\\S+(?: \\S+)*"));
+        QString heading;
+        for (auto found = part.globalMatch(line); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            const bool isAbove =
+                match.capturedStart() < mNumber.start() + mNumber.length() && match.capturedEnd() > mNumber.start();
+            if (isAbove && !heading.isEmpty()) {
+                return {};
+            }
+            heading = isAbove ? match.captured() : heading;
+        }
+        return heading;
     }
 
     static QString nameFrom(const QString& text) {

@@ -57,6 +57,9 @@ TEST(FPlaceProposalTest, aTextThatTellsThePlaceIsTheAnchor) {
         EXPECT_EQ(proposed(output, row.number).toStdString(), row.proposed);
     }
     EXPECT_EQ(proposed("1 2\n3 4\n", "4"), "1 1 '' - ");
+    const QString table = "  step   time (s)  residual\n     1    0.5E+00      0.25\n";
+    EXPECT_EQ(proposed(table, "0.25"), "1 2 'step   time (s)  residual' First residual") << "the column's heading";
+    EXPECT_EQ(proposed(table, "0.5E+00"), "1 1 'step   time (s)  residual' First time_s");
     EXPECT_EQ(proposed("1\n" + QString("2\n").repeated(20000) + "7\n", "7"), "-1 0 '' - ");
     EXPECT_EQ(proposed("a;;-3.5;x\n", "-3.5", {false, false, ";"}), "0 0 'a;;' First a");
     EXPECT_EQ(proposed("word 1x2", "word"), "nothing");

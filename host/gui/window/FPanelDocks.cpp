@@ -93,7 +93,7 @@ void FPanelDocks::fillMenu(QMenu& menu) {
     if (mPresent) {
         fillMenu(menu, mPresent);
     } else {
-        menu.addAction(QStringLiteral("Go to a panel first (Ctrl+1 to Ctrl+8)"))->setEnabled(false);
+        menu.addAction(QStringLiteral("Go to a panel first (Ctrl+1 to Ctrl+9)"))->setEnabled(false);
     }
 }
 

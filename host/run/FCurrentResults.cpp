@@ -6,9 +6,17 @@
 #include "host/run/FPathManager.h"
 #include "host/run/FResultFiles.h"
 
+#include <utility>
+
 void FCurrentResults::make(const FExternComputation& computation, const std::shared_ptr<const FRunRecord>& run) {
     const FHistoryBlocker blocker;
     const auto* type = dynamic_cast<const FComputationResults*>(computation.getResultType());
+    // Those of a run that never began have no files to go with.
+    const FExpr<FComputationResults> former = std::exchange(mResults, {});
+    const std::shared_ptr<const FRunRecord> formerRun = former ? former->getRun() : nullptr;
+    if (formerRun && formerRun->isSkipped() && former->getBlock()->handles == 1) {
+        FManaged::destroy(former.ptr());
+    }
     mResults = FExpr<FComputationResults>(
         type->createResults(computation.getDesign(), FExpr<FExternComputation>(&computation)));
     mDesign = computation.getDesign();

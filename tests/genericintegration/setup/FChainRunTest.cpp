@@ -2,6 +2,7 @@
 #include "host/core/FIni.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserStep.h"
+#include "host/run/FComputationResults.h"
 #include "host/run/FRunRecord.h"
 #include "host/run/FRunSettings.h"
 #include "host/run/FSetUpCheck.h"
@@ -84,6 +85,18 @@ TEST_F(FChainRunTest, afterAFailureTheOthersAreNotRun) {
     EXPECT_EQ(states(), "finished, failed, not run: upstream failed");
     EXPECT_FALSE(computation("third")->run()) << "a single run is started in any case, with what is there";
     EXPECT_EQ(states(), "finished, failed, failed");
+}
+
+TEST_F(FChainRunTest, aRunThatNeverBeganLeavesNothing) {
+    const auto countResults = [] { return FObjectManager::instance()->getManaged(FComputationResults::null()).size(); };
+    ASSERT_TRUE(run("first.setExecutable(\"false\"); first.setArguments([])"));
+    runThird();
+    EXPECT_EQ(states(), "failed, not run: upstream failed, not run: upstream failed");
+    runThird();
+    const auto most = countResults();
+    runThird();
+    runThird();
+    EXPECT_EQ(countResults(), most);
 }
 
 TEST_F(FChainRunTest, aWindowDoesNotWait) {

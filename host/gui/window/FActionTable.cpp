@@ -77,8 +77,7 @@ const char* needsAssistant(const FSituation& now) {
 // ---- texts ----
 
 QString runText(const FSituation& now) {
-    return now.computation ? QStringLiteral("&Run %1").arg(QLatin1String("") + now.computation->getName())
-                           : QStringLiteral("&Run");
+    return now.computation ? QStringLiteral("&Run %1").arg(now.computation->getName()) : QStringLiteral("&Run");
 }
 
 QString undoText(const FSituation& now) {

@@ -79,7 +79,7 @@ void FActions::fillToolbar(QToolBar& bar) {
         if (!row.isInToolbar) {
             continue;
         }
-        if (menu && (menu != row.menu || group != row.group)) {
+        if (menu && (qstrcmp(menu, row.menu) != 0 || group != row.group)) {
             bar.addSeparator();
         }
         menu = row.menu;

@@ -129,8 +129,12 @@ bool FProjectFiles::save() {
     if (FMerixCtrl::instance()->getProjectFile().isEmpty()) {
         return saveAs();
     }
+    return saveTo(QString());
+}
+
+bool FProjectFiles::saveTo(const QString& path) {
     const FMessageCatcher messages;
-    const bool isSaved = FProject::instance()->save(QString());
+    const bool isSaved = FProject::instance()->save(path);
     if (!isSaved) {
         showFailure(QStringLiteral("The project wasn't saved: %1.").arg(messages.text()));
     }
@@ -140,7 +144,7 @@ bool FProjectFiles::save() {
 bool FProjectFiles::saveAs() {
     const QString path = FUserInterface::instance()->askSaveFile(QStringLiteral("Save the project as"), startFolder(),
                                                                  QString::fromLatin1(projectFilter));
-    return !path.isEmpty() && FProject::instance()->save(path);
+    return !path.isEmpty() && saveTo(path);
 }
 
 QStringList FProjectFiles::getExamples() {
@@ -175,7 +179,7 @@ void FProjectFiles::openExample(const QString& name) {
     mWindow.documents().closeAll();
     FProject::instance()->create();
     if (executeScript(QDir(folder).filePath(QStringLiteral("setup.merix")))) {
-        FProject::instance()->save(QDir(folder).filePath(name + QStringLiteral(".mrx")));
+        saveTo(QDir(folder).filePath(name + QStringLiteral(".mrx")));
     }
 }
 

@@ -35,6 +35,8 @@ class MERIX_EXPORT FProjectFiles : public QObject {
 
  private:
     bool isIdle();
+    /** Saves, and shows the reason if that fails. An empty path is that of the project. */
+    bool saveTo(const QString& path);
     /** Shows a notice that leads to the messages. */
     void showFailure(const QString& text);
     static bool copyFolder(const QString& from, const QString& to);

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QLabel>
 #include <QListWidget>
 #include <QToolButton>
 
@@ -72,6 +73,10 @@ TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
     trigger("undo");
     EXPECT_FALSE(window().isWindowModified());
     trigger("redo");
+    EXPECT_TRUE(window().isWindowModified());
+    answer("/proc/new.mrx");
+    trigger("saveProjectAs");
+    EXPECT_TRUE(find<QLabel>("noticeText")->text().contains("The project wasn't saved"));
     EXPECT_TRUE(window().isWindowModified());
 
     answer("Cancel");

@@ -6,6 +6,7 @@
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
+#include "genericintegration/connector/dialogs/FConfigurationGenIntDialog.h"
 #include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
 #include "genericintegration/editors/FGenIntCommandFileEditor.h"
 #include "genericintegration/editors/FGenIntResultsFileEditor.h"
@@ -16,6 +17,7 @@
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FObjectPages.h"
 #include "host/gui/base/FSetUpAssistant.h"
+#include "host/gui/panels/FNewObjectMenu.h"
 
 namespace {
 
@@ -64,6 +66,8 @@ const bool hasConnectors = [] {
         QObject::connect(dialog, &FNewSetUpDialog::confirmed, parent, &FSetUpBuilder::build);
         dialog->open();
     });
+    FNewObjectMenu::set(QStringLiteral("C&onfiguration…"), QStringLiteral("configuration"),
+                        &FConfigurationGenIntDialog::addConfiguration);
     return true;
 }();
 

@@ -10,6 +10,8 @@
 
 #include <QMenu>
 
+#include <vector>
+
 namespace {
 
 struct Row {
@@ -55,13 +57,31 @@ void add(const Row& row, const std::function<void(FManaged*)>& added) {
     }
 }
 
+struct LibraryRow {
+    QString text;
+    QString icon;
+    FNewObjectMenu::Make make;
+};
+
+std::vector<LibraryRow>& libraryRows() {
+    static std::vector<LibraryRow> present;
+    return present;
+}
+
 }  // namespace
 
-void FNewObjectMenu::append(QMenu& menu, const std::function<void(FManaged*)>& added) {
+void FNewObjectMenu::set(const QString& text, const QString& icon, const Make& make) {
+    libraryRows().push_back({text, icon, make});
+}
+
+void FNewObjectMenu::append(QMenu& menu, QWidget* window, const Added& added) {
     QMenu* rest = menu.addMenu(FIcons::get(QStringLiteral("list-add")), QStringLiteral("Ne&w"));
     rest->setObjectName(QStringLiteral("newObjectMenu"));
     for (const Row& row : rows) {
         rest->addAction(FIcons::get(QString::fromLatin1(row.icon)), QString::fromUtf8(row.text),
                         [&row, added] { add(row, added); });
+    }
+    for (const LibraryRow& row : libraryRows()) {
+        rest->addAction(FIcons::get(row.icon), row.text, [&row, window, added] { row.make(window, added); });
     }
 }

@@ -202,7 +202,7 @@ void FObjectTreeWgt::fillMenu(QMenu& menu) {
         menu.addAction(FIcons::get(row->presentation.menuIcon), row->presentation.menuEntry,
                        [row, selected] { FCommandCall::execute(*row, selected); });
     }
-    FNewObjectMenu::append(menu, [this](FManaged* object) { startNaming(FExpr<FManaged>(object)); });
+    FNewObjectMenu::append(menu, window(), [this](FManaged* object) { startNaming(FExpr<FManaged>(object)); });
     menu.addSeparator();
     if (selected->count() == 1) {
         const FExpr<FManaged> object(selected->at(0));

@@ -3,6 +3,7 @@
 #include "host/core/FSelectionSet.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/base/FTheme.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FTextsDialog.h"
 #include "host/run/FExternComputation.h"
@@ -17,6 +18,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QToolButton>
@@ -207,6 +209,11 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&texts));
     check(texts, "texts");
     texts.close();
+    QMenu menu;
+    dynamic_cast<FObjectTreeWgt&>(*window().panel("objects")).fillMenu(menu);
+    menu.findChild<QMenu*>("newObjectMenu")->actions().last()->trigger();
+    check(*find("newConfiguration"), "newConfiguration");
+    find<QDialog>("newConfiguration")->reject();
     trigger("tutorial");
     check(*find("manual"), "manual");
     find<QDialog>("manual")->close();

@@ -29,7 +29,7 @@ QString textOf(const FComputationGraph::Link& link) {
 }  // namespace
 
 FChainScene::FChainScene(QObject* parent) : QGraphicsScene(parent), mColors(QGuiApplication::palette()) {
-    // Boxes are few, and all of them are built anew together.
+    // Boxes are few, and all of them are built again together.
     setItemIndexMethod(NoIndex);
 }
 

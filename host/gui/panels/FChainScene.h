@@ -20,7 +20,7 @@ class MERIX_EXPORT FChainScene : public QGraphicsScene {
  public:
     explicit FChainScene(QObject* parent);
 
-    /** Shows the model as it is now. Boxes and arrows are placed anew only if there are others. */
+    /** Shows the model as it is now. Boxes and arrows are placed again only if there are others. */
     void follow();
     /** Shows the present state of a computation's run. */
     void followRun(const FManaged* computation);

@@ -46,7 +46,7 @@ void FLineLayout::layOut(QTextBlock block) const {
     }
 }
 
-// Whoever learns of it may have further lines laid out; the size is asked for after that.
+// Whoever learns of it may have further lines laid out; the size is read after that.
 void FLineLayout::reportSize() const {
     if (!mIsReporting) {
         const QScopedValueRollback<bool> guard(mIsReporting, true);

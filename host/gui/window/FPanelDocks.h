@@ -11,7 +11,7 @@ class QMainWindow;
 class QMenu;
 
 /**
- * The docks of the panels: each shows its title once, in its title bar if it stands alone, else in its tab, and has a
+ * The docks of the panels: each shows its title once, in its title bar if it is alone, else in its tab, and has a
  * menu with the places that it can move to. The mouse drags a title bar or a tab.
  */
 class FPanelDocks : public QObject {

@@ -8,6 +8,7 @@
 #include "genericintegration/editors/FTemplateReports.h"
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"
+#include "genericintegration/marking/FValueParameters.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FChanges.h"
 #include "host/core/FIni.h"
@@ -546,6 +547,9 @@ void FGenIntResultsFileEditor::createParam() {
 }
 
 void FGenIntResultsFileEditor::createParamOf(int row) {
+    if (!mComputation && mResultsFile) {
+        mComputation = FExpr<FGenIntComputation>(FValueParameters::readersOf(*mResultsFile.ptr()).value(0));
+    }
     if (!mComputation) {
         return;
     }
@@ -652,6 +656,15 @@ void FGenIntResultsFileEditor::highlightCurrentValue() {
     }
     const FFoundValue found = mpSample->mark(FTemplateValues::describe(*value.ptr()), mpForm->separators());
     mpForm->showPlace(found, found.textIn(mpSample->sample().text()), FTemplateValues::isFileName(*value.ptr()));
+    explainFrame();
+}
+
+void FGenIntResultsFileEditor::explainFrame() {
+    const QString reason = QStringLiteral(
+        "It is read at the frame in the sample, not at the marked column. Choose an anchor that occurs once in its "
+        "line");
+    mpForm->mResultsTable->setNote(mpForm->mValueSelector->currentText(),
+                                   mpSample->isReadElsewhere() ? reason : QString());
 }
 
 // The rows of an average may be an expression, whose value changes while the template stays as it is.
@@ -691,6 +704,7 @@ void FGenIntResultsFileEditor::refreshResultsPreview() {
     }
     mpForm->mResultsTable->show(table);
     mpForm->mResultsTable->select(mpForm->mValueSelector->currentText());
+    explainFrame();
 }
 
 void FGenIntResultsFileEditor::setResultsPreviewBlank() {

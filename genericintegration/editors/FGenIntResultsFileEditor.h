@@ -158,6 +158,8 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void refreshAll();
     void showCurrentValue();
     void fillSelector(const std::vector<FExpr<FObject>>& values);
+    /** Says in the preview that the reader takes another place than the marked one. */
+    void explainFrame();
     void previewSoon();
     void followRows();
 

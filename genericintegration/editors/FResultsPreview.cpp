@@ -135,6 +135,27 @@ QString FResultsPreview::valueOf(int row) const {
     return header ? header->text() : QString();
 }
 
+void FResultsPreview::setNote(const QString& value, const QString& note) {
+    const QSignalBlocker blocker(this);
+    for (int row = 0; row < rowCount(); ++row) {
+        showNote(row, valueOf(row) == value ? note : QString());
+    }
+    mNote = note;
+}
+
+void FResultsPreview::showNote(int row, const QString& note) {
+    for (QTableWidgetItem* item :
+         {verticalHeaderItem(row), this->item(row, valueColumn), this->item(row, typeColumn)}) {
+        if (!item) {
+            continue;
+        }
+        QStringList lines = item->toolTip().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        lines.removeAll(mNote);
+        lines.append(note);
+        item->setToolTip(lines.join(QLatin1Char('\n')).trimmed());
+    }
+}
+
 void FResultsPreview::select(const QString& value) {
     const QSignalBlocker blocker(this);
     clearSelection();

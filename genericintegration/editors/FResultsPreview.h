@@ -21,6 +21,8 @@ class FResultsPreview : public QTableWidget {
     void setBlank();
     /** Forgets the table; what is shown of it stays. */
     void letGo() { mPreviewTable = {}; }
+    /** Adds a note to the tool tip of a value's row, in place of the note that a row had before. */
+    void setNote(const QString& value, const QString& note);
     /** Selects the row of a value, if there is one. */
     void select(const QString& value);
     /** The name of a row's value. */
@@ -39,6 +41,8 @@ class FResultsPreview : public QTableWidget {
     void fitNames();
     void fill();
     void addRow(int row);
+    void showNote(int row, const QString& note);
 
+    QString mNote;
     FExpr<FTableData> mPreviewTable;
 };

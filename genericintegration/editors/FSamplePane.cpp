@@ -61,7 +61,9 @@ const FResultSample& FSamplePane::sample() {
 
 FFoundValue FSamplePane::mark(const FValueDescription& value, const FSeparatorSettings& separators) {
     const FFoundValue found = sample().read(value, separators);
-    mMarker.paint(shown(FResultMarks::of(sample(), value, separators, found)));
+    const FResultMarks marks = FResultMarks::of(sample(), value, separators, found);
+    mIsReadElsewhere = !marks.readerPlaces.empty();
+    mMarker.paint(shown(marks));
     return found;
 }
 

@@ -42,7 +42,12 @@ class FSamplePane : public QFrame {
 
     /** Marks where a value is read, and returns what the reader finds there. */
     FFoundValue mark(const FValueDescription& value, const FSeparatorSettings& separators);
-    void unmark() { mMarker.clear(); }
+    void unmark() {
+        mMarker.clear();
+        mIsReadElsewhere = false;
+    }
+    /** Whether the reader takes the marked value from another place than the marked column, which has a frame then. */
+    bool isReadElsewhere() const { return mIsReadElsewhere; }
     /** What marks are painted with. */
     FResultsMarker& marker() { return mMarker; }
 
@@ -52,6 +57,7 @@ class FSamplePane : public QFrame {
 
     FGenIntResultsFileEdit* mpEdit;
     FResultsMarker mMarker;
+    bool mIsReadElsewhere = false;
     QString mText;
     FLongLines mLongLines;
     std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed

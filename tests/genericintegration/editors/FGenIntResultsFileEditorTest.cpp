@@ -539,6 +539,11 @@ TEST_F(FResultsEditorTest, whereTheReaderReadsElsewhereItsPlaceIsFramed) {
     ASSERT_EQ(edit().extraSelections().size(), 1);
     EXPECT_EQ(text(edit().extraSelections().first().cursor.selectedText()), "1");
     EXPECT_EQ(text(marked()), "aaalllllllc");
+    const auto isExplained = [this] { return preview().item(0, 0)->toolTip().contains("read at the frame"); };
+    EXPECT_TRUE(isExplained());
+    agree();
+    enterText("anchor", "");
+    EXPECT_FALSE(isExplained());
     agree();
 }
 

@@ -69,6 +69,8 @@ FGenIntResultsFileEditor::FGenIntResultsFileEditor(QWidget* parent, const FExpr<
 
 FGenIntResultsFileEditor::~FGenIntResultsFileEditor() {
     if (mEdit) {
+        // The focus leaves the fields after this object.
+        disconnect(qApp, nullptr, this, nullptr);
         letGo();
     }
 }

@@ -40,6 +40,11 @@ FChainPanel::FChainPanel(FNavigator& navigator)
     listen();
 }
 
+// The boxes go after this object, which makes the view choose another one.
+FChainPanel::~FChainPanel() {
+    mpView->disconnect(this);
+}
+
 void FChainPanel::listen() {
     const FChanges* changes = FChanges::instance();
     const auto followSoon = [this] { mFollow.request(); };

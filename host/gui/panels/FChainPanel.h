@@ -18,6 +18,7 @@ class MERIX_EXPORT FChainPanel : public QWidget {
 
  public:
     explicit FChainPanel(FNavigator& navigator);
+    ~FChainPanel() override;
 
     /** Writes the picture to an SVG file that the user names. */
     void exportPicture();

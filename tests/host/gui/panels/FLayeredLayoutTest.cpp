@@ -58,6 +58,7 @@ TEST(FLayeredLayoutTest, noTwoBoxesAndNoTwoLanesMeet) {
             }
         }
         std::vector<Link> links;
+        links.reserve(pairs.size());
         for (const auto& [from, to] : pairs) {
             links.push_back({from, to});
         }

@@ -42,7 +42,9 @@ FExternComputation* FRunTarget::get() const {
     const QList<FManaged*> all = FObjectManager::instance()->getManaged(FExternComputation::null());
     auto* first = all.isEmpty() ? nullptr : dynamic_cast<FExternComputation*>(all.first());
     // Its run brings the others up to date.
-    return first && all.size() > 1 ? FComputationChain::of(*first).last() : first;
+    const FComputationChain::Computations chain =
+        first && all.size() > 1 ? FComputationChain::of(*first) : FComputationChain::Computations();
+    return chain.isEmpty() ? first : chain.last();
 }
 
 FExternComputation* FRunTarget::getRunning() const {

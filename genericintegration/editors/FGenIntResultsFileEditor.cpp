@@ -83,10 +83,18 @@ void FGenIntResultsFileEditor::setResultsFile(const FExpr<FGenIntResultsFile>& f
     if (mResultsFile) {
         addSupplier(mResultsFile.ptr());
     }
+    takeName();
     setEnabled(static_cast<bool>(file));
     mIsStale = true;
     refresh();
     showProblems();
+}
+
+// A message of the page leads to the template.
+void FGenIntResultsFileEditor::takeName() {
+    if (mResultsFile) {
+        setName(mResultsFile->getName());
+    }
 }
 
 // ---- layout ----
@@ -195,6 +203,7 @@ void FGenIntResultsFileEditor::listen() {
         }
     };
     connect(changes, &FChanges::objectChanged, this, follow);
+    connect(changes, &FChanges::objectRenamed, this, &FGenIntResultsFileEditor::takeName);
     connect(changes, &FChanges::objectLeft, this, [this](const FManaged* object) {
         if (FExprBase(object) == mResultsFile) {
             letGo();
@@ -319,6 +328,8 @@ void FGenIntResultsFileEditor::changeEvent(QEvent* event) {
 
 void FGenIntResultsFileEditor::fileNameChanged() {
     mSteps.setFileName(mpForm->mNameEdit->text(), QStringLiteral("template name changed"));
+    // The name alone: the folders are gone.
+    mpForm->showFileName(mResultsFile ? mResultsFile->getFileName() : QString());
 }
 
 void FGenIntResultsFileEditor::filePathChanged() {
@@ -556,7 +567,7 @@ void FGenIntResultsFileEditor::createParamOf(int row) {
         return;
     }
     const auto report = [this](const QString& reason) {
-        FLogMsg::error(getClass(), QStringLiteral("Cannot create parameter."), reason, FLogMsg::Stream::StandardOutput);
+        FLogMsg::error(getName(), QStringLiteral("Cannot create parameter."), reason, FLogMsg::Stream::StandardOutput);
     };
     if (!mResultsFile) {
         report(QStringLiteral("No template file found."));

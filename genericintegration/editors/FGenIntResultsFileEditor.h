@@ -140,6 +140,7 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     static QColor sColumnBackground;
     static QColor sColumnForeground;
 
+    void takeName();
     void init();
     void connectForm();
     void connectSample();

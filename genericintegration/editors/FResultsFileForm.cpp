@@ -232,10 +232,16 @@ void FResultsFileForm::alignLabels() {
 }
 
 void FResultsFileForm::refreshLabels() {
+    const int width = labelWidth();
     for (QLabel* label : mLabels) {
-        // The labels of the two modes take the measure as their height.
-        const bool isOfMode = label->buddy() == mFindNumbersRadio || label->buddy() == mCustomRadio;
-        isOfMode ? label->setFixedHeight(labelWidth()) : label->setFixedWidth(labelWidth());
+        // The labels of the two modes take the measure as their height; their width only has to suffice.
+        if (label->buddy() == mFindNumbersRadio || label->buddy() == mCustomRadio) {
+            label->setFixedHeight(width);
+            label->setMaximumWidth(QWIDGETSIZE_MAX);
+            label->setMinimumWidth(width);
+        } else {
+            label->setFixedWidth(width);
+        }
     }
 }
 
@@ -286,8 +292,11 @@ void FResultsFileForm::showType(const Value& value) {
     select(*mTypeCombo, std::max(mTypeCombo->findText(type), 0));
 }
 
+// None is selected for a file of a type that isn't in the list.
 void FResultsFileForm::showImportType(const Value& value) {
-    mImportTypeRow->setVisible(value && FTemplateValues::isFileName(*value.ptr()));
+    const bool isFile = value && FTemplateValues::isFileName(*value.ptr());
+    select(*mImportTypeCombo, isFile ? mImportTypeCombo->findText(value->mImportType) : 0);
+    mImportTypeRow->setVisible(isFile);
 }
 
 void FResultsFileForm::showNumbers(const Value& value) {

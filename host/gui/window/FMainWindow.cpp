@@ -5,6 +5,7 @@
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
+#include "host/core/FViewCtrl.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
@@ -472,6 +473,9 @@ void FMainWindow::changeEvent(QEvent* event) {
         mRefresh.request();
     }
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        emit FViewCtrl::instance()->applicationFontChanged();
+    }
 }
 
 // Only what no part of the window takes itself gets here.

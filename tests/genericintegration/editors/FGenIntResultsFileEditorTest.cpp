@@ -330,6 +330,53 @@ TEST_F(FResultsEditorTest, eachFieldChangesTheTemplateInOneStep) {
     step("delete results value", [this] { clickOn("deleteValue"); });
 }
 
+TEST_F(FResultsEditorTest, aFileNameWithoutFoldersAndAnotherImportTypeCanBeSet) {
+    // The field of the name is only there to be read, unless somebody enables it.
+    EXPECT_FALSE(line("templateName").isEnabled());
+    line("templateName").setEnabled(true);
+    step("template name changed", [this] { enterText("templateName", "new.dat"); });
+    EXPECT_EQ(text(file().getFileName()), "new.dat");
+
+    ASSERT_TRUE(run("out.setValues([[\"drag\", 0, 0, \"\", First, \"FFileName\", \"stl\", 0, NULL]])"));
+    settle();
+    EXPECT_EQ(text(combo("importType").currentText()), "") << "the type isn't one of those that can be chosen";
+    step("change file import type", [this] { choose("importType", Qt::Key_Down); });
+    EXPECT_EQ(text(combo("importType").currentText()), "tecplot");
+}
+
+TEST_F(FResultsEditorTest, theLabelsHaveRoomInALargerFont) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(2 * usual.pointSizeF());
+    QApplication::setFont(large);
+    settle();
+    const int measure = QFontMetrics(large).horizontalAdvance("Regular Expression");
+    for (const FFormRow* row : page().findChildren<FFormRow*>()) {
+        const QLabel& label = *row->label();
+        EXPECT_TRUE(!row->isVisible() || label.width() == measure) << text(label.text());
+        EXPECT_EQ(label.height() == measure, label.text() == "Find numbers" || label.text() == "Custom");
+    }
+    QApplication::setFont(usual);
+}
+
+TEST_F(FResultsEditorTest, aParameterIsMadeForTheRowUnderTheMouse) {
+    {
+        const FUserStep step("rename");
+        file().setName("fresh");
+    }
+    QCursor::setPos(preview().cellWidget(1, 2)->mapToGlobal({2, 2}));
+    page().createParam();
+    EXPECT_EQ(text(labels().last()), "create evaluation: eval_lift");
+    const QString before = savedModel();
+    QCursor::setPos(preview().viewport()->mapToGlobal(preview().visualItemRect(preview().item(1, 1)).center()));
+    page().createParam();
+    EXPECT_TRUE(logHolds("error: fresh: Cannot create parameter. Index out of range.")) << logText();
+    page().setResultsFile({});
+    page().createParam();
+    EXPECT_TRUE(logHolds("error: fresh: Cannot create parameter. No template file found.")) << logText();
+    EXPECT_EQ(text(savedModel()), text(before));
+}
+
 TEST_F(FResultsEditorTest, theRowsOfAnAverageFollowAnExpression) {
     clickOn("average");
     ASSERT_TRUE(run("parameter rows(3)"));

@@ -14,6 +14,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QTextBlock>
 #include <QtTest/QTest>
@@ -60,6 +61,7 @@ struct Bare {
     QWidget& window() { return mEdit; }
     double write() { return 0; }
     double rename() { return 0; }
+    void undo() { mEdit.setPlainText(QStringLiteral("first\nlast\n")); }
 
  private:
     QPlainTextEdit mEdit;
@@ -96,6 +98,7 @@ struct Template {
         mpPage->buffer().commitEdit();
         return milliseconds(timer);
     }
+    void undo() { FHistory::instance()->undo(); }
     /** Renames the entry, which changes a hundredth of the lines. */
     double rename() {
         QElapsedTimer timer;
@@ -168,6 +171,39 @@ void show(benchmark::State& state, const QString& text, int keys) {
     }
 }
 
+/** Pastes a text, waits, and takes it back. */
+template <class Editor>
+void paste(benchmark::State& state, const QString& text) {
+    for (auto _ : state) {
+        Editor editor(QStringLiteral("first\nlast\n"));
+        editor.window().grab();
+        settle();
+        QApplication::clipboard()->setText(text);
+        QElapsedTimer timer;
+        timer.start();
+        editor.edit().paste();
+        state.counters["paste_ms"] = milliseconds(timer);
+        state.counters["paint_ms"] = settle();
+        state.counters["write_ms"] = editor.write();
+        state.counters["settle_ms"] = settle();
+        timer.restart();
+        editor.undo();
+        state.counters["undo_ms"] = milliseconds(timer);
+        state.counters["settle_after_undo_ms"] = settle();
+    }
+}
+
+template <class Editor>
+void pastedLines(benchmark::State& state) {
+    constexpr int lines = 400'000;
+    paste<Editor>(state, sample(lines));
+}
+
+template <class Editor>
+void pastedLongLine(benchmark::State& state) {
+    paste<Editor>(state, longLine());
+}
+
 template <class Editor>
 void manyLinesText(benchmark::State& state) {
     show<Editor>(state, sample(manyLines), manyKeys);
@@ -182,5 +218,9 @@ BENCHMARK_TEMPLATE(manyLinesText, Bare)->Iterations(1)->Unit(benchmark::kMillise
 BENCHMARK_TEMPLATE(manyLinesText, Template)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(longLineText, Bare)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(longLineText, Template)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(pastedLines, Bare)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(pastedLines, Template)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(pastedLongLine, Bare)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(pastedLongLine, Template)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace

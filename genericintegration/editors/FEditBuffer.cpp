@@ -11,6 +11,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -98,14 +99,36 @@ void FEditBuffer::refresh() {
         return;
     }
     const QString before = shown();
-    mBase = text;
+    const bool wasCut = isCut();
+    const int position = mLongLines.positionOf(mEdit.textCursor().position());
+    const int behind = endPosition() - position;
+    const QString base = std::exchange(mBase, text);
+    show(before);
+    if (wasCut != isCut()) {
+        const std::vector<FTextReplacement> changes = FLineEnds::changesOfDocument(base, text);
+        const bool isBefore = changes.empty() || position <= changes.front().position;
+        setPosition(isBefore ? position : endPosition() - behind);
+    }
+}
+
+void FEditBuffer::show(const QString& before) {
     const QScopedValueRollback<bool> guard(mIsReplacing, true);
-    mLongLines = FLongLines(text);
+    mLongLines = FLongLines(mBase);
     mEdit.setReadOnly(isCut());
-    FShownText::change(mEdit, before, isCut() ? mLongLines.cut(text) : text,
+    FShownText::change(mEdit, before, isCut() ? mLongLines.cut(mBase) : mBase,
                        [this](int length) { emit aboutToFill(length); });
     mDiffers = false;
     emit refreshed();
+}
+
+int FEditBuffer::endPosition() const {
+    return mLongLines.positionOf(mEdit.document()->characterCount() - 1);
+}
+
+void FEditBuffer::setPosition(int position) {
+    QTextCursor cursor(mEdit.document());
+    cursor.setPosition(mLongLines.shownAt(std::clamp(position, 0, endPosition())));
+    mEdit.setTextCursor(cursor);
 }
 
 QString FEditBuffer::shown() const {
@@ -124,11 +147,15 @@ void FEditBuffer::touch() {
 
 void FEditBuffer::write() {
     forgetTyped();
-    if (!mFile || !mIsFilled || isCut()) {
-        return;
+    if (mFile && mIsFilled && !isCut()) {
+        const QString lines = mEdit.document()->toRawText();
+        write(lines, lines);
     }
+}
+
+void FEditBuffer::write(const QString& lines, const QString& shown) {
     const QString text = content();
-    const FTextReplacement typed = FLineEnds::change(mBase, mEdit.document()->toRawText());
+    const FTextReplacement typed = FLineEnds::change(mBase, lines);
     const bool isElsewhere = text.constData() != mBase.constData() && text != mBase;
     if (!typed.isEmpty()) {
         const FTextReplacement change = isElsewhere ? moved(typed, difference(mBase, text), text.size()) : typed;
@@ -139,7 +166,26 @@ void FEditBuffer::write() {
     mDiffers = false;
     if (isElsewhere) {
         refresh();
+    } else if (FLongLines::first(mBase, FLongLines::longest) > 0) {
+        const int position = mEdit.textCursor().position();
+        show(shown);
+        setPosition(position);
     }
+}
+
+// A long line gets into the widget by way of the template, and so in pieces only.
+void FEditBuffer::insert(QTextCursor cursor, const QString& text) {
+    if (!mFile || FLongLines::first(text, FLongLines::longest) == 0) {
+        cursor.insertText(text);
+        return;
+    }
+    FUserStep step(QStringLiteral("text altered"));
+    const QString before = mEdit.document()->toRawText();
+    const int behind = before.size() - cursor.selectionEnd();
+    QString lines = before;
+    lines.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(), text);
+    write(lines, before);
+    setPosition(endPosition() - behind);
 }
 
 void FEditBuffer::replace(QTextCursor cursor, const QString& text) {

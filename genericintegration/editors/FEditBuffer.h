@@ -16,7 +16,8 @@ class QTextCursor;
  * without typing, or as soon as somebody reads the model; what changes in the template gets into the widget at once,
  * without moving the cursor or the scroll bars, once the widget has been shown. Line ends and characters that a
  * document doesn't hold stay as they are in the template. Several widgets can show the same template. A text with lines
- * that are too long for a widget is shown with these in pieces, and can't be edited.
+ * that are too long for a widget is shown with these in pieces, and can't be edited; if such a line was typed, as soon
+ * as it is in the template.
  */
 class FEditBuffer : public QObject, public FPendingEdit {
     Q_OBJECT
@@ -44,6 +45,8 @@ class FEditBuffer : public QObject, public FPendingEdit {
     bool isPending() const { return mIsPending; }
     /** Writes the text into the template, if it differs; within a step of the caller. */
     void write();
+    /** Replaces what a cursor selects, as the user does who pastes a text. */
+    void insert(QTextCursor cursor, const QString& text);
     /** Replaces what a cursor selects, within a step of the caller, and writes the text. */
     void replace(QTextCursor cursor, const QString& text);
     void commitEdit() override;
@@ -66,6 +69,17 @@ class FEditBuffer : public QObject, public FPendingEdit {
     void forgetTyped();
     /** The text that the widget has, with any line ends. */
     QString shown() const;
+    /** Has the widget show the base in place of the text that it has. */
+    void show(const QString& before);
+    /** Positions of a document of the base: its end, and one to which the cursor moves. */
+    int endPosition() const;
+    void setPosition(int position);
+    /**
+     * Writes a text into the template, if it differs from the base.
+     * @param lines  with any line ends
+     * @param shown  what the widget has
+     */
+    void write(const QString& lines, const QString& shown);
 
     QPlainTextEdit& mEdit;
     FExpr<FGenIntFile> mFile;

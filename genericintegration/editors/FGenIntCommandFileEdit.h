@@ -1,7 +1,8 @@
 #pragma once
 
+#include "genericintegration/editors/FCommandFileSteps.h"
+#include "genericintegration/editors/FGutterSelection.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
-#include "host/core/FQueuedCall.h"
 #include "host/gui/text/FEditor.h"
 
 #include <QRegExp>
@@ -10,17 +11,17 @@
 #include <utility>
 
 class FEntryDef;
-class FGenIntCommandFileEditEntryButton;
 class FGenIntCommandFileEditor;
 class FGenIntCommandFileLineEdit;
 class FGenIntCommandFileSyntaxHighlighter;
 class FSearchDialog;
-class QToolButton;
+class FTemplateButtons;
+class QMenu;
 
 /**
  * The text of an input template. In assisted mode, a button appears over the number or tag under the mouse: the first
- * makes an entry of the number, the other one opens a menu with what can be done with the tag. Each of these operations
- * is a step of its own, after one for what was typed before.
+ * makes an entry of the number, the other one opens a menu with what can be done with the tag. Alt+Down does the same
+ * at the cursor. Each of these operations is a step of its own, after one for what was typed before.
  */
 class FGenIntCommandFileEdit : public FEditor {
     Q_OBJECT
@@ -73,52 +74,28 @@ class FGenIntCommandFileEdit : public FEditor {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent* event) override;
 
  private:
-    /** What is offered at a place. */
-    struct Region {
-        bool isPossibleValue;
-        QString name;
-        QString text;
-        double value;
-        QTextCursor whole;     //!< selects the region
-        QTextCursor replaced;  //!< selects what an operation replaces
-    };
-
-    QToolButton* setUpButton(QToolButton* button, const QString& id, const QString& icon);
-    QTextCursor selection(const QTextBlock& block, int from, int to) const;
-    std::optional<Region> regionAt(const QTextCursor& place) const;
+    /** What can be done with entries; nothing without a definition, or if the text can't be edited. */
+    std::optional<FCommandFileSteps> steps() const;
     /** The tag on which the menu was opened, where it is now; a null cursor if it is gone. */
     QTextCursor currentTag() const;
-    QRect buttonRect(const Region& region) const;
-    void followMouse(const QPoint& place);
-    /** Places the button for what is under the mouse, or hides both. */
-    void updateHover();
-    void showButton(const Region& region);
-    void hideButtons();
-
-    void createEntry(const QString& proposal, double value, QTextCursor cursor);
-    void replaceCurrentTag(const QString& label, const QString& text);
-    /** Deletes an entry, within a step of the caller. */
-    void destroyEntry(FEntryDef& entry);
-    void replaceText(const QTextCursor& cursor, const QString& text);
-    bool selectLines(const QMouseEvent& event);
+    QPoint placeOfTag() const;
+    /** Does what the button over the number or tag at the cursor does. */
+    void useOffer();
+    void addEntryActions(QMenu& menu, const FDefinitionGenInt& definition);
+    void addTextActions(QMenu& menu);
 
     FGenIntCommandFileEditor* mpEditor;
     FGenIntCommandFileSyntaxHighlighter* mpHighlighter = nullptr;
-    QToolButton* mpAddEntryButton;
-    FGenIntCommandFileEditEntryButton* mpEditEntryButton;
+    FTemplateButtons* mpButtons;
     FGenIntCommandFileLineEdit* mpNameEdit;
     bool mHasMenu = false;
     FSearchDialog* mpSearchDialog = nullptr;
-    bool mLineSelectActive = false;
-    QTextCursor mFirstLine;        //!< where a selection in the gutter has begun
-    std::optional<QPoint> mMouse;  //!< in the viewport; nothing while the mouse is elsewhere
-    QTextCursor mCurrent;          //!< at the start of the region with the button
-    QString mCurrentEntryName;
-    FQueuedCall mHover{[this] { updateHover(); }};
+    FGutterSelection mGutterSelection{*this};
 };

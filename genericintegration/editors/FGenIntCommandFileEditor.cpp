@@ -27,8 +27,6 @@
 
 #include <algorithm>
 
-namespace {}  // namespace
-
 FClassData FGenIntCommandFileEditor::mClass("FGenIntCommandFileEditor", &FView::mClass);
 
 FGenIntCommandFileEditor::FGenIntCommandFileEditor() : FGenIntCommandFileEditor(nullptr, {}, {}) {}
@@ -341,15 +339,7 @@ void FGenIntCommandFileEditor::focusInEvent(QFocusEvent* event) {
 
 void FGenIntCommandFileEditor::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && mpEdit && isVisible()) {
-        mpEdit->highlighter().recolour();
-    }
-}
-
-void FGenIntCommandFileEditor::setColor(QColor FTemplateColors::*color, const QColor& value) {
-    QColor& present = FTemplateColors::instance().*color;
-    if (present != value) {
-        present = value;
-        mpEdit->highlighter().recolour();
+    if (event->type() == QEvent::PaletteChange && mpEdit) {
+        mpEdit->highlighter().takeColours();
     }
 }

@@ -75,29 +75,49 @@ class FGenIntCommandFileEditor : public FClass<FGenIntCommandFileEditor, QFrame,
     void letGo() override;
 
     static QColor getTagForeground() { return FTemplateColors::instance().tagForeground; }
-    void setTagForeground(const QColor& color) { setColor(&FTemplateColors::tagForeground, color); }
+    static void setTagForeground(const QColor& color) { FTemplateColors::set(&FTemplateColors::tagForeground, color); }
     static QColor getTagBackground() { return FTemplateColors::instance().tagBackground; }
-    void setTagBackground(const QColor& color) { setColor(&FTemplateColors::tagBackground, color); }
+    static void setTagBackground(const QColor& color) { FTemplateColors::set(&FTemplateColors::tagBackground, color); }
     static QColor getTagErrorForeground() { return FTemplateColors::instance().tagErrorForeground; }
-    void setTagErrorForeground(const QColor& color) { setColor(&FTemplateColors::tagErrorForeground, color); }
+    static void setTagErrorForeground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::tagErrorForeground, color);
+    }
     static QColor getTagErrorBackground() { return FTemplateColors::instance().tagErrorBackground; }
-    void setTagErrorBackground(const QColor& color) { setColor(&FTemplateColors::tagErrorBackground, color); }
+    static void setTagErrorBackground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::tagErrorBackground, color);
+    }
     static QColor getValueForeground() { return FTemplateColors::instance().valueForeground; }
-    void setValueForeground(const QColor& color) { setColor(&FTemplateColors::valueForeground, color); }
+    static void setValueForeground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::valueForeground, color);
+    }
     static QColor getValueBackground() { return FTemplateColors::instance().valueBackground; }
-    void setValueBackground(const QColor& color) { setColor(&FTemplateColors::valueBackground, color); }
+    static void setValueBackground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::valueBackground, color);
+    }
     static QColor getValueErrorForeground() { return FTemplateColors::instance().valueErrorForeground; }
-    void setValueErrorForeground(const QColor& color) { setColor(&FTemplateColors::valueErrorForeground, color); }
+    static void setValueErrorForeground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::valueErrorForeground, color);
+    }
     static QColor getValueErrorBackground() { return FTemplateColors::instance().valueErrorBackground; }
-    void setValueErrorBackground(const QColor& color) { setColor(&FTemplateColors::valueErrorBackground, color); }
+    static void setValueErrorBackground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::valueErrorBackground, color);
+    }
     static QColor getPossibleValueForeground() { return FTemplateColors::instance().possibleValueForeground; }
-    void setPossibleValueForeground(const QColor& color) { setColor(&FTemplateColors::possibleValueForeground, color); }
+    static void setPossibleValueForeground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::possibleValueForeground, color);
+    }
     static QColor getPossibleValueBackground() { return FTemplateColors::instance().possibleValueBackground; }
-    void setPossibleValueBackground(const QColor& color) { setColor(&FTemplateColors::possibleValueBackground, color); }
+    static void setPossibleValueBackground(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::possibleValueBackground, color);
+    }
     static QColor getButtonTagColor() { return FTemplateColors::instance().buttonTagColor; }
-    void setButtonTagColor(const QColor& color) { setColor(&FTemplateColors::buttonTagColor, color); }
+    static void setButtonTagColor(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::buttonTagColor, color);
+    }
     static QColor getButtonEntryColor() { return FTemplateColors::instance().buttonEntryColor; }
-    void setButtonEntryColor(const QColor& color) { setColor(&FTemplateColors::buttonEntryColor, color); }
+    static void setButtonEntryColor(const QColor& color) {
+        FTemplateColors::set(&FTemplateColors::buttonEntryColor, color);
+    }
 
  public slots:
     void refresh();
@@ -117,7 +137,6 @@ class FGenIntCommandFileEditor : public FClass<FGenIntCommandFileEditor, QFrame,
     QWidget* makeBar();
     QWidget* makeTexts();
     void listen();
-    void setColor(QColor FTemplateColors::*color, const QColor& value);
     /** The computation, or else the first one that uses the template; null if there is none. */
     FGenIntComputation* computation() const;
     void showName();

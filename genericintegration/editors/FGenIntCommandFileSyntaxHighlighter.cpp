@@ -2,6 +2,7 @@
 
 #include "genericintegration/editors/FGenIntCommandFileEdit.h"
 #include "genericintegration/editors/FGenIntCommandFileEntryData.h"
+#include "genericintegration/editors/FTemplateColors.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 
 #include <QElapsedTimer>
@@ -28,10 +29,14 @@ FGenIntCommandFileSyntaxHighlighter::FGenIntCommandFileSyntaxHighlighter(FGenInt
     : FCmdLineSyntaxHighlighter(static_cast<QObject*>(&edit)), mEdit(edit) {
     mSlices.setInterval(0);
     connect(&mSlices, &QTimer::timeout, this, &FGenIntCommandFileSyntaxHighlighter::colourSlice);
-    connect(edit.document(), &QTextDocument::contentsChange, this, &FGenIntCommandFileSyntaxHighlighter::textChanged);
+    // Before the base, and not as a slot of this object, so that the base alone can be disconnected.
+    connect(edit.document(), &QTextDocument::contentsChange, &mSlices,
+            [this](int position, int removed, int added) { textChanged(position, removed, added); });
     connect(&edit, &QPlainTextEdit::updateRequest, this, &FGenIntCommandFileSyntaxHighlighter::colourShown);
+    connect(&FTemplateColors::instance(), &FTemplateColors::changed, this,
+            &FGenIntCommandFileSyntaxHighlighter::takeColours);
     takeNames();
-    prepareFor(edit.document()->characterCount());
+    followSize();
 }
 
 // The base changes the document once more when it lets go of it.
@@ -40,11 +45,29 @@ FGenIntCommandFileSyntaxHighlighter::~FGenIntCommandFileSyntaxHighlighter() {
     mEdit.disconnect(this);
 }
 
-void FGenIntCommandFileSyntaxHighlighter::prepareFor(int length) {
+void FGenIntCommandFileSyntaxHighlighter::followSize() {
+    prepareFor(mEdit.document()->characterCount());
+}
+
+// A document reports new formats as a change of the text.
+void FGenIntCommandFileSyntaxHighlighter::rehighlightQuietly(const QTextBlock& block) {
+    const QSignalBlocker blocker(&mEdit);
+    rehighlightBlock(block);
+}
+
+void FGenIntCommandFileSyntaxHighlighter::colourAsWhole(bool isWhole) {
+    QTextDocument* wanted = isWhole ? mEdit.document() : nullptr;
+    if (isWhole == mIsWhole && wanted == document()) {
+        return;
+    }
     ++mPass;
-    QTextDocument* wanted = length <= mostAsWhole ? mEdit.document() : nullptr;
-    if (wanted != document()) {
-        setDocument(wanted);
+    mIsWhole = isWhole;
+    const QSignalBlocker blocker(&mEdit);
+    setDocument(wanted);
+    if (isWhole) {
+        rehighlight();
+    } else {
+        colourShown();
     }
 }
 
@@ -54,12 +77,17 @@ void FGenIntCommandFileSyntaxHighlighter::recolour() {
     ++mPass;
     mNext = 0;
     colourShown();
-    if (isWhole()) {
+    if (mIsWhole) {
         const auto [first, last] = mEdit.shownRange();
         colour(first - margin, last + margin);
         mSlices.start();
         colourSlice();
     }
+}
+
+void FGenIntCommandFileSyntaxHighlighter::takeColours() {
+    mFormats = FTemplateFormats();
+    mRecolour.request();
 }
 
 bool FGenIntCommandFileSyntaxHighlighter::takeNames() {
@@ -104,8 +132,18 @@ void FGenIntCommandFileSyntaxHighlighter::highlightBlock(const QString& text) {
 
 void FGenIntCommandFileSyntaxHighlighter::textChanged(int position, int removed, int added) {
     Q_UNUSED(removed)
-    if (isWhole()) {
+    const bool isSmall = mEdit.document()->characterCount() <= mostAsWhole;
+    if (isSmall != mIsWhole) {
+        mFollowSize.request();
+    }
+    if (mIsWhole && isSmall) {
         return;
+    }
+    if (mIsWhole) {
+        // The base would go through all that was added. It can't let go of the document during a change.
+        disconnect(mEdit.document(), &QTextDocument::contentsChange, this, nullptr);
+        mIsWhole = false;
+        ++mPass;
     }
     if (added > mostAtOnce) {
         ++mPass;
@@ -124,7 +162,7 @@ void FGenIntCommandFileSyntaxHighlighter::textChanged(int position, int removed,
 
 // A colour that changes asks for an update, which comes here again.
 void FGenIntCommandFileSyntaxHighlighter::colourShown() {
-    if (!isWhole() && !mIsColouring) {
+    if (!mIsWhole && !mIsColouring) {
         const QScopedValueRollback<bool> guard(mIsColouring, true);
         const auto [first, last] = mEdit.shownRange();
         colour(first - margin, last + margin);
@@ -134,8 +172,8 @@ void FGenIntCommandFileSyntaxHighlighter::colourShown() {
 void FGenIntCommandFileSyntaxHighlighter::colour(int firstBlock, int lastBlock) {
     QTextBlock block = mEdit.document()->findBlockByNumber(std::max(firstBlock, 0));
     for (; block.isValid() && block.blockNumber() <= lastBlock; block = block.next()) {
-        if (isWhole()) {
-            rehighlightBlock(block);
+        if (mIsWhole) {
+            rehighlightQuietly(block);
         } else if (block.userState() != mPass) {
             colour(block);
         }
@@ -156,7 +194,7 @@ void FGenIntCommandFileSyntaxHighlighter::colour(QTextBlock block) {
 }
 
 FGenIntCommandFileEntryData* FGenIntCommandFileSyntaxHighlighter::dataOf(QTextBlock block) {
-    if (!isWhole() && block.userState() != mPass) {
+    if (!mIsWhole && block.userState() != mPass) {
         colour(block);
     }
     return static_cast<FGenIntCommandFileEntryData*>(block.userData());
@@ -166,11 +204,11 @@ void FGenIntCommandFileSyntaxHighlighter::colourSlice() {
     QElapsedTimer time;
     time.start();
     QTextBlock block = mEdit.document()->findBlockByNumber(mNext);
-    for (; isWhole() && block.isValid() && time.elapsed() < sliceTime; block = block.next()) {
-        rehighlightBlock(block);
+    for (; mIsWhole && block.isValid() && time.elapsed() < sliceTime; block = block.next()) {
+        rehighlightQuietly(block);
         ++mNext;
     }
-    if (!isWhole() || !block.isValid()) {
+    if (!mIsWhole || !block.isValid()) {
         mSlices.stop();
     }
 }

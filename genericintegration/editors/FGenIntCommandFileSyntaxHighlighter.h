@@ -3,6 +3,7 @@
 #include "genericintegration/editors/FTemplateFormats.h"
 #include "genericintegration/marking/FKnownNames.h"
 #include "genericintegration/marking/FTemplateLine.h"
+#include "host/core/FQueuedCall.h"
 #include "host/gui/text/FCmdLineSyntaxHighlighter.h"
 
 #include <QRegExp>
@@ -26,10 +27,12 @@ class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     explicit FGenIntCommandFileSyntaxHighlighter(FGenIntCommandFileEdit& edit);
     ~FGenIntCommandFileSyntaxHighlighter() override;
 
-    /** Called before the text is replaced by one of that length. */
-    void prepareFor(int length);
+    /** Called before the text becomes one of about that length; saves the time to go through all that is added. */
+    void prepareFor(int length) { colourAsWhole(length <= mostAsWhole); }
     /** Colours everything again: what is in view at once, the rest in slices. Takes on colours, names and the mode. */
     void recolour();
+    /** Takes on the present colours at once, and colours everything again a moment later. */
+    void takeColours();
     /** Takes on the names of the definition; does nothing if they are the same. */
     void followDefinition();
     /** Marks what a search finds; an empty expression for nothing. */
@@ -47,11 +50,13 @@ class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     void highlightBlock(const QString& text) override;
 
  private:
-    bool isWhole() const { return document() != nullptr; }
+    void followSize();
+    void colourAsWhole(bool isWhole);
     FTemplateLine analyse(const QString& text) const;
     bool takeNames();
     void textChanged(int position, int removed, int added);
     void colour(QTextBlock block);
+    void rehighlightQuietly(const QTextBlock& block);
     void colour(int firstBlock, int lastBlock);
     void colourSlice();
 
@@ -60,6 +65,9 @@ class FGenIntCommandFileSyntaxHighlighter : public FCmdLineSyntaxHighlighter {
     FKnownNames mNames;
     bool mHasDefinition = false;
     FTemplateFormats mFormats;
+    bool mIsWhole = false;
+    FQueuedCall mFollowSize{[this] { followSize(); }};
+    FQueuedCall mRecolour{[this] { recolour(); }};
     int mPass = 0;  //!< what is in the state of blocks that have been coloured since; only in a large text
     int mNext = 0;  //!< block with which the next slice starts
     bool mIsColouring = false;

@@ -1,9 +1,17 @@
 #pragma once
 
 #include <QColor>
+#include <QObject>
 
 /** The colours of input templates, shared by all their editors; those of a light palette, see FTextColor. */
-struct FTemplateColors {
+class FTemplateColors : public QObject {
+    Q_OBJECT
+
+ public:
+    static const FTemplateColors& instance() { return shared(); }
+    /** Changes a colour of all editors. */
+    static void set(QColor FTemplateColors::*color, const QColor& value);
+
     QColor tagForeground{Qt::blue};
     QColor tagBackground{Qt::white};
     QColor tagErrorForeground{Qt::darkRed};
@@ -17,8 +25,10 @@ struct FTemplateColors {
     QColor buttonTagColor{Qt::blue};
     QColor buttonEntryColor{Qt::darkGreen};
 
-    static FTemplateColors& instance() {
-        static FTemplateColors colors;
-        return colors;
-    }
+ signals:
+    void changed();
+
+ private:
+    FTemplateColors() = default;
+    static FTemplateColors& shared();
 };

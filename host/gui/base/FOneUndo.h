@@ -4,7 +4,10 @@
 
 #include <QObject>
 
-/** Keeps a field from undoing what is in the model: the window's Undo acts instead. */
+class QLineEdit;
+class QMenu;
+
+/** Keeps a field from undoing what is in the model: the window's Undo acts instead, for keys and the context menu. */
 class MERIX_EXPORT FOneUndo : public QObject {
     Q_OBJECT
 
@@ -17,8 +20,16 @@ class MERIX_EXPORT FOneUndo : public QObject {
     /** @param field  gets the keys; owns the object */
     FOneUndo(QWidget* field, Change change);
 
+    /**
+     * Has the standard menu of a text that can be edited, which begins with Undo and Redo, act on steps of the project
+     * as the window does.
+     */
+    static void replaceIn(QMenu& menu, const QWidget& text);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+    bool isTyping(const QLineEdit* line) const;
+
     Change mChange;
 };

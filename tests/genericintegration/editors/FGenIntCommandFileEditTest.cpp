@@ -52,9 +52,15 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     EXPECT_EQ(hover("<entry>force")->objectName(), "editEntryButton");
     EXPECT_EQ(hover("words"), nullptr);
     EXPECT_EQ(hover("2"), nullptr) << "in a line with an open tag";
+    // Behind the end of a line is directly behind its tag.
+    const auto move = [&](const QPoint& place) {
+        QTest::mouseMove(edit().viewport(), place);
+        settle();
+    };
+    move({edit().viewport()->width() - 5, edit().cursorRect(at("<entry>force", 1)).center().y()});
+    EXPECT_TRUE(find("editEntryButton")->isVisible());
     ASSERT_NE(hover("key"), nullptr);
-    QTest::mouseMove(edit().viewport(), edit().viewport()->rect().bottomRight() - QPoint(5, 5));
-    settle();
+    move(edit().viewport()->rect().bottomRight() - QPoint(5, 5));
     EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
     find<QToolButton>("templateMode")->click();
     EXPECT_EQ(find("templateMode")->toolTip(), "Enter assisted mode");
@@ -67,6 +73,16 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     type(&edit(), "x");
     settle();
     EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
+    // A button gives way to what it covers.
+    page().setAlteredText();
+    setText("7 8 and more\n");
+    auto* button = hover("7");
+    const QPoint covered = edit().cursorRect(at("8", 1)).center();
+    ASSERT_TRUE(button && button->geometry().contains(edit().viewport()->mapTo(&edit(), covered)));
+    move(covered);
+    EXPECT_EQ(button->text(), "8");
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(content(), "7 <entry>newEntry</entry> and more\n");
 }
 
 TEST_F(FGenIntCommandFileEditTest, tagsWithUnusualNamesLeaveTheRestOfTheLineAlone) {
@@ -140,6 +156,7 @@ TEST_F(FGenIntCommandFileEditTest, anEntryIsRenamedAtItsTag) {
     chooseForTag("<entry>Geometry", "Rename");
     auto* field = find<QLineEdit>("entryName");
     ASSERT_TRUE(field->isVisible());
+    EXPECT_EQ(field->pos(), edit().mapFromGlobal(QCursor::pos()));
     EXPECT_EQ(field->text(), "span");
     EXPECT_EQ(hover("<entry>Geometry"), nullptr);
     type(field, "new width|");
@@ -163,6 +180,57 @@ TEST_F(FGenIntCommandFileEditTest, anEntryIsRenamedAtItsTag) {
     type(field, "left");
     find("templateName")->setFocus();
     EXPECT_NE(entry("Geometry|left"), nullptr);
+    hover("<entry>Geometry");
+    QCursor::setPos(edit().mapToGlobal(edit().rect().bottomRight()));
+    edit().renameEntry();
+    EXPECT_TRUE(edit().rect().contains(field->geometry()));
+    press(field, Qt::Key_Escape);
+    EXPECT_NE(entry("Geometry|left"), nullptr);
+}
+
+TEST_F(FGenIntCommandFileEditTest, theKeyboardReachesWhatTheButtonsDo) {
+    open("key = 1.5 and words\nsome <entry>force</entry>\n");
+    edit().setFocus();
+    edit().setTextCursor(at("key", 1));
+    press(&edit(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(content(), "key = <entry>key</entry> and words\nsome <entry>force</entry>\n");
+    edit().setTextCursor(at("force", 1));
+    choose("Rename", [&] { press(&edit(), Qt::Key_Down, Qt::AltModifier); });
+    auto* field = find<QLineEdit>("entryName");
+    const QPoint atTag = edit().viewport()->mapTo(&edit(), edit().cursorRect(at("<entry>force", 0)).topLeft());
+    EXPECT_LT((field->pos() - atTag).manhattanLength(), 5);
+    type(field, "load");
+    press(field, Qt::Key_Return);
+    EXPECT_TRUE(content().contains("some <entry>load</entry>"));
+    const QString before = content();
+    edit().setTextCursor(at("words", 1));
+    press(&edit(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(FGenIntCommandFileEditTest, theContextMenusOfTextsUndoStepsOfTheProject) {
+    open("a\n");
+    page().buffer().setDelay(1'000'000);
+    type(&edit(), "x");
+    chooseInText("&Undo text altered");
+    EXPECT_EQ(shown(), "a\n");
+    chooseInText("&Redo text altered");
+    EXPECT_EQ(content(), "xa\n");
+    auto* name = find<QLineEdit>("templateName");
+    const auto chooseInName = [&](const QString& path) {
+        choose(path, [&] {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, name->mapToGlobal({5, 5}));
+            QApplication::sendEvent(name, &event);
+        });
+    };
+    name->setFocus();
+    type(name, "x");
+    chooseInName("&Undo");
+    EXPECT_EQ(name->text(), "deck.inp") << "what isn't in the model yet";
+    type(name, "x");
+    press(name, Qt::Key_Return);
+    chooseInName("&Undo set file name");
+    EXPECT_EQ(file().getFileName(), "deck.inp");
 }
 
 TEST_F(FGenIntCommandFileEditTest, theContextMenuMakesAndInsertsEntries) {

@@ -7,6 +7,7 @@
 #include "tests/genericintegration/editors/FTemplatePageTest.h"
 #include "tests/support/FTestFolder.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -178,7 +179,13 @@ TEST_F(FGenIntCommandFileEditorTest, coloursFollowNamesModePaletteAndStyleSheet)
     find<QToolButton>("templateMode")->click();
     EXPECT_EQ(colorAt("a", true), QColor());
     EXPECT_EQ(colorAt("force"), QColor(Qt::darkGreen));
+    EXPECT_FALSE(page().buffer().isPending()) << "colours are no change of the text";
+    // All pages share the colours, also those that aren't in view.
+    window().showTemplate(&file("other"), 0, 0);
+    settle();
     page().setStyleSheet("FGenIntCommandFileEditor { qproperty-highlight_color_ValueForeground: #123456; }");
+    settle();
+    EXPECT_FALSE(page().isVisible());
     EXPECT_EQ(page().property("highlight_color_ValueForeground").value<QColor>(), QColor(0x12, 0x34, 0x56));
     EXPECT_EQ(colorAt("force"), QColor(0x12, 0x34, 0x56));
     page().setStyleSheet({});
@@ -216,6 +223,65 @@ TEST_F(FGenIntCommandFileEditorTest, aLargeTextIsColouredInViewAndOffersEverywhe
     undo();
     EXPECT_EQ(content(), before);
     EXPECT_EQ(shown(), before);
+}
+
+TEST_F(FGenIntCommandFileEditorTest, theSizeDecidesHoweverItChanges) {
+    const auto isWhole = [&] { return edit().highlighter().document() != nullptr; };
+    const QString large = QStringLiteral("alpha = 1.5, <entry>force</entry> and more\n").repeated(50'000);
+    const auto paste = [&](const QString& text) {
+        QApplication::clipboard()->setText(text);
+        edit().paste();
+        settle();
+    };
+    open("first = 1\nlast = 2\n");
+    EXPECT_TRUE(isWhole());
+    edit().setTextCursor(at("last", 0));
+    paste(large);
+    EXPECT_FALSE(isWhole());
+    EXPECT_EQ(edit().textCursor().block().text(), "last = 2");
+    EXPECT_EQ(colorAt("last", true), QColor(207, 246, 207));
+    undo();
+    EXPECT_TRUE(isWhole());
+    EXPECT_EQ(shown(), "first = 1\nlast = 2\n");
+    EXPECT_EQ(edit().textCursor().block().text(), "last = 2");
+    EXPECT_EQ(colorAt("first", true), QColor(207, 246, 207));
+    redo();
+    EXPECT_FALSE(isWhole());
+    edit().selectAll();
+    press(&edit(), Qt::Key_Delete);
+    settle();
+    EXPECT_TRUE(isWhole());
+    // By many small changes in one.
+    QTextCursor cursor(edit().document());
+    cursor.beginEditBlock();
+    while (edit().document()->characterCount() < large.size()) {
+        cursor.insertText(large.left(4200));
+    }
+    cursor.endEditBlock();
+    settle();
+    EXPECT_FALSE(isWhole());
+    EXPECT_EQ(colorAt("force"), QColor(Qt::darkGreen));
+    // A line that is too long for the widget.
+    page().setAlteredText();
+    setText("one two\nlast\n");
+    edit().setTextCursor(at("two", 0));
+    paste(QString(300'000, 'z') + "\r\nmore ");
+    EXPECT_EQ(content(), "one " + QString(300'000, 'z') + "\nmore two\nlast\n");
+    EXPECT_TRUE(edit().isReadOnly());
+    EXPECT_EQ(edit().textCursor().block().text(), "more two");
+    EXPECT_EQ(edit().textCursor().positionInBlock(), 5);
+    EXPECT_EQ(lastStep(), "text altered");
+    undo();
+    EXPECT_FALSE(edit().isReadOnly());
+    EXPECT_EQ(shown(), "one two\nlast\n");
+    // One that becomes too long while it is edited.
+    setText(QString(60'000, 'x') + "\n" + QString(60'000, 'y'));
+    edit().setTextCursor(at("\ny", 1));
+    press(&edit(), Qt::Key_Backspace);
+    page().setAlteredText();
+    EXPECT_TRUE(edit().isReadOnly());
+    EXPECT_LT(edit().textCursor().block().length(), 2000);
+    EXPECT_EQ(edit().textCursor().block().previous().text().back(), 'x');
 }
 
 TEST_F(FGenIntCommandFileEditorTest, aLineThatIsTooLongForAWidgetIsShownInPieces) {

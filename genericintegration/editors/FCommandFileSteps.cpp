@@ -1,0 +1,91 @@
+#include "genericintegration/editors/FCommandFileSteps.h"
+
+#include "genericintegration/editors/FEditBuffer.h"
+#include "genericintegration/io/FTemplateKeys.h"
+#include "genericintegration/marking/FEntryNameProposal.h"
+#include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/templates/FTemplateTags.h"
+#include "host/core/FBasicType.h"
+#include "host/core/FHold.h"
+#include "host/core/FNumber.h"
+#include "host/core/FObjectEditorWgt.h"
+#include "host/core/FUserStep.h"
+#include "host/design/FEntryDef.h"
+
+#include <QTextCursor>
+
+FEntryDef* FCommandFileSteps::entryOf(const QString& name) const {
+    if (auto* entry = dynamic_cast<FEntryDef*>(mDefinition.getEntryOfScope(name))) {
+        return entry;
+    }
+    // As the writer finds it: case doesn't matter.
+    const QStringList paths = mDefinition.getEntryMap().keys();
+    FTemplateKeys keys;
+    for (const QString& path : paths) {
+        keys.append(path, true);
+    }
+    const int row = keys.find(name);
+    return row == FTemplateKeys::notFound ? nullptr : dynamic_cast<FEntryDef*>(mDefinition.getEntryOfScope(paths[row]));
+}
+
+void FCommandFileSteps::create(const QString& proposal, double value, const QTextCursor& place) {
+    {
+        FUserStep step(QStringLiteral("create commandfile entry"));
+        const FExprBase number(new FDouble(value));
+        if (FEntryDef* entry = FEntryDef::create(FEntryNameProposal::usable(proposal), &mDefinition, 1, 1, false, true,
+                                                 QString(), number)) {
+            mBuffer.replace(place, FTemplateTags::tagOf(entry->getFullName()));
+        }
+    }
+    FObjectEditorWgt::instance()->reinitialize();
+}
+
+void FCommandFileSteps::insert(const QString& name, const QTextCursor& place) {
+    FUserStep step(QStringLiteral("insert commandfile entry"));
+    mBuffer.replace(place, FTemplateTags::tagOf(name));
+}
+
+void FCommandFileSteps::rename(FEntryDef& entry, const QString& name) {
+    if (name != entry.getName()) {
+        const FWaitCursor busy;  // large templates may have many tags
+        const FExpr<FEntryBase> held(&entry);
+        FUserStep step(QStringLiteral("rename commandfile entry"));
+        entry.setName(name);
+    }
+    FObjectEditorWgt::instance()->reinitialize();
+}
+
+void FCommandFileSteps::remove(FEntryDef* entry, const QTextCursor& tag) {
+    const auto* value = entry ? objectCast<FBasicType>(entry->getDefaultValue().getObject()) : nullptr;
+    replaceTag(QStringLiteral("remove commandfile entry"), entry, tag, value ? value->toString() : QString());
+}
+
+void FCommandFileSteps::replace(FEntryDef* entry, const QTextCursor& tag, const QString& name) {
+    replaceTag(QStringLiteral("replace commandfile entry"), entry, tag, FTemplateTags::tagOf(name));
+}
+
+// The text is written before the references are counted.
+void FCommandFileSteps::replaceTag(const QString& label, FEntryDef* entry, const QTextCursor& tag,
+                                   const QString& text) {
+    const FExpr<FEntryBase> held(entry);
+    {
+        FUserStep step(label);
+        if (!tag.isNull()) {
+            mBuffer.replace(tag, text);
+        }
+        if (held && !mDefinition.commandFileReferencesEntry(held)) {
+            mDefinition.findAndRemoveEntry(held);
+        }
+    }
+    FObjectEditorWgt::instance()->reinitialize();
+}
+
+void FCommandFileSteps::destroy(FEntryDef& entry) {
+    {
+        const FWaitCursor busy;
+        const FExpr<FEntryBase> held(&entry);
+        FUserStep step(QStringLiteral("remove commandfile entry"));
+        mDefinition.findAndRemoveEntry(held);
+    }
+    FObjectEditorWgt::instance()->reinitialize();
+}

@@ -29,8 +29,16 @@ void FAreaHints::updateColors() {
     }
 }
 
-void FAreaHints::show(SoftConArea area, bool isEmpty) {
-    mTexts[static_cast<std::size_t>(area)]->setVisible(isEmpty);
+void FAreaHints::update(const std::vector<FLayoutItem>& items) {
+    std::array<bool, filledAreas> isFilled{};
+    for (const FLayoutItem& item : items) {
+        if (item.area < filledAreas) {
+            isFilled[static_cast<std::size_t>(item.area)] = true;
+        }
+    }
+    for (std::size_t area = 0; area < filledAreas; ++area) {
+        mTexts[area]->setVisible(!isFilled[area]);
+    }
 }
 
 // In the middle of the area, away from the computation at the origin.

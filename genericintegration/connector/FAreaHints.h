@@ -1,6 +1,9 @@
 #pragma once
 
+#include "genericintegration/connector/layout/FLayoutItem.h"
 #include "genericintegration/connector/layout/FSceneGeometry.h"
+
+#include <vector>
 
 class QGraphicsScene;
 class QGraphicsTextItem;
@@ -11,7 +14,8 @@ class FAreaHints {
     explicit FAreaHints(QGraphicsScene& scene);
 
     void place(const FSceneGeometry& geometry, double titleBarHeight);
-    void show(SoftConArea area, bool isEmpty);
+    /** Shows the hints of those areas that none of the items is in. */
+    void update(const std::vector<FLayoutItem>& items);
     /** After a change of the palette. */
     void updateColors();
 

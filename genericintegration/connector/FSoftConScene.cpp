@@ -7,6 +7,7 @@
 #include "genericintegration/connector/FItemLinks.h"
 #include "genericintegration/connector/FSceneDrops.h"
 #include "genericintegration/connector/FSceneFurniture.h"
+#include "genericintegration/connector/FSceneMenu.h"
 #include "genericintegration/connector/FSetUpObjects.h"
 #include "genericintegration/connector/FSoftConComputationItem.h"
 #include "genericintegration/connector/FSoftConFileNameItem.h"
@@ -20,32 +21,23 @@
 #include "genericintegration/connector/layout/FSoftConListLayout.h"
 #include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
 #include "genericintegration/setup/FConfigurationGenInt.h"
-#include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
-#include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FDocuArea.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
-#include "host/core/FUserInterface.h"
 #include "host/core/FUserStep.h"
 #include "host/design/FEntry.h"
-#include "host/design/FEntryDef.h"
-#include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
 #include "host/design/FResultsFileName.h"
 #include "host/gui/base/FHtmlToolTip.h"
-#include "host/gui/base/FIcons.h"
 #include "host/run/FPathManager.h"
 
 #include <QAccessible>
 #include <QAction>
-#include <QActionGroup>
-#include <QElapsedTimer>
 #include <QFocusEvent>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneDragDropEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QToolButton>
@@ -66,38 +58,12 @@ FSmartPtr<FSoftConLayout> layoutFor(SoftConItemSize size) {
     return std::make_shared<FSoftConMediumGridLayout>();
 }
 
-/** All objects that items stand for, with the types of the values of entries. */
-struct Objects {
-    QList<FExpr<FObject>> handles{};
-    QVector<FItemDifference::Row> rows{};
-
-    void add(FObject* object, const FObject* valueType) {
-        handles.append(FExpr<FObject>(object));
-        rows.append({object, valueType});
+QVector<FItemDifference::Row> rowsOf(const QList<FSetUpObjects::Shown>& objects) {
+    QVector<FItemDifference::Row> rows;
+    for (const FSetUpObjects::Shown& shown : objects) {
+        rows.append({shown.object.getStored(), shown.valueType});
     }
-};
-
-Objects objectsOf(const FExpr<FExternComputation>& computation) {
-    Objects objects;
-    objects.add(computation.ptr(), nullptr);
-    const FSetUpObjects setUp(computation);
-    if (const FConfigurationGenInt* configuration = setUp.configuration()) {
-        for (const FObject* type :
-             {static_cast<const FObject*>(FGeometryExport::null()), static_cast<const FObject*>(FInputFile::null()),
-              static_cast<const FObject*>(FResultsFileName::null())}) {
-            for (const FExpr<FEntry>& entry : configuration->getEntry(type, true)) {
-                objects.add(entry.ptr(), type);
-            }
-        }
-    }
-    if (const FDefinitionGenInt* definition = setUp.definition()) {
-        for (const FExpr<FGenIntFile>& file : definition->getFiles()) {
-            if (file) {
-                objects.add(file.ptr(), nullptr);
-            }
-        }
-    }
-    return objects;
+    return rows;
 }
 
 QVector<FItemDifference::Row> rowsOf(const QList<FSoftConObjectItem*>& items) {
@@ -125,7 +91,8 @@ FSoftConScene::FSoftConScene(FSoftwareConnector& connector)
       mConnector(connector),
       mpFurniture(new FSceneFurniture(*this)),
       mHints(*this),
-      mpLinks(new FItemLinks) {
+      mpLinks(new FItemLinks),
+      mLinkFinder(*this, *mpLinks) {
     addItem(mpLinks);
     mSelectTimer.setSingleShot(true);
     mSelectTimer.setInterval(doubleClickTime);
@@ -162,8 +129,8 @@ void FSoftConScene::doUpdate() {
     }
     const QScopedValueRollback<bool> updating(mIsUpdating, true);
     const QList<FSoftConObjectItem*> shown = mItems;
-    const Objects objects = objectsOf(computation);
-    const FItemDifference difference(objects.rows, rowsOf(shown));
+    const QList<FSetUpObjects::Shown> objects = FSetUpObjects(computation).shown();
+    const FItemDifference difference(rowsOf(objects), rowsOf(shown));
     for (const int place : difference.itemsToRemove()) {
         FSoftConObjectItem* item = shown[place];
         const FExpr<FGenIntFile> file(item->getObject());
@@ -173,16 +140,16 @@ void FSoftConScene::doUpdate() {
         removeObjectItem(item);
     }
     for (const int place : difference.objectsToAdd()) {
-        const FExpr<FGenIntFile> file(objects.handles[place]);
+        const FExpr<FGenIntFile> file(objects[place].object);
         if (file) {
             emit addViewerTab(file);
         }
-        makeItem(nullptr, objects.handles[place], QString(), QString());
+        createItem(nullptr, objects[place].object, QString(), QString());
     }
     if (!difference.itemsToRemove().isEmpty() || !difference.objectsToAdd().isEmpty()) {
         calcItemRatios();
     }
-    requestLinks();
+    mLinkFinder.request();
 }
 
 void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
@@ -294,60 +261,12 @@ void FSoftConScene::layOut(const QRect& view) {
     mpFurniture->place(*mGeometry);
     mpLinks->place();
     mHints.place(*mGeometry, mpFurniture->titleBarHeight());
-    updateHints();
+    mHints.update(mLayoutItems);
     setSceneRect(scene);
     if (QAccessible::isActive()) {
         QAccessibleEvent moved(mConnector.getView(), QAccessible::ObjectReorder);
         QAccessible::updateAccessibility(&moved);
     }
-}
-
-void FSoftConScene::updateHints() {
-    std::array<bool, filledAreas> isFilled{};
-    for (const FLayoutItem& item : mLayoutItems) {
-        if (item.area < filledAreas) {
-            isFilled[static_cast<std::size_t>(item.area)] = true;
-        }
-    }
-    for (int area = 0; area < filledAreas; ++area) {
-        mHints.show(static_cast<SoftConArea>(area), !isFilled[static_cast<std::size_t>(area)]);
-    }
-}
-
-// Long templates are read one after the other, and only while the lines are in sight.
-void FSoftConScene::findLinks() {
-    constexpr int slice = 20;  // milliseconds
-    const FSetUpObjects setUp(getComputation());
-    QHash<const FObject*, const FSoftConObjectItem*> inputs;
-    QSet<const FObject*> entries;
-    for (const FSoftConObjectItem* item : qAsConst(mItems)) {
-        if (isUpperArea(item->getArea())) {
-            const FObject* object = item->getObject().getStored();
-            inputs.insert(object, item);
-            if (dynamic_cast<const FSoftConEntryItem*>(item)) {
-                entries.insert(object);
-            }
-        }
-    }
-    if (!mConnector.getView()->isVisible() || !setUp.definition()) {
-        return;
-    }
-    QElapsedTimer timer;
-    timer.start();
-    while (!entries.isEmpty() && mFeeds.readNext(*setUp.definition())) {
-        if (timer.hasExpired(slice)) {
-            requestLinks();
-            return;
-        }
-    }
-    std::vector<FItemLinks::Link> links;
-    for (const auto& [entry, file] : mFeeds.find(*setUp.configuration(), *setUp.definition(), entries)) {
-        const FSoftConObjectItem* to = inputs.value(file);
-        if (to) {
-            links.push_back({inputs.value(entry), to});
-        }
-    }
-    mpLinks->setLinks(links);
 }
 
 void FSoftConScene::emphasisChanged(const FSoftConObjectItem* item) {
@@ -455,14 +374,12 @@ void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
     const FUserStep step(QStringLiteral("software connector: delete item"));
     const FExpr<FObject> object = item->getObject();
     const FExpr<FGenIntFile> file(object);
-    FDefinitionGenInt* definition = FSetUpObjects(getComputation()).definition();
+    const FSetUpObjects setUp(getComputation());
     if (file) {
         mConnector.removeOldTab(file);
-        if (definition && dynamic_cast<const FGenIntCommandFile*>(file.ptr())) {
-            removeUnusedEntries(file, *definition);
-        }
-    } else if (definition) {
-        removeTags(object.getStored(), *definition);
+        setUp.clearTemplate(*file.ptr());
+    } else if (setUp.removeTags(object.getStored())) {
+        mConnector.refreshCommandFileEditors();
     }
     if (mSelectedObject == object) {
         mSelectedObject = FExpr<FObject>();
@@ -473,37 +390,6 @@ void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
     item->removeObject();
     item->release();
     calcItemRatios();
-}
-
-// The file refers to nothing any more before the references of the others are looked for.
-void FSoftConScene::removeUnusedEntries(const FExpr<FGenIntFile>& file, FDefinitionGenInt& definition) {
-    auto* input = dynamic_cast<FGenIntCommandFile*>(file.ptr());
-    QList<FExpr<FEntryBase>> entries;
-    for (const QString& name : input->getEntryNames()) {
-        if (FEntryBase* entry = definition.getEntryOfScope(name)) {
-            entries.append(FExpr<FEntryBase>(entry));
-        }
-    }
-    input->setContent(QString());
-    bool isAnyRemoved = false;
-    for (const FExpr<FEntryBase>& entry : qAsConst(entries)) {
-        if (!definition.commandFileReferencesEntry(entry)) {
-            isAnyRemoved = definition.findAndRemoveEntry(entry) || isAnyRemoved;
-        }
-    }
-    if (isAnyRemoved) {
-        definition.reinitConfigurations(false);
-        FUserInterface::instance()->reinitializeEditor(true);
-    }
-}
-
-void FSoftConScene::removeTags(const FObject* entry, FDefinitionGenInt& definition) {
-    const auto* removed = dynamic_cast<const FEntry*>(entry);
-    const FExpr<FEntryDef> entryDefinition = removed ? removed->getDefinition() : FExpr<FEntryDef>();
-    if (entryDefinition) {
-        definition.removeEntryFromCommandFiles(FExpr<FEntryBase>(entryDefinition));
-        mConnector.refreshCommandFileEditors();
-    }
 }
 
 // ---- the computation ----
@@ -536,17 +422,6 @@ void FSoftConScene::showDocu(QString area) {
     }
 }
 
-void FSoftConScene::addSizeActions(QMenu& menu, QActionGroup& group) {
-    for (const char* size : {"Large", "Medium", "Small"}) {
-        const QString text = QString::fromLatin1(size);
-        QAction* action = menu.addAction(FIcons::get(QStringLiteral(":/softConItemSize_") + text), text);
-        action->setCheckable(true);
-        action->setChecked(text == mConnector.getItemSizeStr());
-        group.addAction(action);
-    }
-    connect(&group, &QActionGroup::triggered, this, &FSoftConScene::resizeItem);
-}
-
 void FSoftConScene::contextMenuEvent(QGraphicsSceneContextMenuEvent* event) {
     QGraphicsItem* under = itemUnder(event->scenePos());
     if (ownerOf<FSoftConComputationItem>(under)) {
@@ -554,22 +429,8 @@ void FSoftConScene::contextMenuEvent(QGraphicsSceneContextMenuEvent* event) {
         QGraphicsScene::contextMenuEvent(event);
         return;
     }
-    auto* menu = new QMenu(&mConnector);
-    menu->setObjectName(QStringLiteral("connectorMenu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const SoftConArea area = getArea(event->scenePos());
-    if (area < filledAreas) {
-        menu->addAction(FIcons::get(QStringLiteral("list-add")),
-                        QStringLiteral("Add %1").arg(FSceneFurniture::labels()[static_cast<std::size_t>(area)]), this,
-                        [this, area] { add(area); });
-    }
-    menu->addSeparator();
-    addSizeActions(*menu, *new QActionGroup(menu));
-    if (auto* item = ownerOf<FSoftwareConnectorItem>(under)) {
-        menu->addAction(FIcons::get(QStringLiteral("edit-copy")), QStringLiteral("Copy File Name"), item,
-                        &FSoftwareConnectorItem::copyFileName);
-    }
-    menu->popup(event->screenPos());
+    FSceneMenu::open(*this, mConnector, getArea(event->scenePos()), ownerOf<FSoftwareConnectorItem>(under),
+                     event->screenPos());
 }
 
 QGraphicsItem* FSoftConScene::itemUnder(const QPointF& point) const {
@@ -622,8 +483,8 @@ void FSoftConScene::addFile() {
     createItem(nullptr, FExpr<FObject>(FInputFile::null()), QString(), QString());
 }
 
-FSoftConObjectItem* FSoftConScene::makeItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
-                                            const QString& relativePath) {
+FSoftConObjectItem* FSoftConScene::createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
+                                              const QString& relativePath) {
     FSoftConObjectItem* item = FItemFactory::make(*this, parent, object, path, relativePath);
     if (item) {
         // Known before its object is in the model, so that an update of the scene makes no second item.
@@ -637,11 +498,6 @@ FSoftConObjectItem* FSoftConScene::makeItem(QGraphicsItem* parent, const FExpr<F
     return item;
 }
 
-FSoftConObjectItem* FSoftConScene::createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
-                                              const QString& relativePath) {
-    return makeItem(parent, object, path, relativePath);
-}
-
 void FSoftConScene::createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base,
                                 bool keepFolders) {
     createItems(FItemRequests::ofPaths(paths, type, base, keepFolders));
@@ -652,7 +508,7 @@ void FSoftConScene::createItems(const FItemRequests::List& requests) {
         return dynamic_cast<const FGenIntFile*>(type.getStored()) != nullptr;
     };
     FItemRequests::createItems(requests, isTemplate, [this](const FSoftConItemStructure& request) {
-        makeItem(nullptr, request.mType, request.mPath, request.mRelativePath);
+        createItem(nullptr, request.mType, request.mPath, request.mRelativePath);
     });
 }
 

@@ -2,11 +2,11 @@
 
 #include "genericintegration/connector/FAreaHints.h"
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/FLinkFinder.h"
 #include "genericintegration/connector/FSceneKeys.h"
 #include "genericintegration/connector/layout/FItemRequests.h"
 #include "genericintegration/connector/layout/FLayoutItem.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
-#include "genericintegration/setup/FTemplateFeeds.h"
 #include "genericintegration/setup/SoftConItemSize.h"
 #include "host/core/FQueuedCall.h"
 
@@ -16,14 +16,11 @@
 #include <optional>
 #include <vector>
 
-class FDefinitionGenInt;
 class FItemLinks;
 class FSceneFurniture;
 class FSoftwareConnector;
 class FSoftwareConnectorItem;
 class QAction;
-class QActionGroup;
-class QMenu;
 
 /**
  * The scene of a connector: the computation in the centre, its inputs above, its outputs below. It follows the objects
@@ -60,8 +57,10 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     QList<QObject*> itemParts() const;
     const FItemLinks& links() const { return *mpLinks; }
     /** Has the lines between items follow what the templates use. */
-    void requestLinks() { mFindLinks.request(); }
+    void requestLinks() { mLinkFinder.request(); }
 
+    /** Does what the "+" of an area does. */
+    void add(SoftConArea area);
     /** Makes items for files, within the limits for a batch. Call it in a step. */
     void createItems(const QStringList& paths, const FExpr<FObject>& type, const QString& base, bool keepFolders);
     void createItems(const FItemRequests::List& requests);
@@ -120,26 +119,18 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
 
  private:
     void connectFurniture();
-    void add(SoftConArea area);
-    FSoftConObjectItem* makeItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
-                                 const QString& relativePath);
     void removeObjectItem(FSoftConObjectItem* item);
-    void removeUnusedEntries(const FExpr<FGenIntFile>& file, FDefinitionGenInt& definition);
-    void removeTags(const FObject* entry, FDefinitionGenInt& definition);
     /** The topmost item at a point that a user can act on: no panel and no hint. */
     QGraphicsItem* itemUnder(const QPointF& point) const;
     void layOut(const QRect& view);
-    void updateHints();
-    void findLinks();
     void focusChanged(QGraphicsItem* item, bool isByKey);
-    void addSizeActions(QMenu& menu, QActionGroup& group);
 
     FSoftwareConnector& mConnector;
     FSceneFurniture* mpFurniture;
     QList<FSoftConObjectItem*> mItems;
     FAreaHints mHints;
     FItemLinks* mpLinks;
-    FTemplateFeeds mFeeds;
+    FLinkFinder mLinkFinder;
     FSceneKeys mKeys{*this};
     FSmartPtr<FSoftConLayout> mLayout;
     std::optional<FSceneGeometry> mGeometry;
@@ -150,5 +141,4 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     bool mRedrawRequired = false;
     bool mIsUpdating = false;
     FQueuedCall mRedraw{[this] { redraw(); }};
-    FQueuedCall mFindLinks{[this] { findLinks(); }};
 };

@@ -1,32 +1,13 @@
 #pragma once
 
 #include "host/gui/window/FMainWindow.h"
-#include "host/gui/window/FWindowUserInterface.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/waitUntil.h"
+#include "tests/support/window/FAnsweringInterface.h"
 
-#include <QQueue>
 #include <QtTest/QTest>
 
 #include <memory>
-
-/** The window, with prepared answers in place of its questions. A question without an answer fails the test. */
-class FAnsweringInterface : public FWindowUserInterface {
- public:
-    using FWindowUserInterface::FWindowUserInterface;
-
-    int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
-    int warn(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
-    QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override;
-    QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter) override;
-    QString askFolder(const QString& caption, const QString& startPath) override;
-
-    QQueue<QString> answers;  //!< texts of buttons, or paths; empty for a dialog that is closed
-    QStringList questions;
-
- private:
-    QString next(const QString& question);
-};
 
 /**
  * Tests of the window of the program, offscreen: on an empty project, with settings of their own. Widgets are found by

@@ -1,0 +1,52 @@
+#include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
+
+#include "genericintegration/connector/FSoftwareConnector.h"
+#include "tests/genericintegration/connector/FConnectorTest.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPushButton>
+
+namespace {
+
+class FNewSetUpDialogTest : public FConnectorTest {};
+
+}  // namespace
+
+TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
+    folder.write("case.inp", "height = 40\n");
+    folder.write("case.dat", "stress = 2.5\n");
+    folder.write("mesh.bin", QByteArray("\0\1\2", 3));
+    trigger("newSetUp");
+    type(find<QLineEdit>("newProgram"), "no-such-program-here");
+    EXPECT_TRUE(find<QLabel>("newProgramFound")->text().startsWith(QChar(0x26a0)));
+    find<QLineEdit>("newProgram")->clear();
+    EXPECT_FALSE(find<QPushButton>("newCreate")->isEnabled());
+    type(find<QLineEdit>("newProgram"), "sh -c 'cp case.inp case.dat'");
+    EXPECT_TRUE(find<QLabel>("newProgramFound")->text().contains("/sh"));
+    EXPECT_EQ(find<QLineEdit>("newName")->text(), "sh");
+    const auto drop = [this](const QString& list, const QStringList& names) {
+        const std::unique_ptr<QMimeData> data = filesOf(names);
+        QDragEnterEvent enter({2, 2}, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(find<QListWidget>(list)->viewport(), &enter);
+        QDropEvent event({2, 2}, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(find<QListWidget>(list)->viewport(), &event);
+    };
+    drop("newInputsList", {"case.inp", "mesh.bin"});
+    drop("newOutputsList", {"case.dat"});
+    EXPECT_EQ(find<QListWidget>("newInputsList")->count(), 2);
+    find<QPushButton>("newCreate")->click();
+    settle();
+    auto* made = object<FSoftwareConnector>("sh_connector");
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(made->tabText(made->currentIndex()), "case.inp") << "the first template is open";
+    EXPECT_EQ(made->getScene()->objectItems().size(), 4);
+    EXPECT_EQ(textOf("getAttribute(sh, \"setArguments\")"), textOf("[\"-c\", \"cp case.inp case.dat\"]"));
+    EXPECT_EQ(lastStep(), "New set-up");
+    trigger("undo");
+    settle();
+    EXPECT_TRUE(savedModel().isEmpty()) << savedModel().toStdString();
+}

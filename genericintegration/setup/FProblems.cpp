@@ -94,17 +94,12 @@ bool FProblems::findMissing() {
 
 void FProblems::findProgram() {
     const FProgramSettings& program = mComputation->getProgram();
-    QString fault = program.fault();
-    if (fault.isEmpty()) {
-        fault = FProgramSearch::search(program.executable, QDir::currentPath(), pathOf(program)).message();
+    FProgramFault fault = program.fault();
+    if (fault.text.isEmpty()) {
+        fault = FProgramSearch::search(program.executable, QDir::currentPath(), pathOf(program)).fault();
     }
-    if (!fault.isEmpty()) {
-        // Sentences, the last of which says what to do.
-        const int end = fault.lastIndexOf(QStringLiteral(". "));
-        mProblems
-            .error(mComputation->getName(), end < 0 ? fault : fault.left(end),
-                   end < 0 ? QString() : fault.mid(end + 2).chopped(fault.endsWith(u'.') ? 1 : 0))
-            .isReportedByRun = true;
+    if (!fault.text.isEmpty()) {
+        mProblems.error(mComputation->getName(), fault.text, fault.remedy).isReportedByRun = true;
     }
 }
 

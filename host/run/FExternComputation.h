@@ -56,7 +56,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     /** False while a run is in progress, or another one that it waits for. */
     bool canRun() const { return !mAttempt && !mChain; }
     /** Why the program can't be started, for the user; empty if nothing prevents it. */
-    virtual QString checkSetup() const { return mProgram.fault(); }
+    virtual QString checkSetup() const { return mProgram.fault().toSentences(); }
     /**
      * Runs the program. Refused, with a message, while a run is in progress.
      * @param wait  true: returns, after a local event loop, whether the run succeeded. False: returns at once whether
@@ -98,11 +98,11 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
      * so also from the start of its own run on. FChanges reports the computation as changed.
      */
     const std::shared_ptr<const FRunRecord>& getPlannedRun() const { return mPlanned; }
-    /** The last run in a design's folder, as its stored record tells; null if there is none. */
+    /** The last run in a design's folder, from its stored record; null if there is none. */
     std::shared_ptr<const FRunRecord> getStoredRun(const FExpr<FDesign>& design) const;
     /**
      * What the input of a run is made of, by name: settings of the program, values of entries, contents of templates.
-     * A name with a colon at its end stands for a content, whose text is only good for comparing.
+     * A name with a colon at its end is that of a long content, whose text is a digest to compare.
      */
     virtual QMap<QString, QString> describeSetUp() const;
     /** The files of a run have moved; both with a slash at the end. */
@@ -194,7 +194,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     static std::vector<std::unique_ptr<FStateField>> fields();
     bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
     QString rereadRefusal() const;
-    /** Whether a run can be started; tells if not. */
+    /** Whether a run can be started; if not, a message says why. */
     bool mayRun() const;
     std::shared_ptr<FRunAttempt> makeAttempt();
     /** Whether the last run has succeeded with the present set-up, and its files are there. */

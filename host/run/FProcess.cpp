@@ -106,7 +106,7 @@ bool FProcess::findProgram() {
     if (search.isFound()) {
         mOutcome.program = search.file;
     } else {
-        failToStart(search.message(!hasSaidFolders(path)));
+        failToStart(search.fault(!hasSaidFolders(path)).toSentences());
     }
     return search.isFound();
 }

@@ -23,7 +23,7 @@ QString argumentHint(const QString& program) {
         return {};
     }
     const QStringList arguments = words.mid(1);
-    return QStringLiteral("Arguments belong into setArguments: setExecutable(\"%1\"), setArguments([\"%2\"]).")
+    return QStringLiteral("Arguments belong into setArguments: setExecutable(\"%1\"), setArguments([\"%2\"])")
         .arg(words.first(), arguments.join(QStringLiteral("\", \"")));
 }
 
@@ -50,29 +50,30 @@ FProgramSearch FProgramSearch::search(const QString& program, const QString& wor
     return result;
 }
 
-QString FProgramSearch::message(bool withFolders) const {
+FProgramFault FProgramSearch::fault(bool withFolders) const {
     if (isFound()) {
-        return QString();
+        return {};
     }
     if (program.isEmpty()) {
-        return QStringLiteral("No program is given. Give its name or its path.");
+        return {QStringLiteral("No program is given"), QStringLiteral("Give its name or its path")};
     }
     if (QFileInfo(notExecutable).isDir()) {
-        return QStringLiteral("'%1' is a folder, not a program. Give the path of a program in it.").arg(notExecutable);
+        return {QStringLiteral("'%1' is a folder, not a program").arg(notExecutable),
+                QStringLiteral("Give the path of a program in it")};
     }
     if (!notExecutable.isEmpty()) {
-        return QStringLiteral(
-                   "The file '%1' is not executable. Make it executable (chmod +x), or choose another program.")
-            .arg(notExecutable);
+        return {QStringLiteral("The file '%1' is not executable").arg(notExecutable),
+                QStringLiteral("Make it executable (chmod +x), or choose another program")};
     }
-    const QString remedy = argumentHint(program);
+    const QString hint = argumentHint(program);
     if (!place.isEmpty()) {
-        return QStringLiteral("The program '%1' was not found: there is no file '%2'. %3")
-            .arg(program, place, remedy.isEmpty() ? QStringLiteral("Check the path.") : remedy);
+        return {QStringLiteral("The program '%1' was not found: there is no file '%2'").arg(program, place),
+                hint.isEmpty() ? QStringLiteral("Check the path") : hint};
     }
-    if (!remedy.isEmpty()) {
-        return QStringLiteral("The program '%1' was not found. %2").arg(program, remedy);
+    if (!hint.isEmpty()) {
+        return {QStringLiteral("The program '%1' was not found").arg(program), hint};
     }
-    return QStringLiteral("The program '%1' was not found in the folders of PATH%2. Install it, or give its full path.")
-        .arg(program, withFolders ? QStringLiteral(": ") + folders.join(QStringLiteral(", ")) : QString());
+    return {QStringLiteral("The program '%1' was not found in the folders of PATH%2")
+                .arg(program, withFolders ? QStringLiteral(": ") + folders.join(QStringLiteral(", ")) : QString()),
+            QStringLiteral("Install it, or give its full path")};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/run/FProgramFault.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,10 +16,10 @@ struct MERIX_EXPORT FProgramSearch {
 
     bool isFound() const { return !file.isEmpty(); }
     /**
-     * For the user: where the program was searched, what was found instead, what to do. Empty if it was found.
+     * Where the program was searched, what was found instead, what to do. Empty if it was found.
      * @param withFolders  false leaves out the list of the folders, which an earlier message gave
      */
-    QString message(bool withFolders = true) const;
+    FProgramFault fault(bool withFolders = true) const;
 
     QString program;        //!< the name that was searched
     QString place;          //!< absolute path of a name with a slash; empty for a bare name

@@ -15,15 +15,14 @@ const QString& FProgramSettings::errorFile() {
     return name;
 }
 
-QString FProgramSettings::fault() const {
+FProgramFault FProgramSettings::fault() const {
     if (executable.isEmpty()) {
-        return QStringLiteral("No program is given. Set it with setExecutable.");
+        return {QStringLiteral("No program is given"), QStringLiteral("Set it with setExecutable")};
     }
     if (FSafePath::leadsOut(standardInput)) {
-        return QStringLiteral(
-                   "The file of the standard input, '%1', is outside the folder of the run. Choose a file "
-                   "inside it.")
-            .arg(standardInput);
+        return {
+            QStringLiteral("The file of the standard input, '%1', is outside the folder of the run").arg(standardInput),
+            QStringLiteral("Choose a file inside it")};
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "host/core/FExport.h"
 #include "host/run/FProcessSetup.h"
+#include "host/run/FProgramFault.h"
 
 /** How a computation starts its program. */
 struct MERIX_EXPORT FProgramSettings {
@@ -17,8 +18,8 @@ struct MERIX_EXPORT FProgramSettings {
     static const QString& outputFile();
     static const QString& errorFile();
 
-    /** Why the program can't be started, for the user; empty if nothing prevents it. */
-    QString fault() const;
+    /** Why the program can't be started; empty if nothing prevents it. */
+    FProgramFault fault() const;
     /** The same for the start in a folder, whose path has no slash at its end. */
     FProcessSetup setupIn(const QString& folder) const;
 };

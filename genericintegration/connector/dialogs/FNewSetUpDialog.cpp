@@ -98,7 +98,7 @@ void FNewSetUpDialog::lookUp() {
     const auto search = FProgramSearch::search(now.program, QDir::currentPath(), qEnvironmentVariable("PATH"));
     mpFound->setState(search.isFound() ? FStateColor::State::Good : FStateColor::State::Warning);
     mpFound->setText(search.isFound() ? QStringLiteral("✓ %1").arg(search.file)
-                                      : QStringLiteral("⚠ %1").arg(search.message(false)));
+                                      : QStringLiteral("⚠ %1").arg(search.fault(false).toSentences()));
 }
 
 FNewSetUp FNewSetUpDialog::entered() const {

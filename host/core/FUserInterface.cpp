@@ -55,6 +55,11 @@ QString FUserInterface::askOpenFile(const QString& caption, const QString& start
     return {};
 }
 
+QStringList FUserInterface::askOpenFiles(const QString& caption, const QString& startPath) {
+    logNoDialog(caption, startPath, "Nothing is opened; give its name");
+    return {};
+}
+
 QString FUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
     Q_UNUSED(filter)
     logNoDialog(caption, startPath, "Nothing is saved; give its name");

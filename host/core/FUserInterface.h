@@ -38,6 +38,8 @@ class MERIX_EXPORT FUserInterface {
     virtual void tell(const QString& title, const QString& text);
     /** Asks for a file to open, starting at a path; the answer is empty if there is none. */
     virtual QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter);
+    /** The same for any number of files. */
+    virtual QStringList askOpenFiles(const QString& caption, const QString& startPath);
     /** The same for a file to save. The dialog itself asks before a file is overwritten. */
     virtual QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter);
     /** Asks for a folder, starting at a path; the answer is empty if there is none. */

@@ -2,15 +2,15 @@
 
 #include "genericintegration/connector/dialogs/FDropList.h"
 #include "genericintegration/connector/layout/FItemRequests.h"
+#include "host/core/FUserInterface.h"
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FToolButton.h"
 #include "host/run/FPathManager.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QToolButton>
 
 namespace {
 
@@ -37,13 +37,8 @@ FSampleList::FSampleList(const QString& id, const QString& label, const QString&
     new FEmptyHint(mpList, hint);
     auto* buttons = new QVBoxLayout;
     const auto add = [&](const QString& name, const char* icon, const QString& tip, void (FSampleList::*act)()) {
-        auto* button = new QToolButton(this);
-        button->setObjectName(id + name);
-        button->setAutoRaise(true);
-        button->setIcon(FIcons::get(QString::fromLatin1(icon)));
-        button->setToolTip(tip);
-        button->setAccessibleName(tip);
-        connect(button, &QToolButton::clicked, this, act);
+        auto* button = new FToolButton(id + name, QString::fromLatin1(icon), tip, this);
+        connect(button, &FToolButton::clicked, this, act);
         buttons->addWidget(button);
     };
     add(QStringLiteral("Add"), "list-add", QStringLiteral("Select %1…").arg(label.toLower()), &FSampleList::askFiles);
@@ -87,9 +82,8 @@ bool FSampleList::isChecked(int row) const {
 }
 
 void FSampleList::askFiles() {
-    addFiles(QFileDialog::getOpenFileNames(this, QStringLiteral("Select %1").arg(mLabel.toLower()),
-                                           FPathManager::getProjectDir(), QString(), nullptr,
-                                           QFileDialog::DontUseNativeDialog));
+    addFiles(FUserInterface::instance()->askOpenFiles(QStringLiteral("Select %1").arg(mLabel.toLower()),
+                                                      FPathManager::getProjectDir()));
 }
 
 void FSampleList::removeSelected() {

@@ -10,5 +10,4 @@ FToolButton::FToolButton(const QString& id, const QString& icon, const QString& 
     setToolTip(text);
     setAccessibleName(text);
     setAutoRaise(true);
-    setFocusPolicy(Qt::StrongFocus);
 }

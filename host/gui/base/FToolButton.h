@@ -4,7 +4,7 @@
 
 #include <QToolButton>
 
-/** A flat button with an icon, whose text is its tool tip and its name. */
+/** A flat button with an icon, whose text is its tool tip and its name. A click leaves the focus where it is. */
 class MERIX_EXPORT FToolButton : public QToolButton {
     Q_OBJECT
 

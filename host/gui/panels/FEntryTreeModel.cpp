@@ -3,7 +3,7 @@
 #include "host/core/FChanges.h"
 #include "host/core/FManaged.h"
 #include "host/design/FEntryDef.h"
-#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSeverityLook.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/fields/FValueField.h"
 
@@ -239,7 +239,7 @@ QVariant FEntryTreeModel::data(const QModelIndex& index, int role) const {
                    : isSecondary(node, column) ? QVariant(FStateColor::of(FStateColor::State::Secondary))
                                                : QVariant();
         case Qt::DecorationRole:
-            return isRefused ? FIcons::get(QStringLiteral("dialog-error")) : QVariant();
+            return isRefused ? FSeverityLook::errorIcon() : QVariant();
         case Qt::ToolTipRole:
             return toolTipOf(index);
         case Qt::AccessibleDescriptionRole:

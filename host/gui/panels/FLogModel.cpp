@@ -1,35 +1,11 @@
 #include "host/gui/panels/FLogModel.h"
 
 #include "host/core/FChanges.h"
-#include "host/gui/base/FIcons.h"
-#include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FSeverityLook.h"
 
 namespace {
 
 constexpr int delay = 40;  // milliseconds
-
-struct Look {
-    const char* word;
-    const char* icon;
-};
-
-Look lookOf(FLogMsg::Kind kind) {
-    switch (kind) {
-        case FLogMsg::Kind::Error:
-            return {"error", "dialog-error"};
-        case FLogMsg::Kind::Warning:
-            return {"warning", "dialog-warning"};
-        case FLogMsg::Kind::Info:
-            break;
-    }
-    return {"note", "dialog-information"};
-}
-
-QVariant colorOf(FLogMsg::Kind kind) {
-    return kind == FLogMsg::Kind::Error     ? FStateColor::of(FStateColor::State::Bad)
-           : kind == FLogMsg::Kind::Warning ? FStateColor::of(FStateColor::State::Warning)
-                                            : QVariant();
-}
 
 QString textOf(const FLogMsg& message) {
     return message.consequence.isEmpty() ? message.message
@@ -90,18 +66,17 @@ QVariant FLogModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const FLogMsg& message = this->message(index.row());
-    const Look look = lookOf(message.kind);
     switch (role) {
         case Qt::DisplayRole:
-            return index.column() == kindColumn     ? QString::fromLatin1(look.word)
+            return index.column() == kindColumn     ? FSeverityLook::of(message.kind).word
                    : index.column() == sourceColumn ? (message.place.isEmpty() ? message.source : message.place)
                                                     : textOf(message).simplified();
         case Qt::ToolTipRole:
             return message.toLine();
         case Qt::DecorationRole:
-            return index.column() == kindColumn ? FIcons::get(QString::fromLatin1(look.icon)) : QVariant();
+            return index.column() == kindColumn ? FSeverityLook::of(message.kind).icon : QVariant();
         case Qt::ForegroundRole:
-            return index.column() == kindColumn ? colorOf(message.kind) : QVariant();
+            return index.column() == kindColumn ? FSeverityLook::of(message.kind).color : QVariant();
         default:
             return {};
     }

@@ -1,25 +1,6 @@
 #include "host/gui/panels/FProblemModel.h"
 
-#include "host/gui/base/FIcons.h"
-#include "host/gui/base/FStateColor.h"
-
-namespace {
-
-using Severity = FSetUpProblem::Severity;
-
-const char* iconOf(Severity severity) {
-    return severity == Severity::Error     ? "dialog-error"
-           : severity == Severity::Warning ? "dialog-warning"
-                                           : "dialog-information";
-}
-
-QVariant colorOf(Severity severity) {
-    return severity == Severity::Error     ? FStateColor::of(FStateColor::State::Bad)
-           : severity == Severity::Warning ? FStateColor::of(FStateColor::State::Warning)
-                                           : QVariant();
-}
-
-}  // namespace
+#include "host/gui/base/FSeverityLook.h"
 
 FProblemModel::FProblemModel() : mpWatch(FProblemWatch::get()) {
     connect(mpWatch.get(), &FProblemWatch::checked, this, &FProblemModel::take);
@@ -48,17 +29,16 @@ QVariant FProblemModel::data(const QModelIndex& index, int role) const {
     const FSetUpProblem& problem = mProblems.at(index.row());
     switch (role) {
         case Qt::DisplayRole:
-            return index.column() == severityColumn ? problem.severityName()
+            return index.column() == severityColumn ? FSeverityLook::of(problem.severity).word
                    : index.column() == objectColumn ? (problem.place.isEmpty() ? problem.object : problem.place)
                    : index.column() == textColumn   ? problem.text
                                                     : problem.remedy;
         case Qt::ToolTipRole:
             return problem.toMessage().toLine();
         case Qt::DecorationRole:
-            return index.column() == severityColumn ? FIcons::get(QString::fromLatin1(iconOf(problem.severity)))
-                                                    : QVariant();
+            return index.column() == severityColumn ? FSeverityLook::of(problem.severity).icon : QVariant();
         case Qt::ForegroundRole:
-            return index.column() == severityColumn ? colorOf(problem.severity) : QVariant();
+            return index.column() == severityColumn ? FSeverityLook::of(problem.severity).color : QVariant();
         default:
             return {};
     }

@@ -6,8 +6,8 @@
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FGuiSettings.h"
-#include "host/gui/base/FIcons.h"
 #include "host/gui/base/FListView.h"
+#include "host/gui/base/FToolButton.h"
 #include "host/gui/base/FWhyNot.h"
 #include "host/gui/panels/FRunModel.h"
 #include "host/gui/panels/FRunTail.h"
@@ -172,12 +172,7 @@ QWidget* FRunPanel::makeDetails() {
 }
 
 QToolButton* FRunPanel::addButton(QLayout& row, const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new QToolButton(this);
-    button->setObjectName(id);
-    button->setIcon(FIcons::get(icon));
-    button->setAutoRaise(true);
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
+    auto* button = new FToolButton(id, icon, tip, this);
     row.addWidget(button);
     return button;
 }

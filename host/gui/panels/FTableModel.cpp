@@ -2,7 +2,7 @@
 
 #include "host/core/FNumberText.h"
 #include "host/gui/base/FFixedFont.h"
-#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSeverityLook.h"
 #include "host/gui/base/FStateColor.h"
 #include "host/run/FCsv.h"
 #include "host/run/FUtf8.h"
@@ -174,9 +174,9 @@ QVariant FTableModel::lookOf(int row, const Column& column, int role) const {
                        ? QVariant()
                        : FStateColor::backgroundOf(isMissing ? FStateColor::State::Bad : FStateColor::State::Warning);
         case Qt::DecorationRole:
-            return remark == Remarkable::No || column.kind != Kind::Remark
-                       ? QVariant()
-                       : FIcons::get(isMissing ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"));
+            return remark == Remarkable::No || column.kind != Kind::Remark ? QVariant()
+                   : isMissing                                             ? FSeverityLook::errorIcon()
+                                                                           : FSeverityLook::warningIcon();
         default:
             return {};
     }

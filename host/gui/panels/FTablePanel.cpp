@@ -10,6 +10,8 @@
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FListView.h"
+#include "host/gui/base/FSeverityLook.h"
+#include "host/gui/base/FToolButton.h"
 #include "host/gui/panels/FRunModel.h"
 #include "host/gui/panels/FTableModel.h"
 #include "host/run/FExternComputation.h"
@@ -169,12 +171,7 @@ void FTablePanel::focusInEvent(QFocusEvent* event) {
 }
 
 QToolButton* FTablePanel::addButton(QBoxLayout& row, const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new QToolButton(this);
-    button->setObjectName(id);
-    button->setAutoRaise(true);
-    button->setIcon(FIcons::get(icon));
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
+    auto* button = new FToolButton(id, icon, tip, this);
     row.addWidget(button);
     return button;
 }
@@ -267,11 +264,11 @@ void FTablePanel::showState() {
     mpState->setText(text);
     const bool isGood = run->isSuccess() && state == run->stateName() && summary.first.isEmpty();
     const int size = fontMetrics().height();
-    mpSign->setPixmap(FIcons::get(isGood             ? QStringLiteral("dialog-ok-apply")
-                                  : !run->isOver()   ? QStringLiteral("media-playback-start")
-                                  : run->isSuccess() ? QStringLiteral("dialog-warning")
-                                                     : QStringLiteral("dialog-error"))
-                          .pixmap(size, size));
+    const QIcon sign = isGood             ? FIcons::get(QStringLiteral("dialog-ok-apply"))
+                       : !run->isOver()   ? FIcons::get(QStringLiteral("media-playback-start"))
+                       : run->isSuccess() ? FSeverityLook::warningIcon()
+                                          : FSeverityLook::errorIcon();
+    mpSign->setPixmap(sign.pixmap(size, size));
     mpSign->show();
 }
 

@@ -1,7 +1,7 @@
 #include "host/gui/text/FFindBar.h"
 
-#include "host/gui/base/FIcons.h"
 #include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FToolButton.h"
 #include "host/gui/text/FOutputViewer.h"
 
 #include <QCheckBox>
@@ -69,12 +69,7 @@ FFindBar::FFindBar(FOutputViewer& viewer, QWidget* parent)
 }
 
 QToolButton* FFindBar::addButton(const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new QToolButton(this);
-    button->setObjectName(id);
-    button->setAutoRaise(true);
-    button->setIcon(FIcons::get(icon));
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
+    auto* button = new FToolButton(id, icon, tip, this);
     layout()->addWidget(button);
     return button;
 }

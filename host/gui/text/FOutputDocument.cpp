@@ -1,7 +1,8 @@
 #include "host/gui/text/FOutputDocument.h"
 
-#include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSeverityLook.h"
 #include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FToolButton.h"
 #include "host/gui/text/FFindBar.h"
 #include "host/gui/text/FOutputViewer.h"
 
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QShortcut>
-#include <QToolButton>
 
 FOutputDocument::FOutputDocument(const QString& path)
     : mpViewer(new FOutputViewer(this)),
@@ -26,7 +26,7 @@ FOutputDocument::FOutputDocument(const QString& path)
     auto* strip = new QHBoxLayout(mpStrip);
     auto* sign = new QLabel(mpStrip);
     const int size = fontMetrics().height();
-    sign->setPixmap(FIcons::get(QStringLiteral("dialog-warning")).pixmap(size, size));
+    sign->setPixmap(FSeverityLook::warningIcon().pixmap(size, size));
     strip->addWidget(sign);
     mpStrip->setFrameShape(QFrame::StyledPanel);
     mpReason->setObjectName(QStringLiteral("placeReason"));
@@ -74,13 +74,9 @@ QLayout* FOutputDocument::makeStatusRow() {
     mpTail->setToolTip(QStringLiteral("Keep the end in view while the file grows"));
     mpTail->setAccessibleName(mpTail->toolTip());
     row->addWidget(mpTail);
-    auto* find = new QToolButton(this);
-    find->setObjectName(QStringLiteral("findInFile"));
-    find->setAutoRaise(true);
-    find->setIcon(FIcons::get(QStringLiteral("edit-find")));
-    find->setToolTip(QStringLiteral("Find in this file (Ctrl+F)"));
-    find->setAccessibleName(find->toolTip());
-    connect(find, &QToolButton::clicked, mpFind, &FFindBar::start);
+    auto* find = new FToolButton(QStringLiteral("findInFile"), QStringLiteral("edit-find"),
+                                 QStringLiteral("Find in this file (Ctrl+F)"), this);
+    connect(find, &FToolButton::clicked, mpFind, &FFindBar::start);
     row->addWidget(find);
     return row;
 }

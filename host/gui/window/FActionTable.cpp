@@ -146,9 +146,7 @@ void showResults(FMainWindow& window) {
 
 void rename(FMainWindow& window) {
     window.raisePanel(QStringLiteral("objects"));
-    if (auto* tree = dynamic_cast<FObjectTreeWgt*>(window.panel(QStringLiteral("objects")))) {
-        tree->renameSelected();
-    }
+    window.panel<FObjectTreeWgt>().renameSelected();
 }
 
 void helpOnSelection(FMainWindow& window) {
@@ -202,105 +200,277 @@ void fillAppearances(QMenu& menu, FMainWindow& window) {
 
 std::vector<FActionRow> fileRows() {
     return {
-        {"newProject", "&File", 0, "&New project", "document-new", "Ctrl+N", "Start an empty project", true, nullptr,
-         [](FMainWindow& window) { window.projectFiles().create(); }},
-        {"newSetUp", "&File", 0, "New s&et-up…", "connector", "Ctrl+Shift+N",
-         "Couple a program: its sample files become templates", false, &needsAssistant,
-         [](FMainWindow& window) { FSetUpAssistant::open(&window); }},
-        {"openProject", "&File", 0, "&Open…", "document-open", "Ctrl+O", "Open a project", true, nullptr,
-         [](FMainWindow& window) { window.projectFiles().open(); }},
-        {"openRecent", "&File", 0, "Open &recent", "document-open-recent", "", "Open a project that was open before",
-         false, nullptr, nullptr, &fillRecent},
-        {"openExample", "&File", 0, "Open an e&xample", "folder-templates", "",
-         "Copy an example to a folder of yours, and open the copy", false, nullptr, nullptr, &fillExamples},
-        {"saveProject", "&File", 0, "&Save", "document-save", "Ctrl+S", "Save the project", true, &needsProject,
-         [](FMainWindow& window) { window.projectFiles().save(); }},
-        {"saveProjectAs", "&File", 0, "Save &as…", "document-save-as", "Ctrl+Shift+S",
-         "Save the project under another name", false, &needsProject,
-         [](FMainWindow& window) { window.projectFiles().saveAs(); }},
-        {"executeScript", "&File", 1, "&Execute a script…", "system-run", "Ctrl+E",
-         "Execute a script file; each of its statements is a step", false, nullptr,
-         [](FMainWindow& window) { window.projectFiles().executeScript(); }},
-        {"importSetUps", "&File", 1, "&Import set-up…", "document-import", "Ctrl+I",
-         "Add the set-ups of a file to the project, as a colleague has exported them", false, nullptr,
-         [](FMainWindow& window) { window.projectFiles().importSetUps(); }},
-        {"quit", "&File", 2, "&Quit", "application-exit", "Ctrl+Q", "Close the program", false, nullptr,
-         [](FMainWindow& window) { window.close(); }},
+        {.id = "newProject",
+         .text = "&New project",
+         .icon = "document-new",
+         .shortcut = "Ctrl+N",
+         .tip = "Start an empty project",
+         .isInToolbar = true,
+         .run = [](FMainWindow& window) { window.projectFiles().create(); }},
+        {.id = "newSetUp",
+         .text = "New s&et-up…",
+         .icon = "connector",
+         .shortcut = "Ctrl+Shift+N",
+         .tip = "Couple a program: its sample files become templates",
+         .whyNot = &needsAssistant,
+         .run = [](FMainWindow& window) { FSetUpAssistant::open(&window); }},
+        {.id = "openProject",
+         .text = "&Open…",
+         .icon = "document-open",
+         .shortcut = "Ctrl+O",
+         .tip = "Open a project",
+         .isInToolbar = true,
+         .run = [](FMainWindow& window) { window.projectFiles().open(); }},
+        {.id = "openRecent",
+         .text = "Open &recent",
+         .icon = "document-open-recent",
+         .tip = "Open a project that was open before",
+         .fill = &fillRecent},
+        {.id = "openExample",
+         .text = "Open an e&xample",
+         .icon = "folder-templates",
+         .tip = "Copy an example to a folder of yours, and open the copy",
+         .fill = &fillExamples},
+        {.id = "saveProject",
+         .text = "&Save",
+         .icon = "document-save",
+         .shortcut = "Ctrl+S",
+         .tip = "Save the project",
+         .isInToolbar = true,
+         .whyNot = &needsProject,
+         .run = [](FMainWindow& window) { window.projectFiles().save(); }},
+        {.id = "saveProjectAs",
+         .text = "Save &as…",
+         .icon = "document-save-as",
+         .shortcut = "Ctrl+Shift+S",
+         .tip = "Save the project under another name",
+         .whyNot = &needsProject,
+         .run = [](FMainWindow& window) { window.projectFiles().saveAs(); }},
+        {.id = "executeScript",
+         .group = 1,
+         .text = "&Execute a script…",
+         .icon = "system-run",
+         .shortcut = "Ctrl+E",
+         .tip = "Execute a script file; each of its statements is a step",
+         .run = [](FMainWindow& window) { window.projectFiles().executeScript(); }},
+        {.id = "importSetUps",
+         .group = 1,
+         .text = "&Import set-up…",
+         .icon = "document-import",
+         .shortcut = "Ctrl+I",
+         .tip = "Add the set-ups of a file to the project, as a colleague has exported them",
+         .run = [](FMainWindow& window) { window.projectFiles().importSetUps(); }},
+        {.id = "quit",
+         .group = 2,
+         .text = "&Quit",
+         .icon = "application-exit",
+         .shortcut = "Ctrl+Q",
+         .tip = "Close the program",
+         .run = [](FMainWindow& window) { window.close(); }},
     };
 }
 
-std::vector<FActionRow> otherRows() {
+std::vector<FActionRow> editRows() {
     return {
-        {"undo", "&Edit", 0, "&Undo", "edit-undo", "Ctrl+Z", "Undo the last step", true, &needsDoneStep, &undo, nullptr,
-         &undoText},
-        {"redo", "&Edit", 0, "&Redo", "edit-redo", "Ctrl+Shift+Z", "Redo the step that was undone last", true,
-         &needsUndoneStep, &redo, nullptr, &redoText},
-        {"rename", "&Edit", 1, "Re&name", "edit-rename", "F2", "Change the name of the selected object", false,
-         &needsOneObject, &rename},
-        {"delete", "&Edit", 1, "&Delete", "edit-delete", "Ctrl+Del", "Delete the selected objects", false,
-         &needsObjects, [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
-        {"find", "&Edit", 2, "&Find…", "edit-find", "Ctrl+K", "Find an object, an entry or an action by its name",
-         false, nullptr, [](FMainWindow& window) { window.focusFind(); }},
+        {.id = "undo",
+         .text = "&Undo",
+         .icon = "edit-undo",
+         .shortcut = "Ctrl+Z",
+         .tip = "Undo the last step",
+         .isInToolbar = true,
+         .whyNot = &needsDoneStep,
+         .run = &undo,
+         .textNow = &undoText},
+        {.id = "redo",
+         .text = "&Redo",
+         .icon = "edit-redo",
+         .shortcut = "Ctrl+Shift+Z",
+         .tip = "Redo the step that was undone last",
+         .isInToolbar = true,
+         .whyNot = &needsUndoneStep,
+         .run = &redo,
+         .textNow = &redoText},
+        {.id = "rename",
+         .group = 1,
+         .text = "Re&name",
+         .icon = "edit-rename",
+         .shortcut = "F2",
+         .tip = "Change the name of the selected object",
+         .whyNot = &needsOneObject,
+         .run = &rename},
+        {.id = "delete",
+         .group = 1,
+         .text = "&Delete",
+         .icon = "edit-delete",
+         .shortcut = "Ctrl+Del",
+         .tip = "Delete the selected objects",
+         .whyNot = &needsObjects,
+         .run = [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
+        {.id = "find",
+         .group = 2,
+         .text = "&Find…",
+         .icon = "edit-find",
+         .shortcut = "Ctrl+K",
+         .tip = "Find an object, an entry or an action by its name",
+         .run = [](FMainWindow& window) { window.focusFind(); }},
+    };
+}
 
-        {"panels", "&View", 0, "&Panels", "view-list-tree", "", "Show or hide panels", false, &needsProject, nullptr,
-         &fillPanels},
-        {"movePanel", "&View", 0, "&Move the panel", "transform-move", "", "Move the panel that has the focus", false,
-         &needsProject, nullptr, [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
-        {"appearance", "&View", 1, "&Appearance", "preferences-desktop-theme", "", "Light or dark colours", false,
-         nullptr, nullptr, &fillAppearances},
-        {"resetLayout", "&View", 2, "&Reset the layout", "view-restore", "Ctrl+Shift+L",
-         "Put all panels where they are in a new installation", false, &needsProject,
-         [](FMainWindow& window) { window.resetLayout(); }},
+std::vector<FActionRow> viewRows() {
+    return {
+        {.id = "panels",
+         .text = "&Panels",
+         .icon = "view-list-tree",
+         .tip = "Show or hide panels",
+         .whyNot = &needsProject,
+         .fill = &fillPanels},
+        {.id = "movePanel",
+         .text = "&Move the panel",
+         .icon = "transform-move",
+         .tip = "Move the panel that has the focus",
+         .whyNot = &needsProject,
+         .fill = [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
+        {.id = "appearance",
+         .group = 1,
+         .text = "&Appearance",
+         .icon = "preferences-desktop-theme",
+         .tip = "Light or dark colours",
+         .fill = &fillAppearances},
+        {.id = "resetLayout",
+         .group = 2,
+         .text = "&Reset the layout",
+         .icon = "view-restore",
+         .shortcut = "Ctrl+Shift+L",
+         .tip = "Put all panels where they are in a new installation",
+         .whyNot = &needsProject,
+         .run = [](FMainWindow& window) { window.resetLayout(); }},
+    };
+}
 
-        {"run", "&Run", 0, "&Run", "media-playback-start", "F5", "Write the input files and run the program", true,
-         &needsIdleComputation, &run, nullptr, &runText},
-        {"stop", "&Run", 0, "&Stop", "media-playback-stop", "Shift+F5", "End the program that is running", true,
-         &needsRun, &stop},
-        {"reread", "&Run", 0, "Re-read r&esults", "view-refresh", "Ctrl+F5",
-         "Read the output files again, with the present marks", true, &needsOutput, &reread},
-        {"preview", "&Run", 1, "&Preview input files", "document-preview", "Ctrl+P",
-         "Show the input files as a run would write them", false, &needsComputation, &preview},
-        {"suppliersFirst", "&Run", 2, "Run s&uppliers first", "insert-link", "Ctrl+Shift+F5",
-         "Before a run, run the computations whose results it uses, as far as their set-up has changed", false, nullptr,
-         [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); }, nullptr, nullptr,
-         &FRunSettings::areSuppliersFirst},
-        {"exportChain", "&Run", 2, "Export the pi&cture of the chain…", "document-export", "Ctrl+Shift+P",
-         "Write the picture of the computations and their links to an SVG file", false, &needsComputation,
-         [](FMainWindow& window) {
-             if (auto* chain = dynamic_cast<FChainPanel*>(window.panel(QStringLiteral("chain")))) {
-                 chain->exportPicture();
-             }
-         }},
-        {"showResults", "Resul&ts", 0, "&Show results", "results", "Ctrl+T",
-         "Show the numbers that were read from the output files", false, &needsResults, &showResults},
-        {"compareResults", "Resul&ts", 0, "&Compare with the run before", "view-split-left-right", "Ctrl+Shift+T",
-         "Show the numbers of the run before beside those of the last one", false, &needsResults,
-         [](FMainWindow& window) {
-             if (FTablePanel* panel = openResults(window)) {
-                 panel->compare(true);
-             }
-         }},
-        {"exportResults", "Resul&ts", 1, "&Export results as CSV…", "document-export", "Ctrl+Shift+E",
-         "Write the numbers, with their places, to a file for spreadsheets", false, &needsResults,
-         [](FMainWindow& window) {
-             if (FTablePanel* panel = openResults(window)) {
-                 panel->exportCsv();
-             }
-         }},
+std::vector<FActionRow> runRows() {
+    return {
+        {.id = "run",
+         .text = "&Run",
+         .icon = "media-playback-start",
+         .shortcut = "F5",
+         .tip = "Write the input files and run the program",
+         .isInToolbar = true,
+         .whyNot = &needsIdleComputation,
+         .run = &run,
+         .textNow = &runText},
+        {.id = "stop",
+         .text = "&Stop",
+         .icon = "media-playback-stop",
+         .shortcut = "Shift+F5",
+         .tip = "End the program that is running",
+         .isInToolbar = true,
+         .whyNot = &needsRun,
+         .run = &stop},
+        {.id = "reread",
+         .text = "Re-read r&esults",
+         .icon = "view-refresh",
+         .shortcut = "Ctrl+F5",
+         .tip = "Read the output files again, with the present marks",
+         .isInToolbar = true,
+         .whyNot = &needsOutput,
+         .run = &reread},
+        {.id = "preview",
+         .group = 1,
+         .text = "&Preview input files",
+         .icon = "document-preview",
+         .shortcut = "Ctrl+P",
+         .tip = "Show the input files as a run would write them",
+         .whyNot = &needsComputation,
+         .run = &preview},
+        {.id = "suppliersFirst",
+         .group = 2,
+         .text = "Run s&uppliers first",
+         .icon = "insert-link",
+         .shortcut = "Ctrl+Shift+F5",
+         .tip = "Before a run, run the computations whose results it uses, as far as their set-up has changed",
+         .run = [](FMainWindow&) { FRunSettings::setSuppliersFirst(!FRunSettings::areSuppliersFirst()); },
+         .isOn = &FRunSettings::areSuppliersFirst},
+        {.id = "exportChain",
+         .group = 2,
+         .text = "Export the pi&cture of the chain…",
+         .icon = "document-export",
+         .shortcut = "Ctrl+Shift+P",
+         .tip = "Write the picture of the computations and their links to an SVG file",
+         .whyNot = &needsComputation,
+         .run = [](FMainWindow& window) { window.panel<FChainPanel>().exportPicture(); }},
+    };
+}
 
-        {"help", "&Help", 0, "&Reference", "help-contents", "F1", "Show the reference of the selected object's class",
-         false, nullptr, &helpOnSelection},
-        {"manual", "&Help", 0, "&Manual", "help-contents", "Shift+F1",
-         "How to use this window, from the first set-up to chains of programs", false, nullptr,
-         [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/README.md")); }},
-        {"tutorial", "&Help", 0, "&Tutorial", "help-hint", "Ctrl+Shift+F1",
-         "The first set-up, from a program and its files to numbers", false, nullptr,
-         [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/first-set-up.md")); }},
-        {"shortcuts", "&Help", 0, "&Keyboard shortcuts", "input-keyboard", "Ctrl+Shift+K",
-         "List all actions with their keys", false, nullptr,
-         [](FMainWindow& window) { window.showDocument(QStringLiteral("reference/shortcuts.md")); }},
-        {"about", "&Help", 1, "&About merix", "help-about", "Ctrl+F1", "Version and licence", false, nullptr,
-         [](FMainWindow& window) { window.showAbout(); }},
+std::vector<FActionRow> resultRows() {
+    return {
+        {.id = "showResults",
+         .text = "&Show results",
+         .icon = "results",
+         .shortcut = "Ctrl+T",
+         .tip = "Show the numbers that were read from the output files",
+         .whyNot = &needsResults,
+         .run = &showResults},
+        {.id = "compareResults",
+         .text = "&Compare with the run before",
+         .icon = "view-split-left-right",
+         .shortcut = "Ctrl+Shift+T",
+         .tip = "Show the numbers of the run before beside those of the last one",
+         .whyNot = &needsResults,
+         .run =
+             [](FMainWindow& window) {
+                 if (FTablePanel* panel = openResults(window)) {
+                     panel->compare(true);
+                 }
+             }},
+        {.id = "exportResults",
+         .group = 1,
+         .text = "&Export results as CSV…",
+         .icon = "document-export",
+         .shortcut = "Ctrl+Shift+E",
+         .tip = "Write the numbers, with their places, to a file for spreadsheets",
+         .whyNot = &needsResults,
+         .run =
+             [](FMainWindow& window) {
+                 if (FTablePanel* panel = openResults(window)) {
+                     panel->exportCsv();
+                 }
+             }},
+    };
+}
+
+std::vector<FActionRow> helpRows() {
+    return {
+        {.id = "help",
+         .text = "&Reference",
+         .icon = "help-contents",
+         .shortcut = "F1",
+         .tip = "Show the reference of the selected object's class",
+         .run = &helpOnSelection},
+        {.id = "manual",
+         .text = "&Manual",
+         .icon = "help-contents",
+         .shortcut = "Shift+F1",
+         .tip = "How to use this window, from the first set-up to chains of programs",
+         .run = [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/README.md")); }},
+        {.id = "tutorial",
+         .text = "&Tutorial",
+         .icon = "help-hint",
+         .shortcut = "Ctrl+Shift+F1",
+         .tip = "The first set-up, from a program and its files to numbers",
+         .run = [](FMainWindow& window) { window.showDocument(QStringLiteral("manual/first-set-up.md")); }},
+        {.id = "shortcuts",
+         .text = "&Keyboard shortcuts",
+         .icon = "input-keyboard",
+         .shortcut = "Ctrl+Shift+K",
+         .tip = "List all actions with their keys",
+         .run = [](FMainWindow& window) { window.showDocument(QStringLiteral("reference/shortcuts.md")); }},
+        {.id = "about",
+         .group = 1,
+         .text = "&About merix",
+         .icon = "help-about",
+         .shortcut = "Ctrl+F1",
+         .tip = "Version and licence",
+         .run = [](FMainWindow& window) { window.showAbout(); }},
     };
 }
 
@@ -312,9 +482,19 @@ QString plain(const char* text) {
 
 const std::vector<FActionRow>& FActionTable::rows() {
     static const std::vector<FActionRow> table = [] {
-        std::vector<FActionRow> all = fileRows();
-        const std::vector<FActionRow> others = otherRows();
-        all.insert(all.end(), others.begin(), others.end());
+        std::vector<FActionRow> all;
+        const auto add = [&all](const char* menu, const std::vector<FActionRow>& rows) {
+            for (FActionRow row : rows) {
+                row.menu = menu;
+                all.push_back(row);
+            }
+        };
+        add("&File", fileRows());
+        add("&Edit", editRows());
+        add("&View", viewRows());
+        add("&Run", runRows());
+        add("Resul&ts", resultRows());
+        add("&Help", helpRows());
         return all;
     }();
     return table;

@@ -167,10 +167,8 @@ void FMainWindow::makeStatusBar() {
     mpRunState = new QLabel(this);
     mpRunState->setObjectName(QStringLiteral("runState"));
     statusBar()->addPermanentWidget(mpRunState);
-    if (const auto* problems = dynamic_cast<FProblemsPanel*>(panel(QStringLiteral("problems")))) {
-        connect(&problems->model(), &FProblemModel::checked, this,
-                [this, problems] { showProblemCount(problems->model().rowCount()); });
-    }
+    const FProblemModel& problems = panel<FProblemsPanel>().model();
+    connect(&problems, &FProblemModel::checked, this, [this, &problems] { showProblemCount(problems.rowCount()); });
     showProblemCount(0);
 }
 
@@ -289,6 +287,14 @@ void FMainWindow::resetLayout() {
     }
 }
 
+QList<QWidget*> FMainWindow::panels() const {
+    QList<QWidget*> all;
+    for (const QDockWidget* dock : mDocks) {
+        all.append(dock->widget());
+    }
+    return all;
+}
+
 QWidget* FMainWindow::panel(const QString& id) const {
     const QDockWidget* dock = dockOf(id);
     return dock ? dock->widget() : nullptr;
@@ -313,9 +319,7 @@ void FMainWindow::focusFind() {
 
 void FMainWindow::showObject(FManaged* object) {
     FSelectionSet::instance()->set({FExpr<FObject>(object)});
-    if (auto* tree = dynamic_cast<FObjectTreeWgt*>(panel(QStringLiteral("objects")))) {
-        tree->reveal(object);
-    }
+    panel<FObjectTreeWgt>().reveal(object);
 }
 
 void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
@@ -324,11 +328,7 @@ void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
     dock->show();
     dock->raise();
     // The editor shows the selection from the event loop.
-    QTimer::singleShot(0, this, [this, path] {
-        if (auto* editor = dynamic_cast<FObjectEditorPanel*>(panel(QStringLiteral("editor")))) {
-            editor->entries().showEntry(path);
-        }
-    });
+    QTimer::singleShot(0, this, [this, path] { panel<FObjectEditorPanel>().entries().showEntry(path); });
 }
 
 void FMainWindow::showFile(const Place& place) {
@@ -372,8 +372,7 @@ FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
     const QString key = FTablePanel::keyOf(results);
     QWidget* document =
         mpDocuments->open(key, FTablePanel::titleOf(results), FIcons::get(QStringLiteral("results")), [&] {
-            auto* shown =
-                new FTablePanel(*this, dynamic_cast<FRunPanel*>(panel(QStringLiteral("runs")))->model(), results);
+            auto* shown = new FTablePanel(*this, panel<FRunPanel>().model(), results);
             connect(
                 shown, &FTablePanel::gone, this, [this, key] { mpDocuments->close(key); }, Qt::QueuedConnection);
             return shown;
@@ -383,17 +382,13 @@ FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
 }
 
 void FMainWindow::showHelp(const QString& topic) {
-    if (auto* help = dynamic_cast<FHelpPanel*>(panel(QStringLiteral("help")))) {
-        help->showTopic(topic);
-        raisePanel(QStringLiteral("help"));
-    }
+    panel<FHelpPanel>().showTopic(topic);
+    raisePanel(QStringLiteral("help"));
 }
 
 void FMainWindow::showHelpText(const QString& markdown) {
-    if (auto* help = dynamic_cast<FHelpPanel*>(panel(QStringLiteral("help")))) {
-        raisePanel(QStringLiteral("help"));
-        help->showText(markdown);
-    }
+    raisePanel(QStringLiteral("help"));
+    panel<FHelpPanel>().showText(markdown);
 }
 
 void FMainWindow::showDocument(const QString& page) {

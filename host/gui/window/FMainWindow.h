@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QMainWindow>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -48,6 +49,13 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FPanelDocks& panelDocks() { return *mpPanelDocks; }
     FSituation situation() const { return FSituation::now(mRunTarget, mUnsaved); }
 
+    /** The panel of that class, which is one of the classes in FPanelTable. */
+    template <class Panel>
+    Panel& panel() const {
+        const QList<QWidget*> all = panels();
+        const auto isSought = [](const QWidget* candidate) { return dynamic_cast<const Panel*>(candidate) != nullptr; };
+        return dynamic_cast<Panel&>(**std::find_if(all.begin(), all.end(), isSought));
+    }
     /** The panel of that id; null if there is none. */
     QWidget* panel(const QString& id) const;
     QDockWidget* dockOf(const QString& panel) const { return mDocks.value(panel); }
@@ -85,6 +93,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void dropEvent(QDropEvent* event) override;
 
  private:
+    QList<QWidget*> panels() const;
     void makeDocks();
     void makeToolbar();
     void makeStatusBar();

@@ -1,6 +1,7 @@
 #include "host/gui/window/FNoticeBar.h"
 
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FSeverityLook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -34,7 +35,7 @@ void FNoticeBar::showNotice(const QString& text, const QString& remedy, std::fun
     mMend = std::move(mend);
     // Not before: at the start of the program, there is nothing to show.
     const int size = fontMetrics().height();
-    mpSign->setPixmap(FIcons::get(QStringLiteral("dialog-warning")).pixmap(size, size));
+    mpSign->setPixmap(FSeverityLook::warningIcon().pixmap(size, size));
     mpClose->setIcon(FIcons::get(QStringLiteral("window-close")));
     const QString link = remedy.isEmpty() ? QString() : QStringLiteral(" <a href=\"#\">%1</a>").arg(remedy);
     mpText->setText(text.toHtmlEscaped() + link);

@@ -37,9 +37,14 @@ int show(QMessageBox::Icon icon, QWidget* parent, const QString& title, const QS
 
 }  // namespace
 
+QWidget* FWindowUserInterface::parent() const {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : &mWindow;
+}
+
 int FWindowUserInterface::ask(const QString& title, const QString& text, const QStringList& buttons,
                               int defaultButton) {
-    return show(QMessageBox::Question, &mWindow, title, text, buttons, defaultButton);
+    return show(QMessageBox::Question, parent(), title, text, buttons, defaultButton);
 }
 
 int FWindowUserInterface::warn(const QString& title, const QString& text, const QStringList& buttons,
@@ -48,7 +53,7 @@ int FWindowUserInterface::warn(const QString& title, const QString& text, const 
         mWindow.notices().showNotice(text);
         return 0;
     }
-    return show(QMessageBox::Warning, &mWindow, title, text, buttons, defaultButton);
+    return show(QMessageBox::Warning, parent(), title, text, buttons, defaultButton);
 }
 
 void FWindowUserInterface::tell(const QString& title, const QString& text) {
@@ -57,15 +62,19 @@ void FWindowUserInterface::tell(const QString& title, const QString& text) {
 }
 
 QString FWindowUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
-    return QFileDialog::getOpenFileName(&mWindow, caption, startPath, filter);
+    return QFileDialog::getOpenFileName(parent(), caption, startPath, filter);
+}
+
+QStringList FWindowUserInterface::askOpenFiles(const QString& caption, const QString& startPath) {
+    return QFileDialog::getOpenFileNames(parent(), caption, startPath);
 }
 
 QString FWindowUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
-    return QFileDialog::getSaveFileName(&mWindow, caption, startPath, filter);
+    return QFileDialog::getSaveFileName(parent(), caption, startPath, filter);
 }
 
 QString FWindowUserInterface::askFolder(const QString& caption, const QString& startPath) {
-    return QFileDialog::getExistingDirectory(&mWindow, caption, startPath);
+    return QFileDialog::getExistingDirectory(parent(), caption, startPath);
 }
 
 void FWindowUserInterface::commitEdits() {
@@ -80,7 +89,7 @@ void FWindowUserInterface::showTexts(const QString& title, const QMap<QString, Q
 
 QObject* FWindowUserInterface::getObjectEditor(const FExprBase& object) {
     FSelectionSet::instance()->set({FExpr<FObject>(object)});
-    return mWindow.panel(QStringLiteral("editor"));
+    return &mWindow.panel<FObjectEditorPanel>();
 }
 
 void FWindowUserInterface::showPage(FManaged* object) {
@@ -106,9 +115,7 @@ void FWindowUserInterface::setClipboardText(const QString& text) {
 
 void FWindowUserInterface::reinitializeEditor(bool all) {
     Q_UNUSED(all)
-    if (auto* editor = dynamic_cast<FObjectEditorPanel*>(mWindow.panel(QStringLiteral("editor")))) {
-        editor->rebuild();
-    }
+    mWindow.panel<FObjectEditorPanel>().rebuild();
 }
 
 void FWindowUserInterface::hold(What what, bool isHeld) {
@@ -117,14 +124,10 @@ void FWindowUserInterface::hold(What what, bool isHeld) {
             isHeld ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
             break;
         case What::ObjectTree:
-            if (auto* tree = dynamic_cast<FObjectTreeWgt*>(mWindow.panel(QStringLiteral("objects")))) {
-                tree->model().hold(isHeld);
-            }
+            mWindow.panel<FObjectTreeWgt>().model().hold(isHeld);
             break;
         case What::Editors:
-            if (auto* editor = dynamic_cast<FObjectEditorPanel*>(mWindow.panel(QStringLiteral("editor")))) {
-                editor->hold(isHeld);
-            }
+            mWindow.panel<FObjectEditorPanel>().hold(isHeld);
             break;
     }
 }

@@ -4,6 +4,7 @@
 #include "host/core/FUserInterface.h"
 
 class FMainWindow;
+class QWidget;
 
 /** Questions, dialogs and views of the program, shown by its window. */
 class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
@@ -15,6 +16,7 @@ class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
     int warn(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
     void tell(const QString& title, const QString& text) override;
     QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override;
+    QStringList askOpenFiles(const QString& caption, const QString& startPath) override;
     QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter) override;
     QString askFolder(const QString& caption, const QString& startPath) override;
     void commitEdits() override;
@@ -28,5 +30,8 @@ class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
     void hold(What what, bool isHeld) override;
 
  private:
+    /** The window of a new dialog: the dialog that blocks the others, else the main window. */
+    QWidget* parent() const;
+
     FMainWindow& mWindow;
 };

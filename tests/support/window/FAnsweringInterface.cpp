@@ -32,6 +32,11 @@ QString FAnsweringInterface::askOpenFile(const QString& caption, const QString& 
     return next(caption);
 }
 
+QStringList FAnsweringInterface::askOpenFiles(const QString& caption, const QString& startPath) {
+    Q_UNUSED(startPath)
+    return next(caption).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
 QString FAnsweringInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
     Q_UNUSED(startPath)
     Q_UNUSED(filter)

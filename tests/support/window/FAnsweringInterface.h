@@ -12,10 +12,11 @@ class FAnsweringInterface : public FWindowUserInterface {
     int ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
     int warn(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) override;
     QString askOpenFile(const QString& caption, const QString& startPath, const QString& filter) override;
+    QStringList askOpenFiles(const QString& caption, const QString& startPath) override;
     QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter) override;
     QString askFolder(const QString& caption, const QString& startPath) override;
 
-    QQueue<QString> answers;  //!< texts of buttons, or paths; empty for a dialog that is closed
+    QQueue<QString> answers;  //!< texts of buttons, or paths, separated by line ends; empty for a dialog that is closed
     QStringList questions;
 
  private:

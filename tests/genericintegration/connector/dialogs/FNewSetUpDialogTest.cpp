@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QToolButton>
 
 namespace {
 
@@ -36,7 +37,8 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
         QApplication::sendEvent(find<QListWidget>(list)->viewport(), &event);
     };
     drop("newInputsList", {"case.inp", "mesh.bin"});
-    drop("newOutputsList", {"case.dat"});
+    dialogs().answers.enqueue(folder.path("case.dat"));
+    find<QToolButton>("newOutputsAdd")->click();
     EXPECT_EQ(find<QListWidget>("newInputsList")->count(), 2);
     find<QPushButton>("newCreate")->click();
     settle();

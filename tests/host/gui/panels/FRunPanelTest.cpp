@@ -45,7 +45,7 @@ class FRunPanelTest : public FWindowTest {
         openPanel("runs");
     }
 
-    FRunModel& model() { return dynamic_cast<FRunPanel*>(window().panel("runs"))->model(); }
+    FRunModel& model() { return window().panel<FRunPanel>().model(); }
     FExternComputation* solver() { return object<FExternComputation>("solver"); }
     void start(const QString& command) {
         EXPECT_TRUE(FWindowTest::run(QString("solver.setArguments([\"-c\", \"%1\"])").arg(command)));

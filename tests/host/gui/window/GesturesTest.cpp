@@ -118,7 +118,7 @@ class GesturesTest : public FWindowTest {
 
  private:
     void collect(const QAbstractItemModel& model, const QModelIndex& parent, QSet<const FManaged*>& shown) {
-        const auto& tree = dynamic_cast<FObjectTreeWgt&>(*window().panel("objects")).model();
+        const auto& tree = window().panel<FObjectTreeWgt>().model();
         const auto& filter = dynamic_cast<const QSortFilterProxyModel&>(model);
         for (int row = 0; row < model.rowCount(parent); ++row) {
             const QModelIndex index = model.index(row, 0, parent);

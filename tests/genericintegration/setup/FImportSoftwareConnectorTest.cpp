@@ -7,8 +7,6 @@
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "tests/genericintegration/setup/FChainTest.h"
 
-#include <QElapsedTimer>
-
 #include <algorithm>
 #include <random>
 
@@ -221,27 +219,20 @@ TEST_F(FImportSoftwareConnectorTest, otherPartsAreReportedWithTheirLine) {
     EXPECT_EQ(import("none.lodm"), QStringList());
 }
 
-TEST_F(FImportSoftwareConnectorTest, manyPartsTakeTimeInProportion) {
+TEST_F(FImportSoftwareConnectorTest, manyPartsAreOneStep) {
     const QString small = QString(FLodmDefinitionParser::xmlHeader) +
                           "\n<definition version=\"1\" name=\"d\"/>\n<<<object area>>>\n"
                           "genericIntegrationResultsFile f() { .setFileName(\"a\") }\n"
                           "genericIntegrationConfiguration c() { .setDefinition(d) }\n"
                           "genericIntegrationComputation r() { .setConfiguration(c) }\n"
                           "softwareConnector s() { .setComputation(r) }\ncurFile : f\nlastFile : NULL\n";
-    const auto timeOf = [&](int count) {
-        openEmptyProject();
-        write("many.lodm", small.repeated(count).toUtf8());
-        QElapsedTimer timer;
-        timer.start();
-        const QStringList told = import("many.lodm");
-        const qint64 time = timer.elapsed();
-        EXPECT_EQ(told.filter("is taken; the new").size(), told.size());
-        EXPECT_EQ(mFaults, 0);
-        EXPECT_EQ(names(FGenIntComputation::null()).size(), count);
-        return time;
-    };
-    const qint64 few = timeOf(1000);
-    EXPECT_LT(timeOf(10'000), 30 * few);
+    constexpr int count = 1000;
+    openEmptyProject();
+    write("many.lodm", small.repeated(count).toUtf8());
+    const QStringList told = import("many.lodm");
+    EXPECT_EQ(told.filter("is taken; the new").size(), told.size());
+    EXPECT_EQ(mFaults, 0);
+    EXPECT_EQ(names(FGenIntComputation::null()).size(), count);
     ASSERT_TRUE(FHistory::instance()->undo());
     EXPECT_EQ(savedModel(), QString());
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 
 #include <memory>
@@ -227,26 +226,6 @@ TEST(FSoftConLayoutTest, randomItemsGoWhereTheLiteralStepsPutThem) {
     compareWithLiteral<FSoftConLargeGridLayout>(FLiteralLayout::Large);
     compareWithLiteral<FSoftConMediumGridLayout>(FLiteralLayout::Medium);
     compareWithLiteral<FSoftConListLayout>(FLiteralLayout::Small);
-}
-
-TEST(FSoftConLayoutTest, aThousandItemsTakeNoTime) {
-    std::vector<FLayoutItem> items;
-    for (int i = 0; i < 1000; ++i) {
-        items.push_back(makeItem(SoftConArea(i % 4), "folder/file_" + QString::number(i * 7919 % 1000), {100, 16}));
-    }
-    FSoftConListLayout layout;
-    qint64 best = std::numeric_limits<qint64>::max();
-    for (int i = 0; i < 5; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        layout.calcItemRatios(pointers(items));
-        QRectF scene;
-        QRectF area;
-        layout.calcSceneRect({0, 0, 1200, 800}, 20, 24, 10, 10, scene, area);
-        best = std::min(best, timer.nsecsElapsed());
-    }
-    RecordProperty("microseconds", static_cast<int>(best / 1000));
-    EXPECT_LT(best, 50'000'000) << "a tenth of it is usual";
 }
 
 }  // namespace

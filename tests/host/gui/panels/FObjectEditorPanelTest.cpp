@@ -8,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -234,23 +233,4 @@ TEST_F(FObjectEditorPanelTest, requiredAndGroupedRowsAreRebuiltOnRequest) {
     }
     settle();
     EXPECT_EQ(field<QLineEdit>("setExecutable")->text(), "new");
-}
-
-TEST_F(FObjectEditorPanelTest, aThousandObjectsAreShownAtOnce) {
-    ASSERT_TRUE(
-        run("for (i in [1, 2, 3, 4, 5, 6, 7, 8, 9, 10]) { for (j in [1, 2, 3, 4, 5, 6, 7, 8, 9, 10]) {"
-            "for (k in [1, 2, 3, 4, 5, 6, 7, 8, 9, 10]) { parameter p(k) } } }"));
-    QList<FExpr<FObject>> objects;
-    for (FManaged* object : FObjectManager::instance()->getManaged(FManaged::null())) {
-        if (object->getName().startsWith("p")) {
-            objects.append(FExpr<FObject>(object));
-        }
-    }
-    ASSERT_GE(objects.size(), 1000);
-    FSelectionSet::instance()->set(objects, false);
-    QElapsedTimer timer;
-    timer.start();
-    dynamic_cast<FObjectEditorPanel*>(window().panel("editor"))->rebuild();
-    EXPECT_LT(timer.elapsed(), 400);  // ten times as much as it takes
-    EXPECT_EQ(field<QLineEdit>("setValue")->placeholderText(), "several");
 }

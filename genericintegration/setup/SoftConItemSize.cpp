@@ -6,7 +6,7 @@ FClassData FEnum<SoftConItemSize>::mClass("FEnum<SoftConItemSize>", &FEnumBase::
 template <>
 const FEnumTable& FEnum<SoftConItemSize>::table() {
     static const FEnumTable texts(
-        QStringLiteral("SoftConItemSize"), static_cast<unsigned int>(SoftConItemSize::Medium),
+        static_cast<unsigned int>(SoftConItemSize::Medium),
         {{0, QStringLiteral("Large")}, {2, QStringLiteral("Medium")}, {4, QStringLiteral("Small")}});
     return texts;
 }

@@ -5,8 +5,7 @@ FClassData FEnum<GenIntAnchorOccurrence>::mClass("FEnum<GenIntAnchorOccurrence>"
 
 template <>
 const FEnumTable& FEnum<GenIntAnchorOccurrence>::table() {
-    static const FEnumTable texts(QStringLiteral("GenIntAnchorOccurrence"),
-                                  static_cast<unsigned int>(GenIntAnchorOccurrence::Last),
+    static const FEnumTable texts(static_cast<unsigned int>(GenIntAnchorOccurrence::Last),
                                   {{0, QStringLiteral("First")}, {1, QStringLiteral("Last")}});
     return texts;
 }

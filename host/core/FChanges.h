@@ -41,7 +41,7 @@ class MERIX_EXPORT FChanges : public QObject {
     /** A statement inside a loop or branch has ended, and its step is still open. */
     void statementDone();
 
-    void loadingStarted();
+    /** No project is being loaded any more. */
     void loadingEnded();
     void projectOpened(const QString& file);
     void projectSaved(const QString& file);

@@ -5,7 +5,7 @@ FClassData FEnum<FDocuArea>::mClass("FEnum<FDocuArea>", &FEnumBase::mClass);
 
 template <>
 const FEnumTable& FEnum<FDocuArea>::table() {
-    static const FEnumTable texts(QStringLiteral("FDocuArea"), static_cast<unsigned int>(FDocuArea::Description),
+    static const FEnumTable texts(static_cast<unsigned int>(FDocuArea::Description),
                                   {{0, QStringLiteral("DocuName")},
                                    {1, QStringLiteral("DocuDescription")},
                                    {2, QStringLiteral("DocuExample")},

@@ -16,8 +16,8 @@ QSet<QString>& words() {
 
 }  // namespace
 
-FEnumTable::FEnumTable(const QString& typeName, unsigned int defaultValue, const QMap<unsigned int, QString>& texts)
-    : mTypeName(typeName), mDefaultValue(defaultValue), mTexts(texts) {
+FEnumTable::FEnumTable(unsigned int defaultValue, const QMap<unsigned int, QString>& texts)
+    : mDefaultValue(defaultValue), mTexts(texts) {
     for (const QString& text : texts) {
         words().insert(text);
     }

@@ -6,12 +6,11 @@
 #include <QMap>
 #include <QStringList>
 
-/** What an enumeration is made of: its name, its default, and its texts by number. */
+/** What an enumeration is made of: its default, and its texts by number. */
 class MERIX_EXPORT FEnumTable {
  public:
-    FEnumTable(const QString& typeName, unsigned int defaultValue, const QMap<unsigned int, QString>& texts);
+    FEnumTable(unsigned int defaultValue, const QMap<unsigned int, QString>& texts);
 
-    const QString& getTypeName() const { return mTypeName; }
     unsigned int getDefaultValue() const { return mDefaultValue; }
     const QMap<unsigned int, QString>& getTexts() const { return mTexts; }
 
@@ -21,7 +20,6 @@ class MERIX_EXPORT FEnumTable {
     static QStringList getWords();
 
  private:
-    QString mTypeName;
     unsigned int mDefaultValue;
     QMap<unsigned int, QString> mTexts;
 };

@@ -48,7 +48,6 @@ class MERIX_EXPORT FHistory {
     QStringList getLabels() const;
     /** Labels of the steps that can be redone, the next one first. */
     QStringList getUndoneLabels() const;
-    bool canRedo() const { return !mUndone.empty(); }
     void clear();
 
     /**

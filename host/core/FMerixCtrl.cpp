@@ -8,9 +8,7 @@ FMerixCtrl* FMerixCtrl::instance() {
 }
 
 FProjectLoading::FProjectLoading() {
-    if (FMerixCtrl::instance()->mLoading++ == 0) {
-        emit FChanges::instance()->loadingStarted();
-    }
+    ++FMerixCtrl::instance()->mLoading;
 }
 
 FProjectLoading::~FProjectLoading() {

@@ -94,12 +94,6 @@ FAttributeQuery::Rows FAttributeQuery::getAttributes(const Filter& filter) const
     return rows;
 }
 
-FAttributeQuery::Rows FAttributeQuery::getRequiredAttributes(const Filter& filter) const {
-    Rows rows = getAttributes(filter);
-    keepIf(rows, [this](const FCmdRow& row) { return isRequired(row); });
-    return rows;
-}
-
 FAttributeQuery::Rows FAttributeQuery::getMenuMembers(const Filter& filter) const {
     Rows rows = sharedMembers(filter);
     keepIf(rows, [](const FCmdRow& row) { return !row.presentation.menuEntry.isEmpty(); });

@@ -33,8 +33,6 @@ class MERIX_EXPORT FAttributeQuery {
     /** The attributes, ordered by category, then weight, then table (bases first). */
     Rows getAttributes(const Filter& filter) const;
     Rows getAttributes() const { return getAttributes(Filter()); }
-    /** The attributes that are required now, in the same order. */
-    Rows getRequiredAttributes(const Filter& filter) const;
     /** The member commands with a menu entry, ordered by place, then table (bases first). */
     Rows getMenuMembers(const Filter& filter) const;
 

@@ -56,12 +56,6 @@ void FGuiSettings::addRecentProject(const QString& path) {
     set(recentKey, QStringList(recent.mid(0, mostRecentProjects)));
 }
 
-void FGuiSettings::removeRecentProject(const QString& path) {
-    QStringList recent = getRecentProjects();
-    recent.removeAll(path);
-    set(recentKey, recent);
-}
-
 QString FGuiSettings::getAppearance() {
     return get(appearanceKey, QStringLiteral("desktop")).toString();
 }

@@ -24,7 +24,6 @@ MERIX_EXPORT void setLayout(const QString& name, const QByteArray& layout);
 MERIX_EXPORT QStringList getRecentProjects();
 /** Moves the project to the front. */
 MERIX_EXPORT void addRecentProject(const QString& path);
-MERIX_EXPORT void removeRecentProject(const QString& path);
 
 /** "desktop", "light" or "dark". */
 MERIX_EXPORT QString getAppearance();

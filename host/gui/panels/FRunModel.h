@@ -32,7 +32,6 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
     FRunModel();
 
     const FRunRecord& record(int row) const { return *attempt(row).record; }
-    const std::shared_ptr<const FRunRecord>& recordOf(int row) const { return attempt(row).record; }
     /** The row with that record; -1 if there is none. */
     int rowOf(const std::shared_ptr<const FRunRecord>& record) const;
     /** Null if it is no longer in the model. */

@@ -1,6 +1,6 @@
 // Any text as a line of an input template: it is analysed as by the regular expressions of the tests. Any two texts as
 // an edited document: the lines are those of the document, and the line ends of the rest stay.
-// The input: names in a line, each behind a "|", an empty line, the template; a NUL separates it from the edited one.
+// The input: names in a line, each after a "|", an empty line, the template; a NUL separates it from the edited one.
 #include "fuzz/support/FFuzzCheck.h"
 #include "genericintegration/marking/FFoldedNames.h"
 #include "genericintegration/marking/FLineEnds.h"

@@ -14,7 +14,7 @@ void clear();
 
 /**
  * Executes what touches no file; anything else ends the program.
- * @return how many errors were told
+ * @return how many errors were reported
  * @param tells  whether all messages go to the standard error
  */
 int guarded(const std::function<void()>& action, bool tells);

@@ -158,13 +158,13 @@ std::vector<FAnchorPlaces> FAnchorSearch::extendToWhole(const FResultText& text,
         return places;
     }
     const qint64 begin = std::max<qint64>(0, text.trimmedSize() - mLongest);
-    const std::vector<FAnchorPlaces> behind = findFrom(text.text(), begin, text.index().isAscii());
+    const std::vector<FAnchorPlaces> after = findFrom(text.text(), begin, text.index().isAscii());
     for (size_t anchor = 0; anchor < places.size(); ++anchor) {
         if (places[anchor].first.begin < 0) {
-            places[anchor].first = behind[anchor].first;
+            places[anchor].first = after[anchor].first;
         }
-        if (behind[anchor].last.begin >= 0) {
-            places[anchor].last = behind[anchor].last;
+        if (after[anchor].last.begin >= 0) {
+            places[anchor].last = after[anchor].last;
         }
     }
     return places;

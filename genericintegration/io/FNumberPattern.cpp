@@ -70,12 +70,12 @@ class FNumberScan {
             if (FUtf8::isAscii(at(offset))) {
                 return offset;
             }
-            qint64 behind = offset;
-            const char32_t digit = FUtf8::next(mLine, behind);
+            qint64 after = offset;
+            const char32_t digit = FUtf8::next(mLine, after);
             if (QChar::requiresSurrogates(digit) || !QChar::isDigit(digit)) {
                 return offset;
             }
-            offset = behind;
+            offset = after;
         }
     }
 
@@ -84,8 +84,8 @@ class FNumberScan {
             return end;
         }
         const qint64 digits = behindSign(end + 1);
-        const qint64 behind = digitsEnd(digits);
-        return behind > digits ? behind : end;
+        const qint64 after = digitsEnd(digits);
+        return after > digits ? after : end;
     }
 
     std::string_view mLine;
@@ -113,9 +113,9 @@ FByteRange next(std::string_view line, qint64 offset) {
 std::optional<double> toDouble(std::string_view number) {
     const char* const end = number.data() + number.size();
     double value = 0;
-    const auto [behind, error] = std::from_chars(number.data() + (number.front() == '+' ? 1 : 0), end, value);
+    const auto [after, error] = std::from_chars(number.data() + (number.front() == '+' ? 1 : 0), end, value);
     const bool isZero = value == 0 && number.find_first_of("123456789") == std::string_view::npos;
-    if (error == std::errc() && behind == end && (std::isnormal(value) || isZero)) {
+    if (error == std::errc() && after == end && (std::isnormal(value) || isZero)) {
         return value;
     }
     bool isNumber = false;

@@ -219,9 +219,9 @@ class FInsertion {
         mLast = piece.isEmpty() ? mLast : piece.last();
     }
 
-    QString followedBy(QStringView behind) {
-        append(behind.left(1));
-        mText.chop(static_cast<int>(behind.left(1).size()));
+    QString followedBy(QStringView after) {
+        append(after.left(1));
+        mText.chop(static_cast<int>(after.left(1).size()));
         return mText;
     }
 

@@ -85,10 +85,10 @@ QString FLongLines::cut(const QString& text) const {
 /** How many cuts, from the first one, a condition holds for; it is called with a cut and the number of those before. */
 template <class Condition>
 int FLongLines::cutsBefore(const Condition& condition) const {
-    const auto behind = std::partition_point(mCuts.begin(), mCuts.end(), [&](const Cut& cut) {
+    const auto after = std::partition_point(mCuts.begin(), mCuts.end(), [&](const Cut& cut) {
         return condition(cut, static_cast<int>(&cut - mCuts.data()));
     });
-    return static_cast<int>(behind - mCuts.begin());
+    return static_cast<int>(after - mCuts.begin());
 }
 
 int FLongLines::shownAt(int position) const {

@@ -43,7 +43,7 @@ std::optional<FPointedNumber> FPointedNumber::at(const FResultSample& sample, co
     FPointedNumber pointed(line, number, separators.findNumbers ? nullptr : FSeparator::of(separators.expression()));
     const int unit = static_cast<int>(text.index().utf16At(offset) - text.index().utf16At(begin));
     int column = 0;
-    // A click on the right half of the last digit leads behind the number.
+    // A click on the right half of the last digit puts the cursor after the number.
     for (const int place : {unit, unit - 1}) {
         if (place >= 0 && pointed.find(place, skipBlanks(line, 0), column, pointed.mStart, pointed.mLength)) {
             return pointed;

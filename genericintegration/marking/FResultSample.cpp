@@ -33,15 +33,15 @@ int FResultSample::lineLength(int number) const {
 }
 
 int FResultSample::lineAtPosition(int position) const {
-    const auto behind = std::upper_bound(mLines.begin(), mLines.end(), position,
-                                         [](int wanted, const Line& line) { return wanted < line.position; });
-    return static_cast<int>(behind - mLines.begin()) - 1;
+    const auto after = std::upper_bound(mLines.begin(), mLines.end(), position,
+                                        [](int wanted, const Line& line) { return wanted < line.position; });
+    return static_cast<int>(after - mLines.begin()) - 1;
 }
 
 int FResultSample::lineAtOffset(int offset) const {
-    const auto behind = std::upper_bound(mLines.begin(), mLines.end(), offset,
-                                         [](int wanted, const Line& line) { return wanted < line.offset; });
-    return static_cast<int>(behind - mLines.begin()) - 1;
+    const auto after = std::upper_bound(mLines.begin(), mLines.end(), offset,
+                                        [](int wanted, const Line& line) { return wanted < line.offset; });
+    return static_cast<int>(after - mLines.begin()) - 1;
 }
 
 int FResultSample::positionOf(int offset) const {

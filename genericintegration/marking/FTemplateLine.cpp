@@ -115,7 +115,7 @@ int FTemplateLine::findLeadingNumber() {
     return end;
 }
 
-// The content begins behind the first ">" of the line, so that only its first element can contain just a number.
+// The content begins after the first ">" of the line, so that only its first element can contain just a number.
 void FTemplateLine::findElement() {
     const int start = mText.indexOf(u'<');
     const int close = mText.indexOf(u'>');

@@ -15,7 +15,7 @@ class FFoldedNames;
  * Analyses one line of an input template: which parts to colour, and what the line offers. Equal arguments give equal
  * results; no state passes from one line to the next. Apart from the search, the time is linear in the line.
  *
- * A number is found behind separators, with the word before them as its key, and as the content of an XML element, with
+ * A number is found after separators, with the word before them as its key, and as the content of an XML element, with
  * the element's name or an attribute as its key. Such a number can be found in both ways.
  */
 class FTemplateLine {

@@ -12,7 +12,7 @@
  */
 struct FTemplateRegions {
     QVector<int> regionStarts{};
-    QVector<int> regionEnds{};       //!< behind the region
+    QVector<int> regionEnds{};       //!< after the region
     QVector<int> valueStarts{};      //!< of the name in a tag, or of the number
     QStringList names{};             //!< in a tag, or proposed for a number
     QVector<double> values{};        //!< NaN for a tag
@@ -21,7 +21,7 @@ struct FTemplateRegions {
 
     bool isEmpty() const { return regionStarts.isEmpty(); }
 
-    /** The first region that a column is in or directly behind; -1 if there is none, or if a tag isn't closed. */
+    /** The first region that a column is in or directly after; -1 if there is none, or if a tag isn't closed. */
     int indexAt(int column) const;
 
     int regionStart(int index) const;

@@ -81,7 +81,7 @@ class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, p
     bool save() const override;
     bool save(const QSet<FExpr<FManaged>>& objects, QFile& file) const override;
     /**
-     * Writes the same behind what an open file has. `inFile` are the objects there, and then also those written now:
+     * Appends the same to an open file. `inFile` are the objects there, and then also those written now:
      * nothing is missing that is among them, and they aren't written once more as sources of geometry exports.
      */
     bool append(const QSet<FExpr<FManaged>>& objects, QFile& file, QSet<FExpr<FManaged>>& inFile) const;

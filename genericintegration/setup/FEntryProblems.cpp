@@ -131,7 +131,7 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
                          .arg(FTemplateTags::tagOf(unused.first())));
 }
 
-// Its evaluation would only tell, call by call, that there is nothing.
+// Evaluating the value would only report, for each call, that there are no results.
 bool FEntryProblems::isAwaiting(const FEntry& entry, const FUse& use, QList<FAwaited>& awaited) {
     const FExternComputation* supplier =
         FSetUpCheck::isReplacingRuns() || entry.getValue().isDetached() ? nullptr : supplierWithoutResults(entry);

@@ -16,7 +16,7 @@ struct FTemplateTag {
 /**
  * Walks over the tags of a text from left to right.
  *
- * The name of a tag is every character between an opening marker and the first closing marker behind it: untrimmed,
+ * The name of a tag is every character between an opening marker and the first closing marker after it: untrimmed,
  * without escapes, with line breaks and further opening markers if there are any. A closing marker without an opening
  * one is plain text. An opening marker without a closing one ends the walk.
  *

@@ -18,7 +18,7 @@ class MERIX_EXPORT FLogMsg {
     QString consequence;  //!< what follows or what to do; a sentence with a capital letter, without its full stop
     Stream stream;        //!< the channel that it was sent to
     QString place;        //!< of the text that it is about, as file:line:column or file:line; empty if there is none
-    bool isForScripts = false;  //!< whether the consequence is only what a script gets, which no window need tell
+    bool isForScripts = false;  //!< whether the consequence concerns only scripts, so that windows leave it out
 
     /**
      * "error|warning|note: PLACE: what. remedy". PLACE is the place, or else the source; with a place, the source

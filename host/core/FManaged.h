@@ -38,7 +38,8 @@ class MERIX_EXPORT FManaged : public FClass<FManaged, FRecorded> {
 
     /** Brings the object into the model. One without a name gets one made from its class. */
     void registerObject();
-    /** Takes the object out of the model; `false` if it isn't there. The flag asks to tell its dependants. */
+    /** Takes the object out of the model; `false` if it isn't there. The flag says whether its dependants are notified.
+     */
     static bool destroy(FManaged* object, bool tellClients = true);
     bool isInModel() const { return mInModel; }
     bool isRecorded() const override { return mInModel; }

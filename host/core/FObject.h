@@ -16,8 +16,8 @@ MERIX_EXPORT extern int VERBOSE;
 constexpr int TAB = 4;
 
 /**
- * What handles point to. It outlives its object as long as a handle is left, so that a handle can tell that its object
- * is gone, and whether two handles meant the same one.
+ * What handles point to. It outlives its object as long as a handle is left, so that a handle knows when its object
+ * is gone, and two handles on it remain equal.
  */
 struct MERIX_EXPORT FObjectBlock {
     enum class Kind {

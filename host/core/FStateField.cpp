@@ -161,7 +161,7 @@ std::size_t FOwnedState::size() const {
     std::size_t sum = objects.size() * sizeof(FExprBase);
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const FObject* stored = objects[i].getStored();
-        // One without fields never changes, so that its own text tells.
+        // An object without fields never changes, so only its own text counts.
         const bool hasFields = stored && !states[i].values.empty();
         sum += hasFields ? states[i].size(*stored) : heldMemory(objects[i]);
     }

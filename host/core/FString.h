@@ -23,7 +23,7 @@ class MERIX_EXPORT FString : public FClass<FString, FBasicType> {
     }
 
     /**
-     * This text with another one behind it. A text that grows in a loop is extended in place and not copied each time.
+     * This text followed by another one. A text that grows in a loop is extended in place and not copied each time.
      */
     FString* joined(const QString& tail) const;
 

@@ -5,7 +5,7 @@
 #include <concepts>
 #include <type_traits>
 
-/** A class that states itself by the class pattern, so that its class data tell what is one. */
+/** A class that has class data of its own, by which its objects are recognised. */
 template <class T>
 concept StatesItsClass = std::derived_from<T, FObject> && std::same_as<decltype(T::null()), const T*>;
 

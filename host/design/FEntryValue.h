@@ -26,7 +26,7 @@ void entryValueChanges(const FObject& value);
 MERIX_EXPORT FExprBase copyOfValue(const FExprBase& value);
 
 /**
- * The type of what a value gives; a parameter counts as what it holds. An expression that tells nothing of its type is
+ * The type of what a value gives; a parameter counts as what it holds. An expression whose type isn't known is
  * evaluated if that is safe without reading files.
  */
 MERIX_EXPORT const FObject* typeOfValue(const FExprBase& value);

@@ -1080,7 +1080,7 @@ out1.setSpacesAndTabsSeparator(true)</translation>
         <translation>Sets the list of values to read. Each value is a list of nine elements:
 
 name: the name of the row in the table of results
-line: 0 is the rest of the anchor's line, behind the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text; a number that is found without its anchor is reported by a warning. A line below 0 never reaches the first line of the file: it gives the second one or, if that has the anchor, NaN
+line: 0 is the rest of the anchor's line, after the anchor; 1 is the line below it, -1 the line above. Without an anchor, or if it isn't in the file, 0 is the first line of the file and -1 the last one with text; a number that is found without its anchor is reported by a warning. A line below 0 never reaches the first line of the file: it gives the second one or, if that has the anchor, NaN
 column: from 0; setNumberSeparator sets how a line is split into columns
 anchor: a text of the file, in any case; "" for none
 occurrence: First or Last, if the file has the anchor more than once
@@ -2743,7 +2743,7 @@ print(0.5 * 1.225 * pow(speed, 2))</translation>
     </message>
     <message>
         <source>!Global.print(FObjects,values)</source>
-        <translation>Writes the plain text of each argument to the standard output, with a blank between two of them and a line end behind the last. Texts are written without quotes, numbers in the shortest form that reads back to the same number, and a value that isn't there as NULL. Without arguments it writes an empty line. Messages go to the standard error instead, so that the output can be piped on.</translation>
+        <translation>Writes the plain text of each argument to the standard output, with a blank between two of them and a line end after the last. Texts are written without quotes, numbers in the shortest form that reads back to the same number, and a value that isn't there as NULL. Without arguments it writes an empty line. Messages go to the standard error instead, so that the output can be piped on.</translation>
     </message>
     <message>
         <source>!Global.print(FObjects,values):argument0</source>

@@ -52,7 +52,7 @@ class FTecplotReader {
         }
     }
 
-    /** The value behind an equals sign. */
+    /** The value after an equals sign. */
     FTecplotToken assigned() {
         if (current().kind != Kind::Equals) {
             fail(QStringLiteral("a \"=\" is missing"));

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/** What the header of a zone tells about its numbers. */
+/** What the header of a zone says about its numbers. */
 struct FTecplotZoneHeader {
     QString title{};
     bool isBlock = false;  //!< all points of the first variable, then those of the second …; else point by point
@@ -12,7 +12,7 @@ struct FTecplotZoneHeader {
     /** Takes over a pair of the header. Returns a fault: why the zone can't be read; empty if it can. */
     QString set(const FTecplotToken& key, const FTecplotToken& value);
 
-    /** Number of points; -1 if the header doesn't tell, at most a large number. */
+    /** Number of points; -1 if the header doesn't give it, at most a large number. */
     qint64 points() const;
     /** How many numbers follow those of the points. */
     qint64 elementNumbers() const { return mElements * mNodesPerElement; }

@@ -49,7 +49,7 @@ class MERIX_EXPORT FComputationResults : public FClass<FComputationResults, FRes
      * while the computation has that design.
      */
     QStringList getSetUpChanges() const;
-    /** State of the run, as FRunRecord tells it, with ", of an earlier set-up" and the changes if there are some. */
+    /** State of the run, as FRunRecord words it, with ", of an earlier set-up" and the changes if there are some. */
     QString getStateText() const;
 
     /**

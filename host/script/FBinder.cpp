@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Commands behind one another in a chain; each nests the one before. */
+/** Commands that follow each other in a chain; each nests the one before. */
 constexpr std::size_t longestChain = 500;
 
 FExprBase literalObject(const FLiteral& literal) {

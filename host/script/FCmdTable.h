@@ -34,7 +34,7 @@ struct Signature<R (*)(A...)> {
     using Arguments = std::tuple<std::decay_t<A>...>;
 };
 
-/** The arguments behind the first one. */
+/** The arguments after the first one. */
 template <class Tuple>
 struct Tail;
 template <class First, class... Rest>
@@ -220,7 +220,7 @@ class MERIX_EXPORT FCmdTable {
         add(kind, name, cmdtable::Types<Arguments>::list(), FCmdTypeOf<std::decay_t<Result>>::type(), names);
         last().isData = true;
         last().call = [make](FObject*, const FCmdRow::Values& values) mutable {
-            // The name travels behind the arguments.
+            // The name travels after the arguments.
             return cmdtable::call<Result, Arguments>(make, values, std::any_cast<const FNewName&>(values.back()));
         };
         return *this;

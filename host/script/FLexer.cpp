@@ -131,7 +131,7 @@ FToken FLexer::takeNumber() {
     qsizetype end = digitsFrom(mPosition);
     if (at(end) == '.') {
         const qsizetype behindPoint = digitsFrom(end + 1);
-        // A name behind the point is a command of the number, unless it is the exponent.
+        // A name after the point is a command of the number, unless it is the exponent.
         const bool isCommand = behindPoint == end + 1 && exponentFrom(behindPoint) == behindPoint &&
                                nameLength(mText, static_cast<int>(behindPoint)) > 0;
         if (!isCommand) {

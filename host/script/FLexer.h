@@ -56,7 +56,7 @@ class FLexer {
     int mBrackets = 0;
     bool mIsFirstOnLine = true;
     bool mIsSkipping = false;
-    // The text looked at last, from its opening quote to behind its closing one. A quote met in between is an escaped
+    // The text looked at last, from its opening quote to after its closing one. A quote met in between is an escaped
     // one, and so a text that is taken to begin there ends at the same place. Without this, skipping could be
     // quadratic.
     qsizetype mTextBegin = -1;

@@ -90,7 +90,7 @@ class MERIX_EXPORT FAttribCmd : public FClass<FAttribCmd, FMemberCmd> {
      * none, or if an element is of another class.
      */
     virtual void getAttrValue(FExprBase& value) const;
-    /** The class of what the command sets; null if the command doesn't tell. */
+    /** The class of what the command sets; null if it isn't known. */
     virtual const FClassData* getValueClass() const;
 
  protected:

@@ -20,8 +20,8 @@ class MERIX_EXPORT FProject {
     /** An empty project without a file. */
     bool create();
     /**
-     * Opens a project in place of the present one. False if there were errors, each of which has been told: if the file
-     * can't be read, is no project or is of a newer format, the present project stays; else what could be read is
+     * Opens a project in place of the present one. False if there were errors, each of which has been reported: if the
+     * file can't be read, is no project or is of a newer format, the present project stays; else what could be read is
      * there.
      * @param recover  whether to take the unsaved work that a crash has left
      */

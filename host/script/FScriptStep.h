@@ -18,7 +18,7 @@ class FScriptStep {
     FScriptStep(const FScriptStep&) = delete;
     FScriptStep& operator=(const FScriptStep&) = delete;
 
-    /** Ends the statement; returns whether it is good. */
+    /** Ends the statement, which was executed without an error or not; returns whether it has succeeded. */
     bool end(bool good) {
         if (FLogMsg::isStrict()) {
             // The updates that wait for the end of the step may warn.

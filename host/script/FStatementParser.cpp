@@ -21,7 +21,7 @@ std::vector<FSyntaxError> FStatementParser::takeErrors() {
         mErrors.push_back(mTokens.takeError());
     }
     if (mUntoldErrors > 0) {
-        mErrors.push_back({mErrors.back().place, QStringLiteral("%1 more errors behind this one").arg(mUntoldErrors)});
+        mErrors.push_back({mErrors.back().place, QStringLiteral("%1 more errors after this one").arg(mUntoldErrors)});
     }
     return std::move(mErrors);
 }

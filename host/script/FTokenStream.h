@@ -21,7 +21,7 @@ class FTokenStream {
 
     /** Where passing over a damaged statement may stop. */
     enum class FSkipTo {
-        Statement,        //!< where a statement begins a line, or behind a closing brace
+        Statement,        //!< where a statement begins a line, or after a closing brace
         NestedStatement,  //!< where a statement begins a line, or at a closing brace
         BlockLine         //!< where a command or a declaration begins a line, or at a closing brace
     };
@@ -47,7 +47,7 @@ class FTokenStream {
     FToken::Kind kind() const { return mError ? FToken::Kind::BadCharacter : mCurrent.kind; }
     bool isAt(FToken::Kind kind) const { return !mError && mCurrent.kind == kind; }
 
-    /** Whether the present token and those behind it are of these kinds. */
+    /** Whether the present token and those after it are of these kinds. */
     bool isAt(std::initializer_list<FToken::Kind> kinds) const;
     bool isAtDeclaration() const;
 

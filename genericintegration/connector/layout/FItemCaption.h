@@ -7,7 +7,7 @@ namespace FItemCaption {
 
 constexpr int usualLimit = 30;
 
-/** The part behind the last separator. */
+/** The part after the last separator. */
 QString lastPart(const QString& path);
 /** What an icon shows as the type of a file: at most four characters, without the quotes of an expression. */
 QString typeText(const QString& name);

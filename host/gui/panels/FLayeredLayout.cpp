@@ -138,7 +138,7 @@ void FLayeredLayout::sortByNeighbours(std::vector<int>& column, const Neighbours
     centre(column);
 }
 
-// A lane is free again behind the column where its last link ends. Shorter links get the lower lanes.
+// A lane is free again after the column where its last link ends. Shorter links get the lower lanes.
 int FLayeredLayout::findLanes(const std::vector<int>& part) {
     struct Lane {
         int end;

@@ -83,6 +83,6 @@ class MERIX_EXPORT FObjectTreeModel : public QAbstractItemModel {
     QSet<FManaged*> mEntered;
     QSet<FManaged*> mChanged;
     int mHolds = 0;
-    bool mIsFilling = false;  //!< the views aren't told
+    bool mIsFilling = false;  //!< the views aren't notified
     FQueuedCall mFollow{[this] { follow(); }};
 };

@@ -16,7 +16,7 @@ class MERIX_EXPORT FDocumentSearch {
  public:
     enum class State { Searching, Found, NotFound };
 
-    /** @param from  a search forwards starts behind what it selects, one backwards before it */
+    /** @param from  a search forwards starts after what it selects, one backwards before it */
     FDocumentSearch(const QRegExp& what, const QTextCursor& from, bool backwards);
 
     /** Searches for a few milliseconds. */

@@ -12,7 +12,7 @@ namespace FFileDrop {
 
 /** The files of this machine that the data names. */
 MERIX_EXPORT QStringList filesIn(const QMimeData* data);
-/** Opens a project, or imports the set-ups of files; of any other file, tells where it can be dropped. */
+/** Opens a project, or imports the set-ups of files; for any other file, says where it can be dropped. */
 MERIX_EXPORT void take(const QStringList& files, FMainWindow& window);
 
 }  // namespace FFileDrop

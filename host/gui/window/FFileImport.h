@@ -11,7 +11,7 @@ class FExternComputation;
 class FMainWindow;
 
 /**
- * Imports files into the project, each as one step, and tells what came in. What is missing in a file is in the log,
+ * Imports files into the project, each as one step, and reports what came in. What is missing in a file is in the log,
  * with its line; what could be read stays.
  */
 class MERIX_EXPORT FFileImport : public QObject {

@@ -16,7 +16,7 @@ namespace {
 
 QString labelOf(const FObject& object, int depth = 0);
 
-/** The suppliers in an order that doesn't tell when they were linked; which results are in use isn't of the history. */
+/** The suppliers, sorted, without the results in use, which aren't part of the history. */
 QString suppliersOf(const FObject& object, int depth) {
     QStringList labels;
     for (const FObject* supplier : object.getSuppliers()) {

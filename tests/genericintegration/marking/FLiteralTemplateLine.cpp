@@ -170,8 +170,8 @@ void FLiteralTemplateLine::passSearch(const QRegExp& search) {
     while (start >= 0) {
         const int length = search.matchedLength();
         paint(Kind::Match, start, length);
-        const int behind = start + qMax(length, 1);
-        start = behind > text.size() ? -1 : search.indexIn(text, behind);
+        const int after = start + qMax(length, 1);
+        start = after > text.size() ? -1 : search.indexIn(text, after);
     }
 }
 

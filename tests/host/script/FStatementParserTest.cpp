@@ -114,5 +114,5 @@ TEST(FStatementParserTest, recoveryTellsEachError) {
         parseScript(QString("?\na\n").repeated(3000), "s", {.recovers = true, .isObjectArea = false});
     EXPECT_EQ(script.statements.size(), 3000U);
     ASSERT_EQ(script.errors.size(), std::size_t{mostErrors} + 1);
-    EXPECT_EQ(script.errors.back().message, QString("2000 more errors behind this one"));
+    EXPECT_EQ(script.errors.back().message, QString("2000 more errors after this one"));
 }

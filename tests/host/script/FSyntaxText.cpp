@@ -50,7 +50,7 @@ QString rowText(const FSyntaxExpr& row) {
     return text + ")";
 }
 
-/** A command's dot behind a number could be taken for its point. */
+/** A command's dot after a number could be taken for its point. */
 QString chainText(const FSyntaxExpr& chain) {
     const QString receiver = textOf(chain.operands.front());
     const bool isLiteral = chain.operands.front().kind == FSyntaxExpr::Kind::Literal;

@@ -16,7 +16,7 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
 
 }  // namespace
 
-FConnectorAccessible::FConnectorAccessible(FSoftConView* view) : QAccessibleWidget(view, QAccessible::Canvas) {}
+FConnectorAccessible::FConnectorAccessible(FSoftConView* view) : FPartsAccessible(view, QAccessible::Canvas) {}
 
 void FConnectorAccessible::install() {
     static const bool isInstalled = [] {
@@ -29,36 +29,4 @@ void FConnectorAccessible::install() {
 QList<QObject*> FConnectorAccessible::parts() const {
     const FSoftConScene* scene = static_cast<const FSoftConView*>(widget())->connectorScene();
     return scene ? scene->buttonParts() + scene->itemParts() : QList<QObject*>();
-}
-
-int FConnectorAccessible::childCount() const {
-    return parts().size();
-}
-
-QAccessibleInterface* FConnectorAccessible::child(int index) const {
-    return QAccessible::queryAccessibleInterface(parts().value(index));
-}
-
-int FConnectorAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    return child ? parts().indexOf(child->object()) : -1;
-}
-
-QAccessibleInterface* FConnectorAccessible::childAt(int x, int y) const {
-    for (QObject* part : parts()) {
-        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(part);
-        if (found && found->rect().contains(x, y)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-QAccessibleInterface* FConnectorAccessible::focusChild() const {
-    for (QObject* part : parts()) {
-        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(part);
-        if (found && found->state().focused) {
-            return found;
-        }
-    }
-    return nullptr;
 }

@@ -140,11 +140,15 @@ void FSoftwareConnector::follow() {
     removeStaleTabs();
 }
 
+QList<FExpr<FGenIntFile>> FSoftwareConnector::files() const {
+    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
+    return definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>();
+}
+
 // Of files that are gone, so that nobody can say which they were.
 void FSoftwareConnector::removeStaleTabs() {
-    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
     QSet<int> known;
-    for (const FExpr<FGenIntFile>& file : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+    for (const FExpr<FGenIntFile>& file : files()) {
         known.insert(file ? file->getDbId() : 0);
     }
     for (int index = count() - 1; index > 0; --index) {
@@ -239,8 +243,7 @@ void FSoftwareConnector::setNavigator(FNavigator* navigator) {
 }
 
 void FSoftwareConnector::addMissingTabs() {
-    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
-    for (const FExpr<FGenIntFile>& file : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+    for (const FExpr<FGenIntFile>& file : files()) {
         if (file && tabOf(file.ptr()) < 0) {
             addNewTab(file);
         }
@@ -306,8 +309,7 @@ void FSoftwareConnector::gotoTab(FExpr<FGenIntFile> pFile) {
 }
 
 FObjectPage* FSoftwareConnector::showPageOf(const FManaged* file) {
-    const auto* definition = dynamic_cast<const FDefinitionGenInt*>(getDefinition());
-    for (const FExpr<FGenIntFile>& known : definition ? definition->getFiles() : QList<FExpr<FGenIntFile>>()) {
+    for (const FExpr<FGenIntFile>& known : files()) {
         if (known.ptr() == file) {
             gotoTab(known);
             return pageAt(currentIndex());

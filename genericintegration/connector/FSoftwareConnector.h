@@ -109,6 +109,8 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     void follow();
     void listenToRuns();
     void takeItemSize(unsigned int size);
+    /** The templates of the set-up; none without a definition. */
+    QList<FExpr<FGenIntFile>> files() const;
     void addMissingTabs();
     void removeStaleTabs();
     void showOverviewButton();

@@ -18,7 +18,7 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
 
 }  // namespace
 
-FChainAccessible::FChainAccessible(FChainView* view) : QAccessibleWidget(view, QAccessible::List) {}
+FChainAccessible::FChainAccessible(FChainView* view) : FPartsAccessible(view, QAccessible::List) {}
 
 void FChainAccessible::install() {
     static const bool isInstalled = [] {
@@ -32,26 +32,12 @@ FChainView& FChainAccessible::view() const {
     return static_cast<FChainView&>(*widget());
 }
 
-int FChainAccessible::childCount() const {
-    return static_cast<int>(view().chains().boxes().size());
-}
-
-QAccessibleInterface* FChainAccessible::child(int index) const {
-    return QAccessible::queryAccessibleInterface(view().chains().boxes().value(index));
-}
-
-int FChainAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    return child ? view().chains().boxes().indexOf(qobject_cast<FChainBox*>(child->object())) : -1;
-}
-
-QAccessibleInterface* FChainAccessible::childAt(int x, int y) const {
+QList<QObject*> FChainAccessible::parts() const {
+    QList<QObject*> boxes;
     for (FChainBox* box : view().chains().boxes()) {
-        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(box);
-        if (found && found->rect().contains(x, y)) {
-            return found;
-        }
+        boxes.append(box);
     }
-    return nullptr;
+    return boxes;
 }
 
 QAccessibleInterface* FChainAccessible::focusChild() const {

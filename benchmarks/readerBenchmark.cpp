@@ -3,6 +3,14 @@
 // for each value (naive), where the text is small enough for it. Half of the anchors refer to their last occurrence;
 // some values are above their anchor, some are averages.
 
+#include "genericintegration/io/FGenIntReader.h"
+#include "genericintegration/io/FValueSearch.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FHistory.h"
+#include "host/run/FResultText.h"
+#include "host/run/FTableData.h"
+#include "tests/genericintegration/io/FLiteralReader.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QByteArray>
@@ -18,14 +26,6 @@
 #include <memory>
 #include <random>
 #include <vector>
-
-#include "genericintegration/io/FGenIntReader.h"
-#include "genericintegration/io/FValueSearch.h"
-#include "genericintegration/templates/FGenIntResultsFile.h"
-#include "host/core/FHistory.h"
-#include "host/run/FResultText.h"
-#include "host/run/FTableData.h"
-#include "tests/genericintegration/io/FLiteralReader.h"
 
 namespace {
 

@@ -1,14 +1,6 @@
 // Writes input files. For comparison: a bare copy of the same bytes around constant tags, which no writer can beat, and
 // the slow model of the tests, which searches the table for each tag.
 
-#include <benchmark/benchmark.h>
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <memory>
-#include <string>
-
 #include "genericintegration/io/FGenIntWriter.h"
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FTemplateSubstitution.h"
@@ -22,6 +14,14 @@
 #include "host/core/FPrototypes.h"
 #include "host/design/FEntryDef.h"
 #include "tests/genericintegration/io/SlowTemplateModel.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <string>
 
 namespace {
 

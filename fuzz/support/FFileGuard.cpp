@@ -2,13 +2,13 @@
 
 #include "fuzz/support/FFuzzCheck.h"
 
+#include <QFile>
+#include <QProcess>
+
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <QFile>
-#include <QProcess>
 
 #include <cstdarg>
 #include <cstdio>

@@ -7,10 +7,10 @@
 #include "host/script/FProject.h"
 #include "host/script/FProjectText.h"
 
+#include <QCoreApplication>
+
 #include <sys/mman.h>
 #include <unistd.h>
-
-#include <QCoreApplication>
 
 #include <cstdio>
 

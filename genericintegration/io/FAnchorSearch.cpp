@@ -1,14 +1,14 @@
 #include "genericintegration/io/FAnchorSearch.h"
 
-#include <QVector>
-
-#include <algorithm>
-#include <map>
-
 #include "genericintegration/io/FAnchorWalk.h"
 #include "genericintegration/io/FByteQuads.h"
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
+
+#include <QVector>
+
+#include <algorithm>
+#include <map>
 
 namespace {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QString>
-
-#include <string>
-#include <vector>
-
 #include "genericintegration/io/FAnchorAutomaton.h"
 #include "genericintegration/io/FAnchorFilter.h"
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FShortWordSearch.h"
+
+#include <QString>
+
+#include <string>
+#include <vector>
 
 class FAnchorWalk;
 class FResultText;

@@ -1,8 +1,8 @@
 #include "genericintegration/io/FAnchorWalk.h"
 
-#include <algorithm>
-
 #include "host/run/FUtf8.h"
+
+#include <algorithm>
 
 FAnchorWalk::FAnchorWalk(const FAnchorAutomaton& automaton, std::string_view text)
     : mAutomaton(automaton), mText(text), mEnds(automaton.byLength().size(), {-1, -1}) {}

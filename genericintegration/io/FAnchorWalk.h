@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string_view>
-#include <vector>
-
 #include "genericintegration/io/FAnchorAutomaton.h"
 #include "genericintegration/io/FByteRange.h"
+
+#include <string_view>
+#include <vector>
 
 /**
  * Feeds parts of a text to an automaton and records the first and the last end of each word. Time is linear in the

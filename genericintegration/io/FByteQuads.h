@@ -1,11 +1,11 @@
 #pragma once
 
+#include "genericintegration/io/FQuadSet.h"
+
 #include <QtGlobal>
 
 #include <array>
 #include <string_view>
-
-#include "genericintegration/io/FQuadSet.h"
 
 /** Compares a text with up to eight sets of four consecutive bytes, at 32 places at a time. */
 class FByteQuads {

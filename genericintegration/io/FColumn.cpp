@@ -1,11 +1,11 @@
 #include "genericintegration/io/FColumn.h"
 
-#include <cmath>
-
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSuspicion.h"
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
+
+#include <cmath>
 
 FColumn FColumn::missing(qint64 offset) {
     FColumn column;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
+
+#include <QString>
 
 class FResultText;
 

@@ -1,11 +1,11 @@
 #include "genericintegration/io/FColumnCursor.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSuspicion.h"
 #include "host/run/FUtf8.h"
+
+#include <algorithm>
+#include <cmath>
 
 FColumnCursor::FColumnCursor(std::string_view text, FByteRange line, const FSeparator* separator, bool mayBeSuspicious)
     : mText(text),

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "genericintegration/io/FByteRange.h"
+#include "genericintegration/io/FColumn.h"
+#include "genericintegration/io/FSeparatorWalk.h"
+
 #include <QString>
 
 #include <optional>
 #include <string_view>
-
-#include "genericintegration/io/FByteRange.h"
-#include "genericintegration/io/FColumn.h"
-#include "genericintegration/io/FSeparatorWalk.h"
 
 /**
  * Finds the columns of one line as FGenIntReader::findValue does, and passes over each only once. In find-numbers mode

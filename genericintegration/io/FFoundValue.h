@@ -1,11 +1,11 @@
 #pragma once
 
+#include "genericintegration/io/FByteRange.h"
+#include "host/run/FNumberOrigin.h"
+
 #include <QString>
 
 #include <limits>
-
-#include "genericintegration/io/FByteRange.h"
-#include "host/run/FNumberOrigin.h"
 
 class FResultText;
 

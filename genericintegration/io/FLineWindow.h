@@ -1,10 +1,10 @@
 #pragma once
 
+#include "genericintegration/io/FByteRange.h"
+
 #include <QtGlobal>
 
 #include <optional>
-
-#include "genericintegration/io/FByteRange.h"
 
 class FResultText;
 

@@ -1,13 +1,13 @@
 #include "genericintegration/io/FNumberPattern.h"
 
+#include "host/run/FUtf8.h"
+
 #include <QRegExp>
 #include <QtEndian>
 
 #include <bit>
 #include <charconv>
 #include <cmath>
-
-#include "host/run/FUtf8.h"
 
 namespace FNumberPattern {
 namespace {

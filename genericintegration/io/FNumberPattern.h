@@ -1,11 +1,11 @@
 #pragma once
 
+#include "genericintegration/io/FByteRange.h"
+
 #include <QtGlobal>
 
 #include <optional>
 #include <string_view>
-
-#include "genericintegration/io/FByteRange.h"
 
 class QRegExp;
 

@@ -1,9 +1,9 @@
 #include "genericintegration/io/FNumberSurroundings.h"
 
-#include <QChar>
-
 #include "genericintegration/io/FAsciiText.h"
 #include "host/run/FUtf8.h"
+
+#include <QChar>
 
 using namespace FAsciiText;
 

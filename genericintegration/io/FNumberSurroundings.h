@@ -1,10 +1,10 @@
 #pragma once
 
-#include <algorithm>
-#include <string_view>
-
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
+
+#include <algorithm>
+#include <string_view>
 
 /** The characters around a number of a line: whether they are part of it, though it was read without them. */
 class FNumberSurroundings {

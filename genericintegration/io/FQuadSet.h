@@ -1,11 +1,11 @@
 #pragma once
 
+#include "genericintegration/io/FShortWord.h"
+
 #include <QtGlobal>
 
 #include <array>
 #include <string_view>
-
-#include "genericintegration/io/FShortWord.h"
 
 /**
  * A set of quads (four consecutive bytes) that keeps only the halves of the bytes: it contains each quad of which every

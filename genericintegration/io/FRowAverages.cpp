@@ -1,13 +1,13 @@
 #include "genericintegration/io/FRowAverages.h"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 #include "genericintegration/io/FColumnCursor.h"
 #include "genericintegration/io/FLineWindow.h"
 #include "genericintegration/io/FSuspicion.h"
 #include "host/run/FResultText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace {
 

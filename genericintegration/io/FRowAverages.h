@@ -1,12 +1,12 @@
 #pragma once
 
+#include "genericintegration/io/FColumn.h"
+#include "genericintegration/io/FFoundValue.h"
+
 #include <QtGlobal>
 
 #include <memory>
 #include <vector>
-
-#include "genericintegration/io/FColumn.h"
-#include "genericintegration/io/FFoundValue.h"
 
 class FResultText;
 class FSeparator;

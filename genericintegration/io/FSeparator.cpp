@@ -1,10 +1,10 @@
 #include "genericintegration/io/FSeparator.h"
 
-#include <QHash>
+#include "genericintegration/io/FExpressionTranslator.h"
 
 #include <re2/re2.h>
 
-#include "genericintegration/io/FExpressionTranslator.h"
+#include <QHash>
 
 FSeparator::FSeparator(const QString& expression)
     : mSplitsAtBlanks(expression.startsWith(QLatin1String("\\s")) || expression.startsWith(QLatin1Char(' '))) {

@@ -1,10 +1,10 @@
 #include "genericintegration/io/FSeparatorMatches.h"
 
+#include "host/run/FUtf8.h"
+
 #include <re2/re2.h>
 
 #include <ctime>
-
-#include "host/run/FUtf8.h"
 
 namespace {
 

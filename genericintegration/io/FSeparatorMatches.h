@@ -1,12 +1,12 @@
 #pragma once
 
+#include "genericintegration/io/FSeparator.h"
+
 #include <QByteArray>
 #include <QRegExp>
 #include <QString>
 
 #include <vector>
-
-#include "genericintegration/io/FSeparator.h"
 
 /** Finds a separator in one line. */
 class FSeparatorMatches {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include "genericintegration/io/FSeparatorMatches.h"
+
+#include <QString>
 
 /** Passes over the separators of a line. */
 class FSeparatorWalk {

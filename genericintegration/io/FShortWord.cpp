@@ -1,8 +1,8 @@
 #include "genericintegration/io/FShortWord.h"
 
-#include <algorithm>
-
 #include "genericintegration/io/FAnchorFilter.h"
+
+#include <algorithm>
 
 bool FShortWord::canBe(std::u32string_view word) {
     return word.size() <= longest && FAnchorFilter::asciiRun(word) == static_cast<qint64>(word.size());

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "genericintegration/io/FQuadSet.h"
 #include "genericintegration/io/FShortWord.h"
+
+#include <vector>
 
 /** Short words that are searched together, by one set of quads. */
 struct FShortWordGroup {

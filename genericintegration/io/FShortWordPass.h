@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string_view>
-#include <vector>
-
 #include "genericintegration/io/FByteQuads.h"
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FShortWordGroup.h"
+
+#include <string_view>
+#include <vector>
 
 /** One pass over a text, in either direction, that searches for short words. */
 class FShortWordPass {

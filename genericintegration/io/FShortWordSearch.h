@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string_view>
-#include <vector>
-
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FShortWord.h"
+
+#include <string_view>
+#include <vector>
 
 /**
  * Finds the first and the last occurrence of a few short words, for which FAnchorFilter would have to probe a text at

@@ -1,9 +1,9 @@
 #include "genericintegration/io/FSoughtLine.h"
 
-#include <algorithm>
-
 #include "genericintegration/io/FLineWindow.h"
 #include "host/run/FResultText.h"
+
+#include <algorithm>
 
 namespace {
 

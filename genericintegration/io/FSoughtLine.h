@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
-
 #include "genericintegration/io/FByteRange.h"
 #include "genericintegration/io/FFoundValue.h"
+
+#include <optional>
 
 class FResultText;
 

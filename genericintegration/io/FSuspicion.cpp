@@ -1,14 +1,14 @@
 #include "genericintegration/io/FSuspicion.h"
 
-#include <algorithm>
-#include <array>
-#include <cstring>
-
 #include "genericintegration/io/FAsciiText.h"
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FNumberSurroundings.h"
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
 
 using namespace FAsciiText;
 

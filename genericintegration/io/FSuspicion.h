@@ -1,11 +1,11 @@
 #pragma once
 
+#include "genericintegration/io/FByteRange.h"
+#include "genericintegration/io/FFoundValue.h"
+
 #include <QString>
 
 #include <string_view>
-
-#include "genericintegration/io/FByteRange.h"
-#include "genericintegration/io/FFoundValue.h"
 
 class FResultText;
 

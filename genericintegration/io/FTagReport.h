@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QStringView>
-
 #include "genericintegration/templates/FTextPlaces.h"
+
+#include <QStringView>
 
 /** Outcome for a tag when its template is written. */
 enum class FTagOutcome {

@@ -1,9 +1,9 @@
 #include "genericintegration/io/FTemplateSubstitution.h"
 
-#include <utility>
-
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/templates/FTemplateScanner.h"
+
+#include <utility>
 
 FTemplateSubstitution::FTemplateSubstitution(const FTemplateKeys& keys, Values values, Output output)
     : mKeys(keys), mValues(std::move(values)), mOutput(std::move(output)) {}

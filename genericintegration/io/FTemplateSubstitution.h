@@ -1,12 +1,12 @@
 #pragma once
 
+#include "genericintegration/io/FTagReport.h"
+
 #include <QString>
 #include <QStringView>
 
 #include <functional>
 #include <unordered_map>
-
-#include "genericintegration/io/FTagReport.h"
 
 class FTemplateKeys;
 class FTextPlaces;

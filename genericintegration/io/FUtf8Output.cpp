@@ -1,11 +1,11 @@
 #include "genericintegration/io/FUtf8Output.h"
 
+#include "host/run/FUtf8.h"
+
 #include <QIODevice>
 
 #include <algorithm>
 #include <utility>
-
-#include "host/run/FUtf8.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include "genericintegration/io/FAnchor.h"
+
+#include <QString>
 
 /**
  * Where a value is in an output file.

@@ -1,17 +1,17 @@
 #include "genericintegration/io/FValueSearch.h"
 
+#include "genericintegration/io/FColumnCursor.h"
+#include "genericintegration/io/FRowAverages.h"
+#include "genericintegration/io/FSeparatorMatches.h"
+#include "genericintegration/io/FSuspicion.h"
+#include "host/run/FResultText.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <optional>
 #include <tuple>
 #include <utility>
-
-#include "genericintegration/io/FColumnCursor.h"
-#include "genericintegration/io/FRowAverages.h"
-#include "genericintegration/io/FSeparatorMatches.h"
-#include "genericintegration/io/FSuspicion.h"
-#include "host/run/FResultText.h"
 
 namespace {
 

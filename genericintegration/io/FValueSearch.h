@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QString>
-
-#include <map>
-#include <memory>
-#include <vector>
-
 #include "genericintegration/io/FAnchorSearch.h"
 #include "genericintegration/io/FFoundValue.h"
 #include "genericintegration/io/FSeparator.h"
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FSoughtLine.h"
 #include "genericintegration/io/FValueDescription.h"
+
+#include <QString>
+
+#include <map>
+#include <memory>
+#include <vector>
 
 class FResultText;
 

@@ -1,8 +1,8 @@
 #include "genericintegration/marking/FEntryNameProposal.h"
 
-#include <algorithm>
-
 #include "genericintegration/marking/FLineCharacters.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "genericintegration/marking/FLineEnds.h"
 
+#include "genericintegration/marking/FDocumentLineEnd.h"
+
 #include <QStringView>
 
 #include <algorithm>
@@ -8,8 +10,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include "genericintegration/marking/FDocumentLineEnd.h"
 
 namespace FLineEnds {
 namespace {

@@ -1,7 +1,5 @@
 #include "genericintegration/marking/FResultMarks.h"
 
-#include <algorithm>
-
 #include "genericintegration/io/FColumnPlace.h"
 #include "genericintegration/io/FSeparator.h"
 #include "genericintegration/io/FSeparatorMatches.h"
@@ -10,6 +8,8 @@
 #include "genericintegration/marking/FLineNumbers.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
+
+#include <algorithm>
 
 namespace {
 

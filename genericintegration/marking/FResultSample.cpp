@@ -1,10 +1,10 @@
 #include "genericintegration/marking/FResultSample.h"
 
-#include <algorithm>
-
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/marking/FDocumentLineEnd.h"
+
+#include <algorithm>
 
 FResultSample::FResultSample(const QString& content) : mContent(content), mText(FResultText::fromString(content)) {
     if (content.contains(QChar::Nbsp)) {

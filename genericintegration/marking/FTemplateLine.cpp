@@ -1,11 +1,11 @@
 #include "genericintegration/marking/FTemplateLine.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "genericintegration/marking/FFoldedNames.h"
 #include "genericintegration/marking/FLineCharacters.h"
 #include "genericintegration/templates/FTemplateTags.h"
+
+#include <algorithm>
+#include <limits>
 
 using namespace FLineCharacters;
 using Kind = FTemplateSpan::Kind;

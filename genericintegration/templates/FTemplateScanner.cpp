@@ -1,9 +1,9 @@
 #include "genericintegration/templates/FTemplateScanner.h"
 
+#include "genericintegration/templates/FTemplateTags.h"
+
 #include <algorithm>
 #include <cstring>
-
-#include "genericintegration/templates/FTemplateTags.h"
 
 using FTemplateTags::closingMarker;
 using FTemplateTags::openingMarker;

@@ -1,8 +1,8 @@
 #include "genericintegration/templates/FTemplateTags.h"
 
-#include <QStringMatcher>
-
 #include "genericintegration/templates/FTemplateScanner.h"
+
+#include <QStringMatcher>
 
 namespace FTemplateTags {
 namespace {

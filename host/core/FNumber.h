@@ -1,9 +1,9 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 #include <cmath>
-#include "host/core/FExport.h"
 
 /** A number as a double. */
 class MERIX_EXPORT FDouble : public FClass<FDouble, FBasicType> {

@@ -1,6 +1,7 @@
 #include "host/core/FNumberText.h"
 
 #include <QByteArray>
+
 #include <array>
 #include <charconv>
 #include <cmath>

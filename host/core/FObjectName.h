@@ -3,6 +3,7 @@
 #include "host/core/FExport.h"
 
 #include <QString>
+
 #include <functional>
 
 /**

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "host/core/FBasicType.h"
+#include "host/core/FExport.h"
 
 #include <memory>
-#include "host/core/FExport.h"
 
 /** A text. Bare in `toString`, quoted in a script. */
 class MERIX_EXPORT FString : public FClass<FString, FBasicType> {

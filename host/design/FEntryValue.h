@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/core/FExport.h"
-
 #include "host/core/FExprBase.h"
 
 /** What entries hold. Numbers are doubles, also when they were written as integers. */

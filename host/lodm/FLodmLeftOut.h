@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/core/FExport.h"
-
 #include "host/core/FManaged.h"
 
 #include <QSet>

@@ -2,10 +2,10 @@
 
 #include "host/run/FUtf8.h"
 
+#include <simdjson.h>
+
 #include <QByteArray>
 #include <QTextCodec>
-
-#include <simdjson.h>
 
 #include <algorithm>
 

@@ -1,5 +1,7 @@
 #include "host/run/FFolderMove.h"
 
+#include <climits>
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -8,7 +10,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <climits>
 #include <cstdio>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "host/core/FLogMsg.h"
 
 #include <unistd.h>
+
 #include <atomic>
 #include <csignal>
 #include <string>

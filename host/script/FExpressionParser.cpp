@@ -1,14 +1,14 @@
 #include "host/script/FExpressionParser.h"
 
+#include "host/core/FNumberText.h"
+#include "host/core/FQuotedText.h"
+
 #include <QLocale>
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <optional>
-
-#include "host/core/FNumberText.h"
-#include "host/core/FQuotedText.h"
 
 namespace {
 

@@ -1,12 +1,13 @@
 #include "host/script/FNumberFormat.h"
 
+#include "host/core/FNumberText.h"
+#include "host/core/FQuotedText.h"
+
 #include <QRegularExpression>
+
 #include <array>
 #include <charconv>
 #include <cmath>
-
-#include "host/core/FNumberText.h"
-#include "host/core/FQuotedText.h"
 
 namespace {
 

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "host/core/FExport.h"
-
-#include <optional>
-
 #include "host/script/FSyntaxError.h"
 #include "host/script/FSyntaxStatement.h"
+
+#include <optional>
 
 /**
  * A script as far as it could be read. `statements` can be executed if there are no errors, or if the script

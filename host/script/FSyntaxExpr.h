@@ -1,13 +1,13 @@
 #pragma once
 
 #include "host/core/FExport.h"
-
-#include <QStringList>
-#include <variant>
-#include <vector>
-
 #include "host/script/FOperator.h"
 #include "host/script/FPlace.h"
+
+#include <QStringList>
+
+#include <variant>
+#include <vector>
 
 struct MERIX_EXPORT FSyntaxOperator {
     FOperator kind;

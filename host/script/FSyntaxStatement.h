@@ -1,11 +1,10 @@
 #pragma once
 
 #include "host/core/FExport.h"
+#include "host/script/FSyntaxExpr.h"
 
 #include <variant>
 #include <vector>
-
-#include "host/script/FSyntaxExpr.h"
 
 struct FSyntaxStatement;
 using FSyntaxBody = std::vector<FSyntaxStatement>;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include "host/script/FPlace.h"
+
+#include <QString>
 
 /** A word, number, text or sign of a script. It points into the script's text. */
 struct FToken {

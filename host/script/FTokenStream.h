@@ -1,12 +1,12 @@
 #pragma once
 
+#include "host/script/FLexer.h"
+#include "host/script/FSyntaxError.h"
+
 #include <initializer_list>
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include "host/script/FLexer.h"
-#include "host/script/FSyntaxError.h"
 
 /**
  * The tokens of a script as a parser wants them: one at a time, with questions about it, and with the first error.

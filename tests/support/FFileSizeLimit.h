@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sys/resource.h>
+
 #include <csignal>
 
 /** For its life no file can grow beyond that many bytes, as on a disk that is full. */

@@ -8,7 +8,6 @@
 #include "host/gui/text/FShownLine.h"
 
 #include <QContextMenuEvent>
-
 #include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>

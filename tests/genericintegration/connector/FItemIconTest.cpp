@@ -1,12 +1,11 @@
 #include "genericintegration/connector/FItemIcon.h"
+#include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
+#include "genericintegration/connector/layout/FSoftConListLayout.h"
+#include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
 
 #include <gtest/gtest.h>
 
 #include <QColor>
-
-#include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
-#include "genericintegration/connector/layout/FSoftConListLayout.h"
-#include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
 
 namespace {
 

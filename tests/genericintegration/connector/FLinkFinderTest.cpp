@@ -1,6 +1,5 @@
-#include "genericintegration/connector/FLinkFinder.h"
-
 #include "genericintegration/connector/FItemLinks.h"
+#include "genericintegration/connector/FLinkFinder.h"
 #include "genericintegration/connector/FSoftConObjectItem.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 

@@ -1,5 +1,4 @@
 #include "genericintegration/connector/FSceneDrops.h"
-
 #include "host/gui/base/FObjectMime.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 

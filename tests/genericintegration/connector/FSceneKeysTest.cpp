@@ -1,5 +1,4 @@
 #include "genericintegration/connector/FSceneKeys.h"
-
 #include "host/core/FSelectionSet.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 

@@ -1,5 +1,4 @@
 #include "genericintegration/connector/FSoftConScene.h"
-
 #include "genericintegration/connector/dialogs/FSoftConDialog.h"
 #include "host/core/FIni.h"
 #include "host/core/FSelectionSet.h"

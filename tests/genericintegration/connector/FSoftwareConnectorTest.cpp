@@ -1,6 +1,5 @@
-#include "genericintegration/connector/FSoftwareConnector.h"
-
 #include "genericintegration/connector/FSceneFurniture.h"
+#include "genericintegration/connector/FSoftwareConnector.h"
 #include "genericintegration/setup/FGenIntCompSignalRapper.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FSelectionSet.h"

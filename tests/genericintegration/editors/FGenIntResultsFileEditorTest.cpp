@@ -1,6 +1,5 @@
-#include "genericintegration/editors/FGenIntResultsFileEditor.h"
-
 #include "genericintegration/editors/FGenIntResultsFileEdit.h"
+#include "genericintegration/editors/FGenIntResultsFileEditor.h"
 #include "genericintegration/editors/FResultsPreview.h"
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"

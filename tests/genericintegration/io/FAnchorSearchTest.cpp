@@ -1,10 +1,9 @@
 #include "genericintegration/io/FAnchorSearch.h"
+#include "host/run/FResultText.h"
 
 #include <gtest/gtest.h>
 
 #include <QTextCodec>
-
-#include "host/run/FResultText.h"
 
 TEST(FAnchorSearchTest, aSurrogatePairIsFoundAcrossPiecesOfTheDecoding) {
     const QString content = QString(8190, 'x') + QStringLiteral("\U00010428");

@@ -1,5 +1,4 @@
 #include "genericintegration/io/FGenIntReader.h"
-
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FTableData.h"
 #include "host/run/FValueRemark.h"

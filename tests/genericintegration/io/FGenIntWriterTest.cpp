@@ -1,5 +1,4 @@
 #include "genericintegration/io/FGenIntWriter.h"
-
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"

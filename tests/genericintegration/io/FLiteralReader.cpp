@@ -1,13 +1,13 @@
 #include "FLiteralReader.h"
 
+#include "genericintegration/io/FAnchor.h"
+
 #include <QBuffer>
 #include <QMap>
 #include <QTextStream>
 
 #include <algorithm>
 #include <limits>
-
-#include "genericintegration/io/FAnchor.h"
 
 namespace FLiteralReader {
 namespace {

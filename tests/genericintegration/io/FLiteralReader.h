@@ -1,13 +1,13 @@
 #pragma once
 
+#include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/io/FValueDescription.h"
+
 #include <QByteArray>
 #include <QRegExp>
 #include <QString>
 
 #include <vector>
-
-#include "genericintegration/io/FSeparatorSettings.h"
-#include "genericintegration/io/FValueDescription.h"
 
 /** A second, slow implementation of the reader: step by step, on a decoded text, separately for each value. */
 namespace FLiteralReader {

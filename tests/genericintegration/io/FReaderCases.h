@@ -1,13 +1,13 @@
 #pragma once
 
+#include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/io/FValueDescription.h"
+
 #include <QByteArray>
 #include <QStringList>
 
 #include <random>
 #include <vector>
-
-#include "genericintegration/io/FSeparatorSettings.h"
-#include "genericintegration/io/FValueDescription.h"
 
 /**
  * Random texts and values that combine difficult cases: anchors in several cases, letters that fold beyond ASCII, line

@@ -1,13 +1,12 @@
+#include "genericintegration/io/FExpressionTranslator.h"
 #include "genericintegration/io/FSeparatorMatches.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QStringList>
 
 #include <random>
-
-#include "genericintegration/io/FExpressionTranslator.h"
-#include "tests/support/randomCases.h"
 
 namespace {
 

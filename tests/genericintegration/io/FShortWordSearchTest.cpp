@@ -1,11 +1,10 @@
+#include "genericintegration/io/FByteQuads.h"
 #include "genericintegration/io/FShortWordSearch.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 #include <string>
-
-#include "genericintegration/io/FByteQuads.h"
 
 // The quad of the word changes from its end to its start, at the place where the word starts.
 TEST(FShortWordSearchTest, aWordIsFoundWhereItsQuadChanges) {

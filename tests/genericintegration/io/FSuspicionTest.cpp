@@ -1,9 +1,8 @@
 #include "genericintegration/io/FSuspicion.h"
-
-#include <gtest/gtest.h>
-
 #include "genericintegration/io/FValueSearch.h"
 #include "host/run/FResultText.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "tests/genericintegration/io/FTemplateComparison.h"
 
-#include <QBuffer>
-
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FUtf8Output.h"
 #include "genericintegration/templates/FTemplateTags.h"
+
+#include <QBuffer>
 
 namespace FTemplateComparison {
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "genericintegration/io/FTemplateSubstitution.h"
+#include "tests/genericintegration/io/SlowTemplateModel.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QString>
 
 #include <vector>
-
-#include "genericintegration/io/FTemplateSubstitution.h"
-#include "tests/genericintegration/io/SlowTemplateModel.h"
 
 /** Compares the writer with the slow model. For tests and fuzz targets. */
 namespace FTemplateComparison {

@@ -1,13 +1,12 @@
+#include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FTemplateSubstitution.h"
+#include "tests/genericintegration/io/FTemplateComparison.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
-
-#include "genericintegration/io/FTemplateKeys.h"
-#include "tests/genericintegration/io/FTemplateComparison.h"
-#include "tests/support/randomCases.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "genericintegration/io/FUtf8Output.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +8,6 @@
 
 #include <random>
 #include <vector>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

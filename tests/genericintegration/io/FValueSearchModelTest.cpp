@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <bit>
-
 #include "FLiteralReader.h"
 #include "FReaderCases.h"
 #include "genericintegration/io/FGenIntReader.h"
@@ -9,6 +5,10 @@
 #include "host/run/FResultText.h"
 #include "host/run/FUtf8.h"
 #include "tests/support/randomCases.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
 
 namespace {
 

@@ -1,10 +1,9 @@
 #include "genericintegration/io/FValueSearch.h"
+#include "host/run/FResultText.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-
-#include "host/run/FResultText.h"
 
 namespace {
 

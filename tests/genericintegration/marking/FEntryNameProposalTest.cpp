@@ -1,11 +1,10 @@
 #include "genericintegration/marking/FEntryNameProposal.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
 #include <QRegExp>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

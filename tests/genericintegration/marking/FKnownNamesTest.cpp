@@ -1,5 +1,4 @@
 #include "genericintegration/marking/FKnownNames.h"
-
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntFile.h"
 #include "host/design/FEntryDef.h"

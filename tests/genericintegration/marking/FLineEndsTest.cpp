@@ -1,12 +1,11 @@
 #include "genericintegration/marking/FLineEnds.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStringList>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "genericintegration/marking/FTemplateLine.h"
+
 #include <QRegExp>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
-
-#include "genericintegration/marking/FTemplateLine.h"
 
 /** A second, slow analysis of a line of an input template, with regular expressions, pass by pass. */
 class FLiteralTemplateLine {

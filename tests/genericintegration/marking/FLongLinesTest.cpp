@@ -1,12 +1,11 @@
 #include "genericintegration/marking/FLongLines.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStringList>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

@@ -1,13 +1,12 @@
+#include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/marking/FPlaceProposal.h"
+#include "genericintegration/marking/FResultSample.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
 #include <QRegExp>
-
-#include "genericintegration/io/FSeparatorSettings.h"
-#include "genericintegration/marking/FResultSample.h"
-#include "tests/support/randomCases.h"
 
 namespace {
 

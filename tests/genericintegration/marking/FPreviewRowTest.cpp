@@ -1,6 +1,5 @@
-#include "genericintegration/marking/FPreviewRow.h"
-
 #include "genericintegration/io/FGenIntReader.h"
+#include "genericintegration/marking/FPreviewRow.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FTableData.h"
 #include "tests/support/FModelTest.h"

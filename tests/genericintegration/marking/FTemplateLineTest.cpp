@@ -1,12 +1,11 @@
+#include "FLiteralTemplateLine.h"
+#include "genericintegration/marking/FFoldedNames.h"
 #include "genericintegration/marking/FTemplateLine.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
-
-#include "FLiteralTemplateLine.h"
-#include "genericintegration/marking/FFoldedNames.h"
-#include "tests/support/randomCases.h"
 
 namespace {
 

@@ -1,5 +1,4 @@
 #include "genericintegration/setup/FAttribCmdSetAverageRows.h"
-
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FNull.h"
 #include "tests/support/FModelTest.h"

@@ -1,5 +1,4 @@
 #include "genericintegration/setup/FConfigurationGenInt.h"
-
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "host/core/FNumber.h"
 #include "host/design/FEntryDef.h"

@@ -1,5 +1,4 @@
 #include "genericintegration/setup/FDefinitionGenInt.h"
-
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FHistory.h"

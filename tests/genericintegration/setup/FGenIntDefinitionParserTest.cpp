@@ -1,7 +1,6 @@
-#include "genericintegration/setup/FGenIntDefinitionParser.h"
-
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FGenIntDefinitionParser.h"
 #include "host/core/FIni.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"

@@ -1,5 +1,4 @@
 #include "genericintegration/setup/FGenIntEditor.h"
-
 #include "host/core/FHistory.h"
 #include "host/design/FConnectorInterface.h"
 #include "host/script/FProject.h"

@@ -1,7 +1,6 @@
-#include "genericintegration/setup/FImportSoftwareConnector.h"
-
 #include "genericintegration/setup/FConnectorRecord.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FImportSoftwareConnector.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/lodm/FLodmDefinitionParser.h"

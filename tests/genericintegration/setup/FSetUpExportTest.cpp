@@ -1,5 +1,4 @@
 #include "genericintegration/setup/FSetUpExport.h"
-
 #include "host/run/FComputationChain.h"
 #include "host/run/FComputationGraph.h"
 #include "tests/genericintegration/setup/FChainTest.h"

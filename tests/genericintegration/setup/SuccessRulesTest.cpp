@@ -1,6 +1,5 @@
-#include "tests/genericintegration/setup/FIntegrationTest.h"
-
 #include "host/core/FHistory.h"
+#include "tests/genericintegration/setup/FIntegrationTest.h"
 
 namespace {
 

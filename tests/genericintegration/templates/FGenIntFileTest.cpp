@@ -1,6 +1,5 @@
-#include "genericintegration/templates/FGenIntFile.h"
-
 #include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FGenIntFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "tests/support/FModelTest.h"

@@ -1,5 +1,4 @@
 #include "genericintegration/templates/FGenIntResultsFile.h"
-
 #include "host/core/FHistory.h"
 #include "tests/support/FModelTest.h"
 

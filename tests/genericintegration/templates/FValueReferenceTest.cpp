@@ -1,6 +1,5 @@
-#include "genericintegration/templates/FValueReference.h"
-
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "genericintegration/templates/FValueReference.h"
 #include "host/design/FParameter.h"
 #include "tests/genericintegration/setup/FIntegrationTest.h"
 

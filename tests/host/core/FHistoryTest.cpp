@@ -1,7 +1,6 @@
-#include "host/core/FHistory.h"
-
 #include "host/core/FAssert.h"
 #include "host/core/FChanges.h"
+#include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FUserStep.h"

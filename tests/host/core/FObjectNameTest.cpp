@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QSet>
+
 #include <tuple>
 #include <utility>
 

@@ -1,9 +1,8 @@
-#include "host/design/FEntryDef.h"
-#include "tests/host/design/FEntryFixture.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserStep.h"
+#include "host/design/FEntryDef.h"
+#include "tests/host/design/FEntryFixture.h"
 
 namespace {
 

@@ -1,6 +1,5 @@
-#include "host/design/FParameter.h"
-
 #include "host/core/FNumber.h"
+#include "host/design/FParameter.h"
 #include "tests/support/FModelTest.h"
 
 namespace {

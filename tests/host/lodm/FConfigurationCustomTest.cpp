@@ -1,7 +1,6 @@
-#include "host/lodm/FConfigurationCustom.h"
-
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FUserInterface.h"
+#include "host/lodm/FConfigurationCustom.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"

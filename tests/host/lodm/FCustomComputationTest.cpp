@@ -1,6 +1,5 @@
-#include "host/lodm/FCustomComputation.h"
-
 #include "host/core/FMerixCtrl.h"
+#include "host/lodm/FCustomComputation.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 

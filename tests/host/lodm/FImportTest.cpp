@@ -1,7 +1,6 @@
-#include "host/lodm/FImport.h"
-
 #include "host/core/FInitPrototype.h"
 #include "host/core/FUserInterface.h"
+#include "host/lodm/FImport.h"
 #include "host/run/FPathManager.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"

@@ -1,12 +1,11 @@
 #include "host/lodm/FLodmConfigurationParser.h"
-
 #include "host/run/FTableData.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
 
-#include <cmath>
-
 #include <sys/stat.h>
+
+#include <cmath>
 
 namespace {
 

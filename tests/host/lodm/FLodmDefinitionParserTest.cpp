@@ -1,5 +1,3 @@
-#include "host/lodm/FLodmDefinitionParser.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FInitPrototype.h"
 #include "host/core/FMerixCtrl.h"
@@ -7,6 +5,7 @@
 #include "host/core/FUserInterface.h"
 #include "host/design/FConfiguration.h"
 #include "host/design/FEntryTree.h"
+#include "host/lodm/FLodmDefinitionParser.h"
 #include "host/script/FCmdTable.h"
 #include "host/script/FScriptParser.h"
 #include "tests/support/FModelTest.h"

@@ -1,12 +1,11 @@
 #include "host/lodm/FTecplotText.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
 
 #include <cmath>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

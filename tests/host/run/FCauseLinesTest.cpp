@@ -1,5 +1,4 @@
 #include "host/run/FCauseLines.h"
-
 #include "host/run/FInputChanges.h"
 #include "host/run/FWrittenFiles.h"
 #include "tests/support/FTestFolder.h"

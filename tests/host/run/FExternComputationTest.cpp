@@ -1,10 +1,9 @@
-#include "host/run/FExternComputation.h"
-
 #include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/design/FDesign.h"
+#include "host/run/FExternComputation.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FResultsOutOfDateBlocker.h"

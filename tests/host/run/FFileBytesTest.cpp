@@ -1,4 +1,6 @@
 #include "host/run/FFileBytes.h"
+#include "host/run/FResultText.h"
+#include "host/run/FUtf8.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +11,6 @@
 
 #include <csignal>
 #include <string>
-
-#include "host/run/FResultText.h"
-#include "host/run/FUtf8.h"
 
 namespace {
 

@@ -1,5 +1,4 @@
 #include "host/run/FFileFollower.h"
-
 #include "tests/support/FTestFolder.h"
 
 namespace {

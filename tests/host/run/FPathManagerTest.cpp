@@ -1,9 +1,8 @@
-#include "host/run/FPathManager.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/design/FDesign.h"
 #include "host/run/FExternComputation.h"
+#include "host/run/FPathManager.h"
 #include "host/script/FProject.h"
 #include "tests/support/FModelTest.h"
 

@@ -1,5 +1,4 @@
 #include "host/run/FProcess.h"
-
 #include "tests/support/FTestFolder.h"
 #include "tests/support/waitUntil.h"
 

@@ -1,5 +1,4 @@
 #include "host/run/FRunFolderFile.h"
-
 #include "tests/support/FFileSizeLimit.h"
 #include "tests/support/FTestFolder.h"
 

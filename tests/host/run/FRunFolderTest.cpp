@@ -1,5 +1,4 @@
 #include "host/run/FRunFolder.h"
-
 #include "tests/support/FTestFolder.h"
 
 namespace {

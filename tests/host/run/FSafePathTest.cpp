@@ -1,5 +1,4 @@
 #include "host/run/FSafePath.h"
-
 #include "tests/support/FTestFolder.h"
 
 #include <unistd.h>

@@ -1,5 +1,4 @@
 #include "host/run/FTableData.h"
-
 #include "host/script/FCmdInput.h"
 #include "tests/support/FModelTest.h"
 

@@ -1,5 +1,4 @@
 #include "host/run/FTextIndex.h"
-
 #include "host/run/FUtf8.h"
 
 #include <gtest/gtest.h>

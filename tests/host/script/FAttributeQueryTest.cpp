@@ -1,6 +1,5 @@
-#include "host/script/FAttributeQuery.h"
-
 #include "host/core/FInitPrototype.h"
+#include "host/script/FAttributeQuery.h"
 #include "host/script/FCmdManager.h"
 #include "tests/host/core/FThing.h"
 #include "tests/support/FModelTest.h"

@@ -1,9 +1,8 @@
-#include "host/script/FCmdTable.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FInitPrototype.h"
 #include "host/script/FCmdReference.h"
+#include "host/script/FCmdTable.h"
 #include "host/script/FProject.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"

@@ -1,5 +1,4 @@
 #include "host/script/FCmd.h"
-
 #include "host/script/FMemberCmd.h"
 #include "tests/host/core/FThing.h"
 #include "tests/support/FModelTest.h"

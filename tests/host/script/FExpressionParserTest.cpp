@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "tests/host/script/FSyntaxText.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

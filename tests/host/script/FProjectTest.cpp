@@ -1,11 +1,10 @@
-#include "host/script/FProject.h"
-
 #include "host/core/FChanges.h"
 #include "host/core/FHistory.h"
 #include "host/core/FManaged.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FQuotedText.h"
+#include "host/script/FProject.h"
 #include "host/script/FProjectText.h"
 #include "tests/support/FFileSizeLimit.h"
 #include "tests/support/FModelTest.h"

@@ -1,6 +1,5 @@
-#include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
-
 #include "genericintegration/connector/FSoftwareConnector.h"
+#include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
 #include <QDropEvent>

@@ -1,9 +1,8 @@
 #include "genericintegration/connector/layout/FItemCaption.h"
-
-#include <gtest/gtest.h>
-
 #include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/connector/layout/FLinkText.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,10 +1,9 @@
 #include "genericintegration/connector/layout/FItemDifference.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
-
-#include "tests/support/randomCases.h"
 
 namespace {
 

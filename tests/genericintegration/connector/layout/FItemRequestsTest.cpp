@@ -1,12 +1,11 @@
 #include "genericintegration/connector/layout/FItemRequests.h"
-
-#include <gmock/gmock.h>
-
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/design/FInputFile.h"
 #include "host/design/FResultsFileName.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/FTestFolder.h"
+
+#include <gmock/gmock.h>
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "genericintegration/connector/layout/FLayoutItem.h"
+
 #include <QHash>
 #include <QMap>
 #include <QRect>
-
-#include "genericintegration/connector/layout/FLayoutItem.h"
 
 /** The layouts of all sizes, step by step with numbers in place of names: slow and simple. */
 struct FLiteralLayout {

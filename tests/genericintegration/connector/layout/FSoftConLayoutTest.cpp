@@ -1,10 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QRandomGenerator>
-
-#include <memory>
-#include <vector>
-
 #include "genericintegration/connector/layout/FLabelMetrics.h"
 #include "genericintegration/connector/layout/FLayoutScene.h"
 #include "genericintegration/connector/layout/FSoftConLargeGridLayout.h"
@@ -12,6 +5,13 @@
 #include "genericintegration/connector/layout/FSoftConMediumGridLayout.h"
 #include "tests/genericintegration/connector/layout/FLiteralLayout.h"
 #include "tests/support/randomCases.h"
+
+#include <gtest/gtest.h>
+
+#include <QRandomGenerator>
+
+#include <memory>
+#include <vector>
 
 namespace {
 

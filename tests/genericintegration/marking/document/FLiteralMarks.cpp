@@ -1,10 +1,10 @@
 #include "FLiteralMarks.h"
 
+#include "genericintegration/io/FGenIntReader.h"
+
 #include <QRegExp>
 #include <QTextBlock>
 #include <QTextDocument>
-
-#include "genericintegration/io/FGenIntReader.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QPlainTextEdit>
-#include <QTextCursor>
-
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueDescription.h"
+
+#include <QPlainTextEdit>
+#include <QTextCursor>
 
 /** Marks a value in a real editor, step by step with its cursor. */
 class FLiteralMarks {

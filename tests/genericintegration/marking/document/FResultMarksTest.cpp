@@ -1,13 +1,12 @@
+#include "FLiteralMarks.h"
+#include "genericintegration/marking/FLineEnds.h"
 #include "genericintegration/marking/FResultMarks.h"
+#include "genericintegration/marking/FResultSample.h"
+#include "tests/support/randomCases.h"
 
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
-
-#include "FLiteralMarks.h"
-#include "genericintegration/marking/FLineEnds.h"
-#include "genericintegration/marking/FResultSample.h"
-#include "tests/support/randomCases.h"
 
 namespace {
 

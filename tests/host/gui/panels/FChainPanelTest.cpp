@@ -1,11 +1,10 @@
-#include "host/gui/panels/FChainPanel.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/panels/FChainBox.h"
+#include "host/gui/panels/FChainPanel.h"
 #include "host/gui/panels/FChainScene.h"
 #include "host/gui/panels/FChainView.h"
 #include "host/gui/window/FDocumentTabs.h"

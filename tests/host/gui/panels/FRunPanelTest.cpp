@@ -1,8 +1,7 @@
-#include "host/gui/panels/FRunPanel.h"
-
 #include "host/core/FMerixCtrl.h"
 #include "host/gui/base/FListView.h"
 #include "host/gui/panels/FRunModel.h"
+#include "host/gui/panels/FRunPanel.h"
 #include "host/gui/panels/FRunTail.h"
 #include "host/gui/panels/FTableModel.h"
 #include "host/gui/panels/FTablePanel.h"

@@ -1,10 +1,9 @@
-#include "host/gui/panels/FTablePanel.h"
-
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FQuotedText.h"
 #include "host/gui/base/FListView.h"
 #include "host/gui/panels/FTableModel.h"
+#include "host/gui/panels/FTablePanel.h"
 #include "host/gui/text/FOutputDocument.h"
 #include "host/gui/text/FOutputViewer.h"
 #include "host/gui/window/FDocumentTabs.h"

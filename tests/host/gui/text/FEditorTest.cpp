@@ -1,5 +1,4 @@
 #include "host/gui/text/FEditor.h"
-
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractTextDocumentLayout>

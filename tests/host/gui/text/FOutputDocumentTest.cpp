@@ -1,6 +1,5 @@
-#include "host/gui/text/FOutputDocument.h"
-
 #include "host/gui/text/FFindBar.h"
+#include "host/gui/text/FOutputDocument.h"
 #include "host/gui/text/FOutputViewer.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "tests/support/FTestFolder.h"

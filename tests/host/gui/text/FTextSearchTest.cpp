@@ -1,6 +1,5 @@
-#include "host/gui/text/FTextSearch.h"
-
 #include "host/gui/text/FShownLine.h"
+#include "host/gui/text/FTextSearch.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,8 @@
-#include "host/gui/window/FFileImport.h"
-
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/script/FProject.h"

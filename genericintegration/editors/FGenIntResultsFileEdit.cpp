@@ -6,17 +6,11 @@
 #include "host/gui/base/FStateColor.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
-
-namespace {
-
-/** Places framed at most, as many as one could look at. */
-constexpr std::size_t mostFramed = 5000;
-
-}  // namespace
 
 FGenIntResultsFileEdit::FGenIntResultsFileEdit(FGenIntResultsFileEditor* editor)
     : FEditor(3, true, editor), mEditor(editor) {
@@ -30,11 +24,11 @@ FGenIntResultsFileEdit::FGenIntResultsFileEdit(FGenIntResultsFileEditor* editor)
 
 void FGenIntResultsFileEdit::setFramed(const std::vector<FTextRange>& places) {
     QList<QTextEdit::ExtraSelection> selections;
-    for (std::size_t i = 0; i < std::min(places.size(), mostFramed); ++i) {
+    for (const FTextRange& place : places) {
         QTextEdit::ExtraSelection selection;
         selection.cursor = QTextCursor(document());
-        selection.cursor.setPosition(places[i].begin);
-        selection.cursor.setPosition(places[i].end(), QTextCursor::KeepAnchor);
+        selection.cursor.setPosition(place.begin);
+        selection.cursor.setPosition(place.end(), QTextCursor::KeepAnchor);
         selection.format.setFontUnderline(true);
         selections.append(selection);
     }
@@ -92,6 +86,13 @@ void FGenIntResultsFileEdit::mouseDoubleClickEvent(QMouseEvent* event) {
     }
 }
 
+void FGenIntResultsFileEdit::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || !mEditor->pointing().readNumberAt(textCursor().selectionStart())) {
+        FEditor::keyPressEvent(event);
+    }
+}
+
 QRect FGenIntResultsFileEdit::rectOf(const QTextCursor& selection) const {
     QTextCursor end(document());
     end.setPosition(selection.selectionStart());
@@ -101,14 +102,18 @@ QRect FGenIntResultsFileEdit::rectOf(const QTextCursor& selection) const {
     return {first.topLeft() - QPoint(1, 0), QPoint(last.right() + 1, first.bottom())};
 }
 
+FTextRange FGenIntResultsFileEdit::inView() const {
+    const int begin = firstVisibleBlock().position();
+    return {begin, cursorForPosition(viewport()->rect().bottomRight()).position() - begin};
+}
+
 void FGenIntResultsFileEdit::paintEvent(QPaintEvent* event) {
     FEditor::paintEvent(event);
     QPainter painter(viewport());
     painter.setPen(QPen(FStateColor::of(FStateColor::State::Warning), 2));
-    const int first = firstVisibleBlock().position();
-    const int last = cursorForPosition(viewport()->rect().bottomRight()).position();
+    const FTextRange view = inView();
     for (const QTextEdit::ExtraSelection& selection : extraSelections()) {
-        if (selection.cursor.selectionEnd() >= first && selection.cursor.selectionStart() <= last) {
+        if (selection.cursor.selectionEnd() >= view.begin && selection.cursor.selectionStart() <= view.end()) {
             painter.drawRect(rectOf(selection.cursor));
         }
     }

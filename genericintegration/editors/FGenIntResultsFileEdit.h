@@ -22,11 +22,14 @@ class FGenIntResultsFileEdit : public FEditor {
     /** Shows a range, and then as much before it as there is room for. The cursor goes to a position beside it. */
     void show(FTextRange range, int position);
     using QWidget::show;
+    /** From the first line in view to the end of what is in view of the last one. */
+    FTextRange inView() const;
 
  protected:
     void focusInEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -48,9 +48,9 @@ void FResultsMarker::format(const std::vector<FTextRange>& ranges, const QTextCh
     }
 }
 
-void FResultsMarker::paint(const FResultMarks& marks) {
+bool FResultsMarker::paint(const FResultMarks& marks) {
     if (mIsPainted && marks == mPainted) {
-        return;
+        return false;
     }
     clear();
     format(marks.lines, mLine);
@@ -59,7 +59,7 @@ void FResultsMarker::paint(const FResultMarks& marks) {
     mEdit.setFramed(marks.readerPlaces);
     mPainted = marks;
     mIsPainted = true;
-    mEdit.show(marks.columns.empty() ? FTextRange{marks.cursor, 0} : marks.columns.front(), marks.cursor);
+    return true;
 }
 
 void FResultsMarker::clear() {

@@ -19,8 +19,8 @@ class FResultsMarker {
     explicit FResultsMarker(FGenIntResultsFileEdit& edit) : mEdit(edit) {}
 
     void setColors(const Colors& line, const Colors& column, const Colors& anchor);
-    /** Marks the places and shows the value. Nothing happens if they are marked already. */
-    void paint(const FResultMarks& marks);
+    /** Marks places. False, and nothing happens, if they are marked already. */
+    bool paint(const FResultMarks& marks);
     /** Removes the marks; the text stays where it is. */
     void clear();
     /** Says that the text is another one. */

@@ -28,6 +28,13 @@ FSamplePane::FSamplePane(FGenIntResultsFileEditor& page) : mpEdit(new FGenIntRes
     group->layout()->addWidget(row);
     column->addWidget(group, 1);
     mpEdit->setLineNumbers([this](int block) { return mLongLines.numberOf(block); });
+    // The text scrolls without a signal of the scroll bar, too; its range changes with the height of the view.
+    connect(mpEdit, &QPlainTextEdit::updateRequest, this, [this](const QRect&, int dy) {
+        if (dy != 0) {
+            followView();
+        }
+    });
+    connect(mpEdit->verticalScrollBar(), &QScrollBar::rangeChanged, this, &FSamplePane::followView);
 }
 
 bool FSamplePane::setText(const QString& text) {
@@ -36,8 +43,8 @@ bool FSamplePane::setText(const QString& text) {
     }
     const QPoint scrolled(mpEdit->horizontalScrollBar()->value(), mpEdit->verticalScrollBar()->value());
     mText = text;
+    unmark();  // a new text takes over the format at the cursor
     mpSample.reset();
-    mMarker.clear();  // a new text takes over the format at the cursor
     mLongLines = FLongLines(text);
     mpEdit->setPlainText(mLongLines.areThere() ? mLongLines.cut(text) : text);
     mpEdit->horizontalScrollBar()->setValue(scrolled.x());
@@ -46,9 +53,10 @@ bool FSamplePane::setText(const QString& text) {
 }
 
 void FSamplePane::letGo() {
+    mMarked.reset();
+    mMarker.forget();
     mpSample.reset();
     mText.clear();
-    mMarker.forget();
     mpEdit->clear();
 }
 
@@ -61,10 +69,31 @@ const FResultSample& FSamplePane::sample() {
 
 FFoundValue FSamplePane::mark(const FValueDescription& value, const FSeparatorSettings& separators) {
     const FFoundValue found = sample().read(value, separators);
-    const FResultMarks marks = FResultMarks::of(sample(), value, separators, found);
-    mIsReadElsewhere = !marks.readerPlaces.empty();
-    mMarker.paint(shown(marks));
+    const FLineRange view = linesInView();
+    mMarked = {value, separators, FResultMarks::of(sample(), value, separators, found, view)};
+    const FResultMarks marks = shownMarks(view);
+    if (mMarker.paint(marks)) {
+        mpEdit->show(marks.place, marks.cursor);
+    }
     return found;
+}
+
+void FSamplePane::unmark() {
+    mMarked.reset();
+    mMarker.clear();
+}
+
+void FSamplePane::followView() {
+    if (mMarked && mMarked->value.average) {
+        const FLineRange view = linesInView();
+        mMarked->marks.showRows(sample(), mMarked->value, mMarked->separators, view);
+        mMarker.paint(shownMarks(view));
+    }
+}
+
+FLineRange FSamplePane::linesInView() {
+    const FTextRange view = mpEdit->inView();
+    return {sample().lineAtPosition(positionOf(view.begin)), sample().lineAtPosition(positionOf(view.end()))};
 }
 
 FTextRange FSamplePane::shown(FTextRange range) const {
@@ -72,7 +101,16 @@ FTextRange FSamplePane::shown(FTextRange range) const {
     return {begin, range.length > 0 ? mLongLines.shownAt(range.end() - 1) + 1 - begin : 0};
 }
 
-FResultMarks FSamplePane::shown(FResultMarks marks) const {
+FResultMarks FSamplePane::shownMarks(FLineRange view) {
+    FResultMarks marks = mMarked->marks;
+    if (mMarked->value.average) {
+        const auto isOut = [&](FTextRange place) {
+            const int line = sample().lineAtPosition(place.begin);
+            return line < view.first || line > view.last;
+        };
+        auto& places = marks.readerPlaces;
+        places.erase(std::remove_if(places.begin(), places.end(), isOut), places.end());
+    }
     for (std::vector<FTextRange>* ranges : {&marks.lines, &marks.columns, &marks.readerPlaces}) {
         std::transform(ranges->begin(), ranges->end(), ranges->begin(),
                        [this](FTextRange range) { return shown(range); });
@@ -80,6 +118,7 @@ FResultMarks FSamplePane::shown(FResultMarks marks) const {
     if (marks.anchor) {
         marks.anchor = shown(*marks.anchor);
     }
+    marks.place = shown(marks.place);
     marks.cursor = mLongLines.shownAt(marks.cursor);
     return marks;
 }

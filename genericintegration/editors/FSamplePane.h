@@ -2,12 +2,14 @@
 
 #include "genericintegration/editors/FResultsMarker.h"
 #include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/io/FValueDescription.h"
 #include "genericintegration/marking/FLongLines.h"
 #include "genericintegration/marking/FResultSample.h"
 
 #include <QFrame>
 
 #include <memory>
+#include <optional>
 
 class FGenIntResultsFileEdit;
 class FGenIntResultsFileEditor;
@@ -42,22 +44,30 @@ class FSamplePane : public QFrame {
 
     /** Marks where a value is read, and returns what the reader finds there. */
     FFoundValue mark(const FValueDescription& value, const FSeparatorSettings& separators);
-    void unmark() {
-        mMarker.clear();
-        mIsReadElsewhere = false;
-    }
+    void unmark();
     /** Whether the reader takes the marked value from another place than the marked column, which has a frame then. */
-    bool isReadElsewhere() const { return mIsReadElsewhere; }
+    bool isReadElsewhere() const { return mMarked && !mMarked->marks.readerPlaces.empty(); }
     /** What marks are painted with. */
     FResultsMarker& marker() { return mMarker; }
 
  private:
+    /** A value that is marked. */
+    struct Marked {
+        FValueDescription value;
+        FSeparatorSettings separators;
+        FResultMarks marks;
+    };
+
+    /** Marks the rows of an average that have come into view. */
+    void followView();
+    FLineRange linesInView();
     FTextRange shown(FTextRange range) const;
-    FResultMarks shown(FResultMarks marks) const;
+    /** The marks in the widget; of the places of the reader in an average, those in view. */
+    FResultMarks shownMarks(FLineRange view);
 
     FGenIntResultsFileEdit* mpEdit;
     FResultsMarker mMarker;
-    bool mIsReadElsewhere = false;
+    std::optional<Marked> mMarked;
     QString mText;
     FLongLines mLongLines;
     std::unique_ptr<FResultSample> mpSample;  //!< of the shown text; null until it is needed

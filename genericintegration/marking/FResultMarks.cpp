@@ -50,13 +50,27 @@ class FMarkWalk {
         FSeparatorMatches::startText();
     }
 
-    FResultMarks walk() {
+    FResultMarks walk(FLineRange view) {
         if (mValue.average) {
-            markRows();
+            markRows(view);
         } else {
             markPlace();
         }
         return mMarks;
+    }
+
+    /** Whether a line is a row of the average. */
+    bool isRow(int number) const { return rows().first <= number && number <= rows().last; }
+    /** The column of the average in a line. */
+    FTextRange columnOfRow(int number) const {
+        const QString& anchor = mValue.anchor.text;
+        QString text = withoutIndent(mSample.line(number));
+        int start = 0;
+        if (mValue.line == 0) {
+            text = withoutIndent(text.mid(anchor.size()));
+            start = anchor.isEmpty() ? 0 : text.indexOf(anchor, 0, Qt::CaseInsensitive) + anchor.size();
+        }
+        return columnIn(number, text, start);
     }
 
  private:
@@ -66,11 +80,17 @@ class FMarkWalk {
         if (target >= 0 && target <= mLastLine) {
             const int number = static_cast<int>(target);
             const QString text = withoutIndent(mSample.line(number));
-            markColumn(number, mValue.line == 0 ? behindAnchor(text) : text, 0);
+            mMarks.place = columnIn(number, mValue.line == 0 ? behindAnchor(text) : text, 0);
+            mMarks.cursor = mMarks.place.end();
+            append(mMarks.lines, {mSample.linePosition(number), mSample.lineLength(number)});
+            append(mMarks.columns, mMarks.place);
         }
         if (anchor) {
             mMarks.anchor = anchor;
             mMarks.cursor = anchor->end();
+        }
+        if (mMarks.columns.empty()) {
+            mMarks.place = {mMarks.cursor, 0};
         }
     }
 
@@ -98,33 +118,33 @@ class FMarkWalk {
         return place < 0 ? text : withoutIndent(text.mid(place + anchor.size()));
     }
 
-    void markRows() {
-        mMarks.cursor = mSample.documentEnd();
-        const QString& anchor = mValue.anchor.text;
-        const int first = std::max(mSample.lastFilledLine(), 0);
-        const qint64 rows = std::min<qint64>({mValue.averageRows, FResultMarks::mostRows, first + 1});
-        for (int number = first; number > first - rows; --number) {
-            QString text = withoutIndent(mSample.line(number));
-            int start = 0;
-            if (mValue.line == 0) {
-                text = withoutIndent(text.mid(anchor.size()));
-                start = anchor.isEmpty() ? 0 : text.indexOf(anchor, 0, Qt::CaseInsensitive) + anchor.size();
-            }
-            markColumn(number, text, start);
+    // Down to the last line that isn't blank. Blank lines between them count, as they do for the reader.
+    FLineRange rows() const {
+        const int last = std::max(mSample.lastFilledLine(), 0);
+        return {last + 1 - static_cast<int>(std::min<qint64>(mValue.averageRows, last + 1)), last};
+    }
+
+    void markRows(FLineRange view) {
+        const auto [first, last] = rows();
+        if (first > last) {
+            mMarks.cursor = mSample.documentEnd();
+            mMarks.place = {mMarks.cursor, 0};
+            return;
         }
+        for (int number = std::min(last, view.last); number >= std::max(first, view.first); --number) {
+            append(mMarks.lines, {mSample.linePosition(number), mSample.lineLength(number)});
+            append(mMarks.columns, columnOfRow(number));
+        }
+        mMarks.place = columnOfRow(last);
+        mMarks.cursor = columnOfRow(first).end();
     }
 
     // The text is the end of the line, in which the search starts somewhere.
-    void markColumn(int number, const QString& text, int start) {
-        const int position = mSample.linePosition(number);
-        const int length = mSample.lineLength(number);
-        append(mMarks.lines, {position, length});
+    FTextRange columnIn(int number, const QString& text, int start) const {
         const FColumnPlace place = mSeparator ? FColumnPlace::find(*mSeparator, text, start, mValue.column, false)
                                               : placeOfNumber(text, start, mValue.column);
-        const int begin = std::min(position + length - text.size() + std::max(place.start, 0), mSample.documentEnd());
-        const FTextRange column{begin, std::max(place.length, 0)};
-        append(mMarks.columns, column);
-        mMarks.cursor = column.end();
+        const int textBegin = mSample.linePosition(number) + mSample.lineLength(number) - text.size();
+        return {std::min(textBegin + std::max(place.start, 0), mSample.documentEnd()), std::max(place.length, 0)};
     }
 
     const FResultSample& mSample;
@@ -134,19 +154,14 @@ class FMarkWalk {
     FResultMarks mMarks;
 };
 
-/** Where the reader found the value, or the numbers of its average. */
-std::vector<FTextRange> placesOf(const FFoundValue& found, const FResultSample& sample) {
+/** Where the reader found the numbers of an average. */
+std::vector<FTextRange> placesOf(const FAverageRows& rows, const FResultSample& sample) {
     std::vector<FTextRange> places;
-    if (!found.rows && found.column > 0) {
-        places.push_back(sample.rangeOf(found.line, found.column, found.textIn(sample.text()).size()));
-    }
-    if (found.rows) {
-        qint64 begin = 0;
-        for (const FAverageRow& row : found.rows->rows) {
-            const QString text = FUtf8::decode(FByteRange{begin, row.textEnd}.of(found.rows->texts));
-            places.push_back(sample.rangeOf(row.line, row.column, text.size()));
-            begin = row.textEnd;
-        }
+    qint64 begin = 0;
+    for (const FAverageRow& row : rows.rows) {
+        const QString text = FUtf8::decode(FByteRange{begin, row.textEnd}.of(rows.texts));
+        places.push_back(sample.rangeOf(row.line, row.column, text.size()));
+        begin = row.textEnd;
     }
     return places;
 }
@@ -154,19 +169,28 @@ std::vector<FTextRange> placesOf(const FFoundValue& found, const FResultSample& 
 }  // namespace
 
 FResultMarks FResultMarks::of(const FResultSample& sample, const FValueDescription& value,
-                              const FSeparatorSettings& separators, const FFoundValue& found) {
-    FResultMarks marks = FMarkWalk(sample, value, separators).walk();
-    if (value.average && value.averageRows > mostRows) {
-        return marks;
-    }
-    const auto isBefore = [](FTextRange left, FTextRange right) { return left.begin < right.begin; };
-    std::vector<FTextRange> marked = marks.columns;
-    std::sort(marked.begin(), marked.end(), isBefore);
-    for (const FTextRange& place : placesOf(found, sample)) {
-        const auto same = std::lower_bound(marked.begin(), marked.end(), place, isBefore);
-        if (same == marked.end() || !(*same == place)) {
+                              const FSeparatorSettings& separators, const FFoundValue& found, FLineRange view) {
+    FMarkWalk walk(sample, value, separators);
+    FResultMarks marks = walk.walk(view);
+    if (found.rows) {
+        for (const FTextRange& place : placesOf(*found.rows, sample)) {
+            const int line = sample.lineAtPosition(place.begin);
+            if (!walk.isRow(line) || !(walk.columnOfRow(line) == place)) {
+                append(marks.readerPlaces, place);
+            }
+        }
+    } else if (found.column > 0) {
+        const FTextRange place = sample.rangeOf(found.line, found.column, found.textIn(sample.text()).size());
+        if (!(marks.place == place)) {
             append(marks.readerPlaces, place);
         }
     }
     return marks;
+}
+
+void FResultMarks::showRows(const FResultSample& sample, const FValueDescription& value,
+                            const FSeparatorSettings& separators, FLineRange view) {
+    FResultMarks inView = FMarkWalk(sample, value, separators).walk(view);
+    lines = std::move(inView.lines);
+    columns = std::move(inView.columns);
 }

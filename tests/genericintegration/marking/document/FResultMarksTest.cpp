@@ -75,12 +75,17 @@ TEST(FResultMarksTest, placesAreMarked) {
     }
 }
 
-TEST(FResultMarksTest, theEndOfALongAverageIsMarked) {
-    constexpr int rows = FResultMarks::mostRows + 10;
-    const FResultMarks marks = marksOf(QString("7\n").repeated(rows), averageOf(rows, 0));
-    EXPECT_EQ(marks.columns.size(), std::size_t{FResultMarks::mostRows});
-    EXPECT_EQ(marks.cursor, 2 * 10 + 1);
+TEST(FResultMarksTest, theRowsOfALongAverageAreMarkedWhereTheyAreInView) {
+    constexpr int rows = 20'000;
+    const FResultSample sample(QString("7\n").repeated(rows + 5));
+    const FValueDescription value = averageOf(rows, 0);
+    FResultMarks marks = FResultMarks::of(sample, value, {}, sample.read(value, {}), {3, 7});
+    EXPECT_EQ(marks.columns, (std::vector<FTextRange>{{14, 1}, {12, 1}, {10, 1}}));
+    EXPECT_EQ(marks.place, (FTextRange{2 * (rows + 4), 1}));
+    EXPECT_EQ(marks.cursor, 11);
     EXPECT_TRUE(marks.readerPlaces.empty());
+    marks.showRows(sample, value, {}, {rows + 2, rows + 9});
+    EXPECT_EQ(marks.columns, (std::vector<FTextRange>{{2 * rows + 8, 1}, {2 * rows + 6, 1}, {2 * rows + 4, 1}}));
 }
 
 /** Random samples and values. */

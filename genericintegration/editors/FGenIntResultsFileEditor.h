@@ -6,23 +6,18 @@
 #include "host/core/FView.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
-#include "host/gui/base/FProblemWatch.h"
 
 #include <QColor>
 #include <QFrame>
-#include <QTimer>
 
 #include <memory>
 
 class FAttributeEditor;
 class FGenIntComputation;
 class FGenIntResultsFileEdit;
-class FResultsFileForm;
-class FSamplePane;
+class FResultsFileView;
 class FSamplePointing;
-class FTemplateReports;
 class QComboBox;
-class QSplitter;
 
 /**
  * The page on which the user defines what is read from an output file: a form with the values and their places, a
@@ -74,7 +69,6 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void commitEdit() override;
 
     bool doUpdate() const override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
     // ---- colours, which a style sheet may set ----
     static QColor getAnchorBackground() { return sAnchorBackground; }
@@ -145,38 +139,31 @@ class FGenIntResultsFileEditor : public FClass<FGenIntResultsFileEditor, QFrame,
     void connectForm();
     void connectSample();
     void listen();
-    void restoreSplitter();
-    void saveSplitter() const;
     void setColor(QColor& color, const QColor& wanted);
     void takeColors();
 
     FExpr<FGenIntResultsFileValue> currentValue() const { return mSteps.currentValue(); }
     void createParamOf(int row);
-    void showProblems();
-    QStringList notices() const;
-    void chosen(const FSetUpProblem& problem);
 
     void refreshAll();
+    /** Drops what belongs to the value that was the current one. */
+    void valueLeft();
     void showCurrentValue();
-    void fillSelector(const std::vector<FExpr<FObject>>& values);
-    /** Says in the preview that the reader takes another place than the marked one. */
-    void explainFrame();
-    void previewSoon();
+    void showName();
+    /** After a change of the place of the current value. */
+    void placeChanged();
+    /** After a change of what else decides what is read. */
+    void readingChanged();
     void followRows();
 
     FExpr<FGenIntResultsFile> mResultsFile;
     FExpr<FGenIntComputation> mComputation;
     FResultsFileSteps mSteps{mResultsFile};
-    FResultsFileForm* mpForm = nullptr;
-    FSamplePane* mpSample = nullptr;
+    FResultsFileView* mpView = nullptr;
     FGenIntResultsFileEdit* mEdit = nullptr;  //!< of the sample
     std::unique_ptr<FSamplePointing> mpPointing;
-    QSplitter* mSplitter = nullptr;
     FExpr<FAttribCmdSetAverageRows> mAverageCmd;
     FAttributeEditor* mAverageAttributeEditor = nullptr;
     QString mLastType;     //!< the type that the current value had before its average was switched on
     bool mIsStale = true;  //!< what is shown may not be what the template holds
-    std::shared_ptr<FProblemWatch> mpProblems;
-    FTemplateReports* mpReports = nullptr;
-    QTimer mPreviewTimer;
 };

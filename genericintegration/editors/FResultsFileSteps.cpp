@@ -10,6 +10,10 @@
 
 namespace {
 
+QString separatorLabel() {
+    return QStringLiteral("change column separator");
+}
+
 GenIntAnchorOccurrence occurrenceOf(const FValueDescription& place) {
     return place.anchor.occurrence == FAnchorOccurrence::First ? GenIntAnchorOccurrence::First
                                                                : GenIntAnchorOccurrence::Last;
@@ -72,11 +76,7 @@ void FResultsFileSteps::changeValue(const QString& label, const ValueChange& cha
     }
 }
 
-void FResultsFileSteps::setCurrentValue(const FExpr<FGenIntResultsFileValue>& value) {
-    mSteps.end();
-    inStep(QStringLiteral("change results value"), false,
-           [&value](FGenIntResultsFile& file) { file.setCurValue(value); });
-}
+// ---- the template ----
 
 void FResultsFileSteps::setFileName(const QString& name, const QString& label) {
     if (!mFile || name == mFile->getFileName()) {
@@ -91,18 +91,22 @@ void FResultsFileSteps::setFileName(const QString& name, const QString& label) {
     });
 }
 
-QString FResultsFileSteps::rename(const QString& name) {
-    QString given = name;
-    changeValue(
-        QStringLiteral("Set results value name"),
-        [&](const FGenIntResultsFileValue& value) {
-            const QString before = value.mName;
-            given = mFile->setCurValueName(name);
-            FValueParameters::follow(*mFile.ptr(), {{}, mFile->getFileName(), before},
-                                     {{}, mFile->getFileName(), given});
-        },
-        true);
-    return given;
+void FResultsFileSteps::setNumberSeparator(bool numbers) {
+    change(separatorLabel(), [numbers](FGenIntResultsFile& file) { file.setNumberSeparator(numbers); });
+}
+
+void FResultsFileSteps::setSpacesAndTabsSeparator(bool isOn) {
+    change(separatorLabel(), [isOn](FGenIntResultsFile& file) { file.setSpacesAndTabsSeparator(isOn); });
+}
+
+void FResultsFileSteps::setRegularExpression(const QString& expression) {
+    change(separatorLabel(), [&expression](FGenIntResultsFile& file) { file.setRegExprSeparator(expression); });
+}
+
+void FResultsFileSteps::setCurrentValue(const FExpr<FGenIntResultsFileValue>& value) {
+    mSteps.end();
+    inStep(QStringLiteral("change results value"), false,
+           [&value](FGenIntResultsFile& file) { file.setCurValue(value); });
 }
 
 void FResultsFileSteps::addValue(const FValueDescription& place, const FExpr<FUnsigned>& averageRows) {
@@ -122,7 +126,69 @@ void FResultsFileSteps::deleteValue(const QString& next) {
     });
 }
 
-void FResultsFileSteps::moveValue(const FValueDescription& place, const QString& label) {
+// ---- the current value ----
+
+QString FResultsFileSteps::rename(const QString& name) {
+    QString given = name;
+    changeValue(
+        QStringLiteral("Set results value name"),
+        [&](const FGenIntResultsFileValue& value) {
+            const QString before = value.mName;
+            given = mFile->setCurValueName(name);
+            FValueParameters::follow(*mFile.ptr(), {{}, mFile->getFileName(), before},
+                                     {{}, mFile->getFileName(), given});
+        },
+        true);
+    return given;
+}
+
+void FResultsFileSteps::setType(const QString& type, const QString& importType) {
+    changeValue(QStringLiteral("change value type"), [&](FGenIntResultsFileValue& value) {
+        value.mType = FObject::getPrototype(type);
+        value.mImportType = importType;
+    });
+}
+
+void FResultsFileSteps::setImportType(const QString& type) {
+    changeValue(QStringLiteral("change file import type"),
+                [&type](FGenIntResultsFileValue& value) { value.mImportType = type; });
+}
+
+void FResultsFileSteps::setLine(int line) {
+    changeValue(
+        QStringLiteral("change line"), [line](FGenIntResultsFileValue& value) { value.mLine = line; }, true);
+}
+
+void FResultsFileSteps::setColumn(int column) {
+    changeValue(
+        QStringLiteral("change column"), [column](FGenIntResultsFileValue& value) { value.mColumn = column; }, true);
+}
+
+void FResultsFileSteps::setAnchor(const QString& anchor) {
+    changeValue(QStringLiteral("change anchor"), [&anchor](FGenIntResultsFileValue& value) { value.mAnchor = anchor; });
+}
+
+void FResultsFileSteps::setOccurrence(GenIntAnchorOccurrence occurrence) {
+    changeValue(QStringLiteral("change occurrence"), [occurrence](FGenIntResultsFileValue& value) {
+        value.mOccurrence = FEnum<GenIntAnchorOccurrence>(occurrence);
+    });
+}
+
+void FResultsFileSteps::setAverage(bool isOn, const FObject* type) {
+    const QString label = isOn ? QStringLiteral("active") : QStringLiteral("deactivate");
+    changeValue(label + QStringLiteral(" average calculation"), [&](FGenIntResultsFileValue& value) {
+        value.mCalcAverage = isOn;
+        value.mType = type;
+    });
+}
+
+void FResultsFileSteps::setAverageRows(const FExpr<FUnsigned>& rows) {
+    changeValue(
+        QStringLiteral("change average rows"),
+        [&rows](FGenIntResultsFileValue& value) { value.setNumAverageRows(rows); }, true);
+}
+
+void FResultsFileSteps::move(const FValueDescription& place, const QString& label) {
     changeValue(label, [&place](FGenIntResultsFileValue& value) {
         value.mLine = place.line;
         value.mColumn = place.column;
@@ -131,6 +197,8 @@ void FResultsFileSteps::moveValue(const FValueDescription& place, const QString&
         value.mCalcAverage = false;
     });
 }
+
+// ---- others ----
 
 // The template stays as it is.
 void FResultsFileSteps::createParameter(const QString& value, const QString& computation) {

@@ -53,6 +53,13 @@ FResultsPreview::FResultsPreview() {
     }
     constexpr QSize least(100, 50);
     setMinimumSize(least);
+    connect(this, &QTableWidget::cellClicked, this, &FResultsPreview::rowChosen);
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, &FResultsPreview::headerChosen);
+    connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
+        if (hasFocus() && row >= 0) {
+            emit rowChosen(row, column);
+        }
+    });
 }
 
 void FResultsPreview::clearRows() {
@@ -135,6 +142,11 @@ QString FResultsPreview::valueOf(int row) const {
     return header ? header->text() : QString();
 }
 
+int FResultsPreview::rowOfButtonAt(const QPoint& point) const {
+    const QPoint place = viewport()->mapFromGlobal(point);
+    return columnAt(place.x()) >= buttonColumn ? rowAt(place.y()) : -1;
+}
+
 void FResultsPreview::setNote(const QString& value, const QString& note) {
     const QSignalBlocker blocker(this);
     for (int row = 0; row < rowCount(); ++row) {
@@ -177,6 +189,7 @@ void FResultsPreview::fitNames() {
 void FResultsPreview::resizeEvent(QResizeEvent* event) {
     QTableWidget::resizeEvent(event);
     fitNames();
+    scrollTo(currentIndex());
 }
 
 void FResultsPreview::changeEvent(QEvent* event) {

@@ -27,8 +27,13 @@ class FResultsPreview : public QTableWidget {
     void select(const QString& value);
     /** The name of a row's value. */
     QString valueOf(int row) const;
+    /** The row of the button at a point of the screen; -1 if there is none. */
+    int rowOfButtonAt(const QPoint& point) const;
 
  signals:
+    /** The user has chosen a row, with the mouse or the keyboard. */
+    void rowChosen(int row, int column);
+    void headerChosen(int row);
     void parameterWanted(int row);
 
  protected:

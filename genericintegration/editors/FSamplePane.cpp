@@ -37,6 +37,12 @@ FSamplePane::FSamplePane(FGenIntResultsFileEditor& page) : mpEdit(new FGenIntRes
     connect(mpEdit->verticalScrollBar(), &QScrollBar::rangeChanged, this, &FSamplePane::followView);
 }
 
+FSamplePane::~FSamplePane() {
+    // The widget goes after this object.
+    disconnect(mpEdit, nullptr, this, nullptr);
+    disconnect(mpEdit->verticalScrollBar(), nullptr, this, nullptr);
+}
+
 bool FSamplePane::setText(const QString& text) {
     if (text == mText && mpEdit->document()->isEmpty() == text.isEmpty()) {
         return false;

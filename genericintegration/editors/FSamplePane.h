@@ -23,6 +23,7 @@ class FSamplePane : public QFrame {
 
  public:
     explicit FSamplePane(FGenIntResultsFileEditor& page);
+    ~FSamplePane() override;
 
     FGenIntResultsFileEdit& edit() { return *mpEdit; }
     /** Shows a text; what is in view stays in view. False, and nothing happens, if it is shown already. */

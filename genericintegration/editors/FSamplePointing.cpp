@@ -49,7 +49,7 @@ int FSamplePointing::rowReading(FTextRange number) const {
 }
 
 void FSamplePointing::moveValue(const FValueDescription& place, const QString& label) {
-    mSteps.moveValue(place, label);
+    mSteps.move(place, label);
     emit valueMoved();
 }
 
@@ -73,8 +73,7 @@ void FSamplePointing::setAnchor(FTextRange selection) {
     }
     const int line = sample.lineAtPosition(selection.begin);
     const QString text = sample.line(line).mid(selection.begin - sample.linePosition(line), selection.length);
-    mSteps.changeValue(QStringLiteral("change anchor"),
-                       [&text](FGenIntResultsFileValue& current) { current.mAnchor = text; });
+    mSteps.setAnchor(text);
     emit valueMoved();
 }
 

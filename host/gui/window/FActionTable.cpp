@@ -3,76 +3,23 @@
 #include "host/core/FHistory.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
-#include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FSetUpAssistant.h"
-#include "host/gui/base/FTheme.h"
 #include "host/gui/panels/FChainPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/panels/FTablePanel.h"
 #include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FNeeds.h"
 #include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
+#include "host/gui/window/FSubmenus.h"
 #include "host/lodm/FCustomComputation.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunSettings.h"
 
-#include <QActionGroup>
-#include <QDockWidget>
-#include <QFileInfo>
-#include <QKeySequence>
 #include <QMenu>
 
 namespace {
-
-// ---- why not ----
-
-const char* needsProject(const FSituation& now) {
-    return now.hasProject ? nullptr : "There is no project yet: make a set-up, or open a project";
-}
-
-const char* needsComputation(const FSituation& now) {
-    return now.computation ? nullptr : "There is no computation yet: make a set-up";
-}
-
-const char* needsIdleComputation(const FSituation& now) {
-    return now.isRunning ? "It is running: wait for its end, or stop it" : needsComputation(now);
-}
-
-const char* needsOutput(const FSituation& now) {
-    return now.canReread                       ? nullptr
-           : now.computation && !now.isRunning ? "No run has left output files"
-                                               : needsIdleComputation(now);
-}
-
-const char* needsResults(const FSituation& now) {
-    return now.hasResults ? nullptr : needsOutput(now);
-}
-
-const char* needsRun(const FSituation& now) {
-    return now.isAnyRunning ? nullptr : "Nothing is running";
-}
-
-const char* needsDoneStep(const FSituation& now) {
-    return now.undoLabel.isNull() ? "There is no step to undo" : nullptr;
-}
-
-const char* needsUndoneStep(const FSituation& now) {
-    return now.redoLabel.isNull() ? "No step was undone" : nullptr;
-}
-
-const char* needsOneObject(const FSituation& now) {
-    return now.selected == 1 ? nullptr : "Select one object first";
-}
-
-const char* needsObjects(const FSituation& now) {
-    return now.selected > 0 ? nullptr : "Select objects first";
-}
-
-const char* needsAssistant(const FSituation& now) {
-    Q_UNUSED(now)
-    return FSetUpAssistant::isThere() ? nullptr : "The plug-in that couples programs isn't installed";
-}
 
 // ---- texts ----
 
@@ -145,8 +92,8 @@ void showResults(FMainWindow& window) {
 }
 
 void rename(FMainWindow& window) {
-    window.raisePanel(QStringLiteral("objects"));
-    window.panel<FObjectTreeWgt>().renameSelected();
+    window.panels().raise(QStringLiteral("objects"));
+    window.panels().get<FObjectTreeWgt>().renameSelected();
 }
 
 void helpOnSelection(FMainWindow& window) {
@@ -154,49 +101,7 @@ void helpOnSelection(FMainWindow& window) {
     window.showHelp(objects.isEmpty() ? QStringLiteral("global") : objects.first().getObject()->getClass());
 }
 
-// ---- submenus ----
-
-void fillRecent(QMenu& menu, FMainWindow& window) {
-    for (const QString& path : FGuiSettings::getRecentProjects()) {
-        if (QFileInfo::exists(path)) {
-            menu.addAction(QFileInfo(path).fileName(), [&window, path] { window.projectFiles().open(path); })
-                ->setToolTip(path);
-        }
-    }
-    if (menu.isEmpty()) {
-        menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
-    }
-}
-
-void fillExamples(QMenu& menu, FMainWindow& window) {
-    for (const QString& name : FProjectFiles::getExamples()) {
-        menu.addAction(name, [&window, name] { window.projectFiles().openExample(name); });
-    }
-    if (menu.isEmpty()) {
-        menu.addAction(QStringLiteral("None installed"))->setEnabled(false);
-    }
-}
-
-void fillPanels(QMenu& menu, FMainWindow& window) {
-    for (const FPanelRow& row : FPanelTable::rows()) {
-        menu.addAction(window.dockOf(QString::fromLatin1(row.id))->toggleViewAction());
-    }
-}
-
-void fillAppearances(QMenu& menu, FMainWindow& window) {
-    using Appearance = FTheme::Appearance;
-    const std::pair<Appearance, const char*> rows[] = {
-        {Appearance::Desktop, "As the desktop"}, {Appearance::Light, "Light"}, {Appearance::Dark, "Dark"}};
-    auto* group = new QActionGroup(&menu);
-    for (const auto& row : rows) {
-        QAction* action = menu.addAction(QString::fromLatin1(row.second));
-        action->setCheckable(true);
-        action->setChecked(FTheme::getChosen() == row.first);
-        group->addAction(action);
-        QObject::connect(action, &QAction::triggered, &window,
-                         [appearance = row.first] { FTheme::choose(appearance); });
-    }
-}
+// ---- rows ----
 
 std::vector<FActionRow> fileRows() {
     return {
@@ -212,7 +117,7 @@ std::vector<FActionRow> fileRows() {
          .icon = "connector",
          .shortcut = "Ctrl+Shift+N",
          .tip = "Couple a program: its sample files become templates",
-         .whyNot = &needsAssistant,
+         .whyNot = &FNeeds::assistant,
          .run = [](FMainWindow& window) { FSetUpAssistant::open(&window); }},
         {.id = "openProject",
          .text = "&Open…",
@@ -225,26 +130,26 @@ std::vector<FActionRow> fileRows() {
          .text = "Open &recent",
          .icon = "document-open-recent",
          .tip = "Open a project that was open before",
-         .fill = &fillRecent},
+         .fill = &FSubmenus::recent},
         {.id = "openExample",
          .text = "Open an e&xample",
          .icon = "folder-templates",
          .tip = "Copy an example to a folder of yours, and open the copy",
-         .fill = &fillExamples},
+         .fill = &FSubmenus::examples},
         {.id = "saveProject",
          .text = "&Save",
          .icon = "document-save",
          .shortcut = "Ctrl+S",
          .tip = "Save the project",
          .isInToolbar = true,
-         .whyNot = &needsProject,
+         .whyNot = &FNeeds::project,
          .run = [](FMainWindow& window) { window.projectFiles().save(); }},
         {.id = "saveProjectAs",
          .text = "Save &as…",
          .icon = "document-save-as",
          .shortcut = "Ctrl+Shift+S",
          .tip = "Save the project under another name",
-         .whyNot = &needsProject,
+         .whyNot = &FNeeds::project,
          .run = [](FMainWindow& window) { window.projectFiles().saveAs(); }},
         {.id = "executeScript",
          .group = 1,
@@ -278,7 +183,7 @@ std::vector<FActionRow> editRows() {
          .shortcut = "Ctrl+Z",
          .tip = "Undo the last step",
          .isInToolbar = true,
-         .whyNot = &needsDoneStep,
+         .whyNot = &FNeeds::doneStep,
          .run = &undo,
          .textNow = &undoText},
         {.id = "redo",
@@ -287,7 +192,7 @@ std::vector<FActionRow> editRows() {
          .shortcut = "Ctrl+Shift+Z",
          .tip = "Redo the step that was undone last",
          .isInToolbar = true,
-         .whyNot = &needsUndoneStep,
+         .whyNot = &FNeeds::undoneStep,
          .run = &redo,
          .textNow = &redoText},
         {.id = "rename",
@@ -296,7 +201,7 @@ std::vector<FActionRow> editRows() {
          .icon = "edit-rename",
          .shortcut = "F2",
          .tip = "Change the name of the selected object",
-         .whyNot = &needsOneObject,
+         .whyNot = &FNeeds::oneObject,
          .run = &rename},
         {.id = "delete",
          .group = 1,
@@ -304,7 +209,7 @@ std::vector<FActionRow> editRows() {
          .icon = "edit-delete",
          .shortcut = "Ctrl+Del",
          .tip = "Delete the selected objects",
-         .whyNot = &needsObjects,
+         .whyNot = &FNeeds::objects,
          .run = [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
         {.id = "find",
          .group = 2,
@@ -322,28 +227,28 @@ std::vector<FActionRow> viewRows() {
          .text = "&Panels",
          .icon = "view-list-tree",
          .tip = "Show or hide panels",
-         .whyNot = &needsProject,
-         .fill = &fillPanels},
+         .whyNot = &FNeeds::project,
+         .fill = &FSubmenus::panels},
         {.id = "movePanel",
          .text = "&Move the panel",
          .icon = "transform-move",
          .tip = "Move the panel that has the focus",
-         .whyNot = &needsProject,
-         .fill = [](QMenu& menu, FMainWindow& window) { window.panelDocks().fillMenu(menu); }},
+         .whyNot = &FNeeds::project,
+         .fill = [](QMenu& menu, FMainWindow& window) { window.panels().fillMenu(menu); }},
         {.id = "appearance",
          .group = 1,
          .text = "&Appearance",
          .icon = "preferences-desktop-theme",
          .tip = "Light or dark colours",
-         .fill = &fillAppearances},
+         .fill = &FSubmenus::appearances},
         {.id = "resetLayout",
          .group = 2,
          .text = "&Reset the layout",
          .icon = "view-restore",
          .shortcut = "Ctrl+Shift+L",
          .tip = "Put all panels where they are in a new installation",
-         .whyNot = &needsProject,
-         .run = [](FMainWindow& window) { window.resetLayout(); }},
+         .whyNot = &FNeeds::project,
+         .run = [](FMainWindow& window) { window.panels().reset(); }},
     };
 }
 
@@ -355,7 +260,7 @@ std::vector<FActionRow> runRows() {
          .shortcut = "F5",
          .tip = "Write the input files and run the program",
          .isInToolbar = true,
-         .whyNot = &needsIdleComputation,
+         .whyNot = &FNeeds::idleComputation,
          .run = &run,
          .textNow = &runText},
         {.id = "stop",
@@ -364,7 +269,7 @@ std::vector<FActionRow> runRows() {
          .shortcut = "Shift+F5",
          .tip = "End the program that is running",
          .isInToolbar = true,
-         .whyNot = &needsRun,
+         .whyNot = &FNeeds::run,
          .run = &stop},
         {.id = "reread",
          .text = "Re-read r&esults",
@@ -372,7 +277,7 @@ std::vector<FActionRow> runRows() {
          .shortcut = "Ctrl+F5",
          .tip = "Read the output files again, with the present marks",
          .isInToolbar = true,
-         .whyNot = &needsOutput,
+         .whyNot = &FNeeds::output,
          .run = &reread},
         {.id = "preview",
          .group = 1,
@@ -380,7 +285,7 @@ std::vector<FActionRow> runRows() {
          .icon = "document-preview",
          .shortcut = "Ctrl+P",
          .tip = "Show the input files as a run would write them",
-         .whyNot = &needsComputation,
+         .whyNot = &FNeeds::computation,
          .run = &preview},
         {.id = "suppliersFirst",
          .group = 2,
@@ -396,8 +301,8 @@ std::vector<FActionRow> runRows() {
          .icon = "document-export",
          .shortcut = "Ctrl+Shift+P",
          .tip = "Write the picture of the computations and their links to an SVG file",
-         .whyNot = &needsComputation,
-         .run = [](FMainWindow& window) { window.panel<FChainPanel>().exportPicture(); }},
+         .whyNot = &FNeeds::computation,
+         .run = [](FMainWindow& window) { window.panels().get<FChainPanel>().exportPicture(); }},
     };
 }
 
@@ -408,14 +313,14 @@ std::vector<FActionRow> resultRows() {
          .icon = "results",
          .shortcut = "Ctrl+T",
          .tip = "Show the numbers that were read from the output files",
-         .whyNot = &needsResults,
+         .whyNot = &FNeeds::results,
          .run = &showResults},
         {.id = "compareResults",
          .text = "&Compare with the run before",
          .icon = "view-split-left-right",
          .shortcut = "Ctrl+Shift+T",
          .tip = "Show the numbers of the run before beside those of the last one",
-         .whyNot = &needsResults,
+         .whyNot = &FNeeds::results,
          .run =
              [](FMainWindow& window) {
                  if (FTablePanel* panel = openResults(window)) {
@@ -428,7 +333,7 @@ std::vector<FActionRow> resultRows() {
          .icon = "document-export",
          .shortcut = "Ctrl+Shift+E",
          .tip = "Write the numbers, with their places, to a file for spreadsheets",
-         .whyNot = &needsResults,
+         .whyNot = &FNeeds::results,
          .run =
              [](FMainWindow& window) {
                  if (FTablePanel* panel = openResults(window)) {

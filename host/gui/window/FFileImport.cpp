@@ -8,6 +8,7 @@
 #include "host/gui/base/FMessageCatcher.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/lodm/FImport.h"
 #include "host/run/FExternComputation.h"
 
@@ -81,7 +82,7 @@ void FFileImport::tell(const QString& file) const {
         mWindow.notices().showNotice(summary(file));
     } else {
         mWindow.notices().showNotice(summary(file), QStringLiteral("Show the messages"),
-                                     [window = &mWindow] { window->raisePanel(QStringLiteral("log")); });
+                                     [window = &mWindow] { window->panels().raise(QStringLiteral("log")); });
     }
 }
 

@@ -7,6 +7,7 @@
 #include "host/gui/base/FIcons.h"
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/script/FCmdManager.h"
 
 #include <QAbstractItemView>
@@ -131,7 +132,7 @@ void FFindField::addEntries() {
                 QStringLiteral("entry of %1").arg(object->getName()), [this, handle, path] {
                     if (handle) {
                         mWindow.showEntry(handle.ptr(), path);
-                        mWindow.raisePanel(QStringLiteral("editor"));
+                        mWindow.panels().raise(QStringLiteral("editor"));
                     }
                 });
         }

@@ -9,6 +9,7 @@
 #include "host/gui/base/FTheme.h"
 #include "host/gui/window/FActions.h"
 #include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FWindowUserInterface.h"
 #include "host/script/FProject.h"
@@ -55,8 +56,8 @@ QPixmap pictureOf(QWidget& window) {
 
 void FGuiSession::show(FMainWindow& window) const {
     for (const QString& what : shown) {
-        if (window.panel(what)) {
-            window.raisePanel(what);
+        if (window.panels().dockOf(what)) {
+            window.panels().raise(what);
         } else if (QAction* action = window.actions().get(what)) {
             action->trigger();
         } else if (FObjectManager::instance()->find(what.section(QLatin1Char(':'), 0, 0))) {

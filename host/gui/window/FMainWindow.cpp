@@ -29,7 +29,6 @@
 #include "host/gui/window/FNoticeBar.h"
 #include "host/gui/window/FPageTabs.h"
 #include "host/gui/window/FPanelDocks.h"
-#include "host/gui/window/FPanelTable.h"
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FStartPage.h"
 #include "host/run/FExternComputation.h"
@@ -45,7 +44,6 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
@@ -58,10 +56,6 @@ namespace {
 
 const QSize usualSize(1480, 920);
 constexpr int statusTime = 8000;  // milliseconds
-
-QString dockName(const QString& panel) {
-    return panel + QStringLiteral("Dock");
-}
 
 QString projectName() {
     const QString file = FMerixCtrl::instance()->getProjectFile();
@@ -81,7 +75,6 @@ FMainWindow::FMainWindow() {
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     mpProjectFiles = new FProjectFiles(*this);
     mpActions = new FActions(*this);
-    mpPanelDocks = std::make_unique<FPanelDocks>(*this);
 
     auto* centre = new QWidget(this);
     auto* column = new QVBoxLayout(centre);
@@ -99,7 +92,7 @@ FMainWindow::FMainWindow() {
     setCentralWidget(centre);
 
     makeToolbar();
-    makeDocks();
+    mpPanels = std::make_unique<FPanelDocks>(*this);
     mpActions->fillMenus(*menuBar());
     makeStatusBar();
     listen();
@@ -114,9 +107,8 @@ FMainWindow::FMainWindow() {
 FMainWindow::~FMainWindow() {
     // Documents refer to panels, and both to members of the window, which are destroyed before its children.
     mpPages.reset();
-    mpPanelDocks.reset();
     delete centralWidget();
-    qDeleteAll(mDocks);
+    mpPanels.reset();
 }
 
 void FMainWindow::makeToolbar() {
@@ -138,36 +130,17 @@ void FMainWindow::makeToolbar() {
     setContextMenuPolicy(Qt::NoContextMenu);  // Qt's own menu could hide the toolbar for good
 }
 
-void FMainWindow::makeDocks() {
-    for (const FPanelRow& row : FPanelTable::rows()) {
-        const QString id = QString::fromLatin1(row.id);
-        auto* dock = new QDockWidget(QString::fromLatin1(row.title), this);
-        dock->setObjectName(dockName(id));
-        dock->setWindowIcon(FIcons::get(QString::fromLatin1(row.icon)));
-        QWidget* panel = row.make(*this);
-        panel->setObjectName(id);
-        panel->setAccessibleName(dock->windowTitle());
-        dock->setWidget(panel);
-        dock->toggleViewAction()->setIcon(dock->windowIcon());
-        auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.shortcut)), this);
-        connect(shortcut, &QShortcut::activated, this, [this, id] { raisePanel(id); });
-        mDocks.insert(id, dock);
-        mpPanelDocks->add(dock);
-    }
-    arrangeDocks();
-}
-
 void FMainWindow::makeStatusBar() {
     mpProblems = new QToolButton(this);
     mpProblems->setObjectName(QStringLiteral("problemCount"));
     mpProblems->setAutoRaise(true);
     mpProblems->setToolTip(QStringLiteral("Show the problems of the set-ups"));
-    connect(mpProblems, &QToolButton::clicked, this, [this] { raisePanel(QStringLiteral("problems")); });
+    connect(mpProblems, &QToolButton::clicked, this, [this] { mpPanels->raise(QStringLiteral("problems")); });
     statusBar()->addPermanentWidget(mpProblems);
     mpRunState = new QLabel(this);
     mpRunState->setObjectName(QStringLiteral("runState"));
     statusBar()->addPermanentWidget(mpRunState);
-    const FProblemModel& problems = panel<FProblemsPanel>().model();
+    const FProblemModel& problems = mpPanels->get<FProblemsPanel>().model();
     connect(&problems, &FProblemModel::checked, this, [this, &problems] { showProblemCount(problems.rowCount()); });
     showProblemCount(0);
 }
@@ -177,37 +150,8 @@ void FMainWindow::showProblemCount(int count) {
     mpProblems->setText(count == 0   ? QStringLiteral("No problems")
                         : count == 1 ? QStringLiteral("1 problem")
                                      : QStringLiteral("%1 problems").arg(count));
-    dockOf(QStringLiteral("problems"))
+    mpPanels->dockOf(QStringLiteral("problems"))
         ->setWindowTitle(count == 0 ? problems : QStringLiteral("%1 (%2)").arg(problems).arg(count));
-}
-
-void FMainWindow::arrangeDocks() {
-    QHash<int, QDockWidget*> firstOfArea;
-    for (const FPanelRow& row : FPanelTable::rows()) {
-        QDockWidget* dock = mDocks.value(QString::fromLatin1(row.id));
-        dock->setFloating(false);
-        addDockWidget(row.area, dock);
-        QDockWidget*& first = firstOfArea[row.area];
-        if (first) {
-            tabifyDockWidget(first, dock);
-        } else {
-            first = dock;
-        }
-    }
-    for (QDockWidget* first : firstOfArea) {
-        first->raise();
-    }
-    const int em = fontMetrics().averageCharWidth();
-    constexpr int leftWidth = 34;  // characters, but at most that part of the window
-    constexpr int leftPart = 5;
-    constexpr int rightWidth = 46;
-    constexpr int rightPart = 4;
-    constexpr int bottomLines = 14;
-    constexpr int bottomPart = 3;
-    resizeDocks({firstOfArea.value(Qt::LeftDockWidgetArea), firstOfArea.value(Qt::RightDockWidgetArea)},
-                {qMin(leftWidth * em, width() / leftPart), qMin(rightWidth * em, width() / rightPart)}, Qt::Horizontal);
-    resizeDocks({firstOfArea.value(Qt::BottomDockWidgetArea)},
-                {qMin(bottomLines * fontMetrics().height(), height() / bottomPart)}, Qt::Vertical);
 }
 
 void FMainWindow::listen() {
@@ -261,56 +205,16 @@ void FMainWindow::showProject(bool isThere) {
         if (mShowsProject) {
             FGuiSettings::setState(saveState());
         }
-        for (QDockWidget* dock : mDocks) {
-            dock->hide();
-        }
+        mpPanels->hideAll();
         mpStartPage->refresh();
         mpCentre->setCurrentWidget(mpStartPage);
     } else {
         mpCentre->setCurrentWidget(mpDocuments);
         if (!restoreState(FGuiSettings::getState())) {
-            resetLayout();
+            mpPanels->reset();
         }
     }
     mShowsProject = isThere;
-}
-
-void FMainWindow::resetLayout() {
-    arrangeDocks();
-    for (QDockWidget* dock : mDocks) {
-        dock->show();
-    }
-    // Of each area, the first panel ends in front.
-    const std::vector<FPanelRow>& rows = FPanelTable::rows();
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-        dockOf(QString::fromLatin1(row->id))->raise();
-    }
-}
-
-QList<QWidget*> FMainWindow::panels() const {
-    QList<QWidget*> all;
-    for (const QDockWidget* dock : mDocks) {
-        all.append(dock->widget());
-    }
-    return all;
-}
-
-QWidget* FMainWindow::panel(const QString& id) const {
-    const QDockWidget* dock = dockOf(id);
-    return dock ? dock->widget() : nullptr;
-}
-
-void FMainWindow::raisePanel(const QString& id) {
-    for (const FPanelRow& row : FPanelTable::rows()) {
-        if (id == QLatin1String(row.id)) {
-            QDockWidget* dock = dockOf(id);
-            dock->show();
-            dock->raise();
-            if (auto* widget = dock->findChild<QWidget*>(QString::fromLatin1(row.focus))) {
-                widget->setFocus();
-            }
-        }
-    }
 }
 
 void FMainWindow::focusFind() {
@@ -319,16 +223,16 @@ void FMainWindow::focusFind() {
 
 void FMainWindow::showObject(FManaged* object) {
     FSelectionSet::instance()->set({FExpr<FObject>(object)});
-    panel<FObjectTreeWgt>().reveal(object);
+    mpPanels->get<FObjectTreeWgt>().reveal(object);
 }
 
 void FMainWindow::showEntry(FManaged* configuration, const QString& path) {
     showObject(configuration);
-    QDockWidget* dock = dockOf(QStringLiteral("editor"));
+    QDockWidget* dock = mpPanels->dockOf(QStringLiteral("editor"));
     dock->show();
     dock->raise();
     // The editor shows the selection from the event loop.
-    QTimer::singleShot(0, this, [this, path] { panel<FObjectEditorPanel>().entries().showEntry(path); });
+    QTimer::singleShot(0, this, [this, path] { mpPanels->get<FObjectEditorPanel>().entries().showEntry(path); });
 }
 
 void FMainWindow::showFile(const Place& place) {
@@ -372,7 +276,7 @@ FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
     const QString key = FTablePanel::keyOf(results);
     QWidget* document =
         mpDocuments->open(key, FTablePanel::titleOf(results), FIcons::get(QStringLiteral("results")), [&] {
-            auto* shown = new FTablePanel(*this, panel<FRunPanel>().model(), results);
+            auto* shown = new FTablePanel(*this, mpPanels->get<FRunPanel>().model(), results);
             connect(
                 shown, &FTablePanel::gone, this, [this, key] { mpDocuments->close(key); }, Qt::QueuedConnection);
             return shown;
@@ -382,13 +286,13 @@ FTablePanel* FMainWindow::openResults(const FExpr<FResultsGeneric>& results) {
 }
 
 void FMainWindow::showHelp(const QString& topic) {
-    panel<FHelpPanel>().showTopic(topic);
-    raisePanel(QStringLiteral("help"));
+    mpPanels->get<FHelpPanel>().showTopic(topic);
+    mpPanels->raise(QStringLiteral("help"));
 }
 
 void FMainWindow::showHelpText(const QString& markdown) {
-    raisePanel(QStringLiteral("help"));
-    panel<FHelpPanel>().showText(markdown);
+    mpPanels->raise(QStringLiteral("help"));
+    mpPanels->get<FHelpPanel>().showText(markdown);
 }
 
 void FMainWindow::showDocument(const QString& page) {
@@ -417,9 +321,7 @@ void FMainWindow::executeLocked(const std::function<void()>& function) {
         centralWidget()->setEnabled(!isLocked);
         menuBar()->setEnabled(!isLocked);
         mpFind->setEnabled(!isLocked);
-        for (QDockWidget* dock : mDocks) {
-            dock->widget()->setEnabled(!isLocked);
-        }
+        mpPanels->setEnabled(!isLocked);
         refresh();
     };
     lock(true);

@@ -7,10 +7,8 @@
 #include "host/gui/window/FSituation.h"
 #include "host/gui/window/FUnsavedWork.h"
 
-#include <QHash>
 #include <QMainWindow>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -24,7 +22,6 @@ class FPanelDocks;
 class FProjectFiles;
 class FStartPage;
 class FTablePanel;
-class QDockWidget;
 class QLabel;
 class QStackedWidget;
 class QToolButton;
@@ -46,21 +43,9 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FNoticeBar& notices() { return *mpNotices; }
     FRunTarget& runTarget() { return mRunTarget; }
     FUnsavedWork& unsavedWork() { return mUnsaved; }
-    FPanelDocks& panelDocks() { return *mpPanelDocks; }
+    FPanelDocks& panels() { return *mpPanels; }
     FSituation situation() const { return FSituation::now(mRunTarget, mUnsaved); }
 
-    /** The panel of that class, which is one of the classes in FPanelTable. */
-    template <class Panel>
-    Panel& panel() const {
-        const QList<QWidget*> all = panels();
-        const auto isSought = [](const QWidget* candidate) { return dynamic_cast<const Panel*>(candidate) != nullptr; };
-        return dynamic_cast<Panel&>(**std::find_if(all.begin(), all.end(), isSought));
-    }
-    /** The panel of that id; null if there is none. */
-    QWidget* panel(const QString& id) const;
-    QDockWidget* dockOf(const QString& panel) const { return mDocks.value(panel); }
-    /** Shows the panel in front of others, and gives it the focus. */
-    void raisePanel(const QString& id);
     void focusFind();
     /** Shows results as a document; null for empty ones. */
     FTablePanel* openResults(const FExpr<FResultsGeneric>& results);
@@ -71,9 +56,6 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     /** Shows a page of the documentation that comes with the program, by its path there. */
     void showDocument(const QString& page);
     void showAbout();
-    /** Puts panels and toolbars where they are in a new installation. */
-    void resetLayout();
-
     /** Shows the page of an object, if it has one. */
     void showPage(FManaged* object);
 
@@ -93,14 +75,11 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void dropEvent(QDropEvent* event) override;
 
  private:
-    QList<QWidget*> panels() const;
-    void makeDocks();
     void makeToolbar();
     void makeStatusBar();
     void showProblemCount(int count);
     void listen();
     void showFirstConnector();
-    void arrangeDocks();
     /** Brings actions, title and status line up to date, from the event loop. */
     void refresh();
     void showProject(bool isThere);
@@ -120,8 +99,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FManualWindow* mpManual = nullptr;  //!< from the first page on that is shown
     QToolButton* mpProblems = nullptr;
     QLabel* mpRunState = nullptr;
-    QHash<QString, QDockWidget*> mDocks;
-    std::unique_ptr<FPanelDocks> mpPanelDocks;
+    std::unique_ptr<FPanelDocks> mpPanels;
     bool mShowsProject = false;
     bool mIsLocked = false;
 };

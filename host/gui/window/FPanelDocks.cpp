@@ -1,24 +1,134 @@
 #include "host/gui/window/FPanelDocks.h"
 
 #include "host/gui/base/FIcons.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelTable.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QMainWindow>
+#include <QHash>
 #include <QMenu>
+#include <QShortcut>
 #include <QTabBar>
 
-FPanelDocks::FPanelDocks(QMainWindow& window) : mWindow(window) {
+#include <utility>
+
+namespace {
+
+QString dockName(const QString& panel) {
+    return panel + QStringLiteral("Dock");
+}
+
+}  // namespace
+
+FPanelDocks::FPanelDocks(FMainWindow& window) : mWindow(window) {
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        add(row);
+    }
+    arrange();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { noteFocus(now); });
 }
 
-void FPanelDocks::add(QDockWidget* dock) {
-    mDocks.push_back(dock);
+// The focus moves while they are destroyed.
+FPanelDocks::~FPanelDocks() {
+    qDeleteAll(std::exchange(mDocks, {}));
+}
+
+void FPanelDocks::add(const FPanelRow& row) {
+    const QString id = QString::fromLatin1(row.id);
+    auto* dock = new QDockWidget(QString::fromLatin1(row.title), &mWindow);
+    dock->setObjectName(dockName(id));
+    dock->setWindowIcon(FIcons::get(QString::fromLatin1(row.icon)));
+    QWidget* panel = row.make(mWindow);
+    panel->setObjectName(id);
+    panel->setAccessibleName(dock->windowTitle());
+    dock->setWidget(panel);
+    dock->toggleViewAction()->setIcon(dock->windowIcon());
+    auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.shortcut)), &mWindow);
+    connect(shortcut, &QShortcut::activated, this, [this, id] { raise(id); });
     dock->installEventFilter(this);
     const auto showSoon = [this] { mShowTitles.request(); };
     connect(dock, &QDockWidget::topLevelChanged, this, showSoon);
     connect(dock, &QDockWidget::dockLocationChanged, this, showSoon);
     connect(dock, &QDockWidget::visibilityChanged, this, showSoon);
+    mDocks.push_back(dock);
+}
+
+QDockWidget* FPanelDocks::dockOf(const QString& id) const {
+    const auto found = std::find_if(mDocks.begin(), mDocks.end(),
+                                    [&](const QDockWidget* dock) { return dock->objectName() == dockName(id); });
+    return found == mDocks.end() ? nullptr : *found;
+}
+
+void FPanelDocks::raise(const QString& id) {
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        if (id == QLatin1String(row.id)) {
+            QDockWidget* dock = dockOf(id);
+            dock->show();
+            dock->raise();
+            if (auto* widget = dock->findChild<QWidget*>(QString::fromLatin1(row.focus))) {
+                widget->setFocus();
+            }
+        }
+    }
+}
+
+void FPanelDocks::hideAll() {
+    for (QDockWidget* dock : mDocks) {
+        dock->hide();
+    }
+}
+
+void FPanelDocks::setEnabled(bool isEnabled) {
+    for (const QDockWidget* dock : mDocks) {
+        dock->widget()->setEnabled(isEnabled);
+    }
+}
+
+// ---- places ----
+
+void FPanelDocks::arrange() {
+    QHash<int, QDockWidget*> firstOfArea;
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        QDockWidget* dock = dockOf(QString::fromLatin1(row.id));
+        dock->setFloating(false);
+        mWindow.addDockWidget(row.area, dock);
+        QDockWidget*& first = firstOfArea[row.area];
+        if (first) {
+            mWindow.tabifyDockWidget(first, dock);
+        } else {
+            first = dock;
+        }
+    }
+    for (QDockWidget* first : firstOfArea) {
+        first->raise();
+    }
+    const int em = mWindow.fontMetrics().averageCharWidth();
+    constexpr int leftWidth = 34;  // characters, but at most that part of the window
+    constexpr int leftPart = 5;
+    constexpr int rightWidth = 46;
+    constexpr int rightPart = 4;
+    constexpr int bottomLines = 14;
+    constexpr int bottomPart = 3;
+    mWindow.resizeDocks(
+        {firstOfArea.value(Qt::LeftDockWidgetArea), firstOfArea.value(Qt::RightDockWidgetArea)},
+        {qMin(leftWidth * em, mWindow.width() / leftPart), qMin(rightWidth * em, mWindow.width() / rightPart)},
+        Qt::Horizontal);
+    mWindow.resizeDocks({firstOfArea.value(Qt::BottomDockWidgetArea)},
+                        {qMin(bottomLines * mWindow.fontMetrics().height(), mWindow.height() / bottomPart)},
+                        Qt::Vertical);
+}
+
+// Of each area, the first panel ends in front.
+void FPanelDocks::reset() {
+    arrange();
+    for (QDockWidget* dock : mDocks) {
+        dock->show();
+    }
+    for (auto dock = mDocks.rbegin(); dock != mDocks.rend(); ++dock) {
+        (*dock)->raise();
+    }
 }
 
 void FPanelDocks::noteFocus(const QWidget* widget) {

@@ -10,6 +10,7 @@
 #include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FRecoveryQuestion.h"
 #include "host/run/FPathManager.h"
 #include "host/script/FAutosave.h"
@@ -122,7 +123,7 @@ void FProjectFiles::open(const QString& path) {
 
 void FProjectFiles::showFailure(const QString& text) {
     mWindow.notices().showNotice(text, QStringLiteral("Show the messages"),
-                                 [this] { mWindow.raisePanel(QStringLiteral("log")); });
+                                 [this] { mWindow.panels().raise(QStringLiteral("log")); });
 }
 
 bool FProjectFiles::save() {

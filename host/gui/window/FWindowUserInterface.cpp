@@ -8,6 +8,7 @@
 #include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "host/gui/window/FTextsDialog.h"
 
 #include <QApplication>
@@ -89,7 +90,7 @@ void FWindowUserInterface::showTexts(const QString& title, const QMap<QString, Q
 
 QObject* FWindowUserInterface::getObjectEditor(const FExprBase& object) {
     FSelectionSet::instance()->set({FExpr<FObject>(object)});
-    return &mWindow.panel<FObjectEditorPanel>();
+    return &mWindow.panels().get<FObjectEditorPanel>();
 }
 
 void FWindowUserInterface::showPage(FManaged* object) {
@@ -115,7 +116,7 @@ void FWindowUserInterface::setClipboardText(const QString& text) {
 
 void FWindowUserInterface::reinitializeEditor(bool all) {
     Q_UNUSED(all)
-    mWindow.panel<FObjectEditorPanel>().rebuild();
+    mWindow.panels().get<FObjectEditorPanel>().rebuild();
 }
 
 void FWindowUserInterface::hold(What what, bool isHeld) {
@@ -124,10 +125,10 @@ void FWindowUserInterface::hold(What what, bool isHeld) {
             isHeld ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
             break;
         case What::ObjectTree:
-            mWindow.panel<FObjectTreeWgt>().model().hold(isHeld);
+            mWindow.panels().get<FObjectTreeWgt>().model().hold(isHeld);
             break;
         case What::Editors:
-            mWindow.panel<FObjectEditorPanel>().hold(isHeld);
+            mWindow.panels().get<FObjectEditorPanel>().hold(isHeld);
             break;
     }
 }

@@ -47,7 +47,7 @@ void FWindowTest::trigger(const QString& id) {
 }
 
 void FWindowTest::openPanel(const QString& id) {
-    mpWindow->raisePanel(id);
+    mpWindow->panels().raise(id);
     settle();
 }
 

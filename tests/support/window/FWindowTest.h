@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelDocks.h"
 #include "tests/support/FModelTest.h"
 #include "tests/support/waitUntil.h"
 #include "tests/support/window/FAnsweringInterface.h"

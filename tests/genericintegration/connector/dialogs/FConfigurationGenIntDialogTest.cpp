@@ -20,7 +20,7 @@ class FConfigurationGenIntDialogTest : public FWindowTest {
     /** Opens the dialog from the menu of the tree, and presses a button. */
     void choose(const QString& button) {
         QMenu menu;
-        window().panel<FObjectTreeWgt>().fillMenu(menu);
+        window().panels().get<FObjectTreeWgt>().fillMenu(menu);
         menu.findChild<QMenu*>("newObjectMenu")->actions().last()->trigger();
         settle();
         QTest::mouseClick(find<QPushButton>(button), Qt::LeftButton);

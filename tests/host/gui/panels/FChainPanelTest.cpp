@@ -210,7 +210,7 @@ TEST_F(FChainPanelTest, aThousandBoxesAreShownAndReachedByKeys) {
                                .arg(i - 1)
                                .arg(i / 3);
     }
-    window().raisePanel("chain");
+    window().panels().raise("chain");
     ASSERT_TRUE(run(script));
     settle();
     EXPECT_EQ(scene().boxes().size(), 1000);

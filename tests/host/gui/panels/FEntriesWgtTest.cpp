@@ -60,7 +60,7 @@ genericIntegrationComputation solver() { .setConfiguration(values) }
     QString text(const QString& path, int column = FEntryModel::valueColumn) {
         return cell(path, column).data().toString();
     }
-    FEntriesWgt& entries() { return window().panel<FObjectEditorPanel>().entries(); }
+    FEntriesWgt& entries() { return window().panels().get<FObjectEditorPanel>().entries(); }
     /** Opens the editor of a cell as a user does. */
     template <class Editor = QLineEdit>
     Editor* edit(const QModelIndex& index) {

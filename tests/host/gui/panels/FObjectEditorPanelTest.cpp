@@ -38,7 +38,7 @@ class FObjectEditorPanelTest : public FWindowTest {
     template <class Widget>
     Widget* field(const QString& command) {
         settle();
-        return window().panel("editor")->findChild<Widget*>(command);
+        return window().panels().dockOf("editor")->findChild<Widget*>(command);
     }
     void replace(QLineEdit* line, const QString& text, Qt::Key end = Qt::Key_Return) {
         line->setFocus();
@@ -208,7 +208,7 @@ TEST_F(FObjectEditorPanelTest, theNameIsEditedAndADestroyedObjectIsGoneAtOnce) {
 
 TEST_F(FObjectEditorPanelTest, requiredAndGroupedRowsAreRebuiltOnRequest) {
     select({"solver"});
-    const auto rows = window().panel("editor")->findChildren<QWidget*>("AttributeRow");
+    const auto rows = window().panels().dockOf("editor")->findChildren<QWidget*>("AttributeRow");
     int last = 0;
     for (const QWidget* row : rows) {
         last += row->property("last").toBool() ? 1 : 0;

@@ -176,7 +176,7 @@ TEST_F(FObjectTreeTest, openBranchesStayOpenWhenManyObjectsCome) {
 TEST_F(FObjectTreeTest, newGeometryIsAddedFromTheMenuAndNamed) {
     const auto add = [this](int row) {
         QMenu menu;
-        window().panel<FObjectTreeWgt>().fillMenu(menu);
+        window().panels().get<FObjectTreeWgt>().fillMenu(menu);
         menu.findChild<QMenu*>("newObjectMenu")->actions().at(row)->trigger();
         settle();
     };

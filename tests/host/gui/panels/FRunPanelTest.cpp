@@ -44,7 +44,7 @@ class FRunPanelTest : public FWindowTest {
         openPanel("runs");
     }
 
-    FRunModel& model() { return window().panel<FRunPanel>().model(); }
+    FRunModel& model() { return window().panels().get<FRunPanel>().model(); }
     FExternComputation* solver() { return object<FExternComputation>("solver"); }
     void start(const QString& command) {
         EXPECT_TRUE(FWindowTest::run(QString("solver.setArguments([\"-c\", \"%1\"])").arg(command)));

@@ -77,9 +77,9 @@ TEST_F(FFileImportTest, whatCannotBeImportedIsSaidWithItsPlaceAndWhatToDo) {
               "lost. Undo takes all of it back. Show the messages");
     const int line = whole.left(whole.lastIndexOf("<?xml", whole.indexOf("name=\"def2\""))).count('\n') + 1;
     EXPECT_TRUE(logHolds(QString("cut.lodm:%1:1: ").arg(line))) << logText();
-    window().dockOf("log")->close();
+    window().panels().dockOf("log")->close();
     emit find<QLabel>("noticeText")->linkActivated("#");
-    EXPECT_TRUE(window().dockOf("log")->isVisible());
+    EXPECT_TRUE(window().panels().dockOf("log")->isVisible());
     trigger("undo");
     EXPECT_EQ(savedModel(), "");
 

@@ -38,7 +38,7 @@ TEST_F(FFindFieldTest, objectsEntriesActionsAndCommandsAreFoundByAPartOfTheirNam
     choose("try|span");
     EXPECT_EQ(FSelectionSet::instance()->getObjects().value(0).toString(), "values");
     EXPECT_TRUE(waitUntil([&] {
-        const auto* tree = window().panel("editor")->findChild<QTreeView*>("entryTree");
+        const auto* tree = window().panels().dockOf("editor")->findChild<QTreeView*>("entryTree");
         return tree && tree->currentIndex().data().toString() == "span";
     }));
     choose("Undo");

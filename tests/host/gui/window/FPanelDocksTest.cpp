@@ -15,7 +15,7 @@ class FPanelDocksTest : public FWindowTest {
         settle();
     }
 
-    QDockWidget& dock(const QString& panel) { return *window().dockOf(panel); }
+    QDockWidget& dock(const QString& panel) { return *window().panels().dockOf(panel); }
     bool hasTitleBar(const QString& panel) {
         settle();
         return !dock(panel).titleBarWidget();

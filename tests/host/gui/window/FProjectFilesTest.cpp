@@ -50,21 +50,21 @@ const char* const sleeper =
 
 TEST_F(FProjectFilesTest, theWindowStartsWithoutPanelsAndShowsThemWithTheFirstObject) {
     EXPECT_TRUE(find("startPage")->isVisible());
-    EXPECT_FALSE(window().dockOf("objects")->isVisible());
+    EXPECT_FALSE(window().panels().dockOf("objects")->isVisible());
     EXPECT_EQ(window().windowTitle(), "merix");
     ASSERT_TRUE(run("parameter span(1)"));
     settle();
     EXPECT_FALSE(find("startPage")->isVisible());
-    EXPECT_TRUE(window().dockOf("objects")->isVisible());
+    EXPECT_TRUE(window().panels().dockOf("objects")->isVisible());
     EXPECT_EQ(window().windowTitle(), "unnamed project[*] — merix");
     // A panel that the user closed stays closed after a restart.
-    window().dockOf("objects")->close();
+    window().panels().dockOf("objects")->close();
     answer("Discard");
     EXPECT_TRUE(window().close());
     restart();
-    EXPECT_FALSE(window().dockOf("objects")->isVisible());
+    EXPECT_FALSE(window().panels().dockOf("objects")->isVisible());
     trigger("resetLayout");
-    EXPECT_TRUE(window().dockOf("objects")->isVisible());
+    EXPECT_TRUE(window().panels().dockOf("objects")->isVisible());
 }
 
 TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
@@ -166,7 +166,7 @@ TEST_F(FProjectFilesTest, theNumberOfProblemsIsAlwaysVisible) {
     ASSERT_TRUE(run("genericIntegrationComputation solver()"));
     ASSERT_TRUE(waitUntil([&] { return find<QToolButton>("problemCount")->text() != "No problems"; }));
     const QString count = find<QToolButton>("problemCount")->text();
-    EXPECT_TRUE(window().dockOf("problems")->windowTitle().contains(count.section(' ', 0, 0)));
+    EXPECT_TRUE(window().panels().dockOf("problems")->windowTitle().contains(count.section(' ', 0, 0)));
     ASSERT_TRUE(run("destroy(solver)"));
     EXPECT_TRUE(waitUntil([&] { return find<QToolButton>("problemCount")->text() == "No problems"; }));
 }

@@ -97,7 +97,7 @@ class GesturesTest : public FWindowTest {
             case 9:
                 return triggerIfPossible("redo");
             default:
-                window().dockOf(pick(2) == 0 ? "objects" : "history")->setVisible(pick(3) > 0);
+                window().panels().dockOf(pick(2) == 0 ? "objects" : "history")->setVisible(pick(3) > 0);
         }
     }
 
@@ -118,7 +118,7 @@ class GesturesTest : public FWindowTest {
 
  private:
     void collect(const QAbstractItemModel& model, const QModelIndex& parent, QSet<const FManaged*>& shown) {
-        const auto& tree = window().panel<FObjectTreeWgt>().model();
+        const auto& tree = window().panels().get<FObjectTreeWgt>().model();
         const auto& filter = dynamic_cast<const QSortFilterProxyModel&>(model);
         for (int row = 0; row < model.rowCount(parent); ++row) {
             const QModelIndex index = model.index(row, 0, parent);

@@ -210,7 +210,7 @@ TEST_P(VisualTest, everythingIsReadableAndReachable) {
     check(texts, "texts");
     texts.close();
     QMenu menu;
-    window().panel<FObjectTreeWgt>().fillMenu(menu);
+    window().panels().get<FObjectTreeWgt>().fillMenu(menu);
     menu.findChild<QMenu*>("newObjectMenu")->actions().last()->trigger();
     check(*find("newConfiguration"), "newConfiguration");
     find<QDialog>("newConfiguration")->reject();

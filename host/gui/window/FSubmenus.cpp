@@ -1,0 +1,54 @@
+#include "host/gui/window/FSubmenus.h"
+
+#include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FTheme.h"
+#include "host/gui/window/FMainWindow.h"
+#include "host/gui/window/FPanelDocks.h"
+#include "host/gui/window/FPanelTable.h"
+#include "host/gui/window/FProjectFiles.h"
+
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMenu>
+
+void FSubmenus::recent(QMenu& menu, FMainWindow& window) {
+    for (const QString& path : FGuiSettings::getRecentProjects()) {
+        if (QFileInfo::exists(path)) {
+            menu.addAction(QFileInfo(path).fileName(), [&window, path] { window.projectFiles().open(path); })
+                ->setToolTip(path);
+        }
+    }
+    if (menu.isEmpty()) {
+        menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
+    }
+}
+
+void FSubmenus::examples(QMenu& menu, FMainWindow& window) {
+    for (const QString& name : FProjectFiles::getExamples()) {
+        menu.addAction(name, [&window, name] { window.projectFiles().openExample(name); });
+    }
+    if (menu.isEmpty()) {
+        menu.addAction(QStringLiteral("None installed"))->setEnabled(false);
+    }
+}
+
+void FSubmenus::panels(QMenu& menu, FMainWindow& window) {
+    for (const FPanelRow& row : FPanelTable::rows()) {
+        menu.addAction(window.panels().dockOf(QString::fromLatin1(row.id))->toggleViewAction());
+    }
+}
+
+void FSubmenus::appearances(QMenu& menu, FMainWindow& window) {
+    using Appearance = FTheme::Appearance;
+    const std::pair<Appearance, const char*> rows[] = {
+        {Appearance::Desktop, "As the desktop"}, {Appearance::Light, "Light"}, {Appearance::Dark, "Dark"}};
+    auto* group = new QActionGroup(&menu);
+    for (const auto& row : rows) {
+        QAction* action = menu.addAction(QString::fromLatin1(row.second));
+        action->setCheckable(true);
+        action->setChecked(FTheme::getChosen() == row.first);
+        group->addAction(action);
+        QObject::connect(action, &QAction::triggered, &window,
+                         [appearance = row.first] { FTheme::choose(appearance); });
+    }
+}

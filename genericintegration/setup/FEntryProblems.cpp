@@ -12,6 +12,7 @@
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
 #include "host/design/FResultsFileName.h"
+#include "host/lodm/FGeometryContent.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FSafePath.h"
@@ -93,7 +94,12 @@ FEntryProblems::FEntryProblems(const FConfiguration& configuration, bool mayRead
     : mConfiguration(configuration), mMayReadFiles(mayReadFiles) {}
 
 void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable& table, const FTagUses& uses,
-                          FProblemList& problems) const {
+                          FProblemList& problems) {
+    for (const FExpr<FGenIntFile>& file : definition.getCommandFiles()) {
+        if (file) {
+            mTargets.add(file->getFileName(), QStringLiteral("the input template \"%1\"").arg(file->getName()));
+        }
+    }
     QStringList unused;
     QStringList further;
     QString lastName;
@@ -119,6 +125,7 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
     }
     findAwaited(awaited, problems);
     findFurther(further, problems);
+    findReadBack(definition, problems);
     if (unused.isEmpty() || uses.isCut || definition.getFiles().isEmpty()) {
         return;
     }
@@ -177,7 +184,7 @@ void FEntryProblems::findFurther(const QStringList& names, FProblemList& problem
     }
 }
 
-void FEntryProblems::findValue(const FEntry& entry, const FUse& use, FProblemList& problems) const {
+void FEntryProblems::findValue(const FEntry& entry, const FUse& use, FProblemList& problems) {
     const FExprBase& value = entry.getValue();
     if (value.isDetached()) {
         problems
@@ -259,17 +266,17 @@ void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, co
     }
 }
 
-void FEntryProblems::findFile(const FEntry& entry, const FObject* value, FProblemList& problems) const {
+void FEntryProblems::findFile(const FEntry& entry, const FObject* value, FProblemList& problems) {
     if (const auto* input = dynamic_cast<const FInputFile*>(value)) {
         findInputFile(entry, *input, problems);
     } else if (const auto* geometry = dynamic_cast<const FGeometryExport*>(value)) {
-        addOutside(entry, geometry->getFileName(), true, problems);
+        findExport(entry, *geometry, problems);
     } else if (const auto* result = dynamic_cast<const FResultsFileName*>(value)) {
         addOutside(entry, result->getFileNameText(), false, problems);
     }
 }
 
-void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) const {
+void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) {
     const FExprBase& name = file.getFileName();
     if (!name.isDetached() && !mMayReadFiles && !name.canSafelyBeUpdated(false)) {
         return;
@@ -295,8 +302,48 @@ void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, 
         return;
     }
     addOutside(entry, file.toPlainString(), true, problems);
+    findSameName(entry, file, problems);
     if (mMayReadFiles) {
         findInvalidRun(entry, info.absoluteFilePath(), problems);
+    }
+}
+
+void FEntryProblems::findExport(const FEntry& entry, const FGeometryExport& geometry, FProblemList& problems) {
+    addOutside(entry, geometry.getFileName(), true, problems);
+    findSameName(entry, geometry, problems);
+    if (const QString fault = FGeometryContent(geometry).fault(); !fault.isEmpty()) {
+        FSetUpProblem& problem =
+            problems.error(mConfiguration.getName(), entryText(entry) + QStringLiteral("exports nothing: ") + fault,
+                           QStringLiteral("Correct the export of \"%1\"").arg(entry.getFullName()));
+        problem.isOfValue = true;
+        problem.isReportedByRun = true;
+    }
+}
+
+void FEntryProblems::findSameName(const FEntry& entry, const FObject& value, FProblemList& problems) {
+    const QString other = mTargets.addValue(value, entryText(entry).trimmed());
+    if (!other.isEmpty()) {
+        problems
+            .error(mConfiguration.getName(),
+                   entryText(entry) + QStringLiteral("writes \"%1\" into the folder of the run, as %2 does, and only "
+                                                     "one of the two files would be there")
+                                          .arg(FInputTargets::nameOf(value), other),
+                   QStringLiteral("Give one of them another name, or a folder such as in inputFile(\"mesh.dat\", "
+                                  "\"left\")"))
+            .isOfValue = true;
+    }
+}
+
+void FEntryProblems::findReadBack(const FDefinitionGenInt& definition, FProblemList& problems) const {
+    for (const FExpr<FGenIntFile>& file : definition.getResultsFiles()) {
+        const QString writer = file ? mTargets.writerOf(file->getFileName()) : QString();
+        if (!writer.isEmpty()) {
+            problems.warning(file->getName(),
+                             QStringLiteral("it reads %1, which %2 writes before the program starts")
+                                 .arg(file->getFileName(), writer),
+                             QStringLiteral("If the program doesn't write it again, name the file that it writes with "
+                                            "setFileName"));
+        }
     }
 }
 

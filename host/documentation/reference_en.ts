@@ -2466,7 +2466,7 @@ print(format(7, "%03d") + ".dat", format("wing", "%-8s|"))</translation>
     </message>
     <message>
         <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL)</source>
-        <translation>Objects of the project that are written as script text into the folder of a run before the program starts, as the value of an entry. A run fails if the file can't be written or would lie outside of the folder.</translation>
+        <translation>Geometry of the project that is written into the folder of a run before the program starts, as the value of an entry. The suffix of the file's name decides on the form: csv for points and curves, with a line "x,y,z" for each point, and stl for triangles. The entities of groups and features are written one after the other. The program isn't started if the name has another suffix, if an object of another kind is among them, or if the file can't be written or would be outside the folder.</translation>
     </message>
     <message>
         <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):argument0</source>
@@ -2484,8 +2484,8 @@ print(format(7, "%03d") + ".dat", format("wing", "%-8s|"))</translation>
         <source>!Global.geometryExport(string,fileName,int,kind=0,FObject,source=NULL):example</source>
         <translation>genericIntegrationDefinition wing() { .addEntry("Geometry|span", 12.5) }
 genericIntegrationConfiguration cruise() { .setDefinition(wing) }
-parameter span(12.5)
-wing.addEntry("shape", geometryExport("shape.txt", 0, [span]))
+point tip(12.5, 0, 0.4)
+wing.addEntry("shape", geometryExport("shape.csv", 0, [tip]))
 print(cruise.getEntryValue("shape"))</translation>
     </message>
     <message>
@@ -3148,7 +3148,7 @@ print(getAttribute(tip, "setZ"))</translation>
     </message>
     <message>
         <source>!FGeometryFile.attribute.setFileName(string,fileName)</source>
-        <translation>Sets the file that describes the geometry. The file is not read.</translation>
+        <translation>Sets the file that describes the geometry. It is read when a run exports the geometry. A relative name starts at the folder of the project's file.</translation>
     </message>
     <message>
         <source>!FGeometryFile.attribute.setFileName(string,fileName):argument0</source>
@@ -3199,7 +3199,7 @@ print(getAttribute(edge, "setFileName"))</translation>
     </message>
     <message>
         <source>!FTriangles.creator.triangles(string,fileName=""):argument0</source>
-        <translation>A file in STL format.</translation>
+        <translation>A file in STL format, ASCII or binary. A binary one can only be exported alone.</translation>
     </message>
     <message>
         <source>!FTriangles.creator.triangles(string,fileName=""):example</source>

@@ -3,10 +3,10 @@
 #include "host/core/FLogMsg.h"
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
+#include "host/lodm/FGeometryContent.h"
+#include "host/lodm/FInputTargets.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FRunFolderFile.h"
-
-#include <QTextStream>
 
 FClassData FConfigurationCustomBase::mClass("FConfigurationCustomBase", &FConfiguration::mClass);
 
@@ -19,25 +19,13 @@ bool report(const FConfiguration& configuration, const FEntry& entry, const QStr
     return false;
 }
 
-QByteArray savedText(const FGeometryExport& geometry) {
-    QString text;
-    QTextStream stream(&text);
-    for (const FExpr<FObject>& object : geometry.getExportedObjects()) {
-        if (const auto* managed = dynamic_cast<const FManaged*>(object.getObject())) {
-            managed->saveScopeManner(stream, 0, false, false);
-        }
-    }
-    stream.flush();
-    return text.toUtf8();
-}
-
 /** Calls `bring` for each entry with a value of class T, until one returns a reason for a failure. */
 template <class T, class Bring>
 bool bringAll(const FConfiguration& configuration, Bring bring) {
     for (const FExpr<FEntryBase>& handle : configuration.getEntryMap()) {
         const auto* entry = static_cast<const FEntry*>(handle.ptr());
         const auto* value = dynamic_cast<const T*>(entry->getValueObject());
-        const QString reason = value ? bring(*value) : QString();
+        const QString reason = value ? bring(*value, *entry) : QString();
         if (!reason.isEmpty()) {
             return report(configuration, *entry, reason);
         }
@@ -58,15 +46,30 @@ QList<FExpr<FResultsFileName>> FConfigurationCustomBase::getResultsFileNames() c
     return names;
 }
 
-bool FConfigurationCustomBase::copyInputFiles(const QString& folder) const {
-    return bringAll<FInputFile>(*this, [&folder](const FInputFile& file) {
-        return FRunFolderFile(folder, file.toPlainString()).copyFrom(file.getFileNameText());
+// One of two files of the same name would be lost without a word.
+bool FConfigurationCustomBase::areFilesApart() const {
+    FInputTargets files;
+    return bringAll<FObject>(*this, [&files](const FObject& value, const FEntry& entry) {
+        const QString name = FInputTargets::nameOf(value);
+        const QString other = name.isEmpty()
+                                  ? QString()
+                                  : files.addValue(value, QStringLiteral("the entry \"%1\"").arg(entry.getFullName()));
+        return other.isEmpty() ? QString()
+                               : QStringLiteral("its file would replace that of %1, \"%2\"").arg(other, name);
     });
+}
+
+bool FConfigurationCustomBase::copyInputFiles(const QString& folder) const {
+    return areFilesApart() && bringAll<FInputFile>(*this, [&folder](const FInputFile& file, const FEntry&) {
+               return FRunFolderFile(folder, file.toPlainString()).copyFrom(file.getFileNameText());
+           });
 }
 
 bool FConfigurationCustomBase::doExports() const {
     const QString folder = FPathManager::instance()->getInputDir({}, {});
-    return bringAll<FGeometryExport>(*this, [&folder](const FGeometryExport& geometry) {
-        return FRunFolderFile(folder, geometry.getFileName()).write(savedText(geometry));
+    return bringAll<FGeometryExport>(*this, [&folder](const FGeometryExport& geometry, const FEntry&) {
+        QByteArray bytes;
+        const QString reason = FGeometryContent(geometry).read(bytes);
+        return reason.isEmpty() ? FRunFolderFile(folder, geometry.getFileName()).write(bytes) : reason;
     });
 }

@@ -185,6 +185,15 @@ conf.setEntryValue("length", resultsFileName("../cp.dat")))",
      R"(def.addEntry("mesh", inputFile("no-such.mesh")).addEntry("other", inputFile("")))",
      {"error conf: the entry \"mesh\" links to a file that doesn't exist: /",
       "error conf: the entry \"other\" links to no file"}},
+    {"filesThatReplaceOthers",
+     R"(point p()
+def.addEntry("edge", geometryExport("sub/in.txt", 0, [p])).addEntry("tip", geometryExport("./a.csv", 0, [p]))
+def.addEntry("top", geometryExport("a.csv", 0, [p]));
+console.setFileName("a.csv"))",
+     {"error conf: the entry \"edge\" writes \"sub/in.txt\" … as the input template \"input\" does",
+      "error conf: the entry \"edge\" exports nothing … ends neither in .csv",
+      "error conf: the entry \"top\" writes \"a.csv\" … as the entry \"tip\" does",
+      "warning console: it reads a.csv, which the entry \"tip\" writes before the program starts"}},
     {"resultTemplatesOfOneFile",
      R"(console.setFileName("OUT.txt"))",
      {"warning console: it reads OUT.txt, as \"square\" does … getTableAt(1)"}},

@@ -70,18 +70,64 @@ TEST_F(FConfigurationCustomTest, whatCannotBeCopiedIsToldAndStops) {
 
 TEST_F(FConfigurationCustomTest, exportsGoIntoTheFolderOfTheRun) {
     const FRunScope scope(path("run/"));
-    run("parameter a(2)\nparameter b(2*a)\ndef.addEntry(\"g\", NULL, 1, 1, false, \"\", \"FGeometryExport\")");
+    FMerixCtrl::instance()->setProjectFile(path("p.mrx"));
+    write("edge.csv", "5,6,7");
+    write("a.stl", "solid a\nendsolid a");
+    write("b.stl", QByteArray(80, ' ') + QByteArray(4, '\0'));
+    const auto exported = [this](const QString& value) {
+        run("conf.setEntryValue(\"g\", geometryExport(" + value + "))");
+        return conf->doExports();
+    };
+    run(R"(
+point a(1, 2.5, -3e-7); point b(); curve edge("edge.csv"); triangles shell("a.stl"); triangles binary("b.stl")
+entityGroup group() { .setEntities([edge, b]) }
+featureDefinition feature() { .setEntities([a, group]) }
+featureMember second() { .setFeature(feature); .setIndex(1) }
+parameter number(2)
+def.addEntry("g", NULL, 1, 1, false, "", "FGeometryExport"))");
     EXPECT_TRUE(conf->doExports());
-    run("conf.setEntryValue(\"g\", geometryExport(\"geo/wing.txt\", 0, [a, b]))");
-    EXPECT_TRUE(conf->doExports());
-    EXPECT_TRUE(read("run/geo/wing.txt").contains("parameter b() {\n    .setValue(2*a);"));
-    run("conf.setEntryValue(\"g\", geometryExport(\"one.txt\", 1, a))");
-    EXPECT_TRUE(conf->doExports());
-    EXPECT_FALSE(read("run/one.txt").contains("parameter b"));
+    EXPECT_TRUE(exported("\"geo/wing.csv\", 0, [a, second, a]"));
+    EXPECT_EQ(read("run/geo/wing.csv"), "1,2.5,-3e-07\n5,6,7\n0,0,0\n");
+    EXPECT_TRUE(exported("\"one.CSV\", 1, feature"));
+    EXPECT_EQ(read("run/one.CSV"), read("run/geo/wing.csv"));
+    EXPECT_TRUE(exported("\"b.stl\", 0, [binary]"));
+    EXPECT_EQ(read("run/b.stl"), read("b.stl"));
+    EXPECT_TRUE(exported("\"two.stl\", 0, [shell, shell]"));
+    EXPECT_EQ(read("run/two.stl"), "solid a\nendsolid a");
     EXPECT_EQ(log(), QStringList());
-    run("conf.setEntryValue(\"g\", geometryExport(\"../one.txt\", 1, a))");
-    EXPECT_FALSE(conf->doExports());
-    EXPECT_TRUE(logHolds("\"../one.txt\" would be outside the folder of the run"));
+    QFile::remove(path("edge.csv"));
+    const QList<QStringList> failures{
+        {"\"../one.csv\", 0, [a]", "\"../one.csv\" would be outside the folder of the run"},
+        {"\"a.txt\", 0, [a]", "\"a.txt\", ends neither in .csv"},
+        {"\"\", 0, [a]", "\"\", ends neither in .csv"},
+        {"\"a.stl\", 0, [a]", "a (FPoint) can't be written to \"a.stl\""},
+        {"\"a.csv\", 0, [a, number]", "number (FParameter) can't be written"},
+        {"\"a.csv\", 0, [edge]", "the file of edge (FCurve) doesn't exist: " + path("edge.csv")},
+        {"\"a.stl\", 0, [shell, binary]", "b.stl\" is a binary file"},
+        {"\"a.csv\", 0, []", "has no geometry"}};
+    for (const QStringList& failure : failures) {
+        EXPECT_FALSE(exported(failure[0])) << failure[0].toStdString();
+        EXPECT_TRUE(log().last().contains("entry \"g\": ") && log().last().contains(failure[1]))
+            << log().last().toStdString();
+    }
+    EXPECT_FALSE(has("run/a.csv") || has("run/a.stl"));
+}
+
+TEST_F(FConfigurationCustomTest, noFileReplacesTheOneOfAnotherEntry) {
+    write("a/m.csv", "a");
+    write("b/m.csv", "b");
+    FMerixCtrl::instance()->setProjectFile(path("p.mrx"));
+    run("point p()\ndef.addEntry(\"other\", inputFile(\"a/m.csv\"))");
+    EXPECT_TRUE(copy("inputFile(\"b/../a/m.csv\")")) << "the same file";
+    EXPECT_TRUE(copy("inputFile(\"b/m.csv\", \"sub\")"));
+    EXPECT_EQ(log(), QStringList());
+    for (const char* value :
+         {"inputFile(\"b/m.csv\")", "inputFile(\"b/m.csv\", \"/.\")", "geometryExport(\"m.csv\", 0, [p])"}) {
+        EXPECT_FALSE(copy(value)) << value;
+        EXPECT_TRUE(log().last().contains("entry \"other\": its file would replace that of the entry \"mesh\""))
+            << logText();
+    }
+    EXPECT_EQ(read("run/m.csv"), "a");
 }
 
 TEST_F(FConfigurationCustomTest, aSetUpStartsWithTheDefaultsOfItsDefinition) {

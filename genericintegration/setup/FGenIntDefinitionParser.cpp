@@ -5,6 +5,7 @@
 #include "host/core/FObjectManager.h"
 #include "host/script/FSavedTextReader.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -36,10 +37,12 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     }
     // Objects that were saved along with the definition may name it.
     if (!mName.isEmpty()) {
+        mNames.announce(mName);
         mNames.setDeclared(mName, FExprBase(definition));
     }
     FScript script = FSavedTextReader::parse(text, mSource, {true, true, mObjectAreaLine});
     mFaultCount += static_cast<int>(script.errors.size());
+    const QStringList order = FObjectAreaParts::declaredNames(script.statements);
     const FObjectAreaParts parts(std::move(script.statements), mName);
     startParentReg(definition);
     mFaultCount += FSavedTextReader(mNames, mSource).read(parts.independent);
@@ -49,12 +52,24 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     // An object whose name was taken has a different name than in the file.
     const FExprBase current = mNames.find(nameBehind(text, script.passedOver, QStringLiteral("curFile : ")));
     const FExprBase last = mNames.find(nameBehind(text, script.passedOver, QStringLiteral("lastFile : ")));
-    takeFiles(*definition, current, last);
+    takeFiles(*definition, childrenInOrder(order), current, last);
 }
 
-void FGenIntDefinitionParser::takeFiles(FDefinitionGenInt& definition, const FExprBase& current,
-                                        const FExprBase& last) {
-    const QList<FManaged*> children = FObjectManager::instance()->getChildrenOf(&definition);
+// Objects that others need are made before them, whatever their place in the text.
+QList<FManaged*> FGenIntDefinitionParser::childrenInOrder(const QStringList& names) const {
+    QHash<FExprBase, int> places;
+    for (int place = 0; place < names.size(); ++place) {
+        places.insert(mNames.find(names[place]), place);
+    }
+    const auto placeOf = [&](const FManaged* child) { return places.value(FExprBase(child), names.size()); };
+    QList<FManaged*> children = FObjectManager::instance()->getChildrenOf(mDefinition.ptr());
+    std::stable_sort(children.begin(), children.end(),
+                     [&](const FManaged* a, const FManaged* b) { return placeOf(a) < placeOf(b); });
+    return children;
+}
+
+void FGenIntDefinitionParser::takeFiles(FDefinitionGenInt& definition, const QList<FManaged*>& children,
+                                        const FExprBase& current, const FExprBase& last) {
     QList<FExpr<FGenIntFile>> files;
     for (FManaged* child : children) {
         const FExpr<FGenIntFile> file(child);

@@ -19,5 +19,8 @@ class FGenIntDefinitionParser : public FLodmDefinitionParser {
     void importObjectsFromString(const QString& text) override;
 
  private:
-    static void takeFiles(FDefinitionGenInt& definition, const FExprBase& current, const FExprBase& last);
+    /** The children of the definition in the order of the text, which declares these names. */
+    QList<FManaged*> childrenInOrder(const QStringList& names) const;
+    static void takeFiles(FDefinitionGenInt& definition, const QList<FManaged*>& children, const FExprBase& current,
+                          const FExprBase& last);
 };

@@ -66,3 +66,13 @@ FObjectAreaParts::FObjectAreaParts(FSyntaxBody statements, const QString& defini
         (isApart ? dependent : independent).push_back(std::move(statement));
     }
 }
+
+QStringList FObjectAreaParts::declaredNames(const FSyntaxBody& statements) {
+    QStringList names;
+    for (const FSyntaxStatement& statement : statements) {
+        if (const QString name = declaredName(statement); !name.isEmpty()) {
+            names.append(name);
+        }
+    }
+    return names;
+}

@@ -10,6 +10,9 @@ struct FObjectAreaParts {
     /** @param definition  the name of the definition in the file */
     FObjectAreaParts(FSyntaxBody statements, const QString& definition);
 
+    /** The names of the objects, in the order of the text. */
+    static QStringList declaredNames(const FSyntaxBody& statements);
+
     FSyntaxBody independent;
     FSyntaxBody dependent;
 };

@@ -86,6 +86,25 @@ TEST_F(FGenIntDefinitionParserTest, aDefinitionComesBackInItsProjectAndInAnother
     EXPECT_EQ(read("again.lodm"), saved);
 }
 
+TEST_F(FGenIntDefinitionParserTest, templatesKeepTheirOrderWhateverTheyNeed) {
+    ASSERT_TRUE(run(integration + QString(R"(
+genericIntegrationConfiguration c() { .setDefinition(d); .setEntryValue("x", 5) }
+a.setValues([["v", 0, 1, "v", First, "FDouble", "", 1, c.getEntryValue("x")]])
+genericIntegrationResultsFile last() {}
+d.setFiles([a, b, last]); rename(d, "Small")
+)")));
+    QFile file(path("d.lodm"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(object<FDefinitionGenInt>("Small")->save({FExpr<FManaged>(object<FManaged>("c"))}, file));
+    file.close();
+    FModelTest::clear();
+    ASSERT_TRUE(run("parameter tail(4)\nimportGenIntDefinition(\"" + path("d.lodm") + "\")"));
+    ASSERT_NE(object<FDefinitionGenInt>("Small"), nullptr) << "a word of an enumeration is a name like others";
+    EXPECT_EQ(names(*object<FDefinitionGenInt>("Small")), (QStringList{"a", "b", "last"}));
+    EXPECT_EQ(textOf("c.getEntryValue(\"x\")"), "5") << logText();
+    EXPECT_EQ(object<FDefinitionGenInt>("Small")->getCurFile()->getName(), "a");
+}
+
 TEST_F(FGenIntDefinitionParserTest, aFullDiskLeavesTheFileThatIsThere) {
     ASSERT_TRUE(run(integration + ("d.save(\"" + path("d.lodm") + "\")")));
     const QString saved = read("d.lodm");

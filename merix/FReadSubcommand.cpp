@@ -3,6 +3,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultsGeneric.h"
 #include "merix/FExitCode.h"
 #include "merix/FTableOutput.h"
@@ -55,6 +56,11 @@ bool FReadSubcommand::hasFiles(const QDir& folder) const {
         if (!QFileInfo(folder.filePath(name)).isFile()) {
             FLogMsg::error(QStringLiteral("merix"),
                            QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
+                           QStringLiteral("Its values are NaN"));
+            hasAll = false;
+        } else if (const QString fault = FResultFiles(folder.path() + QLatin1Char('/'), {name}).unreadable();
+                   !fault.isEmpty()) {
+            FLogMsg::error(QStringLiteral("merix"), QStringLiteral("%1 can't be read").arg(fault),
                            QStringLiteral("Its values are NaN"));
             hasAll = false;
         }

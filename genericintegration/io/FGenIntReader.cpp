@@ -117,10 +117,15 @@ std::optional<FResultText> FGenIntReader::readText(const FGenIntResultsFile& fil
 std::unique_ptr<QFile> FGenIntReader::openFile(const FGenIntResultsFile& file, const QString& directory) const {
     auto device = std::make_unique<QFile>(directory + QLatin1Char('/') + file.getFileName());
     const bool leadsOut = FSafePath::leadsOut(file.getFileName());
-    const bool isUnusable = leadsOut || !FResultFiles::faultOfName(file.getFileName()).isEmpty();
+    const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, file.getFileName());
+    const bool isUnusable = leadsOut || !link.isEmpty() || !FResultFiles::faultOfName(file.getFileName()).isEmpty();
     if (leadsOut) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
                       QStringLiteral("give the template a file name below it"));
+    }
+    if (!link.isEmpty()) {
+        FLogMsg::info(getClass(), QStringLiteral("\"%1\": %2").arg(file.getFileName(), link),
+                      QStringLiteral("it isn't read"));
     }
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (isUnusable || !FFile::openOrdinary(*device, mode).isEmpty()) {
@@ -136,9 +141,11 @@ void FGenIntReader::importFile(const FGenIntResultsFileValue& value, const QStri
     if (!FTemplateValues::isFileName(value)) {
         return;
     }
-    if (FSafePath::leadsOut(name)) {
-        FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(name),
-                      QStringLiteral("not imported"));
+    const bool leadsOut = FSafePath::leadsOut(name);
+    const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, name);
+    if (leadsOut || !link.isEmpty()) {
+        const QString fault = leadsOut ? QStringLiteral("leads out of the result directory") : link;
+        FLogMsg::info(getClass(), QStringLiteral("\"%1\" %2").arg(name, fault), QStringLiteral("not imported"));
         mImportedObjects.clear();
         return;
     }

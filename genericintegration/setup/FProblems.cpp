@@ -24,20 +24,6 @@
 #include <algorithm>
 #include <optional>
 
-namespace {
-
-/** The PATH that the program is searched in: that of the environment, or the one in the settings. */
-QString pathOf(const FProgramSettings& program) {
-    QString path = qEnvironmentVariable("PATH", QStringLiteral("/bin:/usr/bin"));
-    const QString start = QStringLiteral("PATH=");
-    for (const QString& variable : program.environment) {
-        path = variable.startsWith(start) ? variable.mid(start.size()) : path;
-    }
-    return path;
-}
-
-}  // namespace
-
 FProblems::FProblems(const FExternComputation* computation, const FConfiguration* configuration,
                      const FDefinitionGenInt* definition, bool mayReadFiles)
     : mComputation(computation), mConfiguration(configuration), mDefinition(definition), mMayReadFiles(mayReadFiles) {}
@@ -96,7 +82,7 @@ void FProblems::findProgram() {
     const FProgramSettings& program = mComputation->getProgram();
     FProgramFault fault = program.fault();
     if (fault.text.isEmpty()) {
-        fault = FProgramSearch::search(program.executable, QDir::currentPath(), pathOf(program)).fault();
+        fault = program.search().fault();
     }
     if (!fault.text.isEmpty()) {
         mProblems.error(mComputation->getName(), fault.text, fault.remedy).isReportedByRun = true;

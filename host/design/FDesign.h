@@ -10,4 +10,12 @@ class MERIX_EXPORT FDesign : public FClass<FDesign, FEntity> {
 
     explicit FDesign(const QString& name = QString()) : FClass(name) {}
     static FDesign* create(const QString& name);
+
+    /**
+     * Whether what was made for a design, or without one, belongs to the present design. A present design that is gone
+     * counts as none; what was made for it belongs to no other.
+     */
+    static bool isSame(const FExpr<FDesign>& of, const FExpr<FDesign>& present) {
+        return present ? of.ptr() == present.ptr() : of.isEmpty();
+    }
 };

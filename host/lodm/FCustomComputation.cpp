@@ -2,7 +2,9 @@
 
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
+#include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
+#include "host/lodm/FGeometryContent.h"
 #include "host/run/FFileDigest.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
@@ -206,6 +208,8 @@ QMap<QString, QString> FCustomComputation::describeSetUp() const {
             const QDir folder(FPathManager::getProjectDir());
             setUp.insert(QStringLiteral("file of %1:").arg(row.key()),
                          FFileDigest::of(folder.filePath(file->getFileNameText())));
+        } else if (const auto* geometry = dynamic_cast<const FGeometryExport*>(value)) {
+            setUp.insert(QStringLiteral("file of %1:").arg(row.key()), FGeometryContent(*geometry).digest());
         }
     }
     return setUp;

@@ -70,7 +70,7 @@ QString FComputationResults::getKeptText(QString& fault) const {
 QString FComputationResults::getResultPath() const {
     const QString path = FResults::getResultPath();
     const FExpr<FExternComputation> computation = getComputation();
-    const bool isOfRun = !path.isEmpty() || mRun || !computation;
+    const bool isOfRun = !path.isEmpty() || mRun || !computation || getVariant().isDetached();
     return isOfRun ? path : FPathManager::instance()->getResultPath(computation, getVariant());
 }
 
@@ -80,14 +80,14 @@ bool FComputationResults::isInFolderOfRuns() const {
 
 std::shared_ptr<const FRunRecord> FComputationResults::getRun() const {
     const FExpr<FExternComputation> computation = getComputation();
-    const bool isStored = !mRun && computation && FResults::getResultPath().isEmpty();
+    const bool isStored = !mRun && computation && FResults::getResultPath().isEmpty() && !getVariant().isDetached();
     return isStored ? computation->getStoredRun(getVariant()) : mRun;
 }
 
 QStringList FComputationResults::getSetUpChanges() const {
     const FExpr<FExternComputation> computation = getComputation();
     const std::shared_ptr<const FRunRecord> run = getRun();
-    if (!computation || !run || run->setUp.isEmpty() || computation->getDesign().ptr() != getVariant().ptr()) {
+    if (!computation || !run || run->setUp.isEmpty() || !FDesign::isSame(getVariant(), computation->getDesign())) {
         return {};
     }
     const QMap<QString, QString> now = computation->describeSetUp();

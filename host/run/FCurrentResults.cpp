@@ -35,7 +35,7 @@ void FCurrentResults::take(const FExternComputation& computation) {
         auto* results = dynamic_cast<FComputationResults*>(object);
         const bool isKnown = mDesign || results->getRun();
         if (isKnown && results->getComputationId() == computation.getDbId() &&
-            results->getVariant().ptr() == mDesign.ptr() && results->getResultPath() == folder) {
+            FDesign::isSame(results->getVariant(), mDesign) && results->getResultPath() == folder) {
             mResults = FExpr<FComputationResults>(results);
         }
     }
@@ -58,7 +58,7 @@ QString FCurrentResults::rereadProblem(const QStringList& names, const FSuccessR
         return QStringLiteral("not in '%1': %2. Run it, or correct the file names of the result templates.")
             .arg(folder, missing);
     }
-    if (const QString unreadable = files.unreadable(); !unreadable.isEmpty()) {
+    if (const QString unreadable = FResultFiles(folder, names).unreadable(); !unreadable.isEmpty()) {
         return QStringLiteral(
                    "in '%1', there is something else than a file of numbers: %2. Run it, or correct the "
                    "file names of the result templates.")

@@ -11,7 +11,7 @@ struct FSuccessRules;
 class FCurrentResults {
  public:
     const FExpr<FComputationResults>& get() const { return mResults; }
-    bool isOf(const FExpr<FDesign>& design) const { return mDesign.ptr() == design.ptr(); }
+    bool isOf(const FExpr<FDesign>& design) const { return FDesign::isSame(mDesign, design); }
     /** Takes the results that the model has of the computation's design, such as those of a saved project, or none. */
     void take(const FExternComputation& computation);
     /**

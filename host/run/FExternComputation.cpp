@@ -16,6 +16,8 @@
 #include <QDir>
 #include <QTimer>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -61,6 +63,11 @@ void FExternComputation::leaveModel() {
 
 std::vector<std::unique_ptr<FStateField>> FExternComputation::fields() {
     return FStateFields<FExternComputation>().linked(&FExternComputation::mDesign).take();
+}
+
+const FExpr<FDesign>& FExternComputation::getDesign() const {
+    static const FExpr<FDesign> none;
+    return mDesign ? mDesign : none;
 }
 
 void FExternComputation::setDesign(const FExpr<FDesign>& design) {
@@ -123,9 +130,18 @@ bool FExternComputation::isUpToDate() const {
     if (!run || run->setUp.isEmpty() || !results->getFaultOfFiles().isEmpty()) {
         return false;
     }
-    const QStringList files = mRules.withoutOptional(getReadFiles());
     const QString folder = results->getResultPath();
-    return !folder.isEmpty() && QDir(folder).exists() && FResultFiles(folder, files).missing().isEmpty();
+    if (folder.isEmpty() || !QDir(folder).exists()) {
+        return false;
+    }
+    // A file that is only handed on may be one that the program doesn't always write.
+    QStringList files = mRules.withoutOptional(getReadFiles());
+    const QString earlier = FPathManager::instance()->getEarlierDir(FExpr<FExternComputation>(this), getDesign());
+    const QStringList left = FRunFolder(folder, earlier).left();
+    const QStringList handedOn = getFurtherFiles();
+    std::copy_if(handedOn.begin(), handedOn.end(), std::back_inserter(files),
+                 [&left](const QString& file) { return left.contains(QDir::cleanPath(file)); });
+    return FResultFiles(folder, files).missing().isEmpty();
 }
 
 void FExternComputation::setPlannedRun(const std::shared_ptr<const FRunRecord>& run) {
@@ -146,10 +162,11 @@ void FExternComputation::skipRun(FRunRecord::Cause cause, const QString& reason)
 
 std::shared_ptr<FRunAttempt> FExternComputation::makeAttempt() {
     FPathManager* paths = FPathManager::instance();
-    const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), mDesign);
+    const QString folder = paths->getResultsDir(FExpr<FExternComputation>(this), getDesign());
     FProcessSetup setup = mProgram.setupIn(folder);
     setup.exitCodes = mRules.exitCodes;
-    return std::make_shared<FRunAttempt>(this, setup, paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign),
+    return std::make_shared<FRunAttempt>(this, setup,
+                                         paths->getEarlierDir(FExpr<FExternComputation>(this), getDesign()),
                                          getReadFiles(), getFurtherFiles());
 }
 
@@ -177,7 +194,7 @@ void FExternComputation::triggerRunByTimer() {
 FComputationResults* FExternComputation::takeRun(const std::shared_ptr<const FRunRecord>& run) {
     mRecord = run;
     mPlanned.reset();
-    mRunDesign = mDesign;
+    mRunDesign = getDesign();
     mResults.make(*this, run);
     return mResults.get().ptr();
 }
@@ -251,7 +268,7 @@ const FRunRecord& FExternComputation::getLastRun() const {
 QString FExternComputation::getWorkingPath() const {
     return mRecord && isRunOfDesign()
                ? mRecord->folder
-               : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), mDesign);
+               : FPathManager::instance()->getResultPath(FExpr<FExternComputation>(this), getDesign());
 }
 
 std::shared_ptr<const FRunRecord> FExternComputation::getLastRecord() const {
@@ -259,7 +276,7 @@ std::shared_ptr<const FRunRecord> FExternComputation::getLastRecord() const {
         return mRecord;
     }
     if (!mStoredRecord || !mStoredRecord->isOver() || mStoredRecord->folder != getWorkingPath()) {
-        mStoredRecord = getStoredRun(mDesign);
+        mStoredRecord = getStoredRun(getDesign());
     }
     return mStoredRecord;
 }
@@ -290,6 +307,7 @@ void FExternComputation::runMoved(const QString& from, const QString& to) {
 
 QMap<QString, QString> FExternComputation::describeSetUp() const {
     return {{QStringLiteral("program"), mProgram.executable},
+            {QStringLiteral("program file:"), mProgram.digest()},
             {QStringLiteral("arguments"), joined(mProgram.arguments)},
             {QStringLiteral("environment"), joined(mProgram.environment)},
             {QStringLiteral("standard input"), mProgram.standardInput}};
@@ -308,8 +326,8 @@ const FObject* FExternComputation::getResultType() const {
 
 // Saved results of a design are taken when they are first requested: an undo changes the design without a call.
 const FExpr<FComputationResults>& FExternComputation::getCurrentResults() const {
-    const bool isMissing = mDesign && !mResults.get();
-    if (!mAttempt && (isMissing || !mResults.isOf(mDesign))) {
+    const bool isMissing = getDesign() && !mResults.get();
+    if (!mAttempt && (isMissing || !mResults.isOf(getDesign()))) {
         mResults.take(*this);
     }
     return mResults.get();
@@ -359,7 +377,7 @@ QString FExternComputation::rereadRefusal() const {
             .arg(holder);
     }
     FPathManager* paths = FPathManager::instance();
-    const QString earlier = paths->getEarlierDir(FExpr<FExternComputation>(this), mDesign);
+    const QString earlier = paths->getEarlierDir(FExpr<FExternComputation>(this), getDesign());
     if (canRun() && FRunLock(FRunFolder::lockFile(earlier)).isHeld()) {
         return QStringLiteral("A program of another run is still running in the folder '%1'").arg(getWorkingPath());
     }

@@ -37,8 +37,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     QList<FManaged*> getParts() const override;
 
     // ---- design ----
-    /** The design whose folder the runs have; empty for the folder "baseline". */
-    const FExpr<FDesign>& getDesign() const { return mDesign; }
+    /** The design whose folder the runs have; empty for the folder "baseline", also if the design is gone. */
+    const FExpr<FDesign>& getDesign() const;
     /**
      * The next runs use the folder of that design, and their results belong to it and are saved with it. State and
      * results are then those of the last run of that design. Refused, with a message, while a run is in progress, and
@@ -192,7 +192,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     friend class FRunAttempt;
 
     static std::vector<std::unique_ptr<FStateField>> fields();
-    bool isRunOfDesign() const { return mAttempt || mRunDesign.ptr() == mDesign.ptr(); }
+    bool isRunOfDesign() const { return mAttempt || FDesign::isSame(mRunDesign, getDesign()); }
     QString rereadRefusal() const;
     /** Whether a run can be started; if not, a message says why. */
     bool mayRun() const;

@@ -1,5 +1,6 @@
 #include "host/run/FProgramSettings.h"
 
+#include "host/run/FFileDigest.h"
 #include "host/run/FSafePath.h"
 
 #include <QDir>
@@ -13,6 +14,19 @@ const QString& FProgramSettings::outputFile() {
 const QString& FProgramSettings::errorFile() {
     static const QString name = QStringLiteral("stderr.txt");
     return name;
+}
+
+FProgramSearch FProgramSettings::search() const {
+    QString path = qEnvironmentVariable("PATH", QStringLiteral("/bin:/usr/bin"));
+    const QString start = QStringLiteral("PATH=");
+    for (const QString& variable : environment) {
+        path = variable.startsWith(start) ? variable.mid(start.size()) : path;
+    }
+    return FProgramSearch::search(executable, QDir::currentPath(), path);
+}
+
+QString FProgramSettings::digest() const {
+    return FFileDigest::of(search().file);
 }
 
 FProgramFault FProgramSettings::fault() const {

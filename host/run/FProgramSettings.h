@@ -3,6 +3,7 @@
 #include "host/core/FExport.h"
 #include "host/run/FProcessSetup.h"
 #include "host/run/FProgramFault.h"
+#include "host/run/FProgramSearch.h"
 
 /** How a computation starts its program. */
 struct MERIX_EXPORT FProgramSettings {
@@ -18,6 +19,10 @@ struct MERIX_EXPORT FProgramSettings {
     static const QString& outputFile();
     static const QString& errorFile();
 
+    /** The search for the program, in the PATH of the settings or of this process. */
+    FProgramSearch search() const;
+    /** Tells different contents of the program's file apart; empty if it isn't found. */
+    QString digest() const;
     /** Why the program can't be started; empty if nothing prevents it. */
     FProgramFault fault() const;
     /** The same for the start in a folder, whose path has no slash at its end. */

@@ -13,11 +13,11 @@ QString quoted(const QString& name) {
 
 QString reasonOf(const QString& folder, const QString& name) {
     const QFileInfo file(folder + name);
-    if (FSafePath::leadsOut(folder, name)) {
-        return QStringLiteral("it is outside the folder of the run: a folder in its path is a link");
+    if (!file.exists()) {
+        return {};
     }
-    if (FSafePath::isLinkOut(folder, name)) {
-        return QStringLiteral("it is a link to '%1', outside the folder of the run").arg(file.symLinkTarget());
+    if (const QString fault = FResultFiles::faultOfLinks(folder, name); !fault.isEmpty()) {
+        return fault;
     }
     if (file.isDir()) {
         return QStringLiteral("it is a folder");
@@ -48,6 +48,16 @@ QString FResultFiles::faultOfName(const QString& name) {
                : QString();
 }
 
+QString FResultFiles::faultOfLinks(const QString& folder, const QString& name) {
+    if (FSafePath::leadsOut(folder, name)) {
+        return QStringLiteral("it is outside the folder of the run: a folder in its path is a link");
+    }
+    const QFileInfo file(folder + QLatin1Char('/') + name);
+    return file.exists() && FSafePath::isLinkOut(folder, name)
+               ? QStringLiteral("it is a link to '%1', outside the folder of the run").arg(file.symLinkTarget())
+               : QString();
+}
+
 QString FResultFiles::faultOfTemplate(const QString& name) {
     return QDir::isAbsolutePath(name) ? QStringLiteral("has the file name \"%1\", which is an absolute path").arg(name)
                                       : faultOfName(name);
@@ -75,15 +85,23 @@ QString FResultFiles::missing() const {
     return names.join(QStringLiteral(", "));
 }
 
-QString FResultFiles::unreadable() const {
+template <class Reason>
+QString FResultFiles::listed(Reason reasonOf) const {
     QStringList names;
     for (const QString& name : mNames) {
-        const QString reason = QFileInfo::exists(mFolder + name) ? reasonOf(mFolder, name) : QString();
-        if (!reason.isEmpty()) {
+        if (const QString reason = reasonOf(mFolder, name); !reason.isEmpty()) {
             names.append(QStringLiteral("%1 (%2)").arg(quoted(name), reason));
         }
     }
     return names.join(QStringLiteral(", "));
+}
+
+QString FResultFiles::unreadable() const {
+    return listed(&reasonOf);
+}
+
+QString FResultFiles::outside() const {
+    return listed(&faultOfLinks);
 }
 
 QString FResultFiles::empty() const {

@@ -5,6 +5,7 @@
 #include "host/core/FLogMsg.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FNumberCheck.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
 #include "host/run/FSafePath.h"
 #include "host/run/FValueReport.h"
@@ -232,7 +233,8 @@ QString FResultsGeneric::getResultFileName(const QString& entry) const {
         }
     }
     const QString folder = getResultPath();
-    return name.isEmpty() || folder.isEmpty() || FSafePath::leadsOut(name) ? QString() : folder + name;
+    const bool isOutside = FSafePath::leadsOut(name) || !FResultFiles::faultOfLinks(folder, name).isEmpty();
+    return name.isEmpty() || folder.isEmpty() || isOutside ? QString() : folder + name;
 }
 
 const QHash<QString, FExpr<FObject>>& FResultsGeneric::getImportedObjects() const {

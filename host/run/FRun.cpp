@@ -29,9 +29,10 @@ State stateOf(Cause cause) {
 }  // namespace
 
 FRun::FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles,
-           const FSuccessRules& rules)
+           const QStringList& further, const FSuccessRules& rules)
     : mRecord(std::make_shared<FRunRecord>()),
-      mReadFiles(rules.withoutOptional(readFiles)),
+      mReadFiles(readFiles),
+      mFurtherFiles(further),
       mRules(rules),
       mProcess(setup) {
     mRecord->computation = computation;
@@ -103,21 +104,27 @@ void FRun::keepCauseLines() {
 }
 
 void FRun::checkFiles() {
-    const FResultFiles files(mRecord->folder, mReadFiles);
+    const QStringList required = mRules.withoutOptional(mReadFiles);
+    const FResultFiles files(mRecord->folder, required);
     const bool isSuccess = mRecord->cause == Cause::None;
     const QString start = isSuccess ? QStringLiteral("'%1' succeeded, but ").arg(mRecord->program) : QString();
     const QString it = isSuccess ? QString() : QStringLiteral("It ");
     if (const QString missing = files.missing(); !missing.isEmpty()) {
         const QString what = start + it + QStringLiteral("didn't write %1.").arg(missing);
-        const QString similar = similarFiles();
+        const QString similar = similarFiles(required);
         // The program's own words come before the advice, unless there was another cause before.
         mRecord->addCause(Cause::FileMissing, isSuccess ? what : (what + QLatin1Char(' ') + similar).trimmed(),
                           QStringLiteral("%1Check the file name of the result template, and the output of the program.")
                               .arg(similar));
     }
-    if (const QString unreadable = files.unreadable(); !unreadable.isEmpty()) {
+    if (const QString unreadable = FResultFiles(mRecord->folder, mReadFiles).unreadable(); !unreadable.isEmpty()) {
         mRecord->addCause(Cause::FileMissing, start + QStringLiteral("%1 can't be read.").arg(unreadable),
                           QStringLiteral("Check the file name of the result template."));
+    }
+    // The file of another run would pass for one of this run.
+    if (const QString outside = FResultFiles(mRecord->folder, mFurtherFiles).outside(); !outside.isEmpty()) {
+        mRecord->addCause(Cause::FileMissing, start + QStringLiteral("%1 can't be handed on.").arg(outside),
+                          QStringLiteral("Have the program write the file itself."));
     }
     if (const QString empty = files.empty(); mRecord->cause == Cause::None && !empty.isEmpty()) {
         const QString warning =
@@ -126,9 +133,9 @@ void FRun::checkFiles() {
     }
 }
 
-QString FRun::similarFiles() const {
+QString FRun::similarFiles(const QStringList& required) const {
     QStringList names;
-    for (const QString& file : mReadFiles) {
+    for (const QString& file : required) {
         if (mWritten && !QFileInfo::exists(mRecord->folder + file)) {
             names += mWritten->similarTo(file);
         }

@@ -19,10 +19,11 @@ class FRun : public QObject {
     /**
      * @param setup      how the program is started; its working folder is the folder of the run
      * @param readFiles  files in the folder that results are read from: the program has to write them
+     * @param further    other files in the folder that it may write, which other programs read
      * @param rules      what else counts as success
      */
     FRun(const QString& computation, const FProcessSetup& setup, const QStringList& readFiles,
-         const FSuccessRules& rules);
+         const QStringList& further, const FSuccessRules& rules);
 
     const FRunRecord& record() const { return *mRecord; }
     /** The same record for results to keep; it is updated during the run. */
@@ -51,12 +52,13 @@ class FRun : public QObject {
     void checkTexts();
     void checkFiles();
     /** A sentence about written files with names similar to those of missing ones; empty if there are none. */
-    QString similarFiles() const;
+    QString similarFiles(const QStringList& required) const;
     void keepCauseLines();
     void conclude();
 
     std::shared_ptr<FRunRecord> mRecord;
     QStringList mReadFiles;
+    QStringList mFurtherFiles;
     FSuccessRules mRules;
     std::optional<FWrittenFiles> mWritten;
     FProcess mProcess;

@@ -28,7 +28,7 @@ FRunAttempt::FRunAttempt(FExternComputation* computation, const FProcessSetup& s
                          const QStringList& readFiles, const QStringList& further)
     : mKeep(computation),
       mComputation(computation),
-      mRun(computation->getName(), withLock(setup, earlier), readFiles, computation->getSuccessRules()),
+      mRun(computation->getName(), withLock(setup, earlier), readFiles, further, computation->getSuccessRules()),
       mEarlier(earlier),
       mReadFiles(readFiles),
       mFurtherFiles(further),

@@ -1,5 +1,6 @@
 #include "host/run/FRunFolder.h"
 
+#include "host/core/FFile.h"
 #include "host/run/FSafePath.h"
 
 #include <QDateTime>
@@ -66,7 +67,7 @@ QString FRunFolder::writeBefore() const {
 
 std::optional<FRunFolder::Entries> FRunFolder::readBefore() const {
     QFile file(beforeFile(mEarlier));
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!FFile::openOrdinary(file).isEmpty()) {
         return {};
     }
     const QByteArrayList texts = file.readAll().split(separator);
@@ -77,9 +78,9 @@ std::optional<FRunFolder::Entries> FRunFolder::readBefore() const {
     return entries;
 }
 
-QStringList FRunFolder::readNotes() const {
+QStringList FRunFolder::left() const {
     QFile notes(notesFile(mEarlier));
-    if (!notes.open(QIODevice::ReadOnly)) {
+    if (!FFile::openOrdinary(notes).isEmpty()) {
         return {};
     }
     QStringList names;
@@ -93,7 +94,7 @@ QStringList FRunFolder::leftBehind() {
     mLeftByInterruption = 0;
     const std::optional<Entries> before = readBefore();
     if (!before) {
-        return readNotes();
+        return left();
     }
     const QStringList unknown = changes(*before, list());
     mLeftByInterruption = unknown.size();

@@ -35,6 +35,8 @@ class MERIX_EXPORT FRunFolder {
     int leftByInterruption() const { return mLeftByInterruption; }
     /** After a run: notes which files were created or changed since `moveAside`, if that succeeded. */
     void noteLeft() const;
+    /** What the last run left, relative to the folder, as noted at its end. */
+    QStringList left() const;
 
     // ---- files beside the earlier folder, without a slash at its end ----
     /** What the last run left; read if its end was recorded. */
@@ -60,7 +62,6 @@ class MERIX_EXPORT FRunFolder {
     QStringList leftBehind();
     std::optional<Entries> readBefore() const;
     QString writeBefore() const;
-    QStringList readNotes() const;
     void emptyEarlier() const;
     bool moveAll(const QStringList& names, QString& reason) const;
     bool moveFile(const QString& name, QString& reason) const;

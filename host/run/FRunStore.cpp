@@ -1,5 +1,6 @@
 #include "host/run/FRunStore.h"
 
+#include "host/core/FFile.h"
 #include "host/run/FRunFolder.h"
 #include "host/run/FRunLock.h"
 #include "host/run/FSafePath.h"
@@ -125,7 +126,7 @@ QString FRunStore::write(const FRunRecord& record) const {
 
 std::shared_ptr<const FRunRecord> FRunStore::read(const QString& folder) const {
     QFile stored(file(mEarlier));
-    if (!stored.open(QIODevice::ReadOnly) || stored.size() > largestFile) {
+    if (!FFile::openOrdinary(stored).isEmpty() || stored.size() > largestFile) {
         return nullptr;
     }
     auto record = std::make_shared<FRunRecord>();

@@ -1,8 +1,8 @@
 #include "host/run/FTextCheck.h"
 
 #include "host/core/FFile.h"
+#include "host/run/FResultFiles.h"
 #include "host/run/FResultText.h"
-#include "host/run/FSafePath.h"
 #include "host/run/FSuccessRules.h"
 
 #include <QFileInfo>
@@ -23,8 +23,10 @@ struct FReadFile {
 FReadFile readFile(const QString& folder, const QString& name) {
     FReadFile result;
     auto file = std::make_unique<QFile>(folder + name);
-    result.reason = FSafePath::leadsOut(folder, name) ? QStringLiteral("it is outside the folder of the run")
-                                                      : FFile::openOrdinary(*file, QIODevice::ReadOnly);
+    result.reason = FResultFiles::faultOfLinks(folder, name);
+    if (result.reason.isEmpty()) {
+        result.reason = FFile::openOrdinary(*file, QIODevice::ReadOnly);
+    }
     if (result.reason.isEmpty()) {
         result.text = FResultText::fromFile(FFileBytes(std::move(file)));
     }

@@ -68,6 +68,33 @@ TEST_F(FChainRunTest, whatHasTheNumbersOfThePresentSetUpIsNotRunAgain) {
     EXPECT_EQ(textOf("apart.getState()"), "ready") << "no other client is run";
 }
 
+TEST_F(FChainRunTest, filesAndGeometryBelongToTheSetUp) {
+    const QString program = write("first.sh", "#!/bin/sh\n. ./in.txt; echo v $x > first.txt\n", QFile::ExeOwner);
+    write("edge.csv", "0,0,0");
+    ASSERT_TRUE(run("first.setExecutable(\"" + program + R"("); first.setArguments([])
+point p(1); curve edge("edge.csv"); entityGroup group() { .setEntities([p, edge]) }
+def1.addEntry("geometry", geometryExport("g.csv", 0, [group])))"));
+    EXPECT_EQ(runThird(), "first second third") << logText();
+    EXPECT_EQ(runThird(), "third");
+    ASSERT_TRUE(run("p.setX(2)"));
+    EXPECT_EQ(runThird(), "first third");
+    write("edge.csv", "0,0,1");
+    EXPECT_EQ(runThird(), "first third");
+    write("first.sh", "#!/bin/sh\necho v 5 > first.txt\n");
+    EXPECT_EQ(runThird(), "first second third");
+    EXPECT_EQ(numbers(mChain), "5 25 26");
+
+    // A file that is only handed on, but only if the program writes it.
+    ASSERT_TRUE(
+        run("def1.addEntry(\"mesh\", resultsFileName(\"m.dat\")).addEntry(\"never\", resultsFileName(\"n.dat\"))"));
+    write("first.sh", "#!/bin/sh\necho v 5 > first.txt; echo 1 > m.dat");
+    EXPECT_EQ(runThird(), "first third");
+    EXPECT_EQ(runThird(), "third");
+    ASSERT_TRUE(QFile::remove(path("study.results/baseline/first/m.dat")));
+    EXPECT_EQ(runThird(), "first third");
+    EXPECT_TRUE(has("study.results/baseline/first/m.dat"));
+}
+
 TEST_F(FChainRunTest, afterAFailureTheOthersAreNotRun) {
     EXPECT_EQ(runThird(), "first second third");
     ASSERT_TRUE(run("first.setArguments([\"-c\", \"exit 1\"])"));

@@ -200,6 +200,7 @@ TEST_F(FExternComputationTest, succeedsOnlyWithAFileThatCanBeRead) {
           Case{"mkfifo out.dat", "'out.dat' (it is a pipe or a device", false},
           Case{"ln -s /dev/null out.dat", "'out.dat' (it is a link to '/dev/null', outside the folder", false},
           Case{"echo 1 > run1.dat; ln -s run1.dat out.dat", "", true},
+          Case{"echo 1 > out.dat; ln -s ../in.dat cp.dat; touch ../in.dat", "'cp.dat' (it is a link to", false},
           Case{"ln -s nowhere out.dat", "didn't write 'out.dat'", false},
           Case{": > out.dat", "wrote nothing to 'out.dat'", true},
           Case{"echo 1 > out.dat; sleep 100 &", "had left processes running, which were terminated", true}}) {
@@ -207,6 +208,10 @@ TEST_F(FExternComputationTest, succeedsOnlyWithAFileThatCanBeRead) {
         EXPECT_TRUE(logHolds(made.told)) << made.script << "\n" << logText();
         EXPECT_EQ(mProbe->rereadResults(), QString(made.script).startsWith("echo")) << made.script;
     }
+    set(*mProbe, "setOptionalFiles", QStringList{"out.dat"});
+    EXPECT_TRUE(mProbe->runScript("true"));
+    EXPECT_FALSE(mProbe->runScript("ln -s /dev/null out.dat")) << "optional files, too";
+    QFile::remove(path(runFile("out.dat")));
     write(runFile("out.dat"), "3");
     for (const QString& name : {QString(), QString("."), QString("/"), QString("a/"), QString("../out.dat"),
                                 QString("out.dat%1x").arg(QChar(QChar::Null))}) {
@@ -270,6 +275,15 @@ TEST_F(FExternComputationTest, keepsTheResultsOfEachDesign) {
     choose("baseline");
     EXPECT_TRUE(logHolds("can't be changed to baseline"));
     EXPECT_EQ(mProbe->number(), 2);
+
+    FManaged::destroy(object<FDesign>("d2"));
+    EXPECT_EQ(mProbe->getLastRun().stateName(), "ready") << "there was no run without a design";
+    EXPECT_FALSE(mProbe->getResults());
+    ASSERT_TRUE(mProbe->runScript("echo 3 > out.dat"));
+    EXPECT_TRUE(has(runFile("out.dat")));
+    EXPECT_EQ(mProbe->number(), 3);
+    set(*mProbe, "setDesign", FExpr<FDesign>());
+    EXPECT_EQ(mProbe->number(), 3);
 }
 
 TEST_F(FExternComputationTest, reportsAFailedRunWhenItsNumbersAreRequested) {

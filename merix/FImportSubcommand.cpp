@@ -2,6 +2,7 @@
 
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FObjectManager.h"
 #include "host/lodm/FImport.h"
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
@@ -41,7 +42,13 @@ int FImportSubcommand::importInto(const QString& project) const {
                        QStringLiteral("Known kinds: %1").arg(FImport::getFilters().join(QStringLiteral(", "))));
         return FExitCode::wrongCall;
     }
+    const auto countObjects = [] { return FObjectManager::instance()->getManaged(FManaged::null()).size(); };
+    const auto before = countObjects();
     import->readOpen(file, false);
+    if (import->getFaultCount() == 0 && countObjects() == before) {
+        FLogMsg::error(source, QStringLiteral("\"%1\" has no set-up").arg(path), QStringLiteral("Nothing was saved"));
+        return FExitCode::failed;
+    }
     if (import->getFaultCount() > 0) {
         FLogMsg::error(source, QStringLiteral("\"%1\" can't be imported whole").arg(path),
                        QStringLiteral("Nothing was saved; an import in a script keeps what could be read"));

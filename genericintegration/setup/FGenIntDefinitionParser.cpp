@@ -1,5 +1,6 @@
 #include "genericintegration/setup/FGenIntDefinitionParser.h"
 
+#include "genericintegration/setup/FAbsentNames.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FObjectAreaParts.h"
 #include "host/core/FObjectManager.h"
@@ -42,6 +43,7 @@ void FGenIntDefinitionParser::importObjectsFromString(const QString& text) {
     }
     FScript script = FSavedTextReader::parse(text, mSource, {true, true, mObjectAreaLine});
     mFaultCount += static_cast<int>(script.errors.size());
+    FAbsentNames(mNames, mSource).takeOut(script.statements);
     const QStringList order = FObjectAreaParts::declaredNames(script.statements);
     const FObjectAreaParts parts(std::move(script.statements), mName);
     startParentReg(definition);

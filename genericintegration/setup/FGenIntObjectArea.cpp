@@ -72,7 +72,7 @@ bool FGenIntObjectArea::write(QIODevice* device, const FDefinitionGenInt& defini
         object->saveScopeManner(stream, 0, false, false);
     }
     inFile += objects + filesOf(definition) + Objects{FExpr<FManaged>(&definition)};
-    warnOfLeftOut(definition, objects, inFile);
+    warnOfLeftOut(definition, objects + filesOf(definition), inFile);
     stream << "curFile : " << nameOf(definition.getCurFile()) << '\n';
     stream << "lastFile : " << nameOf(definition.getLastFile()) << '\n';
     stream.flush();

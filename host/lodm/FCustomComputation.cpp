@@ -5,6 +5,7 @@
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
 #include "host/lodm/FGeometryContent.h"
+#include "host/lodm/FLodmPath.h"
 #include "host/run/FFileDigest.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
@@ -61,7 +62,7 @@ void FCustomComputation::declareCommands(FCmdTable& table) {
         .data();
     table.member<F>("exportSetUp",
                     +[](const F& computation, const QString& fileName, bool chain) {
-                        return computation.exportSetUp(FFile::resolveEnv(fileName), chain);
+                        return computation.exportSetUp(lodmPath(FFile::resolveEnv(fileName)), chain);
                     },
                     {"fileName", "chain=false"});
     table.plain<F>("setCmdFile", &F::mCmdFile, {"fileName"}).copied().attrName("Command File");

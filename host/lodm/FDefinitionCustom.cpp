@@ -8,6 +8,7 @@
 #include "host/core/FViewCtrl.h"
 #include "host/lodm/FLodmDefinitionParser.h"
 #include "host/lodm/FLodmLeftOut.h"
+#include "host/lodm/FLodmPath.h"
 #include "host/script/FCmdTable.h"
 
 #include <QDir>
@@ -33,7 +34,7 @@ QString askForFile(const QString& name) {
 // The command. It reports what save() leaves to its caller.
 bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
     if (!fileName.isEmpty()) {
-        definition.setSaveFileName(FFile::resolveEnv(fileName));
+        definition.setSaveFileName(lodmPath(FFile::resolveEnv(fileName)));
     }
     if (definition.getSaveFileName().isEmpty() && !FViewCtrl::instance()->hasGui()) {
         FLogMsg::error(definition.getName(), QStringLiteral("the definition has no file to be saved in"),

@@ -9,6 +9,8 @@
 #include "host/run/FExternComputation.h"
 #include "host/script/FScriptParser.h"
 
+#include <QTextStream>
+
 namespace {
 
 QStringList namesIn(const FExprBase& value) {
@@ -33,8 +35,8 @@ class LeftOut {
     LeftOut& operator=(const LeftOut&) = delete;
 
     /** @param owner  what the value belongs to, for the message */
-    void check(const FManaged& owner, const QString& valueName, const FExprBase& value, const QString& consequence) {
-        for (const QString& name : namesIn(value)) {
+    void check(const FManaged& owner, const QString& valueName, const QStringList& names, const QString& consequence) {
+        for (const QString& name : names) {
             const FManaged* object = FObjectManager::instance()->find(name);
             const bool isLeftOut = object && object != &mDefinition && !mInFile.contains(FExpr<FManaged>(object));
             if (isLeftOut && ++mCount <= mostErrors) {
@@ -56,7 +58,25 @@ void checkValues(const FConfiguration& configuration, LeftOut& leftOut) {
         const auto* entry = static_cast<const FEntry*>(handle.ptr());
         if (!entry->hasDefaultValue()) {
             leftOut.check(configuration, QStringLiteral("the value of entry \"%1\"").arg(entry->getFullName()),
-                          entry->getValue(), QStringLiteral("the entry keeps its default when it is read"));
+                          namesIn(entry->getValue()), QStringLiteral("the entry keeps its default when it is read"));
+        }
+    }
+}
+
+/** The attributes of an object, as its saved text has them. */
+void checkAttributes(const FManaged& object, LeftOut& leftOut) {
+    QString text;
+    QTextStream stream(&text);
+    object.saveScopeManner(stream, 0, false, false);
+    stream.flush();
+    const FScript script = parseScript(text, object.getName());
+    const auto* declaration =
+        script.statements.empty() ? nullptr : std::get_if<FSyntaxDeclaration>(&script.statements.front().content);
+    for (const FSyntaxBlockLine& line : declaration ? declaration->block : std::vector<FSyntaxBlockLine>()) {
+        for (const FSyntaxExpr& call : line) {
+            QStringList names = call.getNames();
+            names.removeDuplicates();
+            leftOut.check(object, call.name, names, QStringLiteral("that part of it is read as NULL, or left out"));
         }
     }
 }
@@ -69,14 +89,16 @@ void warnOfLeftOut(const FDefinition& definition, const QSet<FExpr<FManaged>>& s
     for (const FExpr<FEntryBase>& handle : definition.getEntryMap()) {
         const auto* entry = static_cast<const FEntryDef*>(handle.ptr());
         leftOut.check(definition, QStringLiteral("the default of entry \"%1\"").arg(entry->getFullName()),
-                      entry->getDefaultValue(), QStringLiteral("the entry is read without a default"));
+                      namesIn(entry->getDefaultValue()), QStringLiteral("the entry is read without a default"));
     }
     for (const FExpr<FManaged>& object : saved) {
         if (const auto* configuration = dynamic_cast<const FConfiguration*>(object.ptr())) {
             checkValues(*configuration, leftOut);
         } else if (const auto* computation = dynamic_cast<const FExternComputation*>(object.ptr())) {
-            leftOut.check(*computation, QStringLiteral("its design"), computation->getDesign(),
+            leftOut.check(*computation, QStringLiteral("its design"), namesIn(computation->getDesign()),
                           QStringLiteral("it has no design when it is read"));
+        } else if (object) {
+            checkAttributes(*object.ptr(), leftOut);
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "genericintegration/setup/FSetUpExport.h"
+#include "host/lodm/FImport.h"
 #include "host/run/FComputationChain.h"
 #include "host/run/FComputationGraph.h"
 #include "tests/genericintegration/setup/FChainTest.h"
@@ -101,6 +102,31 @@ TEST_F(FSetUpExportTest, aFileHoldsOneSetUpOrTheChainInOneStep) {
     ASSERT_TRUE(run("genericIntegrationComputation bare()"));
     EXPECT_FALSE(computation("bare")->exportSetUp(path("bare.lodm"), false));
     EXPECT_TRUE(logHolds("it has no configuration with a definition")) << logText();
+}
+
+TEST_F(FSetUpExportTest, whatIsLeftOutIsReportedAndReadAsNull) {
+    ASSERT_TRUE(run(R"(
+parameter rows(2); parameter length(4); point tip(); point left(3)
+featureDefinition feature() { .setEntities([left]) }
+def1.addEntry("shape", geometryExport("g.csv", 1, feature))
+out1.setValues([["v", 0, 0, "v ", First, "FDouble", ""], ["m", 0, 1, "", First, "FDouble", "", 1, rows + 1]])
+conf1.setEntryValue("x", length * 2)
+design heavy(); first.setDesign(heavy))"));
+    EXPECT_TRUE(computation("first")->exportSetUp(path("one.lodm"), false));
+    for (const char* told : {"out1: setValues names \"rows\"", "feature: setEntities names \"left\"",
+                             "conf1: the value of entry \"x\" names \"length\"", "first: its design names \"heavy\""}) {
+        EXPECT_TRUE(logHolds(told)) << told << '\n' << logText();
+    }
+    EXPECT_EQ(log().size(), 4) << logText();
+    openEmptyProject();
+    const int lines = log().size();
+    ASSERT_TRUE(run("softwareConnectorImport i()"));
+    auto* import = object<FImport>("i");
+    import->read(path("one.lodm"), false);
+    EXPECT_EQ(import->getFaultCount(), 0) << logText();
+    EXPECT_EQ(log().mid(lines).filter(": nothing is named \"").size(), 4) << logText();
+    EXPECT_TRUE(textOf("getAttribute(out1, \"setValues\")").endsWith(",\"FDouble\",\"\",1,NULL]]"))
+        << textOf("getAttribute(out1, \"setValues\")").toStdString();
 }
 
 TEST_F(FSetUpExportTest, aGeometryThatTwoSetUpsExportIsWrittenOnce) {

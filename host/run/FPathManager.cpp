@@ -42,8 +42,7 @@ void FPathManager::connectToModel() {
 }
 
 const QString& FPathManager::baseline() {
-    static const QString name = QStringLiteral("baseline");
-    return name;
+    return FDesign::reservedName();
 }
 
 FPathManager* FPathManager::instance() {

@@ -2,6 +2,7 @@
 
 #include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
+#include "host/run/FInterruptLine.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/script/FProject.h"
 #include "merix/FExitCode.h"
@@ -16,6 +17,9 @@ std::vector<FSubcommand::Argument> FRunSubcommand::arguments() {
 }
 
 int FRunSubcommand::run() const {
+    FInterruptLine::install();
+    // The values that were set hold for this call only.
+    FProject::instance()->keepNoWork();
     const int exitCode = mTarget.open(FSetUpTarget::Access::Run);
     if (exitCode != FExitCode::done) {
         FProject::instance()->close(false);
@@ -27,7 +31,6 @@ int FRunSubcommand::run() const {
     if (isDone && results && results->prepareResults()) {
         FStandardOutput::write(FTableOutput::of(*results, mJson ? FTableOutput::Form::Json : FTableOutput::Form::Text));
     }
-    // The values that were set hold for this call only.
     FProject::instance()->close(false);
     return isDone ? FExitCode::done : FExitCode::failed;
 }

@@ -100,7 +100,7 @@ bool FProject::open(const QString& path, bool recover) {
     } else if (recover) {
         FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(news),
                       QStringLiteral("save the project to keep it"));
-    } else if (hasNews && !isOwn && mLock.getHolder().isEmpty()) {
+    } else if (hasNews && !isOwn && !isOpenElsewhere(file)) {
         FLogMsg::warning(file,
                          QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
                          QStringLiteral("openProject(file, true) recovers it"));
@@ -109,6 +109,11 @@ bool FProject::open(const QString& path, bool recover) {
                                errors == 1 ? QStringLiteral("1 error; what it concerns was not loaded")
                                            : QStringLiteral("%1 errors; what they concern was not loaded").arg(errors),
                                QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
+}
+
+// A process that only reads takes no lock.
+bool FProject::isOpenElsewhere(const QString& file) const {
+    return !mLock.getHolder().isEmpty() || (!mLock.isHeldOn(file) && !FProjectLock::holderOf(file).isEmpty());
 }
 
 FProject::Stamp FProject::stampOf(const QString& file) {
@@ -132,7 +137,7 @@ void FProject::use(const QString& file, bool recovered) {
     }
     switch (mLock.acquire(file)) {
         case FProjectLock::State::Held:
-            mAutosave.start(file, recovered, mIsDamaged);
+            startAutosave(file, recovered);
             break;
         case FProjectLock::State::Elsewhere:
             FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
@@ -199,7 +204,13 @@ bool FProject::save(const QString& path) {
 void FProject::takeOverIfFree() {
     const QString& file = FMerixCtrl::instance()->getProjectFile();
     if (!mLock.getHolder().isEmpty() && mLock.acquire(file) == FProjectLock::State::Held) {
-        mAutosave.start(file, false, mIsDamaged);
+        startAutosave(file, false);
+    }
+}
+
+void FProject::startAutosave(const QString& file, bool recovered) {
+    if (mKeepsWork) {
+        mAutosave.start(file, recovered, mIsDamaged);
     }
 }
 

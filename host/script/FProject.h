@@ -30,6 +30,8 @@ class MERIX_EXPORT FProject {
     bool save(const QString& path);
     /** Which other process has the project open, for a message; empty if none has. */
     const QString& getHolder() const { return mLock.getHolder(); }
+    /** From now on, no unsaved work is kept: changes are for this process only. */
+    void keepNoWork() { mKeepsWork = false; }
     /** Takes the lock over if another process had the project open and has closed it. */
     void takeOverIfFree();
     /**
@@ -51,6 +53,7 @@ class MERIX_EXPORT FProject {
 
     FProject() = default;
 
+    bool isOpenElsewhere(const QString& file) const;
     static bool isIdle(const char* command);
     static void clearModel();
     static Stamp stampOf(const QString& file);
@@ -59,9 +62,11 @@ class MERIX_EXPORT FProject {
     QString write(const QString& file) const;
     QString keepPrevious(const QString& file) const;
     void use(const QString& file, bool recovered);
+    void startAutosave(const QString& file, bool recovered);
 
     FProjectLock mLock;
     FAutosave mAutosave;
     Stamp mStamp;
+    bool mKeepsWork = true;
     bool mIsDamaged = false;  //!< the file holds what couldn't be read
 };

@@ -4,6 +4,10 @@
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <QSysInfo>
+
+#include <cerrno>
+#include <csignal>
 
 namespace {
 
@@ -13,13 +17,16 @@ QString nameOf(const QString& project) {
     return project + QStringLiteral(".lock");
 }
 
-QString holderOf(const QLockFile& file, const QString& name) {
+QString holderText(const QString& program, qint64 process, const QString& host) {
+    return QStringLiteral("%1, process %2 on %3").arg(program).arg(process).arg(host);
+}
+
+QString holderText(const QLockFile& file, const QString& name) {
     qint64 process = 0;
     QString host;
     QString program;
-    return file.getLockInfo(&process, &host, &program)
-               ? QStringLiteral("%1, process %2 on %3").arg(program).arg(process).arg(host)
-               : QStringLiteral("its lock \"%1\" can't be read").arg(name);
+    return file.getLockInfo(&process, &host, &program) ? holderText(program, process, host)
+                                                       : QStringLiteral("its lock \"%1\" can't be read").arg(name);
 }
 
 // Qt removes it only if no living process has it.
@@ -52,12 +59,26 @@ FProjectLock::State FProjectLock::acquire(const QString& project) {
         if (file->error() != QLockFile::LockFailedError) {
             return State::None;
         }
-        mHolder = holderOf(*file, nameOf(project));
+        mHolder = holderText(*file, nameOf(project));
         return State::Elsewhere;
     }
     mFile = std::move(file);
     mProject = project;
     return State::Held;
+}
+
+// Of another computer, nobody knows whether the process lives.
+QString FProjectLock::holderOf(const QString& project) {
+    const QLockFile file(nameOf(project));
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (!file.getLockInfo(&process, &host, &program)) {
+        return {};
+    }
+    const bool isGone =
+        host == QSysInfo::machineHostName() && ::kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH;
+    return isGone ? QString() : holderText(program, process, host);
 }
 
 void FProjectLock::release() {

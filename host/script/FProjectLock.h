@@ -26,6 +26,8 @@ class MERIX_EXPORT FProjectLock {
     bool isHeldOn(const QString& project) const { return mFile && mProject == project; }
     /** Who else had it when it was wanted last, for a message; empty if nobody. */
     const QString& getHolder() const { return mHolder; }
+    /** Which process has a project open, for a message; empty if none has. Takes nothing and writes nothing. */
+    static QString holderOf(const QString& project);
 
  private:
     std::unique_ptr<QLockFile> mFile;

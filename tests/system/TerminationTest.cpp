@@ -9,7 +9,7 @@ namespace {
 class TerminationTest : public FProgramTest {
  protected:
     const QString mSetUp = R"(
-genericIntegrationDefinition def() {}
+genericIntegrationDefinition def() { .addEntry("x", 1) }
 genericIntegrationConfiguration conf() { .setDefinition(def) }
 genericIntegrationComputation comp() { .setConfiguration(conf); .setExecutable("sh") }
 comp.setArguments(["-c", "exit 3"])
@@ -44,18 +44,20 @@ TEST_F(TerminationTest, anInterruptedRunIsNamedWithItsFolder) {
     const struct {
         int signal;
         QString commands, told;
+        QStringList arguments = {"script", "test.merix"};
     } cases[] = {
         {SIGINT,
          "comp.setArguments([\"-c\", \"touch ../../../ready.mrx; exec sleep 60\"]); saveProject(\"p.mrx\"); comp.run()",
          "comp: Interrupted while its run was in progress"},
         {SIGTERM, "comp.setArguments([\"-c\", \"true\"]); comp.run(); saveProject(\"ready.mrx\")\nwhile (true) {}",
          "Interrupted while no run was in progress"},
+        {SIGINT, "", "comp: Interrupted while its run was in progress", {"run", "p.mrx", "--set", "x=99"}},
     };
     for (const auto& each : cases) {
         QFile::remove(path("ready.mrx"));
         write("test.merix", (mSetUp + each.commands).toUtf8());
         QProcess program;
-        start(program, {"script", "test.merix"});
+        start(program, each.arguments);
         for (int i = 0; i < 3000 && !has("ready.mrx"); ++i) {
             QThread::msleep(10);
         }
@@ -66,6 +68,7 @@ TEST_F(TerminationTest, anInterruptedRunIsNamedWithItsFolder) {
         EXPECT_TRUE(errors.contains(each.told)) << errors.toStdString();
         EXPECT_EQ(errors.contains(path("p.results/baseline/comp/")), each.signal == SIGINT) << errors.toStdString();
         EXPECT_EQ(errors.count("Interrupted"), 1) << errors.toStdString();
+        EXPECT_FALSE(has("p.mrx.autosave"));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "tests/support/FTestFolder.h"
 
 #include <QDateTime>
+#include <QDir>
 
 namespace {
 
@@ -118,6 +119,7 @@ TEST_F(FProjectTest, theVersionBeforeIsKept) {
         const FFileSizeLimit full(20);
         EXPECT_FALSE(save());
     }
+    EXPECT_EQ(QDir(path()).entryList({"*.saving*"}), QStringList());
     EXPECT_FALSE(save("no/such/folder/p.mrx"));
     EXPECT_EQ(log().filter("not saved: ").size(), 2) << logText();
     EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
@@ -234,6 +236,14 @@ TEST_F(FProjectTest, aProjectOpenElsewhereIsntSavedOver) {
     EXPECT_TRUE(logHolds("the project is open elsewhere"));
     ASSERT_TRUE(run("a.setNumber(3)"));
     EXPECT_FALSE(has("p.mrx.autosave"));
+    write("p.mrx.autosave", "that of the other process");
+    FProject::instance()->create();
+    FMerixCtrl::instance()->setReadOnly(true);
+    EXPECT_TRUE(open("p.mrx"));
+    FMerixCtrl::instance()->setReadOnly(false);
+    EXPECT_FALSE(logHolds("there is unsaved work")) << logText();
+    QFile::remove(path("p.mrx.autosave"));
+    EXPECT_TRUE(open("p.mrx"));
     EXPECT_FALSE(save("p.mrx"));
     EXPECT_TRUE(save("q.mrx"));
     EXPECT_EQ(FProject::instance()->getHolder(), "");

@@ -34,7 +34,7 @@ int FWriteSubcommand::run() const {
     for (const FSetUpInput& input : FSetUpCheck::inputsOf(computation)) {
         notReplaced += input.notReplaced;
         FStandardOutput::write(QStringLiteral("%1: %2 tags replaced, %3 not replaced\n")
-                                   .arg(folder.filePath(input.file))
+                                   .arg(QDir::cleanPath(folder.path() + QLatin1Char('/') + input.file))
                                    .arg(input.replaced)
                                    .arg(input.notReplaced));
     }

@@ -125,7 +125,7 @@ std::unique_ptr<QFile> FGenIntReader::openFile(const FGenIntResultsFile& file, c
     }
     if (!link.isEmpty()) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\": %2").arg(file.getFileName(), link),
-                      QStringLiteral("it isn't read"));
+                      QStringLiteral("It isn't read"));
     }
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (isUnusable || !FFile::openOrdinary(*device, mode).isEmpty()) {

@@ -7,6 +7,7 @@
 #include "genericintegration/setup/FResultsGenInt.h"
 #include "genericintegration/setup/FSetUpExport.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
@@ -140,6 +141,19 @@ QMap<QString, QString> FGenIntComputation::describeSetUp() const {
                      QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex()));
     }
     return setUp;
+}
+
+std::vector<const FObject*> FGenIntComputation::getReadingParts() const {
+    std::vector<const FObject*> values;
+    const FDefinitionGenInt* described = definition();
+    for (const FExpr<FGenIntFile>& handle : described ? described->getFiles(1) : QList<FExpr<FGenIntFile>>()) {
+        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
+            for (const FExpr<FObject>& value : file->getValues()->getObjects()) {
+                values.push_back(value.getStored());
+            }
+        }
+    }
+    return values;
 }
 
 QString FGenIntComputation::getFileNameFault() const {

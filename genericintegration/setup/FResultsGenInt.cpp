@@ -64,7 +64,11 @@ double lastOfColumn(const FResultsGenInt& results, int column) {
 
 double averageOfLast(const FResultsGenInt& results, int numberOfRows, int column) {
     checkFirst(results, [&](const FTableData& table) {
-        if (FTableCommands::checkColumn(table, column) && numberOfRows > table.getRowCount()) {
+        if (numberOfRows < 1) {
+            FCmd::warnNow(table.getName(),
+                          QStringLiteral("getAverageOfLastRows: %1 rows have no mean").arg(numberOfRows),
+                          QStringLiteral("The result is NaN; give a number from 1"));
+        } else if (FTableCommands::checkColumn(table, column) && numberOfRows > table.getRowCount()) {
             FCmd::warnNow(table.getName(),
                           QStringLiteral("%1 has %2 rows instead of %3")
                               .arg(table.getName())

@@ -76,7 +76,9 @@ QString replace(const QString& name, const Fill& fill, const FSavedFile::Step& b
     }
     QString reason = writeAndReplace(file, path, fill, beforeReplacing);
     if (!reason.isEmpty()) {
-        file.remove();
+        // What can't be written makes the closing fail, and with it a removal that includes it.
+        file.close();
+        QFile::remove(file.fileName());
     }
     return reason;
 }

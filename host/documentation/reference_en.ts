@@ -229,11 +229,11 @@ solver.setConfiguration(cruise)</translation>
     </message>
     <message>
         <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false)</source>
-        <translation>Writes the whole set-up to an exchange file: definition, templates, configuration with its values, computation, and the connector if there is one. An import reads the file into another project. A file of that name is replaced in one step, or stays as it is if the new one can't be written. A warning names each object that a value needs and that isn't in the file.</translation>
+        <translation>Writes the whole set-up to an exchange file: definition, templates, configuration with its values, computation, and the connector if there is one. An import reads the file into another project. A file of that name is replaced in one step, or stays as it is if the new one can't be written. A warning names each object that a value, a template or the computation needs and that isn't in the file.</translation>
     </message>
     <message>
         <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):argument0</source>
-        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded.</translation>
+        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. A relative name starts at the folder of the script if the file lies there, otherwise at the current folder.</translation>
     </message>
     <message>
         <source>!FCustomComputation.member.exportSetUp(string,fileName,bool,chain=false):argument1</source>
@@ -420,7 +420,7 @@ print(wing.getEntryNames(), cruise.getEntryValue("Geometry|span"))</translation>
     </message>
     <message>
         <source>!FDefinitionCustom.member.save(string,fileName=""):argument0</source>
-        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. Without it the file of the last time is written.</translation>
+        <translation>The file, in general with the ending .lodm. $NAME, ${NAME}, %NAME% and a leading ~ are expanded. A relative name starts at the folder of the script if the file lies there, otherwise at the current folder. Without it the file of the last time is written.</translation>
     </message>
     <message>
         <source>!FDefinitionCustom.member.save(string,fileName=""):example</source>
@@ -553,7 +553,7 @@ solver.setConsoleFiles(false)</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setDesign(FDesign,design)</source>
-        <translation>Sets the design whose folder the next runs use, so that the files of each design are kept. Results of such a run belong to the design: they are saved with the project and read again from that folder. getState() and getResults() are then those of the last run of that design. Refused with a message during a run, and for a design named "baseline".</translation>
+        <translation>Sets the design whose folder the next runs use, so that the files of each design are kept. Results of such a run belong to the design: they are saved with the project and read again from that folder. getState() and getResults() are then those of the last run of that design. Refused with a message during a run.</translation>
     </message>
     <message>
         <source>!FExternComputation.attribute.setDesign(FDesign,design):argument0</source>
@@ -2983,7 +2983,7 @@ newProject()</translation>
     </message>
     <message>
         <source>!Global.openProject(string,file,bool,recover=false):argument1</source>
-        <translation>True takes the unsaved work from NAME.mrx.autosave, if it is newer than the project.</translation>
+        <translation>True takes the unsaved work from NAME.mrx.autosave, if there is any, also if the project is newer.</translation>
     </message>
     <message>
         <source>!Global.openProject(string,file,bool,recover=false):example</source>
@@ -3022,7 +3022,7 @@ print(exists("span"))</translation>
     </message>
     <message>
         <source>!FDesign.creator.design()</source>
-        <translation>A design: it has a name, and a folder of its own for its runs.</translation>
+        <translation>A design: it has a name, and a folder of its own for its runs. The name "baseline" counts as taken: that is the folder of the runs without a design.</translation>
     </message>
     <message>
         <source>!FDesign.creator.design():example</source>

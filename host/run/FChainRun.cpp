@@ -127,9 +127,10 @@ void FChainRun::take(const FExternComputation& member) {
 }
 
 void FChainRun::giveUp(const FExternComputation& failed) {
+    const FComputationChain::Computations clients = FComputationChain::clientsOf(failed);
     for (; mNext < mMembers.size(); ++mNext) {
         FExternComputation* member = mMembers.at(mNext).computation.ptr();
-        if (member && member->dependsOn(&failed)) {
+        if (member && clients.contains(member)) {
             member->skipRun(Cause::UpstreamFailed,
                             QStringLiteral("It was not run: it uses results of \"%1\", whose run ended as: %2.")
                                 .arg(failed.getName(), failed.getLastRun().outcomeName()));

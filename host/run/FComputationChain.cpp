@@ -22,6 +22,12 @@ Computations FComputationChain::suppliersOf(const FExternComputation& computatio
     return index < 0 ? Computations() : listOf(graph, graph.suppliersOf(index));
 }
 
+Computations FComputationChain::clientsOf(const FExternComputation& computation) {
+    const FComputationGraph graph;
+    const int index = graph.indexOf(&computation);
+    return index < 0 ? Computations() : listOf(graph, graph.clientsOf(index));
+}
+
 Computations FComputationChain::of(const FExternComputation& computation) {
     const FComputationGraph graph;
     const int index = graph.indexOf(&computation);

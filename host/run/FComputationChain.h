@@ -13,6 +13,8 @@ class MERIX_EXPORT FComputationChain {
 
     /** Those whose results the computation uses, at any distance. Suppliers come before their clients. */
     static Computations suppliersOf(const FExternComputation& computation);
+    /** Those that use its results, at any distance. */
+    static Computations clientsOf(const FExternComputation& computation);
     /**
      * The computation with all that it uses, and all that use it, at any distance; not those that only share a supplier
      * with it. Suppliers come before their clients, unrelated ones in the order of their creation as far as possible.

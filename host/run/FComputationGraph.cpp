@@ -18,13 +18,21 @@ namespace {
 
 /** What a computation's marks reach before they come to other computations. */
 struct Reached {
-    explicit Reached(const FExternComputation& start) {
+    using Readers = std::unordered_multimap<const FObject*, FExternComputation*>;
+
+    Reached(const FExternComputation& start, const Readers& readers) {
         std::vector<const FObject*> todo{&start};
         std::unordered_set<const FObject*> seen{&start};
         for (std::size_t i = 0; i < todo.size(); ++i) {
             for (FObject* object : FUpdateGraph::reachedBy(todo[i])) {
                 if (!object->getBlock()->live() || !seen.insert(object).second) {
                     continue;
+                }
+                const auto [first, end] = readers.equal_range(object);
+                for (auto reader = first; reader != end; ++reader) {
+                    if (seen.insert(reader->second).second) {
+                        computations.push_back(reader->second);
+                    }
                 }
                 if (auto* computation = dynamic_cast<FExternComputation*>(object)) {
                     computations.push_back(computation);
@@ -66,6 +74,9 @@ FComputationGraph::FComputationGraph() {
         if (auto* computation = dynamic_cast<FExternComputation*>(object)) {
             mIndexes[computation] = static_cast<int>(mComputations.size());
             mComputations.push_back(computation);
+            for (const FObject* part : computation->getReadingParts()) {
+                mReaders.emplace(part, computation);
+            }
         }
     }
     mSuppliers.resize(mComputations.size());
@@ -77,7 +88,7 @@ FComputationGraph::FComputationGraph() {
 
 void FComputationGraph::addLinksFrom(int supplier) {
     const FExternComputation& start = *mComputations[static_cast<std::size_t>(supplier)];
-    const Reached reached(start);
+    const Reached reached(start, mReaders);
     for (const FExternComputation* computation : reached.computations) {
         Link link{supplier, indexOf(computation), {}, {}};
         if (link.client < 0) {

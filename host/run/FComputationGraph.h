@@ -8,6 +8,7 @@
 #include <vector>
 
 class FExternComputation;
+class FObject;
 
 /**
  * All computations of the model as it is now, in the order of their creation, and which of them use results of which
@@ -44,6 +45,7 @@ class MERIX_EXPORT FComputationGraph {
     static std::vector<int> reachedFrom(int index, const Neighbours& next);
 
     std::vector<FExternComputation*> mComputations;
+    std::unordered_multimap<const FObject*, FExternComputation*> mReaders;  // by what they read their results with
     std::unordered_map<const FExternComputation*, int> mIndexes;
     std::vector<Link> mLinks;
     Neighbours mSuppliers;  // direct ones

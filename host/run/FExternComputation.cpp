@@ -1,6 +1,7 @@
 #include "host/run/FExternComputation.h"
 
 #include "host/core/FChanges.h"
+#include "host/core/FFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FQuotedText.h"
@@ -71,12 +72,9 @@ const FExpr<FDesign>& FExternComputation::getDesign() const {
 }
 
 void FExternComputation::setDesign(const FExpr<FDesign>& design) {
-    const bool isReserved = design && design->getName() == FPathManager::baseline();
-    if (!canRun() || isReserved) {
+    if (!canRun()) {
         FLogMsg::warning(getName(), QStringLiteral("Its design can't be changed to %1").arg(design.toString()),
-                         isReserved ? QStringLiteral("That name is reserved for the runs without a design; rename the "
-                                                     "design")
-                                    : QStringLiteral("Wait for the end of the run"));
+                         QStringLiteral("Wait for the end of the run"));
         return;
     }
     recordChange();
@@ -361,7 +359,7 @@ FExpr<FComputationResults> FExternComputation::readFolder(const QString& folder)
     FExpr<FComputationResults> results(type ? type->createResults({}, FExpr<FExternComputation>(this)) : nullptr);
     if (results) {
         results->setResultPath(folder);
-        if (folder == getWorkingPath()) {
+        if (FFile::realPath(folder) == FFile::realPath(getWorkingPath())) {
             results->setRun(getLastRecord());
         }
         processReread(results.ptr());

@@ -13,6 +13,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 class FChainRun;
 class FRunAttempt;
@@ -41,8 +42,7 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     const FExpr<FDesign>& getDesign() const;
     /**
      * The next runs use the folder of that design, and their results belong to it and are saved with it. State and
-     * results are then those of the last run of that design. Refused, with a message, while a run is in progress, and
-     * for a design named "baseline".
+     * results are then those of the last run of that design. Refused, with a message, while a run is in progress.
      */
     void setDesign(const FExpr<FDesign>& design);
 
@@ -107,6 +107,9 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual QMap<QString, QString> describeSetUp() const;
     /** The files of a run have moved; both with a slash at the end. */
     void runMoved(const QString& from, const QString& to);
+    /** What the results are read with beside the set-up, such as the rows of a mean. Nothing goes out of date with it.
+     */
+    virtual std::vector<const FObject*> getReadingParts() const { return {}; }
     /** The other process that has the project open, and so its runs, for a message; empty if there is none. */
     static QString getHolderOfRuns();
     /** Folder of the run in progress, else of the last one, else of the next; with a slash at its end. */

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 const QString& FProgramSettings::outputFile() {
     static const QString name = QStringLiteral("stdout.txt");
     return name;
@@ -29,9 +31,26 @@ QString FProgramSettings::digest() const {
     return FFileDigest::of(search().file);
 }
 
+// The system takes such a text up to that character.
+FProgramFault FProgramSettings::faultOfNul() const {
+    const auto hasNul = [](const QString& text) { return text.contains(QChar::Null); };
+    const bool isArgument = std::any_of(arguments.begin(), arguments.end(), hasNul);
+    const bool isVariable = std::any_of(environment.begin(), environment.end(), hasNul);
+    if (!isArgument && !isVariable && !hasNul(executable)) {
+        return {};
+    }
+    const QString what = isArgument   ? QStringLiteral("An argument of the program")
+                         : isVariable ? QStringLiteral("A variable of the environment")
+                                      : QStringLiteral("The name of the program");
+    return {what + QStringLiteral(" contains NUL"), QStringLiteral("Remove that character")};
+}
+
 FProgramFault FProgramSettings::fault() const {
     if (executable.isEmpty()) {
         return {QStringLiteral("No program is given"), QStringLiteral("Set it with setExecutable")};
+    }
+    if (const FProgramFault nul = faultOfNul(); !nul.text.isEmpty()) {
+        return nul;
     }
     if (FSafePath::leadsOut(standardInput)) {
         return {

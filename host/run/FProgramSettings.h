@@ -27,4 +27,7 @@ struct MERIX_EXPORT FProgramSettings {
     FProgramFault fault() const;
     /** The same for the start in a folder, whose path has no slash at its end. */
     FProcessSetup setupIn(const QString& folder) const;
+
+ private:
+    FProgramFault faultOfNul() const;
 };

@@ -25,6 +25,25 @@ bool isThere(const QFileInfo& entry) {
     return entry.exists() || entry.isSymLink();
 }
 
+/** What is in the way of a folder, or the folder that it can't be created in. */
+QString obstacleOf(const QString& folder) {
+    QString level = folder;
+    while (!isThere(QFileInfo(level)) && level != QFileInfo(level).path()) {
+        level = QFileInfo(level).path();
+    }
+    return QFileInfo(level).isDir() ? QStringLiteral("check the permissions of '%1'").arg(level)
+                                    : QStringLiteral("'%1' is no folder, remove it").arg(level);
+}
+
+/** Programs may write-protect the folders that they leave; nothing in them could be moved. */
+void makeWritable(const QString& folder) {
+    constexpr auto own = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+    const QFileDevice::Permissions present = QFile::permissions(folder);
+    if ((present & own) != own) {
+        QFile::setPermissions(folder, present | own);
+    }
+}
+
 }  // namespace
 
 FRunFolder::FRunFolder(const QString& folder, const QString& earlier)
@@ -175,6 +194,12 @@ bool FRunFolder::moveAll(const QStringList& names, QString& reason) const {
     QStringList folders;
     for (const QString& name : names) {
         const QFileInfo entry(mFolder + name);
+        if (!name.isEmpty() && isFolder(entry) && !FSafePath::leadsOut(mFolder, name)) {
+            makeWritable(entry.filePath());
+        }
+    }
+    for (const QString& name : names) {
+        const QFileInfo entry(mFolder + name);
         if (name.isEmpty() || FSafePath::leadsOut(mFolder, name) || !isThere(entry)) {
             continue;
         }
@@ -190,14 +215,16 @@ bool FRunFolder::moveAll(const QStringList& names, QString& reason) const {
 
 bool FRunFolder::moveFile(const QString& name, QString& reason) const {
     const QString target = mEarlier + QLatin1Char('/') + name;
+    const QString folder = QFileInfo(target).path();
     QFile file(mFolder + name);
-    if (QDir().mkpath(QFileInfo(target).path()) && file.rename(target)) {
+    const bool hasFolder = QDir().mkpath(folder);
+    if (hasFolder && file.rename(target)) {
         return true;
     }
-    reason = QStringLiteral(
-                 "'%1' is left from an earlier run and can't be moved to '%2' (%3). Close the program that has "
-                 "it open, or remove it.")
-                 .arg(mFolder + name, target, file.errorString());
+    reason =
+        QStringLiteral("'%1' is left from an earlier run and can't be moved to '%2'").arg(mFolder + name, target) +
+        (hasFolder ? QStringLiteral(" (%1). Close the program that has it open, or remove it.").arg(file.errorString())
+                   : QStringLiteral(": %1.").arg(obstacleOf(folder)));
     return false;
 }
 

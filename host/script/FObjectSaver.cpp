@@ -5,6 +5,8 @@
 #include "host/script/FCmdManager.h"
 #include "host/script/FMemberCmd.h"
 
+#include <iterator>
+
 void FObjectSaver::line(unsigned int indent, const QString& command) {
     mStream << QString(static_cast<int>(indent) * TAB, QLatin1Char(' ')) << '.' << command << ";\n";
 }
@@ -21,13 +23,16 @@ void FObjectSaver::save(const FManaged& object, unsigned int indent, bool inScop
             << '(' << arguments << ')';
     const auto attributes = FCmdManager::instance()->getAttributesByReceiver(&object);
     const QStringList further = object.furtherSavedCommands();
-    if (attributes.empty() && further.isEmpty() && object.getDocu().isEmpty() && !flag) {
+    QMap<unsigned int, QString> docu = object.getDocu();
+    for (auto area = docu.begin(); area != docu.end();) {
+        area = area.value().isEmpty() ? docu.erase(area) : std::next(area);
+    }
+    if (attributes.empty() && further.isEmpty() && docu.isEmpty() && !flag) {
         mStream << " {}\n";
         return;
     }
     mStream << " {\n";
-    const QMap<unsigned int, QString>& docu = object.getDocu();
-    for (auto area = docu.begin(); area != docu.end(); ++area) {
+    for (auto area = docu.constBegin(); area != docu.constEnd(); ++area) {
         const FEnum<FDocuArea> name(static_cast<FDocuArea>(area.key()));
         line(indent + 1, QStringLiteral("addDocu(%1,%2)").arg(quoteText(area.value()), name.getStringValue()));
     }

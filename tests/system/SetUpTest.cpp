@@ -134,6 +134,9 @@ TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
     const Outcome old = merix({"read", "p.mrx", "--dir", "p.results/baseline/comp", "--csv"});
     EXPECT_TRUE(old.output.contains("double,10,out.txt:1:8,10,earlier set-up\n")) << old.output.toStdString();
     EXPECT_TRUE(old.errors.contains("are of an earlier set-up (x was 5, is 2)")) << old.errors.toStdString();
+    QFile::link(path(), path("link"));
+    EXPECT_EQ(merix({"read", "link/p.mrx", "--dir", "link/p.results/baseline/comp", "--csv"}).output, old.output);
+    QFile::remove(path("link"));
     EXPECT_EQ(QDir(path()).entryList({"p.mrx*"}), QStringList({"p.mrx"}));
     EXPECT_EQ(merix({"run", "p.mrx", "--set", "x=1 +"}).exitCode, 2);
 }
@@ -191,6 +194,9 @@ genericIntegrationComputation adder() {
     EXPECT_EQ(cut.exitCode, 1);
     EXPECT_TRUE(cut.errors.contains("can't be imported whole")) << cut.errors.toStdString();
     EXPECT_EQ(read("other/q.mrx"), project);
+    write("empty.lodm", "\n");
+    EXPECT_EQ(merix({"import", "empty.lodm", "--into", "other/new.mrx"}).exitCode, 1);
+    EXPECT_FALSE(has("other/new.mrx"));
     EXPECT_EQ(merix({"import", "p.mrx", "--into", "other/q.mrx"}).exitCode, 2) << "of another kind";
     EXPECT_EQ(merix({"import", "none.lodm", "--into", "other/q.mrx"}).exitCode, 3);
 }

@@ -95,6 +95,19 @@ def1.addEntry("geometry", geometryExport("g.csv", 0, [group])))"));
     EXPECT_TRUE(has("study.results/baseline/first/m.dat"));
 }
 
+TEST_F(FChainRunTest, theRowsOfAMeanMayComeFromAnotherRun) {
+    ASSERT_TRUE(
+        run("genericIntegrationResultsFile out4() { .setFileName(\"o.txt\");\n.setValues([[\"v\", 0, 0, \"\", First, "
+            "\"FDouble\", \"\", 1, first.getResults().getDataAt(\"v\", 0) - 1]]) }\n"
+            "def5.setFiles([out4]); alone.setExecutable(\"sh\"); alone.setArguments([\"-c\", \"seq 5 > o.txt\"])"));
+    EXPECT_TRUE(computation("alone")->runWithSuppliers());
+    EXPECT_EQ(computation("first")->getLastRun().stateName(), "finished");
+    EXPECT_EQ(numbers({"alone"}), "4.5");
+    ASSERT_TRUE(run("first.setExecutable(\"false\"); first.setArguments([])"));
+    EXPECT_FALSE(computation("alone")->runWithSuppliers());
+    EXPECT_EQ(computation("alone")->getLastRun().stateName(), "not run: upstream failed");
+}
+
 TEST_F(FChainRunTest, afterAFailureTheOthersAreNotRun) {
     EXPECT_EQ(runThird(), "first second third");
     ASSERT_TRUE(run("first.setArguments([\"-c\", \"exit 1\"])"));

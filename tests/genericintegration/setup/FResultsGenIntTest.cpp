@@ -28,6 +28,8 @@ TEST_F(FResultsGenIntTest, readsNumbersOfTheFirstTable) {
         EXPECT_EQ(textOf("comp.getResults()." + call), "9") << call.toStdString();
     }
     EXPECT_EQ(textOf("comp.getResults().getDataAt(5,0)"), "NaN");
+    EXPECT_EQ(textOf("comp.getResults().getAverageOfLastRows(0)"), "NaN");
+    EXPECT_TRUE(logHolds("getAverageOfLastRows: 0 rows have no mean")) << logText();
     EXPECT_EQ(textOf("comp.getResults().getDataAt(\"s\",0)"), "NaN") << "it is in the second table";
     EXPECT_EQ(textOf("comp.getResults().getDataAt(comp,0)"), "NULL");
 }
@@ -210,6 +212,7 @@ TEST_F(FResultsGenIntTest, savesResultsOfADesign) {
     EXPECT_EQ(made->getComputation().ptr(), computation());
     made->setOutputHandles({file("square"), file("console")});
     made->addDocu("a \"good\" one", 1);
+    made->addDocu("", 2);
     const QString text = saved(*made);
     EXPECT_EQ(text, QString("\ngenericIntegrationResults r(d7,%1) {\n"
                             "    .addDocu(\"a \\\"good\\\" one\",DocuDescription);\n"

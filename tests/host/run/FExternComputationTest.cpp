@@ -272,9 +272,9 @@ TEST_F(FExternComputationTest, keepsTheResultsOfEachDesign) {
     EXPECT_EQ(mProbe->number(), 1);
     EXPECT_TRUE(FHistory::instance()->undo());
     EXPECT_EQ(mProbe->number(), 2);
-    choose("baseline");
-    EXPECT_TRUE(logHolds("can't be changed to baseline"));
-    EXPECT_EQ(mProbe->number(), 2);
+    EXPECT_EQ(object<FDesign>("baseline"), nullptr) << "the folder of runs without a design";
+    object<FDesign>("d1")->setName("baseline");
+    EXPECT_EQ(object<FDesign>("baseline"), nullptr);
 
     FManaged::destroy(object<FDesign>("d2"));
     EXPECT_EQ(mProbe->getLastRun().stateName(), "ready") << "there was no run without a design";
@@ -308,6 +308,10 @@ TEST_F(FExternComputationTest, tellsWhyAProgramCanNotBeStarted) {
     EXPECT_FALSE(mProbe->mSteps.contains("started"));
 
     set(*mProbe, "setExecutable", QString("cat"));
+    set(*mProbe, "setArguments", QStringList{"a", QString("b%1c").arg(QChar(QChar::Null))});
+    EXPECT_FALSE(mProbe->run());
+    EXPECT_TRUE(logHolds("An argument of the program contains NUL"));
+    set(*mProbe, "setArguments", QStringList());
     set(*mProbe, "setStandardInput", QString("../../../wing.mrx"));
     EXPECT_FALSE(mProbe->run());
     EXPECT_TRUE(logHolds("outside the folder"));

@@ -1,6 +1,8 @@
 #include "host/run/FRunFolder.h"
 #include "tests/support/FTestFolder.h"
 
+#include <sys/stat.h>
+
 namespace {
 
 class FRunFolderTest : public testing::Test, public FTestFolder {
@@ -29,6 +31,7 @@ TEST_F(FRunFolderTest, movesWhatRunsLeftAndNothingElse) {
     write("run/deep/er/field.plt", "first");
     write(QString::fromUtf8("run/ä \n \".dat"), "first");
     QFile::link("nowhere", path("run/dead link"));
+    QFile::setPermissions(path("run/deep/er"), QFile::ReadOwner | QFile::ExeOwner);
     first.noteLeft();
 
     write("run/by hand.txt", "between the runs");
@@ -76,7 +79,17 @@ TEST_F(FRunFolderTest, saysWhatCanNotBeMoved) {
     FRunFolder blocked = folder();
     EXPECT_FALSE(moveAside(blocked, {"out.dat"}));
     EXPECT_TRUE(mReason.contains(path("run/out.dat"))) << mReason.toStdString();
+    EXPECT_TRUE(mReason.endsWith("'" + path(".earlier") + "' is no folder, remove it.")) << mReason.toStdString();
     EXPECT_EQ(read("run/out.dat"), "old");
+
+    // Nobody writes to it.
+    QFile::remove(path(".earlier"));
+    QDir(path()).mkpath(".earlier/run");
+    for (const QString& notes :
+         {FRunFolder::notesFile(path(".earlier/run")), FRunFolder::beforeFile(path(".earlier/run"))}) {
+        ASSERT_EQ(::mkfifo(QFile::encodeName(notes).constData(), 0600), 0);
+    }
+    EXPECT_TRUE(moveAside(blocked, {"out.dat"})) << mReason.toStdString();
 
     write("file", "");
     FRunFolder impossible(path("file/run"), path("file/.earlier"));

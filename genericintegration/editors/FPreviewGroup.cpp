@@ -25,11 +25,12 @@ FPreviewGroup::FPreviewGroup()
     layout()->addWidget(mpPlace);
 }
 
-void FPreviewGroup::showPlace(const FFoundValue& found, const QString& text, bool isFileName) {
+void FPreviewGroup::showPlace(const FFoundValue& found, const QString& text, bool isFileName, bool isFramed) {
     constexpr int mostShown = 80;  // characters
-    const QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
-                          : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
-                                             : QStringLiteral("not found");
+    QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
+                    : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
+                                       : QStringLiteral("not found");
+    place += isFramed ? QStringLiteral(", in the frame") : QString();
     const QString shown =
         found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text.left(mostShown));
     const QString reason = isFileName ? QString() : FValueRemark::text(found, found.number);

@@ -17,8 +17,9 @@ class FPreviewGroup : public FGroupBox {
     /**
      * Says where the current value is found in the sample, and what is suspicious about it.
      * @param text  what is there
+     * @param isFramed  whether the place is framed, since another one is marked
      */
-    void showPlace(const FFoundValue& found, const QString& text, bool isFileName);
+    void showPlace(const FFoundValue& found, const QString& text, bool isFileName, bool isFramed);
     void showNoPlace();
 
  private:

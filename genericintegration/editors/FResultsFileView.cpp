@@ -84,7 +84,7 @@ void FResultsFileView::mark(const Value& value) {
     const FFoundValue found =
         mpSample->mark(FTemplateValues::describe(*value.ptr()), mpForm->separators().separators());
     mpForm->preview().showPlace(found, found.textIn(mpSample->sample().text()),
-                                FTemplateValues::isFileName(*value.ptr()));
+                                FTemplateValues::isFileName(*value.ptr()), mpSample->isReadElsewhere());
     explainFrame();
 }
 

@@ -46,7 +46,8 @@ class FMarkWalk {
         : mSample(sample),
           mValue(value),
           mSeparator(separators.findNumbers ? nullptr : FSeparator::of(separators.expression())),
-          mLastLine(sample.lineCount() - 1) {
+          mLastLine(sample.lineCount() - 1),
+          mRows(rows()) {
         FSeparatorMatches::startText();
     }
 
@@ -60,7 +61,7 @@ class FMarkWalk {
     }
 
     /** Whether a line is a row of the average. */
-    bool isRow(int number) const { return rows().first <= number && number <= rows().last; }
+    bool isRow(int number) const { return mRows.first <= number && number <= mRows.last; }
     /** The column of the average in a line. */
     FTextRange columnOfRow(int number) const {
         const QString& anchor = mValue.anchor.text;
@@ -118,14 +119,14 @@ class FMarkWalk {
         return place < 0 ? text : withoutIndent(text.mid(place + anchor.size()));
     }
 
-    // Down to the last line that isn't blank. Blank lines between them count, as they do for the reader.
+    // The rows of the average end with the last line that isn't blank. Blank lines before it count, as for the reader.
     FLineRange rows() const {
         const int last = std::max(mSample.lastFilledLine(), 0);
         return {last + 1 - static_cast<int>(std::min<qint64>(mValue.averageRows, last + 1)), last};
     }
 
     void markRows(FLineRange view) {
-        const auto [first, last] = rows();
+        const auto [first, last] = mRows;
         if (first > last) {
             mMarks.cursor = mSample.documentEnd();
             mMarks.place = {mMarks.cursor, 0};
@@ -151,6 +152,7 @@ class FMarkWalk {
     const FValueDescription& mValue;
     std::shared_ptr<const FSeparator> mSeparator;  //!< null where numbers are columns
     int mLastLine;
+    FLineRange mRows;
     FResultMarks mMarks;
 };
 

@@ -17,6 +17,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShortcut>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -70,6 +71,11 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FObjectTreeWgt::takeSelection);
     connect(FSelectionSet::instance(), &FSelectionSet::changed, this, &FObjectTreeWgt::showSelection);
     connect(mpView, &QTreeView::doubleClicked, this, &FObjectTreeWgt::doubleClicked);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* enter = new QShortcut(key, mpView);
+        enter->setContext(Qt::WidgetShortcut);
+        connect(enter, &QShortcut::activated, this, [this] { doubleClicked(mpView->currentIndex()); });
+    }
     connect(mpView, &QTreeView::customContextMenuRequested, this, &FObjectTreeWgt::openMenu);
     connect(mpModel, &QAbstractItemModel::modelAboutToBeReset, this, &FObjectTreeWgt::keepExpanded);
     connect(mpModel, &QAbstractItemModel::modelReset, this, &FObjectTreeWgt::restoreExpanded);

@@ -240,6 +240,11 @@ TEST_F(FGenIntResultsFileEditorTest, aPageIsThereOnceAndGoesWithItsObject) {
     settle();
     EXPECT_EQ(tabs.count(), 2);
     agree();
+    emit tabs.tabCloseRequested(1);
+    tree->setFocus();
+    press(tree, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(tabs.count(), 2) << "Enter opens it, too";
 }
 
 TEST_F(FGenIntResultsFileEditorTest, whateverHappensAllThatIsShownIsWhatTheTemplateHolds) {

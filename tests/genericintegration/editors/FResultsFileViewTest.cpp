@@ -19,6 +19,12 @@ TEST_F(FResultsFileViewTest, theLabelsHaveRoomInALargerFont) {
     const QFont usual = QApplication::font();
     QFont large = usual;
     large.setPointSizeF(2 * usual.pointSizeF());
+    const auto labelHeight = [this] { return find("findNumbers")->parentWidget()->height(); };
+    const int height = labelHeight();
+    FTheme::choose(FTheme::Appearance::Dark);
+    settle();
+    EXPECT_EQ(labelHeight(), height) << "colours change nothing";
+    FTheme::choose(FTheme::Appearance::Desktop);
     QApplication::setFont(large);
     settle();
     const int measure = QFontMetrics(large).horizontalAdvance("Regular Expression");

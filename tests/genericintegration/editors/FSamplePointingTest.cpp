@@ -72,6 +72,7 @@ TEST_F(FSamplePointingTest, whereTheReaderReadsElsewhereItsPlaceIsFramed) {
     EXPECT_EQ(text(marked()), "aaalllllllc");
     const auto isExplained = [this] { return preview().item(0, 0)->toolTip().contains("read at the frame"); };
     EXPECT_TRUE(isExplained());
+    EXPECT_EQ(text(find<QLabel>("valuePlace")->text()), "line 1, column 5, in the frame: 1");
     agree();
     enterText("anchor", "");
     EXPECT_FALSE(isExplained());

@@ -1,5 +1,8 @@
 #include "genericintegration/connector/FConnectorPage.h"
 
+#include "genericintegration/connector/FSoftConScene.h"
+#include "genericintegration/connector/FSoftConView.h"
+
 #include <QVBoxLayout>
 
 FConnectorPage::FConnectorPage(FSoftwareConnector& connector, FNavigator& navigator) : mConnector(&connector) {
@@ -25,6 +28,16 @@ void FConnectorPage::goTo(int line, int column) {
 
 FObjectPage* FConnectorPage::showPageOf(const FManaged* object) {
     return mConnector ? mConnector->showPageOf(object) : nullptr;
+}
+
+bool FConnectorPage::isPartFocused() const {
+    return mConnector && mConnector->getView()->hasFocus() && mConnector->getScene()->keys().isAtRemovable();
+}
+
+void FConnectorPage::deletePart() {
+    if (mConnector) {
+        mConnector->getScene()->keys().remove();
+    }
 }
 
 void FConnectorPage::letGo() {

@@ -17,6 +17,8 @@ class FConnectorPage : public QWidget, public FObjectPage {
     QWidget* widget() override { return this; }
     void goTo(int line, int column) override;
     FObjectPage* showPageOf(const FManaged* object) override;
+    bool isPartFocused() const override;
+    void deletePart() override;
     void letGo() override;
 
  private:

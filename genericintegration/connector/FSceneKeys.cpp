@@ -106,6 +106,9 @@ void FSceneKeys::remember(QObject* part) {
 }
 
 bool FSceneKeys::press(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Delete && event.modifiers() == Qt::ControlModifier) {
+        return remove();
+    }
     if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
         return false;
     }
@@ -187,11 +190,16 @@ bool FSceneKeys::select() {
     return item;
 }
 
+bool FSceneKeys::isAtRemovable() const {
+    const auto* item = dynamic_cast<const FSoftConObjectItem*>(mScene.focusItem());
+    return item && item->deleteProxy();
+}
+
 bool FSceneKeys::remove() {
-    auto* item = dynamic_cast<FSoftConObjectItem*>(mScene.focusItem());
-    if (!item || !item->deleteProxy()) {
+    if (!isAtRemovable()) {
         return false;
     }
+    auto* item = dynamic_cast<FSoftConObjectItem*>(mScene.focusItem());
     const QPointF place = item->sceneBoundingRect().center();
     mScene.deleteItem(item);
     focus(nearest(mScene.itemParts(), [&place](QObject* part) {

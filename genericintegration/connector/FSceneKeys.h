@@ -11,7 +11,7 @@ class QObject;
 /**
  * A connector's scene by keyboard. Tab goes from its items to its buttons and on; within each of the two, the arrow
  * keys go to the nearest one in their direction. Enter opens an item or presses a button, Space selects an item, Delete
- * removes it.
+ * or Ctrl+Delete removes it.
  */
 class FSceneKeys {
  public:
@@ -23,6 +23,10 @@ class FSceneKeys {
     bool goOn(bool isForward);
     /** Tab from outside: to the items, or backward to the buttons. */
     void enter(bool isForward);
+    /** Whether an item has the focus that can be removed. */
+    bool isAtRemovable() const;
+    /** Removes the item that has the focus; false if there is none. */
+    bool remove();
     /** The part that has the focus, or had it last, of the items or of the buttons. */
     void remember(QObject* part);
 
@@ -34,7 +38,6 @@ class FSceneKeys {
     bool move(int key);
     bool open();
     bool select();
-    bool remove();
 
     FSoftConScene& mScene;
     QPointer<QObject> mpLastItem;

@@ -56,6 +56,7 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
     QList<QObject*> buttonParts() const;
     QList<QObject*> itemParts() const;
     const FItemLinks& links() const { return *mpLinks; }
+    FSceneKeys& keys() { return mKeys; }
     /** Has the lines between items follow what the templates use. */
     void requestLinks() { mLinkFinder.request(); }
 

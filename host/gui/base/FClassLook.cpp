@@ -1,6 +1,8 @@
 #include "host/gui/base/FClassLook.h"
 
-#include "host/core/FObject.h"
+#include "host/core/FManaged.h"
+#include "host/design/FDefinitionBase.h"
+#include "host/design/FEntry.h"
 #include "host/gui/base/FIcons.h"
 
 #include <QHash>
@@ -28,6 +30,10 @@ QHash<QString, Look>& looks() {
         {QStringLiteral("FDesign"), {QStringLiteral("design"), QStringLiteral("Designs"), QStringLiteral("design")}},
         {QStringLiteral("FEntity"),
          {QStringLiteral("geometry"), QStringLiteral("Geometry"), QStringLiteral("geometry")}},
+        {QStringLiteral("FEntry"), {QStringLiteral("configuration"), QString(), QStringLiteral("entry")}},
+        {QStringLiteral("FInputFile"), {QStringLiteral("text-x-generic"), QString(), QStringLiteral("input file")}},
+        {QStringLiteral("FGeometryExport"), {QStringLiteral("geometry"), QString(), QStringLiteral("geometry export")}},
+        {QStringLiteral("FResultsFileName"), {QStringLiteral("results"), QString(), QStringLiteral("result file")}},
         {QStringLiteral("FManaged"), {QStringLiteral("object"), QStringLiteral("Others"), QStringLiteral("object")}},
     };
     return all;
@@ -60,6 +66,19 @@ QString FClassLook::groupOf(const FObject* object) {
 
 QString FClassLook::wordFor(const FObject* object) {
     return lookOf(object).word;
+}
+
+const FObject* FClassLook::describedBy(const FObject* object) {
+    const auto* entry = dynamic_cast<const FEntry*>(object);
+    const FObject* value = entry ? entry->getValue().getStored() : nullptr;
+    const bool isPlain = value && !dynamic_cast<const FManaged*>(value);
+    return isPlain && !wordFor(value).isEmpty() ? value : object;
+}
+
+QString FClassLook::helpTopicOf(const FObject& object) {
+    const FObject* described = describedBy(&object);
+    const auto* entry = dynamic_cast<const FEntry*>(described);
+    return entry && entry->getRoot() ? entry->getRoot()->getClass() : described->getClass();
 }
 
 void FClassLook::set(const QString& className, const QString& icon, const QString& group, const QString& word) {

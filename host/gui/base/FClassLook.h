@@ -16,6 +16,10 @@ class MERIX_EXPORT FClassLook {
     static QString groupOf(const FObject* object);
     /** The name of the object's class as users read it, such as "parameter". */
     static QString wordFor(const FObject* object);
+    /** What to show the look of: for an entry its value if that is an object with a word, else the object itself. */
+    static const FObject* describedBy(const FObject* object);
+    /** The class whose reference tells most about an object. */
+    static QString helpTopicOf(const FObject& object);
 
     /**
      * Sets the look of a class and of those derived from it. A library calls it when it is loaded.

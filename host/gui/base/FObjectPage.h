@@ -23,6 +23,10 @@ class MERIX_EXPORT FObjectPage {
         Q_UNUSED(object)
         return nullptr;
     }
+    /** Whether a part of the page has the focus that Delete takes away, instead of the selected objects. */
+    virtual bool isPartFocused() const { return false; }
+    /** Takes that part away. */
+    virtual void deletePart() {}
     /**
      * The page has been taken out of the window and will be deleted: it lets go of its object and of all text, and no
      * change of the model reaches it any more. The object may have left the model.

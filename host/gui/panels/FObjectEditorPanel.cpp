@@ -4,6 +4,7 @@
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
 #include "host/design/FConnectorInterface.h"
+#include "host/design/FEntry.h"
 #include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FPendingEdit.h"
@@ -37,11 +38,41 @@ FExpr<FObject> edited(const FExpr<FObject>& object) {
     return computation ? FExpr<FObject>(computation) : object;
 }
 
+/** The configuration that an entry is in; null once it was taken out, or belongs to a definition. */
+FConfiguration* configurationOf(const FEntry& entry) {
+    auto* configuration = dynamic_cast<FConfiguration*>(entry.getRoot());
+    return configuration && configuration->isInModel() ? configuration : nullptr;
+}
+
 FConfiguration* configurationOf(FObject* object) {
     if (const auto* computation = dynamic_cast<const FCustomComputation*>(object)) {
         return computation->getConfiguration().ptr();
     }
+    if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
+        return configurationOf(*entry);
+    }
     return dynamic_cast<FConfiguration*>(object);
+}
+
+/** Whose entries are edited: of several configurations, the first if all are of the same definition. */
+FConfiguration* configurationOf(const QList<FExpr<FObject>>& objects) {
+    if (objects.size() == 1) {
+        return configurationOf(objects.first().getObject());
+    }
+    FConfiguration* first = nullptr;
+    for (const FExpr<FObject>& object : objects) {
+        auto* configuration = dynamic_cast<FConfiguration*>(object.getObject());
+        if (!configuration || (first && configuration->getDefinition().ptr() != first->getDefinition().ptr())) {
+            return nullptr;
+        }
+        first = first ? first : configuration;
+    }
+    return first;
+}
+
+bool isRemoved(const FExpr<FObject>& object) {
+    const auto* entry = dynamic_cast<const FEntry*>(object.getStored());
+    return entry && !configurationOf(*entry);
 }
 
 FManaged* asManaged(const FExpr<FObject>& handle) {
@@ -139,18 +170,18 @@ void FObjectEditorPanel::commitEdit() {
 }
 
 void FObjectEditorPanel::showName() {
-    const FManaged* object = mShown.size() == 1 ? asManaged(mShown.first()) : nullptr;
     if (!mpName->isModified() || !mpName->hasFocus()) {
-        mpName->setText(object ? object->getName() : QStringLiteral("%1 objects").arg(mShown.size()));
+        mpName->setText(mShown.size() == 1 ? mShown.first().toString()
+                                           : QStringLiteral("%1 objects").arg(mShown.size()));
     }
-    mpName->setReadOnly(!object);
+    mpName->setReadOnly(mShown.size() != 1 || !asManaged(mShown.first()));
 }
 
 void FObjectEditorPanel::showHeader() {
-    const FObject* first = mShown.first().getObject();
+    const FObject* first = FClassLook::describedBy(mShown.first().getObject());
     const QString word = FClassLook::wordFor(first);
     const bool isSameClass = std::all_of(mShown.begin(), mShown.end(), [&word](const FExpr<FObject>& object) {
-        return FClassLook::wordFor(object.getObject()) == word;
+        return FClassLook::wordFor(FClassLook::describedBy(object.getObject())) == word;
     });
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     mpIcon->setPixmap(FClassLook::iconOf(isSameClass ? first : FManaged::null()).pixmap(size, size));
@@ -162,6 +193,7 @@ void FObjectEditorPanel::showHeader() {
 void FObjectEditorPanel::rebuild() {
     FPendingEdit::commitAll();
     mShown = FSelectionSet::instance()->getObjects();
+    mShown.erase(std::remove_if(mShown.begin(), mShown.end(), &isRemoved), mShown.end());
     mEdited.clear();
     if (mShown.isEmpty()) {
         mpForm->setReceiver({});
@@ -181,15 +213,23 @@ void FObjectEditorPanel::rebuild() {
     mpForm->setReceiver(mEdited.size() == 1 ? FExprBase(mEdited.first()) : keep);
     showEntries();
     mpPages->setCurrentIndex(1);
+    if (const auto* entry = mShown.size() == 1 ? dynamic_cast<FEntry*>(mShown.first().getObject()) : nullptr) {
+        // It may have been added just now.
+        mpEntries->model().follow();
+        mpEntries->showEntry(entry->getFullName());
+    }
 }
 
 void FObjectEditorPanel::showEntries() {
-    FConfiguration* configuration = mEdited.size() == 1 ? configurationOf(mEdited.first().getObject()) : nullptr;
+    FConfiguration* configuration = configurationOf(mEdited);
     auto* definition = mEdited.size() == 1 ? dynamic_cast<FDefinition*>(mEdited.first().getObject()) : nullptr;
     mpEntries->setConfiguration(configuration);
     mpEntries->setVisible(configuration);
     mpDefined->setDefinition(definition);
     mpDefined->setVisible(definition);
+    if (configuration && mEdited.size() > 1) {
+        mpClass->setText(QStringLiteral("entries of %1").arg(configuration->getName()));
+    }
     mpScroll->setVisible((!configuration && !definition) || !mpForm->fields().isEmpty());
     mShareHeight.request();
 }
@@ -223,12 +263,12 @@ bool FObjectEditorPanel::eventFilter(QObject* watched, QEvent* event) {
 
 // Fields and entries follow the model themselves; only what they belong to may be another one.
 void FObjectEditorPanel::follow() {
-    if (mEdited.size() != 1 || !mShown.first()) {
+    if (mShown.isEmpty() || !mShown.first()) {
         return;
     }
-    if (edited(mShown.first()) != mEdited.first()) {
+    if (edited(mShown.first()) != mEdited.first() || isRemoved(mShown.first())) {
         rebuild();
-    } else if (configurationOf(mEdited.first().getObject()) != mpEntries->model().configuration()) {
+    } else if (configurationOf(mEdited) != mpEntries->model().configuration()) {
         showEntries();
     }
 }
@@ -236,7 +276,8 @@ void FObjectEditorPanel::follow() {
 // What is shown must not outlive the object, even if the step that destroys it isn't over.
 void FObjectEditorPanel::clearFor(const FManaged* left) {
     const auto isGone = [left](const FExprBase& shown) { return shown.identity() == left->getBlock(); };
-    if (std::any_of(mShown.begin(), mShown.end(), isGone) || std::any_of(mEdited.begin(), mEdited.end(), isGone)) {
+    if (std::any_of(mShown.begin(), mShown.end(), isGone) || std::any_of(mEdited.begin(), mEdited.end(), isGone) ||
+        left == mpEntries->model().configuration()) {
         mShown.clear();
         mEdited.clear();
         mpForm->setReceiver({});

@@ -20,7 +20,8 @@ class QStackedWidget;
 
 /**
  * Shows and edits the selected objects: name, attributes, and the entries of a configuration or definition. With a
- * computation, or the connector of one, the entries of its configuration are below its settings.
+ * computation, or the connector of one, the entries of its configuration are below its settings. An entry is shown
+ * among those of its configuration.
  */
 class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
     Q_OBJECT

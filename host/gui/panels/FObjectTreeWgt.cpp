@@ -4,10 +4,12 @@
 #include "host/core/FManaged.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
+#include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FCommandCall.h"
 #include "host/gui/base/FEmptyHint.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/base/FObjectPages.h"
+#include "host/gui/panels/FDeleteQuestion.h"
 #include "host/gui/panels/FNewObjectMenu.h"
 #include "host/gui/panels/FObjectNameDelegate.h"
 #include "host/gui/panels/FObjectTreeModel.h"
@@ -70,6 +72,7 @@ FObjectTreeWgt::FObjectTreeWgt(FNavigator& navigator)
     });
     connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FObjectTreeWgt::takeSelection);
     connect(FSelectionSet::instance(), &FSelectionSet::changed, this, &FObjectTreeWgt::showSelection);
+    connect(FSelectionSet::instance(), &FSelectionSet::selectionReplaced, this, &FObjectTreeWgt::showSelection);
     connect(mpView, &QTreeView::doubleClicked, this, &FObjectTreeWgt::doubleClicked);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* enter = new QShortcut(key, mpView);
@@ -152,9 +155,10 @@ void FObjectTreeWgt::reveal(const FManaged* object) {
 // ---- actions ----
 
 void FObjectTreeWgt::renameSelected() {
-    const QModelIndexList rows = mpView->selectionModel()->selectedRows();
-    if (!rows.isEmpty()) {
-        mpView->edit(rows.first());
+    const QList<FManaged*> objects = selectedObjects();
+    if (objects.size() == 1) {
+        reveal(objects.first());
+        mpView->edit(shownIndexOf(objects.first()));
     }
 }
 
@@ -170,16 +174,31 @@ void FObjectTreeWgt::startNaming(const FExpr<FManaged>& object) {
     });
 }
 
+QList<FManaged*> FObjectTreeWgt::selectedObjects() {
+    QList<FManaged*> objects;
+    for (const FExpr<FObject>& selected : FSelectionSet::instance()->getObjects()) {
+        auto* object = dynamic_cast<FManaged*>(selected.getStored());
+        if (!object) {
+            return {};
+        }
+        objects.append(object);
+    }
+    return objects;
+}
+
 void FObjectTreeWgt::destroySelected() {
-    const QList<FExpr<FObject>> objects = FSelectionSet::instance()->getObjects();
-    if (objects.isEmpty()) {
+    QList<FExpr<FManaged>> objects;
+    for (const FManaged* object : selectedObjects()) {
+        objects.append(FExpr<FManaged>(object));
+    }
+    if (objects.isEmpty() || !FDeleteQuestion::ask(objects)) {
         return;
     }
     const FUserStep step(QStringLiteral("delete"));
-    for (const FExpr<FObject>& object : objects) {
+    for (const FExpr<FManaged>& object : objects) {
         // One may go with another.
-        if (auto* managed = dynamic_cast<FManaged*>(object.getStored())) {
-            FManaged::destroy(managed);
+        if (object) {
+            FManaged::destroy(object.ptr());
         }
     }
 }
@@ -216,21 +235,21 @@ void FObjectTreeWgt::fillMenu(QMenu& menu) {
                        [this, object] { open(object.ptr()); })
             ->setEnabled(FObjectPages::has(object.ptr()) || FExpr<FResultsGeneric>(object));
     }
-    const bool isAny = FSelectionSet::instance()->count() > 0;
+    const int objects = selectedObjects().size();
     menu.addAction(FIcons::get(QStringLiteral("edit-rename")), QStringLiteral("&Rename"), this,
                    &FObjectTreeWgt::renameSelected)
-        ->setEnabled(FSelectionSet::instance()->count() == 1);
+        ->setEnabled(objects == 1);
     menu.addAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("&Delete"), [] { destroySelected(); })
-        ->setEnabled(isAny);
+        ->setEnabled(objects > 0);
     menu.addSeparator();
     menu.addAction(FIcons::get(QStringLiteral("help-contents")), QStringLiteral("&Help on this class"),
                    [this] {
-                       const QList<FExpr<FObject>>& objects = FSelectionSet::instance()->getObjects();
-                       if (!objects.isEmpty() && objects.first()) {
-                           mNavigator.showHelp(objects.first().getObject()->getClass());
+                       const QList<FManaged*> present = selectedObjects();
+                       if (!present.isEmpty()) {
+                           mNavigator.showHelp(FClassLook::helpTopicOf(*present.first()));
                        }
                    })
-        ->setEnabled(isAny);
+        ->setEnabled(objects > 0);
 }
 
 void FObjectTreeWgt::openMenu(const QPoint& position) {

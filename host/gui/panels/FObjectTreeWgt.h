@@ -23,12 +23,14 @@ class MERIX_EXPORT FObjectTreeWgt : public QWidget {
     FObjectTreeModel& model() { return *mpModel; }
     /** Opens the branches above the object and scrolls to it. */
     void reveal(const FManaged* object);
-    /** Starts to edit the name of the selected object. */
+    /** Starts to edit the name of the selected object; nothing unless one is selected. */
     void renameSelected();
     /** The commands of the selection that have a menu entry, then what can be done to all objects. */
     void fillMenu(QMenu& menu);
 
-    /** Destroys the selected objects in one step. */
+    /** What is selected, if all of it is objects of the model, which the tree shows: none where an entry is. */
+    static QList<FManaged*> selectedObjects();
+    /** Destroys the selected objects in one step, after a question where that concerns more than them. */
     static void destroySelected();
 
  private:

@@ -3,6 +3,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
+#include "host/gui/base/FClassLook.h"
 #include "host/gui/base/FSetUpAssistant.h"
 #include "host/gui/panels/FChainPanel.h"
 #include "host/gui/panels/FObjectTreeWgt.h"
@@ -98,7 +99,8 @@ void rename(FMainWindow& window) {
 
 void helpOnSelection(FMainWindow& window) {
     const QList<FExpr<FObject>>& objects = FSelectionSet::instance()->getObjects();
-    window.showHelp(objects.isEmpty() ? QStringLiteral("global") : objects.first().getObject()->getClass());
+    window.showHelp(objects.isEmpty() ? QStringLiteral("global")
+                                      : FClassLook::helpTopicOf(*objects.first().getObject()));
 }
 
 // ---- rows ----
@@ -208,9 +210,9 @@ std::vector<FActionRow> editRows() {
          .text = "&Delete",
          .icon = "edit-delete",
          .shortcut = "Ctrl+Del",
-         .tip = "Delete the selected objects",
+         .tip = "Delete the selected objects, or the item of the connector that has the focus",
          .whyNot = &FNeeds::objects,
-         .run = [](FMainWindow&) { FObjectTreeWgt::destroySelected(); }},
+         .run = [](FMainWindow& window) { window.deleteSelected(); }},
         {.id = "find",
          .group = 2,
          .text = "&Find…",

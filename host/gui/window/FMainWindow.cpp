@@ -186,6 +186,25 @@ void FMainWindow::showFirstConnector() {
     }
 }
 
+FObjectPage* FMainWindow::pageOfFocusedPart() const {
+    auto* page = dynamic_cast<FObjectPage*>(mpDocuments->currentWidget());
+    return page && page->isPartFocused() ? page : nullptr;
+}
+
+FSituation FMainWindow::situation() const {
+    FSituation now = FSituation::now(mRunTarget, mUnsaved);
+    now.isPartFocused = pageOfFocusedPart() != nullptr;
+    return now;
+}
+
+void FMainWindow::deleteSelected() {
+    if (FObjectPage* page = pageOfFocusedPart()) {
+        page->deletePart();
+    } else {
+        FObjectTreeWgt::destroySelected();
+    }
+}
+
 void FMainWindow::refresh() {
     const FSituation now = situation();
     mpActions->update(now, mIsLocked);
@@ -344,8 +363,8 @@ bool FMainWindow::mayClose() {
     if (FRunTarget::isAnyRunning()) {
         const int answer = FIO::question(this, FMerixCtrl::getApplicationTitle(),
                                          QStringLiteral("A run is in progress. It ends with the program."),
-                                         QStringLiteral("Keep running"), QStringLiteral("Stop and quit"), QString());
-        if (answer != 1) {
+                                         QStringLiteral("Stop and quit"), QStringLiteral("Keep running"), QString(), 1);
+        if (answer != 0) {
             return false;
         }
     }

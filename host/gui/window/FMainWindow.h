@@ -17,6 +17,7 @@ class FDocumentTabs;
 class FFindField;
 class FManualWindow;
 class FNoticeBar;
+class FObjectPage;
 class FPageTabs;
 class FPanelDocks;
 class FProjectFiles;
@@ -44,7 +45,9 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     FRunTarget& runTarget() { return mRunTarget; }
     FUnsavedWork& unsavedWork() { return mUnsaved; }
     FPanelDocks& panels() { return *mpPanels; }
-    FSituation situation() const { return FSituation::now(mRunTarget, mUnsaved); }
+    FSituation situation() const;
+    /** Deletes the focused part of the page in front, or else the selected objects. */
+    void deleteSelected();
 
     void focusFind();
     /** Shows results as a document; null for empty ones. */
@@ -80,6 +83,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void showProblemCount(int count);
     void listen();
     void showFirstConnector();
+    /** The page in front, if a part of it has the focus that can be deleted. */
+    FObjectPage* pageOfFocusedPart() const;
     /** Brings actions, title and status line up to date, from the event loop. */
     void refresh();
     void showProject(bool isThere);

@@ -41,7 +41,7 @@ const char* FNeeds::oneObject(const FSituation& now) {
 }
 
 const char* FNeeds::objects(const FSituation& now) {
-    return now.selected > 0 ? nullptr : "Select objects first";
+    return now.selected > 0 || now.isPartFocused ? nullptr : "Select objects first";
 }
 
 const char* FNeeds::assistant(const FSituation& now) {

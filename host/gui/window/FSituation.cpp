@@ -3,8 +3,8 @@
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
-#include "host/core/FSelectionSet.h"
 #include "host/gui/base/FRunTarget.h"
+#include "host/gui/panels/FObjectTreeWgt.h"
 #include "host/gui/window/FUnsavedWork.h"
 #include "host/run/FExternComputation.h"
 
@@ -21,7 +21,7 @@ FSituation FSituation::now(const FRunTarget& target, const FUnsavedWork& unsaved
     situation.hasFile = !FMerixCtrl::instance()->getProjectFile().isEmpty();
     situation.hasProject = situation.hasFile || unsaved.isThere() || !FObjectManager::instance()->getNames().isEmpty();
     situation.isUnsaved = unsaved.isThere();
-    situation.selected = FSelectionSet::instance()->count();
+    situation.selected = FObjectTreeWgt::selectedObjects().size();
     situation.computation = target.get();
     if (const FExternComputation* computation = situation.computation) {
         situation.isRunning = !computation->canRun();

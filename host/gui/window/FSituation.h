@@ -15,7 +15,8 @@ struct MERIX_EXPORT FSituation {
     bool hasProject = false;  //!< the model holds something, or there is a file
     bool hasFile = false;
     bool isUnsaved = false;
-    int selected = 0;                           //!< number of selected objects
+    int selected = 0;                           //!< number of selected objects; 0 if something else is selected
+    bool isPartFocused = false;                 //!< of the page in front, a part that can be deleted
     FExternComputation* computation = nullptr;  //!< the one that Run acts on
     bool isRunning = false;                     //!< that computation runs
     bool isAnyRunning = false;

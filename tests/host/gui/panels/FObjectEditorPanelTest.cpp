@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTreeView>
 
 namespace {
 
@@ -185,6 +186,16 @@ TEST_F(FObjectEditorPanelTest, severalObjectsShowWhatTheyShare) {
     select({"solver", "span"});
     EXPECT_EQ(field<QLineEdit>("setValue"), nullptr);
     EXPECT_EQ(find<QLabel>("objectClass")->text(), "of several classes");
+    // Configurations of one definition have the same entries.
+    ASSERT_TRUE(
+        run("genericIntegrationDefinition plate() { .addEntry(\"thickness\", 2) }\n"
+            "values.setDefinition(plate)\n"
+            "genericIntegrationConfiguration thick() { .setDefinition(plate) }"));
+    select({"values", "thick"});
+    EXPECT_EQ(rowsOf(*find<QTreeView>("entryTree")->model()).join(' '), "thickness");
+    EXPECT_EQ(find<QLabel>("objectClass")->text(), "entries of values");
+    select({"values", "span"});
+    EXPECT_FALSE(find<QTreeView>("entryTree")->isVisible());
 }
 
 TEST_F(FObjectEditorPanelTest, theNameIsEditedAndADestroyedObjectIsGoneAtOnce) {

@@ -18,12 +18,16 @@ FHtmlToolTip::FHtmlToolTip(const QString& html, QWidget* parent) : QFrame(parent
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(text);
-    constexpr int width = 60;  // characters
+    constexpr int characters = 60;
     constexpr int lines = 24;  // at most
-    QTextDocument& document = *text->document();
-    document.setTextWidth(width * fontMetrics().averageCharWidth());
+    const int width = characters * fontMetrics().averageCharWidth();
+    // The document of the browser has the width of the browser, whatever it was set to.
+    QTextDocument document;
+    document.setDefaultFont(text->font());
+    document.setHtml(html);
+    document.setTextWidth(width);
     const int height = std::min(static_cast<int>(document.size().height()), lines * fontMetrics().lineSpacing());
-    resize(static_cast<int>(document.textWidth()) + fontMetrics().height(), height + fontMetrics().height());
+    resize(width + fontMetrics().height(), height + fontMetrics().height());
 }
 
 void FHtmlToolTip::show(const QString& html, QWidget* parent) {

@@ -3,6 +3,7 @@
 #include "host/core/FNull.h"
 #include "host/script/FBinder.h"
 #include "host/script/FCmdType.h"
+#include "host/script/FMemberCmd.h"
 #include "host/script/FScriptParser.h"
 
 namespace {
@@ -37,12 +38,20 @@ QString FScriptText::of(const FExprBase& value) {
     return value.isEmpty() ? QString() : value.toHistoryString();
 }
 
+bool FScriptText::lacksResults(const FExprBase& value) {
+    const auto* call = dynamic_cast<const FMemberCmd*>(value.getStored());
+    const FExprBase receiver = call ? call->getReceiver() : FExprBase();
+    const FObject* stored = receiver.getStored();
+    return stored && stored->isCmd() && receiver.canSafelyBeUpdated(false) &&
+           (lacksResults(receiver) || !valueObject(receiver));
+}
+
 QString FScriptText::evaluated(const FExprBase& value) {
     const FObject* stored = value.getStored();
     if (!stored || (!stored->isCmd() && !stored->holdsValue())) {
         return value.isDetached() ? QStringLiteral("object is gone") : QString();
     }
-    if (!value.canSafelyBeUpdated(false)) {
+    if (!value.canSafelyBeUpdated(false) || lacksResults(value)) {
         return QStringLiteral("not known yet");
     }
     const FObject* given = valueObject(value);

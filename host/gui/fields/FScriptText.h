@@ -18,6 +18,12 @@ MERIX_EXPORT FExprBase bind(const QString& text, QString& fault);
 MERIX_EXPORT QString of(const FExprBase& value);
 
 /**
+ * Whether an expression asks for something of results that there aren't, as before the first run. To evaluate it would
+ * log a warning each time.
+ */
+MERIX_EXPORT bool lacksResults(const FExprBase& value);
+
+/**
  * What an expression gives at present; empty if it says so itself, as a number does. No file is read and nothing is run
  * for it: where that would be needed, the text says that the value isn't known.
  */

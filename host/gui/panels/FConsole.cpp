@@ -4,7 +4,6 @@
 #include "host/core/FNull.h"
 #include "host/core/FStandardOutput.h"
 #include "host/gui/base/FFixedFont.h"
-#include "host/gui/base/FStateColor.h"
 #include "host/gui/fields/FScriptCompleter.h"
 #include "host/script/FCmdType.h"
 
@@ -12,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTextStream>
 #include <QVBoxLayout>
 
@@ -20,6 +21,7 @@ namespace {
 constexpr int mostLines = 5000;
 constexpr int mostRecalled = 500;
 const char* const sourceName = "console";
+constexpr int stateProperty = QTextFormat::UserProperty;  // of what text stands for, whose colour follows the palette
 
 bool isWordCharacter(QChar character) {
     return character.isLetterOrNumber() || character == QLatin1Char('_');
@@ -79,7 +81,7 @@ void FConsole::enter() {
 }
 
 void FConsole::execute(const QString& line) {
-    appendLine(QStringLiteral("> ") + line, FStateColor::of(FStateColor::State::Secondary));
+    appendLine(QStringLiteral("> ") + line, FStateColor::State::Secondary);
     mIsExecuting = true;
     mRunner([this, line] {
         QString text = line;
@@ -101,19 +103,42 @@ void FConsole::append(const QString& text, const QTextCharFormat& format) {
     mpOutput->moveCursor(QTextCursor::End);
 }
 
-void FConsole::appendLine(const QString& text, const QColor& color) {
+void FConsole::appendLine(const QString& text, FStateColor::State state) {
     QTextCharFormat format;
-    format.setForeground(color);
+    format.setProperty(stateProperty, static_cast<int>(state));
+    format.setForeground(FStateColor::of(state));
     append(text + QLatin1Char('\n'), format);
+}
+
+void FConsole::updateColors() {
+    QTextCursor cursor(mpOutput->document());
+    for (QTextBlock block = mpOutput->document()->begin(); block.isValid(); block = block.next()) {
+        for (const QTextLayout::FormatRange& range : block.textFormats()) {
+            if (range.format.hasProperty(stateProperty)) {
+                QTextCharFormat format = range.format;
+                format.setForeground(
+                    FStateColor::of(static_cast<FStateColor::State>(format.intProperty(stateProperty))));
+                cursor.setPosition(block.position() + range.start);
+                cursor.setPosition(cursor.position() + range.length, QTextCursor::KeepAnchor);
+                cursor.setCharFormat(format);
+            }
+        }
+    }
+}
+
+void FConsole::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        updateColors();
+    }
+    QWidget::changeEvent(event);
 }
 
 void FConsole::addMessage(const FLogMsg& message) {
     if (mIsExecuting) {
         markPlace(message.place.isEmpty() ? message.source : message.place);
-        appendLine(message.toLine(), message.kind == FLogMsg::Kind::Error ? FStateColor::of(FStateColor::State::Bad)
-                                     : message.kind == FLogMsg::Kind::Warning
-                                         ? FStateColor::of(FStateColor::State::Warning)
-                                         : FStateColor::of(FStateColor::State::Secondary));
+        appendLine(message.toLine(), message.kind == FLogMsg::Kind::Error     ? FStateColor::State::Bad
+                                     : message.kind == FLogMsg::Kind::Warning ? FStateColor::State::Warning
+                                                                              : FStateColor::State::Secondary);
     }
 }
 
@@ -122,7 +147,7 @@ void FConsole::markPlace(const QString& place) {
     const QString first = QString::fromLatin1(sourceName) + QStringLiteral(":1:");
     const int column = place.startsWith(first) ? place.mid(first.size()).toInt() : 0;
     if (column > 0) {
-        appendLine(QString(column + 1, QLatin1Char(' ')) + QLatin1Char('^'), FStateColor::of(FStateColor::State::Bad));
+        appendLine(QString(column + 1, QLatin1Char(' ')) + QLatin1Char('^'), FStateColor::State::Bad);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/core/FExport.h"
 #include "host/core/FLogMsg.h"
+#include "host/gui/base/FStateColor.h"
 #include "host/script/FCmdInput.h"
 
 #include <QStringList>
@@ -33,6 +34,9 @@ class MERIX_EXPORT FConsole : public QWidget {
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+ protected:
+    void changeEvent(QEvent* event) override;
+
  signals:
     /** The user asks for the reference of the word at the cursor. */
     void helpRequested(const QString& word);
@@ -41,7 +45,9 @@ class MERIX_EXPORT FConsole : public QWidget {
     void enter();
     void recall(int step);
     void append(const QString& text, const QTextCharFormat& format);
-    void appendLine(const QString& text, const QColor& color);
+    void appendLine(const QString& text, FStateColor::State state);
+    /** Gives earlier lines the colours of the present palette. */
+    void updateColors();
     void addMessage(const FLogMsg& message);
     /** Points to the column of a message's place in the line above. */
     void markPlace(const QString& place);

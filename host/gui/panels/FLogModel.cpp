@@ -7,12 +7,15 @@ namespace {
 
 constexpr int delay = 40;  // milliseconds
 
-QString textOf(const FLogMsg& message) {
-    return message.consequence.isEmpty() ? message.message
-                                         : QStringLiteral("%1. %2").arg(message.message, message.consequence);
-}
-
 }  // namespace
+
+QString FLogModel::textOf(const FLogMsg& message) {
+    FLogMsg plain = message;
+    plain.place.clear();
+    plain.source.clear();
+    const QString line = plain.toLine();
+    return line.mid(line.indexOf(QLatin1Char(' ')) + 1);
+}
 
 FLogModel::FLogModel() {
     mTimer.setSingleShot(true);

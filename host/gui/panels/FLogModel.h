@@ -20,6 +20,8 @@ class MERIX_EXPORT FLogModel : public QAbstractTableModel {
 
     FLogModel();
 
+    /** What happened and what follows, without kind and place. */
+    static QString textOf(const FLogMsg& message);
     const FLogMsg& message(int row) const { return mMessages[static_cast<std::size_t>(row)]; }
     void clear();
 

@@ -12,24 +12,21 @@ FLogPanel::FLogPanel(FNavigator& navigator)
       mpModel(new FLogModel),
       mpView(new FListView(QStringLiteral("logList"), QStringLiteral("Messages"), mpModel, this)) {
     mpModel->setParent(this);
-    mpView->setWidths({12, 32});
+    mpView->setWidths({15, 32});
     new FEmptyHint(mpView, QStringLiteral("Messages of the program appear here"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mpView);
 
     connect(mpView, &QTreeView::activated, this, &FLogPanel::showSource);
-    connect(mpModel, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { mFollows = isAtEnd(); });
-    connect(mpModel, &QAbstractItemModel::rowsInserted, this, [this] {
+    // The end may move away by a new message, and by a panel that gets smaller.
+    QScrollBar* bar = mpView->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) { mFollows = value == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int /*first*/, int last) {
         if (mFollows) {
-            mpView->scrollToBottom();
+            bar->setValue(last);
         }
     });
-}
-
-bool FLogPanel::isAtEnd() const {
-    const QScrollBar* bar = mpView->verticalScrollBar();
-    return bar->value() == bar->maximum();
 }
 
 void FLogPanel::showSource(const QModelIndex& index) {

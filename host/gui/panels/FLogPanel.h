@@ -19,10 +19,9 @@ class MERIX_EXPORT FLogPanel : public QWidget {
 
  private:
     void showSource(const QModelIndex& index);
-    bool isAtEnd() const;
 
     FNavigator& mNavigator;
     FLogModel* mpModel;
     FListView* mpView;
-    bool mFollows = true;
+    bool mFollows = true;  //!< the last message is in view, and the next one shall be
 };

@@ -59,8 +59,9 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
     auto* open = new FStartTile(FIcons::get(QStringLiteral("document-open")), QStringLiteral("Open a project"),
                                 QStringLiteral("A .mrx file; nothing is run by opening it"), this);
     open->setObjectName(QStringLiteral("startOpen"));
-    auto* example = new FStartTile(FIcons::get(QStringLiteral("help-hint")), QStringLiteral("Try an example"),
-                                   QStringLiteral("A beam or a filter, copied to a folder of yours"), this);
+    auto* example =
+        new FStartTile(FIcons::get(QStringLiteral("help-hint")), QStringLiteral("Try an example"),
+                       QStringLiteral("A beam, a filter or a heat exchanger, copied to a folder of yours"), this);
     example->setObjectName(QStringLiteral("startExample"));
     for (FStartTile* tile : {create, open, example}) {
         tiles->addWidget(tile, 1);

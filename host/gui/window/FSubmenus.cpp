@@ -11,10 +11,23 @@
 #include <QFileInfo>
 #include <QMenu>
 
+namespace {
+
+/** A name as the next entry of a menu, whose number is its access key. */
+QString numbered(const QMenu& menu, const QString& name) {
+    constexpr int digits = 9;
+    const int number = menu.actions().size() + 1;
+    const QString shown = QString(name).replace(QLatin1Char('&'), QLatin1String("&&"));
+    return number <= digits ? QStringLiteral("&%1  %2").arg(QString::number(number), shown) : shown;
+}
+
+}  // namespace
+
 void FSubmenus::recent(QMenu& menu, FMainWindow& window) {
     for (const QString& path : FGuiSettings::getRecentProjects()) {
         if (QFileInfo::exists(path)) {
-            menu.addAction(QFileInfo(path).fileName(), [&window, path] { window.projectFiles().open(path); })
+            menu.addAction(numbered(menu, QFileInfo(path).fileName()),
+                           [&window, path] { window.projectFiles().open(path); })
                 ->setToolTip(path);
         }
     }
@@ -25,7 +38,7 @@ void FSubmenus::recent(QMenu& menu, FMainWindow& window) {
 
 void FSubmenus::examples(QMenu& menu, FMainWindow& window) {
     for (const QString& name : FProjectFiles::getExamples()) {
-        menu.addAction(name, [&window, name] { window.projectFiles().openExample(name); });
+        menu.addAction(numbered(menu, name), [&window, name] { window.projectFiles().openExample(name); });
     }
     if (menu.isEmpty()) {
         menu.addAction(QStringLiteral("None installed"))->setEnabled(false);
@@ -41,7 +54,7 @@ void FSubmenus::panels(QMenu& menu, FMainWindow& window) {
 void FSubmenus::appearances(QMenu& menu, FMainWindow& window) {
     using Appearance = FTheme::Appearance;
     const std::pair<Appearance, const char*> rows[] = {
-        {Appearance::Desktop, "As the desktop"}, {Appearance::Light, "Light"}, {Appearance::Dark, "Dark"}};
+        {Appearance::Desktop, "&As the desktop"}, {Appearance::Light, "&Light"}, {Appearance::Dark, "&Dark"}};
     auto* group = new QActionGroup(&menu);
     for (const auto& row : rows) {
         QAction* action = menu.addAction(QString::fromLatin1(row.second));

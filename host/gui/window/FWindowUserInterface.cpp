@@ -14,8 +14,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 
 namespace {
@@ -34,6 +36,12 @@ int show(QMessageBox::Icon icon, QWidget* parent, const QString& title, const QS
     }
     box.exec();
     return added.indexOf(box.clickedButton());
+}
+
+/** The first suffix of a filter such as "Text (*.a *.b)", without its dot. */
+QString suffixIn(const QString& filter) {
+    static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+    return pattern.match(filter).captured(1);
 }
 
 }  // namespace
@@ -71,7 +79,13 @@ QStringList FWindowUserInterface::askOpenFiles(const QString& caption, const QSt
 }
 
 QString FWindowUserInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
-    return QFileDialog::getSaveFileName(parent(), caption, startPath, filter);
+    const QFileInfo start(startPath);
+    QFileDialog dialog(parent(), caption, start.isDir() ? startPath : start.path(), filter);
+    dialog.setObjectName(QStringLiteral("saveFile"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffixIn(filter));
+    dialog.selectFile(start.isDir() ? QString() : start.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString FWindowUserInterface::askFolder(const QString& caption, const QString& startPath) {

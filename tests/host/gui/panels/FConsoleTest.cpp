@@ -1,3 +1,5 @@
+#include "host/gui/base/FStateColor.h"
+#include "host/gui/base/FTheme.h"
 #include "host/gui/fields/FScriptCompleter.h"
 #include "host/gui/panels/FConsole.h"
 #include "host/run/FExternComputation.h"
@@ -36,6 +38,23 @@ TEST_F(FConsoleTest, eachLineIsAStepAndShowsItsValueOrItsError) {
     // An expression that names it gives nothing, and the window lives on.
     enter("span.getValue()");
     EXPECT_TRUE(output().contains("\"span\"")) << output().toStdString();
+}
+
+TEST_F(FConsoleTest, earlierLinesHaveTheColoursOfThePalette) {
+    FTheme::choose(FTheme::Appearance::Light);
+    enter("lod");
+    const auto color = [this](const QString& text) {
+        const QTextCursor found = find<QPlainTextEdit>("consoleOutput")->document()->find(text);
+        return found.charFormat().foreground().color();
+    };
+    const QColor light = FStateColor::of(FStateColor::State::Bad);
+    EXPECT_EQ(color("error"), light);
+    FTheme::choose(FTheme::Appearance::Dark);
+    settle();
+    ASSERT_NE(FStateColor::of(FStateColor::State::Bad), light);
+    EXPECT_EQ(color("error"), FStateColor::of(FStateColor::State::Bad));
+    EXPECT_EQ(color("> lod"), FStateColor::of(FStateColor::State::Secondary));
+    FTheme::choose(FTheme::Appearance::Desktop);
 }
 
 TEST_F(FConsoleTest, earlierLinesComeBack) {

@@ -12,6 +12,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QDockWidget>
+#include <QScrollBar>
+#include <QTreeView>
 
 namespace {
 
@@ -69,6 +72,33 @@ TEST_F(ListPanelsTest, aProblemAndAMessageLeadToTheirObject) {
     press(&list("logList"), Qt::Key_Return);
     settle();
     EXPECT_EQ(selected(), "span");
+}
+
+TEST_F(ListPanelsTest, theLogStaysAtItsEndAndReadsAsText) {
+    openPanel("log");
+    QAbstractItemView& view = list("logList");
+    const auto add = [&view](const QString& message, int count) {
+        const int before = view.model()->rowCount();
+        for (int number = 0; number < count; ++number) {
+            FLogMsg::warning("source", message, "Look at it");
+        }
+        ASSERT_TRUE(waitUntil([&] { return view.model()->rowCount() >= before + count; }));
+        settle();
+    };
+    const QScrollBar* bar = view.verticalScrollBar();
+    add("It is odd.", 40);
+    EXPECT_EQ(view.model()->index(0, FLogModel::textColumn).data().toString(), "It is odd. Look at it");
+    ASSERT_GT(bar->maximum(), 0);
+    EXPECT_EQ(bar->value(), bar->maximum());
+    window().resizeDocks({window().panels().dockOf("log")}, {view.height() / 2}, Qt::Vertical);
+    settle();
+    add("again", 1);
+    EXPECT_EQ(bar->value(), bar->maximum()) << "also in a panel that has become smaller";
+    view.scrollToTop();
+    add("once more", 1);
+    EXPECT_EQ(bar->value(), 0) << "what is being read stays";
+    EXPECT_GE(find<QTreeView>("logList")->columnWidth(FLogModel::kindColumn),
+              view.sizeHintForIndex(view.model()->index(0, FLogModel::kindColumn)).width());
 }
 
 TEST_F(ListPanelsTest, aRunOfASupplierSolvesTheProblemOfItsClient) {

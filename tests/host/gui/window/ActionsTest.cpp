@@ -1,3 +1,4 @@
+#include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
 #include "host/gui/window/FActionTable.h"
 #include "host/gui/window/FPanelTable.h"
@@ -6,6 +7,7 @@
 #include <QAction>
 #include <QFile>
 #include <QKeySequence>
+#include <QMenu>
 
 TEST_F(FWindowTest, actionsAreCompleteAndNoShortcutIsUsedTwice) {
     QStringList shortcuts;
@@ -25,6 +27,18 @@ TEST_F(FWindowTest, actionsAreCompleteAndNoShortcutIsUsedTwice) {
     for (const QString& shortcut : shortcuts) {
         EXPECT_EQ(shortcuts.count(shortcut), 1) << shortcut.toStdString();
         EXPECT_EQ(QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::PortableText), shortcut);
+    }
+}
+
+TEST_F(FWindowTest, entriesOfSubmenusHaveAccessKeys) {
+    FGuiSettings::addRecentProject(QCoreApplication::applicationFilePath());
+    for (const char* id : {"openRecent", "openExample", "appearance"}) {
+        QMenu* menu = action(id)->menu();
+        emit menu->aboutToShow();
+        ASSERT_FALSE(menu->actions().isEmpty()) << id;
+        for (const QAction* entry : menu->actions()) {
+            EXPECT_TRUE(entry->text().contains('&')) << entry->text().toStdString();
+        }
     }
 }
 

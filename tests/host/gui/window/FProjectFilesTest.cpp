@@ -10,8 +10,11 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QTimer>
 #include <QToolButton>
 
 namespace {
@@ -169,6 +172,19 @@ TEST_F(FProjectFilesTest, theNumberOfProblemsIsAlwaysVisible) {
     EXPECT_TRUE(window().panels().dockOf("problems")->windowTitle().contains(count.section(' ', 0, 0)));
     ASSERT_TRUE(run("destroy(solver)"));
     EXPECT_TRUE(waitUntil([&] { return find<QToolButton>("problemCount")->text() == "No problems"; }));
+}
+
+TEST_F(FProjectFilesTest, aNameWithoutSuffixGetsThatOfTheFilter) {
+    FWindowUserInterface interface(window());
+    QTimer::singleShot(0, [this] {
+        auto* dialog = find<QFileDialog>("saveFile");
+        auto* name = dialog->findChild<QLineEdit*>();
+        EXPECT_EQ(name->text(), "start.lodm");
+        name->setText("chain");
+        press(name, Qt::Key_Return);
+    });
+    EXPECT_EQ(interface.askSaveFile("Export", folder.path("start.lodm"), "Set-ups (*.lodm)"),
+              folder.path("chain.lodm"));
 }
 
 TEST_F(FProjectFilesTest, ageIsInWords) {

@@ -3,6 +3,7 @@
 #include "genericintegration/connector/FSoftConScene.h"
 #include "genericintegration/connector/FSoftwareConnector.h"
 #include "genericintegration/connector/dialogs/FSoftConInputDialog.h"
+#include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FIni.h"
@@ -29,6 +30,11 @@ const QString& pathKey() {
 
 QString canonical(const QDir& folder) {
     return QFileInfo(folder.path()).canonicalFilePath();
+}
+
+bool isBelow(const QString& path, const QString& base) {
+    const QFileInfo file(path);
+    return !FItemPath::belowBase(file.exists() ? file.canonicalFilePath() : path, base + QLatin1Char('/')).isEmpty();
 }
 
 }  // namespace
@@ -95,5 +101,11 @@ void FItemDialogs::addItem(FSoftConDialog& dialog, const FObject* type, const QS
     } else {
         mConnector.setResultsPath(canonical(dialog.directory()));
     }
-    mScene.createItems(files, FExpr<FObject>(type), base, keepFolders);
+    FItemRequests::List requests;
+    for (const QString& file : files) {
+        // A path that was typed can lead anywhere: its folder is no part of the name then.
+        requests +=
+            FItemRequests::ofPaths({file}, FExpr<FObject>(type), isBelow(file, base) ? base : QString(), keepFolders);
+    }
+    mScene.createItems(requests);
 }

@@ -9,6 +9,7 @@
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
+#include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
@@ -37,7 +38,8 @@ bool isKnown(const FItemScene& scene, const QString& path, const QString& relati
     if (path.isEmpty() || !definition) {
         return false;
     }
-    const QString name = FItemPath::belowBase(path, relativePath);
+    const QString below = FItemPath::belowBase(path, relativePath);
+    const QString name = below.isEmpty() ? FItemCaption::lastPart(path) : below;
     const auto files = definition->getFiles();
     const bool isThere = std::any_of(files.begin(), files.end(), [&name](const FExpr<FGenIntFile>& file) {
         return file && file->getFileName().compare(name, Qt::CaseInsensitive) == 0;
@@ -47,6 +49,11 @@ bool isKnown(const FItemScene& scene, const QString& path, const QString& relati
                QStringLiteral("Item creation aborted."));
     }
     return isThere;
+}
+
+/** Whether an item makes its object: the given one is only a prototype, or the geometry to export. */
+bool isToBeMade(const FObject* object) {
+    return object && (object == object->getPrototype() || dynamic_cast<const FObjectList*>(object));
 }
 
 /** An expression can give the file of another entry; where that isn't known yet, its prototype. */
@@ -144,19 +151,23 @@ FSoftConObjectItem* FItemFactory::make(FItemScene& scene, QGraphicsItem* parent,
         report(QStringLiteral("Could not add NULL-item."));
         return nullptr;
     }
+    if (isToBeMade(stored) && !FSetUpObjects(scene.getComputation()).definition()) {
+        report(QStringLiteral("Could not add item: the computation has no configuration with a definition."));
+        return nullptr;
+    }
     if (dynamic_cast<const FGenIntResultsFile*>(stored) && isKnown(scene, path, relativePath)) {
         return nullptr;
     }
     return Maker(scene, parent, object).ofObject();
 }
 
-void FItemFactory::createObject(FSoftConObjectItem& item, const QString& path, const QString& relativePath) {
+bool FItemFactory::createObject(FSoftConObjectItem& item, const QString& path, const QString& relativePath) {
     const FObject* stored = item.getObject().getStored();
-    if (dynamic_cast<const FObjectList*>(stored)) {
-        item.createObject(path, QString());
-    } else if (stored && stored == stored->getPrototype()) {
-        item.createObject(path, relativePath);
+    if (!isToBeMade(stored)) {
+        return true;
     }
+    item.createObject(path, dynamic_cast<const FObjectList*>(stored) ? QString() : relativePath);
+    return !isToBeMade(item.getObject().getStored());
 }
 
 const FObject* FItemFactory::valueTypeOf(const FSoftConObjectItem& item) {

@@ -19,8 +19,11 @@ namespace FItemFactory {
 FSoftConObjectItem* make(FItemScene& scene, QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
                          const QString& relativePath);
 
-/** Where the object of a new item is a prototype or a list of geometry, has it make a real one, for the file. */
-void createObject(FSoftConObjectItem& item, const QString& path, const QString& relativePath);
+/**
+ * Where the object of a new item is a prototype or a list of geometry, has it make a real one, for the file. False if
+ * it couldn't.
+ */
+bool createObject(FSoftConObjectItem& item, const QString& path, const QString& relativePath);
 
 /** The prototype of the values that an item of a scene shows; null if it shows none. */
 const FObject* valueTypeOf(const FSoftConObjectItem& item);

@@ -163,7 +163,7 @@ double FSceneFurniture::titleBarHeight() const {
 }
 
 FSceneSizes FSceneFurniture::sizes(double computationWidth) const {
-    const QFontMetrics metrics(mInputLabel->widget()->font());
+    const QFontMetrics metrics(mTitleBarTop->widget()->font());
     FSceneSizes sizes;
     sizes.computationWidth = computationWidth;
     sizes.titleBarTop = mTitleBarTop->size().height();
@@ -194,27 +194,32 @@ void FSceneFurniture::place(const FSceneGeometry& geometry) {
     mDocuOutputButton->setPos(geometry.docuOutputButton);
     mDocuExportButton->setPos(geometry.docuExportButton);
     mDocuImportButton->setPos(geometry.docuImportButton);
-    mInputLabel->setPos(geometry.labels[SoftConInputArea]);
-    mExportLabel->setPos(geometry.labels[SoftConExportArea]);
-    placeOutputLabel(geometry);
-    mImportLabel->setPos(geometry.labels[SoftConImportArea]);
+    const double button = mAddInputButton->size().width();
+    placeLabel(*mInputLabel, SoftConInputArea, geometry, 0, geometry.docuInputButton.x());
+    placeLabel(*mExportLabel, SoftConExportArea, geometry, geometry.docuExportButton.x() + button, 0);
+    placeLabel(*mOutputLabel, SoftConOutputArea, geometry, geometry.titleBarRight.left(),
+               geometry.docuOutputButton.x());
+    placeLabel(*mImportLabel, SoftConImportArea, geometry, geometry.docuImportButton.x() + button,
+               geometry.titleBarLeft.right());
 }
 
 // In a narrow window there is little room between the computation and the buttons.
-void FSceneFurniture::placeOutputLabel(const FSceneGeometry& geometry) {
+void FSceneFurniture::placeLabel(QGraphicsProxyWidget& proxy, SoftConArea area, const FSceneGeometry& geometry,
+                                 double left, double right) {
     constexpr double smallest = 0.7;  // of the usual font
-    const QPointF place = geometry.labels[SoftConOutputArea];
-    const double left = std::max(place.x(), geometry.titleBarRight.left() + 2);
-    const double room = geometry.docuOutputButton.x() - left;
-    auto* label = qobject_cast<QLabel*>(mOutputLabel->widget());
-    const QString& text = labels()[SoftConOutputArea];
-    QFont font = mInputLabel->widget()->font();
+    constexpr double gap = 2;
+    const double room = right - left - 2 * gap;
+    auto* label = qobject_cast<QLabel*>(proxy.widget());
+    const QString& text = labels()[static_cast<std::size_t>(area)];
+    QFont font = mTitleBarTop->widget()->font();
     const double needed = QFontMetricsF(font).horizontalAdvance(text);
     if (needed > room) {
         font.setPointSizeF(QFontInfo(font).pointSizeF() * std::max(smallest, room / needed));
     }
     label->setFont(font);
     label->setText(label->fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(std::ceil(room))));
-    label->resize(label->sizeHint().width(), mInputLabel->widget()->height());
-    mOutputLabel->setPos(left, place.y());
+    label->resize(label->sizeHint().width(), QFontMetrics(mTitleBarTop->widget()->font()).height());
+    const QPointF place = geometry.labels[static_cast<std::size_t>(area)];
+    const double last = std::max(left + gap, right - gap - label->width());
+    proxy.setPos(qBound(left + gap, place.x(), last), place.y());
 }

@@ -47,7 +47,9 @@ class FSceneFurniture : public QObject {
     QGraphicsProxyWidget* addDocuButton(SoftConArea area);
     QGraphicsProxyWidget* addLabel(SoftConArea area);
     void makeLinkButtons();
-    void placeOutputLabel(const FSceneGeometry& geometry);
+    /** Where the geometry has it, as far as it fits between two edges; else moved, smaller, or cut. */
+    void placeLabel(QGraphicsProxyWidget& proxy, SoftConArea area, const FSceneGeometry& geometry, double left,
+                    double right);
 
     QGraphicsScene& mScene;
     QGraphicsProxyWidget* mSplitLine;

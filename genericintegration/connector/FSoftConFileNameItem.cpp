@@ -1,6 +1,7 @@
 #include "genericintegration/connector/FSoftConFileNameItem.h"
 
 #include "genericintegration/connector/FItemScene.h"
+#include "genericintegration/connector/FRefusalNotice.h"
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/connector/layout/FItemRequests.h"
@@ -10,6 +11,7 @@
 #include "host/core/FIni.h"
 #include "host/core/FString.h"
 #include "host/core/FUserStep.h"
+#include "host/gui/fields/FScriptText.h"
 #include "host/script/FMemberCmd.h"
 
 #include <QFileInfo>
@@ -55,7 +57,7 @@ QString FSoftConFileNameItem::getDisplayName(const FExpr<FEntry>& entry, bool re
         return entry ? entry->getName() : QString();
     }
     const FExprBase& fileName = value->getFileName();
-    if (resolved && fileName.canSafelyBeUpdated(true)) {
+    if (resolved && fileName.canSafelyBeUpdated(true) && !FScriptText::lacksResults(fileName)) {
         return textOf(fileName);
     }
     return isReference() ? FLinkText::name(fileName.toString()) : fileName.toString();
@@ -109,6 +111,7 @@ bool FSoftConFileNameItem::open() {
     if (!mayLoad(path) || !self || getScene() != scene) {
         return true;
     }
+    const FRefusalNotice notice;
     const FUserStep step(QStringLiteral("create input template"));
     const FSoftConObjectItem* made = scene->createItem(nullptr, FGenIntCommandFile::null(), path, folder);
     if (made) {

@@ -23,5 +23,6 @@ void FSoftConInputTemplateItem::createObject(const QString& path, const QString&
     if (!relativePath.isEmpty()) {
         made->setFileName(FItemPath::inFolder(path, relativePath));
     }
+    nameMissing(*made, path);
     takeFile(made);
 }

@@ -17,6 +17,7 @@
 #include <QPalette>
 #include <QPen>
 #include <QPixmapCache>
+#include <QPointer>
 #include <QToolButton>
 
 namespace {
@@ -231,11 +232,15 @@ bool FSoftConObjectItem::sceneEventFilter(QGraphicsItem* watched, QEvent* event)
         case QEvent::GraphicsSceneMouseRelease:
             mouseReleaseEvent(static_cast<QGraphicsSceneMouseEvent*>(event));
             return true;
-        case QEvent::GraphicsSceneMouseDoubleClick:
+        case QEvent::GraphicsSceneMouseDoubleClick: {
+            const QPointer<QObject> self(this);
             mouseDoubleClickEvent(static_cast<QGraphicsSceneMouseEvent*>(event));
             // Another tab takes the item from under the pointer.
-            mCursor.clear();
+            if (self) {
+                mCursor.clear();
+            }
             return true;
+        }
         default:
             return FSoftwareConnectorItem::sceneEventFilter(watched, event);
     }
@@ -276,6 +281,8 @@ void FSoftConObjectItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event) {
 // Also on its frame, which can't have the focus itself.
 void FSoftConObjectItem::mousePressEvent(QGraphicsSceneMouseEvent* event) {
     FSoftwareConnectorItem::mousePressEvent(event);
+    // The release after a double click may have gone to a question.
+    mDoubleClicked = false;
     setFocus(Qt::MouseFocusReason);
 }
 
@@ -299,7 +306,8 @@ bool FSoftConObjectItem::open() {
 }
 
 void FSoftConObjectItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) {
-    mDoubleClicked = mDoubleClicked || (getScene() && mObject);
-    open();
+    // The base takes it for a press. While a question of `open` is shown, the item can go.
     QGraphicsPixmapItem::mouseDoubleClickEvent(event);
+    mDoubleClicked = getScene() && mObject;
+    open();
 }

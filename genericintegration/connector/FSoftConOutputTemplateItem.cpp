@@ -14,5 +14,6 @@ void FSoftConOutputTemplateItem::createObject(const QString& path, const QString
     if (!name.isEmpty()) {
         made->setFileName(name);
     }
+    nameMissing(*made, path);
     takeFile(made);
 }

@@ -5,6 +5,7 @@
 #include "genericintegration/connector/FItemDialogs.h"
 #include "genericintegration/connector/FItemFactory.h"
 #include "genericintegration/connector/FItemLinks.h"
+#include "genericintegration/connector/FRefusalNotice.h"
 #include "genericintegration/connector/FSceneDrops.h"
 #include "genericintegration/connector/FSceneFurniture.h"
 #include "genericintegration/connector/FSceneMenu.h"
@@ -445,6 +446,7 @@ QGraphicsItem* FSoftConScene::itemUnder(const QPointF& point) const {
 // ---- adding ----
 
 void FSoftConScene::add(SoftConArea area) {
+    const FRefusalNotice notice;
     switch (area) {
         case SoftConInputArea:
             addInput();
@@ -486,15 +488,19 @@ void FSoftConScene::addFile() {
 FSoftConObjectItem* FSoftConScene::createItem(QGraphicsItem* parent, const FExpr<FObject>& object, const QString& path,
                                               const QString& relativePath) {
     FSoftConObjectItem* item = FItemFactory::make(*this, parent, object, path, relativePath);
-    if (item) {
-        // Known before its object is in the model, so that an update of the scene makes no second item.
-        mItems.append(item);
-        FItemFactory::createObject(*item, path, relativePath);
-        item->setEnabled(!mConnector.isLocked());
-        item->updateItem();
-        item->doUpdate();
-        calcItemRatios();
+    if (!item) {
+        return nullptr;
     }
+    // Known before its object is in the model, so that an update of the scene makes no second item.
+    mItems.append(item);
+    if (!FItemFactory::createObject(*item, path, relativePath)) {
+        removeObjectItem(item);
+        return nullptr;
+    }
+    item->setEnabled(!mConnector.isLocked());
+    item->updateItem();
+    item->doUpdate();
+    calcItemRatios();
     return item;
 }
 
@@ -569,6 +575,7 @@ void FSoftConScene::dropEvent(QGraphicsSceneDragDropEvent* event) {
                                                 {SoftConImportArea, QStringLiteral("Add result files")}};
         const FItemRequests::List dropped = FSceneDrops::files(*event->mimeData(), area);
         if (!dropped.isEmpty()) {
+            const FRefusalNotice notice;
             const FUserStep step(labels.value(area));
             createItems(dropped);
         }

@@ -3,9 +3,12 @@
 #include "genericintegration/connector/FItemScene.h"
 #include "genericintegration/connector/FSceneColors.h"
 #include "genericintegration/connector/FSetUpObjects.h"
+#include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "host/core/FLogMsg.h"
 
+#include <QFileInfo>
 #include <QGraphicsSimpleTextItem>
 
 FClassData FSoftConTemplateItem::mClass("FSoftConTemplateItem", &FSoftConObjectItem::mClass);
@@ -103,6 +106,19 @@ void FSoftConTemplateItem::refresh() {
 FGenIntFile* FSoftConTemplateItem::file() const {
     auto* shown = dynamic_cast<FGenIntFile*>(mObject.getStored());
     return shown && !shown->isNull() ? shown : nullptr;
+}
+
+void FSoftConTemplateItem::nameMissing(FGenIntFile& file, const QString& path) {
+    if (path.isEmpty() || QFileInfo::exists(path)) {
+        return;
+    }
+    const QString name = FItemCaption::lastPart(path);
+    if (file.getFileName().isEmpty()) {
+        file.setFileName(name);
+    }
+    file.setName(name);
+    FLogMsg::info(QStringLiteral("SoftwareConnector"), QStringLiteral("The file %1 doesn't exist").arg(path),
+                  QStringLiteral("Its template is empty"));
 }
 
 void FSoftConTemplateItem::takeFile(FGenIntFile* made) {

@@ -28,6 +28,8 @@ class FSoftConTemplateItem : public FClass<FSoftConTemplateItem, FSoftConObjectI
     void refresh() override;
     /** Null while the item stands for no template. */
     FGenIntFile* file() const;
+    /** Names a template after a file that isn't there, from which it took nothing, and reports that. */
+    static void nameMissing(FGenIntFile& file, const QString& path);
     /** Takes the template as the item's object, adds it to the definition, and opens its tab. */
     void takeFile(FGenIntFile* file);
 

@@ -21,6 +21,7 @@
 #include "host/core/FIO.h"
 #include "host/core/FImmediateUpdateBlocker.h"
 #include "host/core/FIni.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FModel.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserInterface.h"
@@ -34,9 +35,12 @@
 #include "host/gui/fields/FScriptText.h"
 #include "host/run/FResultsOutOfDateBlocker.h"
 
+#include <QApplication>
 #include <QGraphicsItem>
 #include <QPushButton>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -67,6 +71,16 @@ FSoftwareConnector::FSoftwareConnector(const QString& name) : FClass(name), mSet
 FSoftwareConnector::~FSoftwareConnector() {
     setNavigator(nullptr);
     delete mView;
+}
+
+// A statement makes the same connector on every desk.
+FConnectorInterface* FSoftwareConnector::createConnector(const QString& name,
+                                                         const FExpr<FExternComputation>& computation) const {
+    FSoftwareConnector* made = create(name, computation);
+    if (!FMerixCtrl::instance()->isBusy()) {
+        made->useLastItemSize();
+    }
+    return made;
 }
 
 FSoftwareConnector* FSoftwareConnector::create(const QString& name, const FExpr<FExternComputation>& computation) {
@@ -164,22 +178,37 @@ void FSoftwareConnector::listenToRuns() {
     if (runs == mRuns) {
         return;
     }
-    if (mRuns) {
-        disconnect(mRuns, nullptr, this, nullptr);
-    }
+    stopListening();
     mRuns = runs;
     if (runs) {
         connect(runs, &FGenIntCompSignalRapper::genIntRunStarted, this, &FSoftwareConnector::prepareToScanForResults);
         connect(runs, &FGenIntCompSignalRapper::genIntRunEnded, this, &FSoftwareConnector::scanForResults);
+        mRunChanged = connect(computation, &FExternComputation::runChanged, this, &FSoftwareConnector::unlockIfIdle);
+    }
+    // The run may have begun, or ended, while nobody listened.
+    disableGui(computation && !computation->canRun());
+}
+
+void FSoftwareConnector::stopListening() {
+    if (mRuns) {
+        disconnect(mRuns, nullptr, this, nullptr);
+        disconnect(mRunChanged);
+        mRuns = nullptr;
+    }
+}
+
+// A run whose program couldn't be started has no end that the computation tells.
+void FSoftwareConnector::unlockIfIdle() {
+    const FExternComputation* computation = mSetUp.mComputation.ptr();
+    if (mIsLocked && (!computation || computation->canRun())) {
+        disableGui(false);
     }
 }
 
 void FSoftwareConnector::leaveModel() {
     if (mView) {
-        if (mRuns) {
-            disconnect(mRuns, nullptr, this, nullptr);
-            mRuns = nullptr;
-        }
+        mWasShown = mpNavigator != nullptr;
+        stopListening();
         mpScene->clearItems();
         setNavigator(nullptr);
         hide();
@@ -192,6 +221,16 @@ void FSoftwareConnector::leaveModel() {
 void FSoftwareConnector::enterModel() {
     FSoftConBase::enterModel();
     setOutOfDate(true);
+    // Undo and redo write its fields only after this.
+    if (mWasShown) {
+        mShowAgain.request();
+    }
+}
+
+void FSoftwareConnector::showAgain() {
+    if (std::exchange(mWasShown, false) && isInModel()) {
+        showConnector();
+    }
 }
 
 void FSoftwareConnector::takeItemSize(unsigned int size) {
@@ -389,12 +428,24 @@ void FSoftwareConnector::gotFocus() {
 // ---- runs and views ----
 
 void FSoftwareConnector::disableGui(bool disable) {
+    if (mIsLocked == disable) {
+        return;
+    }
     mIsLocked = disable;
+    if (disable && isAncestorOf(QApplication::focusWidget())) {
+        // Else it would go to some other panel.
+        mFocusBefore = QApplication::focusWidget();
+        tabBar()->setFocus();
+    }
     for (QGraphicsItem* item : mpScene->items()) {
         item->setEnabled(!disable);
     }
-    for (int index = 1; index < count(); ++index) {
+    for (int index = 0; index < count(); ++index) {
         widget(index)->setEnabled(!disable);
+    }
+    const QPointer<QWidget> focus = disable ? nullptr : std::exchange(mFocusBefore, nullptr);
+    if (focus && tabBar()->hasFocus()) {
+        focus->setFocus();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "genericintegration/setup/FConnectorSetUp.h"
 #include "genericintegration/templates/FGenIntFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/core/FQueuedCall.h"
 #include "host/core/FString.h"
 #include "host/design/FResultsFileName.h"
 #include "host/gui/base/FSoftConBase.h"
@@ -78,9 +79,7 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     FManaged* asManaged() override { return this; }
     QList<FManaged*> getParts() const override;
     FConnectorInterface* createConnector(const QString& name,
-                                         const FExpr<FExternComputation>& computation) const override {
-        return create(name, computation);
-    }
+                                         const FExpr<FExternComputation>& computation) const override;
 
     bool doUpdate() const override;
 
@@ -108,6 +107,9 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     void init();
     void follow();
     void listenToRuns();
+    void stopListening();
+    void unlockIfIdle();
+    void showAgain();
     void takeItemSize(unsigned int size);
     /** The templates of the set-up; none without a definition. */
     QList<FExpr<FGenIntFile>> files() const;
@@ -129,5 +131,9 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     FNavigator* mpNavigator = nullptr;
     QDateTime mLastRunStart = QDateTime::currentDateTime();  //!< files from before are no results
     QPointer<const FGenIntCompSignalRapper> mRuns;
+    QMetaObject::Connection mRunChanged;
     bool mIsLocked = false;
+    QPointer<QWidget> mFocusBefore;  //!< had the focus when a run locked the connector
+    bool mWasShown = false;          //!< in the window when it left the model
+    FQueuedCall mShowAgain{[this] { showAgain(); }};
 };

@@ -231,6 +231,7 @@ void FGenIntComputation::openSoftwareConnector() const {
             return;
         }
     }
+    const FUserStep step(QStringLiteral("Open Software Connector"));
     FConnectorInterface* made =
         FConnectorInterface::create(getName() + QStringLiteral("_connector"), FExpr<FExternComputation>(this));
     if (made) {

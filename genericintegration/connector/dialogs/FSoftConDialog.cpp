@@ -33,7 +33,10 @@ FSoftConDialog::FSoftConDialog(QWidget* parent, const QString& caption, const QS
         connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FSoftConDialog::updateLineEdit);
     }
     if (lineEdit()) {
-        connect(lineEdit(), &QLineEdit::textChanged, this, &FSoftConDialog::lineEditChanged);
+        connect(lineEdit(), &QLineEdit::textChanged, this, [this](const QString& text) {
+            mShownText = text;
+            lineEditChanged(text);
+        });
     }
     setLabelText(QFileDialog::Accept, QStringLiteral("Add"));
 }
@@ -56,7 +59,8 @@ void FSoftConDialog::accept() {
 }
 
 void FSoftConDialog::updateLineEdit(const QItemSelection& selected, const QItemSelection& deselected) {
-    if (selected.isEmpty() && deselected.isEmpty()) {
+    // The base marks what is typed, before this class knows the new text: nothing replaces it then.
+    if ((selected.isEmpty() && deselected.isEmpty()) || lineEdit()->text() != mShownText) {
         return;
     }
     const auto* list = findChild<QListView*>(QStringLiteral("listView"));
@@ -73,7 +77,8 @@ void FSoftConDialog::updateLineEdit(const QItemSelection& selected, const QItemS
     names.removeDuplicates();
     const QString quote = names.size() > 1 ? QStringLiteral("\"") : QString();
     const QSignalBlocker blocker(lineEdit());
-    lineEdit()->setText(names.isEmpty() ? QString() : quote + names.join(quote + QLatin1Char(' ') + quote) + quote);
+    mShownText = names.isEmpty() ? QString() : quote + names.join(quote + QLatin1Char(' ') + quote) + quote;
+    lineEdit()->setText(mShownText);
 }
 
 void FSoftConDialog::lineEditChanged(const QString& text) {

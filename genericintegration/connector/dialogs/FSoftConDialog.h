@@ -22,4 +22,7 @@ class FSoftConDialog : public QFileDialog {
  protected:
     QLineEdit* lineEdit() const;
     bool isAnySelectedThere() const;
+
+ private:
+    QString mShownText;  //!< of the field, as far as its changes were told
 };

@@ -5,12 +5,30 @@
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
 #include <QGraphicsProxyWidget>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QTextBrowser>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace {
 
-class FSoftConSceneTest : public FConnectorTest {};
+class FSoftConSceneTest : public FConnectorTest {
+ public:
+    /** Types a path into the file dialog that is opened next, and accepts it. */
+    void answer(const QString& path) {
+        QTimer::singleShot(0, [this, path] {
+            auto* dialog = window().findChild<FSoftConDialog*>();
+            ASSERT_NE(dialog, nullptr);
+            auto* field = dialog->findChild<QLineEdit*>();
+            field->setFocus();
+            QTest::keyClicks(field, path);
+            dialog->accept();
+        });
+    }
+    QString notice() { return find<QLabel>("noticeText")->text(); }
+};
 
 }  // namespace
 
@@ -27,6 +45,40 @@ TEST_F(FSoftConSceneTest, aClickSelectsAfterTheTimeOfADoubleClick) {
     click("out.txt");
     settle();
     EXPECT_TRUE(FSelectionSet::instance()->contains(object<FManaged>("c"))) << "a result template selects nothing";
+}
+
+TEST_F(FSoftConSceneTest, aClickedItemIsShownInTheEditorAndIsWhatDeleteTakes) {
+    open();
+    ASSERT_TRUE(run("point p(1, 2, 3)\nd.addEntry(\"Exports|tip\", geometryExport(\"\", 0, [p]))"));
+    window().showObject(object<FManaged>("p"));
+    settle();
+    const auto click = [this](const QString& label) {
+        QTest::mouseClick(connector().getView()->viewport(), Qt::LeftButton, {}, centreOf(label));
+    };
+    const auto isShown = [this](const QString& name) { return find<QLineEdit>("objectName")->text() == name; };
+    click("tip");
+    ASSERT_TRUE(waitUntil([&] { return isShown("Exports|tip"); }));
+    settle();
+    EXPECT_EQ(find<QLabel>("objectClass")->text(), "geometry export");
+    EXPECT_EQ(find<QTreeView>("entryTree")->currentIndex().data().toString(), "tip") << "its file name is set there";
+    EXPECT_FALSE(find<QTreeView>("objectTree")->selectionModel()->hasSelection());
+    EXPECT_FALSE(action("rename")->isEnabled()) << "what was selected in the tree before isn't renamed";
+    trigger("help");
+    EXPECT_TRUE(find<QTextBrowser>("helpText")->toPlainText().contains("FGeometryExport"));
+    connector().getView()->setFocus();
+    // A click on an input template selects the configuration, which stays.
+    click("case.inp");
+    ASSERT_TRUE(waitUntil([&] { return isShown("c"); }));
+    const QString before = savedModel();
+    trigger("delete");
+    EXPECT_EQ(items(), "more.inp | tip | out.txt | solver");
+    expectOneStep(before, "software connector: delete item");
+    // An entry that isn't there any more isn't shown.
+    click("tip");
+    ASSERT_TRUE(waitUntil([&] { return isShown("Exports|tip"); }));
+    trigger("undo");
+    trigger("undo");
+    EXPECT_FALSE(find<QTreeView>("entryTree")->isVisible());
 }
 
 TEST_F(FSoftConSceneTest, theMenuSetsTheSizeOfAllItemsAndAddsToItsArea) {
@@ -92,4 +144,60 @@ TEST_F(FSoftConSceneTest, theButtonsAskForFiles) {
     EXPECT_EQ(items(), "case.inp more.inp new.inp | out.txt | solver");
     expectOneStep(before, "Add input files");
     FIni().remove("SoftwareConnector/addTemplatePath");
+}
+
+TEST_F(FSoftConSceneTest, aTypedPathGivesNoFolderOfTheNameAndWhatIsRefusedIsTold) {
+    open();
+    const FTestFolder other;
+    answer(other.write("out.txt", "x = 2"));
+    scene().addOutput();
+    EXPECT_EQ(items(), allItems) << "its name is that of another template";
+    answer(other.write("out.txt", "x = 2"));
+    scene().add(SoftConOutputArea);
+    EXPECT_EQ(notice(), "The file out.txt is already part of this set up. Item creation aborted.");
+    FIni().setValue("SoftwareConnector/convertToTemplate", true);
+    answer(other.write("deck.inp", "y = 3"));
+    scene().add(SoftConInputArea);
+    answer(other.path("later.inp"));
+    scene().add(SoftConInputArea);
+    EXPECT_EQ(items(), "case.inp deck.inp later.inp more.inp | out.txt | solver");
+    EXPECT_TRUE(savedModel().contains("setFileName(\"deck.inp\")")) << savedModel().toStdString();
+    EXPECT_TRUE(notice().contains("later.inp doesn't exist. Its template is empty"));
+    FIni().clear();
+    // Without a definition there is nothing that an item could be in.
+    ASSERT_TRUE(run("c.setDefinition(NULL)"));
+    EXPECT_EQ(items(), "solver");
+    const QString before = savedModel();
+    scene().add(SoftConExportArea);
+    EXPECT_EQ(scene().objectItems().size(), 1);
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    EXPECT_TRUE(notice().contains("no configuration with a definition"));
+}
+
+TEST_F(FSoftConSceneTest, labelsAndHelpHaveTheirRoom) {
+    open();
+    window().resize(1024, 660);
+    settle();
+    QList<QRectF> buttons;
+    QHash<QString, QRectF> labels;
+    for (QGraphicsItem* part : scene().items()) {
+        auto* proxy = dynamic_cast<QGraphicsProxyWidget*>(part);
+        const auto* label = proxy ? qobject_cast<QLabel*>(proxy->widget()) : nullptr;
+        if (label) {
+            labels.insert(label->text(), proxy->sceneBoundingRect());
+        } else if (proxy && qobject_cast<QToolButton*>(proxy->widget()) && !proxy->parentItem()) {
+            buttons.append(proxy->sceneBoundingRect());
+        }
+    }
+    ASSERT_EQ(labels.size(), 4);
+    for (auto label = labels.begin(); label != labels.end(); ++label) {
+        for (const QRectF& button : qAsConst(buttons)) {
+            EXPECT_FALSE(button.intersects(*label)) << label.key().toStdString() << " is covered";
+        }
+    }
+    scene().showDocu("Input Files");
+    auto* help = find("htmlToolTip");
+    constexpr int least = 50;  // characters
+    EXPECT_GE(help->width(), least * help->fontMetrics().averageCharWidth());
+    help->close();
 }

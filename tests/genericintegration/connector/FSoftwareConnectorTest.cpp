@@ -2,6 +2,7 @@
 #include "genericintegration/connector/FSoftwareConnector.h"
 #include "genericintegration/setup/FGenIntCompSignalRapper.h"
 #include "genericintegration/setup/FGenIntComputation.h"
+#include "host/core/FIni.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserStep.h"
 #include "host/gui/window/FDocumentTabs.h"
@@ -85,7 +86,7 @@ TEST_F(FSoftwareConnectorTest, destroyingItTakesTheSetUpAndUndoBringsBackAll) {
     trigger("undo");
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
     EXPECT_EQ(items(), allItems);
-    object<FGenIntComputation>("solver")->openSoftwareConnector();
+    EXPECT_EQ(window().documents().count(), 1) << "its page is back";
     EXPECT_EQ(tabs(), (QStringList{"Overview", "case.inp", "more.inp", "out.txt"}));
     trigger("redo");
     settle();
@@ -95,6 +96,53 @@ TEST_F(FSoftwareConnectorTest, destroyingItTakesTheSetUpAndUndoBringsBackAll) {
     ASSERT_TRUE(run("destroy(solver)"));
     settle();
     EXPECT_TRUE(savedModel().isEmpty()) << savedModel().toStdString();
+}
+
+TEST_F(FSoftwareConnectorTest, deletingItAsksAboutARunAndAboutOthersThatUseItsDefinition) {
+    open();
+    ASSERT_TRUE(
+        run("genericIntegrationConfiguration c2() { .setDefinition(d) }\nsolver.setArguments([\"-c\", \"sleep 60\"])"));
+    scene().runComputation();
+    ASSERT_TRUE(waitUntil([this] { return connector().isLocked(); }));
+    const QString before = savedModel();
+    window().showObject(&connector());
+    dialogs().answers << "Cancel"
+                      << "Delete";
+    trigger("delete");
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    EXPECT_TRUE(dialogs().questions.value(0).contains("solver is running") && dialogs().questions[0].contains("c2"));
+    trigger("delete");
+    EXPECT_EQ(object<FManaged>("con"), nullptr);
+    EXPECT_EQ(dialogs().questions.size(), 2);
+    trigger("undo");
+    EXPECT_EQ(savedModel().toStdString(), before.toStdString());
+    ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("solver")->canRun(); }));
+    EXPECT_FALSE(connector().isLocked()) << "the run ended while the connector was away";
+    EXPECT_TRUE(item("solver")->isEnabled());
+}
+
+TEST_F(FSoftwareConnectorTest, aRunThatGoesOnLocksAConnectorThatIsOpenedLater) {
+    ASSERT_TRUE(
+        run("genericIntegrationDefinition plan()\n"
+            "genericIntegrationConfiguration values() { .setDefinition(plan) }\n"
+            "genericIntegrationComputation late() {\n.setConfiguration(values)\n.setExecutable(\"sleep\")\n"
+            ".setArguments([\"60\"])\n}"));
+    auto& late = *object<FGenIntComputation>("late");
+    late.guiRun();
+    ASSERT_TRUE(waitUntil([&] { return !late.canRun(); }));
+    FIni().setValue("SoftwareConnector/lastItemSize", 4);
+    EXPECT_TRUE(late.doubleClickedInTree());
+    settle();
+    auto& opened = *object<FSoftwareConnector>("late_connector");
+    EXPECT_EQ(opened.getItemSizeStr(), "Small") << "as the user chose last";
+    ASSERT_TRUE(run("genericIntegrationComputation stated()\nstated.openSoftwareConnector()"));
+    EXPECT_EQ(object<FSoftwareConnector>("stated_connector")->getItemSizeStr(), "Medium") << "made by a statement";
+    EXPECT_FALSE(opened.widget(0)->isEnabled());
+    EXPECT_FALSE(opened.getScene()->objectItems().value(0)->isEnabled());
+    late.cancel();
+    ASSERT_TRUE(waitUntil([&] { return late.canRun(); }));
+    EXPECT_TRUE(opened.widget(0)->isEnabled());
+    EXPECT_TRUE(opened.getScene()->objectItems().value(0)->isEnabled());
 }
 
 TEST_F(FSoftwareConnectorTest, tabsAreClosedAndOpenedAgain) {
@@ -178,6 +226,11 @@ TEST_F(FSoftwareConnectorTest, itIsLinkedToResultsOfAnother) {
     EXPECT_TRUE(savedModel().contains("mesher.getResults().getResultTemplateName(\"flow.dat\")"));
     EXPECT_NE(item("flow.dat"), nullptr) << "called after the template that it is linked to";
     expectOneStep(before, "Add input file");
+    window().showObject(object<FManaged>("c"));
+    settle();
+    ASSERT_TRUE(run("mesher.setExecutable(\"sh\")"));
+    settle();
+    EXPECT_FALSE(logHolds("there is no object to apply it to")) << "results are only not there yet";
     // The other way round would be a circle.
     object<FGenIntComputation>("mesher")->openSoftwareConnector();
     settle();

@@ -63,6 +63,11 @@ TEST_F(DialogsTest, theFieldListsTheMarkedFilesAndTheButtonSaysWhetherTheyAreNew
     ASSERT_NE(add, nullptr);
     names(dialog)->clear();
     EXPECT_FALSE(add->isEnabled());
+    // What is typed stays, also while the dialog marks what fits.
+    names(dialog)->setFocus();
+    QTest::keyClicks(names(dialog), folder.path("a.inp"));
+    EXPECT_EQ(names(dialog)->text(), folder.path("a.inp"));
+    names(dialog)->clear();
     QTest::keyClicks(names(dialog), "new.inp");
     EXPECT_EQ(add->text(), "Add New");
     EXPECT_TRUE(add->isEnabled());

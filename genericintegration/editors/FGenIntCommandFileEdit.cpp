@@ -25,7 +25,6 @@
 namespace {
 
 constexpr int gutterDigits = 3;
-constexpr int nameEditPadding = 29;
 
 /** The part of a name that can be changed: of a reference to a generated file, what is behind the group. */
 QString lastPart(const QString& name) {
@@ -41,7 +40,6 @@ FGenIntCommandFileEdit::FGenIntCommandFileEdit(FGenIntCommandFileEditor* editor,
       mpNameEdit(new FGenIntCommandFileLineEdit(*this)) {
     setObjectName(QStringLiteral("templateText"));
     setAccessibleName(QStringLiteral("Text of the input template"));
-    mpNameEdit->setFont(font());
     setAttribute(Qt::WA_Hover);
     viewport()->setMouseTracking(true);
     lineNumberDisplay()->installEventFilter(this);
@@ -133,9 +131,6 @@ bool FGenIntCommandFileEdit::event(QEvent* event) {
             }
             break;
         }
-        case QEvent::FontChange:
-            mpNameEdit->setFont(font());
-            break;
         default:
             break;
     }
@@ -229,8 +224,9 @@ void FGenIntCommandFileEdit::editEntry() {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("entryMenu"));
     // The field gets the focus after the menu has given it back.
-    connect(menu.addAction(FIcons::get(QStringLiteral("edit-rename")), QStringLiteral("Rename")), &QAction::triggered,
-            this, &FGenIntCommandFileEdit::renameEntry, Qt::QueuedConnection);
+    QAction* rename = menu.addAction(FIcons::get(QStringLiteral("edit-rename")), QStringLiteral("Rename"));
+    rename->setEnabled(getCurrentEntry());
+    connect(rename, &QAction::triggered, this, &FGenIntCommandFileEdit::renameEntry, Qt::QueuedConnection);
     menu.addAction(FIcons::get(QStringLiteral("edit-delete")), QStringLiteral("Remove"), this,
                    &FGenIntCommandFileEdit::removeEntry);
     QMenu* replace = menu.addMenu(FIcons::get(QStringLiteral("view-refresh")), QStringLiteral("Replace"));
@@ -254,17 +250,9 @@ void FGenIntCommandFileEdit::renameEntry() {
     if (mpButtons->currentName().isEmpty()) {
         return;
     }
-    const QString name = lastPart(mpButtons->currentName());
-    mpNameEdit->setText(name);
-    mpNameEdit->resize(fontMetrics().horizontalAdvance(name) + nameEditPadding, mpNameEdit->sizeHint().height());
     const QPoint mouse = mapFromGlobal(QCursor::pos());
-    const QPoint place = mpButtons->isAtMouse() && rect().contains(mouse) ? mouse : placeOfTag();
-    mpNameEdit->move(std::clamp(place.x(), 0, std::max(0, width() - mpNameEdit->width())),
-                     std::clamp(place.y(), 0, std::max(0, height() - mpNameEdit->height())));
-    mpNameEdit->show();
-    mpNameEdit->raise();
-    mpNameEdit->selectAll();
-    mpNameEdit->setFocus();
+    const bool isAtMouse = mpButtons->isAtMouse() && rect().contains(mouse);
+    mpNameEdit->start(lastPart(mpButtons->currentName()), isAtMouse ? mouse : placeOfTag());
     mpButtons->hide();
 }
 
@@ -353,6 +341,10 @@ void FGenIntCommandFileEdit::resetHighlight() {
 // ---- input ----
 
 void FGenIntCommandFileEdit::keyPressEvent(QKeyEvent* event) {
+    // Who types looks at the text, and not at the mouse that rests on it.
+    if (!event->text().isEmpty()) {
+        mpButtons->forgetMouse();
+    }
     const bool isControl = event->modifiers() == Qt::ControlModifier;
     if (isControl && event->key() == Qt::Key_F) {
         startSearch(false);

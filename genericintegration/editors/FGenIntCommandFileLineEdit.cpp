@@ -5,11 +5,32 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 FGenIntCommandFileLineEdit::FGenIntCommandFileLineEdit(FGenIntCommandFileEdit& edit) : QLineEdit(&edit), mEdit(edit) {
     setObjectName(QStringLiteral("entryName"));
     setAccessibleName(QStringLiteral("Name of the entry"));
     setValidator(new FObjectNameValidator(this));
+    connect(this, &QLineEdit::textEdited, this, &FGenIntCommandFileLineEdit::fit);
     hide();
+}
+
+void FGenIntCommandFileLineEdit::start(const QString& name, const QPoint& place) {
+    setFont(mEdit.font());
+    setText(name);
+    setGeometry({place, QSize(0, sizeHint().height())});
+    fit();
+    show();
+    raise();
+    selectAll();
+    setFocus();
+}
+
+void FGenIntCommandFileLineEdit::fit() {
+    constexpr int padding = 29;
+    const int wanted = std::max(fontMetrics().horizontalAdvance(text()) + padding, width());
+    resize(std::min(wanted, mEdit.width()), height());
+    move(std::clamp(x(), 0, mEdit.width() - width()), std::clamp(y(), 0, std::max(0, mEdit.height() - height())));
 }
 
 void FGenIntCommandFileLineEdit::keyPressEvent(QKeyEvent* event) {

@@ -68,11 +68,16 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     find<QToolButton>("templateMode")->click();
     EXPECT_EQ(find("templateMode")->toolTip(), "Enter plain mode");
     ASSERT_NE(hover("key"), nullptr);
-    // What has become of the text under the button counts.
+    // What has become of the text under the button counts, and nothing covers what is typed.
     select("1.5");
-    type(&edit(), "x");
+    edit().insertPlainText("x");
     settle();
     EXPECT_FALSE(edit().findChild<QToolButton*>("addEntryButton")->isVisible());
+    ASSERT_NE(hover("<entry>force"), nullptr);
+    edit().setTextCursor(at("<entry>force</entry>", 20));
+    type(&edit(), " ");
+    settle();
+    EXPECT_FALSE(edit().findChild<QToolButton*>("editEntryButton")->isVisible());
     // A button gives way to what it covers.
     page().setAlteredText();
     setText("7 8 and more\n");
@@ -184,6 +189,9 @@ TEST_F(FGenIntCommandFileEditTest, anEntryIsRenamedAtItsTag) {
     QCursor::setPos(edit().mapToGlobal(edit().rect().bottomRight()));
     edit().renameEntry();
     EXPECT_TRUE(edit().rect().contains(field->geometry()));
+    type(field, "a_name_that_is_much_longer_than_the_one_before");
+    EXPECT_TRUE(edit().rect().contains(field->geometry()));
+    EXPECT_GT(field->width(), field->fontMetrics().horizontalAdvance(field->text()));
     press(field, Qt::Key_Escape);
     EXPECT_NE(entry("Geometry|left"), nullptr);
 }

@@ -3,12 +3,21 @@
 #include "host/gui/base/FStateColor.h"
 #include "host/gui/text/FEditor.h"
 
+#include <QEvent>
 #include <QTextBlock>
 
 #include <algorithm>
 
 FRangeMarks::FRangeMarks(FEditor& editor) : QObject(&editor), mEditor(editor) {
     connect(&editor, &QPlainTextEdit::updateRequest, this, &FRangeMarks::markShown);
+    editor.installEventFilter(this);
+}
+
+bool FRangeMarks::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        mark();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void FRangeMarks::setRanges(std::vector<FTextRange> ranges) {

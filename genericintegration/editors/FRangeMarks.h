@@ -19,6 +19,8 @@ class FRangeMarks : public QObject {
     /** In ascending order, without overlaps. */
     void setRanges(std::vector<FTextRange> ranges);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
     void markShown();
     void mark();

@@ -4,6 +4,7 @@
 #include "host/gui/text/FLineLayout.h"
 #include "host/gui/text/FLineNumberDisplay.h"
 
+#include <QMimeData>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -81,6 +82,13 @@ void FEditor::updateLineNumberAreaWidth(int blocks) {
     const QRect contents = contentsRect();
     mpGutter->setGeometry(contents.left(), contents.top(), lineNumberAreaWidth(), viewport()->height());
     mpGutter->setVisible(mShowsLineNumbers);
+}
+
+// The base also makes HTML and ODF of the selection, which takes seconds for a large one, and loses special blanks.
+QMimeData* FEditor::createMimeDataFromSelection() const {
+    auto* copied = new QMimeData;
+    copied->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, QLatin1Char('\n')));
+    return copied;
 }
 
 void FEditor::resizeEvent(QResizeEvent* event) {

@@ -55,6 +55,7 @@ class MERIX_EXPORT FEditor : public QPlainTextEdit {
     void updateLineNumberAreaWidth(int blocks);
 
  protected:
+    QMimeData* createMimeDataFromSelection() const override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -338,6 +338,10 @@ TEST_F(FGenIntCommandFileEditorTest, valuesAreShownBesideTheTemplate) {
     EXPECT_EQ(edit().extraSelections().value(1).cursor.selectedText(), "<entry>force</entry>");
     ASSERT_TRUE(run("values.setEntryValue(\"Geometry|span\", 40)"));
     ASSERT_TRUE(waitUntil([&] { return marks() == "40 10"; }));
+    FTheme::choose(FTheme::Appearance::Dark);
+    settle();
+    EXPECT_LT(written->extraSelections().value(0).format.background().color().lightness(), 128);
+    FTheme::choose(FTheme::Appearance::Desktop);
     find<QToolButton>("showValues")->click();
     EXPECT_TRUE(edit().extraSelections().isEmpty());
 }

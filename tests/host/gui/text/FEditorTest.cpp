@@ -2,6 +2,9 @@
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
 #include <QScrollBar>
 
 using FEditorTest = FWindowTest;
@@ -36,6 +39,16 @@ TEST_F(FEditorTest, laysOutLinesAsTheToolkitDoes) {
         settle();
     }
     expectSame("replaced");
+}
+
+TEST_F(FEditorTest, aCopyIsPlainTextWithItsCharacters) {
+    const QString text = QString::fromUtf8("one\ntwo\u00a0x\u2028three\n");
+    FEditor editor(3, true, nullptr);
+    editor.setPlainText(text);
+    editor.selectAll();
+    editor.copy();
+    EXPECT_EQ(QApplication::clipboard()->text(), text);
+    EXPECT_FALSE(QApplication::clipboard()->mimeData()->hasHtml());
 }
 
 TEST_F(FEditorTest, theWidthStaysWhenTheWidestLineBecomesShorter) {

@@ -25,12 +25,19 @@ void set(FGenIntComputation& computation, const char* attribute, const FExprBase
 
 FGenIntComputation* addComputation(const FNewSetUp& setUp) {
     FGenIntComputation* computation = FGenIntComputation::create(setUp.name);
+    const QString& name = computation->getName();
+    FDefinitionGenInt* definition = FDefinitionGenInt::create({}, name + QStringLiteral("_definition"), {});
+    computation->setConfiguration(FExpr<FConfigurationCustom>(
+        FConfigurationGenInt::create({}, name + QStringLiteral("_configuration"), true, definition)));
     set(*computation, "setExecutable", FExprBase(new FString(setUp.program)));
     auto* arguments = new FObjectList;
     for (const QString& argument : setUp.arguments) {
         arguments->add(FExpr<FObject>(new FString(argument)));
     }
     set(*computation, "setArguments", FExprBase(arguments));
+    if (!setUp.standardInput.isEmpty()) {
+        set(*computation, "setStandardInput", FExprBase(new FString(setUp.standardInput)));
+    }
     return computation;
 }
 

@@ -31,6 +31,7 @@ FProblems::FProblems(const FExternComputation* computation, const FConfiguration
 FSetUpCheck::Problems FProblems::find() {
     if (mComputation) {
         findProgram();
+        findShellWords();
     }
     if (findMissing()) {
         return mProblems.all();
@@ -86,6 +87,33 @@ void FProblems::findProgram() {
     }
     if (!fault.text.isEmpty()) {
         mProblems.error(mComputation->getName(), fault.text, fault.remedy).isReportedByRun = true;
+    }
+}
+
+// Such words may be meant, as by "find", but a line that was copied from a terminal is more likely.
+void FProblems::findShellWords() {
+    const QString shell =
+        QStringLiteral("Let a shell execute the line: setExecutable(\"sh\") and setArguments([\"-c\", \"…\"])");
+    const QString output = QStringLiteral("Leave it out: what the program prints is kept as stdout.txt and stderr.txt");
+    const std::pair<const char*, QString> remedies[] = {
+        {"<", QStringLiteral("Name the file with setStandardInput instead")},
+        {">", output},
+        {">>", output},
+        {"1>", output},
+        {"2>", output},
+        {"2>&1", output},
+        {"|", shell},
+        {"&&", shell}};
+    for (const QString& argument : mComputation->getProgram().arguments) {
+        for (const auto& [word, remedy] : remedies) {
+            if (argument == QLatin1String(word)) {
+                mProblems.warning(
+                    mComputation->getName(),
+                    QStringLiteral("the program gets the argument \"%1\" as it is, since no shell reads it")
+                        .arg(argument),
+                    remedy);
+            }
+        }
     }
 }
 

@@ -30,6 +30,7 @@ class FProblems {
  private:
     bool findMissing();
     void findProgram();
+    void findShellWords();
     void findTemplateNames();
     void findStandardInput();
     void findOptionalFiles();

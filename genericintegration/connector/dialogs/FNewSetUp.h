@@ -15,6 +15,7 @@ struct FNewSetUp {
     QString name;
     QString program;
     QStringList arguments;
+    QString standardInput;  //!< name of the input file that the program reads from there; empty for none
     std::vector<Input> inputs;
     QStringList outputs;  //!< samples, from which numbers are read
 };

@@ -1,6 +1,6 @@
 #include "genericintegration/connector/dialogs/FNewSetUpDialog.h"
 
-#include "genericintegration/connector/dialogs/FCommandWords.h"
+#include "genericintegration/connector/dialogs/FCommandLine.h"
 #include "genericintegration/connector/dialogs/FSampleList.h"
 #include "host/core/FObjectName.h"
 #include "host/core/FUserInterface.h"
@@ -48,6 +48,7 @@ FNewSetUpDialog::FNewSetUpDialog(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(form, 1);
     column->addWidget(buttons);
+    connect(mpInputs, &FSampleList::changed, this, [this] { mLookUp.request(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     constexpr int width = 70;   // characters
@@ -86,7 +87,8 @@ void FNewSetUpDialog::askProgram() {
 // The name is that of the program until the user enters another.
 void FNewSetUpDialog::lookUp() {
     const FNewSetUp now = entered();
-    mpCreate->setEnabled(!now.program.isEmpty());
+    const QString fault = FCommandLine::parse(mpProgram->text()).fault;
+    mpCreate->setEnabled(!now.program.isEmpty() && fault.isEmpty());
     if (!mpName->isModified()) {
         mpName->setText(legalName(QFileInfo(now.program).completeBaseName()));
     }
@@ -96,14 +98,27 @@ void FNewSetUpDialog::lookUp() {
         return;
     }
     const auto search = FProgramSearch::search(now.program, QDir::currentPath(), qEnvironmentVariable("PATH"));
-    mpFound->setState(search.isFound() ? FStateColor::State::Good : FStateColor::State::Warning);
-    mpFound->setText(search.isFound() ? QStringLiteral("✓ %1").arg(search.file)
-                                      : QStringLiteral("⚠ %1").arg(search.fault(false).toSentences()));
+    const QString problem = !fault.isEmpty() ? fault : search.isFound() ? missingInput(now) : search.fault(true).toSentences();
+    const QString reads = now.standardInput.isEmpty() ? QString() : QStringLiteral(", reads %1").arg(now.standardInput);
+    mpFound->setState(problem.isEmpty() ? FStateColor::State::Good : FStateColor::State::Warning);
+    mpFound->setText(problem.isEmpty() ? QStringLiteral("✓ %1%2").arg(search.file, reads)
+                                       : QStringLiteral("⚠ %1").arg(problem));
+}
+
+QString FNewSetUpDialog::missingInput(const FNewSetUp& setUp) {
+    const bool isThere = std::any_of(setUp.inputs.begin(), setUp.inputs.end(), [&setUp](const FNewSetUp::Input& input) {
+        return QFileInfo(input.path).fileName() == setUp.standardInput;
+    });
+    return setUp.standardInput.isEmpty() || isThere
+               ? QString()
+               : QStringLiteral("The program reads %1: add it to the input files.").arg(setUp.standardInput);
 }
 
 FNewSetUp FNewSetUpDialog::entered() const {
     FNewSetUp setUp;
-    setUp.arguments = FCommandWords::split(mpProgram->text());
+    const FCommandLine command = FCommandLine::parse(mpProgram->text());
+    setUp.standardInput = QFileInfo(command.standardInput).fileName();
+    setUp.arguments = command.words;
     setUp.program = setUp.arguments.isEmpty() ? QString() : setUp.arguments.takeFirst();
     setUp.name = mpName->text();
     const QStringList inputs = mpInputs->paths();
@@ -116,7 +131,7 @@ FNewSetUp FNewSetUpDialog::entered() const {
 
 void FNewSetUpDialog::accept() {
     const FNewSetUp setUp = entered();
-    if (!setUp.program.isEmpty()) {
+    if (mpCreate->isEnabled()) {
         QDialog::accept();
         emit confirmed(setUp);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "genericintegration/connector/dialogs/FNewSetUp.h"
+#include "host/core/FQueuedCall.h"
 
 #include <QDialog>
 
@@ -26,6 +27,8 @@ class FNewSetUpDialog : public QDialog {
     FNewSetUp entered() const;
     void askProgram();
     void lookUp();
+    /** What to do for the standard input; empty if the file is there. */
+    static QString missingInput(const FNewSetUp& setUp);
 
     QLineEdit* mpProgram;
     FStateLabel* mpFound;
@@ -33,4 +36,5 @@ class FNewSetUpDialog : public QDialog {
     FSampleList* mpOutputs;
     QLineEdit* mpName;
     QPushButton* mpCreate = nullptr;
+    FQueuedCall mLookUp{[this] { lookUp(); }};
 };

@@ -51,6 +51,9 @@ FSampleList::FSampleList(const QString& id, const QString& label, const QString&
     row->addLayout(buttons);
     setFocusProxy(mpList);
     connect(mpList, &FDropList::dropped, this, &FSampleList::addFiles);
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(mpList->model(), signal, this, &FSampleList::changed);
+    }
 }
 
 void FSampleList::addFiles(const QStringList& added) {

@@ -16,6 +16,9 @@ class FSampleList : public QWidget {
     QStringList paths() const;
     bool isChecked(int row) const;
 
+ signals:
+    void changed();
+
  private:
     void askFiles();
     void removeSelected();

@@ -23,10 +23,20 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
     trigger("newSetUp");
     type(find<QLineEdit>("newProgram"), "no-such-program-here");
     EXPECT_TRUE(find<QLabel>("newProgramFound")->text().startsWith(QChar(0x26a0)));
+    // What a shell would take for itself is no argument.
+    for (const auto& [command, remedy] : {std::pair("", "PATH"),
+                                          {"sh a > out.txt", "stdout.txt"},
+                                          {"sh a | bc", "sh -c 'sh a | bc'"},
+                                          {"sh 'a b", "isn't closed"}}) {
+        find<QLineEdit>("newProgram")->clear();
+        type(find<QLineEdit>("newProgram"), command);
+        EXPECT_FALSE(find<QPushButton>("newCreate")->isEnabled()) << command;
+        EXPECT_TRUE(find<QLabel>("newProgramFound")->text().contains(remedy))
+            << find<QLabel>("newProgramFound")->text().toStdString();
+    }
     find<QLineEdit>("newProgram")->clear();
-    EXPECT_FALSE(find<QPushButton>("newCreate")->isEnabled());
-    type(find<QLineEdit>("newProgram"), "sh -c 'cp case.inp case.dat'");
-    EXPECT_TRUE(find<QLabel>("newProgramFound")->text().contains("/sh"));
+    type(find<QLineEdit>("newProgram"), "sh -c 'cp case.inp case.dat' <case.inp");
+    EXPECT_TRUE(find<QLabel>("newProgramFound")->text().contains("case.inp: add it to the input files"));
     EXPECT_EQ(find<QLineEdit>("newName")->text(), "sh");
     const auto drop = [this](const QString& list, const QStringList& names) {
         const std::unique_ptr<QMimeData> data = filesOf(names);
@@ -38,6 +48,8 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
     drop("newInputsList", {"case.inp", "mesh.bin"});
     dialogs().answers.enqueue(folder.path("case.dat"));
     find<QToolButton>("newOutputsAdd")->click();
+    settle();
+    EXPECT_TRUE(find<QLabel>("newProgramFound")->text().contains("/sh, reads case.inp"));
     EXPECT_EQ(find<QListWidget>("newInputsList")->count(), 2);
     find<QPushButton>("newCreate")->click();
     settle();
@@ -45,6 +57,9 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(made->tabText(made->currentIndex()), "case.inp") << "the first template is open";
     EXPECT_EQ(made->getScene()->objectItems().size(), 4);
+    EXPECT_EQ(made->getDefinition()->getName(), "sh_definition");
+    EXPECT_NE(object<FManaged>("sh_configuration"), nullptr);
+    EXPECT_EQ(textOf("getAttribute(sh, \"setStandardInput\")"), "case.inp");
     EXPECT_EQ(textOf("getAttribute(sh, \"setArguments\")"), textOf("[\"-c\", \"cp case.inp case.dat\"]"));
     EXPECT_EQ(lastStep(), "New set-up");
     trigger("undo");

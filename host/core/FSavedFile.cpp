@@ -119,7 +119,8 @@ QString FSavedFile::take(QFile& temporary, const QString& path, bool isWritten) 
 }
 
 QString FSavedFile::writeBeside(const QString& original, const QString& path, const QByteArray& bytes) {
-    return replaceBeside(path, QFile::permissions(original), bytesOf(bytes));
+    const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner;
+    return replaceBeside(path, QFile::exists(original) ? QFile::permissions(original) : own, bytesOf(bytes));
 }
 
 QString FSavedFile::keep(QFile& original, const QString& path) {

@@ -32,7 +32,10 @@ class MERIX_EXPORT FSavedFile {
      * @param isWritten  whether everything was written to it
      */
     static QString take(QFile& temporary, const QString& path, bool isWritten);
-    /** Writes a file of the program's own. It replaces a link, and gets the permissions of the file `original`. */
+    /**
+     * Writes a file of the program's own. It replaces a link, and gets the permissions of the file `original`; without
+     * one, only the owner may read it.
+     */
     static QString writeBeside(const QString& original, const QString& path, const QByteArray& bytes);
     /** Copies the rest of an open file, in the same way, with its permissions. The owner may always write the copy. */
     static QString keep(QFile& original, const QString& path);

@@ -10,6 +10,7 @@
 #include "host/core/FSavedFile.h"
 #include "host/core/FUserStep.h"
 #include "host/script/FProjectText.h"
+#include "host/script/FUnnamedWork.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -68,9 +69,45 @@ bool FProject::create() {
     if (!isIdle("newProject")) {
         return false;
     }
+    clear();
+    if (mKeepsUnnamed) {
+        startUnnamed(FUnnamedWork::newName(), false);
+    }
+    return true;
+}
+
+void FProject::clear() {
     close(false);
     clearModel();
-    return true;
+}
+
+void FProject::keepUnnamed(bool isKept) {
+    mKeepsUnnamed = isKept;
+    if (isKept && FMerixCtrl::instance()->getProjectFile().isEmpty()) {
+        startUnnamed(FUnnamedWork::newName(), false);
+    }
+}
+
+void FProject::startUnnamed(const QString& name, bool recovered) {
+    if (!name.isEmpty() && !FMerixCtrl::instance()->isReadOnly() && mLock.acquire(name) == FProjectLock::State::Held) {
+        mAutosave.start(name, recovered, mIsDamaged);
+    }
+}
+
+bool FProject::recoverUnnamed(const QString& name) {
+    const QString source = FAutosave::pathOf(name);
+    FProjectText text;
+    if (!isIdle("newProject") || !text.load(source)) {
+        return false;
+    }
+    clear();
+    const int errors = text.restore();
+    if (errors > 0) {
+        keepDamaged(name, source);
+    }
+    mIsDamaged = text.hasNoteOfDamage();
+    startUnnamed(name, true);
+    return errors == 0;
 }
 
 bool FProject::open(const QString& path, bool recover) {
@@ -85,7 +122,7 @@ bool FProject::open(const QString& path, bool recover) {
         return false;
     }
     const Stamp stamp = stampOf(file);
-    create();
+    clear();
     FMerixCtrl::instance()->setProjectFile(file);
     const int errors = text.restore();
     if (errors > 0 && source != file) {
@@ -193,6 +230,9 @@ bool FProject::save(const QString& path) {
     mIsDamaged = false;
     mStamp = stampOf(file);
     if (isTaken || isOther) {
+        if (FMerixCtrl::instance()->getProjectFile().isEmpty()) {
+            mAutosave.saved();  // what was recovered is no longer needed
+        }
         mAutosave.stop(false);
         use(file, false);
     }

@@ -17,8 +17,15 @@ class MERIX_EXPORT FProject {
  public:
     static FProject* instance();
 
+    /** Whether unsaved work on projects without a file is kept, too, as FUnnamedWork tells. By default it isn't. */
+    void keepUnnamed(bool isKept);
     /** An empty project without a file. */
     bool create();
+    /**
+     * In place of the present project, takes the unsaved work on a project without a file that a crash has left. False
+     * if there were errors, each of which has been reported; the present project stays if nothing could be read.
+     */
+    bool recoverUnnamed(const QString& name);
     /**
      * Opens a project in place of the present one. False if there were errors, each of which has been reported: if the
      * file can't be read, is no project or is of a newer format, the present project stays; else what could be read is
@@ -55,6 +62,9 @@ class MERIX_EXPORT FProject {
 
     bool isOpenElsewhere(const QString& file) const;
     static bool isIdle(const char* command);
+    /** The model is empty then, and unsaved work on it isn't kept. */
+    void clear();
+    void startUnnamed(const QString& name, bool recovered);
     static void clearModel();
     static Stamp stampOf(const QString& file);
     static void keepDamaged(const QString& file, const QString& source);
@@ -69,4 +79,5 @@ class MERIX_EXPORT FProject {
     Stamp mStamp;
     bool mKeepsWork = true;
     bool mIsDamaged = false;  //!< the file holds what couldn't be read
+    bool mKeepsUnnamed = false;
 };

@@ -68,7 +68,7 @@ TEST_F(FProjectTest, aLoopIsAutosavedWhileItRuns) {
     QObject::disconnect(listening);
     ASSERT_EQ(saved.size(), 2);
     EXPECT_TRUE(saved.first().contains("setNumber(2)")) << "the step is still open";
-    EXPECT_EQ(FHistory::instance()->getLabels().last(), "for");
+    EXPECT_EQ(FHistory::instance()->getLabels().last(), "for (test:1)");
     EXPECT_TRUE(FHistory::instance()->undo());
     EXPECT_EQ(textOf("a.getNumber()"), "1");
 }

@@ -8,6 +8,14 @@ QString FCommandCall::labelOf(const FCmdRow& row) {
     return !look.menuEntry.isEmpty() ? look.menuEntry : !look.attrName.isEmpty() ? look.attrName : row.name;
 }
 
+QString FCommandCall::labelWith(const QString& what, const QString& value) {
+    constexpr int longest = 24;
+    const QString text = value.simplified();
+    return text.isEmpty() ? what
+                          : QStringLiteral("%1 to %2")
+                                .arg(what, text.size() > longest ? text.left(longest) + QChar(0x2026) : text);
+}
+
 FExprBase FCommandCall::execute(const FCmdRow& row, const FExprBase& receiver,
                                 const std::vector<FExprBase>& arguments) {
     auto* command = static_cast<FMemberCmd*>(row.commandClass->mpNull->clone());

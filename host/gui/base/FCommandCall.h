@@ -19,5 +19,7 @@ MERIX_EXPORT FExprBase execute(const FMemberCmd& command, const std::vector<FExp
                                const QString& label);
 /** What the user interface calls the command: its menu entry, else its label, else its name. */
 MERIX_EXPORT QString labelOf(const FCmdRow& row);
+/** The label of a step that sets a value, which tells it from others that set the same; a long value is cut. */
+MERIX_EXPORT QString labelWith(const QString& what, const QString& value);
 
 }  // namespace FCommandCall

@@ -55,7 +55,7 @@ QString FEntryChange::setValue(FEntry& entry, const QString& entered) {
         return fault;
     }
     const FMessageCatcher messages;
-    const FUserStep step(QStringLiteral("Set %1").arg(entry.getFullName()));
+    const FUserStep step(FCommandCall::labelWith(QStringLiteral("Set %1").arg(entry.getFullName()), entered));
     return entry.setValue(copyOfValue(value)) ? QString() : messages.text();
 }
 
@@ -67,7 +67,8 @@ QString FEntryChange::setField(FEntry& entry, const FValueField& field, const QS
         return fault;
     }
     const FMessageCatcher messages;
-    const FUserStep step(QStringLiteral("Set %1 of %2").arg(field.label, entry.getFullName()));
+    const FUserStep step(
+        FCommandCall::labelWith(QStringLiteral("Set %1 of %2").arg(field.label, entry.getFullName()), entered));
     return field.set(*value, part) ? QString() : messages.text();
 }
 

@@ -87,8 +87,13 @@ bool FObjectTreeModel::isShown(const FManaged* object) const {
     return object->isInModel() && !object->isDefault();
 }
 
+// Of results, only the present ones of a computation and of its designs are of use. Those of earlier runs live as long
+// as the history or a script refers to them.
 bool FObjectTreeModel::isShownAlone(const FManaged* object) const {
-    return isShown(object) && object->getSystemLevel() <= 1;
+    const auto* results = dynamic_cast<const FComputationResults*>(object);
+    const bool isOfUse =
+        !results || (results->getVariant() && results->getComputation() && !results->getResultPath().isEmpty());
+    return isOfUse && isShown(object) && object->getSystemLevel() <= 1;
 }
 
 void FObjectTreeModel::objectLeft(FManaged* object) {

@@ -36,9 +36,12 @@ QList<FExpr<FTableData>> readTables(const FExternComputation* computation) {
     return results && results->readSilently() ? results->tables() : QList<FExpr<FTableData>>();
 }
 
-QString summaryOf(const FExternComputation& computation, const QList<FExpr<FTableData>>& tables,
-                  const FRunRecord& record) {
-    const QString values = FValueSummary(tables, FNumberCheck::accepted(computation.getSuccessRules())).toText();
+FValueSummary summaryOf(const FExternComputation& computation, const QList<FExpr<FTableData>>& tables) {
+    return FValueSummary(tables, FNumberCheck::accepted(computation.getSuccessRules()));
+}
+
+QString textOf(const FValueSummary& summary, const FRunRecord& record) {
+    const QString values = summary.toText();
     return record.message.isEmpty() ? values : QStringLiteral("%1. %2").arg(values, record.message);
 }
 
@@ -206,7 +209,13 @@ void FRunModel::summarize(int row) {
     if (done.record->isSuccess() && isLast(row)) {
         done.tables = readTables(computation(row));
     }
-    done.said = done.tables.isEmpty() ? causeOf(*done.record) : summaryOf(*computation(row), done.tables, *done.record);
+    if (done.tables.isEmpty()) {
+        done.said = causeOf(*done.record);
+    } else {
+        const FValueSummary summary = summaryOf(*computation(row), done.tables);
+        done.lacksNumbers = summary.missing > 0;
+        done.said = ::textOf(summary, *done.record);
+    }
     limitNumbers();
 }
 
@@ -323,7 +332,8 @@ QVariant FRunModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const FRunRecord& run = record(index.row());
-    const FRunLook look = FRunLook::of(run.state);
+    const FRunLook look = attempt(index.row()).lacksNumbers ? FRunLook{"dialog-warning", FStateColor::State::Warning}
+                                                            : FRunLook::of(run.state);
     const bool isState = index.column() == stateColumn;
     switch (role) {
         case Qt::DisplayRole:

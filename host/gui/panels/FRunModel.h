@@ -73,6 +73,7 @@ class MERIX_EXPORT FRunModel : public QAbstractTableModel {
         bool isPlanned = false;
         bool isStopping = false;
         bool isSummarized = false;
+        bool lacksNumbers = false;  //!< some values are NaN
         QString said{};
         QList<FExpr<FTableData>> tables{};
     };

@@ -26,7 +26,7 @@ TEST_F(StepsTest, everyStatementIsAStepWhateverItCalls) {
         {"[comp.setStandardInput(\"y\"), comp.cancel()]", {""}},
         {"print(comp.setConfiguration(other).run())", {"print"}},
         {"[rename(a, \"b\"), include(\"" + path("more.merix") + "\"), destroy(a)]", {"", "parameter", ""}},
-        {"for (i in [1, 2]) { a.setValue(i + 5); comp.run() }", {"for", "for"}},
+        {"for (i in [1, 2]) { a.setValue(i + 5); comp.run() }", {"for (test:1)", "for (test:1)"}},
         {"x = [a.setValue(8), saveProject(\"" + path("p.mrx") + "\"), a.setValue(9)]", {"x", "x"}},
     };
     for (const auto& c : cases) {

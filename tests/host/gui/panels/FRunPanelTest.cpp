@@ -21,6 +21,7 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace {
 
@@ -69,6 +70,7 @@ TEST_F(FRunPanelTest, eachRunOfAScriptKeepsWhatItSaid) {
                          "solver.setArguments([\"-c\", \"echo speed = 3D-01 > out.txt\"])\nsolver.run()"));
     settle();
     ASSERT_EQ(model().rowCount(), 2);
+    EXPECT_EQ(rowsOf(*find<QTreeView>("objectTree")->model()).filter("resultsGenInt").size(), 1) << "the present ones";
     EXPECT_EQ(cell(0, FRunModel::saidColumn), "1 value, 1 suspicious: speed is followed by D-01 (out.txt:1)");
     EXPECT_EQ(cell(1, FRunModel::saidColumn), "1 value");
     EXPECT_EQ(model().tablesOf(1).value(0)->getElementAt(0, 0), 2);
@@ -84,10 +86,12 @@ TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
     EXPECT_EQ(cell(0, FRunModel::saidColumn), "1 value, 1 suspicious: speed is followed by D-01 (out.txt:1)");
     EXPECT_TRUE(cell(0, FRunModel::tookColumn).endsWith(" s"));
 
+    window().bringToFront("console");
     start("echo started; echo; echo 'ERROR: no such material' >&2; exit 3");
     waitForEnd();
     ASSERT_EQ(model().rowCount(), 2);
     EXPECT_EQ(cell(0, FRunModel::stateColumn), "failed, exit code 3");
+    EXPECT_TRUE(find("runList")->isVisible()) << "the panel comes to the front";
     EXPECT_EQ(cell(0, FRunModel::saidColumn), "ERROR: no such material (stderr.txt:1)");
     EXPECT_TRUE(details().contains("exit code 3")) << details().toStdString();
     EXPECT_TRUE(details().contains("Templates: out.txt")) << details().toStdString();

@@ -46,6 +46,8 @@ class MERIX_EXPORT FUserInterface {
     virtual QString askFolder(const QString& caption, const QString& startPath);
     /** Puts text that was typed into editors into the model, as a step of its own. */
     virtual void commitEdits() {}
+    /** Whether a run may start that the user asks for. If not, the user has been told why. */
+    virtual bool mayRun() { return true; }
     /** Shows texts to read, by name. Without windows, logs the name and length of each. */
     virtual void showTexts(const QString& title, const QMap<QString, QString>& texts);
     /** The widget in which the user edits an object; null without windows. The caller doesn't own it. */

@@ -5,6 +5,7 @@
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FQuotedText.h"
+#include "host/core/FUserInterface.h"
 #include "host/run/FChainRun.h"
 #include "host/run/FPathManager.h"
 #include "host/run/FResultFiles.h"
@@ -117,7 +118,10 @@ bool FExternComputation::runWithSuppliers(bool wait) {
 }
 
 void FExternComputation::guiRun() {
-    FRunSettings::areSuppliersFirst() ? runWithSuppliers(false) : run(false);
+    FUserInterface::instance()->commitEdits();
+    if (FUserInterface::instance()->mayRun()) {
+        FRunSettings::areSuppliersFirst() ? runWithSuppliers(false) : run(false);
+    }
 }
 
 bool FExternComputation::isUpToDate() const {

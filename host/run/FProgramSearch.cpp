@@ -17,13 +17,10 @@ bool look(FProgramSearch& search, const QString& file) {
 }
 
 /** For a program that was given with its arguments; else empty. */
-QString argumentHint(const QString& program, bool isForDialog) {
+QString argumentHint(const QString& program) {
     const QStringList words = program.simplified().split(QLatin1Char(' '));
     if (words.size() < 2) {
         return {};
-    }
-    if (isForDialog) {
-        return QStringLiteral("If %1 is the program, leave out the quotes around its arguments").arg(words.first());
     }
     const QStringList arguments = words.mid(1);
     return QStringLiteral("Arguments belong into setArguments: setExecutable(\"%1\"), setArguments([\"%2\"])")
@@ -53,7 +50,7 @@ FProgramSearch FProgramSearch::search(const QString& program, const QString& wor
     return result;
 }
 
-FProgramFault FProgramSearch::fault(bool isForDialog) const {
+FProgramFault FProgramSearch::fault(bool withFolders) const {
     if (isFound()) {
         return {};
     }
@@ -68,7 +65,7 @@ FProgramFault FProgramSearch::fault(bool isForDialog) const {
         return {QStringLiteral("The file '%1' is not executable").arg(notExecutable),
                 QStringLiteral("Make it executable (chmod +x), or choose another program")};
     }
-    const QString hint = argumentHint(program, isForDialog);
+    const QString hint = argumentHint(program);
     if (!place.isEmpty()) {
         return {QStringLiteral("The program '%1' was not found: there is no file '%2'").arg(program, place),
                 hint.isEmpty() ? QStringLiteral("Check the path") : hint};
@@ -77,6 +74,6 @@ FProgramFault FProgramSearch::fault(bool isForDialog) const {
         return {QStringLiteral("The program '%1' was not found").arg(program), hint};
     }
     return {QStringLiteral("The program '%1' was not found in the folders of PATH%2")
-                .arg(program, isForDialog ? QString() : QStringLiteral(": ") + folders.join(QStringLiteral(", "))),
+                .arg(program, withFolders ? QStringLiteral(": ") + folders.join(QStringLiteral(", ")) : QString()),
             QStringLiteral("Install it, or give its full path")};
 }

@@ -17,9 +17,9 @@ struct MERIX_EXPORT FProgramSearch {
     bool isFound() const { return !file.isEmpty(); }
     /**
      * Where the program was searched, what was found instead, what to do. Empty if it was found.
-     * @param isForDialog  for a field that takes the program with its arguments; else for the settings of a computation
+     * @param withFolders  false leaves out the list of the folders, which an earlier message gave
      */
-    FProgramFault fault(bool isForDialog = false) const;
+    FProgramFault fault(bool withFolders = true) const;
 
     QString program;        //!< the name that was searched
     QString place;          //!< absolute path of a name with a slash; empty for a bare name

@@ -20,6 +20,17 @@ namespace {
 constexpr qint64 mostSteps = 100'000'000;
 constexpr int mostIncludes = 50;
 
+std::function<void()>& pauseOfScripts() {
+    static std::function<void()> pause;
+    return pause;
+}
+
+void takePause() {
+    if (pauseOfScripts()) {
+        pauseOfScripts()();
+    }
+}
+
 const FSyntaxExpr* topCall(const FSyntaxExpr& expression) {
     if (expression.kind == FSyntaxExpr::Kind::Chain) {
         return &expression.operands.back();
@@ -41,6 +52,10 @@ FCmdInput* FCmdInput::current() {
     return dynamic_cast<FCmdInput*>(currentParser());
 }
 
+void FCmdInput::setPause(std::function<void()> pause) {
+    pauseOfScripts() = std::move(pause);
+}
+
 void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
     mText = stream.readAll();
     mLastValue = FExprBase();
@@ -50,6 +65,8 @@ void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
 bool FCmdInput::exec() {
     const Activation activation(this);
     const int strictBefore = FLogMsg::getStrictErrors();
+    mExiting = false;
+    mExitCode = 0;
     bool done = false;
     try {
         done = run(mText, mFile);
@@ -128,6 +145,7 @@ bool FCmdInput::runBody(const FSyntaxBody& body) {
         } else {
             FLogMsg::endLine();
         }
+        takePause();
         if (mExiting) {
             return true;
         }
@@ -149,7 +167,9 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!word) {
         return std::visit([this](const auto& content) { return run(content); }, statement.content);
     }
-    FScriptStep step(QString::fromLatin1(word));
+    FScriptStep step(QStringLiteral("%1 (%2:%3)")
+                         .arg(QString::fromLatin1(word), QFileInfo(mFile).fileName())
+                         .arg(statement.place.line));
     return step.end(std::visit([this](const auto& content) { return run(content); }, statement.content));
 }
 
@@ -268,6 +288,7 @@ bool FCmdInput::run(const FSyntaxWhile& loop) {
         if (!holds || !countStep(loop.condition.place)) {
             return false;
         }
+        takePause();
         if (!*holds || mExiting) {
             return true;
         }

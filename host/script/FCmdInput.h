@@ -7,6 +7,8 @@
 
 #include <QTextStream>
 
+#include <functional>
+
 /**
  * Executes script text.
  *
@@ -29,7 +31,7 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
 
     /** Executes a script file in between, with the same variables. Called by a running script. */
     bool include(const QString& path);
-    /** Ends the running script after the present command. */
+    /** Ends the running script after the present command; the next one starts anew. */
     void requestExit(int code);
     int getExitCode() const { return mExitCode; }
     /** Whether the script has ended itself. */
@@ -43,6 +45,8 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
 
     /** The one being executed; null if there is none. */
     static FCmdInput* current();
+    /** Sets what is called after each statement of a script, so that a window can take input; null for nothing. */
+    static void setPause(std::function<void()> pause);
 
  private:
     bool run(const QString& text, const QString& file);

@@ -98,7 +98,13 @@ void FNewSetUpDialog::lookUp() {
         return;
     }
     const auto search = FProgramSearch::search(now.program, QDir::currentPath(), qEnvironmentVariable("PATH"));
-    const QString problem = !fault.isEmpty() ? fault : search.isFound() ? missingInput(now) : search.fault(true).toSentences();
+    // The advice of the search for a name with blanks is one for scripts.
+    const QString notFound =
+        now.program.contains(QLatin1Char(' '))
+            ? QStringLiteral("The program '%1' was not found. If its arguments are in that name, leave out the quotes.")
+                  .arg(now.program)
+            : search.fault(false).toSentences();
+    const QString problem = !fault.isEmpty() ? fault : search.isFound() ? missingInput(now) : notFound;
     const QString reads = now.standardInput.isEmpty() ? QString() : QStringLiteral(", reads %1").arg(now.standardInput);
     mpFound->setState(problem.isEmpty() ? FStateColor::State::Good : FStateColor::State::Warning);
     mpFound->setText(problem.isEmpty() ? QStringLiteral("✓ %1%2").arg(search.file, reads)

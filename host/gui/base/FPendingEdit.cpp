@@ -21,6 +21,13 @@ FPendingEdit::~FPendingEdit() {
     all.erase(std::remove(all.begin(), all.end(), this), all.end());
 }
 
+FPendingEdit* FPendingEdit::findRefusing() {
+    const auto& all = editors();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [](const auto* editor) { return !editor->refusal().fault.isEmpty(); });
+    return found == all.end() ? nullptr : *found;
+}
+
 void FPendingEdit::commitAll() {
     // A commit may end editors, and start others.
     const std::vector<FPendingEdit*> present = editors();

@@ -10,6 +10,7 @@
 #include "host/gui/fields/FLinesField.h"
 #include "host/gui/fields/FObjectField.h"
 #include "host/gui/fields/FScriptField.h"
+#include "host/gui/fields/FScriptText.h"
 #include "host/gui/fields/FTextField.h"
 #include "host/script/FAttributeQuery.h"
 
@@ -182,6 +183,20 @@ void FAttributeEditor::commitEdit() {
     if (mFault.isEmpty()) {
         commit();
     }
+}
+
+FPendingEdit::Refusal FAttributeEditor::refusal() const {
+    if (mFault.isEmpty()) {
+        return {};
+    }
+    FExprBase value;
+    command().getAttrValue(value);
+    return {label(), mFault, FScriptText::of(value)};
+}
+
+QWidget* FAttributeEditor::focusRefused() {
+    mpControl->setFocus();
+    return mpControl;
 }
 
 void FAttributeEditor::commit() {

@@ -35,6 +35,8 @@ class MERIX_EXPORT FAttributeEditor : public QWidget, public FPendingEdit {
     void refresh();
     /** Puts what was entered into the model; nothing happens if it was refused before. */
     void commitEdit() override;
+    Refusal refusal() const override;
+    QWidget* focusRefused() override;
     /** Drops what was entered. */
     void restore();
     /** While held, the field doesn't follow the model. */

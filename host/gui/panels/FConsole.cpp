@@ -54,7 +54,10 @@ FConsole::FConsole(Runner runner)
     column->addWidget(mpLine);
     connect(mpLine, &QLineEdit::returnPressed, this, &FConsole::enter);
     connect(FChanges::instance(), &FChanges::messageLogged, this, &FConsole::addMessage);
-    FStandardOutput::setCopy([this](const QString& text) { append(text, QTextCharFormat()); });
+    FStandardOutput::setCopy([this](const QString& text) {
+        append(text, QTextCharFormat());
+        emit printed();
+    });
 }
 
 FConsole::~FConsole() {

@@ -40,6 +40,8 @@ class MERIX_EXPORT FConsole : public QWidget {
  signals:
     /** The user asks for the reference of the word at the cursor. */
     void helpRequested(const QString& word);
+    /** A script has printed something. */
+    void printed();
 
  private:
     void enter();

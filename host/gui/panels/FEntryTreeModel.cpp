@@ -277,6 +277,27 @@ bool FEntryTreeModel::setData(const QModelIndex& index, const QVariant& value, i
     return fault.isEmpty();
 }
 
+QModelIndex FEntryTreeModel::refused() const {
+    return refusedBelow(*mpTop);
+}
+
+QModelIndex FEntryTreeModel::refusedBelow(const Node& node) const {
+    if (!node.fault.isEmpty()) {
+        return indexOf(node, node.refusedColumn);
+    }
+    for (const auto& child : node.children) {
+        const QModelIndex found = refusedBelow(*child);
+        if (found.isValid()) {
+            return found;
+        }
+    }
+    return {};
+}
+
+QString FEntryTreeModel::textInModel(const QModelIndex& index) const {
+    return textOf(*nodeAt(index), index.column());
+}
+
 void FEntryTreeModel::forgetRefused(const QModelIndex& index) {
     if (index.isValid()) {
         Node& node = *nodeAt(index);

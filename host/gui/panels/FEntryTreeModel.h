@@ -40,6 +40,10 @@ class MERIX_EXPORT FEntryTreeModel : public QAbstractItemModel {
     void hold(bool isHeld);
     /** Shows the model as it is now; otherwise done from the event loop. */
     void follow();
+    /** The first cell that shows a text which was refused; invalid if there is none. */
+    QModelIndex refused() const;
+    /** What the cell would show without the text that was refused. */
+    QString textInModel(const QModelIndex& index) const;
     /** Drops the text that was refused in the row. */
     void forgetRefused(const QModelIndex& index);
     /** The row of the entry of that path, as a configuration or definition spells it; invalid if there is none. */
@@ -108,6 +112,7 @@ class MERIX_EXPORT FEntryTreeModel : public QAbstractItemModel {
     void addEntries(Node& parent, const FEntryHolder& holder);
     bool isBuiltAsModel(const Node& node) const;
     void tellChanged(const Node& node);
+    QModelIndex refusedBelow(const Node& node) const;
     void findUses();
     QModelIndex indexOf(const Node& node, int column = 0) const;
     QString toolTipOf(const QModelIndex& index) const;

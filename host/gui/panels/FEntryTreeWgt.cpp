@@ -108,6 +108,7 @@ void FEntryTreeWgt::makeView(const Names& names) {
                 Q_UNUSED(editor)
                 if (hint == QAbstractItemDelegate::RevertModelCache) {
                     mpModel->forgetRefused(current());
+                    refresh();
                 }
             });
 }
@@ -157,6 +158,20 @@ QModelIndex FEntryTreeWgt::current() const {
 
 void FEntryTreeWgt::commitEdit() {
     mpDelegate->commitOpen();
+}
+
+FPendingEdit::Refusal FEntryTreeWgt::refusal() const {
+    const QModelIndex index = mpModel->refused();
+    return index.isValid() ? Refusal{index.data(FEntryTreeModel::pathRole).toString(),
+                                     index.data(FEntryTreeModel::faultRole).toString(), mpModel->textInModel(index)}
+                           : Refusal();
+}
+
+QWidget* FEntryTreeWgt::focusRefused() {
+    mpView->setFocus();
+    mpView->setCurrentIndex(mpModel->refused());
+    mpView->edit(mpView->currentIndex());
+    return mpView;
 }
 
 // ---- actions ----
@@ -275,7 +290,8 @@ void FEntryTreeWgt::refresh() {
                (uses.isEmpty() ? QStringLiteral("No template names it.")
                                : QStringLiteral("Used in %1").arg(linksTo(uses)));
     }
-    mpDetails->setText(text);
+    // Blanks are part of a value for a fixed column.
+    mpDetails->setText(QStringLiteral("<span style=\"white-space:pre-wrap\">%1</span>").arg(text));
 }
 
 void FEntryTreeWgt::keepExpanded() {

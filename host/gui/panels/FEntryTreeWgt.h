@@ -30,6 +30,8 @@ class MERIX_EXPORT FEntryTreeWgt : public QWidget, public FPendingEdit {
     /** Makes the entry of a path the present one; false if there is none. */
     bool showEntry(const QString& path);
     void commitEdit() override;
+    Refusal refusal() const override;
+    QWidget* focusRefused() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

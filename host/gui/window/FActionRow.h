@@ -15,6 +15,7 @@ struct FActionRow {
     const char* shortcut = "";  //!< as QKeySequence::PortableText; empty for none
     const char* tip;
     bool isInToolbar = false;
+    bool isForScripts = false;  //!< also possible while a script is being executed
     /** Why the action isn't possible; null if it is. A null function stands for an action that always is. */
     const char* (*whyNot)(const FSituation& situation) = nullptr;
     void (*run)(FMainWindow& window) = nullptr;

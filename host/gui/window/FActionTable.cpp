@@ -61,12 +61,6 @@ void run(FMainWindow& window) {
     }
 }
 
-void stop(FMainWindow& window) {
-    if (FExternComputation* computation = window.runTarget().getRunning()) {
-        computation->cancel();
-    }
-}
-
 void reread(FMainWindow& window) {
     FUserStep::commitEdits();
     FExternComputation* computation = window.runTarget().get();
@@ -157,7 +151,7 @@ std::vector<FActionRow> fileRows() {
          .group = 1,
          .text = "&Execute a script…",
          .icon = "system-run",
-         .shortcut = "Ctrl+E",
+         .shortcut = "Ctrl+R",
          .tip = "Execute a script file; each of its statements is a step",
          .run = [](FMainWindow& window) { window.projectFiles().executeScript(); }},
         {.id = "importSetUps",
@@ -173,6 +167,7 @@ std::vector<FActionRow> fileRows() {
          .icon = "application-exit",
          .shortcut = "Ctrl+Q",
          .tip = "Close the program",
+         .isForScripts = true,
          .run = [](FMainWindow& window) { window.close(); }},
     };
 }
@@ -269,10 +264,11 @@ std::vector<FActionRow> runRows() {
          .text = "&Stop",
          .icon = "media-playback-stop",
          .shortcut = "Shift+F5",
-         .tip = "End the program that is running",
+         .tip = "End the program that is running, and the script in progress",
          .isInToolbar = true,
+         .isForScripts = true,
          .whyNot = &FNeeds::run,
-         .run = &stop},
+         .run = [](FMainWindow& window) { window.stop(); }},
         {.id = "reread",
          .text = "Re-read r&esults",
          .icon = "view-refresh",

@@ -88,7 +88,7 @@ void FActions::fillToolbar(QToolBar& bar) {
     }
 }
 
-void FActions::update(const FSituation& situation, bool isLocked) {
+void FActions::update(const FSituation& situation) {
     for (const FActionRow& row : FActionTable::rows()) {
         QAction* action = get(QString::fromLatin1(row.id));
         if (row.isOn) {
@@ -102,10 +102,9 @@ void FActions::update(const FSituation& situation, bool isLocked) {
             action->setIconText(plain.remove(QLatin1Char('&')));
             tip = action->iconText();
         }
-        const char* const reason = isLocked && action->objectName() != QLatin1String("stop")
-                                       ? "A script is being executed"
-                                   : row.whyNot ? row.whyNot(situation)
-                                                : nullptr;
+        const char* const reason = situation.isLocked && !row.isForScripts ? "A script is being executed"
+                                   : row.whyNot                            ? row.whyNot(situation)
+                                                                           : nullptr;
         action->setEnabled(!reason);
         const QString whole = toolTipOf(tip, *action);
         action->setToolTip(reason ? whole + QLatin1Char('\n') + QString::fromUtf8(reason) : whole);

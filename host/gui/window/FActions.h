@@ -21,11 +21,8 @@ class MERIX_EXPORT FActions : public QObject {
     QList<QAction*> all() const { return mOrder; }
     void fillMenus(QMenuBar& bar);
     void fillToolbar(QToolBar& bar);
-    /**
-     * Enables what is possible, and sets texts that depend on the situation.
-     * @param isLocked  nothing is possible but to stop a run
-     */
-    void update(const FSituation& situation, bool isLocked);
+    /** Enables what is possible, and sets texts that depend on the situation. */
+    void update(const FSituation& situation);
 
  private:
     QAction* make(const FActionRow& row);

@@ -22,12 +22,13 @@ void tellWhere(const QString& name, FMainWindow& window) {
     const QString what = QStringLiteral("%1 is neither a project nor an export of set-ups. ").arg(name);
     if (!FConnectorInterface::getConnectors().isEmpty()) {
         window.notices().showNotice(
-            what + QStringLiteral("Drop it on an area of a software connector: on \"Input Files\" what the program "
-                                  "reads, on \"Result Values\" an output with its numbers."));
+            {what + QStringLiteral("Drop it on an area of a software connector: on \"Input Files\" what the program "
+                                   "reads, on \"Result Values\" an output with its numbers.")});
     } else if (FSetUpAssistant::isThere()) {
         window.notices().showNotice(
-            what + QStringLiteral("Couple the program that it belongs to first: a set-up takes such files."),
-            QStringLiteral("New set-up…"), [&window] { FSetUpAssistant::open(&window); });
+            {what + QStringLiteral("Couple the program that it belongs to first: a set-up takes such files."),
+             [] { return FConnectorInterface::getConnectors().isEmpty(); }, QStringLiteral("New set-up…"),
+             [&window] { FSetUpAssistant::open(&window); }});
     }
 }
 

@@ -50,13 +50,13 @@ void FFileImport::read(const QString& path) {
     QFile file(path);
     if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
         mWindow.notices().showNotice(
-            QStringLiteral("%1 can't be imported: %2. Choose a file that you can read.").arg(path, fault));
+            {QStringLiteral("%1 can't be imported: %2. Choose a file that you can read.").arg(path, fault)});
         return;
     }
     const std::unique_ptr<FImport> import = FImport::forFile(path);
     if (!import) {
-        mWindow.notices().showNotice(QStringLiteral("%1 can't be imported: only files of these kinds can: %2.")
-                                         .arg(name, FImport::getFilters().join(QStringLiteral(", "))));
+        mWindow.notices().showNotice({QStringLiteral("%1 can't be imported: only files of these kinds can: %2.")
+                                          .arg(name, FImport::getFilters().join(QStringLiteral(", ")))});
         return;
     }
     const FMessageCatcher messages;
@@ -79,10 +79,11 @@ void FFileImport::tell(const QString& file) const {
     if (mFirstWarning.isEmpty() && !mNew.isEmpty()) {
         mWindow.showStatus(summary(file));
     } else if (mFirstWarning.isEmpty()) {
-        mWindow.notices().showNotice(summary(file));
+        mWindow.notices().showNotice({summary(file)});
     } else {
-        mWindow.notices().showNotice(summary(file), QStringLiteral("Show the messages"),
-                                     [window = &mWindow] { window->panels().raise(QStringLiteral("log")); });
+        mWindow.notices().showNotice({summary(file), {}, QStringLiteral("Show the messages"), [window = &mWindow] {
+                                          window->panels().raise(QStringLiteral("log"));
+                                      }});
     }
 }
 

@@ -83,6 +83,9 @@ int FGuiSession::run() const {
             window.resize(size);
         }
         window.show();
+        if (screenshot.isEmpty()) {
+            FProject::instance()->keepUnnamed(true);
+        }
         if (!project.isEmpty()) {
             window.projectFiles().open(project);
         }

@@ -33,12 +33,15 @@
 #include "host/gui/window/FStartPage.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FResultsGeneric.h"
+#include "host/script/FCmdInput.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDockWidget>
 #include <QDragEnterEvent>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
@@ -160,6 +163,8 @@ void FMainWindow::listen() {
     connect(changes, &FChanges::objectEntered, this, refreshSoon);
     connect(changes, &FChanges::objectLeft, this, refreshSoon);
     connect(changes, &FChanges::objectChanged, this, refreshSoon);
+    connect(changes, &FChanges::objectChanged, this, &FMainWindow::noteEndOfRun);
+    connect(changes, &FChanges::objectLeft, this, [this](FManaged* object) { mInProgress.remove(object); });
     connect(changes, &FChanges::projectOpened, this, refreshSoon);
     connect(changes, &FChanges::projectSaved, this, refreshSoon);
     connect(changes, &FChanges::projectClosed, this, refreshSoon);
@@ -194,6 +199,7 @@ FObjectPage* FMainWindow::pageOfFocusedPart() const {
 FSituation FMainWindow::situation() const {
     FSituation now = FSituation::now(mRunTarget, mUnsaved);
     now.isPartFocused = pageOfFocusedPart() != nullptr;
+    now.isLocked = mIsLocked;
     return now;
 }
 
@@ -205,9 +211,25 @@ void FMainWindow::deleteSelected() {
     }
 }
 
+// The reason is in the panel. Those of a script are for the script.
+void FMainWindow::noteEndOfRun(const FManaged* object) {
+    const auto* computation = dynamic_cast<const FExternComputation*>(object);
+    if (!computation) {
+        return;
+    }
+    if (!computation->canRun()) {
+        mInProgress.insert(object);
+    } else if (mInProgress.remove(object) && !mIsLocked) {
+        const FRunRecord& run = computation->getLastRun();
+        if (run.state == FRunRecord::State::Failed || run.state == FRunRecord::State::TimedOut) {
+            mpPanels->show(QStringLiteral("runs"));
+        }
+    }
+}
+
 void FMainWindow::refresh() {
     const FSituation now = situation();
-    mpActions->update(now, mIsLocked);
+    mpActions->update(now);
     setWindowTitle(now.hasProject ? QStringLiteral("%1[*] — merix").arg(projectName()) : QStringLiteral("merix"));
     setWindowModified(now.isUnsaved);
     const FExternComputation* computation = now.computation;
@@ -234,6 +256,27 @@ void FMainWindow::showProject(bool isThere) {
         }
     }
     mShowsProject = isThere;
+}
+
+void FMainWindow::refreshStartPage() {
+    mpStartPage->refresh();
+}
+
+void FMainWindow::reveal(QWidget* widget) {
+    for (QWidget* part = widget; part && part != this; part = part->parentWidget()) {
+        QWidget* holder = part->parentWidget();
+        auto* tabs = holder ? qobject_cast<QTabWidget*>(holder->parentWidget()) : nullptr;
+        if (tabs && tabs->indexOf(part) >= 0) {
+            tabs->setCurrentWidget(part);
+        } else if (auto* dock = qobject_cast<QDockWidget*>(part)) {
+            dock->show();
+            dock->raise();
+        }
+    }
+    // An editor inside it may have the focus.
+    if (!widget->isAncestorOf(focusWidget())) {
+        widget->setFocus();
+    }
 }
 
 void FMainWindow::focusFind() {
@@ -323,7 +366,7 @@ void FMainWindow::showDocument(const QString& page) {
         mpManual->raise();
         mpManual->activateWindow();
     } else {
-        mpNotices->showNotice(QStringLiteral("The page %1 of the manual isn't installed").arg(page));
+        mpNotices->showNotice({QStringLiteral("The page %1 of the manual isn't installed").arg(page)});
     }
 }
 
@@ -333,21 +376,58 @@ void FMainWindow::showAbout() {
                      .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion())));
 }
 
-void FMainWindow::executeLocked(const std::function<void()>& function) {
+void FMainWindow::lock(bool isLocked) {
+    mIsLocked = isLocked;
+    centralWidget()->setEnabled(!isLocked);
+    menuBar()->setEnabled(!isLocked);
+    mpFind->setEnabled(!isLocked);
+    mpPanels->setEnabled(!isLocked);
+    for (QDialog* dialog : findChildren<QDialog*>()) {
+        dialog->setEnabled(!isLocked);
+    }
+    refresh();
+}
+
+bool FMainWindow::executeLocked(const std::function<void()>& function) {
     const QPointer<QWidget> focus = QApplication::focusWidget();
-    const auto lock = [this](bool isLocked) {
-        mIsLocked = isLocked;
-        centralWidget()->setEnabled(!isLocked);
-        menuBar()->setEnabled(!isLocked);
-        mpFind->setEnabled(!isLocked);
-        mpPanels->setEnabled(!isLocked);
-        refresh();
-    };
+    mIsStopped = false;
+    mSinceInput.start();
+    FCmdInput::setPause([this] { takeInput(); });
     lock(true);
     function();
     lock(false);
+    FCmdInput::setPause({});
     if (focus) {
         focus->setFocus();
+    }
+    if (mIsStopped) {
+        showStatus(QStringLiteral("The script was stopped"));
+    }
+    if (mClosesAfterScript) {
+        mClosesAfterScript = false;
+        QTimer::singleShot(0, this, &QWidget::close);
+    }
+    return !mIsStopped;
+}
+
+// Else a script that doesn't wait for runs couldn't be stopped. As during a run, the rest of the window is locked.
+void FMainWindow::takeInput() {
+    constexpr qint64 interval = 100;  // milliseconds
+    if (mSinceInput.elapsed() >= interval) {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, &QEventLoop::quit);
+        loop.exec();
+        mSinceInput.start();
+    }
+}
+
+void FMainWindow::stop() {
+    if (FExternComputation* computation = mRunTarget.getRunning()) {
+        computation->cancel();
+    }
+    if (FCmdInput* script = FCmdInput::current(); script && mIsLocked) {
+        mIsStopped = true;
+        script->requestExit(0);
     }
 }
 
@@ -355,9 +435,21 @@ void FMainWindow::showStatus(const QString& text) {
     statusBar()->showMessage(text, statusTime);
 }
 
+// The script is still in the middle of a statement.
+bool FMainWindow::mayStopScript() {
+    const int answer =
+        FIO::question(this, FMerixCtrl::getApplicationTitle(), QStringLiteral("A script is being executed."),
+                      QStringLiteral("Keep running"), QStringLiteral("Stop the script and quit"), QString());
+    const bool isStopped = answer == 1;
+    if (isStopped) {
+        stop();
+    }
+    return isStopped;
+}
+
 bool FMainWindow::mayClose() {
     if (mIsLocked) {
-        mpNotices->showNotice(QStringLiteral("A script is being executed. Stop its run, or wait for its end."));
+        mClosesAfterScript = mayStopScript();
         return false;
     }
     if (FRunTarget::isAnyRunning()) {

@@ -7,7 +7,9 @@
 #include "host/gui/window/FSituation.h"
 #include "host/gui/window/FUnsavedWork.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -52,13 +54,24 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void focusFind();
     /** Shows results as a document; null for empty ones. */
     FTablePanel* openResults(const FExpr<FResultsGeneric>& results);
-    /** Executes a function during which scripts may wait for runs: the window then takes no input but Stop. */
-    void executeLocked(const std::function<void()>& function);
+    /**
+     * Executes a function that executes a script. Between its statements, and while it waits for runs, the window
+     * takes no input but Stop. False if the script was stopped.
+     */
+    bool executeLocked(const std::function<void()>& function);
+    /** Ends the run in progress, and the script that is being executed. */
+    void stop();
+    /** Brings a widget to the front of the panels, pages and tabs that it is in, and gives it the focus. */
+    void reveal(QWidget* widget);
     /** Shows a text in Markdown in the help panel. */
     void showHelpText(const QString& markdown);
     /** Shows a page of the documentation that comes with the program, by its path there. */
     void showDocument(const QString& page);
     void showAbout();
+    /** Shows the first connector of the project, if there is one. */
+    void showFirstConnector();
+    void refreshStartPage();
+
     /** Shows the page of an object, if it has one. */
     void showPage(FManaged* object);
 
@@ -82,13 +95,16 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void makeStatusBar();
     void showProblemCount(int count);
     void listen();
-    void showFirstConnector();
     /** The page in front, if a part of it has the focus that can be deleted. */
     FObjectPage* pageOfFocusedPart() const;
     /** Brings actions, title and status line up to date, from the event loop. */
     void refresh();
     void showProject(bool isThere);
     bool mayClose();
+    bool mayStopScript();
+    void lock(bool isLocked);
+    void takeInput();
+    void noteEndOfRun(const FManaged* object);
 
     FRunTarget mRunTarget;
     FUnsavedWork mUnsaved;
@@ -106,5 +122,9 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     QLabel* mpRunState = nullptr;
     std::unique_ptr<FPanelDocks> mpPanels;
     bool mShowsProject = false;
-    bool mIsLocked = false;
+    bool mIsLocked = false;   //!< a script is being executed
+    bool mIsStopped = false;  //!< it is to end
+    bool mClosesAfterScript = false;
+    QElapsedTimer mSinceInput;          //!< since it last let the window take input
+    QSet<const FManaged*> mInProgress;  //!< computations whose run was in progress when they changed last
 };

@@ -25,7 +25,7 @@ const char* FNeeds::results(const FSituation& now) {
 }
 
 const char* FNeeds::run(const FSituation& now) {
-    return now.isAnyRunning ? nullptr : "Nothing is running";
+    return now.isAnyRunning || now.isLocked ? nullptr : "Nothing is running";
 }
 
 const char* FNeeds::doneStep(const FSituation& now) {

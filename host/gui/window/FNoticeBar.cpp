@@ -14,6 +14,7 @@ FNoticeBar::FNoticeBar(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->addWidget(mpSign);
     mpText->setObjectName(QStringLiteral("noticeText"));
+    mpText->setTextFormat(Qt::RichText);
     mpText->setWordWrap(true);
     mpText->setTextInteractionFlags(Qt::TextBrowserInteraction);
     row->addWidget(mpText, 1);
@@ -24,24 +25,39 @@ FNoticeBar::FNoticeBar(QWidget* parent)
     connect(mpClose, &QToolButton::clicked, this, &QWidget::hide);
     connect(mpText, &QLabel::linkActivated, this, [this] {
         hide();
-        if (mMend) {
-            mMend();
+        if (mNotice.mend) {
+            mNotice.mend();
+        }
+    });
+    // What a notice depends on can be anything, and not all of it tells of its changes.
+    constexpr int interval = 250;  // milliseconds
+    mCheck.setInterval(interval);
+    connect(&mCheck, &QTimer::timeout, this, [this] {
+        if (isHidden() || !mNotice.holds()) {
+            mCheck.stop();
+            hide();
         }
     });
     hide();
 }
 
-void FNoticeBar::showNotice(const QString& text, const QString& remedy, std::function<void()> mend) {
-    mMend = std::move(mend);
+void FNoticeBar::showNotice(const Notice& notice) {
+    mNotice = notice;
+    notice.holds ? mCheck.start() : mCheck.stop();
     // Not before: at the start of the program, there is nothing to show.
     const int size = fontMetrics().height();
     mpSign->setPixmap(FSeverityLook::warningIcon().pixmap(size, size));
     mpClose->setIcon(FIcons::get(QStringLiteral("window-close")));
-    const QString link = remedy.isEmpty() ? QString() : QStringLiteral(" <a href=\"#\">%1</a>").arg(remedy);
-    mpText->setText(text.toHtmlEscaped() + link);
+    const QString link =
+        notice.remedy.isEmpty() ? QString() : QStringLiteral(" <a href=\"#\">%1</a>").arg(notice.remedy);
+    // Blanks are part of a value for a fixed column.
+    mpText->setText(QStringLiteral("<span style=\"white-space:pre-wrap\">%1</span>").arg(notice.text.toHtmlEscaped()) +
+                    link);
     show();
 }
 
 QString FNoticeBar::text() const {
-    return isHidden() ? QString() : mpText->text();
+    return isHidden()                 ? QString()
+           : mNotice.remedy.isEmpty() ? mNotice.text
+                                      : mNotice.text + QLatin1Char(' ') + mNotice.remedy;
 }

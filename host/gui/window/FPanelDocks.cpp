@@ -61,13 +61,17 @@ QDockWidget* FPanelDocks::dockOf(const QString& id) const {
     return found == mDocks.end() ? nullptr : *found;
 }
 
+void FPanelDocks::show(const QString& id) const {
+    QDockWidget* dock = dockOf(id);
+    dock->show();
+    dock->raise();
+}
+
 void FPanelDocks::raise(const QString& id) {
     for (const FPanelRow& row : FPanelTable::rows()) {
         if (id == QLatin1String(row.id)) {
-            QDockWidget* dock = dockOf(id);
-            dock->show();
-            dock->raise();
-            if (auto* widget = dock->findChild<QWidget*>(QString::fromLatin1(row.focus))) {
+            show(id);
+            if (auto* widget = dockOf(id)->findChild<QWidget*>(QString::fromLatin1(row.focus))) {
                 widget->setFocus();
             }
         }

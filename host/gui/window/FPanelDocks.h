@@ -31,7 +31,9 @@ class MERIX_EXPORT FPanelDocks : public QObject {
     }
     /** The dock of the panel with that id; null if there is none. */
     QDockWidget* dockOf(const QString& id) const;
-    /** Shows the panel in front of others, and gives it the focus. */
+    /** Shows the panel in front of others, and leaves the focus where it is. */
+    void show(const QString& id) const;
+    /** The same, and gives it the focus. */
     void raise(const QString& id);
     /** Puts all panels where they are in a new installation, and shows them. */
     void reset();

@@ -6,6 +6,7 @@
 #include "host/core/FUserInterface.h"
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FMessageCatcher.h"
+#include "host/gui/panels/FConsole.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
@@ -16,6 +17,7 @@
 #include "host/script/FAutosave.h"
 #include "host/script/FCmdInput.h"
 #include "host/script/FProject.h"
+#include "host/script/FUnnamedWork.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -34,6 +36,12 @@ QString documentsFolder() {
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
+/** Whether the project is still the present one. */
+std::function<bool()> whilePresent() {
+    return
+        [file = FMerixCtrl::instance()->getProjectFile()] { return FMerixCtrl::instance()->getProjectFile() == file; };
+}
+
 QString startFolder() {
     const QString file = FMerixCtrl::instance()->getProjectFile();
     return file.isEmpty() ? documentsFolder() : QFileInfo(file).path();
@@ -47,8 +55,8 @@ FProjectFiles::FProjectFiles(FMainWindow& window) : QObject(&window), mWindow(wi
 bool FProjectFiles::isIdle() {
     if (FRunTarget::isAnyRunning()) {
         mWindow.notices().showNotice(
-            QStringLiteral("A run is in progress. Stop it, or wait for its end, before you "
-                           "leave the project."));
+            {QStringLiteral("A run is in progress. Stop it, or wait for its end, before you leave the project."),
+             &FRunTarget::isAnyRunning});
         return false;
     }
     return true;
@@ -103,27 +111,57 @@ void FProjectFiles::open(const QString& path) {
     const bool isOpen = !present.isEmpty() && present == QFileInfo(path).canonicalFilePath();
     const QString name = QFileInfo(path).fileName();
     if (!isOpen) {
-        showFailure(QStringLiteral("%1 couldn't be opened: %2.").arg(name, messages.text()));
+        showFailure(QStringLiteral("%1 couldn't be opened: %2.").arg(name, messages.text()), whilePresent());
         return;
     }
     if (recovers) {
         mWindow.unsavedWork().assume();
     }
     if (!isWhole) {
-        showFailure(QStringLiteral("Parts of %1 couldn't be read.").arg(name));
+        showFailure(QStringLiteral("Parts of %1 couldn't be read.").arg(name), whilePresent());
     } else if (!FProject::instance()->getHolder().isEmpty()) {
         mWindow.notices().showNotice(
-            QStringLiteral("%1 is open elsewhere (%2): you can look at it, but neither save nor run it here.")
-                .arg(name, FProject::instance()->getHolder()),
-            QStringLiteral("Save under another name…"), [this] { saveAs(); });
+            {QStringLiteral("%1 is open elsewhere (%2): you can look at it, but neither save nor run it here.")
+                 .arg(name, FProject::instance()->getHolder()),
+             [] { return !FProject::instance()->getHolder().isEmpty(); }, QStringLiteral("Save under another name…"),
+             [this] { saveAs(); }});
     } else {
         mWindow.showStatus(QStringLiteral("Opened %1").arg(name));
     }
 }
 
-void FProjectFiles::showFailure(const QString& text) {
-    mWindow.notices().showNotice(text, QStringLiteral("Show the messages"),
-                                 [this] { mWindow.panels().raise(QStringLiteral("log")); });
+void FProjectFiles::openUnnamed(const QString& name) {
+    if (!isIdle() || !maySpoil()) {
+        return;
+    }
+    const QString age = ageOf(QFileInfo(FAutosave::pathOf(name)).lastModified());
+    constexpr int cancel = 2;
+    const int answer = FIO::question(
+        nullptr, FMerixCtrl::getApplicationTitle(),
+        QStringLiteral("There is work from %1 on a project that was never saved.").arg(age),
+        QStringLiteral("Recover it"), QStringLiteral("Throw it away"), QStringLiteral("Cancel"), 0, cancel);
+    if (answer == 1) {
+        FUnnamedWork::remove(name);
+        mWindow.refreshStartPage();
+    } else if (answer == 0) {
+        const FMessageCatcher messages;
+        const FWaitCursor wait;
+        mWindow.documents().closeAll();
+        const bool isWhole = FProject::instance()->recoverUnnamed(name);
+        if (mWindow.situation().hasProject) {
+            mWindow.unsavedWork().assume();
+            mWindow.showFirstConnector();
+        }
+        if (!isWhole) {
+            showFailure(QStringLiteral("Parts of the unsaved work couldn't be read: %1.").arg(messages.text()),
+                        whilePresent());
+        }
+    }
+}
+
+void FProjectFiles::showFailure(const QString& text, const std::function<bool()>& holds) {
+    mWindow.notices().showNotice(
+        {text, holds, QStringLiteral("Show the messages"), [this] { mWindow.panels().raise(QStringLiteral("log")); }});
 }
 
 bool FProjectFiles::save() {
@@ -137,7 +175,9 @@ bool FProjectFiles::saveTo(const QString& path) {
     const FMessageCatcher messages;
     const bool isSaved = FProject::instance()->save(path);
     if (!isSaved) {
-        showFailure(QStringLiteral("The project wasn't saved: %1.").arg(messages.text()));
+        const QString file = path.isEmpty() ? FMerixCtrl::instance()->getProjectFile() : path;
+        showFailure(QStringLiteral("%1: %2.").arg(file, messages.text()),
+                    [this] { return mWindow.unsavedWork().isThere(); });
     }
     return isSaved;
 }
@@ -174,7 +214,8 @@ void FProjectFiles::openExample(const QString& name) {
     }
     if (!copyFolder(QDir(FPathManager::instance()->getSamplesDir()).filePath(name), folder)) {
         mWindow.notices().showNotice(
-            QStringLiteral("The example couldn't be copied to %1. Choose a folder that you can write to.").arg(folder));
+            {QStringLiteral("The example couldn't be copied to %1. Choose a folder that you can write to.")
+                 .arg(folder)});
         return;
     }
     mWindow.documents().closeAll();
@@ -203,15 +244,23 @@ bool FProjectFiles::copyFolder(const QString& from, const QString& to) {
 void FProjectFiles::executeScript() {
     const QString path = FUserInterface::instance()->askOpenFile(QStringLiteral("Execute a script"), startFolder(),
                                                                  QString::fromLatin1(scriptFilter));
-    if (!path.isEmpty()) {
-        executeScript(path);
+    if (path.isEmpty()) {
+        return;
+    }
+    QObject whileExecuted;
+    bool hasPrinted = false;
+    connect(&mWindow.panels().get<FConsole>(), &FConsole::printed, &whileExecuted,
+            [&hasPrinted] { hasPrinted = true; });
+    executeScript(path);
+    if (hasPrinted) {
+        mWindow.panels().show(QStringLiteral("console"));
     }
 }
 
 bool FProjectFiles::executeScript(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        mWindow.notices().showNotice(QStringLiteral("%1 can't be read: %2").arg(path, file.errorString()));
+        mWindow.notices().showNotice({QStringLiteral("%1 can't be read: %2").arg(path, file.errorString())});
         return false;
     }
     QTextStream stream(&file);
@@ -220,11 +269,13 @@ bool FProjectFiles::executeScript(const QString& path) {
     input.readInputString(stream, path);
     const FMessageCatcher messages;
     bool isDone = false;
-    mWindow.executeLocked([&] { isDone = input.exec(); });
+    const int script = ++mScripts;
+    const bool isWhole = mWindow.executeLocked([&] { isDone = input.exec(); });
     if (!isDone) {
-        showFailure(QStringLiteral("%1 ended with an error: %2.").arg(QFileInfo(path).fileName(), messages.text()));
+        showFailure(QStringLiteral("%1 ended with an error: %2.").arg(QFileInfo(path).fileName(), messages.text()),
+                    [this, script] { return mScripts == script; });
     }
-    return isDone;
+    return isDone && isWhole;
 }
 
 void FProjectFiles::importSetUps() {

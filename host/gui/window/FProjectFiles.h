@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class FMainWindow;
 
 /** Creates, opens and saves projects for the window, with the questions that prevent a loss of data. */
@@ -16,6 +18,8 @@ class MERIX_EXPORT FProjectFiles : public QObject {
     void create();
     void open();
     void open(const QString& path);
+    /** Offers the unsaved work on a project without a file, by its name in FUnnamedWork. */
+    void openUnnamed(const QString& name);
     /** False if the user cancelled, or if the project couldn't be saved. */
     bool save();
     bool saveAs();
@@ -37,9 +41,10 @@ class MERIX_EXPORT FProjectFiles : public QObject {
     bool isIdle();
     /** Saves, and shows the reason if that fails. An empty path is that of the project. */
     bool saveTo(const QString& path);
-    /** Shows a notice that leads to the messages. */
-    void showFailure(const QString& text);
+    /** Shows a notice that leads to the messages, as long as it holds. */
+    void showFailure(const QString& text, const std::function<bool()>& holds);
     static bool copyFolder(const QString& from, const QString& to);
 
     FMainWindow& mWindow;
+    int mScripts = 0;  //!< how many were executed
 };

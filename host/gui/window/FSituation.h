@@ -20,6 +20,7 @@ struct MERIX_EXPORT FSituation {
     FExternComputation* computation = nullptr;  //!< the one that Run acts on
     bool isRunning = false;                     //!< that computation runs
     bool isAnyRunning = false;
+    bool isLocked = false;  //!< a script is being executed: nothing is possible but to stop it
     bool canReread = false;
     bool hasResults = false;
     QString undoLabel;  //!< null if nothing can be undone

@@ -9,6 +9,7 @@
 #include "host/gui/window/FProjectFiles.h"
 #include "host/gui/window/FStartTile.h"
 #include "host/script/FAutosave.h"
+#include "host/script/FUnnamedWork.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,6 +22,9 @@
 #include <QVBoxLayout>
 
 namespace {
+
+/** Whether the row stands for work on a project without a file. */
+constexpr int unnamedRole = Qt::UserRole + 1;
 
 /** The path with "~" for the home folder. */
 QString shortPath(const QString& path) {
@@ -122,13 +126,30 @@ FStartPage::FStartPage(FMainWindow& window) : mWindow(window), mpRecent(new QLis
 }
 
 void FStartPage::openRecent() {
-    if (const QListWidgetItem* item = mpRecent->currentItem()) {
-        mWindow.projectFiles().open(item->data(Qt::UserRole).toString());
+    const QListWidgetItem* item = mpRecent->currentItem();
+    if (!item) {
+        return;
+    }
+    const QString path = item->data(Qt::UserRole).toString();
+    if (item->data(unnamedRole).toBool()) {
+        mWindow.projectFiles().openUnnamed(path);
+    } else {
+        mWindow.projectFiles().open(path);
     }
 }
 
 void FStartPage::refresh() {
     mpRecent->clear();
+    for (const QString& name : FUnnamedWork::left()) {
+        const QFileInfo file(FAutosave::pathOf(name));
+        auto* item = new QListWidgetItem(FIcons::get(QStringLiteral("document-new")),
+                                         QStringLiteral("Unnamed project     never saved · work from %1")
+                                             .arg(FProjectFiles::ageOf(file.lastModified())),
+                                         mpRecent);
+        item->setData(Qt::UserRole, name);
+        item->setData(unnamedRole, true);
+        item->setToolTip(file.filePath());
+    }
     for (const QString& path : FGuiSettings::getRecentProjects()) {
         if (!QFileInfo::exists(path)) {
             continue;

@@ -16,7 +16,7 @@ class MERIX_EXPORT FStartPage : public QWidget {
  public:
     explicit FStartPage(FMainWindow& window);
 
-    /** Reads the list of recent projects again. */
+    /** Reads the list of recent projects, and of work that was never saved, again. */
     void refresh();
 
  protected:

@@ -59,7 +59,7 @@ int FWindowUserInterface::ask(const QString& title, const QString& text, const Q
 int FWindowUserInterface::warn(const QString& title, const QString& text, const QStringList& buttons,
                                int defaultButton) {
     if (buttons.size() < 2) {
-        mWindow.notices().showNotice(text);
+        mWindow.notices().showNotice({text});
         return 0;
     }
     return show(QMessageBox::Warning, parent(), title, text, buttons, defaultButton);
@@ -67,7 +67,7 @@ int FWindowUserInterface::warn(const QString& title, const QString& text, const 
 
 void FWindowUserInterface::tell(const QString& title, const QString& text) {
     const bool isOwn = title == FMerixCtrl::getApplicationTitle() || title.isEmpty();
-    mWindow.notices().showNotice(isOwn ? text : QStringLiteral("%1: %2").arg(title, text));
+    mWindow.notices().showNotice({isOwn ? text : QStringLiteral("%1: %2").arg(title, text)});
 }
 
 QString FWindowUserInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
@@ -94,6 +94,22 @@ QString FWindowUserInterface::askFolder(const QString& caption, const QString& s
 
 void FWindowUserInterface::commitEdits() {
     FPendingEdit::commitAll();
+}
+
+// The numbers on the screen would not be those of the run.
+bool FWindowUserInterface::mayRun() {
+    FPendingEdit* refusing = FPendingEdit::findRefusing();
+    if (!refusing) {
+        return true;
+    }
+    const FPendingEdit::Refusal refusal = refusing->refusal();
+    mWindow.reveal(refusing->focusRefused());
+    mWindow.notices().showNotice(
+        {QStringLiteral("Not run: what is entered for %1 is refused (%2), and the run would use %3. Correct it, or "
+                        "press Escape in the field.")
+             .arg(refusal.name, refusal.fault, refusal.used.isEmpty() ? QStringLiteral("no value") : refusal.used),
+         [] { return FPendingEdit::findRefusing() != nullptr; }});
+    return false;
 }
 
 void FWindowUserInterface::showTexts(const QString& title, const QMap<QString, QString>& texts) {

@@ -20,6 +20,7 @@ class MERIX_EXPORT FWindowUserInterface : public FUserInterface {
     QString askSaveFile(const QString& caption, const QString& startPath, const QString& filter) override;
     QString askFolder(const QString& caption, const QString& startPath) override;
     void commitEdits() override;
+    bool mayRun() override;
     void showTexts(const QString& title, const QMap<QString, QString>& texts) override;
     QObject* getObjectEditor(const FExprBase& object) override;
     void showPage(FManaged* object) override;

@@ -2,6 +2,7 @@
 #include "genericintegration/connector/dialogs/FSoftConDialog.h"
 #include "host/core/FIni.h"
 #include "host/core/FSelectionSet.h"
+#include "host/gui/window/FNoticeBar.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
 #include <QGraphicsProxyWidget>
@@ -27,7 +28,7 @@ class FSoftConSceneTest : public FConnectorTest {
             dialog->accept();
         });
     }
-    QString notice() { return find<QLabel>("noticeText")->text(); }
+    QString notice() { return window().notices().text(); }
 };
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(made->tabText(made->currentIndex()), "case.inp") << "the first template is open";
     EXPECT_EQ(made->getScene()->objectItems().size(), 4);
-    EXPECT_EQ(made->getDefinition()->getName(), "sh_definition");
+    EXPECT_NE(object<FManaged>("sh_definition"), nullptr);
     EXPECT_NE(object<FManaged>("sh_configuration"), nullptr);
     EXPECT_EQ(textOf("getAttribute(sh, \"setStandardInput\")"), "case.inp");
     EXPECT_EQ(textOf("getAttribute(sh, \"setArguments\")"), textOf("[\"-c\", \"cp case.inp case.dat\"]"));

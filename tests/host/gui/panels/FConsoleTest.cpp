@@ -102,14 +102,17 @@ TEST_F(FConsoleTest, whileALineWaitsForARunOnlyStopIsPossible) {
         if (solver->getLastRun().state == FRunRecord::State::Running && action("stop")->isEnabled()) {
             wasLocked = action("run")->text().contains("other") && !find("consoleLine")->isEnabled() &&
                         !action("run")->isEnabled() && !action("undo")->isEnabled() && !find("objectTree")->isEnabled();
+            dialogs().answers.enqueue("Keep running");
             window().close();
             EXPECT_TRUE(window().isVisible());
             action("stop")->trigger();
         }
     });
     poll.start(5);
-    enter("solver.run()");
+    // The rest of the line is stopped, too.
+    enter("solver.run(); parameter after(1)");
     EXPECT_TRUE(wasLocked) << output().toStdString();
+    EXPECT_EQ(object<FManaged>("after"), nullptr);
     EXPECT_EQ(solver->getLastRun().state, FRunRecord::State::Cancelled);
     EXPECT_TRUE(find("consoleLine")->isEnabled());
     EXPECT_TRUE(action("run")->isEnabled());

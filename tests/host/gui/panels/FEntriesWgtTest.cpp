@@ -4,11 +4,14 @@
 #include "host/gui/panels/FEntriesWgt.h"
 #include "host/gui/panels/FEntryModel.h"
 #include "host/gui/panels/FObjectEditorPanel.h"
+#include "host/gui/window/FNoticeBar.h"
+#include "host/run/FExternComputation.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -133,7 +136,7 @@ TEST_F(FEntriesWgtTest, aValueIsAnExpressionThatIsCommittedAsOneStep) {
     EXPECT_EQ(text("force"), "2*load");
     EXPECT_EQ(text("force", FEntryModel::resultColumn), "200");
     EXPECT_EQ(cell("force").data(Qt::AccessibleDescriptionRole).toString(), QString());
-    EXPECT_EQ(lastStep(), "Set force");
+    EXPECT_EQ(lastStep(), "Set force to 2 * load");
     ASSERT_TRUE(run("load.setValue(7)"));
     EXPECT_EQ(text("force", FEntryModel::resultColumn), "14");
     ASSERT_TRUE(run("undo()"));
@@ -155,10 +158,21 @@ TEST_F(FEntriesWgtTest, refusedTextStaysInItsRowWithTheReason) {
     replace(cell("force"), "values.getEntryValue(\"force\")");
     EXPECT_TRUE(cell("force").data(FEntryModel::faultRole).toString().contains("depend on itself"));
     EXPECT_EQ(savedModel(), before);
+    // A run would use another value than the one that is shown.
+    window().panels().show("chain");
+    trigger("run");
+    EXPECT_EQ(object<FExternComputation>("solver")->getLastRun().state, FRunRecord::State::Ready);
+    EXPECT_TRUE(window().notices().text().contains("for force") && window().notices().text().contains("would use 10"))
+        << window().notices().text().toStdString();
     // The editor starts with what was refused; Escape gives it up.
-    EXPECT_EQ(edit(cell("force"))->text(), "values.getEntryValue(\"force\")");
-    press(view().findChild<QLineEdit*>("entryEditor"), Qt::Key_Escape);
+    auto* editor = view().findChild<QLineEdit*>("entryEditor");
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->isVisible());
+    EXPECT_EQ(window().focusWidget(), editor);
+    EXPECT_EQ(editor->text(), "values.getEntryValue(\"force\")");
+    press(editor, Qt::Key_Escape);
     EXPECT_EQ(text("force"), "10");
+    EXPECT_TRUE(waitUntil([this] { return window().notices().text().isEmpty(); }));
 }
 
 TEST_F(FEntriesWgtTest, aStepElsewhereTakesOverTheOpenEditorFirst) {
@@ -167,7 +181,7 @@ TEST_F(FEntriesWgtTest, aStepElsewhereTakesOverTheOpenEditorFirst) {
     type(editor, "33");
     enter("parameter next(1)");
     EXPECT_EQ(textOf("values.getEntryValue(\"force\")"), "33");
-    EXPECT_EQ(FHistory::instance()->getLabels().count("Set force"), 1);
+    EXPECT_EQ(FHistory::instance()->getLabels().count("Set force to 33"), 1);
 }
 
 TEST_F(FEntriesWgtTest, partsOfAFileAreRowsOfTheirOwn) {
@@ -176,7 +190,7 @@ TEST_F(FEntriesWgtTest, partsOfAFileAreRowsOfTheirOwn) {
     const QString before = savedModel();
     replace(part(0), "\"fine.msh\"");
     EXPECT_EQ(text("mesh"), "inputFile(\"fine.msh\")");
-    EXPECT_EQ(lastStep(), "Set file of mesh");
+    EXPECT_EQ(lastStep(), "Set file of mesh to \"fine.msh\"");
     replace(part(1), "\"meshes\"");
     EXPECT_EQ(text("mesh"), "inputFile(\"fine.msh\",\"meshes\")");
     trigger("undo");

@@ -4,6 +4,7 @@
 #include "host/core/FSelectionSet.h"
 #include "host/gui/fields/FAttributeEditor.h"
 #include "host/gui/panels/FObjectEditorPanel.h"
+#include "host/gui/window/FNoticeBar.h"
 #include "tests/support/window/FWindowTest.h"
 
 #include <QCheckBox>
@@ -101,6 +102,10 @@ TEST_F(FObjectEditorPanelTest, refusedTextStaysWithItsReasonUntilEscape) {
     settle();
     EXPECT_EQ(line->text(), "span + 1");
     EXPECT_EQ(log().size(), messages);
+    ASSERT_TRUE(run("genericIntegrationComputation solver()"));
+    trigger("run");
+    EXPECT_TRUE(window().notices().text().contains("would use 2*load")) << window().notices().text().toStdString();
+    EXPECT_EQ(window().focusWidget(), line);
     press(line, Qt::Key_Escape);
     settle();
     EXPECT_EQ(line->text(), "2*load");

@@ -86,7 +86,7 @@ TEST_F(FRunPanelTest, eachRunIsARowThatSaysHowItEnded) {
     EXPECT_EQ(cell(0, FRunModel::saidColumn), "1 value, 1 suspicious: speed is followed by D-01 (out.txt:1)");
     EXPECT_TRUE(cell(0, FRunModel::tookColumn).endsWith(" s"));
 
-    window().bringToFront("console");
+    window().panels().show("console");
     start("echo started; echo; echo 'ERROR: no such material' >&2; exit 3");
     waitForEnd();
     ASSERT_EQ(model().rowCount(), 2);

@@ -24,6 +24,9 @@ TEST_F(FWindowTest, actionsAreCompleteAndNoShortcutIsUsedTwice) {
         EXPECT_FALSE(FIcons::get(QString::fromLatin1(row.icon)).isNull()) << row.id << ": no icon " << row.icon;
         shortcuts.append(QString::fromLatin1(row.shortcut));
     }
+    for (const char* keyOfLines : {"Ctrl+E", "Ctrl+U"}) {
+        EXPECT_FALSE(shortcuts.contains(keyOfLines)) << "on X11, fields take " << keyOfLines << " themselves";
+    }
     for (const QString& shortcut : shortcuts) {
         EXPECT_EQ(shortcuts.count(shortcut), 1) << shortcut.toStdString();
         EXPECT_EQ(QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::PortableText), shortcut);

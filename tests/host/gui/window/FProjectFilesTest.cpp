@@ -5,6 +5,7 @@
 #include "host/run/FExternComputation.h"
 #include "host/script/FAutosave.h"
 #include "host/script/FProject.h"
+#include "host/script/FProjectLock.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
 
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 
 namespace {
@@ -79,7 +81,8 @@ TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
     EXPECT_TRUE(window().isWindowModified());
     answer("/proc/new.mrx");
     trigger("saveProjectAs");
-    EXPECT_TRUE(find<QLabel>("noticeText")->text().contains("The project wasn't saved"));
+    EXPECT_TRUE(window().notices().text().startsWith("/proc/new.mrx: not saved: "))
+        << window().notices().text().toStdString();
     EXPECT_TRUE(window().isWindowModified());
 
     answer("Cancel");
@@ -87,9 +90,11 @@ TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
     EXPECT_NE(object<FManaged>("span"), nullptr);
     answer("");  // closed without a button
     EXPECT_FALSE(window().close());
+    EXPECT_FALSE(window().notices().text().isEmpty()) << "the project still isn't saved";
     answer("Save");
     trigger("newProject");
     EXPECT_TRUE(savedModel().isEmpty());
+    EXPECT_TRUE(waitUntil([&] { return window().notices().text().isEmpty(); }));
     EXPECT_TRUE(find("startPage")->isVisible());
     EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)")) << folder.read("p.mrx").toStdString();
     EXPECT_EQ(find<QListWidget>("recentProjects")->item(0)->data(Qt::UserRole).toString(), file);
@@ -125,6 +130,43 @@ TEST_F(FProjectFilesTest, whatASessionLeftIsOfferedWithItsAgeAndDifferences) {
     trigger("saveProject");
     EXPECT_FALSE(window().isWindowModified());
     EXPECT_TRUE(folder.read("p.mrx").contains("setValue(2)"));
+}
+
+TEST_F(FProjectFilesTest, workThatWasNeverSavedIsOfferedAfterACrash) {
+    const QByteArray home = qgetenv("XDG_STATE_HOME");
+    qputenv("XDG_STATE_HOME", folder.path().toLocal8Bit());
+    const auto left = [this](int number) { return QString("merix/unnamed-%1.mrx.autosave").arg(number); };
+    FProject::instance()->keepUnnamed(true);
+    ASSERT_TRUE(run("parameter span(7)"));
+    ASSERT_TRUE(waitUntil([&] { return folder.has(left(1)); }));
+    const QByteArray work = folder.read(left(1));
+    for (const int number : {4, 5, 6}) {
+        folder.write(left(number), work);
+    }
+    FProjectLock session;  // that still goes on
+    session.acquire(folder.path("merix/unnamed-6.mrx"));
+    answer("Discard");
+    trigger("newProject");
+    settle();
+    EXPECT_FALSE(folder.has(left(1))) << "it was given up";
+    const auto open = [this](const QString& choice) {
+        auto* recent = find<QListWidget>("recentProjects");
+        answer(choice);
+        QTest::mouseClick(recent->viewport(), Qt::LeftButton, {}, recent->visualItemRect(recent->item(0)).center());
+        settle();
+    };
+    ASSERT_EQ(find<QListWidget>("recentProjects")->count(), 2);
+    open("Throw it away");
+    ASSERT_EQ(find<QListWidget>("recentProjects")->count(), 1);
+    open("Recover it");
+    EXPECT_EQ(textOf("span.getValue()"), "7");
+    EXPECT_TRUE(window().isWindowModified());
+    answer(folder.path("p"));
+    trigger("saveProject");
+    EXPECT_TRUE(folder.read("p.mrx").contains("span"));
+    EXPECT_FALSE(folder.has(left(4)) || folder.has(left(5)));
+    FProject::instance()->keepUnnamed(false);
+    home.isNull() ? qunsetenv("XDG_STATE_HOME") : qputenv("XDG_STATE_HOME", home);
 }
 
 TEST_F(FProjectFilesTest, filesThatCantBeUsedAreReportedInTheWindow) {
@@ -163,6 +205,30 @@ TEST_F(FProjectFilesTest, aRunKeepsTheProjectOpenAndIsAskedAboutAtTheEnd) {
     trigger("stop");
     ASSERT_TRUE(waitUntil([&] { return solver->canRun(); }));
     EXPECT_EQ(solver->getLastRun().state, FRunRecord::State::Cancelled);
+}
+
+TEST_F(FProjectFilesTest, aScriptIsStoppedBetweenItsStatementsAndByClosingTheWindow) {
+    ASSERT_TRUE(run("parameter span(1)"));
+    const QString endless =
+        folder.write("endless.merix", "n = 1\nwhile (true) { n = n + 1; span.setValue(n) }\nspan.setValue(-1)\n");
+    QTimer::singleShot(200, &window(), [this] {
+        EXPECT_FALSE(action("run")->isEnabled());
+        QTest::mouseClick(find<QToolBar>("actionBar")->widgetForAction(action("stop")), Qt::LeftButton);
+    });
+    EXPECT_FALSE(window().projectFiles().executeScript(endless));
+    const int reached = textOf("span.getValue()").toInt();
+    EXPECT_GT(reached, 1) << "what was done remains, as one step";
+    trigger("undo");
+    EXPECT_EQ(textOf("span.getValue()"), "1");
+
+    QTimer::singleShot(200, &window(), [this] {
+        answer("Stop the script and quit");
+        trigger("quit");
+        EXPECT_TRUE(window().isVisible()) << "not in the middle of a statement";
+        answer("Discard");
+    });
+    EXPECT_FALSE(window().projectFiles().executeScript(endless));
+    EXPECT_TRUE(waitUntil([&] { return !window().isVisible(); }));
 }
 
 TEST_F(FProjectFilesTest, theNumberOfProblemsIsAlwaysVisible) {

@@ -51,8 +51,9 @@ int FReadSubcommand::run() const {
 bool FReadSubcommand::hasFiles(const QDir& folder) const {
     const FConfigurationCustom* configuration = mTarget.computation()->getConfiguration().ptr();
     const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
+    const QStringList names = definition ? definition->getReadFiles() : QStringList();
     bool hasAll = true;
-    for (const QString& name : definition ? definition->getReadFiles() : QStringList()) {
+    for (const QString& name : names) {
         if (!QFileInfo(folder.filePath(name)).isFile()) {
             FLogMsg::error(QStringLiteral("merix"),
                            QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
@@ -64,6 +65,10 @@ bool FReadSubcommand::hasFiles(const QDir& folder) const {
                            QStringLiteral("Its values are NaN"));
             hasAll = false;
         }
+    }
+    if (const QString empty = FResultFiles(folder.path() + QLatin1Char('/'), names).empty(); !empty.isEmpty()) {
+        FLogMsg::warning(QStringLiteral("merix"), QStringLiteral("nothing is in %1").arg(empty),
+                         QStringLiteral("Its values are NaN"));
     }
     return hasAll;
 }

@@ -12,8 +12,9 @@ namespace {
 QString toLines(const FTableData& table) {
     QString lines;
     for (int row = 0; row < table.getRowCount(); ++row) {
-        lines +=
-            table.getRowName(row) + QStringLiteral(" = ") + numberText(table.getElementAt(row, 0)) + QLatin1Char('\n');
+        const FNumberOrigin& origin = table.getOrigin(row);
+        const QString value = origin.hasText() ? origin.text : numberText(table.getElementAt(row, 0));
+        lines += table.getRowName(row) + QStringLiteral(" = ") + value + QLatin1Char('\n');
     }
     return lines;
 }
@@ -24,7 +25,7 @@ QString FTableOutput::of(FResultsGeneric& results, Form form) {
     results.prepareResults();
     FValueListing listing;
     QString lines;
-    for (const FExpr<FTableData>& table : results.tables()) {
+    for (const FExpr<FTableData>& table : results.listedTables()) {
         results.noteRequest(*table.ptr());
         listing.add(*table.ptr());
         lines += toLines(*table.ptr());

@@ -15,6 +15,7 @@
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FSafePath.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <utility>
@@ -115,13 +116,13 @@ std::optional<FResultText> FGenIntReader::readText(const FGenIntResultsFile& fil
 }
 
 std::unique_ptr<QFile> FGenIntReader::openFile(const FGenIntResultsFile& file, const QString& directory) const {
-    auto device = std::make_unique<QFile>(directory + QLatin1Char('/') + file.getFileName());
+    auto device = std::make_unique<QFile>(QDir::cleanPath(directory + QLatin1Char('/') + file.getFileName()));
     const bool leadsOut = FSafePath::leadsOut(file.getFileName());
     const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, file.getFileName());
     const bool isUnusable = leadsOut || !link.isEmpty() || !FResultFiles::faultOfName(file.getFileName()).isEmpty();
     if (leadsOut) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
-                      QStringLiteral("give the template a file name below it"));
+                      QStringLiteral("Give the template a file name below it"));
     }
     if (!link.isEmpty()) {
         FLogMsg::info(getClass(), QStringLiteral("\"%1\": %2").arg(file.getFileName(), link),
@@ -145,7 +146,7 @@ void FGenIntReader::importFile(const FGenIntResultsFileValue& value, const QStri
     const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, name);
     if (leadsOut || !link.isEmpty()) {
         const QString fault = leadsOut ? QStringLiteral("leads out of the result directory") : link;
-        FLogMsg::info(getClass(), QStringLiteral("\"%1\" %2").arg(name, fault), QStringLiteral("not imported"));
+        FLogMsg::info(getClass(), QStringLiteral("\"%1\" %2").arg(name, fault), QStringLiteral("Not imported"));
         mImportedObjects.clear();
         return;
     }

@@ -28,6 +28,14 @@ Values among(const std::vector<FExpr<FObject>>& elements) {
     return values;
 }
 
+QStringList namesOf(const FGenIntResultsFile& file) {
+    QStringList names;
+    for (const FGenIntResultsFileValue* value : among(file.getValues()->getObjects())) {
+        names.append(value->mName);
+    }
+    return names;
+}
+
 FAnchor anchorOf(const FGenIntResultsFileValue& value) {
     const bool isFirst = value.mOccurrence.get() == GenIntAnchorOccurrence::First;
     return {value.mAnchor, isFirst ? FAnchorOccurrence::First : FAnchorOccurrence::Last};

@@ -4,6 +4,8 @@
 #include "genericintegration/io/FValueDescription.h"
 #include "host/core/FExpr.h"
 
+#include <QStringList>
+
 #include <vector>
 
 class FGenIntResultsFile;
@@ -16,6 +18,9 @@ using Values = std::vector<const FGenIntResultsFileValue*>;
 
 /** The elements of a list that are values, in the list's order. The list must outlive the result. */
 Values among(const std::vector<FExpr<FObject>>& elements);
+
+/** The names of a template's values, in its order. */
+QStringList namesOf(const FGenIntResultsFile& file);
 
 FAnchor anchorOf(const FGenIntResultsFileValue& value);
 

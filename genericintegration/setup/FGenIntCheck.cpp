@@ -42,10 +42,7 @@ FSetUpCheck::Tables FGenIntCheck::tables(const FExternComputation& computation) 
     const FDefinitionGenInt* definition = definitionOf(computation);
     for (const FExpr<FGenIntFile>& handle : definition ? definition->getResultsFiles() : QList<FExpr<FGenIntFile>>()) {
         if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
-            tables.append({file->getFileName(), {}});
-            for (const FGenIntResultsFileValue* value : FTemplateValues::among(file->getValues()->getObjects())) {
-                tables.last().rows.append(value->mName);
-            }
+            tables.append({file->getFileName(), FTemplateValues::namesOf(*file)});
         }
     }
     return tables;

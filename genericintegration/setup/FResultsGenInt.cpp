@@ -1,6 +1,7 @@
 #include "genericintegration/setup/FResultsGenInt.h"
 
 #include "genericintegration/io/FGenIntReader.h"
+#include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
@@ -155,13 +156,9 @@ void FResultsGenInt::setOutputHandles(const QList<FExpr<FGenIntFile>>& files) {
 void FResultsGenInt::readOutputFiles() const {
     startParentReg(this);
     QList<FExpr<FTableData>> zones;
-    for (const FExpr<FGenIntFile>& file : mOutputHandles) {
-        const auto* resultsFile = dynamic_cast<const FGenIntResultsFile*>(file.ptr());
-        if (!resultsFile) {
-            continue;
-        }
+    for (const FExpr<FGenIntResultsFile>& file : resultTemplates()) {
         FGenIntReader* reader = FGenIntReader::instance();
-        reader->readResults(FExpr<FGenIntResultsFile>(resultsFile), FExpr<FResultsGeneric>(this), getResultPath());
+        reader->readResults(file, FExpr<FResultsGeneric>(this), getResultPath());
         const auto& imported = reader->getImportedObjects();
         for (auto object = imported.begin(); object != imported.end(); ++object) {
             mImportedObjects.insert(object.key(), object.value());
@@ -173,6 +170,22 @@ void FResultsGenInt::readOutputFiles() const {
     }
     stopParentReg();
     FResultsGeneric::readOutputFiles();
+}
+
+/** Those that exist, in the order of their tables. */
+QList<FExpr<FGenIntResultsFile>> FResultsGenInt::resultTemplates() const {
+    QList<FExpr<FGenIntResultsFile>> files;
+    for (const FExpr<FGenIntFile>& handle : mOutputHandles) {
+        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
+            files.append(FExpr<FGenIntResultsFile>(file));
+        }
+    }
+    return files;
+}
+
+QStringList FResultsGenInt::valueNamesOf(int number) const {
+    const QList<FExpr<FGenIntResultsFile>> files = resultTemplates();
+    return number < files.size() ? FTemplateValues::namesOf(*files[number].ptr()) : QStringList();
 }
 
 // ---- numbers ----

@@ -39,8 +39,7 @@ QStringList flaggedValues(const Tables& tables, FNumberFlags flags) {
 }
 
 bool isNan(const FTableData& table, int row) {
-    const FNumberOrigin& origin = table.getOrigin(row);
-    if (origin.isText && !origin.text.isEmpty()) {
+    if (table.getOrigin(row).hasText()) {
         return false;
     }
     bool exists = true;
@@ -53,9 +52,12 @@ bool isNan(const FTableData& table, int row) {
 }
 
 QStringList nanValues(const FSuccessRules& rules, const Tables& tables) {
-    const bool all = rules.requiredValues.contains(FSuccessRules::allValues());
+    const bool wantsAll = rules.requiredValues.contains(FSuccessRules::allValues());
     QStringList values;
     for (const FExpr<FTableData>& table : tables) {
+        const bool isLeftOut =
+            table->getOrigin(0).flags.testFlag(FNumberFlag::FileNotRead) && rules.isOptional(table->getName());
+        const bool all = wantsAll && !isLeftOut;
         for (int row = 0; row < table->getRowCount(); ++row) {
             const QString name = table->getRowName(row);
             if ((all || rules.requiredValues.contains(name)) && isNan(*table.ptr(), row)) {
@@ -66,14 +68,18 @@ QStringList nanValues(const FSuccessRules& rules, const Tables& tables) {
     return values;
 }
 
-QStringList unknownValues(const FSuccessRules& rules, const Tables& tables) {
-    QStringList known;
+QStringList namesIn(const Tables& tables) {
+    QStringList names;
     for (const FExpr<FTableData>& table : tables) {
-        known += table->getRowNames();
+        names += table->getRowNames();
     }
+    return names;
+}
+
+QStringList unknownValues(const FSuccessRules& rules, const QStringList& known) {
     QStringList unknown;
     for (const QString& name : rules.requiredValues) {
-        if (name == FSuccessRules::allValues() ? known.isEmpty() : !known.contains(name)) {
+        if (name != FSuccessRules::allValues() && !known.contains(name)) {
             unknown.append(QLatin1Char('"') + name + QLatin1Char('"') + didYouMean(name, known));
         }
     }
@@ -97,10 +103,15 @@ QStringList FNumberCheck::faults(const FSuccessRules& rules, const QList<FExpr<F
         add(QStringLiteral("A number is suspicious (setSuspiciousNumbers is \"fail\"): %1."),
             flaggedValues(tables, suspiciousFlags));
     }
-    if (!rules.requiredValues.isEmpty()) {
-        add(QStringLiteral("No result has the required value: %1."), unknownValues(rules, tables));
-        add(QStringLiteral("A required value is NaN: %1."), nanValues(rules, tables));
+    if (rules.requiredValues.isEmpty()) {
+        return faults;
     }
+    const QStringList known = namesIn(tables);
+    if (known.isEmpty() && rules.requiredValues.contains(FSuccessRules::allValues())) {
+        faults.append(QStringLiteral("No result template has a value (setRequiredValues is [\"*\"])."));
+    }
+    add(QStringLiteral("No result has the required value: %1."), unknownValues(rules, known));
+    add(QStringLiteral("A required value is NaN: %1."), nanValues(rules, tables));
     return faults;
 }
 

@@ -25,7 +25,8 @@ QStringList namesOf(FNumberFlags flags) {
         {FNumberFlag::CutAtEdge, "cut"},
         {FNumberFlag::Shifted, "shifted"},
         {FNumberFlag::ZeroBytes, "zero bytes"},
-        {FNumberFlag::OnlyCarriageReturns, "CR line ends"}};
+        {FNumberFlag::OnlyCarriageReturns, "CR line ends"},
+        {FNumberFlag::FileNotRead, "file not read"}};
     QStringList texts;
     for (const auto& [flag, name] : names) {
         if (flags.testFlag(flag)) {

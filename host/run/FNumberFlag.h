@@ -29,6 +29,7 @@ enum class FNumberFlag : quint32 {
     ZeroBytes = 0x80000,             //!< the file contains zero bytes: most likely UTF-16 without a byte order mark
     ThousandsSeparator = 0x200000,   //!< a number like 1,234.5 or 1'234.5, cut before its separator
     OnlyCarriageReturns = 0x100000,  //!< the file's lines end with CR alone, so that it counts as one line
+    FileNotRead = 0x400000,          //!< nothing was read from the file: it is missing, empty or can't be read
 };
 Q_DECLARE_FLAGS(FNumberFlags, FNumberFlag)
 Q_DECLARE_OPERATORS_FOR_FLAGS(FNumberFlags)

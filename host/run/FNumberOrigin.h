@@ -46,6 +46,8 @@ struct FNumberOrigin {
     int valueNumber = -1;                        //!< number of the value in its template, from 0
     std::shared_ptr<const FAverageRows> rows{};  //!< null unless the number is a mean
 
+    /** Whether the value is a text that was found, so that NaN as its number means nothing. */
+    bool hasText() const { return isText && !text.isEmpty(); }
     /** The line to look at: of the suspicious row, else of the number. */
     qint64 lineToShow() const { return oddLine > 0 ? oddLine : line; }
 };

@@ -63,9 +63,26 @@ void FResultsGeneric::readAll() const {
     self->mTables.clear();
     mImportedObjects.clear();
     readOutputFiles();
+    self->listTables();
     setOutOfDate(false);
     mReading = false;
     mIsReported = false;
+}
+
+void FResultsGeneric::listTables() {
+    mListed = mTables;
+    for (int number = 0; number < mListed.size(); ++number) {
+        const QStringList names = mListed[number]->getRowCount() == 0 ? valueNamesOf(number) : QStringList();
+        if (!names.isEmpty()) {
+            FNumberOrigin origin;
+            origin.flags = FNumberFlag::FileNotRead;
+            auto* table = new FTableData(mListed[number]->getName(), static_cast<unsigned int>(names.size()), 1);
+            table->setAllVerticalHeaders(names);
+            table->setOrigins(QVector<FNumberOrigin>(names.size(), origin));
+            table->setOwner(this);
+            mListed[number] = FExpr<FTableData>(table);
+        }
+    }
 }
 
 void FResultsGeneric::report() const {
@@ -146,7 +163,7 @@ void FResultsGeneric::warnOfFailedRun() const {
     FLogMsg::warning(run->computation,
                      QStringLiteral("The results%1 come from a run that failed (%2)")
                          .arg(path.isEmpty() ? QString() : QStringLiteral(" in ") + path, run->outcomeName()),
-                     QStringLiteral("values that the run didn't write are NaN"));
+                     QStringLiteral("Values that the run didn't write are NaN"));
 }
 
 // Nothing is reported until somebody requests a number.
@@ -173,6 +190,7 @@ void FResultsGeneric::fillUnknown(const QVector<FSetUpTable>& tables) {
     for (const FSetUpTable& table : tables) {
         addTable(table.name, static_cast<unsigned int>(table.rows.size()), 1)->setAllVerticalHeaders(table.rows);
     }
+    listTables();
     mDetached = true;
 }
 

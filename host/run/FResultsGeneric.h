@@ -61,6 +61,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     void noteRequest(const FTableData& table) const;
     /** What was read so far. */
     const QList<FExpr<FTableData>>& tables() const { return mTables; }
+    /** The same, but with a row of NaN for each value of a file from which nothing was read. */
+    const QList<FExpr<FTableData>>& listedTables() const { return mListed; }
 
     /** The files that entries of the configuration name as results. */
     void setResultFiles(const QList<FExpr<FResultsFileName>>& files) { mResultFiles = files; }
@@ -82,6 +84,8 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
 
     /** Reads the files. Overrides end with a call of the base's, which notes that the files were read. */
     virtual void readOutputFiles() const;
+    /** The names of the values that a table should have, if they are known. */
+    virtual QStringList valueNamesOf(int) const { return {}; }
     /** The next access reads the files again. */
     void forgetReading() const { mFilesRead = false; }
     void becameOutOfDate() const override;
@@ -90,11 +94,13 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
 
  private:
     void readAll() const;
+    void listTables();
     void warnOfFailedRun() const;
     void report() const;
     const QStringList& knownSetUpChanges() const;
 
     QList<FExpr<FTableData>> mTables;
+    QList<FExpr<FTableData>> mListed;
     QList<FExpr<FResultsFileName>> mResultFiles;
     mutable bool mFilesRead = false;
     mutable bool mReading = false;

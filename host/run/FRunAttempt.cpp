@@ -173,7 +173,7 @@ const FResultsGeneric* FRunAttempt::checkNumbers(const FComputationResults* resu
     if (!tables || !mRules.needsNumbers() || !record()->isSuccess() || !tables->readSilently()) {
         return nullptr;
     }
-    mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->tables()));
+    mRun.addNumberFaults(FNumberCheck::faults(mRules, tables->listedTables()));
     return tables;
 }
 

@@ -27,8 +27,17 @@ struct FValueListing::FRow {
                                    : QStringLiteral("%1:%2:%3").arg(file).arg(origin.line).arg(origin.column);
     }
     QStringList flags() const {
-        const QStringList names = namesOf(origin.flags);
-        return isOfEarlierSetUp ? names + QStringList(QStringLiteral("earlier set-up")) : names;
+        QStringList names = namesOf(origin.flags);
+        if (origin.hasText()) {
+            names.append(QStringLiteral("text"));
+        }
+        if (origin.rows && origin.rows->count > 0) {
+            names.append(QStringLiteral("mean of %1 rows").arg(origin.rows->count));
+        }
+        if (isOfEarlierSetUp) {
+            names.append(QStringLiteral("earlier set-up"));
+        }
+        return names;
     }
     QStringList fields() const {
         return {name, numberText(number), place(), origin.text, flags().join(QStringLiteral(", "))};

@@ -61,6 +61,7 @@ struct FWords {
 
 // The cause of a NaN comes first, then what is most likely wrong.
 constexpr FWords allWords[] = {
+    {F::FileNotRead, nullptr, "nothing was read from its file", "See whether the program wrote the file"},
     {F::SeparatorInvalid, nullptr, "the separator isn't a valid regular expression: %1",
      "It separates nothing. Correct it"},
     {F::ZeroBytes, nullptr, "the file contains zero bytes, as UTF-16 without a byte order mark does",

@@ -13,7 +13,7 @@ FValueSummary::FValueSummary(const QList<FExpr<FTableData>>& tables, FNumberFlag
         for (int row = 0; row < table.getRowCount(); ++row) {
             const FNumberOrigin& origin = table.getOrigin(row);
             const double number = table.getElementAt(row, 0);
-            const bool isMissing = std::isnan(number);
+            const bool isMissing = std::isnan(number) && !origin.hasText();
             if (!isMissing && !(origin.flags & ~accepted)) {
                 continue;
             }

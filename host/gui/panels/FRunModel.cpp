@@ -33,7 +33,7 @@ QString causeOf(const FRunRecord& record) {
 QList<FExpr<FTableData>> readTables(const FExternComputation* computation) {
     const auto* results =
         computation ? dynamic_cast<const FResultsGeneric*>(computation->getCurrentResults().ptr()) : nullptr;
-    return results && results->readSilently() ? results->tables() : QList<FExpr<FTableData>>();
+    return results && results->readSilently() ? results->listedTables() : QList<FExpr<FTableData>>();
 }
 
 FValueSummary summaryOf(const FExternComputation& computation, const QList<FExpr<FTableData>>& tables) {

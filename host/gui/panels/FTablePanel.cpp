@@ -197,7 +197,7 @@ void FTablePanel::refresh() {
     }
     const bool isEarlier = mShownRun.isValid();
     if (isEarlier || shown->prepareResults()) {
-        take(isEarlier ? mRuns.tablesOf(mShownRun.row()) : shown->tables());
+        take(isEarlier ? mRuns.tablesOf(mShownRun.row()) : shown->listedTables());
     }
     offerRuns();
     mpTable->setVisible(mTables.size() > 1);
@@ -319,7 +319,7 @@ void FTablePanel::offerRuns() {
     mpRun->clear();
     mpRun->addItem(QStringLiteral("Present results"));
     const FResultsGeneric* present = results();
-    for (const int run : otherRuns(present ? present->tables() : mTables)) {
+    for (const int run : otherRuns(present ? present->listedTables() : mTables)) {
         mpRun->addItem(titleOfRun(run), QVariant::fromValue(QPersistentModelIndex(mRuns.index(run, 0))));
         if (mShownRun.isValid() && run == mShownRun.row()) {
             mpRun->setCurrentIndex(mpRun->count() - 1);
@@ -342,7 +342,7 @@ void FTablePanel::fillRuns(QMenu& menu) {
     bool isPresentListed = !mShownRun.isValid();
     const FResultsGeneric* present = results();
     for (const int row : otherRuns(mTables)) {
-        isPresentListed = isPresentListed || (present && mRuns.tablesOf(row) == present->tables());
+        isPresentListed = isPresentListed || (present && mRuns.tablesOf(row) == present->listedTables());
         // Rows move with each further run.
         const QPersistentModelIndex run(mRuns.index(row, 0));
         connect(menu.addAction(titleOfRun(row)), &QAction::triggered, this,
@@ -350,7 +350,7 @@ void FTablePanel::fillRuns(QMenu& menu) {
     }
     if (!isPresentListed && present) {
         connect(menu.addAction(QStringLiteral("Present results")), &QAction::triggered, this,
-                [this, tables = present->tables()] { compareWith(tables, QStringLiteral("Present")); });
+                [this, tables = present->listedTables()] { compareWith(tables, QStringLiteral("Present")); });
     }
 }
 
@@ -410,7 +410,7 @@ void FTablePanel::readBefore() {
         return;
     }
     if (read->readSilently()) {
-        setBefore(read->tables(), QStringLiteral("Run before"));
+        setBefore(read->listedTables(), QStringLiteral("Run before"));
     }
     FManaged::destroy(earlier.ptr(), false);
 }

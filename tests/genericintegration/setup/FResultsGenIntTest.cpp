@@ -111,7 +111,7 @@ TEST_F(FResultsGenIntTest, answersQueriesOfScripts) {
         {"getColumn()", "[3.25,NaN,1.5]"},
         {"toCsv()", "name,value\nmean,3.25\n\"a,b\",NaN\nf,1.5\n"},
         {"getListing()",
-         "name  value  place        text  flags\nmean  3.25   Out.txt:3:5  4.50\n"
+         "name  value  place        text  flags\nmean  3.25   Out.txt:3:5  4.50  mean of 2 rows\n"
          "a,b   NaN    Out.txt            line beyond end\nf     1.5    Out.txt:1:9  1.5   blank before exponent\n"},
     };
     for (const auto& [query, text] : cases) {
@@ -193,7 +193,7 @@ TEST_F(FResultsGenIntTest, hasTheZonesOfImportsAsTables) {
     EXPECT_EQ(log(), QStringList()) << "the name of a file needn't be a number";
     FSuccessRules rules;
     rules.requiredValues = QStringList{FSuccessRules::allValues()};
-    EXPECT_EQ(FNumberCheck::faults(rules, results()->tables()), QStringList());
+    EXPECT_EQ(FNumberCheck::faults(rules, results()->listedTables()), QStringList());
 }
 
 TEST_F(FResultsGenIntTest, hasNoPathsOfFilesThatAreGone) {

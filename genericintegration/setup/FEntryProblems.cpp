@@ -11,6 +11,7 @@
 #include "host/design/FFileReference.h"
 #include "host/design/FGeometryExport.h"
 #include "host/design/FInputFile.h"
+#include "host/design/FParameter.h"
 #include "host/design/FResultsFileName.h"
 #include "host/lodm/FGeometryContent.h"
 #include "host/run/FExternComputation.h"
@@ -41,6 +42,10 @@ QString setRemedy(const FEntry& entry) {
     return QStringLiteral("Give it a value with setEntryValue(\"%1\", …)").arg(entry.getFullName());
 }
 
+bool hasBlanksAround(const QString& text) {
+    return text.trimmed().size() < text.size();
+}
+
 QString listed(const QStringList& names) {
     const QString more = names.size() > mostNames ? QStringLiteral(" …") : QString();
     return QLatin1Char('"') + names.mid(0, mostNames).join(QStringLiteral("\", \"")) + QLatin1Char('"') + more;
@@ -69,6 +74,39 @@ const FExternComputation* supplierWithoutResults(const FObject& object) {
         }
     }
     return nullptr;
+}
+
+/** What a value that isn't finite is: "not a number (NaN)" or "infinite"; empty for others. */
+QString nonFinite(const FBasicType& value, bool isComputed) {
+    if (value.isTypeOf(FDouble::null())) {
+        const double number = value.toDouble();
+        return std::isfinite(number) ? QString()
+               : std::isnan(number)  ? QStringLiteral("not a number (NaN)")
+                                     : QStringLiteral("infinite");
+    }
+    // What format makes of them. A text that somebody wrote is meant as it is.
+    const QString text = isComputed ? value.toPlainString().trimmed().toLower() : QString();
+    return text == QLatin1String("nan") || text == QLatin1String("-nan") ? QStringLiteral("not a number (NaN)")
+           : text == QLatin1String("inf") || text == QLatin1String("-inf") || text == QLatin1String("+inf")
+               ? QStringLiteral("infinite")
+               : QString();
+}
+
+/** Where runs are only checked, the numbers of results are unknown, and so are the values that were made of them. */
+bool isMadeOfUnknown(const FEntry& entry) {
+    const auto isUnknown = [](const FExprBase& value) {
+        const auto* number = value.isCmd() ? nullptr : objectCast<FBasicType>(value.getObject());
+        return number && !nonFinite(*number, true).isEmpty();
+    };
+    if (supplierWithoutResults(entry) || isUnknown(entry.getValue())) {
+        return true;
+    }
+    const std::vector<FObject*> suppliers = entry.getSuppliersCmdHelper({FParameter::null(), FEntry::null()});
+    return std::any_of(suppliers.begin(), suppliers.end(), [&isUnknown](const FObject* supplier) {
+        const auto* parameter = dynamic_cast<const FParameter*>(supplier);
+        const auto* other = dynamic_cast<const FEntry*>(supplier);
+        return (parameter && isUnknown(parameter->getValue())) || (other && isUnknown(other->getValue()));
+    });
 }
 
 }  // namespace
@@ -222,17 +260,14 @@ void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, cons
                    QStringLiteral("Give it a number or a text with setEntryValue(\"%1\", …)").arg(entry.getFullName()),
                    use.place)
             .isOfValue = true;
-    } else if (basic->isTypeOf(FDouble::null()) && !std::isfinite(basic->toDouble())) {
-        // The numbers of results are unknown then.
-        if (FSetUpCheck::isReplacingRuns()) {
+    } else if (const QString fault = nonFinite(*basic, entry.getValue().isCmd()); !fault.isEmpty()) {
+        if (FSetUpCheck::isReplacingRuns() && isMadeOfUnknown(entry)) {
             return;
         }
         problems
             .warning(mConfiguration.getName(),
-                     entryText(entry) + (std::isnan(basic->toDouble())
-                                             ? QStringLiteral("is not a number (NaN), and \"%1\" is written for it")
-                                             : QStringLiteral("is infinite, and \"%1\" is written for it"))
-                                            .arg(basic->toPlainString()),
+                     entryText(entry) +
+                         QStringLiteral("is %1, and \"%2\" is written for it").arg(fault, basic->toPlainString()),
                      setRemedy(entry), use.place)
             .isOfValue = true;
     } else if (!use.fieldPlace.isEmpty()) {
@@ -240,7 +275,7 @@ void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, cons
     }
 }
 
-// A default with blanks at its start or end was made for fixed columns.
+// A text with blanks at its start or end was made for fixed columns. Only such a default has the width of its column.
 void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, const FUse& use,
                                     FProblemList& problems) const {
     const FEntryDef* definition = entry.getDefinition().ptr();
@@ -248,19 +283,22 @@ void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, co
     const bool isReadable = standard.isValid() && standard.canSafelyBeUpdated(false);
     const auto* value = isReadable ? objectCast<FBasicType>(standard.getObject()) : nullptr;
     const QString fitting = value ? value->toPlainString() : text;
-    const bool isPadded = fitting.trimmed().size() < fitting.size();
+    const bool isPadded = hasBlanksAround(fitting);
     const bool isLonger = text.size() > fitting.size();
+    const bool hasOtherWidth = isPadded ? text.size() != fitting.size() : isLonger && !hasBlanksAround(text);
     const QString place = use.columnPlace.isEmpty() && isPadded ? use.fieldPlace : use.columnPlace;
-    if (!place.isEmpty() && (isLonger || (isPadded && text.size() < fitting.size()))) {
+    if (!place.isEmpty() && hasOtherWidth) {
+        const QString width = isPadded ? QStringLiteral("a text of %1 characters").arg(fitting.size())
+                                       : QStringLiteral("a text as wide as its column");
         problems
             .warning(mConfiguration.getName(),
                      entryText(entry) +
                          QStringLiteral("is written as \"%1\", which is %2 than its default, \"%3\", so that the text "
                                         "after the tag moves")
                              .arg(text, isLonger ? QStringLiteral("longer") : QStringLiteral("shorter"), fitting),
-                     QStringLiteral("If the program reads fixed columns, give \"%2\" a text of %1 characters with "
-                                    "format")
-                         .arg(QString::number(fitting.size()), entry.getFullName()),
+                     QStringLiteral("If the program reads fixed columns, give \"%1\" %2, with format or with blanks "
+                                    "around it")
+                         .arg(entry.getFullName(), width),
                      place)
             .isOfValue = true;
     }

@@ -1,11 +1,13 @@
 #include "genericintegration/setup/FProblems.h"
 
+#include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/io/FValueTable.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/setup/FEntryProblems.h"
 #include "genericintegration/setup/FResultProblems.h"
 #include "genericintegration/setup/FTagProblems.h"
 #include "genericintegration/templates/FExportsGroup.h"
+#include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FNearestName.h"
 #include "host/core/FString.h"
 #include "host/design/FConfiguration.h"
@@ -40,6 +42,7 @@ FSetUpCheck::Problems FProblems::find() {
     if (mComputation) {
         findStandardInput();
         findOptionalFiles();
+        findRequiredValues();
     }
     std::optional<FValueTable> table;
     if (mConfiguration) {
@@ -179,6 +182,24 @@ void FProblems::findOptionalFiles() {
                               QStringLiteral("no result template reads the optional file \"%1\"").arg(name),
                               nearest.isEmpty() ? QStringLiteral("Correct its name in setOptionalFiles")
                                                 : QStringLiteral("Did you mean \"%1\"?").arg(nearest));
+        }
+    }
+}
+
+void FProblems::findRequiredValues() {
+    QStringList known{FSuccessRules::allValues()};
+    for (const FExpr<FGenIntFile>& handle : mDefinition->getResultsFiles()) {
+        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
+        known += file ? FTemplateValues::namesOf(*file) : QStringList();
+    }
+    for (const QString& name : mComputation->getSuccessRules().requiredValues) {
+        if (!known.contains(name)) {
+            const QString nearest = nearestName(name, known);
+            mProblems.error(
+                mComputation->getName(),
+                QStringLiteral("no result template has the required value \"%1\", so each run fails").arg(name),
+                nearest.isEmpty() ? QStringLiteral("Correct its name in setRequiredValues")
+                                  : QStringLiteral("Did you mean \"%1\"?").arg(nearest));
         }
     }
 }

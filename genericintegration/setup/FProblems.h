@@ -34,6 +34,7 @@ class FProblems {
     void findTemplateNames();
     void findStandardInput();
     void findOptionalFiles();
+    void findRequiredValues();
     /** Whether a run writes or copies a file of that name, or may do so. */
     bool mayBeWritten(const QString& name) const;
     void findTags(const FValueTable* table, FTagUses& uses);

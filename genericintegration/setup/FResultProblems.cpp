@@ -1,8 +1,10 @@
 #include "genericintegration/setup/FResultProblems.h"
 
+#include "genericintegration/io/FAnchorSearch.h"
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/run/FResultFiles.h"
+#include "host/run/FResultText.h"
 
 #include <QHash>
 
@@ -18,6 +20,7 @@ void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FPr
         findName(*file, problems);
         findSeparators(*file, problems);
         findValues(*file, problems);
+        findAnchors(*file, problems);
         const QString name = file->getFileName().toCaseFolded();
         if (!name.isEmpty() && readers.contains(name)) {
             problems.warning(file->getName(),
@@ -84,5 +87,29 @@ void FResultProblems::findValues(const FGenIntResultsFile& file, FProblemList& p
                 .part = value->mName;
         }
         ++number;
+    }
+}
+
+// A value without its anchor is read from another line. Without a sample, only a run shows whether it is there.
+void FResultProblems::findAnchors(const FGenIntResultsFile& file, FProblemList& problems) {
+    const FResultText sample = FResultText::fromString(file.getPlainContent());
+    if (sample.isEmpty()) {
+        return;
+    }
+    const FTemplateValues::Values values = FTemplateValues::among(file.getValues()->getObjects());
+    std::vector<QString> anchors;
+    for (const FGenIntResultsFileValue* value : values) {
+        anchors.push_back(value->mCalcAverage ? QString() : value->mAnchor);
+    }
+    const std::vector<FAnchorPlaces> places = FAnchorSearch(anchors).findInTrimmed(sample);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (!anchors[i].isEmpty() && places[i].first.begin < 0) {
+            problems
+                .warning(file.getName(),
+                         QStringLiteral("value %1, \"%2\", has the anchor \"%3\", which isn't in the template's sample")
+                             .arg(QString::number(i), values[i]->mName, anchors[i]),
+                         QStringLiteral("Correct the anchor, or the sample"))
+                .part = values[i]->mName;
+        }
     }
 }

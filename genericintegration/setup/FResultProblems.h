@@ -17,4 +17,5 @@ class FResultProblems {
     static void findName(const FGenIntFile& file, FProblemList& problems);
     static void findSeparators(const FGenIntResultsFile& file, FProblemList& problems);
     static void findValues(const FGenIntResultsFile& file, FProblemList& problems);
+    static void findAnchors(const FGenIntResultsFile& file, FProblemList& problems);
 };

@@ -17,10 +17,13 @@ namespace {
 constexpr int mostUnknown = 20;
 constexpr int longestShown = 40;
 
+QString shortened(const QString& text) {
+    return text.size() > longestShown ? text.left(longestShown) + QStringLiteral("…") : text;
+}
+
 QString shown(QStringView text) {
     const auto lineEnd = std::find(text.begin(), text.end(), u'\n');
-    const QString line = text.left(lineEnd - text.begin()).toString().trimmed();
-    return line.size() > longestShown ? line.left(longestShown) + QStringLiteral("…") : line;
+    return shortened(text.left(lineEnd - text.begin()).toString().trimmed());
 }
 
 bool isBlank(QChar c) {
@@ -153,9 +156,12 @@ void FTagProblems::findUnknown(const FTemplateTag& tag, const QString& place, FP
     }
     mUnknown.insert(name);
     if (mUnknown.size() <= mostUnknown) {
+        const bool hasBlanks = name != name.trimmed();
         addRemedy(name, problems.error(mFile.getName(),
-                                       QStringLiteral("the tag \"%1\" names no entry, and is left out of %2")
-                                           .arg(FTemplateTags::tagOf(shown(name)), mInput.file),
+                                       QStringLiteral("the tag \"%1\" names no entry%2, and is left out of %3")
+                                           .arg(FTemplateTags::tagOf(shortened(name)),
+                                                hasBlanks ? QStringLiteral(" with blanks around its name") : QString(),
+                                                mInput.file),
                                        QString(), place));
     }
 }

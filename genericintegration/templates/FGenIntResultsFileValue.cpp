@@ -80,6 +80,20 @@ QString faultOfAverage(const std::vector<FExpr<FObject>>& elements) {
         .arg(quoteText(flag->toString()), flag->toDouble() != 0 ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
+QString faultOfType(const QString& name) {
+    const FObject* type = FObject::getPrototype(name);
+    const bool isOfFiles = type && (type->isTypeOf(FDouble::null()) || type->isTypeOf(FString::null()));
+    // A saved text has what was reported when it was set.
+    if (isOfFiles || (type && FSavedTextReader::isReading())) {
+        return {};
+    }
+    return type ? QStringLiteral(
+                      "has the type \"%1\", which no file holds, and is read as a text; write \"FDouble\", "
+                      "\"FString\" or \"FFileName\"")
+                      .arg(name)
+                : QStringLiteral("has the type \"%1\", which isn't known, and is read as a number").arg(name);
+}
+
 void readInt(const FExpr<FObject>& element, int& number) {
     if (const FBasicType* value = valueOf(element)) {
         number = value->toInt();
@@ -195,9 +209,7 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
     }
     QString type;
     readText(elements[5], type);
-    const bool isType = type.isEmpty() || FObject::getPrototype(type);
-    return isType ? QString()
-                  : QStringLiteral("has the type \"%1\", which isn't known, and is read as a number").arg(type);
+    return type.isEmpty() ? QString() : faultOfType(type);
 }
 
 void FGenIntResultsFileValue::setPrimitiveValue(const FExpr<FObject>& value) {

@@ -98,17 +98,12 @@ int FCheckSubcommand::checkProject(const QString& path, FSetUpCheck::Problems& p
 }
 
 int FCheckSubcommand::checkScript(const QString& path, FSetUpCheck::Problems& problems) const {
-    const bool isStandardInput = path == QLatin1String("-");
-    QFile file(path);
-    if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))) {
-        FLogMsg::error(QStringLiteral("merix"),
-                       QStringLiteral("can't read the script \"%1\": %2").arg(path, file.errorString()));
+    FPrototypes::buildPending();
+    FCmdInput input;
+    if (const QString fault = input.readFile(path); !fault.isEmpty()) {
+        FLogMsg::error(QStringLiteral("merix"), QStringLiteral("can't read the script \"%1\": %2").arg(path, fault));
         return FExitCode::fileError;
     }
-    FPrototypes::buildPending();
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    FCmdInput input;
     input.setVariable(QStringLiteral("arguments"), textList(mArguments));
     Collector collector(problems);
     QStringList checked;
@@ -116,7 +111,6 @@ int FCheckSubcommand::checkScript(const QString& path, FSetUpCheck::Problems& pr
         problems += problemsOf(&computation);
         checked.append(computation.getName());
     });
-    input.readInputString(stream, isStandardInput ? QStringLiteral("standard input") : path);
     input.exec();
     for (const QString& name : FSetUpTarget::computationNames()) {
         if (!checked.contains(name)) {

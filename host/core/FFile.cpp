@@ -24,6 +24,10 @@ bool startsAtHome(const QString& name) {
     return !qEnvironmentVariableIsEmpty("HOME") && (name == QLatin1String("~") || name.startsWith(QLatin1String("~/")));
 }
 
+QString tooLargeForMemory(const QFile& file) {
+    return QStringLiteral("there isn't enough memory for its %1 bytes").arg(file.size());
+}
+
 }  // namespace
 
 QString FFile::resolveEnv(const QString& name) {
@@ -49,26 +53,33 @@ QString FFile::openOrdinary(QFile& file, QIODevice::OpenMode mode) {
 }
 
 QString FFile::readText(QFile& file, qint64 longest, QString& text) {
-    const QString fault = openOrdinary(file);
+    QString fault = openOrdinary(file);
+    QByteArray bytes;
+    fault = fault.isEmpty() ? readBytes(file, longest, bytes) : fault;
     if (!fault.isEmpty()) {
         return fault;
     }
+    try {
+        text = FTextDecoder::decode(bytes);
+    } catch (const std::bad_alloc&) {
+        return tooLargeForMemory(file);
+    }
+    return {};
+}
+
+QString FFile::readBytes(QFile& file, qint64 longest, QByteArray& bytes) {
     if (file.size() > longest) {
         return QStringLiteral("it has %1 bytes, and at most %2 can be read").arg(file.size()).arg(longest);
     }
     try {
-        const QByteArray bytes = readAtMost(file, longest + 1);
-        if (bytes.size() > longest) {
-            return QStringLiteral("it has more than %1 bytes").arg(longest);
-        }
-        if (file.error() != QFileDevice::NoError) {
-            return file.errorString();
-        }
-        text = FTextDecoder::decode(bytes);
+        bytes = readAtMost(file, longest + 1);
     } catch (const std::bad_alloc&) {
-        return QStringLiteral("there isn't enough memory for its %1 bytes").arg(file.size());
+        return tooLargeForMemory(file);
     }
-    return {};
+    if (bytes.size() > longest) {
+        return QStringLiteral("it has more than %1 bytes").arg(longest);
+    }
+    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }
 
 QByteArray FFile::readAtMost(QIODevice& device, qint64 most) {

@@ -28,6 +28,8 @@ class MERIX_EXPORT FFile {
      * also if the file has more than `longest` bytes, else an empty text.
      */
     static QString readText(QFile& file, qint64 longest, QString& text);
+    /** The same for the bytes of a file that is open. */
+    static QString readBytes(QFile& file, qint64 longest, QByteArray& bytes);
     /** The next bytes of an open device, up to `most`. Takes only as much memory as there are bytes. */
     static QByteArray readAtMost(QIODevice& device, qint64 most);
 

@@ -733,6 +733,22 @@ print(solver.getExitCode())</translation>
         <translation>The code, or -1 if there is none.</translation>
     </message>
     <message>
+        <source>!FExternComputation.member.getFailureReason()</source>
+        <translation>Why the last run had no success: the beginning of its message. It tells the failed runs of a study apart.</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getFailureReason():example</source>
+        <translation>genericIntegrationDefinition wing() {}
+genericIntegrationConfiguration cruise() { .setDefinition(wing) }
+genericIntegrationComputation solver() { .setConfiguration(cruise); .setExecutable("false"); .setArguments([]) }
+if (!solver.run()) { print(solver.getState(), solver.getFailureReason()) }</translation>
+    </message>
+    <message>
+        <source>!FExternComputation.member.getFailureReason():returnValue</source>
+        <comment>return type: string</comment>
+        <translation>The reason; empty after success and before the first run.</translation>
+    </message>
+    <message>
         <source>!FExternComputation.member.getState()</source>
         <translation>The state of the last run, or of the run in progress: "ready" before the first run, "writing" while the input is written, "running", then "finished" after success, "failed", "cancelled" or "timed out".</translation>
     </message>
@@ -1084,7 +1100,7 @@ line: 0 is the rest of the anchor's line, after the anchor; 1 is the line below 
 column: from 0; setNumberSeparator sets how a line is split into columns
 anchor: a text of the file, in any case; "" for none
 occurrence: First or Last, if the file has the anchor more than once
-type: "FDouble" for a number, "FFileName" for the name of a further file to import
+type: "FDouble" for a number, "FString" for a text, which getText gives, "FFileName" for the name of a further file to import
 import type: for such a file its kind, "text", "table" or "tecplot"; else ""
 average: 1 for the mean of the last rows of the file instead of one place; line and anchor then don't count
 rows: how many lines from the end; lines without a number don't count in the mean; NULL without an average

@@ -60,11 +60,13 @@ void FCustomComputation::declareCommands(FCmdTable& table) {
     table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
         .attrName("Configuration")
         .data();
-    table.member<F>("exportSetUp",
-                    +[](const F& computation, const QString& fileName, bool chain) {
-                        return computation.exportSetUp(lodmPath(FFile::resolveEnv(fileName)), chain);
-                    },
-                    {"fileName", "chain=false"});
+    table
+        .member<F>("exportSetUp",
+                   +[](const F& computation, const QString& fileName, bool chain) {
+                       return computation.exportSetUp(lodmPath(FFile::resolveEnv(fileName)), chain);
+                   },
+                   {"fileName", "chain=false"})
+        .outcome();
     table.plain<F>("setCmdFile", &F::mCmdFile, {"fileName"}).copied().attrName("Command File");
 }
 
@@ -89,7 +91,7 @@ void FCustomComputation::setConfiguration(const FExpr<FConfigurationCustom>& con
         FLogMsg::warning(getName(),
                          QStringLiteral("Its configuration can't be %1, whose entries are read from this computation")
                              .arg(configuration->getName()),
-                         QStringLiteral("it stays as it was"));
+                         QStringLiteral("It stays as it was"));
         return;
     }
     setOutOfDate(true);
@@ -116,7 +118,7 @@ FCustomComputation* FCustomComputation::cloneSetup() const {
 bool FCustomComputation::exportSetUp(const QString& path, bool chain) const {
     Q_UNUSED(chain)
     FLogMsg::error(getName(), QStringLiteral("its set-up can't be written to \"%1\"").arg(path),
-                   QStringLiteral("computations of the class %1 have no exchange file").arg(getClass()));
+                   QStringLiteral("Computations of the class %1 have no exchange file").arg(getClass()));
     return false;
 }
 

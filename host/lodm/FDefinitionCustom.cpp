@@ -38,7 +38,7 @@ bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
     }
     if (definition.getSaveFileName().isEmpty() && !FViewCtrl::instance()->hasGui()) {
         FLogMsg::error(definition.getName(), QStringLiteral("the definition has no file to be saved in"),
-                       QStringLiteral("name one: save(\"%1.lodm\")").arg(definition.getName()));
+                       QStringLiteral("Name one: save(\"%1.lodm\")").arg(definition.getName()));
         return false;
     }
     if (FMerixCtrl::instance()->isReadOnly()) {
@@ -54,7 +54,7 @@ bool saveAs(FDefinitionCustom& definition, const QString& fileName) {
 }
 
 void commands(FCmdTable& table) {
-    table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""});
+    table.member<FDefinitionCustom>("save", &saveAs, {"fileName=\"\""}).outcome();
 }
 
 }  // namespace

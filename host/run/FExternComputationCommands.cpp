@@ -88,5 +88,13 @@ void FExternComputation::declareCommands(FCmdTable& table) {
         .member<F>(
             "getExitCode", +[](const F& computation) { return computation.getLastRun().exitCode; })
         .query();
+    table
+        .member<F>(
+            "getFailureReason",
+            +[](const F& computation) {
+                const FRunRecord& run = computation.getLastRun();
+                return run.cause == FRunRecord::Cause::None ? QString() : run.message;
+            })
+        .query();
     table.member<F>("getWorkingPath", &F::getWorkingPath).query();
 }

@@ -6,6 +6,7 @@
 #include "host/run/FPathManager.h"
 #include "host/run/FResultsGeneric.h"
 #include "host/run/FRunLock.h"
+#include "host/run/FRunTally.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -105,10 +106,10 @@ QString FRunAttempt::writeInput(FComputationResults* results) {
     const bool isCopied = mComputation->copyInputFiles(record()->folder) && mComputation->doExports();
     if (!isCopied || !mComputation->writeOutputFile()) {
         const QString reason = isCopied ? mComputation->getInputFault() : QString();
-        return reason.isEmpty()
-                   ? QStringLiteral(
-                         "The input files of the run could not be written. The last error in the log gives the reason.")
-                   : QStringLiteral("The input files of the run could not be written: %1.").arg(reason);
+        return reason.isEmpty() ? QStringLiteral(
+                                      "The input files of the run could not be written. The message before this one "
+                                      "gives the reason.")
+                                : QStringLiteral("The input files of the run could not be written: %1.").arg(reason);
     }
     mRun.noteChangedInput(mComputation->compareInput());
     mRun.setSetUp(mComputation->describeSetUp());
@@ -156,6 +157,7 @@ void FRunAttempt::finish() {
     }
     const FResultsGeneric* read = checkNumbers(results);
     store();
+    FRunTally::add(record()->state);
     report();
     if (read) {
         read->reportReading();

@@ -4,6 +4,8 @@
 #include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
+#include "host/core/FTextDecoder.h"
+#include "host/core/FViewCtrl.h"
 #include "host/script/FDeclarer.h"
 #include "host/script/FFailedOutcomes.h"
 #include "host/script/FScriptStep.h"
@@ -57,9 +59,32 @@ void FCmdInput::setPause(std::function<void()> pause) {
 }
 
 void FCmdInput::readInputString(QTextStream& stream, const QString& file) {
-    mText = stream.readAll();
+    mSource = {stream.readAll(), file};
     mLastValue = FExprBase();
     mFile = file;
+}
+
+QString FCmdInput::readFile(const QString& path) {
+    const bool isStandardInput = path == QLatin1String("-");
+    QFile file(path);
+    if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))) {
+        return file.errorString();
+    }
+    mFile = isStandardInput ? QStringLiteral("standard input") : path;
+    mSource.file = mFile;
+    mLastValue = FExprBase();
+    return mSource.read(file);
+}
+
+QString FCmdInput::FSource::read(QFile& opened) {
+    QByteArray bytes;
+    const QString fault = FFile::readBytes(opened, longestScript, bytes);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    text = FTextDecoder::decode(bytes);
+    invalidLine = text.contains(QChar::ReplacementCharacter) ? FTextDecoder::firstInvalidLine(bytes) : 0;
+    return {};
 }
 
 bool FCmdInput::exec() {
@@ -69,21 +94,26 @@ bool FCmdInput::exec() {
     mExitCode = 0;
     bool done = false;
     try {
-        done = run(mText, mFile);
+        done = run(mSource);
     } catch (const std::bad_alloc&) {
         report(mStatementPlace, QStringLiteral("there isn't enough memory for this statement"));
     }
     return done && mErrors == 0 && FLogMsg::getStrictErrors() == strictBefore;
 }
 
-bool FCmdInput::run(const QString& text, const QString& file) {
-    const FScript script = parseScript(text, file);
+bool FCmdInput::run(const FSource& source) {
+    const FScript script = parseScript(source.text, source.file);
     for (const FSyntaxError& error : script.errors) {
         report(error.place, error.message);
     }
     const int strictBefore = FLogMsg::getStrictErrors();
     for (const FSyntaxError& warning : script.warnings) {
-        FLogMsg::warning({}, warning.message, {}, warning.place.toString(file));
+        FLogMsg::warning({}, warning.message, {}, warning.place.toString(source.file));
+    }
+    if (source.invalidLine > 0) {
+        FLogMsg::warning({}, QStringLiteral("the script isn't valid UTF-8 in line %1").arg(source.invalidLine),
+                         QStringLiteral("Save it as UTF-8, or characters of its texts are lost"),
+                         QStringLiteral("%1:%2").arg(source.file).arg(source.invalidLine));
     }
     return script.errors.empty() && FLogMsg::getStrictErrors() == strictBefore && runBody(script.statements);
 }
@@ -91,8 +121,9 @@ bool FCmdInput::run(const QString& text, const QString& file) {
 bool FCmdInput::include(const QString& path) {
     const QString resolved = resolvePath(path);
     QFile file(resolved);
-    QString text;
-    const QString fault = FFile::readText(file, longestScript, text);
+    FSource source{QString(), resolved};
+    QString fault = FFile::openOrdinary(file);
+    fault = fault.isEmpty() ? source.read(file) : fault;
     if (!fault.isEmpty()) {
         FLogMsg::error(mFile, QStringLiteral("can't include \"%1\": %2").arg(resolved, fault));
         ++mErrors;
@@ -108,7 +139,7 @@ bool FCmdInput::include(const QString& path) {
     ++mIncludes;
     const QString outer = mFile;
     mFile = resolved;
-    const bool done = run(text, resolved);
+    const bool done = run(source);
     mFile = outer;
     --mIncludes;
     return done;
@@ -194,19 +225,18 @@ bool FCmdInput::run(const FSyntaxExpr& expression) {
     FScriptStep step(command);
     const int failuresBefore = FFailedOutcomes::count(command);
     const std::optional<FExprBase> value = evaluate(expression);
-    mIgnoredFailures += FFailedOutcomes::count(command) - failuresBefore;
+    const int failures = FFailedOutcomes::count(command) - failuresBefore;
     mLastValue = value.value_or(FExprBase());
-    if (value && call) {
-        noteIgnoredFailure(*call, *value);
+    if (call && failures > 0) {
+        addIgnoredFailures(*call, failures);
     }
     return step.end(value.has_value());
 }
 
-/** Tells how a script can react to a project that couldn't be opened or saved. The cause was logged before. */
-void FCmdInput::noteIgnoredFailure(const FSyntaxExpr& call, const FExprBase& value) const {
-    const auto* result = dynamic_cast<const FBool*>(valueObject(value));
-    const bool mayFail = call.name == QLatin1String("openProject") || call.name == QLatin1String("saveProject");
-    if (mayFail && result && !result->getValue()) {
+// The cause was logged before. A run that fails is no reason to end a study; in a window, the user may have cancelled.
+void FCmdInput::addIgnoredFailures(const FSyntaxExpr& call, int count) {
+    mIgnoredFailures[call.name] += count;
+    if (call.name != QLatin1String("run") && !FViewCtrl::instance()->hasGui()) {
         FLogMsg{FLogMsg::Kind::Info,
                 {},
                 call.name + QStringLiteral(" returned false, and the script continues"),

@@ -5,9 +5,12 @@
 #include "host/script/FCmdParser.h"
 #include "host/script/FScriptParser.h"
 
+#include <QMap>
 #include <QTextStream>
 
 #include <functional>
+
+class QFile;
 
 /**
  * Executes script text.
@@ -26,6 +29,8 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
 
     /** Takes the whole of the stream; `file` is the name that messages give. */
     void readInputString(QTextStream& stream, const QString& file = QString());
+    /** Takes a whole file, or for "-" the standard input. Returns the reason if that fails, else an empty text. */
+    QString readFile(const QString& path);
     /** Executes what was read. False if an error ended it. */
     bool exec();
 
@@ -38,8 +43,8 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     bool isExiting() const { return mExiting; }
     /** The value of the last statement that was an expression; empty for NULL, and if there was none. */
     const FExprBase& getLastValue() const { return mLastValue; }
-    /** Failures of commands such as `run`, whose result is false then, that the script ignored. */
-    int getIgnoredFailures() const { return mIgnoredFailures; }
+    /** How often each command such as `run` failed, and the script ignored its result. */
+    const QMap<QString, int>& getIgnoredFailures() const { return mIgnoredFailures; }
     /** A path in the script: relative to its file if such a file exists, else to the current folder. */
     QString resolvePath(const QString& path) const;
 
@@ -49,8 +54,18 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     static void setPause(std::function<void()> pause);
 
  private:
-    bool run(const QString& text, const QString& file);
-    void noteIgnoredFailure(const FSyntaxExpr& call, const FExprBase& value) const;
+    /** The text of a script and where it is from. */
+    struct FSource {
+        QString text;
+        QString file;
+        int invalidLine = 0;  //!< the first line, from 1, with bytes that aren't UTF-8; 0 if there is none
+
+        /** Reads an open file. Returns the reason if that fails. */
+        QString read(QFile& opened);
+    };
+
+    bool run(const FSource& source);
+    void addIgnoredFailures(const FSyntaxExpr& call, int count);
     bool runBody(const FSyntaxBody& body);
     bool runStatement(const FSyntaxStatement& statement);
     bool run(const FSyntaxExpr& expression);
@@ -68,15 +83,15 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
     bool report(const FPlace& place, const QString& message);
     bool countStep(const FPlace& place);
 
-    QString mText;
-    QString mFile;
+    FSource mSource;
+    QString mFile;  //!< of the script being executed, which may be an included one
     FScriptNames mNames;
     FPlace mStatementPlace;
     int mErrors = 0;
     int mIncludes = 0;
     qint64 mSteps = 0;
     int mExitCode = 0;
-    int mIgnoredFailures = 0;
+    QMap<QString, int> mIgnoredFailures;
     FExprBase mLastValue;
     bool mExiting = false;
 };

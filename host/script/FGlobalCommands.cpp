@@ -147,9 +147,9 @@ bool saveProject(const QString& path) {
 }
 
 void projectCommands(FCmdTable& table) {
-    table.global("newProject", &newProject).unwrapped();
-    table.global("openProject", &openProject, {"file", "recover=false"}).unwrapped();
-    table.global("saveProject", &saveProject, {"file=\"\""}).unwrapped();
+    table.global("newProject", &newProject).unwrapped().outcome();
+    table.global("openProject", &openProject, {"file", "recover=false"}).unwrapped().outcome();
+    table.global("saveProject", &saveProject, {"file=\"\""}).unwrapped().outcome();
 }
 
 void commands(FCmdTable& table) {

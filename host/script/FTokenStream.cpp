@@ -87,12 +87,12 @@ void FTokenStream::failExpected(const QString& expected) {
              mCurrent.toString() + QLatin1String(" is no number and no name: a name begins with a letter"));
     } else {
         fail(mCurrent.place,
-             QLatin1String("expected ") + expected + QLatin1String(", found ") + mCurrent.toString() + hint());
+             QLatin1String("expected ") + expected + QLatin1String(", found ") + mCurrent.toString() + hint(expected));
     }
 }
 
 /** How to write what other languages write as the current token. */
-QString FTokenStream::hint() const {
+QString FTokenStream::hint(const QString& expected) const {
     const bool isAdjacent = mPrevious.begin + mPrevious.text.size() == mCurrent.begin;
     const Kind before = isAdjacent ? mPrevious.kind : Kind::End;
     const bool isOperator =
@@ -105,6 +105,9 @@ QString FTokenStream::hint() const {
     }
     if (mCurrent.kind == Kind::Assign && isOperator) {
         return QStringLiteral(" (instead of \"k %1= 1\" write \"k = k %1 1\")").arg(mPrevious.text.toString());
+    }
+    if (mCurrent.kind == Kind::Comma && before == Kind::Number && expected.startsWith(QLatin1String("the end of"))) {
+        return QStringLiteral(" (a number has a decimal point, as in 0.5)");
     }
     if (mCurrent.kind == Kind::LeftBracket &&
         (before == Kind::Name || before == Kind::RightParen || before == Kind::RightBracket)) {

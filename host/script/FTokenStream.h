@@ -83,7 +83,7 @@ class FTokenStream {
     void skipStatement(const FToken& begin, FSkipTo to);
 
  private:
-    QString hint() const;
+    QString hint(const QString& expected) const;
     void beginSkipping(const FToken& begin);
     bool canGoOn(const FToken& begin, FSkipTo to, bool isInBraces) const;
 

@@ -122,6 +122,19 @@ TEST_F(CommandLineTest, aRepeatedMessageTakesOneLine) {
     EXPECT_TRUE(outcome.errors.contains("The result is NULL (3 times)\n")) << outcome.errors.toStdString();
     EXPECT_TRUE(outcome.errors.contains("\nnote: test.merix:2:1: openProject returned false"))
         << outcome.errors.toStdString();
+    EXPECT_EQ(outcome.exitCode, 1) << "of openProject()";
+    EXPECT_EQ(script("ok = saveProject(\"/proc/x/y.mrx\")\n").exitCode, 0) << "the script uses the result";
+}
+
+TEST_F(CommandLineTest, scriptsInAnotherEncodingAreReported) {
+    write("inner.merix", "// \n// caf\xE9\n");
+    write("outer.merix", "print(1)\nprint(\"caf\xE9\".length())\ninclude(\"inner.merix\")\n");
+    const Outcome outcome = merix({"script", "outer.merix"});
+    EXPECT_EQ(outcome.output, "1\n4\n");
+    for (const char* place : {"outer.merix:2: the script isn't valid UTF-8 in line 2",
+                              "inner.merix:2: the script isn't valid UTF-8 in line 2"}) {
+        EXPECT_TRUE(outcome.errors.contains(place)) << outcome.errors.toStdString();
+    }
 }
 
 TEST_F(CommandLineTest, theReferenceAsJsonHasThePresentation) {

@@ -2,6 +2,7 @@
 
 #include "host/core/FHistory.h"
 #include "host/core/FLogMsg.h"
+#include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
 #include "host/core/FPrototypes.h"
 #include "host/core/FSelectionSet.h"
@@ -88,6 +89,8 @@ int FGuiSession::run() const {
         }
         if (!project.isEmpty()) {
             window.projectFiles().open(project);
+            const bool isOpen = !FMerixCtrl::instance()->getProjectFile().isEmpty();
+            exitCode = isOpen || screenshot.isEmpty() ? exitCode : fileError;
         }
         if (!script.isEmpty() && !window.projectFiles().executeScript(script)) {
             exitCode = scriptFailed;

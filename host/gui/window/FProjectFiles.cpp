@@ -258,15 +258,11 @@ void FProjectFiles::executeScript() {
 }
 
 bool FProjectFiles::executeScript(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        mWindow.notices().showNotice({QStringLiteral("%1 can't be read: %2").arg(path, file.errorString())});
+    FCmdInput input;
+    if (const QString fault = input.readFile(path); !fault.isEmpty()) {
+        mWindow.notices().showNotice({QStringLiteral("%1 can't be read: %2").arg(path, fault)});
         return false;
     }
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    FCmdInput input;
-    input.readInputString(stream, path);
     const FMessageCatcher messages;
     bool isDone = false;
     const int script = ++mScripts;

@@ -52,6 +52,8 @@ TEST(FStatementParserTest, statements) {
         {"a(\"x)\nb()\nc(\"y\")",
          "s:1:3: a text that began in 1:3 runs over 3 lines: is its closing \" missing? "
          "(expected \")\" after the arguments in 3:4, found \"y\")\n"},
+        {"x = 0,5",
+         "s:1:6: expected the end of the statement, found \",\" (a number has a decimal point, as in 0.5)\n"},
         {"# a", "s:1:1: expected a value, found \"#\" (a comment begins with //)\n"},
         {"a('x')", "s:1:3: expected a value, found \"'\" (a text is between double quotes: \"text\")\n"},
         {"k += 1", "s:1:4: expected a value, found \"=\" (instead of \"k += 1\" write \"k = k + 1\")\n"},

@@ -26,6 +26,9 @@ int FRunSubcommand::run() const {
         return exitCode;
     }
     FCustomComputation& computation = *mTarget.computation();
+    if (!mChain) {
+        mTarget.readSuppliers();
+    }
     const bool isDone = mChain ? computation.runWithSuppliers() : computation.run();
     auto* results = dynamic_cast<FResultsGeneric*>(computation.getCurrentResults().ptr());
     if (isDone && results && results->prepareResults()) {

@@ -2,10 +2,11 @@
 
 #include "merix/FSubcommand.h"
 
+#include <QList>
 #include <QStringList>
 
+class FConfigurationCustom;
 class FCustomComputation;
-class FEntry;
 
 /** The computation that a subcommand works on: one of a project, with the values that options set. */
 class FSetUpTarget {
@@ -17,7 +18,7 @@ class FSetUpTarget {
 
     FSubcommand::Argument projectArgument() { return {"PROJECT", "The project", &mProject, true}; }
     FSubcommand::Argument setArgument() {
-        return {"--set ENTRY=VALUE", "Sets the value of an entry for this call; can be repeated", &mValues};
+        return {"--set NAME=VALUE", "Sets an entry or a parameter for this call; can be repeated", &mValues};
     }
     FSubcommand::Argument computationArgument() {
         return {"--computation NAME", "The computation, if the project has several", &mName};
@@ -26,6 +27,11 @@ class FSetUpTarget {
     /** Opens the project, finds the computation and sets the values. Returns an exit code, with a message for others
      *  than FExitCode::done. */
     int open(Access access) const;
+    /**
+     * Reads the results of the last runs of those computations whose results it uses, with a warning where such a run
+     * isn't valid any more.
+     */
+    void readSuppliers() const;
     /** The computation; null before a successful `open`. */
     FCustomComputation* computation() const { return mpComputation; }
 
@@ -36,7 +42,14 @@ class FSetUpTarget {
     static FCustomComputation* find(const QString& name);
 
  private:
+    /** A value that an option sets: a parameter, or an entry of a configuration. Empty for an unknown name. */
+    struct FPlace;
+
     bool set(const QString& assignment) const;
+    FPlace placeOf(const QString& name, QString& fault) const;
+    /** The configuration of the computation, and those of the computations whose results it uses. */
+    QList<FConfigurationCustom*> configurations() const;
+    QStringList knownNames() const;
 
     std::string mProject;
     std::string mName;

@@ -6,6 +6,10 @@
 #include "merix/FExitCode.h"
 
 #include <QDir>
+#include <QFile>
+
+#include <filesystem>
+#include <system_error>
 
 std::vector<FSubcommand::Argument> FWriteSubcommand::arguments() {
     return {mTarget.projectArgument(),
@@ -20,11 +24,16 @@ int FWriteSubcommand::run() const {
         return exitCode;
     }
     const QDir folder(QDir(QString::fromStdString(mFolder)).absolutePath());
-    if (!folder.mkpath(QStringLiteral("."))) {
-        FLogMsg::error(QStringLiteral("merix"), QStringLiteral("can't create the folder \"%1\"").arg(folder.path()),
+    std::error_code fault;
+    std::filesystem::create_directories(QFile::encodeName(folder.path()).toStdString(), fault);
+    if (fault) {
+        FLogMsg::error(QStringLiteral("merix"),
+                       QStringLiteral("can't create the folder \"%1\": %2")
+                           .arg(folder.path(), QString::fromStdString(fault.message())),
                        QStringLiteral("Give another one with --out"));
         return FExitCode::fileError;
     }
+    mTarget.readSuppliers();
     const FCustomComputation& computation = *mTarget.computation();
     FSetUpReport().log(FSetUpCheck::problemsOf(computation, true));
     if (!computation.writeInput(folder.path() + QLatin1Char('/'))) {
@@ -33,10 +42,10 @@ int FWriteSubcommand::run() const {
     int notReplaced = 0;
     for (const FSetUpInput& input : FSetUpCheck::inputsOf(computation)) {
         notReplaced += input.notReplaced;
-        FStandardOutput::write(QStringLiteral("%1: %2 tags replaced, %3 not replaced\n")
-                                   .arg(QDir::cleanPath(folder.path() + QLatin1Char('/') + input.file))
-                                   .arg(input.replaced)
-                                   .arg(input.notReplaced));
+        FStandardOutput::write(QStringLiteral("%1: %2 %3 replaced, %4 not replaced\n")
+                                   .arg(QDir::cleanPath(folder.path() + QLatin1Char('/') + input.file), QString::number(input.replaced),
+                                        input.replaced == 1 ? QStringLiteral("tag") : QStringLiteral("tags"),
+                                        QString::number(input.notReplaced)));
     }
     return notReplaced > 0 ? FExitCode::failed : FExitCode::done;
 }

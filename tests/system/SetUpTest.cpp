@@ -104,12 +104,18 @@ print(comp.run(), t.getElementAt("dubble"), conf.setEntryValue("y", 1))
 }
 
 TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
-    makeProject();
+    makeProject("parameter p(1)\n");
     const QByteArray project = read("p.mrx");
-    const Outcome written = merix({"write", "p.mrx", "--set", "x=21", "--set", "name=b c", "--out", "by hand/1"});
+    const Outcome written =
+        merix({"write", "p.mrx", "--set", "p=7", "--set", "x=3*p", "--set", "name=b c", "--out", "by hand/1"});
     EXPECT_EQ(written.exitCode, 0) << written.errors.toStdString();
     EXPECT_EQ(written.output, path("by hand/1/in.txt") + ": 2 tags replaced, 0 not replaced\n");
     EXPECT_EQ(read("by hand/1/in.txt"), "x=21\nname=b c\n");
+    for (const auto& [value, text] : {std::pair("format(7, \"%4d\")", "   7"), std::pair("  pi() ", "  pi() "),
+                                      std::pair("pi()", "pi()"), std::pair("no(7)", "no(7)")}) {
+        merix({"write", "p.mrx", "--set", QString("name=") + value, "--out", "text"});
+        EXPECT_EQ(read("text/in.txt"), QByteArray("x=2\nname=") + text + "\n") << value;
+    }
 
     write("by hand/1/out.txt", "double 42\nname 1\n");
     const QMap<QString, QByteArray> before = files();
@@ -122,7 +128,13 @@ TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
         EXPECT_NE(other.output, seen.output) << form;
     }
     EXPECT_EQ(files(), before) << QStringList(files().keys()).join('\n').toStdString();
-    EXPECT_EQ(merix({"read", "p.mrx", "--dir", "by hand"}).exitCode, 1) << "no output file";
+    const Outcome missing = merix({"read", "p.mrx", "--dir", "by hand", "--csv"});
+    EXPECT_EQ(missing.exitCode, 1) << "no output file";
+    EXPECT_TRUE(missing.output.contains("\ndouble,NaN,out.txt,,file not read\n")) << missing.output.toStdString();
+    write("empty/out.txt", "");
+    const Outcome empty = merix({"read", "p.mrx", "--dir", "empty"});
+    EXPECT_TRUE(empty.output.contains("double = NaN\n")) << empty.output.toStdString();
+    EXPECT_TRUE(empty.errors.contains("nothing is in 'out.txt'")) << empty.errors.toStdString();
     EXPECT_EQ(merix({"read", "p.mrx", "--dir", "none"}).exitCode, 3);
 
     const Outcome ran = merix({"run", "p.mrx", "--set", "x=1+4", "--json"});
@@ -147,7 +159,7 @@ TEST_F(SetUpTest, callsAreRefusedWithTheNearestName) {
         {{"run", "p.mrx"}, "--computation: \"comp\", \"other\""},
         {{"run", "p.mrx", "--computation", "othr"}, "did you mean \"other\""},
         {{"run", "p.mrx", "--computation", "comp", "--set", "nmae=b"}, "did you mean \"name\""},
-        {{"write", "p.mrx", "--computation", "comp", "--set", "x", "--out", "d"}, "ENTRY=VALUE"},
+        {{"write", "p.mrx", "--computation", "comp", "--set", "x", "--out", "d"}, "NAME=VALUE"},
         {{"write", "p.mrx", "--computation", "comp", "--set", "x=abc", "--out", "d"}, "\"abc\" is no value"},
         {{"write", "p.mrx"}, "--out"},
     };
@@ -181,9 +193,18 @@ genericIntegrationComputation adder() {
     ASSERT_TRUE(QDir(path()).mkdir("other"));
     const Outcome imported = merix({"import", "a.lodm", "--into", "other/q"});
     EXPECT_EQ(imported.exitCode, 0) << imported.errors.toStdString();
-    const Outcome ran = merix({"run", "other/q.mrx", "--computation", "adder", "--chain"});
+    const QStringList adder{"other/q.mrx", "--computation", "adder"};
+    EXPECT_EQ(merix(QStringList{"write", "--out", "w"} + adder).exitCode, 1) << "no results to link to";
+    const Outcome ran = merix(QStringList{"run", "--chain"} + adder);
     EXPECT_EQ(ran.exitCode, 0) << ran.errors.toStdString();
     EXPECT_EQ(ran.output, "sum = 5\n");
+    const Outcome written = merix(QStringList{"write", "--out", "w"} + adder);
+    EXPECT_EQ(written.exitCode, 0) << written.errors.toStdString();
+    EXPECT_TRUE(read("w/out.txt").startsWith("double 4")) << "of the last run";
+    const Outcome outdated = merix(QStringList{"write", "--out", "w", "--set", "conf.x=5"} + adder);
+    EXPECT_TRUE(outdated.errors.contains("aren't valid (finished, of an earlier set-up (x was 2, is 5))"))
+        << outdated.errors.toStdString();
+    EXPECT_EQ(merix(QStringList{"run", "--chain", "--set", "x=5"} + adder).output, "sum = 11\n");
     EXPECT_EQ(merix({"import", "a.lodm", "--into", "other/q.mrx"}).exitCode, 0);
     const Outcome again = merix({"run", "other/q.mrx", "--computation", "adder_01", "--chain"});
     EXPECT_EQ(again.output, "sum = 5\n") << again.errors.toStdString();

@@ -52,21 +52,20 @@ bool FReadSubcommand::hasFiles(const QDir& folder) const {
     const FConfigurationCustom* configuration = mTarget.computation()->getConfiguration().ptr();
     const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
     const QStringList names = definition ? definition->getReadFiles() : QStringList();
+    const QString path = folder.path() + QLatin1Char('/');
     bool hasAll = true;
     for (const QString& name : names) {
-        if (!QFileInfo(folder.filePath(name)).isFile()) {
+        const QString fault = FResultFiles(path, {name}).unreadable();
+        const bool isThere = QFileInfo(folder.filePath(name)).isFile();
+        if (!isThere || !fault.isEmpty()) {
             FLogMsg::error(QStringLiteral("merix"),
-                           QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
-                           QStringLiteral("Its values are NaN"));
-            hasAll = false;
-        } else if (const QString fault = FResultFiles(folder.path() + QLatin1Char('/'), {name}).unreadable();
-                   !fault.isEmpty()) {
-            FLogMsg::error(QStringLiteral("merix"), QStringLiteral("%1 can't be read").arg(fault),
+                           isThere ? QStringLiteral("%1 can't be read").arg(fault)
+                                   : QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
                            QStringLiteral("Its values are NaN"));
             hasAll = false;
         }
     }
-    if (const QString empty = FResultFiles(folder.path() + QLatin1Char('/'), names).empty(); !empty.isEmpty()) {
+    if (const QString empty = FResultFiles(path, names).empty(); !empty.isEmpty()) {
         FLogMsg::warning(QStringLiteral("merix"), QStringLiteral("nothing is in %1").arg(empty),
                          QStringLiteral("Its values are NaN"));
     }

@@ -43,7 +43,8 @@ int FWriteSubcommand::run() const {
     for (const FSetUpInput& input : FSetUpCheck::inputsOf(computation)) {
         notReplaced += input.notReplaced;
         FStandardOutput::write(QStringLiteral("%1: %2 %3 replaced, %4 not replaced\n")
-                                   .arg(QDir::cleanPath(folder.path() + QLatin1Char('/') + input.file), QString::number(input.replaced),
+                                   .arg(QDir::cleanPath(folder.path() + QLatin1Char('/') + input.file),
+                                        QString::number(input.replaced),
                                         input.replaced == 1 ? QStringLiteral("tag") : QStringLiteral("tags"),
                                         QString::number(input.notReplaced)));
     }

@@ -37,7 +37,7 @@ int lastSeparator(const QString& path) {
 bool openForWriting(QFile& file, const QString& name, QString& reason) {
     if (FSafePath::leadsOut(file.fileName().chopped(name.size()), name)) {
         FLogMsg::info(source(), QStringLiteral("\"%1\" leads out of the run directory").arg(name),
-                      QStringLiteral("give the template a file name below it"));
+                      QStringLiteral("Give the template a file name below it"));
         reason = QStringLiteral("it leads out of the run directory");
         return false;
     }
@@ -143,7 +143,7 @@ QString FGenIntWriter::previewText(const FGenIntFile& file, const FValueTable& t
         FLogMsg::info(source(),
                       QStringLiteral("The preview of %1 is longer than %2 characters")
                           .arg(file.getFileName(), QString::number(longestPreview)),
-                      QStringLiteral("the rest isn't shown"));
+                      QStringLiteral("The rest isn't shown"));
     }
     return text;
 }

@@ -34,7 +34,7 @@ void FValueParameters::follow(const FGenIntResultsFile& file, FValueReference be
             if (fresh.isEmpty()) {
                 FLogMsg::warning(parameter->getName(),
                                  QStringLiteral("it reads \"%1\", which has another name now").arg(before.text()),
-                                 QStringLiteral("set it to \"%1\"").arg(after.text()));
+                                 QStringLiteral("Set it to \"%1\"").arg(after.text()));
             } else {
                 parameter->setValue(fresh);
             }

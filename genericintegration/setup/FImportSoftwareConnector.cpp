@@ -94,7 +94,7 @@ void FImportSoftwareConnector::doImport(QFile& file, bool flag) {
     FLogMsg::error(file.fileName(),
                    QStringLiteral("the set-ups can't be imported: the file is longer than %1 MiB")
                        .arg(FLodmDefinitionParser::longestFile >> 20U),
-                   QStringLiteral("nothing was read"));
+                   QStringLiteral("Nothing was read"));
 }
 
 void FImportSoftwareConnector::importBytes(const QByteArray& bytes, const QString& source) {

@@ -187,7 +187,7 @@ void FLodmDefinitionParser::error(const FPlace& place, const QString& message) {
     mDefinition = {};
     ++mFaultCount;
     FLogMsg::error(place.toString(mSource), QStringLiteral("the definition can't be read: ") + message,
-                   QStringLiteral("nothing was read; correct the file, or save the definition again"));
+                   QStringLiteral("Nothing was read; correct the file, or save the definition again"));
 }
 
 // Objects are created by the creator command of their class, as in a script.

@@ -59,13 +59,13 @@ void FLodmEntryBuilder::warn(const FLodmEntry& entry, const QString& reason) {
     if (++mFaulty <= mostErrors && mTells) {
         FLogMsg::warning(entry.valuePlace.toString(mSource),
                          QStringLiteral("the default of entry \"%1\" can't be taken over: %2").arg(entry.name, reason),
-                         QStringLiteral("the entry has none now; give it one"));
+                         QStringLiteral("The entry has none now; give it one"));
     }
 }
 
 void FLodmEntryBuilder::reportRest() const {
     if (mFaulty > mostErrors) {
         FLogMsg::warning(mSource, QStringLiteral("%1 more defaults can't be taken over").arg(mFaulty - mostErrors),
-                         QStringLiteral("their entries have none now; give them one"));
+                         QStringLiteral("Their entries have none now; give them one"));
     }
 }

@@ -42,7 +42,7 @@ class LeftOut {
             if (isLeftOut && ++mCount <= mostErrors) {
                 FLogMsg::warning(owner.getName(),
                                  QStringLiteral("%1 names \"%2\", which isn't saved along").arg(valueName, name),
-                                 QStringLiteral("where no object has this name, ") + consequence);
+                                 QStringLiteral("Where no object has this name, ") + consequence);
             }
         }
     }

@@ -102,7 +102,7 @@ bool FExternComputation::run(bool wait) {
 bool FExternComputation::mayRun() const {
     if (!canRun()) {
         FLogMsg::warning(getName(), QStringLiteral("A run is still in progress"),
-                         QStringLiteral("start another when it has ended, or cancel it"));
+                         QStringLiteral("Start another when it has ended, or cancel it"));
     }
     return canRun();
 }
@@ -398,7 +398,7 @@ bool FExternComputation::rereadResults() {
     }
     if (!refetchResults()) {
         FLogMsg::warning(getName(), QStringLiteral("There are no results that can be read again"),
-                         canRun() ? QStringLiteral("run it first") : QStringLiteral("wait for the end of the run"));
+                         canRun() ? QStringLiteral("Run it first") : QStringLiteral("Wait for the end of the run"));
         return false;
     }
     const QString problem = mResults.rereadProblem(getReadFiles(), mRules);

@@ -118,7 +118,7 @@ void FAutosave::save() {
     const QString fault = keep(FProjectText::write());
     if (!fault.isEmpty() && !mHasFailed) {
         FLogMsg::warning(pathOf(mProject), QStringLiteral("can't keep unsaved work: %1").arg(fault),
-                         QStringLiteral("save the project yourself, under another name if need be"));
+                         QStringLiteral("Save the project yourself, under another name if need be"));
     }
     mHasFailed = !fault.isEmpty();
     mPause = std::max(shortestPause, share * duration.elapsed());
@@ -156,6 +156,6 @@ void FAutosave::moveForeignAside() {
     const QString aside = FSavedFile::freeName(path + QLatin1Char('~'));
     if (QFile::rename(path, aside)) {
         FLogMsg::info(mProject, QStringLiteral("unsaved work of an earlier session that nobody recovered is kept"),
-                      QStringLiteral("it is in \"%1\"; remove it when you no longer need it").arg(aside));
+                      QStringLiteral("It is in \"%1\"; remove it when you no longer need it").arg(aside));
     }
 }

@@ -46,7 +46,7 @@ bool FProject::isIdle(const char* command) {
     return !FHistory::instance()->inTransaction() ||
            fail(QString::fromLatin1(command),
                 QStringLiteral("a project can't be replaced in the middle of a step that can be undone"),
-                QStringLiteral("call it in a statement of its own"));
+                QStringLiteral("Call it in a statement of its own"));
 }
 
 void FProject::clearModel() {
@@ -136,16 +136,16 @@ bool FProject::open(const QString& path, bool recover) {
         FLogMsg::warning(file, QStringLiteral("there is no unsaved work to recover; opened as it was saved"));
     } else if (recover) {
         FLogMsg::info(file, QStringLiteral("recovered the unsaved work of %1").arg(news),
-                      QStringLiteral("save the project to keep it"));
+                      QStringLiteral("Save the project to keep it"));
     } else if (hasNews && !isOwn && !isOpenElsewhere(file)) {
-        FLogMsg::warning(file,
-                         QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
-                         QStringLiteral("openProject(file, true) recovers it"));
+        FLogMsg::warning(
+            file, QStringLiteral("there is unsaved work of %1, from a session that didn't end well").arg(news),
+            QStringLiteral("Recover it with openProject(file, true), or remove \"%1\"").arg(FAutosave::pathOf(file)));
     }
     return errors == 0 || fail(source,
                                errors == 1 ? QStringLiteral("1 error; what it concerns was not loaded")
                                            : QStringLiteral("%1 errors; what they concern was not loaded").arg(errors),
-                               QStringLiteral("saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
+                               QStringLiteral("Saving keeps what couldn't be read as \"%1.damaged\"").arg(file));
 }
 
 // A process that only reads takes no lock.
@@ -163,7 +163,7 @@ void FProject::keepDamaged(const QString& file, const QString& source) {
     const QString fault = FSavedFile::keep(source, kept);
     if (!fault.isEmpty()) {
         FLogMsg::error(kept, QStringLiteral("can't keep what couldn't be read: %1").arg(fault),
-                       QStringLiteral("copy \"%1\" before you save").arg(source));
+                       QStringLiteral("Copy \"%1\" before you save").arg(source));
     }
 }
 
@@ -178,31 +178,35 @@ void FProject::use(const QString& file, bool recovered) {
             break;
         case FProjectLock::State::Elsewhere:
             FLogMsg::warning(file, QStringLiteral("the project is open elsewhere (%1)").arg(mLock.getHolder()),
-                             QStringLiteral("to keep changes or to run something, save it under another name"));
+                             QStringLiteral("To keep changes or to run something, save it under another name"));
             break;
         case FProjectLock::State::None:
             FLogMsg::warning(file, QStringLiteral("nothing can be written in its folder, so unsaved work isn't kept"),
-                             QStringLiteral("to keep changes, save it in another folder"));
+                             QStringLiteral("To keep changes, save it in another folder"));
             break;
     }
 }
 
 bool FProject::mayWrite(const QString& file, FProjectLock& lock) const {
     const QString source = QStringLiteral("saveProject");
-    const QString other = QStringLiteral("save it under another name");
+    const QString other = QStringLiteral("Save it under another name");
     if (file.isEmpty()) {
-        return fail(source, QStringLiteral("the project has no file yet"), QStringLiteral("give a file name"));
+        return fail(source, QStringLiteral("the project has no file yet"), QStringLiteral("Give a file name"));
     }
     const QFileInfo info(file);
     if (info.isDir() || info.fileName() == QLatin1String(".mrx")) {
-        return fail(source, QStringLiteral("\"%1\" names a folder").arg(file), QStringLiteral("give a file name"));
+        return fail(source, QStringLiteral("\"%1\" names a folder").arg(file), QStringLiteral("Give a file name"));
     }
     if (!mLock.isHeldOn(file) && lock.acquire(file) == FProjectLock::State::Elsewhere) {
-        return fail(file, QStringLiteral("not saved: the project is open elsewhere (%1)").arg(lock.getHolder()), other);
+        return fail(file,
+                    QStringLiteral("the project is open elsewhere (%1), and isn't saved here").arg(lock.getHolder()),
+                    other);
     }
     const bool isPresent = file == FMerixCtrl::instance()->getProjectFile();
     return !isPresent || !info.exists() || mStamp == stampOf(file) ||
-           fail(file, QStringLiteral("not saved: another program has changed the file since it was opened here"),
+           fail(file,
+                QStringLiteral(
+                    "another program has changed the file since it was opened here, and the project isn't saved"),
                 other);
 }
 
@@ -219,8 +223,8 @@ bool FProject::save(const QString& path) {
     }
     const QString reason = write(file);
     if (!reason.isEmpty()) {
-        return fail(file, QStringLiteral("not saved: %1").arg(reason),
-                    QStringLiteral("save it under another name, or in another folder"));
+        return fail(file, QStringLiteral("it can't be written: %1").arg(reason),
+                    QStringLiteral("Save it under another name, or in another folder"));
     }
     const bool isTaken = lock.isHeldOn(file);
     const bool isOther = file != FMerixCtrl::instance()->getProjectFile();

@@ -40,7 +40,7 @@ bool removeUnreadable(QLockFile& file, const QString& project) {
         return false;
     }
     FLogMsg::warning(project, QStringLiteral("the lock file was empty or damaged"),
-                     QStringLiteral("it was replaced, since no process of this computer has it"));
+                     QStringLiteral("It was replaced, since no process of this computer has it"));
     return true;
 }
 

@@ -70,11 +70,11 @@ bool FProjectText::load(const QString& path) {
     QFile file(path);
     if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
         return refuse(path, QStringLiteral("can't read the project: ") + fault,
-                      QStringLiteral("give the name of a project, such as \"wing.mrx\"; the present one is unchanged"));
+                      QStringLiteral("Give the name of a project, such as \"wing.mrx\"; the present one is unchanged"));
     }
     const QByteArray bytes = file.size() > largestFile ? QByteArray() : FFile::readAtMost(file, largestFile + 1);
     if (std::max(file.size(), qint64{bytes.size()}) > largestFile) {
-        return refuse(path, tooLarge(file.size()), QStringLiteral("the present project is unchanged"));
+        return refuse(path, tooLarge(file.size()), QStringLiteral("The present project is unchanged"));
     }
     if (const int line = FTextDecoder::firstInvalidLine(bytes)) {
         ++mWarnings;
@@ -93,7 +93,7 @@ bool FProjectText::checkHeader() {
         return refuse(mPath,
                       QStringLiteral("it is no project: its first line is \"%1\", not \"%2%3\"")
                           .arg(line.trimmed().left(60), QLatin1String(header), QString::number(version)),
-                      QStringLiteral("if it is one that lost its first line, give it that line; nothing was changed"));
+                      QStringLiteral("If it is one that lost its first line, give it that line; nothing was changed"));
     }
     if (!match.hasMatch()) {
         ++mWarnings;
@@ -102,7 +102,7 @@ bool FProjectText::checkHeader() {
                            .arg(QLatin1String(header))
                            .arg(version)
                            .arg(line.trimmed().left(60)),
-                       QStringLiteral("read as a project of that format"));
+                       QStringLiteral("Read as a project of that format"));
         return true;
     }
     const int found = match.captured(1).toInt();
@@ -111,7 +111,7 @@ bool FProjectText::checkHeader() {
                   QStringLiteral("the project was written in format %1; this program reads formats up to %2")
                       .arg(found)
                       .arg(version),
-                  QStringLiteral("open it with the program that saved it, or a newer one; nothing was changed"));
+                  QStringLiteral("Open it with the program that saved it, or a newer one; nothing was changed"));
 }
 
 int FProjectText::restore() const {

@@ -121,7 +121,7 @@ TEST_F(FProjectTest, theVersionBeforeIsKept) {
     }
     EXPECT_EQ(QDir(path()).entryList({"*.saving*"}), QStringList());
     EXPECT_FALSE(save("no/such/folder/p.mrx"));
-    EXPECT_EQ(log().filter("not saved: ").size(), 2) << logText();
+    EXPECT_EQ(log().filter("it can't be written: ").size(), 2) << logText();
     EXPECT_TRUE(read("p.mrx").contains("thing a(2)"));
     EXPECT_EQ(FMerixCtrl::instance()->getProjectFile(), path("p.mrx"));
 }

@@ -1,5 +1,6 @@
 #include "merix/FReadSubcommand.h"
 
+#include "host/core/FFile.h"
 #include "host/core/FLogMsg.h"
 #include "host/core/FStandardOutput.h"
 #include "host/lodm/FCustomComputation.h"
@@ -55,12 +56,16 @@ bool FReadSubcommand::hasFiles(const QDir& folder) const {
     const QString path = folder.path() + QLatin1Char('/');
     bool hasAll = true;
     for (const QString& name : names) {
-        const QString fault = FResultFiles(path, {name}).unreadable();
-        const bool isThere = QFileInfo(folder.filePath(name)).isFile();
-        if (!isThere || !fault.isEmpty()) {
+        QFile file(folder.filePath(name));
+        const bool exists = file.exists();
+        if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
             FLogMsg::error(QStringLiteral("merix"),
-                           isThere ? QStringLiteral("%1 can't be read").arg(fault)
-                                   : QStringLiteral("there is no file \"%1\"").arg(folder.filePath(name)),
+                           exists ? QStringLiteral("can't read \"%1\": %2").arg(file.fileName(), fault)
+                                  : QStringLiteral("there is no file \"%1\"").arg(file.fileName()),
+                           QStringLiteral("Its values are NaN"));
+            hasAll = false;
+        } else if (const QString unreadable = FResultFiles(path, {name}).unreadable(); !unreadable.isEmpty()) {
+            FLogMsg::error(QStringLiteral("merix"), QStringLiteral("%1 can't be read").arg(unreadable),
                            QStringLiteral("Its values are NaN"));
             hasAll = false;
         }

@@ -1,4 +1,4 @@
-// What a run needs, in load order.
+// What a run needs, in load order, and the places of the window part in it.
 
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FGenIntWriter.h"
@@ -20,9 +20,12 @@ namespace {
 
 const FInitPrototypes<FEnum<GenIntAnchorOccurrence>, FGenIntResultsFileValue, FAttribCmdSetAverageRows, FGenIntReader,
                       FGenIntWriter, FGenIntCommandFile, FGenIntFile, FGenIntResultsFile, FImportSoftwareConnector,
-                      FResultsGenInt, FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation, FConnectorClass,
-                      FGenIntEditor, FPreviewCommands>
-    types;
+                      FResultsGenInt, FConfigurationGenInt, FDefinitionGenInt, FGenIntComputation>
+    models;
+const FPrototypePlace editors("template editors");
+const FInitPrototypes<FConnectorClass> connector;
+const FPrototypePlace items("connector items");
+const FInitPrototypes<FGenIntEditor, FPreviewCommands> commands;
 
 const bool isChecked = FGenIntCheck::enable();
 

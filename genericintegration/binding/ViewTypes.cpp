@@ -21,12 +21,11 @@
 
 namespace {
 
-// In load order, after those that a run needs.
-const FInitPrototypes<FGenIntCommandFileEditor, FGenIntResultsFileEditor, FSoftwareConnectorItem, FSoftConObjectItem,
-                      FSoftConComputationItem, FSoftConTemplateItem, FSoftConInputTemplateItem,
-                      FSoftConOutputTemplateItem, FSoftConEntryItem, FSoftConExportItem, FSoftConFileNameItem,
-                      FSoftConFileNameRefItem, FSoftConImportItem>
-    types;
+const FInitPrototypes<FGenIntCommandFileEditor, FGenIntResultsFileEditor> editors("template editors");
+const FInitPrototypes<FSoftwareConnectorItem, FSoftConObjectItem, FSoftConComputationItem, FSoftConTemplateItem,
+                      FSoftConInputTemplateItem, FSoftConOutputTemplateItem, FSoftConEntryItem, FSoftConExportItem,
+                      FSoftConFileNameItem, FSoftConFileNameRefItem, FSoftConImportItem>
+    items("connector items");
 
 const bool arePagesSet = [] {
     FObjectPages::set(QStringLiteral("FGenIntCommandFile"), [](FManaged& object, FNavigator& navigator) {

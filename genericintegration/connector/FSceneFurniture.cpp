@@ -1,6 +1,7 @@
 #include "genericintegration/connector/FSceneFurniture.h"
 
 #include "genericintegration/connector/FSceneColors.h"
+#include "genericintegration/connector/FSoftwareConnector.h"
 #include "host/gui/base/FIcons.h"
 
 #include <QFontInfo>
@@ -24,9 +25,9 @@ constexpr double controlDepth = -1;
 }  // namespace
 
 const std::array<QString, filledAreas>& FSceneFurniture::labels() {
-    static const std::array<QString, filledAreas> texts{QStringLiteral("Input Files"), QStringLiteral("Input Geometry"),
-                                                        QStringLiteral("Result Values"),
-                                                        QStringLiteral("Result Files")};
+    using F = FSoftwareConnector;
+    static const std::array<QString, filledAreas> texts{F::smInputAreaLabel, F::smExportAreaLabel, F::smOutputAreaLabel,
+                                                        F::smImportAreaLabel};
     return texts;
 }
 

@@ -14,11 +14,11 @@ namespace {
 
 void addSizeActions(QMenu& menu, FSoftConScene& scene, const QString& presentSize) {
     auto* group = new QActionGroup(&menu);
-    for (const char* size : {"Large", "Medium", "Small"}) {
-        const QString text = QString::fromLatin1(size);
-        QAction* action = menu.addAction(FIcons::get(QStringLiteral(":/softConItemSize_") + text), text);
+    using F = FSoftwareConnector;
+    for (const QString& size : {F::smIconSize_Largest, F::smIconSize_Medium, F::smIconSize_Smallest}) {
+        QAction* action = menu.addAction(FIcons::get(QStringLiteral(":/softConItemSize_") + size), size);
         action->setCheckable(true);
-        action->setChecked(text == presentSize);
+        action->setChecked(size == presentSize);
         group->addAction(action);
     }
     QObject::connect(group, &QActionGroup::triggered, &scene, &FSoftConScene::resizeItem);

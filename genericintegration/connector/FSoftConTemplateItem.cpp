@@ -3,6 +3,7 @@
 #include "genericintegration/connector/FItemScene.h"
 #include "genericintegration/connector/FSceneColors.h"
 #include "genericintegration/connector/FSetUpObjects.h"
+#include "genericintegration/connector/FSoftwareConnector.h"
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
@@ -65,7 +66,7 @@ void FSoftConTemplateItem::updateItem() {
     if (!layout) {
         return;
     }
-    if (layout->getSizeName() == QLatin1String("Small")) {
+    if (layout->getSizeName() == FSoftwareConnector::smIconSize_Smallest) {
         setPixmap(drawingOf(QStringLiteral(":/softConTemplate_Small")));
         mPaintedSize = QSize();
     } else {

@@ -54,6 +54,14 @@ const QString& sizeKey() {
 FClassData FSoftwareConnector::mClass("FSoftwareConnector", &FSoftConBase::mClass,
                                       &connectorCommands<FSoftwareConnector>, &connectorFields<FSoftwareConnector>);
 
+const QString FSoftwareConnector::smInputAreaLabel = QStringLiteral("Input Files");
+const QString FSoftwareConnector::smOutputAreaLabel = QStringLiteral("Result Values");
+const QString FSoftwareConnector::smExportAreaLabel = QStringLiteral("Input Geometry");
+const QString FSoftwareConnector::smImportAreaLabel = QStringLiteral("Result Files");
+const QString FSoftwareConnector::smIconSize_Largest = QStringLiteral("Large");
+const QString FSoftwareConnector::smIconSize_Medium = QStringLiteral("Medium");
+const QString FSoftwareConnector::smIconSize_Smallest = QStringLiteral("Small");
+
 const FObject* FSoftwareConnector::initPrototype() {
     const FObject* prototype = FClass::initPrototype();
     prototype->addDocu(FConnectorHelp::text(), static_cast<int>(FDocuArea::Help));

@@ -29,6 +29,15 @@ class FSoftwareConnector : public FClass<FSoftwareConnector, FSoftConBase> {
     static FClassData mClass;
     static const FObject* initPrototype();
 
+    // Titles of the areas, and names of the sizes of items.
+    static const QString smInputAreaLabel;
+    static const QString smOutputAreaLabel;
+    static const QString smExportAreaLabel;
+    static const QString smImportAreaLabel;
+    static const QString smIconSize_Largest;
+    static const QString smIconSize_Medium;
+    static const QString smIconSize_Smallest;
+
     explicit FSoftwareConnector(const QString& name = QString());
     ~FSoftwareConnector() override;
     static FSoftwareConnector* create(const QString& name, const FExpr<FExternComputation>& computation);

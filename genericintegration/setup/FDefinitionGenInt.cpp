@@ -18,8 +18,6 @@ namespace {
 
 using Files = QList<FExpr<FGenIntFile>>;
 
-constexpr unsigned int shownInDefinitions = 1;
-
 /** Files belong to what their definition belongs to. */
 void passOn(void (FManaged::*set)(bool), bool flag, const Files& files) {
     for (const FExpr<FGenIntFile>& file : files) {

@@ -17,6 +17,8 @@ class FParser;
 class FDefinitionGenInt : public FClass<FDefinitionGenInt, FDefinitionCustom>, public FTemplateOwner {
  public:
     static FClassData mClass;
+    /** System flag of the classes that belong to definitions. */
+    static constexpr unsigned int shownInDefinitions = 1;
 
     static FDefinitionGenInt* create(const FExpr<FScope>& scope, const QString& name, const FExpr<FParser>& parser);
     /** A new definition of the model with a copy of the entries, without files. */

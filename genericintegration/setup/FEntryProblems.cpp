@@ -270,6 +270,13 @@ void FEntryProblems::findWritten(const FEntry& entry, const FObject* value, cons
                          QStringLiteral("is %1, and \"%2\" is written for it").arg(fault, basic->toPlainString()),
                      setRemedy(entry), use.place)
             .isOfValue = true;
+    } else if (basic->toPlainString().contains(QChar::Null)) {
+        problems
+            .error(
+                mConfiguration.getName(),
+                entryText(entry) + QStringLiteral("has a NUL character, and all text after it is missing in the file"),
+                setRemedy(entry), use.place)
+            .isOfValue = true;
     } else if (!use.fieldPlace.isEmpty()) {
         findOtherWidth(entry, basic->toPlainString(), use, problems);
     }

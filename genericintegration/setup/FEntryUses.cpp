@@ -39,7 +39,8 @@ void FEntryUses::findIn(const FGenIntFile& file, FSetUpCheck::Uses& uses) const 
             continue;
         }
         QStringList& found = ofRow[row];
-        const QString place = QStringLiteral("%1:%2").arg(file.getName()).arg(places.at(tag->position).line);
+        const QString place =
+            QStringLiteral("%1:%2").arg(file.getName(), QString::number(places.at(tag->position).line));
         if (found.size() < mostPlaces && (found.isEmpty() || found.last() != place)) {
             found.append(place);
         }

@@ -20,7 +20,8 @@ void commands(FCmdTable& table) {
 
 }  // namespace
 
-FClassData FGenIntEditor::mClass("FGenIntEditor", &FManaged::mClass, &commands, &FGenIntEditor::fields);
+FClassData FGenIntEditor::mClass("FGenIntEditor", &FManaged::mClass, &commands, &FGenIntEditor::fields,
+                                 FDefinitionGenInt::shownInDefinitions);
 
 std::vector<std::unique_ptr<FStateField>> FGenIntEditor::fields() {
     return FStateFields<FGenIntEditor>().member(&FGenIntEditor::mDefinition).take();

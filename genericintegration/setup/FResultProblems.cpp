@@ -3,6 +3,7 @@
 #include "genericintegration/io/FAnchorSearch.h"
 #include "genericintegration/io/FTemplateValues.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
+#include "host/lodm/FLodmConfigurationParser.h"
 #include "host/run/FResultFiles.h"
 #include "host/run/FResultText.h"
 
@@ -86,6 +87,8 @@ void FResultProblems::findValues(const FGenIntResultsFile& file, FProblemList& p
                        QStringLiteral("Columns count from 0; correct it in the list of setValues"))
                 .part = value->mName;
         }
+        findRows(file, *value, which, problems);
+        findImportType(file, *value, which, problems);
         ++number;
     }
 }
@@ -111,5 +114,30 @@ void FResultProblems::findAnchors(const FGenIntResultsFile& file, FProblemList& 
                          QStringLiteral("Correct the anchor, or the sample"))
                 .part = values[i]->mName;
         }
+    }
+}
+
+void FResultProblems::findRows(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value,
+                               const QString& which, FProblemList& problems) {
+    // A number of rows that reads files is known only in a run.
+    const bool isKnown = value.mNumAverageRows.isEmpty() || value.mNumAverageRows.canSafelyBeUpdated(false);
+    if (value.mCalcAverage && isKnown && FTemplateValues::describe(value).averageRows == 0) {
+        problems
+            .error(file.getName(), which + QStringLiteral("is an average over no rows, and gives no number"),
+                   QStringLiteral("Give it a whole number of rows from 1, or switch its average off"))
+            .part = value.mName;
+    }
+}
+
+void FResultProblems::findImportType(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value,
+                                     const QString& which, FProblemList& problems) {
+    if (FTemplateValues::isFileName(value) && !FLodmConfigurationParser::knowsType(value.mImportType)) {
+        problems
+            .warning(file.getName(),
+                     which + QStringLiteral("has the import type \"%1\", which isn't known, so that its file isn't "
+                                            "imported")
+                                 .arg(value.mImportType),
+                     FLodmConfigurationParser::knownTypes())
+            .part = value.mName;
     }
 }

@@ -7,6 +7,7 @@
 
 class FGenIntFile;
 class FGenIntResultsFile;
+class FGenIntResultsFileValue;
 
 /** Finds the problems of the result templates of a definition. */
 class FResultProblems {
@@ -18,4 +19,8 @@ class FResultProblems {
     static void findSeparators(const FGenIntResultsFile& file, FProblemList& problems);
     static void findValues(const FGenIntResultsFile& file, FProblemList& problems);
     static void findAnchors(const FGenIntResultsFile& file, FProblemList& problems);
+    static void findRows(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value, const QString& which,
+                         FProblemList& problems);
+    static void findImportType(const FGenIntResultsFile& file, const FGenIntResultsFileValue& value,
+                               const QString& which, FProblemList& problems);
 };

@@ -72,9 +72,8 @@ double averageOfLast(const FResultsGenInt& results, int numberOfRows, int column
         } else if (FTableCommands::checkColumn(table, column) && numberOfRows > table.getRowCount()) {
             FCmd::warnNow(table.getName(),
                           QStringLiteral("%1 has %2 rows instead of %3")
-                              .arg(table.getName())
-                              .arg(table.getRowCount())
-                              .arg(numberOfRows),
+                              .arg(table.getName(), QString::number(table.getRowCount()),
+                                   QString::number(numberOfRows)),
                           QStringLiteral("The result is the mean of all rows"));
         }
     });
@@ -195,6 +194,12 @@ double FResultsGenInt::ask(Ask question) const {
     const bool mayRead = prepareResults();
     const FTableData* table = mayRead && !tables().isEmpty() ? tables().first().ptr() : nullptr;
     if (!table) {
+        // The number of rows of an average may be a number of the same results.
+        if (isReading()) {
+            FCmd::warnNow(getName(), QStringLiteral("a number was requested while the results are read"),
+                          QStringLiteral("It is NaN; getTable(\"FILE\").getElementAt(\"NAME\") gives numbers of "
+                                         "templates that have been read before"));
+        }
         return std::numeric_limits<double>::quiet_NaN();
     }
     noteRequest(*table);

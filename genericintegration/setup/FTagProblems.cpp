@@ -102,6 +102,7 @@ void FTagProblems::find(FProblemList& problems, FTagUses& uses) {
     }
     findMisspelledMarker(problems);
     findForeignBytes(problems);
+    findNul(problems);
 }
 
 void FTagProblems::look(const FTemplateTag& tag, FProblemList& problems, FTagUses& uses) {
@@ -225,9 +226,23 @@ void FTagProblems::findForeignBytes(FProblemList& problems) {
     }
 }
 
+// The file is written up to it.
+void FTagProblems::findNul(FProblemList& problems) {
+    const int position = mText.indexOf(QChar::Null);
+    if (position >= 0) {
+        const bool isWide = mText.indexOf(QChar::Null, position + 1) == position + 2;
+        problems.error(mFile.getName(),
+                       QStringLiteral("the sample has a NUL character; it and all text after it are missing in %1")
+                           .arg(mInput.file),
+                       isWide ? QStringLiteral("The sample looks like UTF-16: save it as UTF-8, and read it again")
+                              : QStringLiteral("Remove it from the sample; only text files can be input templates"),
+                       placeOf(position));
+    }
+}
+
 QString FTagProblems::placeOf(qsizetype position) {
     const FTextPlace place = mPlaces.at(position);
-    return QStringLiteral("%1:%2:%3").arg(mFile.getName()).arg(place.line).arg(place.column);
+    return QStringLiteral("%1:%2:%3").arg(mFile.getName(), QString::number(place.line), QString::number(place.column));
 }
 
 /** The first character after a tag that isn't blank. */

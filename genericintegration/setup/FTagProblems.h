@@ -35,6 +35,7 @@ class FTagProblems {
     void findMisspelledMarker(FProblemList& problems);
     void findLoneClosing(qsizetype begin, qsizetype end, FProblemList& problems);
     void findForeignBytes(FProblemList& problems);
+    void findNul(FProblemList& problems);
     /** Adds what to do about a tag that names nothing. */
     void addRemedy(const QString& name, FSetUpProblem& problem) const;
     QString placeOf(qsizetype position);

@@ -13,10 +13,10 @@ class FGenIntCommandFile : public FClass<FGenIntCommandFile, FGenIntFile> {
     /** A new template without a name, text and file name. */
     FObject* clone() const override;
 
-    /** The names in the tags, in the order of first appearance. Tags in capitals aren't seen here. */
-    virtual QStringList getEntryNames() const;
     /** Gives each tag whose whole name is `oldName`, in any case, the new name. */
     virtual void updateFile(const QString& oldName, const QString& newName);
+    /** The names in the tags, in the order of first appearance. Tags in capitals aren't seen here. */
+    virtual QStringList getEntryNames() const;
 
  protected:
     explicit FGenIntCommandFile(const QString& name = QString()) : FClass(name) {}

@@ -119,13 +119,15 @@ void FGenIntFile::initFromFile(const QString& path) {
     const QByteArray bytes = FFile::readAtMost(file, longestSample + 1);
     file.close();
     if (bytes.size() > longestSample) {
-        FLogMsg::error(getClass(), QStringLiteral("\"%1\" has more than %2 bytes").arg(path).arg(longestSample),
+        FLogMsg::error(getClass(),
+                       QStringLiteral("\"%1\" has more than %2 bytes").arg(path, QString::number(longestSample)),
                        QStringLiteral("It isn't read; a part of it is enough for a template"));
         return;
     }
     const int badLine = FTextDecoder::firstInvalidLine(bytes);
     if (badLine > 0) {
-        FLogMsg::warning(getClass(), QStringLiteral("\"%1\" isn't valid UTF-8 in line %2").arg(path).arg(badLine),
+        FLogMsg::warning(getClass(),
+                         QStringLiteral("\"%1\" isn't valid UTF-8 in line %2").arg(path, QString::number(badLine)),
                          QStringLiteral("What can't be read is replaced; save the file as UTF-8"));
     }
     setContent(FTextDecoder::decode(bytes));

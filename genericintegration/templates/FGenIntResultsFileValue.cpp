@@ -8,6 +8,7 @@
 #include "host/script/FSavedTextReader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 FClassData FGenIntResultsFileValue::mClass("FGenIntResultsFileValue", &FBasicType::mClass, nullptr,
@@ -46,7 +47,8 @@ QString oddPlaceIn(const FExpr<FObject>& element) {
     }
     const FBasicType* value = valueOf(element);
     const auto* number = dynamic_cast<const FDouble*>(value);
-    if (!value || (number && number->toDouble() == number->toInt())) {
+    const bool isFlag = dynamic_cast<const FBool*>(value);
+    if (!value || isFlag || (number && number->toDouble() == number->toInt())) {
         return {};
     }
     return number ? number->toString() : quoteText(value->toString());
@@ -66,8 +68,8 @@ QString oddPlaceText(const QString& given, const char* what) {
     return given.isEmpty()
                ? QString()
                : QStringLiteral("has the %1 %2, which isn't a %3number, and takes %4")
-                     .arg(QLatin1String(what), given, isQuoted(given) ? QString() : QStringLiteral("whole "))
-                     .arg(numberTaken(given));
+                     .arg(QLatin1String(what), given, isQuoted(given) ? QString() : QStringLiteral("whole "),
+                          QString::number(numberTaken(given)));
 }
 
 /** Says that a text isn't the flag of an average; empty if the flag is a number, a truth value or missing. */
@@ -92,6 +94,21 @@ QString faultOfType(const QString& name) {
                       "\"FString\" or \"FFileName\"")
                       .arg(name)
                 : QStringLiteral("has the type \"%1\", which isn't known, and is read as a number").arg(name);
+}
+
+/** Says that an average is over no number of rows that there can be; an expression that reads files is for the check.
+ */
+QString faultOfRows(const std::vector<FExpr<FObject>>& elements) {
+    const bool isGiven = elements.size() > fieldsWithoutAverage + 1 && elements.back().canSafelyBeUpdated(false);
+    const FBasicType* flag = isGiven ? valueOf(elements[fieldsWithoutAverage]) : nullptr;
+    const FBasicType* rows = isGiven ? valueOf(elements[fieldsWithoutAverage + 1]) : nullptr;
+    const double number = rows ? rows->toDouble() : 1;
+    const bool isWhole = std::isfinite(number) && number == std::floor(number);
+    if (!flag || flag->toDouble() == 0 || (isWhole && number >= 1)) {
+        return {};
+    }
+    return QStringLiteral("has an average over %1 rows, and gives no number; write a whole number from 1")
+        .arg(rows->toString());
 }
 
 void readInt(const FExpr<FObject>& element, int& number) {
@@ -205,6 +222,9 @@ QString FGenIntResultsFileValue::faultOf(const FExpr<FObject>& value) {
             .arg(occurrence);
     }
     if (const QString fault = faultOfAverage(elements); !fault.isEmpty()) {
+        return fault;
+    }
+    if (const QString fault = faultOfRows(elements); !fault.isEmpty() && !FSavedTextReader::isReading()) {
         return fault;
     }
     QString type;

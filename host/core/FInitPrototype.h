@@ -19,31 +19,42 @@ class MERIX_EXPORT FInitFManagedPrototype {
     virtual ~FInitFManagedPrototype() = default;
 };
 
-/** @param needsWindows  whether the class contains a widget */
+/**
+ * @param needsWindows  whether the class contains a widget
+ * @param place         see `FPrototypes::remember`
+ */
 class FInitFViewPrototype {
  public:
-    explicit FInitFViewPrototype(FPrototypes::Build build, bool needsWindows) {
-        FPrototypes::remember(build, needsWindows);
+    explicit FInitFViewPrototype(FPrototypes::Build build, bool needsWindows, const char* place) {
+        FPrototypes::remember(build, needsWindows, place);
     }
     virtual ~FInitFViewPrototype() = default;
+};
+
+/** A place in the load order for types that another part of a library registers. */
+class FPrototypePlace {
+ public:
+    explicit FPrototypePlace(const char* name) { FPrototypes::rememberPlace(name); }
 };
 
 /** Registers the types in the order of the list. */
 template <class... Types>
 class MERIX_EXPORT FInitPrototypes {
  public:
-    FInitPrototypes() { (registerType<Types>(), ...); }
+    FInitPrototypes() { (registerType<Types>(nullptr), ...); }
+    /** Registers classes of windows at a place. */
+    explicit FInitPrototypes(const char* place) { (registerType<Types>(place), ...); }
 
  private:
     template <class T>
-    static void registerType() {
+    static void registerType(const char* place) {
         constexpr FFamily family = FPrototypes::familyOf<T>();
         if constexpr (family == FFamily::View) {
-            FInitFViewPrototype registrar(&T::initPrototype, needsWindows<T>());
+            FInitFViewPrototype registrar(&T::initPrototype, needsWindows<T>(), place);
         } else if constexpr (family == FFamily::Managed) {
             FInitFManagedPrototype registrar(&T::initPrototype);
         } else if constexpr (needsWindows<T>()) {
-            FPrototypes::remember(&T::initPrototype, true);
+            FPrototypes::remember(&T::initPrototype, true, place);
         } else {
             FInitFObjectPrototype registrar(&T::initPrototype);
         }

@@ -85,6 +85,11 @@ bool containsWord(const QString& text, const QString& word) {
     return false;
 }
 
+/** Whether a place, as "file:line", is one of a source. */
+bool isPlaceOf(const QString& place, const QString& source) {
+    return place.startsWith(source) && (place.size() == source.size() || place[source.size()] == QLatin1Char(':'));
+}
+
 bool endsSentence(const QString& text) {
     return !text.isEmpty() && QStringLiteral(".!?:\n").contains(text.back());
 }
@@ -96,7 +101,7 @@ QString FLogMsg::toLine() const {
     if (!place.isEmpty()) {
         line += place + QStringLiteral(": ");
     }
-    if (!source.isEmpty() && (place.isEmpty() || !(containsWord(message, source) || place.startsWith(source)))) {
+    if (!source.isEmpty() && (place.isEmpty() || !(containsWord(message, source) || isPlaceOf(place, source)))) {
         line += source + QStringLiteral(": ");
     }
     line += message;

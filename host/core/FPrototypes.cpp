@@ -4,18 +4,21 @@
 #include "host/core/FScriptLanguage.h"
 #include "host/core/FView.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <utility>
 
 namespace {
 
 struct Pending {
-    FPrototypes::Build build;
+    FPrototypes::Build build;  // null for a place
     bool needsWindows;
+    QByteArray place;
 };
 
 struct Registry {
@@ -47,12 +50,27 @@ Family dataOf(FFamily family) {
     return {&FView::mInitPrototype, "init FView prototype: "};
 }
 
+/** What is pending with everything at its place. */
+std::vector<Pending> inOrder(const std::vector<Pending>& pending) {
+    std::vector<Pending> ordered;
+    for (const Pending& next : pending) {
+        const auto isPlace = [&next](const Pending& each) { return !each.build && each.place == next.place; };
+        if (!next.build) {
+            std::copy_if(pending.begin(), pending.end(), std::back_inserter(ordered),
+                         [&](const Pending& each) { return each.build && each.place == next.place; });
+        } else if (next.place.isEmpty() || std::none_of(pending.begin(), pending.end(), isPlace)) {
+            ordered.push_back(next);
+        }
+    }
+    return ordered;
+}
+
 /** Those that can be built now; the others stay. */
 std::vector<FPrototypes::Build> takeReady() {
     std::vector<FPrototypes::Build> ready;
     std::vector<Pending> waiting;
     const bool hasWindows = FPrototypes::hasWindows();
-    for (const Pending& next : std::exchange(registry().pending, {})) {
+    for (const Pending& next : inOrder(std::exchange(registry().pending, {}))) {
         if (next.needsWindows && !hasWindows) {
             waiting.push_back(next);
         } else {
@@ -66,8 +84,12 @@ std::vector<FPrototypes::Build> takeReady() {
 
 }  // namespace
 
-void FPrototypes::remember(Build build, bool needsWindows) {
-    registry().pending.push_back({build, needsWindows});
+void FPrototypes::remember(Build build, bool needsWindows, const char* place) {
+    registry().pending.push_back({build, needsWindows, place});
+}
+
+void FPrototypes::rememberPlace(const char* place) {
+    registry().pending.push_back({nullptr, false, place});
 }
 
 // Not asked of Qt's widgets, which this library doesn't know.

@@ -21,8 +21,13 @@ class MERIX_EXPORT FPrototypes {
  public:
     using Build = const FObject* (*)();
 
-    /** Remembers how a class's prototype is built. */
-    static void remember(Build build, bool needsWindows = false);
+    /**
+     * Remembers how a class's prototype is built.
+     * @param place  where it comes in the order, as given to `rememberPlace`; null for after all remembered before
+     */
+    static void remember(Build build, bool needsWindows = false, const char* place = nullptr);
+    /** What is remembered for a place, before or after this call, is built after all that was remembered before it. */
+    static void rememberPlace(const char* place);
     /** Builds what was remembered since the last call, as far as it can be built, and registers its commands. */
     static void buildPending();
     /** Whether the program has windows: only then can widgets be made. */

@@ -1,20 +1,27 @@
 #include "host/core/FTextDecoder.h"
 
 #include <QTextCodec>
-#include <QTextStream>
+
+namespace {
+
+QTextCodec* codecFor(const QByteArray& bytes) {
+    return QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
+}
+
+}  // namespace
 
 QString FTextDecoder::decode(const QByteArray& bytes) {
-    QTextStream stream(bytes);
-    stream.setCodec("UTF-8");
-    return stream.readAll();
+    QTextCodec::ConverterState state;
+    const QString text = codecFor(bytes)->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.remainingChars == 0 ? text : text + QChar(QChar::ReplacementCharacter);
 }
 
 int FTextDecoder::firstInvalidLine(const QByteArray& bytes) {
-    QTextCodec* codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
+    QTextCodec* codec = codecFor(bytes);
     QTextCodec::ConverterState whole;
     codec->toUnicode(bytes.constData(), bytes.size(), &whole);
     if (whole.invalidChars == 0) {
-        return 0;
+        return whole.remainingChars == 0 ? 0 : 1 + static_cast<int>(bytes.count('\n')) - bytes.endsWith('\n');
     }
     int line = 1;
     QTextCodec::ConverterState state;

@@ -73,6 +73,7 @@ QString FUserInterface::askFolder(const QString& caption, const QString& startPa
 
 void FUserInterface::showTexts(const QString& title, const QMap<QString, QString>& texts) {
     for (auto text = texts.begin(); text != texts.end(); ++text) {
-        FLogMsg::info(title, QStringLiteral("%1: %2 characters").arg(text.key()).arg(text->size()), QString());
+        FLogMsg::info(title, QStringLiteral("%1: %2 characters").arg(text.key(), QString::number(text->size())),
+                      QString());
     }
 }

@@ -102,8 +102,7 @@ FExpr<FDefinition> addEntry(FDefinition& definition, const QString& path, const 
         return refuse(definition,
                       QStringLiteral("\"%1\" would occur more than %2 times, which is the most of a configuration; "
                                      "lower the counts of its groups")
-                          .arg(path)
-                          .arg(FEntryTree::mostEntries));
+                          .arg(path, QString::number(FEntryTree::mostEntries)));
     }
     FEntryHolder* holder = groupOf(definition, names, reason);
     if (!holder) {

@@ -45,8 +45,7 @@ FEntryDef* FEntryDef::create(const QString& name, FEntryHolder* parent, int leas
         FLogMsg::warning(
             QStringLiteral("FEntryDef"),
             QStringLiteral("entry \"%1\" isn't in a definition, or in a group of one with at most %2 levels")
-                .arg(name)
-                .arg(mostEntryLevels),
+                .arg(name, QString::number(mostEntryLevels)),
             QStringLiteral("It isn't created"));
         return nullptr;
     }

@@ -25,7 +25,7 @@ QString legalEntryName(const QString& text) {
 QStringList splitEntryPath(const QString& path, QString& reason) {
     const QStringList names = path.split(QLatin1Char('|'));
     if (names.size() > mostEntryLevels) {
-        reason = QStringLiteral("\"%1\" has more than %2 levels").arg(path).arg(mostEntryLevels);
+        reason = QStringLiteral("\"%1\" has more than %2 levels").arg(path, QString::number(mostEntryLevels));
         return {};
     }
     const auto wrong = std::find_if_not(names.begin(), names.end(), isEntryName);

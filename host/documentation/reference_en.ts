@@ -3405,6 +3405,14 @@ print(getAttribute(drag, "setValues"))</translation>
         <translation>print(First, Last)</translation>
     </message>
     <message>
+        <source>!FEnum&lt;SoftConItemSize&gt;</source>
+        <translation>Size of the items in a software connector: Large, Medium or Small. It has no commands; the words are arguments of setItemSize.</translation>
+    </message>
+    <message>
+        <source>!FEnum&lt;SoftConItemSize&gt;:example</source>
+        <translation>print(Large, Medium, Small)</translation>
+    </message>
+    <message>
         <source>!FSoftwareConnectorItem</source>
         <translation>A picture with a caption in the window of a software connector. Its context menu copies the name of its file.</translation>
     </message>

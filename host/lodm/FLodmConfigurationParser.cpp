@@ -49,6 +49,14 @@ FLodmConfigurationParser::Make FLodmConfigurationParser::makerOf(const QString& 
     return type == QLatin1String("tecplot") ? &FLodmConfigurationParser::makeZones : nullptr;
 }
 
+bool FLodmConfigurationParser::knowsType(const QString& type) {
+    return makerOf(type) != nullptr;
+}
+
+QString FLodmConfigurationParser::knownTypes() {
+    return QStringLiteral("known are \"text\", \"table\" and \"tecplot\"");
+}
+
 QString FLodmConfigurationParser::makeText(const QString& text, const QString& name) {
     mObjects.insert(name, FExpr<FObject>(new FString(text)));
     return {};
@@ -101,8 +109,7 @@ bool FLodmConfigurationParser::doImport(const QString& type, const QString& path
     mZones.clear();
     const Make make = makerOf(type);
     if (!make) {
-        report(path, QStringLiteral("the import type \"%1\" isn't known").arg(type),
-               QStringLiteral("known are \"text\", \"table\" and \"tecplot\""));
+        report(path, QStringLiteral("the import type \"%1\" isn't known").arg(type), knownTypes());
         return true;
     }
     QFile file(QDir(mFolder).filePath(path));

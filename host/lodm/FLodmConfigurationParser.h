@@ -30,6 +30,9 @@ class MERIX_EXPORT FLodmConfigurationParser {
      * reason to drop what refers to it.
      */
     bool doImport(const QString& type, const QString& path, const QString& name);
+    static bool knowsType(const QString& type);
+    /** "known are …", for a message. */
+    static QString knownTypes();
     const Objects& getObjects() const { return mObjects; }
     /** The tables of zones, in the order of the file. */
     const QList<FExpr<FTableData>>& getZones() const { return mZones; }

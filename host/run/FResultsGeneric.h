@@ -86,6 +86,7 @@ class MERIX_EXPORT FResultsGeneric : public FClass<FResultsGeneric, FComputation
     virtual void readOutputFiles() const;
     /** The names of the values that a table should have, if they are known. */
     virtual QStringList valueNamesOf(int) const { return {}; }
+    bool isReading() const { return mReading; }
     /** The next access reads the files again. */
     void forgetReading() const { mFilesRead = false; }
     void becameOutOfDate() const override;

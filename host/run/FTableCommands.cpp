@@ -116,9 +116,8 @@ bool checkPlace(const F& table, double row, double column) {
                                                       : QStringLiteral("row %1").arg(row, 0, 'g', 16);
         FCmd::warnNow(table.getName(),
                       QStringLiteral("%1 has no %2; it has %3 rows and %4 columns, counted from 0")
-                          .arg(table.getName(), has)
-                          .arg(table.getRowCount())
-                          .arg(table.getColumnCount()),
+                          .arg(table.getName(), has, QString::number(table.getRowCount()),
+                               QString::number(table.getColumnCount())),
                       QStringLiteral("The result is NaN"));
     }
     return found;
@@ -129,9 +128,7 @@ bool checkColumn(const F& table, int column) {
     if (!exists) {
         FCmd::warnNow(table.getName(),
                       QStringLiteral("%1 has no column %2; it has %3 columns, counted from 0")
-                          .arg(table.getName())
-                          .arg(column)
-                          .arg(table.getColumnCount()),
+                          .arg(table.getName(), QString::number(column), QString::number(table.getColumnCount())),
                       QStringLiteral("The result is NaN"));
     }
     return exists;

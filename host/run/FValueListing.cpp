@@ -22,9 +22,10 @@ struct FValueListing::FRow {
     bool isOfEarlierSetUp = false;
 
     QString place() const {
-        return origin.line < 0     ? file
-               : origin.column < 0 ? QStringLiteral("%1:%2").arg(file).arg(origin.line)
-                                   : QStringLiteral("%1:%2:%3").arg(file).arg(origin.line).arg(origin.column);
+        return origin.line < 0 ? file
+               : origin.column < 0
+                   ? QStringLiteral("%1:%2").arg(file, QString::number(origin.line))
+                   : QStringLiteral("%1:%2:%3").arg(file, QString::number(origin.line), QString::number(origin.column));
     }
     QStringList flags() const {
         QStringList names = namesOf(origin.flags);

@@ -18,7 +18,7 @@ constexpr int mostOfAKind = 3;
 constexpr int mostListed = 5;
 
 QString placeIn(const FTableData& table, const FNumberOrigin& origin) {
-    return origin.lineToShow() > 0 ? QStringLiteral("%1:%2").arg(table.getName()).arg(origin.lineToShow())
+    return origin.lineToShow() > 0 ? QStringLiteral("%1:%2").arg(table.getName(), QString::number(origin.lineToShow()))
                                    : table.getName();
 }
 
@@ -60,7 +60,7 @@ struct FGroup {
         const int others = count - texts.size();
         const QString rest =
             others > 0 ? QStringLiteral("; and %1 more, which getListing() of the table shows").arg(others) : QString();
-        return QStringLiteral("%1 %2: %3%4").arg(count).arg(kind, parts.join(QStringLiteral("; ")), rest);
+        return QStringLiteral("%1 %2: %3%4").arg(QString::number(count), kind, parts.join(QStringLiteral("; ")), rest);
     }
 };
 

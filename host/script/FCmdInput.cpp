@@ -131,8 +131,7 @@ bool FCmdInput::include(const QString& path) {
     }
     if (mIncludes >= mostIncludes) {
         FLogMsg::error(mFile, QStringLiteral("\"%1\" is included from more than %2 files within one another")
-                                  .arg(resolved)
-                                  .arg(mostIncludes));
+                                  .arg(resolved, QString::number(mostIncludes)));
         ++mErrors;
         return false;
     }

@@ -18,7 +18,7 @@ QString nameOf(const QString& project) {
 }
 
 QString holderText(const QString& program, qint64 process, const QString& host) {
-    return QStringLiteral("%1, process %2 on %3").arg(program).arg(process).arg(host);
+    return QStringLiteral("%1, process %2 on %3").arg(program, QString::number(process), host);
 }
 
 QString holderText(const QLockFile& file, const QString& name) {

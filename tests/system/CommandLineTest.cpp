@@ -6,7 +6,18 @@
 
 namespace {
 
-class CommandLineTest : public FProgramTest {};
+class CommandLineTest : public FProgramTest {
+ protected:
+    /** Each of the lines is there once, in this order. */
+    static void expectOrder(const QString& output, const QStringList& lines) {
+        int last = -1;
+        for (const QString& line : lines) {
+            EXPECT_EQ(output.count(line), 1) << line.toStdString();
+            EXPECT_GT(output.indexOf(line), last) << line.toStdString();
+            last = output.indexOf(line);
+        }
+    }
+};
 
 TEST_F(CommandLineTest, wrongCallsAreReportedWithCode2) {
     for (const QStringList& arguments :
@@ -181,12 +192,16 @@ TEST_F(CommandLineTest, theLoadTraceIsPrintedOnRequest) {
                             "init FObject prototype: FCmdchooseResultsFilenullFStringchooseResultsFileCommand\n",
                             "init FObject prototype: FEnum<SoftConItemSize>\n",
                             "init FView prototype: FSoftwareConnector\n"};
-    int last = -1;
-    for (const QString& line : order) {
-        EXPECT_EQ(trace.count(line), 1) << line.toStdString();
-        EXPECT_GT(trace.indexOf(line), last) << line.toStdString();
-        last = trace.indexOf(line);
-    }
+    expectOrder(trace, order);
+    // Classes of windows are built among the others.
+    const Outcome window =
+        merix({"gui", "--screenshot", path("w.png")}, QString(), {"VERBOSE=1", "QT_QPA_PLATFORM=offscreen"});
+    expectOrder(window.output,
+                {order[6], "init FView prototype: FGenIntCommandFileEditor\n",
+                 "init FView prototype: FGenIntResultsFileEditor\n", order[7], order[10],
+                 "init FObject prototype: FSoftwareConnectorItem\n", "init FObject prototype: FSoftConImportItem\n",
+                 "init FObject prototype: FCreateCmdFGenIntEditorgenericIntegrationEditor\n",
+                 "init FManaged prototype: FGenIntEditor\n"});
 }
 
 }  // namespace

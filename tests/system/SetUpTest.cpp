@@ -135,6 +135,10 @@ TEST_F(SetUpTest, writesTheInputRunsAndReadsItBack) {
     const Outcome empty = merix({"read", "p.mrx", "--dir", "empty"});
     EXPECT_TRUE(empty.output.contains("double = NaN\n")) << empty.output.toStdString();
     EXPECT_TRUE(empty.errors.contains("nothing is in 'out.txt'")) << empty.errors.toStdString();
+    EXPECT_TRUE(missing.errors.contains("there is no file \"" + path("by hand/out.txt")))
+        << missing.errors.toStdString();
+    ASSERT_TRUE(QDir(path("by hand")).mkdir("out.txt"));
+    EXPECT_TRUE(merix({"read", "p.mrx", "--dir", "by hand"}).errors.contains("it is a folder"));
     EXPECT_EQ(merix({"read", "p.mrx", "--dir", "none"}).exitCode, 3);
 
     const Outcome ran = merix({"run", "p.mrx", "--set", "x=1+4", "--json"});

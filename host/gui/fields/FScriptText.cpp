@@ -10,7 +10,8 @@ namespace {
 
 QString reasonOf(const FSyntaxError& error) {
     const QString message = error.message.left(1).toUpper() + error.message.mid(1);
-    return error.place.column > 1 ? QStringLiteral("%1 (column %2)").arg(message).arg(error.place.column) : message;
+    return error.place.column > 1 ? QStringLiteral("%1 (column %2)").arg(message, QString::number(error.place.column))
+                                  : message;
 }
 
 }  // namespace

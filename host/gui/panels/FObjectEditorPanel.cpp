@@ -96,6 +96,7 @@ FObjectEditorPanel::FObjectEditorPanel(FNavigator& navigator)
     hint->setMargin(fontMetrics().height());
     mpScroll->setFrameShape(QFrame::NoFrame);
     mpScroll->setWidgetResizable(true);
+    mpScroll->setFocusPolicy(Qt::NoFocus);
     mpScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mpForm = new FAttributeForm(mpScroll);
     mpScroll->setWidget(mpForm);

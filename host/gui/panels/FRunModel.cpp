@@ -26,7 +26,7 @@ QString causeOf(const FRunRecord& record) {
     const bool isOfProgram = record.cause == Cause::ExitCode || record.cause == Cause::Signal;
     const FCauseLines::Line line = FCauseLines::fromText(record.causeLines.section(QLatin1Char('\n'), 0, 0));
     return isOfProgram && !line.file.isEmpty()
-               ? QStringLiteral("%1 (%2:%3)").arg(line.text.simplified(), line.file).arg(line.number)
+               ? QStringLiteral("%1 (%2:%3)").arg(line.text.simplified(), line.file, QString::number(line.number))
                : record.message.section(QLatin1Char('\n'), 0, 0);
 }
 
@@ -313,7 +313,8 @@ QString FRunModel::textOf(int row, int column) const {
     const Attempt& shown = attempt(row);
     switch (column) {
         case runColumn:
-            return shown.number > 0  ? QStringLiteral("%1 %2").arg(shown.record->computation).arg(shown.number)
+            return shown.number > 0
+                       ? QStringLiteral("%1 %2").arg(shown.record->computation, QString::number(shown.number))
                    : shown.isPlanned ? shown.record->computation
                                      : QStringLiteral("%1, earlier").arg(shown.record->computation);
         case stateColumn:

@@ -77,7 +77,7 @@ QString lineToHtml(const QString& text, const QString& folder) {
     if (line.file.isEmpty() || folder.isEmpty()) {
         return text.toHtmlEscaped();
     }
-    const QString place = QStringLiteral("%1:%2").arg(line.file).arg(line.number);
+    const QString place = QStringLiteral("%1:%2").arg(line.file, QString::number(line.number));
     return QStringLiteral("&nbsp;&nbsp;%1 <tt>%2</tt>")
         .arg(link(fileLink(folder + line.file, line.number), place), line.text.toHtmlEscaped());
 }

@@ -24,7 +24,7 @@ QString FOutputAccessible::text(QAccessible::Text kind) const {
     }
     if (kind == QAccessible::Description) {
         const qint64 line = viewer().getTopLine();
-        return line > 0 ? QStringLiteral("%1, from line %2 on").arg(viewer().text().getPath()).arg(line)
+        return line > 0 ? QStringLiteral("%1, from line %2 on").arg(viewer().text().getPath(), QString::number(line))
                         : viewer().text().getPath();
     }
     return QAccessibleWidget::text(kind);

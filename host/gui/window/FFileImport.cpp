@@ -27,7 +27,7 @@ QString namesOf(const QList<FExpr<FExternComputation>>& computations) {
     }
     const QString all = names.join(QStringLiteral(", "));
     const int others = static_cast<int>(computations.size()) - most;
-    return others > 0 ? QStringLiteral("%1 and %2 more").arg(all).arg(others) : all;
+    return others > 0 ? QStringLiteral("%1 and %2 more").arg(all, QString::number(others)) : all;
 }
 
 QString countOf(int number) {

@@ -154,7 +154,7 @@ void FMainWindow::showProblemCount(int count) {
                         : count == 1 ? QStringLiteral("1 problem")
                                      : QStringLiteral("%1 problems").arg(count));
     mpPanels->dockOf(QStringLiteral("problems"))
-        ->setWindowTitle(count == 0 ? problems : QStringLiteral("%1 (%2)").arg(problems).arg(count));
+        ->setWindowTitle(count == 0 ? problems : QStringLiteral("%1 (%2)").arg(problems, QString::number(count)));
 }
 
 void FMainWindow::listen() {

@@ -210,7 +210,7 @@ void FProjectFiles::openExample(const QString& name) {
     }
     QString folder = QDir(parent).filePath(name);
     for (int number = 2; QFileInfo::exists(folder); ++number) {
-        folder = QDir(parent).filePath(QStringLiteral("%1-%2").arg(name).arg(number));
+        folder = QDir(parent).filePath(QStringLiteral("%1-%2").arg(name, QString::number(number)));
     }
     if (!copyFolder(QDir(FPathManager::instance()->getSamplesDir()).filePath(name), folder)) {
         mWindow.notices().showNotice(

@@ -59,6 +59,10 @@ TEST_F(FGenIntFileTest, initFromFileTakesTextAndNames) {
     EXPECT_EQ(file->getFileName(), "beam.inp");
     EXPECT_EQ(file->getName(), "beam_inp");
     EXPECT_TRUE(logHolds("isn't valid UTF-8 in line 3"));
+    // A file that was cut within a character.
+    file->initFromFile(folder.write("cut.inp", "a\ncaf\xc3"));
+    EXPECT_EQ(file->getPlainContent(), QString::fromUtf8("a\ncaf\ufffd"));
+    EXPECT_TRUE(logHolds("cut.inp\" isn't valid UTF-8 in line 2"));
 }
 
 }  // namespace

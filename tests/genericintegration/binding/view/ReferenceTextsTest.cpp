@@ -40,7 +40,7 @@ QSet<QString> keysOfCommands() {
         }
     }
     // So is each class of the plug-in, with those that only windows have.
-    const QRegularExpression ofPlugin("GenInt|SoftCon[A-Z]\\w+Item|SoftwareConnectorItem");
+    const QRegularExpression ofPlugin("GenInt|SoftCon[A-Z]\\w+Item|SoftConItemSize|SoftwareConnectorItem");
     for (const QString& name : FPrototypes::getNames()) {
         if (name.contains(ofPlugin) && !name.contains(QStringLiteral("Cmd"))) {
             addClass(keys, name);

@@ -70,11 +70,11 @@ double averageOfLast(const FResultsGenInt& results, int numberOfRows, int column
                           QStringLiteral("getAverageOfLastRows: %1 rows have no mean").arg(numberOfRows),
                           QStringLiteral("The result is NaN; give a number from 1"));
         } else if (FTableCommands::checkColumn(table, column) && numberOfRows > table.getRowCount()) {
-            FCmd::warnNow(table.getName(),
-                          QStringLiteral("%1 has %2 rows instead of %3")
-                              .arg(table.getName(), QString::number(table.getRowCount()),
-                                   QString::number(numberOfRows)),
-                          QStringLiteral("The result is the mean of all rows"));
+            FCmd::warnNow(
+                table.getName(),
+                QStringLiteral("%1 has %2 rows instead of %3")
+                    .arg(table.getName(), QString::number(table.getRowCount()), QString::number(numberOfRows)),
+                QStringLiteral("The result is the mean of all rows"));
         }
     });
     return results.getAverageOfLastRows(numberOfRows, column);

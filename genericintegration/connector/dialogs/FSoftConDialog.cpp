@@ -34,7 +34,7 @@ FSoftConDialog::FSoftConDialog(QWidget* parent, const QString& caption, const QS
     }
     if (lineEdit()) {
         connect(lineEdit(), &QLineEdit::textChanged, this, [this](const QString& text) {
-            mShownText = text;
+            mShownText = lineEdit()->text();
             lineEditChanged(text);
         });
     }

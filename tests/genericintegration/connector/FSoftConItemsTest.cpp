@@ -253,6 +253,17 @@ TEST_F(FSoftConItemsTest, aFileOfACommandIsReplacedOnlyIfTheUserWantsIt) {
     EXPECT_EQ(definition().getFiles(0).size(), 0);
     ASSERT_EQ(dialogs().questions.size(), 1);
     EXPECT_TRUE(dialogs().questions[0].contains("A copy of the file (if available) will be stored as template"));
+    // The release went to the question: the next click is one all the same.
+    dialogs().answers.append("Cancel");
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(*item));
+    const QPoint place = placeOf(*item);
+    QMouseEvent second(QEvent::MouseButtonDblClick, place, view().viewport()->mapToGlobal(place), Qt::LeftButton,
+                       Qt::LeftButton, {});
+    QApplication::sendEvent(view().viewport(), &second);
+    scene->calls.clear();
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(*item));
+    EXPECT_EQ(scene->takeCalls().substr(0, 4), "edit");
+    EXPECT_EQ(dialogs().questions.size(), 2);
     dialogs().answers.append("Proceed");
     doubleClick(*item);
     EXPECT_EQ(definition().getFiles(0).size(), 1);

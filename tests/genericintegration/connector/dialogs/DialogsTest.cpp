@@ -24,6 +24,7 @@ class DialogsTest : public FWindowTest {
 
     void open(QFileDialog& dialog) {
         dialog.open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         auto* list = dialog.findChild<QListView*>("listView");
         ASSERT_NE(list, nullptr);
         ASSERT_TRUE(waitUntil([list] { return list->model()->rowCount(list->rootIndex()) == 2; }));

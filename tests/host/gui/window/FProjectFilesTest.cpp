@@ -81,7 +81,7 @@ TEST_F(FProjectFilesTest, unsavedWorkIsNeverLostWithoutAQuestion) {
     EXPECT_TRUE(window().isWindowModified());
     answer("/proc/new.mrx");
     trigger("saveProjectAs");
-    EXPECT_TRUE(window().notices().text().startsWith("/proc/new.mrx: not saved: "))
+    EXPECT_TRUE(window().notices().text().startsWith("/proc/new.mrx: it can't be written: "))
         << window().notices().text().toStdString();
     EXPECT_TRUE(window().isWindowModified());
 

@@ -19,7 +19,7 @@ class FValueSelector : public QWidget {
 
     /**
      * @param values  in the order of the items
-     * @param all  in the order of the template, by which values of one name are told apart
+     * @param all  in the order of the template, which distinguishes values of one name
      * @param current  the one to select; may be empty
      */
     void show(const std::vector<FExpr<FObject>>& values, const std::vector<FExpr<FObject>>& all,

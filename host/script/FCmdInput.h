@@ -36,7 +36,7 @@ class MERIX_EXPORT FCmdInput : public FCmdParser {
 
     /** Executes a script file in between, with the same variables. Called by a running script. */
     bool include(const QString& path);
-    /** Ends the running script after the present command; the next one starts anew. */
+    /** Ends the running script after the present command; the next one starts as usual. */
     void requestExit(int code);
     int getExitCode() const { return mExitCode; }
     /** Whether the script has ended itself. */

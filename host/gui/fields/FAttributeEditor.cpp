@@ -81,6 +81,8 @@ void FAttributeEditor::setControl(QWidget* control) {
     control->setObjectName(command().getName());
     control->setAccessibleName(label());
     control->installEventFilter(this);
+    // Without a policy of its own, setTabOrder would ignore it.
+    setFocusPolicy(control->focusPolicy());
     setFocusProxy(control);
     auto* line = new QHBoxLayout;
     line->setContentsMargins(0, 0, 0, 0);

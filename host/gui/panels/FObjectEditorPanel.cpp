@@ -9,6 +9,7 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FPendingEdit.h"
 #include "host/gui/base/FStateLabel.h"
+#include "host/gui/fields/FAttributeEditor.h"
 #include "host/gui/fields/FObjectNameValidator.h"
 #include "host/gui/panels/FAttributeForm.h"
 #include "host/gui/panels/FEntriesWgt.h"
@@ -232,7 +233,17 @@ void FObjectEditorPanel::showEntries() {
         mpClass->setText(QStringLiteral("entries of %1").arg(configuration->getName()));
     }
     mpScroll->setVisible((!configuration && !definition) || !mpForm->fields().isEmpty());
+    orderTabs();
     mShareHeight.request();
+}
+
+// Qt puts the fields, which are made again for each selection, after all other widgets of the window.
+void FObjectEditorPanel::orderTabs() {
+    QWidget* previous = mpName;
+    for (FAttributeEditor* field : mpForm->fields()) {
+        setTabOrder(previous, field);
+        previous = field;
+    }
 }
 
 // A short form leaves the rest to the entries.

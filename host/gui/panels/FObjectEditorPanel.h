@@ -43,6 +43,7 @@ class MERIX_EXPORT FObjectEditorPanel : public QWidget, public FPendingEdit {
     void showName();
     void showHeader();
     void showEntries();
+    void orderTabs();
     void shareHeight();
     void follow();
     void clearFor(const FManaged* left);

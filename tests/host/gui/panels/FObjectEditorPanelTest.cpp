@@ -3,6 +3,7 @@
 #include "host/core/FObjectEditorWgt.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/fields/FAttributeEditor.h"
+#include "host/gui/panels/FEntriesWgt.h"
 #include "host/gui/panels/FObjectEditorPanel.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "tests/support/window/FWindowTest.h"
@@ -167,6 +168,27 @@ TEST_F(FObjectEditorPanelTest, eachKindOfValueHasItsField) {
     press(choice, Qt::Key_Home);
     settle();
     EXPECT_TRUE(evaluate("getAttribute(solver, \"setDesign\")").isEmpty());
+}
+
+TEST_F(FObjectEditorPanelTest, tabVisitsTheFieldsInTheOrderInWhichTheyAreShown) {
+    for (const char* name : {"solver", "values", "solver"}) {
+        select({name});
+        QWidget* panel = &window().panels().get<FObjectEditorPanel>();
+        QStringList shown;
+        for (const FAttributeEditor* field : panel->findChildren<FAttributeEditor*>()) {
+            shown.append(field->focusProxy()->objectName());
+        }
+        auto* first = panel->findChild<QLineEdit*>("objectName");
+        first->setFocus();
+        QStringList visited;
+        for (int i = 0; i < shown.size(); ++i) {
+            press(qApp->focusWidget(), Qt::Key_Tab);
+            visited.append(qApp->focusWidget()->objectName());
+        }
+        EXPECT_EQ(visited, shown);
+        press(qApp->focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(panel->findChild<FEntriesWgt*>()->isAncestorOf(qApp->focusWidget()), name == QString("values"));
+    }
 }
 
 TEST_F(FObjectEditorPanelTest, severalObjectsShowWhatTheyShare) {

@@ -4,6 +4,7 @@
 #include "genericintegration/editors/FGenIntCommandFileEditEntryButton.h"
 #include "host/gui/base/FIcons.h"
 
+#include <QGuiApplication>
 #include <QToolButton>
 
 namespace {
@@ -56,6 +57,10 @@ void FTemplateButtons::findMouse() {
 }
 
 void FTemplateButtons::update() {
+    // A pressed button belongs to its number until the mouse is released, and a selection needs none.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        return;
+    }
     const std::optional<FTemplateOffer> offer = mMouse && mMayShow() ? underMouse() : std::nullopt;
     if (offer) {
         show(*offer);

@@ -309,7 +309,7 @@ void FExternComputation::runMoved(const QString& from, const QString& to) {
 
 QMap<QString, QString> FExternComputation::describeSetUp() const {
     return {{QStringLiteral("program"), mProgram.executable},
-            {QStringLiteral("program file:"), mProgram.digest()},
+            {QStringLiteral("program file:"), mProgram.fileVersion()},
             {QStringLiteral("arguments"), joined(mProgram.arguments)},
             {QStringLiteral("environment"), joined(mProgram.environment)},
             {QStringLiteral("standard input"), mProgram.standardInput}};

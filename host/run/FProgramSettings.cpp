@@ -1,8 +1,8 @@
 #include "host/run/FProgramSettings.h"
 
-#include "host/run/FFileDigest.h"
 #include "host/run/FSafePath.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
@@ -27,8 +27,13 @@ FProgramSearch FProgramSettings::search() const {
     return FProgramSearch::search(executable, QDir::currentPath(), path);
 }
 
-QString FProgramSettings::digest() const {
-    return FFileDigest::of(search().file);
+// Not its content: a program may have hundreds of megabytes, and the window asks for the set-up after each change.
+QString FProgramSettings::fileVersion() const {
+    const QFileInfo file(search().file);
+    return file.isFile()
+               ? QStringLiteral("%1 bytes of %2")
+                     .arg(QString::number(file.size()), file.lastModified().toUTC().toString(Qt::ISODateWithMs))
+               : QString();
 }
 
 // The system takes such a text up to that character.

@@ -21,8 +21,8 @@ struct MERIX_EXPORT FProgramSettings {
 
     /** The search for the program, in the PATH of the settings or of this process. */
     FProgramSearch search() const;
-    /** Tells different contents of the program's file apart; empty if it isn't found. */
-    QString digest() const;
+    /** Size and time of the last change of the program's file, as a text to compare; empty if it isn't found. */
+    QString fileVersion() const;
     /** Why the program can't be started; empty if nothing prevents it. */
     FProgramFault fault() const;
     /** The same for the start in a folder, whose path has no slash at its end. */

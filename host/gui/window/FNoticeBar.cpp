@@ -29,7 +29,7 @@ FNoticeBar::FNoticeBar(QWidget* parent)
             mNotice.mend();
         }
     });
-    // What a notice depends on can be anything, and not all of it tells of its changes.
+    // What a notice depends on can be anything, and not all of it reports its changes.
     constexpr int interval = 250;  // milliseconds
     mCheck.setInterval(interval);
     connect(&mCheck, &QTimer::timeout, this, [this] {

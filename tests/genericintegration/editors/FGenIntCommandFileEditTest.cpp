@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTreeView>
+#include <QWindow>
 
 namespace {
 
@@ -88,6 +89,23 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     EXPECT_EQ(button->text(), "8");
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(content(), "7 <entry>newEntry</entry> and more\n");
+}
+
+TEST_F(FGenIntCommandFileEditTest, aPressedButtonMakesNoEntryOfAnotherNumber) {
+    const QString text = "a = 1, b = 2\n";
+    open(text);
+    auto* button = hover("a");
+    const QPoint there = edit().viewport()->mapTo(&window(), edit().cursorRect(at("2", 1)).center());
+    QTest::mousePress(window().windowHandle(), Qt::LeftButton, {}, button->mapTo(&window(), button->rect().center()));
+    for (const QPoint& place : {there, there + QPoint(1, 0)}) {
+        QTest::mouseMove(window().windowHandle(), place);
+        settle();
+        EXPECT_EQ(button->text(), "a = 1");
+    }
+    QTest::mouseRelease(window().windowHandle(), Qt::LeftButton, {}, there);
+    settle();
+    EXPECT_EQ(content(), text);
+    EXPECT_EQ(hover("b")->text(), "b = 2") << "released, it follows the mouse again";
 }
 
 TEST_F(FGenIntCommandFileEditTest, tagsWithUnusualNamesLeaveTheRestOfTheLineAlone) {

@@ -9,7 +9,10 @@
 #include "host/core/FHold.h"
 #include "host/core/FNumber.h"
 #include "host/core/FObjectEditorWgt.h"
+#include "host/core/FObjectName.h"
+#include "host/core/FString.h"
 #include "host/core/FUserStep.h"
+#include "host/design/FConfiguration.h"
 #include "host/design/FEntryDef.h"
 
 #include <QTextCursor>
@@ -31,13 +34,34 @@ FEntryDef* FCommandFileSteps::entryOf(const QString& name) const {
 void FCommandFileSteps::create(const QString& proposal, double value, const QTextCursor& place) {
     {
         FUserStep step(QStringLiteral("create commandfile entry"));
-        const FExprBase number(new FDouble(value));
-        if (FEntryDef* entry = FEntryDef::create(FEntryNameProposal::usable(proposal), &mDefinition, 1, 1, false, true,
-                                                 QString(), number)) {
+        const FExpr<FDouble> number(new FDouble(value));
+        const QString replaced = place.selectedText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+        const QString name = freeName(FEntryNameProposal::usable(proposal), nullptr);
+        if (FEntryDef* entry = FEntryDef::create(name, &mDefinition, 1, 1, false, true, QString(), number)) {
             mBuffer.replace(place, FTemplateTags::tagOf(entry->getFullName()));
+            if (replaced != number->toPlainString()) {
+                keepText(*entry, replaced);
+            }
         }
     }
     FObjectEditorWgt::instance()->reinitialize();
+}
+
+// Tags of two entries whose names differ only in case would mean the same one.
+QString FCommandFileSteps::freeName(const QString& name, const FEntryDef* entry) const {
+    const QString path = entry ? entry->getFullName() : QString();
+    const QString group = path.left(path.lastIndexOf(QLatin1Char('|')) + 1);
+    return uniqueName(name, [&](const QString& candidate) {
+        const FEntryDef* other = entryOf(group + candidate);
+        return other && other != entry;
+    });
+}
+
+// The program may read fixed columns, tell "7." from "7", or expect a word.
+void FCommandFileSteps::keepText(const FEntryDef& entry, const QString& text) {
+    for (FConfiguration* configuration : mDefinition.getConfigurations()) {
+        configuration->setEntryValue(entry.getFullName(), FExprBase(new FString(text)));
+    }
 }
 
 void FCommandFileSteps::insert(const QString& name, const QTextCursor& place) {
@@ -50,7 +74,7 @@ void FCommandFileSteps::rename(FEntryDef& entry, const QString& name) {
         const FWaitCursor busy;  // large templates may have many tags
         const FExpr<FEntryBase> held(&entry);
         FUserStep step(QStringLiteral("rename commandfile entry"));
-        entry.setName(name);
+        entry.setName(freeName(name, &entry));
     }
     FObjectEditorWgt::instance()->reinitialize();
 }

@@ -16,7 +16,11 @@ class FCommandFileSteps {
     /** The entry of a tag; null if there is none. */
     FEntryDef* entryOf(const QString& name) const;
 
-    /** Makes an entry, whose tag replaces what a cursor selects. */
+    /**
+     * Makes an entry, whose tag replaces what a cursor selects. Its default is a number. Where this is written in
+     * another way than the text that it replaces, such as "2500" for "2500.0", the configurations get the text.
+     * @param value  of the text; 0 if it isn't a number
+     */
     void create(const QString& proposal, double value, const QTextCursor& place);
     /** Replaces what a cursor selects with the tag of a name. */
     void insert(const QString& name, const QTextCursor& place);
@@ -29,6 +33,12 @@ class FCommandFileSteps {
     void destroy(FEntryDef& entry);
 
  private:
+    /**
+     * A name that no other entry in the group of an entry has in any case.
+     * @param entry  null for one to be made, outside of groups
+     */
+    QString freeName(const QString& name, const FEntryDef* entry) const;
+    void keepText(const FEntryDef& entry, const QString& text);
     void replaceTag(const QString& label, FEntryDef* entry, const QTextCursor& tag, const QString& text);
 
     FDefinitionGenInt& mDefinition;

@@ -46,7 +46,6 @@ FResultsPreview::FResultsPreview() {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
-    verticalHeader()->setTextElideMode(Qt::ElideMiddle);
     // The button between the headers, which Qt gives no name.
     for (auto* corner : findChildren<QAbstractButton*>()) {
         corner->setAccessibleName(QStringLiteral("Select all"));
@@ -182,7 +181,11 @@ void FResultsPreview::fitNames() {
     constexpr int shortest = 8;  // characters
     const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->width() : 0;
     const int room = width() - 2 * frameWidth() - bar - horizontalHeader()->length();
-    verticalHeader()->setMaximumWidth(std::max(room, shortest * fontMetrics().averageCharWidth()));
+    const int widest = std::max(room, shortest * fontMetrics().averageCharWidth());
+    verticalHeader()->setMaximumWidth(widest);
+    // The width that a header asks for may be a fraction of a pixel less than what its text needs.
+    const bool isCut = verticalHeader()->sizeHint().width() > widest;
+    verticalHeader()->setTextElideMode(isCut ? Qt::ElideMiddle : Qt::ElideNone);
     updateGeometries();
 }
 

@@ -46,6 +46,13 @@ bool hasBlanksAround(const QString& text) {
     return text.trimmed().size() < text.size();
 }
 
+/** Whether the default is a number for which the text is a word, or another spelling: then it has no width to keep. */
+bool standsForNumber(const QString& text, const FBasicType& standard) {
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return standard.isTypeOf(FDouble::null()) && (!isNumber || number == standard.toDouble());
+}
+
 QString listed(const QStringList& names) {
     const QString more = names.size() > mostNames ? QStringLiteral(" …") : QString();
     return QLatin1Char('"') + names.mid(0, mostNames).join(QStringLiteral("\", \"")) + QLatin1Char('"') + more;
@@ -158,7 +165,12 @@ void FEntryProblems::find(const FDefinitionGenInt& definition, const FValueTable
             unused.append(name);
             lastName = name;
         } else if (uses.places.contains(row) && !isNamed && !worksByItself(entry)) {
-            further.append(entry.getFullName());
+            const FEntry* named = table.entryOf(row);
+            if (named && tagName(*named) != name) {
+                addSameKey(entry, *named, problems);
+            } else {
+                further.append(entry.getFullName());
+            }
         }
     }
     findAwaited(awaited, problems);
@@ -211,6 +223,15 @@ void FEntryProblems::findAwaited(const QList<FAwaited>& awaited, FProblemList& p
                  each.place)
             .isOfValue = true;
     }
+}
+
+void FEntryProblems::addSameKey(const FEntry& entry, const FEntry& named, FProblemList& problems) const {
+    problems.warning(
+        mConfiguration.getName(),
+        QStringLiteral("no file gets the value of \"%1\": its tags mean \"%2\", because case doesn't matter "
+                       "in tags")
+            .arg(entry.getFullName(), named.getFullName()),
+        QStringLiteral("Rename one of these entries"));
 }
 
 void FEntryProblems::findFurther(const QStringList& names, FProblemList& problems) const {
@@ -289,7 +310,7 @@ void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, co
     const FExprBase standard = definition ? definition->getDefaultValue() : FExprBase();
     const bool isReadable = standard.isValid() && standard.canSafelyBeUpdated(false);
     const auto* value = isReadable ? objectCast<FBasicType>(standard.getObject()) : nullptr;
-    const QString fitting = value ? value->toPlainString() : text;
+    const QString fitting = value && !standsForNumber(text, *value) ? value->toPlainString() : text;
     const bool isPadded = hasBlanksAround(fitting);
     const bool isLonger = text.size() > fitting.size();
     const bool hasOtherWidth = isPadded ? text.size() != fitting.size() : isLonger && !hasBlanksAround(text);

@@ -33,6 +33,7 @@ class FEntryProblems {
     /** Whether the entry needs results that aren't there yet; it then joins those of the same supplier. */
     static bool isAwaiting(const FEntry& entry, const FUse& use, QList<FAwaited>& awaited);
     void findAwaited(const QList<FAwaited>& awaited, FProblemList& problems) const;
+    void addSameKey(const FEntry& entry, const FEntry& named, FProblemList& problems) const;
     void findFurther(const QStringList& names, FProblemList& problems) const;
     void findValue(const FEntry& entry, const FUse& use, FProblemList& problems);
     void findWritten(const FEntry& entry, const FObject* value, const FUse& use, FProblemList& problems) const;

@@ -47,6 +47,37 @@ TEST_F(FGenIntCommandFileEditTest, aClickMakesAnEntryOfANumber) {
     }
 }
 
+TEST_F(FGenIntCommandFileEditTest, aNewEntryLeavesTheWrittenFileAsItIs) {
+    const QString text = "a = 2500.0\nb = 007, c = 3.\nd = 1.50e+03, e = 12.5\nE      1800.0STEEL\n";
+    open(text);
+    ASSERT_TRUE(run("genericIntegrationConfiguration others() { .setDefinition(beam) }"));
+    for (const QString number : {"2500.0", "007", "3.", "1.50e+03", "12.5"}) {
+        click(number);
+        ASSERT_FALSE(content().contains(number)) << number.toStdString();
+    }
+    for (const QString selected : {"  1800.0", "STEEL"}) {
+        select(selected);
+        chooseInText("New Entry");
+    }
+    EXPECT_EQ(content().count("<entry>"), 7);
+    EXPECT_EQ(defaultOf(entry("a")), 2500);
+    EXPECT_EQ(object<FConfiguration>("values")->getValueEntry("a")->getValue().toHistoryString(), "\"2500.0\"");
+    EXPECT_TRUE(object<FConfiguration>("values")->getValueEntry("e")->hasDefaultValue());
+    for (const char* configuration : {"values", "others"}) {
+        EXPECT_EQ(textOf(QString("%1.getPreviewText(\"deck.inp\")").arg(configuration)).toStdString(),
+                  text.toStdString());
+    }
+    chooseForTag("<entry>b", "Rename");
+    type(find<QLineEdit>("entryName"), "A");
+    press(find<QLineEdit>("entryName"), Qt::Key_Return);
+    EXPECT_TRUE(content().contains("b = <entry>A_01</entry>")) << "in tags, case doesn't matter";
+    for (int step = 0; step < 8; ++step) {
+        undo();
+    }
+    EXPECT_EQ(content(), text);
+    EXPECT_EQ(object<FConfiguration>("values")->getValueEntry("a"), nullptr);
+}
+
 TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     open("key = 1.5 and words\n<entry>force</entry>\n<entry>open 2\n\nlast");
     EXPECT_EQ(hover("key")->text(), "key = 1.5");

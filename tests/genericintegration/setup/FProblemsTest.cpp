@@ -171,6 +171,10 @@ conf.setEntryValue("length", 123.456); conf.setEntryValue("pump|shutoff", "300")
      R"(input.setContent("L   <entry>length</entry>  0.5 <entry>pump|shutoff</entry> m")
 conf.setEntryValue("length", format(2500, "%8.1f")); conf.setEntryValue("pump|shutoff", format(log(-1), "%8.1f")))",
      {"warning input:1:32: the entry \"pump|shutoff\" is not a number (NaN), and \"     nan\" is written"}},
+    {"otherSpellingOfANumber",
+     R"(input.setContent("L   <entry>length</entry>  0.5 <entry>pump|shutoff</entry> 7")
+conf.setEntryValue("length", "1.2500e+01"); conf.setEntryValue("pump|shutoff", "STEEL"); def.addEntry("width", 2))",
+     {"warning def: no input template has a tag of the entry \"width\""}},
     {"otherWidthBeforeAWord",
      R"(def.removeEntry("pump|shutoff").addEntry("pump|shutoff", "  30")
 input.setContent("L <entry>length</entry>STEEL
@@ -182,6 +186,9 @@ conf.setEntryValue("length", 123.456); conf.setEntryValue("pump|shutoff", 30))",
      R"(input.setContent("1 <entry>length</entry> <entry>pump|shutoff</entry> 0.5 <a><entry>length</entry></a> <entry>length</entry>mm")
 conf.setEntryValue("length", 123.456); def.addEntry("width", 2))",
      {"warning def: no input template has a tag of the entry \"width\""}},
+    {"entriesThatDifferInCase",
+     R"(def.addEntry("LENGTH", 5))",
+     {"warning conf: no file gets the value of \"length\": its tags mean \"LENGTH\" … Rename"}},
     {"furtherOccurrence",
      R"(def.addEntry("n", 2, 5, 1)
 input.setContent("<entry>length</entry>, <entry>pump|shutoff</entry>, <entry>n</entry>")

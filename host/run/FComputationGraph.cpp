@@ -8,10 +8,9 @@
 #include "host/run/FExternComputation.h"
 #include "host/script/FCmd.h"
 
-#include <queue>
-
 #include <algorithm>
 #include <functional>
+#include <queue>
 #include <unordered_set>
 
 namespace {

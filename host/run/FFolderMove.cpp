@@ -1,7 +1,5 @@
 #include "host/run/FFolderMove.h"
 
-#include <climits>
-
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -10,6 +8,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <climits>
 #include <cstdio>
 
 namespace {

@@ -1,10 +1,9 @@
 #include "host/gui/panels/FLayeredLayout.h"
 
-#include <queue>
-
 #include <algorithm>
 #include <functional>
 #include <numeric>
+#include <queue>
 
 FLayeredLayout::FLayeredLayout(int boxes, std::vector<Link> links)
     : mLinks(std::move(links)),

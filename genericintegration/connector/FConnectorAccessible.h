@@ -2,7 +2,6 @@
 
 #include "host/gui/base/FPartsAccessible.h"
 
-class FSoftConScene;
 class FSoftConView;
 
 /** What a screen reader finds in the view of a connector: the buttons of its areas, and its items. */

@@ -6,8 +6,6 @@
 
 #include <array>
 
-class QAbstractButton;
-class QGraphicsItem;
 class QGraphicsProxyWidget;
 class QGraphicsScene;
 class QToolButton;

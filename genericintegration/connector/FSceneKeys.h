@@ -2,9 +2,7 @@
 
 #include <QPointer>
 
-class FSoftConObjectItem;
 class FSoftConScene;
-class QGraphicsProxyWidget;
 class QKeyEvent;
 class QObject;
 

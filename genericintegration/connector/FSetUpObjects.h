@@ -5,7 +5,6 @@
 class FConfigurationGenInt;
 class FDefinitionGenInt;
 class FEntry;
-
 class FGenIntFile;
 
 /** The set-up of a computation, as far as items show it, add to it and take from it. */

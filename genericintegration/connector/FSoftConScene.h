@@ -19,7 +19,6 @@
 class FItemLinks;
 class FSceneFurniture;
 class FSoftwareConnector;
-class FSoftwareConnectorItem;
 class QAction;
 
 /**

@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-class FFormRow;
 class QComboBox;
 
 /** The fields of the form of a result template. */

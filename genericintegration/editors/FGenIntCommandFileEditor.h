@@ -17,7 +17,6 @@ class FGenIntCommandFileEdit;
 class FNavigator;
 class FTemplateReports;
 class FWrittenTextView;
-class QBoxLayout;
 class QLineEdit;
 class QToolButton;
 struct FWrittenText;

@@ -5,7 +5,6 @@
 #include "host/run/FExternComputation.h"
 
 class FConfigurationGenInt;
-class FDefinitionGenInt;
 
 /**
  * What a software connector saves, and the changes that it makes to the model. They are the same for connectors with

@@ -10,7 +10,6 @@
 class FChainScene;
 class FChainView;
 class FExternComputation;
-class FManaged;
 
 /** The picture of the project's chains: which computation uses results of which, and the states of their runs. */
 class MERIX_EXPORT FChainPanel : public QWidget {

@@ -6,7 +6,6 @@
 
 class QLineEdit;
 class QListWidget;
-class QSplitter;
 class QTextBrowser;
 
 /** The reference of classes and commands, made from the command tables, with a search. */

@@ -8,7 +8,6 @@
 #include <QWidget>
 
 class FAttributeForm;
-class FConfiguration;
 class FEntriesWgt;
 class FEntryDefsWgt;
 class QBoxLayout;

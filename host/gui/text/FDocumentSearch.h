@@ -6,7 +6,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 
-class QTextDocument;
 
 /**
  * Looks for an expression in a document, slice by slice: from a place to the end, then from the other end to that

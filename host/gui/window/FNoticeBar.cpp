@@ -25,8 +25,9 @@ FNoticeBar::FNoticeBar(QWidget* parent)
     connect(mpClose, &QToolButton::clicked, this, &QWidget::hide);
     connect(mpText, &QLabel::linkActivated, this, [this] {
         hide();
-        if (mNotice.mend) {
-            mNotice.mend();
+        // It may show another notice, in place of the one that it belongs to.
+        if (const auto mend = mNotice.mend) {
+            mend();
         }
     });
     // What a notice depends on can be anything, and not all of it reports its changes.

@@ -90,8 +90,12 @@ QString FCmdInput::FSource::read(QFile& opened) {
 bool FCmdInput::exec() {
     const Activation activation(this);
     const int strictBefore = FLogMsg::getStrictErrors();
+    // A console executes its lines one after the other.
+    mErrors = 0;
+    mSteps = 0;
     mExiting = false;
     mExitCode = 0;
+    mIgnoredFailures.clear();
     bool done = false;
     try {
         done = run(mSource);
@@ -113,7 +117,7 @@ bool FCmdInput::run(const FSource& source) {
     if (source.invalidLine > 0) {
         FLogMsg::warning({}, QStringLiteral("the script isn't valid UTF-8 in line %1").arg(source.invalidLine),
                          QStringLiteral("Save it as UTF-8, or characters of its texts are lost"),
-                         QStringLiteral("%1:%2").arg(source.file).arg(source.invalidLine));
+                         QStringLiteral("%1:%2").arg(source.file, QString::number(source.invalidLine)));
     }
     return script.errors.empty() && FLogMsg::getStrictErrors() == strictBefore && runBody(script.statements);
 }
@@ -197,9 +201,9 @@ bool FCmdInput::runStatement(const FSyntaxStatement& statement) {
     if (!word) {
         return std::visit([this](const auto& content) { return run(content); }, statement.content);
     }
-    FScriptStep step(QStringLiteral("%1 (%2:%3)")
-                         .arg(QString::fromLatin1(word), QFileInfo(mFile).fileName())
-                         .arg(statement.place.line));
+    FScriptStep step(
+        QStringLiteral("%1 (%2:%3)")
+            .arg(QString::fromLatin1(word), QFileInfo(mFile).fileName(), QString::number(statement.place.line)));
     return step.end(std::visit([this](const auto& content) { return run(content); }, statement.content));
 }
 

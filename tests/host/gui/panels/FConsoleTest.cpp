@@ -38,6 +38,8 @@ TEST_F(FConsoleTest, eachLineIsAStepAndShowsItsValueOrItsError) {
     // An expression that names it gives nothing, and the window lives on.
     enter("span.getValue()");
     EXPECT_TRUE(output().contains("\"span\"")) << output().toStdString();
+    enter("1 + 1");
+    EXPECT_TRUE(output().endsWith("> 1 + 1\n2\n")) << "an error is that of its line: " << output().toStdString();
 }
 
 TEST_F(FConsoleTest, earlierLinesHaveTheColoursOfThePalette) {

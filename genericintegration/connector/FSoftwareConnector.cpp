@@ -30,6 +30,7 @@
 #include "host/design/FEntryDef.h"
 #include "host/design/FInputFile.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FLabelText.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FObjectPages.h"
 #include "host/gui/fields/FScriptText.h"
@@ -321,7 +322,7 @@ int FSoftwareConnector::addNewTab(FExpr<FGenIntFile> pFile) {
     if (tab->metaObject()->indexOfSignal("gotFocus()") >= 0) {
         connect(tab, SIGNAL(gotFocus()), this, SLOT(gotFocus()));
     }
-    return addTab(tab, pFile->getFileName());
+    return addTab(tab, FLabelText::literal(pFile->getFileName()));
 }
 
 void FSoftwareConnector::removePage(int index) {
@@ -367,8 +368,9 @@ FObjectPage* FSoftwareConnector::showPageOf(const FManaged* file) {
 
 void FSoftwareConnector::renameTab(const FExpr<FGenIntFile>& file) {
     const int index = file ? tabOf(file.ptr()) : -1;
-    if (index > 0 && tabText(index) != file->getFileName()) {
-        setTabText(index, file->getFileName());
+    const QString text = file ? FLabelText::literal(file->getFileName()) : QString();
+    if (index > 0 && tabText(index) != text) {
+        setTabText(index, text);
     }
 }
 

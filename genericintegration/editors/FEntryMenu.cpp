@@ -2,6 +2,7 @@
 
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FExportsGroup.h"
+#include "host/gui/base/FLabelText.h"
 
 #include <QMenu>
 
@@ -9,13 +10,8 @@
 
 namespace {
 
-/** An "&" would become the mark of an access key. */
-QString shown(QString text) {
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 void addName(QMenu& menu, const QString& label, const QString& name, const FEntryMenu::Connect& connect) {
-    QAction* action = menu.addAction(shown(label));
+    QAction* action = menu.addAction(FLabelText::literal(label));
     action->setData(name);
     connect(action);
 }
@@ -24,7 +20,7 @@ void addEntries(QMenu& menu, const QList<FExpr<FEntryBase>>& entries, const FEnt
     for (const FExpr<FEntryBase>& handle : entries) {
         const FEntryBase* entry = handle.ptr();
         if (entry && entry->isGroup()) {
-            addEntries(*menu.addMenu(shown(entry->getDisplayName())), entry->getEntries(), connect);
+            addEntries(*menu.addMenu(FLabelText::literal(entry->getDisplayName())), entry->getEntries(), connect);
         } else if (entry) {
             addName(menu, entry->getDisplayName(), entry->getFullName(), connect);
         }

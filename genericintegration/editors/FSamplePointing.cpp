@@ -6,6 +6,7 @@
 #include "genericintegration/io/FTemplateValues.h"
 #include "host/core/FUserStep.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FLabelText.h"
 
 #include <QMenu>
 
@@ -95,7 +96,7 @@ void FSamplePointing::fillMenu(QMenu& menu, int position) {
     insert(QStringLiteral("readNumber"), QStringLiteral("list-add"), QStringLiteral("&Read this number"),
            proposal.has_value(), [this, position] { readNumberAt(position); });
     insert(QStringLiteral("readHere"), QStringLiteral("go-jump"),
-           value ? QStringLiteral("Read \"%1\" &here").arg(QString(value->mName).replace(u'&', QLatin1String("&&")))
+           value ? QStringLiteral("Read \"%1\" &here").arg(FLabelText::literal(value->mName))
                  : QStringLiteral("Read the current value &here"),
            proposal && value, [this, proposal] { moveValue(proposal->value, QStringLiteral("change place")); });
     insert(QStringLiteral("useAsAnchor"), QStringLiteral("anchor"), QStringLiteral("&Use as anchor"),

@@ -1,5 +1,6 @@
 #include "host/gui/window/FDocumentTabs.h"
 
+#include "host/gui/base/FLabelText.h"
 #include "host/gui/base/FObjectPage.h"
 #include "host/gui/base/FPendingEdit.h"
 #include "host/gui/base/FStateColor.h"
@@ -50,8 +51,7 @@ QWidget* FDocumentTabs::open(const QString& key, const QString& title, const QIc
 
 void FDocumentTabs::setTitle(const QString& key, const QString& title) {
     if (QWidget* document = find(key)) {
-        // A tab takes "&" for the mark of an access key.
-        setTabText(indexOf(document), QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
+        setTabText(indexOf(document), FLabelText::literal(title));
         setTabToolTip(indexOf(document), title);
     }
 }

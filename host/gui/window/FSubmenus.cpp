@@ -1,6 +1,7 @@
 #include "host/gui/window/FSubmenus.h"
 
 #include "host/gui/base/FGuiSettings.h"
+#include "host/gui/base/FLabelText.h"
 #include "host/gui/base/FTheme.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FPanelDocks.h"
@@ -17,7 +18,7 @@ namespace {
 QString numbered(const QMenu& menu, const QString& name) {
     constexpr int digits = 9;
     const int number = menu.actions().size() + 1;
-    const QString shown = QString(name).replace(QLatin1Char('&'), QLatin1String("&&"));
+    const QString shown = FLabelText::literal(name);
     return number <= digits ? QStringLiteral("&%1  %2").arg(QString::number(number), shown) : shown;
 }
 

@@ -30,17 +30,17 @@ TEST_F(FSoftwareConnectorTest, itsItemsAndTabsFollowTheObjects) {
     EXPECT_EQ(tabs(), (QStringList{"Overview", "case.inp", "more.inp", "out.txt"}));
     const QString before = savedModel();
     ASSERT_TRUE(
-        run("input.setFileName(\"first.inp\")\nd.addEntry(\"Exports|mesh\", inputFile(\"mesh.msh\"))\n"
+        run("input.setFileName(\"a&b.inp\")\nd.addEntry(\"Exports|mesh\", inputFile(\"mesh.msh\"))\n"
             "destroy(output)"));
     {
         const FUserStep step("rename");
         object<FManaged>("solver")->setName("ccx");
     }
-    EXPECT_EQ(items(), "first.inp mesh.msh more.inp | ccx");
-    EXPECT_EQ(tabs(), (QStringList{"Overview", "first.inp", "more.inp"}));
+    EXPECT_EQ(items(), "a&b.inp mesh.msh more.inp | ccx");
+    EXPECT_EQ(tabs(), (QStringList{"Overview", "a&&b.inp", "more.inp"})) << "a single one would be an access key";
     // An entry of another type gets another kind of item.
     ASSERT_TRUE(run("c.setEntryValue(\"Exports|mesh\", resultsFileName(\"mesh.vtk\"))"));
-    EXPECT_EQ(items(), "first.inp more.inp | mesh.vtk | ccx");
+    EXPECT_EQ(items(), "a&b.inp more.inp | mesh.vtk | ccx");
     for (int step = 0; step < 5; ++step) {
         trigger("undo");
     }

@@ -99,9 +99,10 @@ QString faultOfType(const QString& name) {
 /** Says that an average is over no number of rows that there can be; an expression that reads files is for the check.
  */
 QString faultOfRows(const std::vector<FExpr<FObject>>& elements) {
-    const bool isGiven = elements.size() > fieldsWithoutAverage + 1 && elements.back().canSafelyBeUpdated(false);
-    const FBasicType* flag = isGiven ? valueOf(elements[fieldsWithoutAverage]) : nullptr;
-    const FBasicType* rows = isGiven ? valueOf(elements[fieldsWithoutAverage + 1]) : nullptr;
+    constexpr std::size_t rowsField = fieldsWithoutAverage + 1;
+    const bool isKnown = elements.size() > rowsField && elements[rowsField].canSafelyBeUpdated(false);
+    const FBasicType* flag = isKnown ? valueOf(elements[fieldsWithoutAverage]) : nullptr;
+    const FBasicType* rows = isKnown ? valueOf(elements[rowsField]) : nullptr;
     const double number = rows ? rows->toDouble() : 1;
     const bool isWhole = std::isfinite(number) && number == std::floor(number);
     if (!flag || flag->toDouble() == 0 || (isWhole && number >= 1)) {

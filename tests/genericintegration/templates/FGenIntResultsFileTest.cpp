@@ -78,6 +78,8 @@ TEST_F(FGenIntResultsFileTest, setValuesRestoresListsAndBlanksObjects) {
     EXPECT_TRUE(logHolds("test:1:6: setValues: value 0 of out1 is no list"));
     EXPECT_TRUE(logHolds("value 1, \"v\", of out1 has the occurrence \"Frist\""));
     EXPECT_EQ(FExpr<FGenIntResultsFileValue>(copy->getValues()->at(0))->mName, "");
+    run("out1.setValues([[\"v\", 0, 0, \"\", Last, \"FDouble\", \"\", 1, readText(\"none\"), \"\"]])");
+    EXPECT_FALSE(logHolds("can't read")) << "rows that come from a file are known only in a run";
 }
 
 TEST_F(FGenIntResultsFileTest, olderSeparatorNamesEndFindNumbersMode) {

@@ -40,22 +40,16 @@ FSceneFurniture::FSceneFurniture(QGraphicsScene& scene)
       mTitleBarTop(addTitleBar()),
       mTitleBarLeft(addTitleBar()),
       mTitleBarRight(addTitleBar()),
-      mAddInputButton(addAreaButton(QStringLiteral("addButtonRight"), SoftConInputArea)),
-      mAddOutputButton(addAreaButton(QStringLiteral("addButtonRight"), SoftConOutputArea)),
-      mAddExportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConExportArea)),
-      mAddImportButton(addAreaButton(QStringLiteral("addButtonLeft"), SoftConImportArea)),
       mScanButton(addButton(QStringLiteral("softConButton"), FIcons::get(QStringLiteral(":/scanForResults")),
                             QStringLiteral("Automatic scan for results"))),
       mConnectButton(addButton(QStringLiteral("softConButton"), FIcons::get(QStringLiteral(":/softConIcon")),
-                               QStringLiteral("Connect to another connector"))),
-      mDocuInputButton(addDocuButton(SoftConInputArea)),
-      mDocuOutputButton(addDocuButton(SoftConOutputArea)),
-      mDocuExportButton(addDocuButton(SoftConExportArea)),
-      mDocuImportButton(addDocuButton(SoftConImportArea)),
-      mInputLabel(addLabel(SoftConInputArea)),
-      mOutputLabel(addLabel(SoftConOutputArea)),
-      mExportLabel(addLabel(SoftConExportArea)),
-      mImportLabel(addLabel(SoftConImportArea)) {
+                               QStringLiteral("Connect to another connector"))) {
+    for (std::size_t index = 0; index < filledAreas; ++index) {
+        const auto area = static_cast<SoftConArea>(index);
+        mAddButtons[index] = addAddButton(area);
+        mDocuButtons[index] = addDocuButton(area);
+        mLabels[index] = addLabel(area);
+    }
     makeLinkButtons();
     updateColors();
 }
@@ -109,7 +103,8 @@ QGraphicsProxyWidget* FSceneFurniture::addButton(const QString& name, const QIco
     return proxy;
 }
 
-QGraphicsProxyWidget* FSceneFurniture::addAreaButton(const QString& name, SoftConArea area) {
+QGraphicsProxyWidget* FSceneFurniture::addAddButton(SoftConArea area) {
+    const QString name = isLeftArea(area) ? QStringLiteral("addButtonLeft") : QStringLiteral("addButtonRight");
     QGraphicsProxyWidget* proxy = addButton(name, FIcons::get(QStringLiteral("list-add")),
                                             QStringLiteral("Add %1").arg(labels()[static_cast<std::size_t>(area)]));
     connect(qobject_cast<QToolButton*>(proxy->widget()), &QToolButton::clicked, this,
@@ -155,8 +150,16 @@ QToolButton* FSceneFurniture::scanButton() const {
 }
 
 QList<QObject*> FSceneFurniture::buttons() const {
-    return {mAddExportButton, mDocuExportButton, mDocuInputButton,  mConnectButton,    mAddInputButton,
-            mAddImportButton, mScanButton,       mDocuImportButton, mDocuOutputButton, mAddOutputButton};
+    return {mAddButtons[SoftConExportArea],
+            mDocuButtons[SoftConExportArea],
+            mDocuButtons[SoftConInputArea],
+            mConnectButton,
+            mAddButtons[SoftConInputArea],
+            mAddButtons[SoftConImportArea],
+            mScanButton,
+            mDocuButtons[SoftConImportArea],
+            mDocuButtons[SoftConOutputArea],
+            mAddButtons[SoftConOutputArea]};
 }
 
 double FSceneFurniture::titleBarHeight() const {
@@ -170,7 +173,7 @@ FSceneSizes FSceneFurniture::sizes(double computationWidth) const {
     sizes.titleBarTop = mTitleBarTop->size().height();
     sizes.titleBarLeft = mTitleBarLeft->size().height();
     sizes.titleBarRight = mTitleBarRight->size().height();
-    sizes.button = mAddInputButton->size();
+    sizes.button = mConnectButton->size();
     sizes.fontHeight = metrics.height();
     for (std::size_t area = 0; area < filledAreas; ++area) {
         sizes.labelWidths[area] = metrics.horizontalAdvance(labels()[area]);
@@ -185,42 +188,41 @@ void FSceneFurniture::place(const FSceneGeometry& geometry) {
     mTitleBarTop->setGeometry(geometry.titleBarTop);
     mTitleBarLeft->setGeometry(geometry.titleBarLeft);
     mTitleBarRight->setGeometry(geometry.titleBarRight);
-    mAddInputButton->setPos(geometry.addInputButton);
-    mAddOutputButton->setPos(geometry.addOutputButton);
-    mAddExportButton->setPos(geometry.addExportButton);
-    mAddImportButton->setPos(geometry.addImportButton);
     mConnectButton->setPos(geometry.connectButton);
     mScanButton->setPos(geometry.scanButton);
-    mDocuInputButton->setPos(geometry.docuInputButton);
-    mDocuOutputButton->setPos(geometry.docuOutputButton);
-    mDocuExportButton->setPos(geometry.docuExportButton);
-    mDocuImportButton->setPos(geometry.docuImportButton);
-    const double button = mAddInputButton->size().width();
-    placeLabel(*mInputLabel, SoftConInputArea, geometry, 0, geometry.docuInputButton.x());
-    placeLabel(*mExportLabel, SoftConExportArea, geometry, geometry.docuExportButton.x() + button, 0);
-    placeLabel(*mOutputLabel, SoftConOutputArea, geometry, geometry.titleBarRight.left(),
-               geometry.docuOutputButton.x());
-    placeLabel(*mImportLabel, SoftConImportArea, geometry, geometry.docuImportButton.x() + button,
-               geometry.titleBarLeft.right());
+    for (std::size_t area = 0; area < filledAreas; ++area) {
+        mAddButtons[area]->setPos(geometry.addButtons[area]);
+        mDocuButtons[area]->setPos(geometry.docuButtons[area]);
+    }
+    const auto leftEdge = [&](std::size_t area) { return geometry.docuButtons[area].x(); };
+    const auto rightEdge = [&](std::size_t area) { return leftEdge(area) + mConnectButton->size().width(); };
+    placeLabel(SoftConInputArea, geometry, 0, leftEdge(SoftConInputArea));
+    placeLabel(SoftConExportArea, geometry, rightEdge(SoftConExportArea), 0);
+    placeLabel(SoftConOutputArea, geometry, geometry.titleBarRight.left(), leftEdge(SoftConOutputArea));
+    placeLabel(SoftConImportArea, geometry, rightEdge(SoftConImportArea), geometry.titleBarLeft.right());
 }
 
 // In a narrow window there is little room between the computation and the buttons.
-void FSceneFurniture::placeLabel(QGraphicsProxyWidget& proxy, SoftConArea area, const FSceneGeometry& geometry,
-                                 double left, double right) {
-    constexpr double smallest = 0.7;  // of the usual font
+void FSceneFurniture::placeLabel(SoftConArea area, const FSceneGeometry& geometry, double left, double right) {
     constexpr double gap = 2;
-    const double room = right - left - 2 * gap;
-    auto* label = qobject_cast<QLabel*>(proxy.widget());
+    fitLabel(area, right - left - 2 * gap);
+    QGraphicsProxyWidget& label = *mLabels[static_cast<std::size_t>(area)];
+    const QPointF place = geometry.labels[static_cast<std::size_t>(area)];
+    const double last = std::max(left + gap, right - gap - label.widget()->width());
+    label.setPos(qBound(left + gap, place.x(), last), place.y());
+}
+
+void FSceneFurniture::fitLabel(SoftConArea area, double room) {
+    constexpr double smallest = 0.7;  // of the usual font
+    auto* label = qobject_cast<QLabel*>(mLabels[static_cast<std::size_t>(area)]->widget());
     const QString& text = labels()[static_cast<std::size_t>(area)];
     QFont font = mTitleBarTop->widget()->font();
+    const int height = QFontMetrics(font).height();
     const double needed = QFontMetricsF(font).horizontalAdvance(text);
     if (needed > room) {
         font.setPointSizeF(QFontInfo(font).pointSizeF() * std::max(smallest, room / needed));
     }
     label->setFont(font);
     label->setText(label->fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(std::ceil(room))));
-    label->resize(label->sizeHint().width(), QFontMetrics(mTitleBarTop->widget()->font()).height());
-    const QPointF place = geometry.labels[static_cast<std::size_t>(area)];
-    const double last = std::max(left + gap, right - gap - label->width());
-    proxy.setPos(qBound(left + gap, place.x(), last), place.y());
+    label->resize(label->sizeHint().width(), height);
 }

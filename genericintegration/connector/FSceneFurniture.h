@@ -41,13 +41,14 @@ class FSceneFurniture : public QObject {
     QGraphicsProxyWidget* addFrame(const QString& name, double depth, bool isShaded);
     QGraphicsProxyWidget* addTitleBar();
     QGraphicsProxyWidget* addButton(const QString& name, const QIcon& icon, const QString& what);
-    QGraphicsProxyWidget* addAreaButton(const QString& name, SoftConArea area);
+    QGraphicsProxyWidget* addAddButton(SoftConArea area);
     QGraphicsProxyWidget* addDocuButton(SoftConArea area);
     QGraphicsProxyWidget* addLabel(SoftConArea area);
     void makeLinkButtons();
-    /** Where the geometry has it, as far as it fits between two edges; else moved, smaller, or cut. */
-    void placeLabel(QGraphicsProxyWidget& proxy, SoftConArea area, const FSceneGeometry& geometry, double left,
-                    double right);
+    /** Shows the label of an area in a width; where that is too little, smaller, or cut. */
+    void fitLabel(SoftConArea area, double room);
+    /** Where the geometry has it, as far as it fits between two edges. */
+    void placeLabel(SoftConArea area, const FSceneGeometry& geometry, double left, double right);
 
     QGraphicsScene& mScene;
     QGraphicsProxyWidget* mSplitLine;
@@ -56,18 +57,10 @@ class FSceneFurniture : public QObject {
     QGraphicsProxyWidget* mTitleBarTop;
     QGraphicsProxyWidget* mTitleBarLeft;
     QGraphicsProxyWidget* mTitleBarRight;
-    QGraphicsProxyWidget* mAddInputButton;
-    QGraphicsProxyWidget* mAddOutputButton;
-    QGraphicsProxyWidget* mAddExportButton;
-    QGraphicsProxyWidget* mAddImportButton;
     QGraphicsProxyWidget* mScanButton;
     QGraphicsProxyWidget* mConnectButton;
-    QGraphicsProxyWidget* mDocuInputButton;
-    QGraphicsProxyWidget* mDocuOutputButton;
-    QGraphicsProxyWidget* mDocuExportButton;
-    QGraphicsProxyWidget* mDocuImportButton;
-    QGraphicsProxyWidget* mInputLabel;
-    QGraphicsProxyWidget* mOutputLabel;
-    QGraphicsProxyWidget* mExportLabel;
-    QGraphicsProxyWidget* mImportLabel;
+    // By area.
+    std::array<QGraphicsProxyWidget*, filledAreas> mAddButtons{};
+    std::array<QGraphicsProxyWidget*, filledAreas> mDocuButtons{};
+    std::array<QGraphicsProxyWidget*, filledAreas> mLabels{};
 };

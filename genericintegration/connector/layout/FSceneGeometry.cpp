@@ -38,16 +38,16 @@ void FSceneGeometry::placeButtons(const QRectF& scene, const FSceneSizes& sizes)
     const QPointF step(sizes.button.width() + margin, 0);
     const double outerLeft = scene.left() + margin;
     const double outerRight = scene.right() - step.x();
-    addInputButton = {outerRight, scene.top() + margin};
-    connectButton = addInputButton - step;
-    docuInputButton = connectButton - step;
-    addExportButton = {outerLeft, scene.top() + margin};
-    docuExportButton = addExportButton + step;
-    addOutputButton = {outerRight, margin};
-    docuOutputButton = addOutputButton - step;
-    addImportButton = {outerLeft, margin};
-    scanButton = addImportButton + step;
-    docuImportButton = scanButton + step;
+    addButtons[SoftConInputArea] = {outerRight, scene.top() + margin};
+    connectButton = addButtons[SoftConInputArea] - step;
+    docuButtons[SoftConInputArea] = connectButton - step;
+    addButtons[SoftConExportArea] = {outerLeft, scene.top() + margin};
+    docuButtons[SoftConExportArea] = addButtons[SoftConExportArea] + step;
+    addButtons[SoftConOutputArea] = {outerRight, margin};
+    docuButtons[SoftConOutputArea] = addButtons[SoftConOutputArea] - step;
+    addButtons[SoftConImportArea] = {outerLeft, margin};
+    scanButton = addButtons[SoftConImportArea] + step;
+    docuButtons[SoftConImportArea] = scanButton + step;
 }
 
 void FSceneGeometry::placeLabels(const QRectF& scene, const FSceneSizes& sizes) {

@@ -36,18 +36,12 @@ class FSceneGeometry {
     QRectF titleBarLeft;
     QRectF titleBarRight;
 
-    QPointF addInputButton;
-    QPointF addOutputButton;
-    QPointF addExportButton;
-    QPointF addImportButton;
+    // By area.
+    std::array<QPointF, filledAreas> addButtons;
+    std::array<QPointF, filledAreas> docuButtons;
+    std::array<QPointF, filledAreas> labels;
     QPointF connectButton;
     QPointF scanButton;
-    QPointF docuInputButton;
-    QPointF docuOutputButton;
-    QPointF docuExportButton;
-    QPointF docuImportButton;
-
-    std::array<QPointF, filledAreas> labels;
 
  private:
     void placeBars(const QRectF& scene, const FSceneSizes& sizes);

@@ -32,16 +32,16 @@ TEST(FSceneGeometryTest, everythingAroundTheItems) {
     EXPECT_EQ(geometry.titleBarLeft, QRectF(-400, 0, 340, 31));
     EXPECT_EQ(geometry.titleBarRight, QRectF(60, 0, 540, 32));
 
-    EXPECT_EQ(geometry.addInputButton, QPointF(573, -295));
+    EXPECT_EQ(geometry.addButtons[SoftConInputArea], QPointF(573, -295));
     EXPECT_EQ(geometry.connectButton, QPointF(546, -295));
-    EXPECT_EQ(geometry.docuInputButton, QPointF(519, -295));
-    EXPECT_EQ(geometry.addExportButton, QPointF(-395, -295));
-    EXPECT_EQ(geometry.docuExportButton, QPointF(-368, -295));
-    EXPECT_EQ(geometry.addOutputButton, QPointF(573, 5));
-    EXPECT_EQ(geometry.docuOutputButton, QPointF(546, 5));
-    EXPECT_EQ(geometry.addImportButton, QPointF(-395, 5));
+    EXPECT_EQ(geometry.docuButtons[SoftConInputArea], QPointF(519, -295));
+    EXPECT_EQ(geometry.addButtons[SoftConExportArea], QPointF(-395, -295));
+    EXPECT_EQ(geometry.docuButtons[SoftConExportArea], QPointF(-368, -295));
+    EXPECT_EQ(geometry.addButtons[SoftConOutputArea], QPointF(573, 5));
+    EXPECT_EQ(geometry.docuButtons[SoftConOutputArea], QPointF(546, 5));
+    EXPECT_EQ(geometry.addButtons[SoftConImportArea], QPointF(-395, 5));
     EXPECT_EQ(geometry.scanButton, QPointF(-368, 5));
-    EXPECT_EQ(geometry.docuImportButton, QPointF(-341, 5));
+    EXPECT_EQ(geometry.docuButtons[SoftConImportArea], QPointF(-341, 5));
 
     EXPECT_EQ(geometry.labels[SoftConInputArea], QPointF(265, -292)) << "by the width of the result values' label";
     EXPECT_EQ(geometry.labels[SoftConExportArea], QPointF(-225, -292)) << "by that of the input files'";

@@ -9,13 +9,13 @@
 #include "genericintegration/connector/FSoftConImportItem.h"
 #include "genericintegration/connector/FSoftConInputTemplateItem.h"
 #include "genericintegration/connector/FSoftConOutputTemplateItem.h"
+#include "genericintegration/connector/layout/FConnectorLog.h"
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FItemPath.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "genericintegration/templates/FGenIntResultsFile.h"
 #include "host/core/FBool.h"
-#include "host/core/FLogMsg.h"
 #include "host/core/FObjectList.h"
 #include "host/design/FEntry.h"
 #include "host/design/FGeometryExport.h"
@@ -24,12 +24,8 @@
 
 namespace {
 
-void report(const QString& message, const QString& consequence = QString()) {
-    FLogMsg::info(QStringLiteral("SoftwareConnector"), message, consequence);
-}
-
 void reportType(const QString& type) {
-    report(QStringLiteral("Could not add item of type %1.").arg(type));
+    FConnectorLog::info(QStringLiteral("Could not add item of type %1.").arg(type));
 }
 
 /** Whether a result template of that file is in the set-up already. */
@@ -45,8 +41,8 @@ bool isKnown(const FItemScene& scene, const QString& path, const QString& relati
         return file && file->getFileName().compare(name, Qt::CaseInsensitive) == 0;
     });
     if (isThere) {
-        report(QStringLiteral("The file %1 is already part of this set up.").arg(name),
-               QStringLiteral("Item creation aborted."));
+        FConnectorLog::info(QStringLiteral("The file %1 is already part of this set up.").arg(name),
+                            QStringLiteral("Item creation aborted."));
     }
     return isThere;
 }
@@ -148,11 +144,12 @@ FSoftConObjectItem* FItemFactory::make(FItemScene& scene, QGraphicsItem* parent,
                                        const QString& path, const QString& relativePath) {
     const FObject* stored = object.getStored();
     if (!stored) {
-        report(QStringLiteral("Could not add NULL-item."));
+        FConnectorLog::info(QStringLiteral("Could not add NULL-item."));
         return nullptr;
     }
     if (isToBeMade(stored) && !FSetUpObjects(scene.getComputation()).definition()) {
-        report(QStringLiteral("Could not add item: the computation has no configuration with a definition."));
+        FConnectorLog::info(
+            QStringLiteral("Could not add item: the computation has no configuration with a definition."));
         return nullptr;
     }
     if (dynamic_cast<const FGenIntResultsFile*>(stored) && isKnown(scene, path, relativePath)) {

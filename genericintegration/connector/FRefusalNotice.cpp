@@ -1,12 +1,13 @@
 #include "genericintegration/connector/FRefusalNotice.h"
 
+#include "genericintegration/connector/layout/FConnectorLog.h"
 #include "host/core/FChanges.h"
 #include "host/core/FUserInterface.h"
 #include "host/gui/panels/FLogModel.h"
 
 FRefusalNotice::FRefusalNotice() {
     connect(FChanges::instance(), &FChanges::messageLogged, this, [this](const FLogMsg& message) {
-        if (message.source == QLatin1String("SoftwareConnector")) {
+        if (FConnectorLog::contains(message)) {
             mTexts.append(FLogModel::textOf(message));
         }
     });

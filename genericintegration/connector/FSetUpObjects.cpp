@@ -1,11 +1,11 @@
 #include "genericintegration/connector/FSetUpObjects.h"
 
+#include "genericintegration/connector/layout/FConnectorLog.h"
 #include "genericintegration/setup/FConfigurationGenInt.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
 #include "genericintegration/templates/FGenIntCommandFile.h"
 #include "host/core/FHistory.h"
 #include "host/core/FImmediateUpdateBlocker.h"
-#include "host/core/FLogMsg.h"
 #include "host/core/FSelectionSet.h"
 #include "host/core/FUserInterface.h"
 #include "host/design/FEntryDef.h"
@@ -17,8 +17,7 @@
 namespace {
 
 FEntry* failed(const QString& reason) {
-    FLogMsg::info(QStringLiteral("FSoftConScene"), QStringLiteral("Error, failed to add item to software connector."),
-                  reason);
+    FConnectorLog::failure(reason);
     return nullptr;
 }
 

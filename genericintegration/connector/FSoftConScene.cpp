@@ -153,12 +153,16 @@ void FSoftConScene::doUpdate() {
     mLinkFinder.request();
 }
 
-void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
+void FSoftConScene::takeOut(FSoftConObjectItem* item) {
     mItems.removeOne(item);
     mpLinks->forget(*item);
     removeItem(item);
-    item->release();
     calcItemRatios();
+}
+
+void FSoftConScene::removeObjectItem(FSoftConObjectItem* item) {
+    takeOut(item);
+    item->release();
 }
 
 void FSoftConScene::clearItems() {
@@ -385,12 +389,9 @@ void FSoftConScene::deleteItem(FSoftConObjectItem* item) {
     if (mSelectedObject == object) {
         mSelectedObject = FExpr<FObject>();
     }
-    mItems.removeOne(item);
-    mpLinks->forget(*item);
-    removeItem(item);
+    takeOut(item);
     item->removeObject();
     item->release();
-    calcItemRatios();
 }
 
 // ---- the computation ----
@@ -568,6 +569,7 @@ void FSoftConScene::dragMoveEvent(QGraphicsSceneDragDropEvent* event) {
 }
 
 void FSoftConScene::dropEvent(QGraphicsSceneDragDropEvent* event) {
+    const FRefusalNotice notice;
     const SoftConArea area = getArea(event->scenePos());
     if (area != SoftConExportArea) {
         static const QHash<int, QString> labels{{SoftConInputArea, QStringLiteral("Add input files")},
@@ -575,7 +577,6 @@ void FSoftConScene::dropEvent(QGraphicsSceneDragDropEvent* event) {
                                                 {SoftConImportArea, QStringLiteral("Add result files")}};
         const FItemRequests::List dropped = FSceneDrops::files(*event->mimeData(), area);
         if (!dropped.isEmpty()) {
-            const FRefusalNotice notice;
             const FUserStep step(labels.value(area));
             createItems(dropped);
         }

@@ -119,6 +119,8 @@ class FSoftConScene : public QGraphicsScene, public FItemScene {
 
  private:
     void connectFurniture();
+    /** Takes an item out of the scene; it still stands for its object. */
+    void takeOut(FSoftConObjectItem* item);
     void removeObjectItem(FSoftConObjectItem* item);
     /** The topmost item at a point that a user can act on: no panel and no hint. */
     QGraphicsItem* itemUnder(const QPointF& point) const;

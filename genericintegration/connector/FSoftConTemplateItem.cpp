@@ -4,10 +4,10 @@
 #include "genericintegration/connector/FSceneColors.h"
 #include "genericintegration/connector/FSetUpObjects.h"
 #include "genericintegration/connector/FSoftwareConnector.h"
+#include "genericintegration/connector/layout/FConnectorLog.h"
 #include "genericintegration/connector/layout/FItemCaption.h"
 #include "genericintegration/connector/layout/FSoftConLayout.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
-#include "host/core/FLogMsg.h"
 
 #include <QFileInfo>
 #include <QGraphicsSimpleTextItem>
@@ -118,8 +118,7 @@ void FSoftConTemplateItem::nameMissing(FGenIntFile& file, const QString& path) {
         file.setFileName(name);
     }
     file.setName(name);
-    FLogMsg::info(QStringLiteral("SoftwareConnector"), QStringLiteral("The file %1 doesn't exist").arg(path),
-                  QStringLiteral("Its template is empty"));
+    FConnectorLog::info(QStringLiteral("The file %1 doesn't exist").arg(path), QStringLiteral("Its template is empty"));
 }
 
 void FSoftConTemplateItem::takeFile(FGenIntFile* made) {

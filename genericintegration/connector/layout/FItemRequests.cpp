@@ -1,7 +1,7 @@
 #include "genericintegration/connector/layout/FItemRequests.h"
 
+#include "genericintegration/connector/layout/FConnectorLog.h"
 #include "genericintegration/connector/layout/FItemPath.h"
-#include "host/core/FLogMsg.h"
 #include "host/run/FResultsGeneric.h"
 
 #include <QDir>
@@ -44,10 +44,6 @@ QString folderOf(const QFileInfo& file) {
     return file.exists() ? file.canonicalPath() : QFileInfo(file.path()).canonicalFilePath();
 }
 
-void info(const QString& message, const QString& consequence) {
-    FLogMsg::info(QStringLiteral("SoftwareConnector"), message, consequence);
-}
-
 }  // namespace
 
 FItemRequests::List FItemRequests::ofPaths(const QStringList& paths, const FExpr<FObject>& type, const QString& base,
@@ -86,8 +82,8 @@ FItemRequests::List FItemRequests::ofResults(const QString& folder, const QDateT
 void FItemRequests::createItems(const List& requests, const std::function<bool(const FExpr<FObject>&)>& isTemplate,
                                 const std::function<void(const FSoftConItemStructure&)>& create) {
     if (requests.size() > most) {
-        info(QStringLiteral("%1 items should be created.").arg(requests.size()),
-             QStringLiteral("It seems unlikely that so many files are needed. Item creation skipped."));
+        FConnectorLog::info(QStringLiteral("%1 items should be created.").arg(requests.size()),
+                            QStringLiteral("It seems unlikely that so many files are needed. Item creation skipped."));
         return;
     }
     for (const FSmartPtr<FSoftConItemStructure>& request : requests) {
@@ -105,9 +101,10 @@ QString FItemRequests::checkFileSize(qint64 size, const QString& fileName) {
     const QString number = QString::number(static_cast<double>(size) / static_cast<double>(unit), 'g', 3);
     const QString text = number + (unit == gigabyte ? QLatin1String("GB") : QLatin1String("MB"));
     if (!fileName.isEmpty()) {
-        info(QStringLiteral("File %1 has a size of %2.").arg(fileName, text),
-             QStringLiteral("The file ist too big - max size of result value templates = %1 MB, item creation skipped.")
-                 .arg(largestTemplate));
+        FConnectorLog::info(
+            QStringLiteral("File %1 has a size of %2.").arg(fileName, text),
+            QStringLiteral("The file ist too big - max size of result value templates = %1 MB, item creation skipped.")
+                .arg(largestTemplate));
     }
     return text;
 }

@@ -2,6 +2,7 @@
 #include "genericintegration/connector/dialogs/FSoftConDialog.h"
 #include "host/core/FIni.h"
 #include "host/core/FSelectionSet.h"
+#include "host/gui/base/FObjectMime.h"
 #include "host/gui/window/FNoticeBar.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QTextBrowser>
 #include <QToolButton>
 #include <QTreeView>
@@ -173,6 +175,10 @@ TEST_F(FSoftConSceneTest, aTypedPathGivesNoFolderOfTheNameAndWhatIsRefusedIsTold
     EXPECT_EQ(scene().objectItems().size(), 1);
     EXPECT_EQ(savedModel().toStdString(), before.toStdString());
     EXPECT_TRUE(notice().contains("no configuration with a definition"));
+    window().notices().showNotice({"another"});
+    ASSERT_TRUE(run("point p(1, 2, 3)"));
+    drop(*std::unique_ptr<QMimeData>(FObjectMime::encode({object<FManaged>("p")})), inArea(SoftConExportArea));
+    EXPECT_TRUE(notice().contains("no configuration with a definition")) << notice().toStdString();
 }
 
 TEST_F(FSoftConSceneTest, labelsAndHelpHaveTheirRoom) {

@@ -65,12 +65,21 @@ QString adviceFor(const QString& shellCharacter, const QString& command) {
                      "\">\" isn't needed: what the program prints is kept as stdout.txt. Leave it out, or put "
                      "it between quotes.")
            : command.contains(QLatin1Char('\''))
-               ? QStringLiteral("\"%1\" needs a shell. Write sh -c, and the whole line between quotes behind it.")
+               ? QStringLiteral("\"%1\" needs a shell. Write sh -c, followed by the whole line between quotes.")
                      .arg(shellCharacter)
                : QStringLiteral("\"%1\" needs a shell. Write: sh -c '%2'").arg(shellCharacter, command.trimmed());
 }
 
 }  // namespace
+
+QString FCommandLine::quoted(const QString& word) {
+    const Tokens tokens = split(word);
+    const bool isPlain = tokens.all.size() == 1 && tokens.openQuote.isNull() && !tokens.all.first().isOperator &&
+                         tokens.all.first().text == word;
+    QString escaped = word;
+    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return isPlain ? word : QLatin1Char('"') + escaped + QLatin1Char('"');
+}
 
 FCommandLine FCommandLine::parse(const QString& command) {
     const Tokens tokens = split(command);
@@ -86,7 +95,7 @@ FCommandLine FCommandLine::parse(const QString& command) {
         } else if (token.text == QLatin1String("<") && isBeforeWord && line.standardInput.isEmpty()) {
             line.standardInput = tokens.all.at(++i).text;
         } else if (token.text == QLatin1String("<") && line.standardInput.isEmpty() && line.fault.isEmpty()) {
-            line.fault = QStringLiteral("Behind \"<\" belongs the name of the file that the program reads.");
+            line.fault = QStringLiteral("The name of the file that the program reads must follow \"<\".");
         } else if (line.fault.isEmpty()) {
             line.fault = adviceFor(token.text, command);
         }

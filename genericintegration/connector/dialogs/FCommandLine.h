@@ -6,11 +6,13 @@
 /** A command as a user types it in a terminal, taken apart without a shell: nothing is expanded. */
 struct FCommandLine {
     /**
-     * Words are separated by blanks, unless they are between single or double quotes or behind a backslash. Between
+     * Words are separated by blanks, unless these are between single or double quotes or after a backslash. Between
      * single quotes, a backslash is an ordinary character; between double quotes, it is one unless a quote or a
      * backslash follows. `< file` names the standard input.
      */
     static FCommandLine parse(const QString& command);
+    /** A word as it is typed in a command: between quotes if it needs them. */
+    static QString quoted(const QString& word);
 
     QStringList words;
     QString standardInput;  //!< empty for none

@@ -80,7 +80,7 @@ void FNewSetUpDialog::askProgram() {
     const QString path =
         FUserInterface::instance()->askOpenFile(QStringLiteral("Select the program"), QDir::homePath(), QString());
     if (!path.isEmpty()) {
-        mpProgram->setText(path.contains(QLatin1Char(' ')) ? QStringLiteral("\"%1\"").arg(path) : path);
+        mpProgram->setText(FCommandLine::quoted(path));
     }
 }
 
@@ -98,17 +98,20 @@ void FNewSetUpDialog::lookUp() {
         return;
     }
     const auto search = FProgramSearch::search(now.program, QDir::currentPath(), qEnvironmentVariable("PATH"));
-    // The advice of the search for a name with blanks is one for scripts.
-    const QString notFound =
-        now.program.contains(QLatin1Char(' '))
-            ? QStringLiteral("The program '%1' was not found. If its arguments are in that name, leave out the quotes.")
-                  .arg(now.program)
-            : search.fault(false).toSentences();
-    const QString problem = !fault.isEmpty() ? fault : search.isFound() ? missingInput(now) : notFound;
+    const QString problem = !fault.isEmpty() ? fault : search.isFound() ? missingInput(now) : whyNotFound(search);
     const QString reads = now.standardInput.isEmpty() ? QString() : QStringLiteral(", reads %1").arg(now.standardInput);
     mpFound->setState(problem.isEmpty() ? FStateColor::State::Good : FStateColor::State::Warning);
     mpFound->setText(problem.isEmpty() ? QStringLiteral("✓ %1%2").arg(search.file, reads)
                                        : QStringLiteral("⚠ %1").arg(problem));
+}
+
+// The advice of the search for a name with blanks is one for scripts.
+QString FNewSetUpDialog::whyNotFound(const FProgramSearch& search) {
+    return search.program.contains(QLatin1Char(' '))
+               ? QStringLiteral(
+                     "The program '%1' was not found. If its arguments are in that name, leave out the quotes.")
+                     .arg(search.program)
+               : search.fault(false).toSentences();
 }
 
 QString FNewSetUpDialog::missingInput(const FNewSetUp& setUp) {

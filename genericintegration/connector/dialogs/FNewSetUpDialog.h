@@ -9,6 +9,7 @@ class FSampleList;
 class FStateLabel;
 class QLineEdit;
 class QPushButton;
+struct FProgramSearch;
 
 /** Asks for a program and its sample files. */
 class FNewSetUpDialog : public QDialog {
@@ -27,6 +28,7 @@ class FNewSetUpDialog : public QDialog {
     FNewSetUp entered() const;
     void askProgram();
     void lookUp();
+    static QString whyNotFound(const FProgramSearch& search);
     /** What to do for the standard input; empty if the file is there. */
     static QString missingInput(const FNewSetUp& setUp);
 

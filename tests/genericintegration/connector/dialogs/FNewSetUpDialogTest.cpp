@@ -23,6 +23,12 @@ TEST_F(FNewSetUpDialogTest, aNewSetUpIsOneStepFromProgramAndSamples) {
     trigger("newSetUp");
     type(find<QLineEdit>("newProgram"), "no-such-program-here");
     EXPECT_TRUE(find<QLabel>("newProgramFound")->text().startsWith(QChar(0x26a0)));
+    // A selected path is one word, whatever is in it.
+    const QString odd = folder.write("it's \\a&b \"c\".sh", "#!/bin/sh\n");
+    QFile::setPermissions(odd, QFile::ReadOwner | QFile::ExeOwner);
+    dialogs().answers.enqueue(odd);
+    find<QPushButton>("newSelectProgram")->click();
+    EXPECT_EQ(find<QLabel>("newProgramFound")->text(), QChar(0x2713) + QString(" ") + odd);
     // What a shell would take for itself is no argument.
     for (const auto& [command, remedy] : {std::pair("", "PATH"),
                                           {"sh a > out.txt", "stdout.txt"},

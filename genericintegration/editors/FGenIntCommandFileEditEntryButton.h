@@ -10,7 +10,6 @@ class FGenIntCommandFileEditEntryButton : public QToolButton {
     using QToolButton::QToolButton;
 
     void setEntryName(const QString& name);
-    const QString& getEntryName() const { return mEntryName; }
 
  protected:
     void paintEvent(QPaintEvent* event) override;

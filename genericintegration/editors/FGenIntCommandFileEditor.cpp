@@ -163,16 +163,15 @@ QList<FConnectorInterface*> FGenIntCommandFileEditor::getSoftwareConnectors() co
     return showing;
 }
 
-FGenIntComputation* FGenIntCommandFileEditor::computation() const {
+FConfigurationCustom* FGenIntCommandFileEditor::configuration() const {
     if (mComputation) {
-        return mComputation.ptr();
+        return mComputation->getConfiguration().ptr();
     }
     const FDefinitionGenInt* definition = mpEdit->getDefinition();
     for (FManaged* object : FObjectManager::instance()->getManaged(FGenIntComputation::null())) {
-        auto* candidate = dynamic_cast<FGenIntComputation*>(object);
-        const FConfigurationCustom* configuration = candidate ? candidate->getConfiguration().ptr() : nullptr;
-        if (definition && configuration && configuration->getDefinition().getObject() == definition) {
-            return candidate;
+        const auto* candidate = dynamic_cast<const FGenIntComputation*>(object);
+        if (definition && candidate && candidate->definition() == definition) {
+            return candidate->getConfiguration().ptr();
         }
     }
     return nullptr;
@@ -219,9 +218,8 @@ void FGenIntCommandFileEditor::setAlteredText() {
 }
 
 void FGenIntCommandFileEditor::markConfiguration() {
-    const FGenIntComputation* owner = computation();
-    if (owner && owner->getConfiguration()) {
-        owner->getConfiguration()->setOutOfDate(true);
+    if (const FConfigurationCustom* values = configuration()) {
+        values->setOutOfDate(true);
     }
 }
 
@@ -286,25 +284,23 @@ void FGenIntCommandFileEditor::correct(const QString& wrong, const QString& righ
 }
 
 void FGenIntCommandFileEditor::showEntry(const QString& name) {
-    const FGenIntComputation* owner = computation();
-    FConfigurationCustom* configuration = owner ? owner->getConfiguration().ptr() : nullptr;
+    FConfigurationCustom* values = configuration();
     const FDefinitionGenInt* definition = mpEdit->getDefinition();
-    if (!mpNavigator || !configuration || !definition) {
+    if (!mpNavigator || !values || !definition) {
         return;
     }
-    const FValueTable table(*configuration, *definition, FValueTable::Use::Export);
+    const FValueTable table(*values, *definition, FValueTable::Use::Export);
     const int row = table.getKeys().find(name);
     if (const FEntry* entry = row == FTemplateKeys::notFound ? nullptr : table.entryOf(row)) {
-        mpNavigator->showEntry(configuration, entry->getFullName());
+        mpNavigator->showEntry(values, entry->getFullName());
     }
 }
 
 FWrittenText FGenIntCommandFileEditor::writtenText() const {
-    const FGenIntComputation* owner = computation();
-    const FConfigurationCustom* configuration = owner ? owner->getConfiguration().ptr() : nullptr;
+    const FConfigurationCustom* values = configuration();
     const FDefinitionGenInt* definition = mpEdit->getDefinition();
-    const bool isThere = mCommandFile && configuration && definition;
-    return isThere ? FWrittenText::of(*mCommandFile.ptr(), *configuration, *definition) : FWrittenText();
+    const bool isThere = mCommandFile && values && definition;
+    return isThere ? FWrittenText::of(*mCommandFile.ptr(), *values, *definition) : FWrittenText();
 }
 
 // ---- page ----

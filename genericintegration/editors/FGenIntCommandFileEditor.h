@@ -136,8 +136,8 @@ class FGenIntCommandFileEditor : public FClass<FGenIntCommandFileEditor, QFrame,
     QWidget* makeBar();
     QWidget* makeTexts();
     void listen();
-    /** The computation, or else the first one that uses the template; null if there is none. */
-    FGenIntComputation* computation() const;
+    /** The values of the computation, or else of the first one that uses the template; null if there are none. */
+    FConfigurationCustom* configuration() const;
     void showName();
     void changeMode();
     void markConfiguration();

@@ -42,7 +42,6 @@ FGenIntResultsFileEditor::FGenIntResultsFileEditor(QWidget* parent, const FExpr<
                                                    const FExpr<FGenIntComputation>& computation)
     : FClass(parent), mComputation(computation) {
     setOwnedElsewhere();
-    mResultsFile = file;
     init();
     setUpdateOnDemand(false);
     setResultsFile(file);
@@ -86,7 +85,6 @@ void FGenIntResultsFileEditor::init() {
     setFocusPolicy(Qt::StrongFocus);
     auto* command = new FAttribCmdSetAverageRows(this);
     command->setName(QStringLiteral("change average rows"));
-    mAverageCmd = FExpr<FAttribCmdSetAverageRows>();
     mAverageCmd.setExpr(FExprBase(command));
     mAverageAttributeEditor = FAttributeEditor::create(command);
     mpView = new FResultsFileView(*this, mResultsFile, mAverageAttributeEditor);

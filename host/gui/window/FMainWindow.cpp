@@ -33,7 +33,6 @@
 #include "host/gui/window/FStartPage.h"
 #include "host/run/FExternComputation.h"
 #include "host/run/FResultsGeneric.h"
-#include "host/script/FCmdInput.h"
 
 #include <QAction>
 #include <QApplication>
@@ -41,7 +40,6 @@
 #include <QDialog>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
@@ -54,6 +52,8 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -199,7 +199,7 @@ FObjectPage* FMainWindow::pageOfFocusedPart() const {
 FSituation FMainWindow::situation() const {
     FSituation now = FSituation::now(mRunTarget, mUnsaved);
     now.isPartFocused = pageOfFocusedPart() != nullptr;
-    now.isLocked = mIsLocked;
+    now.isLocked = mScript.isRunning();
     return now;
 }
 
@@ -219,7 +219,7 @@ void FMainWindow::noteEndOfRun(const FManaged* object) {
     }
     if (!computation->canRun()) {
         mInProgress.insert(object);
-    } else if (mInProgress.remove(object) && !mIsLocked) {
+    } else if (mInProgress.remove(object) && !mScript.isRunning()) {
         const FRunRecord& run = computation->getLastRun();
         if (run.state == FRunRecord::State::Failed || run.state == FRunRecord::State::TimedOut) {
             mpPanels->show(QStringLiteral("runs"));
@@ -377,7 +377,6 @@ void FMainWindow::showAbout() {
 }
 
 void FMainWindow::lock(bool isLocked) {
-    mIsLocked = isLocked;
     centralWidget()->setEnabled(!isLocked);
     menuBar()->setEnabled(!isLocked);
     mpFind->setEnabled(!isLocked);
@@ -390,45 +389,28 @@ void FMainWindow::lock(bool isLocked) {
 
 bool FMainWindow::executeLocked(const std::function<void()>& function) {
     const QPointer<QWidget> focus = QApplication::focusWidget();
-    mIsStopped = false;
-    mSinceInput.start();
-    FCmdInput::setPause([this] { takeInput(); });
-    lock(true);
-    function();
+    const bool isWhole = mScript.execute([&] {
+        lock(true);
+        function();
+    });
     lock(false);
-    FCmdInput::setPause({});
     if (focus) {
         focus->setFocus();
     }
-    if (mIsStopped) {
+    if (!isWhole) {
         showStatus(QStringLiteral("The script was stopped"));
     }
-    if (mClosesAfterScript) {
-        mClosesAfterScript = false;
+    if (std::exchange(mClosesAfterScript, false)) {
         QTimer::singleShot(0, this, &QWidget::close);
     }
-    return !mIsStopped;
-}
-
-// Else a script that doesn't wait for runs couldn't be stopped. As during a run, the rest of the window is locked.
-void FMainWindow::takeInput() {
-    constexpr qint64 interval = 100;  // milliseconds
-    if (mSinceInput.elapsed() >= interval) {
-        QEventLoop loop;
-        QTimer::singleShot(0, &loop, &QEventLoop::quit);
-        loop.exec();
-        mSinceInput.start();
-    }
+    return isWhole;
 }
 
 void FMainWindow::stop() {
     if (FExternComputation* computation = mRunTarget.getRunning()) {
         computation->cancel();
     }
-    if (FCmdInput* script = FCmdInput::current(); script && mIsLocked) {
-        mIsStopped = true;
-        script->requestExit(0);
-    }
+    mScript.stop();
 }
 
 void FMainWindow::showStatus(const QString& text) {
@@ -448,7 +430,7 @@ bool FMainWindow::mayStopScript() {
 }
 
 bool FMainWindow::mayClose() {
-    if (mIsLocked) {
+    if (mScript.isRunning()) {
         mClosesAfterScript = mayStopScript();
         return false;
     }
@@ -488,7 +470,7 @@ void FMainWindow::changeEvent(QEvent* event) {
 
 // Only what no part of the window takes itself gets here.
 void FMainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!mIsLocked && !FFileDrop::filesIn(event->mimeData()).isEmpty()) {
+    if (!mScript.isRunning() && !FFileDrop::filesIn(event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }

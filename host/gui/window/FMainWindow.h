@@ -4,10 +4,10 @@
 #include "host/core/FQueuedCall.h"
 #include "host/gui/base/FNavigator.h"
 #include "host/gui/base/FRunTarget.h"
+#include "host/gui/window/FScriptExecution.h"
 #include "host/gui/window/FSituation.h"
 #include "host/gui/window/FUnsavedWork.h"
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QSet>
 
@@ -103,7 +103,6 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     bool mayClose();
     bool mayStopScript();
     void lock(bool isLocked);
-    void takeInput();
     void noteEndOfRun(const FManaged* object);
 
     FRunTarget mRunTarget;
@@ -122,9 +121,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     QLabel* mpRunState = nullptr;
     std::unique_ptr<FPanelDocks> mpPanels;
     bool mShowsProject = false;
-    bool mIsLocked = false;   //!< a script is being executed
-    bool mIsStopped = false;  //!< it is to end
+    FScriptExecution mScript;
     bool mClosesAfterScript = false;
-    QElapsedTimer mSinceInput;          //!< since it last let the window take input
     QSet<const FManaged*> mInProgress;  //!< computations whose run was in progress when they changed last
 };

@@ -37,9 +37,8 @@ FSampleList::FSampleList(const QString& id, const QString& label, const QString&
     new FEmptyHint(mpList, hint);
     auto* buttons = new QVBoxLayout;
     const auto add = [&](const QString& name, const char* icon, const QString& tip, void (FSampleList::*act)()) {
-        auto* button = new FToolButton(id + name, QString::fromLatin1(icon), tip, this);
-        connect(button, &FToolButton::clicked, this, act);
-        buttons->addWidget(button);
+        connect(FToolButton::addTo(*buttons, id + name, QString::fromLatin1(icon), tip), &FToolButton::clicked, this,
+                act);
     };
     add(QStringLiteral("Add"), "list-add", QStringLiteral("Select %1…").arg(label.toLower()), &FSampleList::askFiles);
     add(QStringLiteral("Remove"), "list-remove", QStringLiteral("Take the selected files out of the list"),

@@ -2,6 +2,8 @@
 
 #include "host/gui/base/FIcons.h"
 
+#include <QLayout>
+
 FToolButton::FToolButton(const QString& id, const QString& icon, const QString& text, QWidget* parent)
     : QToolButton(parent) {
     setObjectName(id);
@@ -10,4 +12,10 @@ FToolButton::FToolButton(const QString& id, const QString& icon, const QString& 
     setToolTip(text);
     setAccessibleName(text);
     setAutoRaise(true);
+}
+
+FToolButton* FToolButton::addTo(QLayout& row, const QString& id, const QString& icon, const QString& text) {
+    auto* button = new FToolButton(id, icon, text);
+    row.addWidget(button);
+    return button;
 }

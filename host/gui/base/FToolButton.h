@@ -11,4 +11,6 @@ class MERIX_EXPORT FToolButton : public QToolButton {
  public:
     /** @param icon  as FIcons knows it */
     FToolButton(const QString& id, const QString& icon, const QString& text, QWidget* parent = nullptr);
+    /** Makes a button at the end of a row of widgets. */
+    static FToolButton* addTo(QLayout& row, const QString& id, const QString& icon, const QString& text);
 };

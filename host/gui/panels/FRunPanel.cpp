@@ -140,14 +140,14 @@ QWidget* FRunPanel::makeDetails() {
     // Beside the tabs, which a row of buttons above would leave no room for in a small window.
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(0);
-    mpStop = addButton(*buttons, QStringLiteral("stopRun"), QStringLiteral("media-playback-stop"),
-                       QStringLiteral("Stop this run"));
-    mpAgain = addButton(*buttons, QStringLiteral("runAgain"), QStringLiteral("media-playback-start"),
-                        QStringLiteral("Run this computation again"));
-    mpFolder = addButton(*buttons, QStringLiteral("openRunFolder"), QStringLiteral("document-open-folder"),
-                         QStringLiteral("Open the folder with the files of this run"));
-    mpResults = addButton(*buttons, QStringLiteral("showRunResults"), QStringLiteral("results"),
-                          QStringLiteral("Show the results of this run"));
+    mpStop = FToolButton::addTo(*buttons, QStringLiteral("stopRun"), QStringLiteral("media-playback-stop"),
+                                QStringLiteral("Stop this run"));
+    mpAgain = FToolButton::addTo(*buttons, QStringLiteral("runAgain"), QStringLiteral("media-playback-start"),
+                                 QStringLiteral("Run this computation again"));
+    mpFolder = FToolButton::addTo(*buttons, QStringLiteral("openRunFolder"), QStringLiteral("document-open-folder"),
+                                  QStringLiteral("Open the folder with the files of this run"));
+    mpResults = FToolButton::addTo(*buttons, QStringLiteral("showRunResults"), QStringLiteral("results"),
+                                   QStringLiteral("Show the results of this run"));
     buttons->addStretch(1);
     auto* row = new QHBoxLayout(details);
     row->setContentsMargins(0, 0, 0, 0);
@@ -169,12 +169,6 @@ QWidget* FRunPanel::makeDetails() {
     connect(mpFolder, &QToolButton::clicked, this, &FRunPanel::openFolder);
     connect(mpResults, &QToolButton::clicked, this, &FRunPanel::showResults);
     return details;
-}
-
-QToolButton* FRunPanel::addButton(QLayout& row, const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new FToolButton(id, icon, tip, this);
-    row.addWidget(button);
-    return button;
 }
 
 int FRunPanel::current() const {

@@ -26,7 +26,6 @@ class MERIX_EXPORT FRunPanel : public QWidget {
 
  private:
     QWidget* makeDetails();
-    QToolButton* addButton(QLayout& row, const QString& id, const QString& icon, const QString& tip);
     /** The selected row; -1 if there is none. */
     int current() const;
     void showCurrent();

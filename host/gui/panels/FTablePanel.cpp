@@ -137,8 +137,8 @@ QWidget* FTablePanel::makeHeader() {
     mpTable->setAccessibleName(QStringLiteral("Output file"));
     mpTable->setToolTip(QStringLiteral("The file whose numbers are shown"));
     row.addWidget(mpTable);
-    mpCompare = addButton(row, QStringLiteral("compareResults"), QStringLiteral("view-split-left-right"),
-                          QStringLiteral("Show the numbers of the run before beside these"));
+    mpCompare = FToolButton::addTo(row, QStringLiteral("compareResults"), QStringLiteral("view-split-left-right"),
+                                   QStringLiteral("Show the numbers of the run before beside these"));
     mpCompare->setCheckable(true);
     connect(mpCompare, &QToolButton::clicked, this, &FTablePanel::compare);
     auto* others = new QMenu(mpCompare);
@@ -146,11 +146,11 @@ QWidget* FTablePanel::makeHeader() {
     connect(others, &QMenu::aboutToShow, this, [this, others] { fillRuns(*others); });
     mpCompare->setMenu(others);
     mpCompare->setPopupMode(QToolButton::MenuButtonPopup);
-    const QToolButton* copy = addButton(row, QStringLiteral("copyResults"), QStringLiteral("edit-copy"),
-                                        QStringLiteral("Copy the selected rows, or all, as CSV (Ctrl+C)"));
+    const QToolButton* copy = FToolButton::addTo(row, QStringLiteral("copyResults"), QStringLiteral("edit-copy"),
+                                                 QStringLiteral("Copy the selected rows, or all, as CSV (Ctrl+C)"));
     connect(copy, &QToolButton::clicked, this, [this] { FClipboard::setText(mpView->toText()); });
-    const QToolButton* save = addButton(row, QStringLiteral("exportTable"), QStringLiteral("document-export"),
-                                        QStringLiteral("Write the results to a CSV file"));
+    const QToolButton* save = FToolButton::addTo(row, QStringLiteral("exportTable"), QStringLiteral("document-export"),
+                                                 QStringLiteral("Write the results to a CSV file"));
     connect(save, &QToolButton::clicked, this, &FTablePanel::exportCsv);
     row.addStretch();
     return header;
@@ -168,12 +168,6 @@ void FTablePanel::resizeEvent(QResizeEvent* event) {
 void FTablePanel::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     mpView->setFocus();
-}
-
-QToolButton* FTablePanel::addButton(QBoxLayout& row, const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new FToolButton(id, icon, tip, this);
-    row.addWidget(button);
-    return button;
 }
 
 FResultsGeneric* FTablePanel::results() const {

@@ -55,7 +55,6 @@ class MERIX_EXPORT FTablePanel : public QWidget {
 
  private:
     QWidget* makeHeader();
-    QToolButton* addButton(QBoxLayout& row, const QString& id, const QString& icon, const QString& tip);
     FResultsGeneric* results() const;
     /** Reads what isn't read yet, and shows it. */
     void refresh();

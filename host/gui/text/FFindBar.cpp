@@ -39,22 +39,22 @@ FFindBar::FFindBar(FOutputViewer& viewer, QWidget* parent)
     mpWhat->setMaxLength(mostCharacters);
     mpWhat->setClearButtonEnabled(true);
     row->addWidget(mpWhat, 1);
-    QToolButton* previous = addButton(QStringLiteral("findPrevious"), QStringLiteral("go-up"),
-                                      QStringLiteral("Find the previous place (Shift+F3)"));
-    QToolButton* next =
-        addButton(QStringLiteral("findNext"), QStringLiteral("go-down"), QStringLiteral("Find the next place (F3)"));
+    QToolButton* previous = FToolButton::addTo(*row, QStringLiteral("findPrevious"), QStringLiteral("go-up"),
+                                               QStringLiteral("Find the previous place (Shift+F3)"));
+    QToolButton* next = FToolButton::addTo(*row, QStringLiteral("findNext"), QStringLiteral("go-down"),
+                                           QStringLiteral("Find the next place (F3)"));
     mpCase->setObjectName(QStringLiteral("findCase"));
     mpCase->setAccessibleName(QStringLiteral("Match case"));
     row->addWidget(mpCase);
     mpProgress->setObjectName(QStringLiteral("findProgress"));
     mpProgress->setAccessibleName(QStringLiteral("Progress of the search"));
     row->addWidget(mpProgress, 1);
-    mpStop = addButton(QStringLiteral("findStop"), QStringLiteral("process-stop"),
-                       QStringLiteral("Stop the search (Escape)"));
+    mpStop = FToolButton::addTo(*row, QStringLiteral("findStop"), QStringLiteral("process-stop"),
+                                QStringLiteral("Stop the search (Escape)"));
     mpMessage->setObjectName(QStringLiteral("findMessage"));
     row->addWidget(mpMessage, 1);
-    QToolButton* closeButton = addButton(QStringLiteral("findClose"), QStringLiteral("window-close"),
-                                         QStringLiteral("Close the search (Escape)"));
+    QToolButton* closeButton = FToolButton::addTo(*row, QStringLiteral("findClose"), QStringLiteral("window-close"),
+                                                  QStringLiteral("Close the search (Escape)"));
 
     connect(mpWhat, &QLineEdit::returnPressed, this, &FFindBar::findNext);
     connect(mpWhat, &QLineEdit::textEdited, this, &FFindBar::stop);
@@ -66,12 +66,6 @@ FFindBar::FFindBar(FOutputViewer& viewer, QWidget* parent)
     connect(&mTimer, &QTimer::timeout, this, &FFindBar::searchOn);
     showProgress(false);
     hide();
-}
-
-QToolButton* FFindBar::addButton(const QString& id, const QString& icon, const QString& tip) {
-    auto* button = new FToolButton(id, icon, tip, this);
-    layout()->addWidget(button);
-    return button;
 }
 
 void FFindBar::start() {

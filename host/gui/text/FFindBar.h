@@ -34,7 +34,6 @@ class MERIX_EXPORT FFindBar : public QFrame {
     void keyPressEvent(QKeyEvent* event) override;
 
  private:
-    QToolButton* addButton(const QString& id, const QString& icon, const QString& tip);
     void search(bool backwards);
     void searchOn();
     void show(const QString& message, bool isBad);

@@ -10,7 +10,28 @@
 #include "merix/FTableOutput.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
+
+namespace {
+
+QString pathOf(const QDir& folder) {
+    return folder.path() + QLatin1Char('/');
+}
+
+/** Why a file can't be read; empty if it can. */
+QString faultOf(const QDir& folder, const QString& name) {
+    QFile file(folder.filePath(name));
+    if (!file.exists()) {
+        return QStringLiteral("there is no file \"%1\"").arg(file.fileName());
+    }
+    if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
+        return QStringLiteral("can't read \"%1\": %2").arg(file.fileName(), fault);
+    }
+    const QString unreadable = FResultFiles(pathOf(folder), {name}).unreadable();
+    return unreadable.isEmpty() ? QString() : QStringLiteral("%1 can't be read").arg(unreadable);
+}
+
+}  // namespace
 
 std::vector<FSubcommand::Argument> FReadSubcommand::arguments() {
     return {mTarget.projectArgument(),
@@ -32,7 +53,7 @@ int FReadSubcommand::run() const {
     if (exitCode != FExitCode::done) {
         return exitCode;
     }
-    const FExpr<FComputationResults> results = mTarget.computation()->readFolder(folder.path() + QLatin1Char('/'));
+    const FExpr<FComputationResults> results = mTarget.computation()->readFolder(pathOf(folder));
     auto* read = dynamic_cast<FResultsGeneric*>(results.ptr());
     const bool isWhole = hasFiles(folder);
     if (!read || !read->prepareResults()) {
@@ -53,24 +74,14 @@ bool FReadSubcommand::hasFiles(const QDir& folder) const {
     const FConfigurationCustom* configuration = mTarget.computation()->getConfiguration().ptr();
     const FDefinition* definition = configuration ? configuration->getDefinition().ptr() : nullptr;
     const QStringList names = definition ? definition->getReadFiles() : QStringList();
-    const QString path = folder.path() + QLatin1Char('/');
     bool hasAll = true;
     for (const QString& name : names) {
-        QFile file(folder.filePath(name));
-        const bool exists = file.exists();
-        if (const QString fault = FFile::openOrdinary(file); !fault.isEmpty()) {
-            FLogMsg::error(QStringLiteral("merix"),
-                           exists ? QStringLiteral("can't read \"%1\": %2").arg(file.fileName(), fault)
-                                  : QStringLiteral("there is no file \"%1\"").arg(file.fileName()),
-                           QStringLiteral("Its values are NaN"));
-            hasAll = false;
-        } else if (const QString unreadable = FResultFiles(path, {name}).unreadable(); !unreadable.isEmpty()) {
-            FLogMsg::error(QStringLiteral("merix"), QStringLiteral("%1 can't be read").arg(unreadable),
-                           QStringLiteral("Its values are NaN"));
+        if (const QString fault = faultOf(folder, name); !fault.isEmpty()) {
+            FLogMsg::error(QStringLiteral("merix"), fault, QStringLiteral("Its values are NaN"));
             hasAll = false;
         }
     }
-    if (const QString empty = FResultFiles(path, names).empty(); !empty.isEmpty()) {
+    if (const QString empty = FResultFiles(pathOf(folder), names).empty(); !empty.isEmpty()) {
         FLogMsg::warning(QStringLiteral("merix"), QStringLiteral("nothing is in %1").arg(empty),
                          QStringLiteral("Its values are NaN"));
     }

@@ -136,7 +136,7 @@ QList<FConfigurationCustom*> FSetUpTarget::configurations() const {
 }
 
 // A name alone is first an entry of the computation itself, then a parameter, then an entry further up in the chain.
-FSetUpTarget::FPlace FSetUpTarget::placeOf(const QString& name, QString& fault) const {
+FSetUpTarget::FPlace FSetUpTarget::placeOf(const QString& name, QString& remedy) const {
     const QList<FConfigurationCustom*> all = configurations();
     QList<FPlace> places;
     for (FConfigurationCustom* configuration : all) {
@@ -157,8 +157,8 @@ FSetUpTarget::FPlace FSetUpTarget::placeOf(const QString& name, QString& fault) 
         return {nullptr, QString(), parameter};
     }
     if (places.size() > 1) {
-        fault = QStringLiteral("Several configurations have that entry; write %1.%2 or %3.%2")
-                    .arg(places[0].configuration->getName(), name, places[1].configuration->getName());
+        remedy = QStringLiteral("Several configurations have that entry; write %1.%2 or %3.%2")
+                     .arg(places[0].configuration->getName(), name, places[1].configuration->getName());
     }
     return places.size() == 1 ? places.first() : FPlace();
 }

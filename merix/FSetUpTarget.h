@@ -46,7 +46,8 @@ class FSetUpTarget {
     struct FPlace;
 
     bool set(const QString& assignment) const;
-    FPlace placeOf(const QString& name, QString& fault) const;
+    /** @param remedy  gets what to write instead of a name that several configurations have */
+    FPlace placeOf(const QString& name, QString& remedy) const;
     /** The configuration of the computation, and those of the computations whose results it uses. */
     QList<FConfigurationCustom*> configurations() const;
     QStringList knownNames() const;

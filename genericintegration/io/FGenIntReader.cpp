@@ -48,6 +48,15 @@ QString aborted() {
     return QStringLiteral("parsing process aborted");
 }
 
+/** Why a name gives no file of a directory; empty if it does, or if there is no such file. */
+QString faultOfPlace(const QString& directory, const QString& name) {
+    if (FSafePath::leadsOut(name)) {
+        return QStringLiteral("\"%1\" leads out of the result directory").arg(name);
+    }
+    const QString link = FResultFiles::faultOfLinks(directory, name);
+    return link.isEmpty() ? QString() : QStringLiteral("\"%1\": %2").arg(name, link);
+}
+
 }  // namespace
 
 FGenIntReader* FGenIntReader::instance() {
@@ -116,20 +125,15 @@ std::optional<FResultText> FGenIntReader::readText(const FGenIntResultsFile& fil
 }
 
 std::unique_ptr<QFile> FGenIntReader::openFile(const FGenIntResultsFile& file, const QString& directory) const {
-    auto device = std::make_unique<QFile>(QDir::cleanPath(directory + QLatin1Char('/') + file.getFileName()));
-    const bool leadsOut = FSafePath::leadsOut(file.getFileName());
-    const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, file.getFileName());
-    const bool isUnusable = leadsOut || !link.isEmpty() || !FResultFiles::faultOfName(file.getFileName()).isEmpty();
-    if (leadsOut) {
-        FLogMsg::info(getClass(), QStringLiteral("\"%1\" leads out of the result directory").arg(file.getFileName()),
-                      QStringLiteral("Give the template a file name below it"));
-    }
-    if (!link.isEmpty()) {
-        FLogMsg::info(getClass(), QStringLiteral("\"%1\": %2").arg(file.getFileName(), link),
-                      QStringLiteral("It isn't read"));
+    const QString name = file.getFileName();
+    auto device = std::make_unique<QFile>(QDir::cleanPath(directory + QLatin1Char('/') + name));
+    const QString fault = faultOfPlace(directory, name);
+    if (!fault.isEmpty()) {
+        FLogMsg::info(getClass(), fault, QStringLiteral("It isn't read"));
     }
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (isUnusable || !FFile::openOrdinary(*device, mode).isEmpty()) {
+    const bool isUsable = fault.isEmpty() && FResultFiles::faultOfName(name).isEmpty();
+    if (!isUsable || !FFile::openOrdinary(*device, mode).isEmpty()) {
         FLogMsg::info(getClass(),
                       QStringLiteral("Could not open file ") + device->fileName() + QStringLiteral(" for reading"),
                       aborted());
@@ -142,11 +146,8 @@ void FGenIntReader::importFile(const FGenIntResultsFileValue& value, const QStri
     if (!FTemplateValues::isFileName(value)) {
         return;
     }
-    const bool leadsOut = FSafePath::leadsOut(name);
-    const QString link = leadsOut ? QString() : FResultFiles::faultOfLinks(directory, name);
-    if (leadsOut || !link.isEmpty()) {
-        const QString fault = leadsOut ? QStringLiteral("leads out of the result directory") : link;
-        FLogMsg::info(getClass(), QStringLiteral("\"%1\" %2").arg(name, fault), QStringLiteral("Not imported"));
+    if (const QString fault = faultOfPlace(directory, name); !fault.isEmpty()) {
+        FLogMsg::info(getClass(), fault, QStringLiteral("Not imported"));
         mImportedObjects.clear();
         return;
     }

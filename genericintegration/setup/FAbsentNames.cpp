@@ -8,12 +8,6 @@
 #include <algorithm>
 #include <utility>
 
-FAbsentNames::~FAbsentNames() {
-    if (mCount > mostErrors) {
-        FLogMsg::warning(mSource, QStringLiteral("%1 more names stand for nothing").arg(mCount - mostErrors));
-    }
-}
-
 bool FAbsentNames::isAbsent(const QString& name) const {
     return !mDeclared.contains(name) && !mNames.isAnnounced(name) && !FEnumTable::isWord(name) &&
            mNames.find(name).isEmpty();
@@ -88,5 +82,8 @@ void FAbsentNames::takeOut(FSyntaxBody& statements) {
         if (auto* declaration = std::get_if<FSyntaxDeclaration>(&statement.content)) {
             takeOutOfBlock(declaration->block);
         }
+    }
+    if (mCount > mostErrors) {
+        FLogMsg::warning(mSource, QStringLiteral("%1 more names stand for nothing").arg(mCount - mostErrors));
     }
 }

@@ -12,10 +12,8 @@ class FAbsentNames {
  public:
     /** @param names  what names stand for, apart from the objects that the statements declare */
     FAbsentNames(const FScriptNames& names, const QString& source) : mNames(names), mSource(source) {}
-    ~FAbsentNames();
-    FAbsentNames(const FAbsentNames&) = delete;
-    FAbsentNames& operator=(const FAbsentNames&) = delete;
 
+    /** To call once. */
     void takeOut(FSyntaxBody& statements);
 
  private:

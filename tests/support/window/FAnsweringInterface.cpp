@@ -11,9 +11,8 @@ QString FAnsweringInterface::next(const QString& question) {
     return answers.dequeue();
 }
 
-int FAnsweringInterface::ask(const QString& title, const QString& text, const QStringList& buttons, int defaultButton) {
-    Q_UNUSED(title)
-    Q_UNUSED(defaultButton)
+int FAnsweringInterface::ask(const QString& /*title*/, const QString& text, const QStringList& buttons,
+                             int /*defaultButton*/) {
     const QString answer = next(text);
     EXPECT_TRUE(answer.isEmpty() || buttons.contains(answer))
         << answer.toStdString() << " is none of " << buttons.join(", ").toStdString();
@@ -26,24 +25,20 @@ int FAnsweringInterface::warn(const QString& title, const QString& text, const Q
                               : ask(title, text, buttons, defaultButton);
 }
 
-QString FAnsweringInterface::askOpenFile(const QString& caption, const QString& startPath, const QString& filter) {
-    Q_UNUSED(startPath)
-    Q_UNUSED(filter)
+QString FAnsweringInterface::askOpenFile(const QString& caption, const QString& /*startPath*/,
+                                         const QString& /*filter*/) {
     return next(caption);
 }
 
-QStringList FAnsweringInterface::askOpenFiles(const QString& caption, const QString& startPath) {
-    Q_UNUSED(startPath)
+QStringList FAnsweringInterface::askOpenFiles(const QString& caption, const QString& /*startPath*/) {
     return next(caption).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-QString FAnsweringInterface::askSaveFile(const QString& caption, const QString& startPath, const QString& filter) {
-    Q_UNUSED(startPath)
-    Q_UNUSED(filter)
+QString FAnsweringInterface::askSaveFile(const QString& caption, const QString& /*startPath*/,
+                                         const QString& /*filter*/) {
     return next(caption);
 }
 
-QString FAnsweringInterface::askFolder(const QString& caption, const QString& startPath) {
-    Q_UNUSED(startPath)
+QString FAnsweringInterface::askFolder(const QString& caption, const QString& /*startPath*/) {
     return next(caption);
 }

@@ -6,7 +6,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 
-
 /**
  * Looks for an expression in a document, slice by slice: from a place to the end, then from the other end to that
  * place. What is found is within a block. A change of the document makes the search invalid.

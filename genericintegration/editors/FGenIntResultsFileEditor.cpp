@@ -14,6 +14,8 @@
 #include "genericintegration/editors/FValueSelector.h"
 #include "genericintegration/io/FGenIntReader.h"
 #include "genericintegration/io/FTemplateValues.h"
+#include "genericintegration/marking/FColumnOrigin.h"
+#include "genericintegration/marking/FResultSample.h"
 #include "genericintegration/marking/FValueParameters.h"
 #include "genericintegration/setup/FGenIntComputation.h"
 #include "host/core/FChanges.h"
@@ -138,6 +140,7 @@ void FGenIntResultsFileEditor::connectSample() {
         refreshAll();
         // The user types the name at once, in place of the proposed one, and points at the next number.
         mpView->selector().startNaming(mEdit);
+        mpView->form().showFocused();
     });
 }
 
@@ -350,7 +353,7 @@ void FGenIntResultsFileEditor::valueTypeChanged(const QString& type) {
     const bool isFile = type == FFileName::null()->getClass();
     mSteps.setType(type, isFile ? mpView->form().values().importType() : QString());
     refreshFileImportType();
-    refreshResultsPreview();
+    readingChanged();
 }
 
 void FGenIntResultsFileEditor::fileImportTypeChanged(const QString& type) {
@@ -390,9 +393,16 @@ void FGenIntResultsFileEditor::averageToggled(bool isOn) {
     }
     const QString type = FTemplateValues::typeOf(*value.ptr())->getClass();
     const FObject* before = FObject::getPrototype(mLastType);
-    mSteps.setAverage(isOn, isOn || !before ? FDouble::null() : before);
+    // An average knows no anchor. The column stays that of the same number.
+    const FResultSample& sample = mpView->sample().sample();
+    const FValueDescription place = FTemplateValues::describePlace(*value.ptr());
+    const FSeparatorSettings separators = FTemplateValues::separatorsOf(*mResultsFile.ptr());
+    const std::optional<int> column = isOn ? FColumnOrigin::fromLine(sample, separators, place)
+                                           : FColumnOrigin::fromAnchor(sample, separators, place);
+    mSteps.setAverage(isOn, isOn || !before ? FDouble::null() : before, column.value_or(value->mColumn));
     mLastType = isOn ? type : QString();
     mAverageAttributeEditor->restore();
+    refreshResultsValues();
     refreshResultsValueType();
     refreshAverage();
     placeChanged();

@@ -9,6 +9,8 @@
 #include <QLayout>
 #include <QScrollArea>
 
+#include <cmath>
+
 FPreviewGroup::FPreviewGroup()
     : FGroupBox(QStringLiteral("Results Preview")),
       mpTable(new FResultsPreview),
@@ -27,14 +29,17 @@ FPreviewGroup::FPreviewGroup()
 
 void FPreviewGroup::showPlace(const FFoundValue& found, const QString& text, bool isFileName, bool isFramed) {
     constexpr int mostShown = 80;  // characters
-    QString place = found.rows         ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
+    const bool isMissing = std::isnan(found.number);
+    const bool isMean = found.rows && !isMissing;
+    QString place = isMean             ? QStringLiteral("mean of %1 rows").arg(found.rows->count)
                     : found.column > 0 ? QStringLiteral("line %1, column %2").arg(found.line).arg(found.column)
                                        : QStringLiteral("not found");
     place += isFramed ? QStringLiteral(", in the frame") : QString();
     const QString shown =
         found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text.left(mostShown));
     const QString reason = isFileName ? QString() : FValueRemark::text(found, found.number);
-    const QString subject = found.rows ? QStringLiteral("It") : shown;
+    // The reason is about the number, or says why there is none.
+    const QString subject = isMissing ? place + QLatin1Char(':') : isMean ? QStringLiteral("It") : shown;
     mpPlace->show(reason.isEmpty() ? shown : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(subject, reason));
 }
 

@@ -116,6 +116,13 @@ void FResultsFileForm::showValues() {
     }
 }
 
+void FResultsFileForm::showFocused() {
+    QWidget* focus = QApplication::focusWidget();
+    if (focus && mpRows->isAncestorOf(focus)) {
+        mpArea->ensureWidgetVisible(focus);
+    }
+}
+
 bool FResultsFileForm::eventFilter(QObject* watched, QEvent* event) {
     if (watched == mpRows && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)) {
         fitRows();

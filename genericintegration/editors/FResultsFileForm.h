@@ -30,6 +30,8 @@ class FResultsFileForm : public QFrame {
 
     /** Completes what is being typed in any of them. */
     void commit();
+    /** Scrolls to the field that has the focus, if it is in the form. */
+    void showFocused();
     /** Measures the labels again, after a change of the font. */
     void refreshLabels();
 

@@ -174,11 +174,12 @@ void FResultsFileSteps::setOccurrence(GenIntAnchorOccurrence occurrence) {
     });
 }
 
-void FResultsFileSteps::setAverage(bool isOn, const FObject* type) {
+void FResultsFileSteps::setAverage(bool isOn, const FObject* type, int column) {
     const QString label = isOn ? QStringLiteral("active") : QStringLiteral("deactivate");
     changeValue(label + QStringLiteral(" average calculation"), [&](FGenIntResultsFileValue& value) {
         value.mCalcAverage = isOn;
         value.mType = type;
+        value.mColumn = column;
     });
 }
 

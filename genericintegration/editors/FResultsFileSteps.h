@@ -43,7 +43,8 @@ class FResultsFileSteps {
     void setColumn(int column);
     void setAnchor(const QString& anchor);
     void setOccurrence(GenIntAnchorOccurrence occurrence);
-    void setAverage(bool isOn, const FObject* type);
+    /** @param column  from where the value counts its columns then */
+    void setAverage(bool isOn, const FObject* type, int column);
     void setAverageRows(const FExpr<FUnsigned>& rows);
     void move(const FValueDescription& place, const QString& label);
 

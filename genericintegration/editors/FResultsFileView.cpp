@@ -95,10 +95,14 @@ void FResultsFileView::showPreviewed() {
 
 // Says that the reader takes another place than the marked one.
 void FResultsFileView::explainFrame() {
-    const QString reason = QStringLiteral(
-        "It is read at the frame in the sample, not at the marked column. Choose an anchor that occurs once in its "
-        "line");
-    table().setNote(selector().name(), mpSample->isReadElsewhere() ? reason : QString());
+    const QString elsewhere = QStringLiteral("It is read at the frame in the sample, not at the marked column. ");
+    const QString cause =
+        mpSample->isAverage()
+            ? QStringLiteral(
+                  "An average has no anchor: its columns count from the start of each line, and lines "
+                  "without a number don't count")
+            : QStringLiteral("Choose an anchor that occurs once in its line");
+    table().setNote(selector().name(), mpSample->isReadElsewhere() ? elsewhere + cause : QString());
 }
 
 // ---- problems ----
@@ -121,4 +125,5 @@ void FResultsFileView::chosen(const FSetUpProblem& problem) {
     } else if (isEnabled()) {
         mpForm->separators().focus();
     }
+    mpForm->showFocused();
 }

@@ -48,6 +48,7 @@ class FSamplePane : public QFrame {
     void unmark();
     /** Whether the reader takes the marked value from another place than the marked column, which has a frame then. */
     bool isReadElsewhere() const { return mMarked && !mMarked->marks.readerPlaces.empty(); }
+    bool isAverage() const { return mMarked && mMarked->value.average; }
     /** What marks are painted with. */
     FResultsMarker& marker() { return mMarker; }
 

@@ -2,12 +2,12 @@
 
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSeparatorSettings.h"
+#include "genericintegration/marking/FColumnHeading.h"
 #include "genericintegration/marking/FEntryNameProposal.h"
+#include "genericintegration/marking/FLineNumbers.h"
 #include "genericintegration/marking/FPointedNumber.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <vector>
@@ -62,11 +62,28 @@ int labelEnd(const QString& line) {
     return place < 0 ? line.size() : place;
 }
 
+/** The last text with a word before a place of a line and between its numbers; the letter of an exponent is none. */
+FTextRange lastWords(const QString& line, int end) {
+    const auto hasWord = [](const QString& text) {
+        const auto isPair = [](QChar a, QChar b) { return a.isLetter() && b.isLetter(); };
+        return std::adjacent_find(text.begin(), text.end(), isPair) != text.end();
+    };
+    FTextRange words;
+    FLineNumbers numbers(line);
+    for (int begin = 0; begin < end;) {
+        const FTextRange number = numbers.next();
+        const int next = number.length > 0 ? std::min(number.begin, end) : end;
+        words = hasWord(line.mid(begin, next - begin)) ? FTextRange{begin, next - begin} : words;
+        begin = number.length > 0 ? number.end() : end;
+    }
+    return words;
+}
+
 /** Looks for a text from which the number can be counted. */
 class FAnchorChoice {
  public:
     FAnchorChoice(const FResultSample& sample, const FSeparatorSettings& separators, const FPointedNumber& number)
-        : mSample(sample), mSeparators(separators), mNumber(number) {}
+        : mSample(sample), mSeparators(separators), mNumber(number), mHeading(sample, number) {}
 
     std::optional<FPlaceProposal> choose() {
         collect();
@@ -129,20 +146,15 @@ class FAnchorChoice {
         const QString nearest = mNumber.textBefore();
         add(line, mNumber.line(), mNumber.start() - nearest.size(), mNumber.start());
         add(line, mNumber.line(), 0, std::min(labelEnd(line), mNumber.start()));
+        const FTextRange words = lastWords(line, mNumber.start());
+        if (words.begin > 0 && words.end() < mNumber.start()) {
+            add(line, mNumber.line(), words.begin, words.end());
+        }
         for (qint64 above = mNumber.line() - 1; above >= std::max<qint64>(mNumber.line() - mostLinesAbove, 0);
              --above) {
-            const QString text = lineText(above);
+            const QString text = mSample.lineRead(above);
             add(text, above, 0, labelEnd(text));
         }
-    }
-
-    QString lineText(qint64 line) const {
-        const FResultText& text = mSample.text();
-        const qint64 begin = text.index().lineStart(line);
-        const qint64 feed = text.index().lineFeed(begin);
-        constexpr qint64 longest = 1000;  // bytes: labels are at the start
-        const qint64 size = std::min(feed < 0 ? text.size() - begin : feed - begin, longest);
-        return FUtf8::decode(text.text().substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(size)));
     }
 
     void add(const QString& line, qint64 number, int begin, int end) {
@@ -160,10 +172,9 @@ class FAnchorChoice {
         value.line = static_cast<int>(mNumber.line() - anchor.line);
         value.column = mNumber.columnFrom(value.line == 0 ? anchor.start + anchor.text.size() : 0);
         value.anchor = {anchor.text, rank == Rank::Last ? FAnchorOccurrence::Last : FAnchorOccurrence::First};
-        const QString before = mNumber.textBefore();
-        value.name = nameFrom(before);
+        value.name = nameFromColumn();
         if (value.name.isEmpty() && anchor.line != mNumber.line()) {
-            value.name = nameFrom(headingIn(lineText(anchor.line)));
+            value.name = nameFrom(mHeading.inLine(anchor.line));
         }
         value.name = value.name.isEmpty() ? nameFrom(anchor.text) : value.name;
         return verified(value);
@@ -175,7 +186,7 @@ class FAnchorChoice {
         const bool isFar = mNumber.line() > greatestLine && behindLast - mNumber.line() <= greatestLine;
         FValueDescription value;
         value.column = mNumber.columnFrom(0);
-        value.name = nameFrom(mNumber.textBefore());
+        value.name = nameFromColumn();
         for (const bool fromEnd : {isFar, false}) {
             value.line = static_cast<int>(fromEnd ? mNumber.line() - behindLast : mNumber.line());
             if (auto proposal = verified(value)) {
@@ -185,20 +196,10 @@ class FAnchorChoice {
         return {};
     }
 
-    /** The only part of a line, between wide gaps, that is above the number: the heading of its column. */
-    QString headingIn(const QString& line) const {
-        static const QRegularExpression part(QStringLiteral("\\S+(?: \\S+)*"));
-        QString heading;
-        for (auto found = part.globalMatch(line); found.hasNext();) {
-            const QRegularExpressionMatch match = found.next();
-            const bool isAbove =
-                match.capturedStart() < mNumber.start() + mNumber.length() && match.capturedEnd() > mNumber.start();
-            if (isAbove && !heading.isEmpty()) {
-                return {};
-            }
-            heading = isAbove ? match.captured() : heading;
-        }
-        return heading;
+    /** From what is on top of its column, else before the number; may be empty. */
+    QString nameFromColumn() const {
+        const QString onTop = nameFrom(mHeading.onTop());
+        return onTop.isEmpty() ? nameFrom(mNumber.textBefore()) : onTop;
     }
 
     static QString nameFrom(const QString& text) {
@@ -222,6 +223,7 @@ class FAnchorChoice {
     const FResultSample& mSample;
     const FSeparatorSettings& mSeparators;
     const FPointedNumber& mNumber;
+    FColumnHeading mHeading;
     std::vector<Candidate> mCandidates;
 };
 

@@ -22,6 +22,15 @@ int skipBlanks(const QString& text, int start) {
     return start;
 }
 
+/** Whether digits follow a letter, as in "U2". Those of an exponent that isn't read, as in "1.5D+03", are no word. */
+bool isInWord(const QByteArray& line, int digits) {
+    const auto isLetter = [&line](int place) { return place >= 0 && QChar(QLatin1Char(line[place])).isLetter(); };
+    const auto isOfNumber = [&line](int place) {
+        return place >= 0 && (QChar(QLatin1Char(line[place])).isDigit() || line[place] == '.');
+    };
+    return isLetter(digits - 1) && !isOfNumber(digits - 2);
+}
+
 }  // namespace
 
 FPointedNumber::FPointedNumber(QString line, qint64 number, std::shared_ptr<const FSeparator> separator)
@@ -102,9 +111,7 @@ QString FPointedNumber::textBefore() const {
     qint64 begin = 0;
     for (FByteRange number = FNumberPattern::next(text, 0); number.begin >= 0;
          number = FNumberPattern::next(text, number.end)) {
-        // Digits within a word, as in "U2", don't end a label.
-        const bool isInWord = number.begin > 0 && QChar(QLatin1Char(before[int(number.begin) - 1])).isLetter();
-        begin = isInWord ? begin : number.end;
+        begin = isInWord(before, static_cast<int>(number.begin)) ? begin : number.end;
     }
     return FUtf8::decode(text.substr(static_cast<std::size_t>(begin)));
 }

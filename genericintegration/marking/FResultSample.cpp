@@ -3,6 +3,7 @@
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FValueSearch.h"
 #include "genericintegration/marking/FDocumentLineEnd.h"
+#include "host/run/FUtf8.h"
 
 #include <algorithm>
 
@@ -52,6 +53,14 @@ int FResultSample::positionOf(int offset) const {
 qint64 FResultSample::offsetAt(int position) const {
     const Line& line = mLines[static_cast<std::size_t>(lineAtPosition(position))];
     return mText.index().offsetOfUtf16(line.offset + position - line.position);
+}
+
+QString FResultSample::lineRead(qint64 number) const {
+    const qint64 begin = mText.index().lineStart(number);
+    const qint64 feed = mText.index().lineFeed(begin);
+    constexpr qint64 longest = 1000;  // bytes
+    const qint64 size = std::min(feed < 0 ? mText.size() - begin : feed - begin, longest);
+    return FUtf8::decode(mText.text().substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(size)));
 }
 
 int FResultSample::lastFilledLine() const {

@@ -48,6 +48,8 @@ class FResultSample {
     /** Offset in the reader's text of a position of the document. */
     qint64 offsetAt(int position) const;
     const FResultText& text() const { return mText; }
+    /** A line of that text, numbered from 0; of a long one, the start. */
+    QString lineRead(qint64 number) const;
 
  private:
     /** A line of the document. */

@@ -52,13 +52,15 @@ void FResultProblems::findSeparators(const FGenIntResultsFile& file, FProblemLis
                          QStringLiteral("the separator %1 has no effect, because numbers are searched for")
                              .arg(hasExpression ? QLatin1Char('"') + file.getRegExprSeparator() + QLatin1Char('"')
                                                 : QStringLiteral("of spaces and tabs")),
-                         QStringLiteral("To separate columns by it, use setNumberSeparator(false)"));
+                         QStringLiteral("To separate columns by it, choose Custom in place of Find numbers: "
+                                        "setNumberSeparator(false)"));
     }
     if (!file.getNumberSeparator() && !hasExpression && !file.getSpacesAndTabsSeparator()) {
         problems.error(file.getName(),
                        QStringLiteral("neither numbers are searched for nor is there a separator, so no column is "
                                       "found"),
-                       QStringLiteral("Use setNumberSeparator(true), setSpacesAndTabsSeparator(true) or "
+                       QStringLiteral("Choose Find numbers, Spaces & Tabs or a Regular Expression: "
+                                      "setNumberSeparator(true), setSpacesAndTabsSeparator(true) or "
                                       "setRegExprSeparator"));
     }
 }

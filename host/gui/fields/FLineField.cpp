@@ -1,10 +1,13 @@
 #include "host/gui/fields/FLineField.h"
 
+#include "host/gui/base/FOneUndo.h"
+
 #include <QLineEdit>
 
 FLineField::FLineField(const FAttribCmd& command) : FAttributeEditor(command), mpLine(new QLineEdit(this)) {
     setControl(mpLine);
     mpLine->setReadOnly(isReadOnly());
+    new FOneUndo(mpLine, FOneUndo::Change::Finished);
     connect(mpLine, &QLineEdit::textEdited, this, &FLineField::noteEntered);
 }
 
@@ -19,6 +22,7 @@ void FLineField::showValue(const FExprBase& value, bool isCommon) {
         mpLine->setText(mShown);
         mpLine->setCursorPosition(0);
     }
+    mpLine->setModified(false);
 }
 
 bool FLineField::differsFromShown() const {

@@ -94,6 +94,26 @@ TEST_F(FGenIntResultsFileEditorTest, theRowsOfAnAverageFollowAnExpression) {
     EXPECT_EQ(text(labels()), text(steps));
 }
 
+TEST_F(FGenIntResultsFileEditorTest, anAverageIsOfTheNumberThatWasPointedAt) {
+    ASSERT_TRUE(run("out.setValues([])\nout.setContent(\"a1;2.5;3.5\na2;4.5;5.5\")"));
+    settle();
+    doubleClickOn("5.5");
+    ASSERT_EQ(text(file().getCurrentAnchor()), "a2;");
+    clickOn("average");
+    enterRows("2");
+    EXPECT_EQ(text(preview().item(0, 0)->text()), "4.5") << "of 3.5 and 5.5, although the anchor doesn't count now";
+    EXPECT_TRUE(preview().item(0, 0)->toolTip().contains("An average has no anchor"));
+    // What was entered is a step of the project, and not of the field.
+    press(page().findChild<FAttributeEditor*>()->focusProxy(), Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_TRUE(find<QLabel>("valuePlace")->text().contains("not found: a mean over 0"));
+    agree();
+    clickOn("average");
+    EXPECT_EQ(text(find<QLabel>("valuePlace")->text()), "line 2, column 8: 5.5");
+    EXPECT_EQ(file().getCurColumn(), 1);
+    agree();
+}
+
 TEST_F(FGenIntResultsFileEditorTest, theTypeOfAValueReturnsWithTheEndOfItsAverage) {
     choose("valueType", Qt::Key_Down);
     clickOn("average");

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLabel>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -45,7 +46,12 @@ TEST_F(FSamplePointingTest, theNumberPointedAtStaysInPlaceAndIsNamedAtOnce) {
     const QString heading = "stress" + QString(400, ' ') + "strain";
     ASSERT_TRUE(run(QString("out.setValues([])\nout.setContent(\"%1\n3.5 4.5\")").arg(heading)));
     settle();
+    window().resize(window().width(), 700);
+    settle();
+    find<QScrollArea>("resultsForm")->verticalScrollBar()->setValue(0);
+    ASSERT_TRUE(selector().visibleRegion().isEmpty());
     doubleClickOn("3.5");
+    EXPECT_EQ(selector().visibleRegion().boundingRect().size(), selector().size()) << "what is typed is in view";
     EXPECT_GT(edit().cursorRect().left(), edit().viewport()->width()) << "the caret is out of view";
     EXPECT_EQ(edit().horizontalScrollBar()->value(), 0);
     type(QApplication::focusWidget(), "peak");

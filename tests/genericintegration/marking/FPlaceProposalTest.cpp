@@ -59,6 +59,11 @@ TEST(FPlaceProposalTest, aTextThatTellsThePlaceIsTheAnchor) {
     const QString table = "  step   time (s)  residual\n     1    0.5E+00      0.25\n";
     EXPECT_EQ(proposed(table, "0.25"), "1 2 'step   time (s)  residual' First residual") << "the column's heading";
     EXPECT_EQ(proposed(table, "0.5E+00"), "1 1 'step   time (s)  residual' First time_s");
+    const QString csv = "case;mass;\"lift\";note\n;kg;N;\na1;1.5;2.5;ok\na2;3.5;4.5;ok\n";
+    EXPECT_EQ(proposed(csv, "4.5"), "0 1 'a2;' First lift") << "the heading on top of its column";
+    EXPECT_EQ(proposed(csv, "3.5", {false, false, ";"}), "0 0 'a2;' First mass");
+    EXPECT_EQ(proposed("12 values in mm: 1.5 2.5\n", "2.5"), "0 1 'values in mm:' First values_in_mm");
+    EXPECT_EQ(proposed("CASE\n 2.5D+02 4.5D+03\n", "4.5"), "1 2 'CASE' First CASE") << "an exponent is no word";
     EXPECT_EQ(proposed("1\n" + QString("2\n").repeated(20000) + "7\n", "7"), "-1 0 '' - ");
     EXPECT_EQ(proposed("a;;-3.5;x\n", "-3.5", {false, false, ";"}), "0 0 'a;;' First a");
     EXPECT_EQ(proposed("word 1x2", "word"), "nothing");

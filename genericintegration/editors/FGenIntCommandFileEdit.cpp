@@ -131,6 +131,8 @@ bool FGenIntCommandFileEdit::event(QEvent* event) {
             }
             break;
         }
+        case QEvent::Wheel:
+            return viewportEvent(event);  // from a button, over which the base doesn't scroll
         default:
             break;
     }

@@ -18,7 +18,10 @@ from gi.repository import GLib
 PROJECT = Path(__file__).resolve().parents[2]
 PATIENCE = 20.0  # seconds until what doesn't appear is missing
 MARGIN = 5  # pixels between the frame of a text and its first line
+BAR = 20  # pixels that a scroll bar takes at most
+SIDE = 50  # pixels that line numbers take at most
 LINES_A_TURN = 3  # lines that one turn of the wheel scrolls
+WINDOWS = ("frame", "dialog", "application")
 
 
 class Missing(AssertionError):
@@ -167,8 +170,21 @@ class Program:
     def click(self, role, name=None, under=None, times=1):
         """Clicks on something, when it can be used and has come to rest."""
         node = self.wait(role, name, under, enabled=True)
+        self.until(f"{name or role} in view", lambda: self._in_view(node))
         self.click_at(self.middle_of(node), times)
         return node
+
+    def _in_view(self, node):
+        """Whether the middle of something can be seen. If not, turns the wheel over what hides it."""
+        _, y = self.middle_of(node)
+        parent = node.parent
+        while parent and parent.getRoleName() not in WINDOWS:
+            left, top, width, height = box(parent)
+            if height > 0 and not top <= y < top + height:
+                self.scroll((left + width // 2, top + height // 2), 1 if y >= top + height else -1)
+                return False
+            parent = parent.parent
+        return True
 
     def click_popup(self, row, rows):
         """Chooses from the context menu that opens, which the accessibility bus doesn't show: one of its equal rows."""
@@ -204,10 +220,11 @@ class Program:
     def middle_of(self, node):
         return middle(self.at_rest(node))
 
-    def scroll(self, place, lines):
-        """Turns the wheel; a positive number goes down."""
+    def scroll(self, place, turns, sideways=False):
+        """Turns the wheel; a positive number goes down, or to the right."""
+        button = (5 if turns > 0 else 4) + (2 if sideways else 0)
         self.move(place)
-        subprocess.run(["xdotool", "click", "--repeat", str(abs(lines)), "5" if lines > 0 else "4"], check=True)
+        subprocess.run(["xdotool", "click", "--repeat", str(abs(turns)), str(button)], check=True)
 
     def type(self, text):
         self.keys += len(text)
@@ -231,6 +248,7 @@ class Text:
     def __init__(self, program, name):
         self.program = program
         self.node = program.wait("text", name)
+        self._high = 0  # of a line, in pixels
 
     def content(self):
         refresh(self.node)
@@ -248,12 +266,23 @@ class Text:
         def in_view():
             x, y, width, height = box(self.node)
             left, _, wide, high = self._character(offset)
-            row = line - self._first_line()
-            rows = height // high
-            if 0 <= row < rows - 2:
-                return left + wide // 2, y + MARGIN + row * high + high // 2
-            turns = (row - rows // 2) // LINES_A_TURN
-            self.program.scroll((x + width // 2, y + height // 2), turns or (1 if row > 0 else -1))
+            # Nothing is told of characters out of view. The first one was in view once.
+            high = self._high = max(high, self._high, self._character(0)[3])
+            if not high:
+                return None  # the text isn't laid out yet
+            row = line - self._scrolled()
+            rows = (height - (BAR if self._bar(sideways=True) else MARGIN)) // high
+            column = left + wide // 2
+            middle_of_text = (x + width // 2, y + height // 2)
+            if not 0 <= row < rows:
+                turns = (row - rows // 2) // LINES_A_TURN
+                self.program.scroll(middle_of_text, turns or (1 if row > 0 else -1))
+            elif column > x + width - BAR:
+                self.program.scroll(middle_of_text, 1, sideways=True)
+            elif column < x + SIDE and self._scrolled(sideways=True):
+                self.program.scroll(middle_of_text, -1, sideways=True)
+            else:
+                return column, y + MARGIN + row * high + high // 2
             return None
         return self.program.until(f"{before + after!r} in view", in_view)
 
@@ -262,9 +291,17 @@ class Text:
         extents = self.node.queryText().getCharacterExtents(offset, pyatspi.DESKTOP_COORDS)
         return tuple(extents)
 
-    def _first_line(self):
-        bars = [bar for bar in self.program.all("scroll bar", under=self.node) if box(bar)[3] > box(bar)[2]]
-        return int(bars[0].queryValue().currentValue) if bars else 0
+    def _scrolled(self, sideways=False):
+        """The first line in view, or how far the text is scrolled sideways."""
+        bar = self._bar(sideways)
+        return int(bar.queryValue().currentValue) if bar else 0
+
+    def _bar(self, sideways):
+        for bar in self.program.all("scroll bar", under=self.node):
+            _, _, width, height = box(bar)
+            if (width > height) == sideways:
+                return bar
+        return None
 
 
 def trace(what):

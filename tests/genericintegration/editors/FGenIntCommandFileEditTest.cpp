@@ -6,7 +6,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSpontaneKeyEvent>
 #include <QTreeView>
+#include <QWheelEvent>
 #include <QWindow>
 
 namespace {
@@ -120,6 +122,18 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     EXPECT_EQ(button->text(), "8");
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(content(), "7 <entry>newEntry</entry> and more\n");
+}
+
+TEST_F(FGenIntCommandFileEditTest, theWheelScrollsOverAButton) {
+    open("a = 1\n" + QString("b = 2\n").repeated(500));
+    auto* button = hover("a");
+    ASSERT_NE(button, nullptr);
+    const QPoint place = button->rect().center();
+    QWheelEvent turn(place, button->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                     false);
+    QSpontaneKeyEvent::setSpontaneous(&turn);
+    qApp->notify(button, &turn);
+    EXPECT_GT(edit().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(FGenIntCommandFileEditTest, aPressedButtonMakesNoEntryOfAnotherNumber) {

@@ -385,9 +385,7 @@ void FGenIntCommandFileEdit::contextMenuEvent(QContextMenuEvent* event) {
     FUserStep::commitEdits();
     const QPointer<QMenu> menu = createStandardContextMenu(event->pos());
     menu->setObjectName(QStringLiteral("templateMenu"));
-    if (!isReadOnly()) {
-        FOneUndo::replaceIn(*menu, *this);
-    }
+    FOneUndo::putInto(*menu, *this, !isReadOnly());
     if (const FDefinitionGenInt* definition = getDefinition()) {
         if (!isReadOnly()) {
             addEntryActions(*menu, *definition);

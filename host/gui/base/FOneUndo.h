@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+class QContextMenuEvent;
 class QLineEdit;
 class QMenu;
 
@@ -21,15 +22,16 @@ class MERIX_EXPORT FOneUndo : public QObject {
     FOneUndo(QWidget* field, Change change);
 
     /**
-     * Has the standard menu of a text that can be edited, which begins with Undo and Redo, act on steps of the project
-     * as the window does.
+     * Has the standard menu of a text undo steps of the project, as the window does.
+     * @param isEditable  whether the text can be edited, so that the menu begins with an Undo and a Redo of its own
      */
-    static void replaceIn(QMenu& menu, const QWidget& text);
+    static void putInto(QMenu& menu, const QWidget& text, bool isEditable);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
     bool isTyping(const QLineEdit* line) const;
+    static void showMenu(QLineEdit& line, const QContextMenuEvent& event);
 
     Change mChange;
 };

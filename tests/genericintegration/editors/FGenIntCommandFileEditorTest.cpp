@@ -301,6 +301,10 @@ TEST_F(FGenIntCommandFileEditorTest, aLineThatIsTooLongForAWidgetIsShownInPieces
     emit reports().linkActivated("go:0");
     EXPECT_EQ(edit().textCursor().block().text().mid(edit().textCursor().positionInBlock(), 7), "<entry>");
     setText("short again\n");
+    undo();
+    settle();
+    EXPECT_TRUE(edit().isReadOnly());
+    chooseInText("&Redo sample");
     EXPECT_FALSE(edit().isReadOnly());
 }
 

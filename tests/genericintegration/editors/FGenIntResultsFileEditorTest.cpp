@@ -8,8 +8,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QRandomGenerator>
 #include <QTreeView>
 
@@ -204,6 +206,24 @@ TEST_F(FGenIntResultsFileEditorTest, turningASpinBoxIsOneStepWhileItHasTheFocus)
     trigger("undo");
     EXPECT_EQ(file().getCurLine(), 4);
     agree();
+    // The menu, too, undoes steps of the project, for the keyboard as for the mouse.
+    const auto menuAt = [](QWidget* widget) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1));
+        QApplication::sendEvent(widget, &event);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    for (QWidget* field : {find("line"), find("valueSelector")}) {
+        for (QWidget* part : {field, static_cast<QWidget*>(field->findChild<QLineEdit*>())}) {
+            QMenu* menu = menuAt(part);
+            ASSERT_TRUE(menu);
+            EXPECT_EQ(menu->actions().value(0), action("undo"));
+            menu->close();
+        }
+    }
+    QMenu* menu = menuAt(find("line"));
+    menu->actions().last()->trigger();
+    menu->close();
+    EXPECT_EQ(file().getCurLine(), 3) << "Step down";
 }
 
 TEST_F(FGenIntResultsFileEditorTest, aPageIsThereOnceAndGoesWithItsObject) {

@@ -91,6 +91,8 @@ void FTemplateButtons::show(const FTemplateOffer& offer) {
     }
     shown->setGeometry(rect);
     shown->setFixedWidth(mpEditEntryButton->iconSize().width() + rect.width() + buttonPadding);
+    // The frame and the scroll bars stay in front.
+    shown->setMask(mEdit.viewport()->geometry().translated(-rect.topLeft()));
     mpAddEntryButton->setText(offer.isNumber ? offer.text : QString());
     mpEditEntryButton->setEntryName(offer.isNumber ? QString() : offer.name);
     hidden->hide();

@@ -10,19 +10,19 @@ void FRoomyStyle::applyTo(QWidget& widget) {
 }
 
 int FRoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const int usual = FIndicatorStyle::pixelMetric(metric, option, widget);
     const bool isMargin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     return isMargin && widget ? qMax(usual, widget->fontMetrics().averageCharWidth()) : usual;
 }
 
 int FRoomyStyle::addedMargin(const QStyleOption* option, const QWidget* widget) const {
-    return pixelMetric(PM_HeaderMargin, option, widget) - QProxyStyle::pixelMetric(PM_HeaderMargin, option, widget);
+    return pixelMetric(PM_HeaderMargin, option, widget) - FIndicatorStyle::pixelMetric(PM_HeaderMargin, option, widget);
 }
 
 // The height of a header stays.
 QSize FRoomyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                     const QWidget* widget) const {
-    QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    QSize whole = FIndicatorStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_HeaderSection) {
         whole.rheight() -= 2 * addedMargin(option, widget);
     }
@@ -33,11 +33,11 @@ void FRoomyStyle::drawControl(ControlElement element, const QStyleOption* option
                               const QWidget* widget) const {
     const auto* label = element == CE_HeaderLabel ? qstyleoption_cast<const QStyleOptionHeader*>(option) : nullptr;
     if (!label) {
-        QProxyStyle::drawControl(element, option, painter, widget);
+        FIndicatorStyle::drawControl(element, option, painter, widget);
         return;
     }
     QStyleOptionHeader whole = *label;
     const int added = addedMargin(option, widget);
     whole.rect.adjust(0, -added, 0, added);
-    QProxyStyle::drawControl(element, &whole, painter, widget);
+    FIndicatorStyle::drawControl(element, &whole, painter, widget);
 }

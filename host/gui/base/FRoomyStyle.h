@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QProxyStyle>
+#include "host/gui/base/FIndicatorStyle.h"
 
 /** The style of the program with wider margins of cells and headers, so that neighbours of both alignments don't touch.
  */
-class FRoomyStyle : public QProxyStyle {
+class FRoomyStyle : public FIndicatorStyle {
  public:
     /** Gives it to a widget, which owns it. */
     static void applyTo(QWidget& widget);

@@ -2,6 +2,7 @@
 
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FIcons.h"
+#include "host/gui/base/FIndicatorStyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -77,6 +78,7 @@ void FTheme::choose(Appearance appearance) {
 }
 
 void FTheme::install() {
+    QApplication::setStyle(new FIndicatorStyle(QApplication::style()->objectName()));
     apply(getChosen());
 }
 

@@ -13,7 +13,7 @@ class MERIX_EXPORT FTheme {
     static Appearance getChosen();
     /** Changes the appearance of the whole program, and remembers it in the settings. */
     static void choose(Appearance appearance);
-    /** Takes on the chosen appearance; called once at start. */
+    /** Takes on the style of the program and the chosen appearance; called once at start. */
     static void install();
     /** The palette of the light appearance, for what is printed or handed on. */
     static QPalette lightPalette();

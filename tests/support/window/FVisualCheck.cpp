@@ -1,20 +1,25 @@
 #include "tests/support/window/FVisualCheck.h"
 
+#include "host/gui/base/FStateColor.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSet>
 #include <QSplitter>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
@@ -90,6 +95,7 @@ QStringList FVisualCheck::faults() {
         checkSize(*widget);
         checkName(*widget);
         checkContrast(*widget);
+        checkOutline(*widget);
     }
     checkTabs();
     return mFaults;
@@ -147,6 +153,28 @@ void FVisualCheck::checkContrast(const QWidget& widget) {
     const QColor ground = palette.color(isField ? QPalette::Base : QPalette::Window);
     if (contrast(text, ground) < least) {
         report(widget, QStringLiteral("text %1 on %2").arg(text.name(), ground.name()));
+    }
+}
+
+void FVisualCheck::checkOutline(QWidget& widget) {
+    const bool isRadio = qobject_cast<QRadioButton*>(&widget);
+    if (!widget.isEnabled() || !FStateColor::isDark() || (!isRadio && !qobject_cast<QCheckBox*>(&widget))) {
+        return;
+    }
+    QStyleOptionButton option;
+    option.initFrom(&widget);
+    const QRect place = widget.style()->subElementRect(
+        isRadio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, &widget);
+    const QImage picture = widget.grab(place).toImage();
+    const QColor ground = widget.palette().color(QPalette::Window);
+    constexpr int widest = 4;  // pixels
+    double best = 0;
+    for (int x = 0; x < std::min(widest, picture.width()); ++x) {
+        best = std::max(best, contrast(picture.pixelColor(x, picture.height() / 2), ground));
+    }
+    constexpr double least = 3;
+    if (best < least) {
+        report(widget, QStringLiteral("its outline has a contrast of %1").arg(best));
     }
 }
 

@@ -20,6 +20,8 @@ class FVisualCheck {
     void checkSize(const QWidget& widget);
     void checkName(QWidget& widget);
     void checkContrast(const QWidget& widget);
+    /** That the outline of a check box or radio button can be seen in a dark window. */
+    void checkOutline(QWidget& widget);
     void checkTabs();
     void report(const QWidget& widget, const QString& fault);
 

@@ -145,6 +145,15 @@ qint64 FNumberSurroundings::spacedExponentEnd() const {
     return end > digits && isSpaced && endsThere && isLikely ? end : 0;
 }
 
+qint64 FNumberSurroundings::exponentEnd() const {
+    if (!hasCutExponent() && !hasPointExponent()) {
+        return std::max(mNumber.end, spacedExponentEnd());
+    }
+    const qint64 letter = mNumber.end + (at(mNumber.end) == '.');
+    const qint64 sign = letter + isExponentLetter(at(letter));
+    return digitsEnd(sign + isSign(at(sign)));
+}
+
 // The minus of a subtraction, a range or a list isn't a sign; before a whole number it is most likely one of these.
 bool FNumberSurroundings::hasSpacedSign() const {
     const qint64 blanks = blanksBegin(mNumber.begin);

@@ -15,6 +15,9 @@ class FNumberSurroundings {
 
     FFoundFlags flags() const;
 
+    /** Its end with an exponent that isn't read, as in 1.0D+05; its own end if there is none. */
+    qint64 exponentEnd() const;
+
     /** Whether nothing but blanks is near, as in most tables. */
     bool arePlain() const { return isPlainBefore() && isPlainAfter(mText, mNumber.end); }
     static bool isPlainAfter(std::string_view text, qint64 end);

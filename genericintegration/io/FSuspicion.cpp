@@ -221,6 +221,10 @@ QString word(std::string_view text, FByteRange number, FFoundFlags flags) {
     return flags.testFlag(FFoundFlag::SpacedExponent) ? around.withSpacedExponent() : around.whole();
 }
 
+qint64 exponentEnd(std::string_view line, FByteRange number) {
+    return FNumberSurroundings(line, number, 0).exponentEnd();
+}
+
 FFoundFlags ofLine(std::string_view line) {
     constexpr size_t headSize = 4096;
     const bool hasZero = line.substr(0, headSize).find('\0') != std::string_view::npos;

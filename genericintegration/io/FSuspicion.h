@@ -44,6 +44,9 @@ QString beside(std::string_view text, FByteRange number, FFoundFlags flags);
 /** The number with what is beside it, for a message. */
 QString word(std::string_view text, FByteRange number, FFoundFlags flags);
 
+/** The end of a number of a line with an exponent that isn't read, as in 1.0D+05; its own end if there is none. */
+qint64 exponentEnd(std::string_view line, FByteRange number);
+
 /** Flags of a line from which a value is read. Fast. */
 FFoundFlags ofLine(std::string_view line);
 

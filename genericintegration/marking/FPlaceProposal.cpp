@@ -232,7 +232,7 @@ class FAnchorChoice {
 std::optional<FPlaceProposal> FPlaceProposal::at(const FResultSample& sample, const FSeparatorSettings& separators,
                                                  int position) {
     const std::optional<FPointedNumber> number = FPointedNumber::at(sample, separators, position);
-    return number ? FAnchorChoice(sample, separators, *number).choose() : std::nullopt;
+    return number ? FAnchorChoice(sample, separators, number->base()).choose() : std::nullopt;
 }
 
 std::optional<FPlaceProposal> FPlaceProposal::from(const FResultSample& sample, const FSeparatorSettings& separators,

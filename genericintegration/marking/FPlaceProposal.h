@@ -16,7 +16,10 @@ struct FPlaceProposal {
     FValueDescription value;  //!< its name comes from the text around the number; may be empty
     FTextRange range;         //!< of the number in the document
 
-    /** Nothing if the reader finds no number there. */
+    /**
+     * Nothing if the reader finds no number there. In an exponent that the reader takes for a number of its own, as in
+     * 1.5D+03, it is the number before it.
+     */
     static std::optional<FPlaceProposal> at(const FResultSample& sample, const FSeparatorSettings& separators,
                                             int position);
     /**

@@ -3,6 +3,7 @@
 #include "genericintegration/io/FNumberPattern.h"
 #include "genericintegration/io/FSeparatorSettings.h"
 #include "genericintegration/io/FSeparatorWalk.h"
+#include "genericintegration/io/FSuspicion.h"
 #include "genericintegration/marking/FLineNumbers.h"
 #include "genericintegration/marking/FResultSample.h"
 #include "host/run/FUtf8.h"
@@ -14,6 +15,8 @@ namespace {
 
 /** Columns of a line that are looked at. */
 constexpr int mostColumns = 10000;
+/** Characters after a number that can be its exponent. */
+constexpr int longestExponent = 64;
 
 int skipBlanks(const QString& text, int start) {
     while (start < text.size() && text[start].isSpace()) {
@@ -103,6 +106,30 @@ bool FPointedNumber::findColumn(int unit, int start, int& column, int& begin, in
         }
     }
     return false;
+}
+
+FPointedNumber FPointedNumber::base() const {
+    FPointedNumber base = *this;
+    FLineNumbers numbers(mText, skipBlanks(mText, 0));
+    for (int column = 0; !mSeparator && column < mostColumns; ++column) {
+        const FTextRange number = numbers.next();
+        if (number.length == 0 || number.begin >= mStart) {
+            break;
+        }
+        if (mStart - number.end() < longestExponent && mStart < endWithExponent(number)) {
+            base.mStart = number.begin;
+            base.mLength = number.length;
+            break;
+        }
+    }
+    return base;
+}
+
+int FPointedNumber::endWithExponent(FTextRange number) const {
+    const QByteArray text = mText.mid(number.begin, number.length + longestExponent).toUtf8();
+    const int size = mText.midRef(number.begin, number.length).toUtf8().size();
+    const qint64 end = FSuspicion::exponentEnd({text.constData(), static_cast<std::size_t>(text.size())}, {0, size});
+    return number.begin + QString::fromUtf8(text.left(static_cast<int>(end))).size();
 }
 
 QString FPointedNumber::textBefore() const {

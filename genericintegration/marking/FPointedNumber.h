@@ -1,5 +1,7 @@
 #pragma once
 
+#include "genericintegration/marking/FTextRange.h"
+
 #include <QString>
 
 #include <memory>
@@ -20,6 +22,8 @@ class FPointedNumber {
     int start() const { return mStart; }   //!< in the line, in UTF-16 units
     int length() const { return mLength; }
     const QString& lineText() const { return mText; }
+    /** The number whose exponent it is, as in 1.5D+03, where the reader finds two numbers; itself in other places. */
+    FPointedNumber base() const;
     /** The text of the line between the number before it and this one. */
     QString textBefore() const;
     /** Its column if the search starts at a place of the line; -1 if it isn't found then. */
@@ -31,6 +35,9 @@ class FPointedNumber {
     bool find(int unit, int start, int& column, int& begin, int& length) const;
     bool findNumber(int unit, int start, int& column, int& begin, int& length) const;
     bool findColumn(int unit, int start, int& column, int& begin, int& length) const;
+
+    /** The end of a number with an exponent that the reader doesn't take as one. */
+    int endWithExponent(FTextRange number) const;
 
     QString mText;
     qint64 mLine;

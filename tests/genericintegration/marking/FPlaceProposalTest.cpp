@@ -69,6 +69,24 @@ TEST(FPlaceProposalTest, aTextThatTellsThePlaceIsTheAnchor) {
     EXPECT_EQ(proposed("word 1x2", "word"), "nothing");
 }
 
+TEST(FPlaceProposalTest, anExponentBelongsToTheNumberBeforeIt) {
+    const auto numberAt = [](const QString& text, const QString& place) {
+        const auto proposal = FPlaceProposal::at(FResultSample(text), {}, text.indexOf(place) + 1);
+        return proposal ? text.mid(proposal->range.begin, proposal->range.length) : QString();
+    };
+    EXPECT_EQ(numberAt("T = 1.5D+03 K", "+03"), "1.5") << "the reader tells that its exponent is missing";
+    EXPECT_EQ(numberAt("\u00e4 1.E+06", "+06"), "1");
+    EXPECT_EQ(numberAt("1.25-104", "-104"), "1.25");
+    EXPECT_EQ(numberAt("1.5 x 10^6 7", "6"), "1.5");
+    EXPECT_EQ(numberAt("1.5 x 10^6 7", "7"), "7");
+    EXPECT_EQ(numberAt("1.5-2.5", "-2.5"), "-2.5");
+    // A value that reads the exponent stays there with another anchor.
+    const QString text = "T = 1.5D+03";
+    const auto moved = FPlaceProposal::from(FResultSample(text), {}, text.indexOf("+03"), {0, 1});
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(moved->value.column, 1);
+}
+
 TEST(FPlaceProposalTest, anotherAnchorKeepsTheNumber) {
     const QString text(output);
     const FResultSample sample(text);
@@ -112,8 +130,8 @@ std::vector<FTextRange> numbersIn(const QString& text, const FResultSample& samp
 }
 
 TEST(FPlaceProposalTest, theReaderReadsTheVeryNumberThatIsPointedAt) {
-    static const QStringList parts{"1",  "2.5e3", "-7",     "x =", "X =",    "word",  " ",
-                                   "\t", ",",     "\u00a0", "U2",  "(a, b)", "1.2-3", "\u017fum:"};
+    static const QStringList parts{"1",  "2.5e3", "-7",     "x =", "X =",    "word", " ",
+                                   "\t", ",",     "\u00a0", "U2",  "(a, b)", "12-3", "\u017fum:"};
     static const QStringList ends{"\n", "\n", "\n", "\r\n", "\r", "\u2028", "\n\n", "\n \n"};
     int count = 0;
     for (int seed = 0; seed < randomCases(3000) && !testing::Test::HasFailure(); ++seed) {

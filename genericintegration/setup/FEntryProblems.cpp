@@ -58,6 +58,15 @@ QString listed(const QStringList& names) {
     return QLatin1Char('"') + names.mid(0, mostNames).join(QStringLiteral("\", \"")) + QLatin1Char('"') + more;
 }
 
+/** What a value, or a type of values, is that stands for a file of a run; empty for others. */
+QString fileText(const FObject* object) {
+    return !object                                     ? QString()
+           : object->isTypeOf(FInputFile::null())      ? QStringLiteral("an input file")
+           : object->isTypeOf(FGeometryExport::null()) ? QStringLiteral("exported geometry")
+           : object->isTypeOf(FFileReference::null())  ? QStringLiteral("the name of a file that the run writes")
+                                                       : QString();
+}
+
 /** Whether a value does something in a run even if no template names its entry. */
 bool worksByItself(const FEntry& entry) {
     const FObject* type = entry.getDefinition() ? entry.getDefinition()->getType() : nullptr;
@@ -257,6 +266,7 @@ void FEntryProblems::findValue(const FEntry& entry, const FUse& use, FProblemLis
     }
     const FObject* object = entry.getValueObject();
     findFile(entry, object, problems);
+    findMissingFile(entry, object, problems);
     if (!use.place.isEmpty()) {
         findWritten(entry, object, use, problems);
     }
@@ -340,6 +350,23 @@ void FEntryProblems::findFile(const FEntry& entry, const FObject* value, FProble
     } else if (const auto* result = dynamic_cast<const FResultsFileName*>(value)) {
         addOutside(entry, result->getFileNameText(), false, problems);
     }
+}
+
+// NULL is how a file is left out.
+void FEntryProblems::findMissingFile(const FEntry& entry, const FObject* value, FProblemList& problems) const {
+    const QString usual = fileText(entry.getDefinition() ? entry.getDefinition()->getType() : nullptr);
+    if (!value || usual.isEmpty() || !fileText(value).isEmpty()) {
+        return;
+    }
+    const auto* basic = objectCast<FBasicType>(value);
+    problems
+        .warning(mConfiguration.getName(),
+                 entryText(entry) +
+                     QStringLiteral("is %1, which is no file, while its default is %2")
+                         .arg(basic ? QLatin1Char('"') + basic->toPlainString() + QLatin1Char('"') : value->getClass(),
+                              usual),
+                 QStringLiteral("Give it a file, such as inputFile(\"NAME\")"))
+        .isOfValue = true;
 }
 
 void FEntryProblems::findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems) {

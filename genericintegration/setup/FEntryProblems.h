@@ -38,6 +38,8 @@ class FEntryProblems {
     void findValue(const FEntry& entry, const FUse& use, FProblemList& problems);
     void findWritten(const FEntry& entry, const FObject* value, const FUse& use, FProblemList& problems) const;
     void findFile(const FEntry& entry, const FObject* value, FProblemList& problems);
+    /** For an entry whose default is a file of the run: that its value is none. */
+    void findMissingFile(const FEntry& entry, const FObject* value, FProblemList& problems) const;
     void findInputFile(const FEntry& entry, const FInputFile& file, FProblemList& problems);
     void findExport(const FEntry& entry, const FGeometryExport& geometry, FProblemList& problems);
     void findSameName(const FEntry& entry, const FObject& value, FProblemList& problems);

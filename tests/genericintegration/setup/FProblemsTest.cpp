@@ -217,6 +217,11 @@ conf.setEntryValue("length", resultsFileName("../cp.dat")))",
      R"(def.addEntry("mesh", inputFile("no-such.mesh")).addEntry("other", inputFile("")))",
      {"error conf: the entry \"mesh\" links to a file that doesn't exist: /",
       "error conf: the entry \"other\" links to no file"}},
+    {"textInPlaceOfAFile",
+     R"(def.addEntry("mesh", inputFile("a.msh")).addEntry("none", inputFile("b.msh"))
+conf.setEntryValue("mesh", "c.msh"); conf.setEntryValue("none", NULL))",
+     {"warning conf: the entry \"mesh\" is \"c.msh\", which is no file, while its default is an input file … "
+      "inputFile("}},
     {"filesThatReplaceOthers",
      R"(point p()
 def.addEntry("edge", geometryExport("sub/in.txt", 0, [p])).addEntry("tip", geometryExport("./a.csv", 0, [p]))

@@ -2,7 +2,9 @@
 
 #include "genericintegration/connector/FSoftConScene.h"
 #include "genericintegration/connector/FSoftConView.h"
+#include "host/gui/base/FNavigator.h"
 
+#include <QGraphicsItem>
 #include <QVBoxLayout>
 
 FConnectorPage::FConnectorPage(FSoftwareConnector& connector, FNavigator& navigator) : mConnector(&connector) {
@@ -12,6 +14,13 @@ FConnectorPage::FConnectorPage(FSoftwareConnector& connector, FNavigator& naviga
     setFocusProxy(&connector);
     connector.setNavigator(&navigator);
     connector.show();
+    connect(connector.getScene(), &QGraphicsScene::focusItemChanged, this,
+            [&navigator](const QGraphicsItem* /*now*/, const QGraphicsItem* /*before*/, Qt::FocusReason reason) {
+                // Menus act on the item that had the focus before.
+                if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) {
+                    navigator.partFocused();
+                }
+            });
 }
 
 FConnectorPage::~FConnectorPage() {

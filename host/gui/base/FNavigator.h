@@ -49,4 +49,6 @@ class MERIX_EXPORT FNavigator {
     virtual void showHelp(const QString& topic) = 0;
     /** Shows a short message for a few seconds. */
     virtual void showStatus(const QString& text) = 0;
+    /** Another part of a page has the focus, and other things can be done (see FObjectPage::isPartFocused). */
+    virtual void partFocused() = 0;
 };

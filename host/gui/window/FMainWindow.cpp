@@ -173,6 +173,12 @@ void FMainWindow::listen() {
     connect(&mUnsaved, &FUnsavedWork::changed, this, refreshSoon);
     connect(&mRunTarget, &FRunTarget::changed, this, refreshSoon);
     connect(FSelectionSet::instance(), &FSelectionSet::selectionReplaced, this, refreshSoon);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
+        // The actions of a menu are for what had the focus before.
+        if (now && now != menuBar()) {
+            mRefresh.request();
+        }
+    });
     connect(changes, &FChanges::projectSaved, this, [this](const QString& file) {
         FGuiSettings::addRecentProject(file);
         showStatus(QStringLiteral("Saved %1").arg(QFileInfo(file).fileName()));
@@ -198,6 +204,7 @@ FObjectPage* FMainWindow::pageOfFocusedPart() const {
 
 FSituation FMainWindow::situation() const {
     FSituation now = FSituation::now(mRunTarget, mUnsaved);
+    now.isPageFocused = mpDocuments->isAncestorOf(focusWidget());
     now.isPartFocused = pageOfFocusedPart() != nullptr;
     now.isLocked = mScript.isRunning();
     return now;
@@ -411,6 +418,10 @@ void FMainWindow::stop() {
         computation->cancel();
     }
     mScript.stop();
+}
+
+void FMainWindow::partFocused() {
+    mRefresh.request();
 }
 
 void FMainWindow::showStatus(const QString& text) {

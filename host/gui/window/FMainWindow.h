@@ -83,6 +83,7 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void showResultsOfRun(const FExpr<FResultsGeneric>& present, int run) override;
     void showHelp(const QString& topic) override;
     void showStatus(const QString& text) override;
+    void partFocused() override;
 
  protected:
     void closeEvent(QCloseEvent* event) override;

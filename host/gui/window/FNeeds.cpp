@@ -41,7 +41,10 @@ const char* FNeeds::oneObject(const FSituation& now) {
 }
 
 const char* FNeeds::objects(const FSituation& now) {
-    return now.selected > 0 || now.isPartFocused ? nullptr : "Select objects first";
+    // A page selects what it belongs to when it gets the focus, which the user hasn't chosen.
+    return now.isPartFocused || (now.selected > 0 && !now.isPageFocused) ? nullptr
+           : now.isPageFocused                                           ? "Select objects in the tree first"
+                                                                         : "Select objects first";
 }
 
 const char* FNeeds::assistant(const FSituation& now) {

@@ -16,6 +16,7 @@ struct MERIX_EXPORT FSituation {
     bool hasFile = false;
     bool isUnsaved = false;
     int selected = 0;                           //!< number of selected objects; 0 if something else is selected
+    bool isPageFocused = false;                 //!< the focus is in a page, not where objects are selected
     bool isPartFocused = false;                 //!< of the page in front, a part that can be deleted
     FExternComputation* computation = nullptr;  //!< the one that Run acts on
     bool isRunning = false;                     //!< that computation runs

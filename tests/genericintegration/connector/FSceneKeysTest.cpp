@@ -3,6 +3,7 @@
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QMenu>
 #include <QTabBar>
 
@@ -35,7 +36,9 @@ TEST_F(FSceneKeysTest, keysDoWhatTheMouseDoes) {
     };
     EXPECT_EQ(go({Qt::Key_Right, Qt::Key_Right}), "mesh.msh");
     EXPECT_EQ(go({Qt::Key_Up}), "mesh.msh") << "there is nothing above";
+    EXPECT_TRUE(action("delete")->isEnabled());
     EXPECT_EQ(go({Qt::Key_Left, Qt::Key_Down}), "solver");
+    EXPECT_FALSE(action("delete")->isEnabled()) << "it can't be taken away";
     EXPECT_EQ(go({Qt::Key_Down}), "out.txt");
     EXPECT_EQ(go({Qt::Key_Up, Qt::Key_Space}), "solver");
     ASSERT_TRUE(waitUntil([] { return FSelectionSet::instance()->contains(object<FManaged>("solver")); }));

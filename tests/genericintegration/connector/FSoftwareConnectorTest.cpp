@@ -10,6 +10,7 @@
 #include "host/script/FProject.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -106,6 +107,10 @@ TEST_F(FSoftwareConnectorTest, deletingItAsksAboutARunAndAboutOthersThatUseItsDe
     ASSERT_TRUE(waitUntil([this] { return connector().isLocked(); }));
     const QString before = savedModel();
     window().showObject(&connector());
+    connector().getView()->setFocus();
+    settle();
+    EXPECT_FALSE(action("delete")->isEnabled()) << "what is selected is shown elsewhere";
+    find("objectTree")->setFocus();
     dialogs().answers << "Cancel"
                       << "Delete";
     trigger("delete");

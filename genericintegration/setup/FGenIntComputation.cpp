@@ -43,7 +43,10 @@ void commands(FCmdTable& table) {
         .userLevel(1)
         .weight(5.0)
         .data();
-    table.member<F>("getResults", &F::getResults).returns(FCmdTypeOf<FExpr<FResultsGenInt>>::type()).query();
+    table.member<F>("getResults", &F::getResults)
+        .returns(FCmdTypeOf<FExpr<FResultsGenInt>>::type())
+        .query()
+        .explains<FExternComputation>(&F::explainNoResults);
     table.member<F>("openSoftwareConnector", &F::openSoftwareConnector)
         .systemFlag(1)
         .menuEntry("Open Software Connector", 1)
@@ -143,17 +146,20 @@ QMap<QString, QString> FGenIntComputation::describeSetUp() const {
     return setUp;
 }
 
-std::vector<const FObject*> FGenIntComputation::getReadingParts() const {
-    std::vector<const FObject*> values;
+std::vector<FExternComputation::ReadingPart> FGenIntComputation::getReadingParts() const {
+    std::vector<ReadingPart> parts;
     const FDefinitionGenInt* described = definition();
     for (const FExpr<FGenIntFile>& handle : described ? described->getFiles(1) : QList<FExpr<FGenIntFile>>()) {
-        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
-            for (const FExpr<FObject>& value : file->getValues()->getObjects()) {
-                values.push_back(value.getStored());
+        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
+        for (const FExpr<FObject>& element : file ? file->getValues()->getObjects() : std::vector<FExpr<FObject>>()) {
+            const auto* value = dynamic_cast<const FGenIntResultsFileValue*>(element.getStored());
+            // A plain number follows nothing.
+            if (value && !dynamic_cast<const FBasicType*>(value->mNumAverageRows.getStored())) {
+                parts.push_back({value, QStringLiteral("rows of ") + value->mName});
             }
         }
     }
-    return values;
+    return parts;
 }
 
 QString FGenIntComputation::getFileNameFault() const {

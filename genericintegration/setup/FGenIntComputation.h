@@ -20,7 +20,7 @@ class FGenIntComputation : public FClass<FGenIntComputation, FCustomComputation>
     FExpr<FComputationResults> getResults() const override { return FCustomComputation::getResults(); }
     bool isGeneric() const override { return true; }
     QMap<QString, QString> describeSetUp() const override;
-    std::vector<const FObject*> getReadingParts() const override;
+    std::vector<ReadingPart> getReadingParts() const override;
     bool exportSetUp(const QString& path, bool chain) const override;
     /** That of the configuration; null without one. */
     FDefinitionGenInt* definition() const;

@@ -56,7 +56,7 @@ QList<FManaged*> FCustomComputation::getParts() const {
 
 void FCustomComputation::declareCommands(FCmdTable& table) {
     using F = FCustomComputation;
-    table.member<F>("getResults", &F::getResults).query();
+    table.member<F>("getResults", &F::getResults).query().explains<FExternComputation>(&F::explainNoResults);
     table.attribute<F>("setConfiguration", &F::setConfiguration, &F::getConfiguration, {"configuration"})
         .attrName("Configuration")
         .data();

@@ -15,40 +15,6 @@
 
 namespace {
 
-/** What a computation's marks reach before they come to other computations. */
-struct Reached {
-    using Readers = std::unordered_multimap<const FObject*, FExternComputation*>;
-
-    Reached(const FExternComputation& start, const Readers& readers) {
-        std::vector<const FObject*> todo{&start};
-        std::unordered_set<const FObject*> seen{&start};
-        for (std::size_t i = 0; i < todo.size(); ++i) {
-            for (FObject* object : FUpdateGraph::reachedBy(todo[i])) {
-                if (!object->getBlock()->live() || !seen.insert(object).second) {
-                    continue;
-                }
-                const auto [first, end] = readers.equal_range(object);
-                for (auto reader = first; reader != end; ++reader) {
-                    if (seen.insert(reader->second).second) {
-                        computations.push_back(reader->second);
-                    }
-                }
-                if (auto* computation = dynamic_cast<FExternComputation*>(object)) {
-                    computations.push_back(computation);
-                    continue;
-                }
-                if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
-                    entries.push_back(entry);
-                }
-                todo.push_back(object);
-            }
-        }
-    }
-
-    std::vector<FExternComputation*> computations;
-    std::vector<const FEntry*> entries;
-};
-
 /** The name of the file that an entry takes from a supplier; empty for another value. Nothing is evaluated. */
 QString fileOf(const FEntry& entry, const FExternComputation& supplier) {
     const auto* file = dynamic_cast<const FInputFile*>(entry.getValue().getStored());
@@ -68,13 +34,47 @@ QString fileOf(const FEntry& entry, const FExternComputation& supplier) {
 
 }  // namespace
 
+/** What a computation's marks reach before they come to other computations. */
+struct FComputationGraph::Reached {
+    Reached(const FExternComputation& start, const Readers& all) {
+        std::vector<const FObject*> todo{&start};
+        std::unordered_set<const FObject*> seen{&start};
+        for (std::size_t i = 0; i < todo.size(); ++i) {
+            for (FObject* object : FUpdateGraph::reachedBy(todo[i])) {
+                if (!object->getBlock()->live() || !seen.insert(object).second) {
+                    continue;
+                }
+                const auto [first, end] = all.equal_range(object);
+                for (auto reader = first; reader != end; ++reader) {
+                    readers.push_back(reader->second);
+                    if (seen.insert(reader->second.computation).second) {
+                        computations.push_back(reader->second.computation);
+                    }
+                }
+                if (auto* computation = dynamic_cast<FExternComputation*>(object)) {
+                    computations.push_back(computation);
+                    continue;
+                }
+                if (const auto* entry = dynamic_cast<const FEntry*>(object)) {
+                    entries.push_back(entry);
+                }
+                todo.push_back(object);
+            }
+        }
+    }
+
+    std::vector<FExternComputation*> computations;
+    std::vector<const FEntry*> entries;
+    std::vector<Reader> readers;
+};
+
 FComputationGraph::FComputationGraph() {
     for (FManaged* object : FObjectManager::instance()->getManaged(FExternComputation::null())) {
         if (auto* computation = dynamic_cast<FExternComputation*>(object)) {
             mIndexes[computation] = static_cast<int>(mComputations.size());
             mComputations.push_back(computation);
-            for (const FObject* part : computation->getReadingParts()) {
-                mReaders.emplace(part, computation);
+            for (const FExternComputation::ReadingPart& part : computation->getReadingParts()) {
+                mReaders.emplace(part.object, Reader{computation, part.name});
             }
         }
     }
@@ -100,6 +100,11 @@ void FComputationGraph::addLinksFrom(int supplier) {
             }
             const QString file = fileOf(*entry, start);
             file.isEmpty() ? link.values.append(entry->getFullName()) : link.files.append(file);
+        }
+        for (const Reader& reader : reached.readers) {
+            if (reader.computation == computation) {
+                link.values.append(reader.part);
+            }
         }
         mClients[static_cast<std::size_t>(supplier)].push_back(link.client);
         mSuppliers[static_cast<std::size_t>(link.client)].push_back(supplier);

@@ -21,7 +21,7 @@ class MERIX_EXPORT FComputationGraph {
         int supplier = 0;  //!< index of the computation
         int client = 0;
         QStringList files;   //!< names of the files that the client gets
-        QStringList values;  //!< paths of its other entries whose values follow the supplier
+        QStringList values;  //!< paths of its other entries, and what else it has, whose values follow the supplier
 
         bool operator==(const Link& other) const = default;
     };
@@ -40,12 +40,18 @@ class MERIX_EXPORT FComputationGraph {
 
  private:
     using Neighbours = std::vector<std::vector<int>>;
+    struct Reader {
+        FExternComputation* computation;
+        QString part;  //!< with which it reads its results
+    };
+    using Readers = std::unordered_multimap<const FObject*, Reader>;
+    struct Reached;
 
     void addLinksFrom(int supplier);
     static std::vector<int> reachedFrom(int index, const Neighbours& next);
 
     std::vector<FExternComputation*> mComputations;
-    std::unordered_multimap<const FObject*, FExternComputation*> mReaders;  // by what they read their results with
+    Readers mReaders;  // by what they read their results with
     std::unordered_map<const FExternComputation*, int> mIndexes;
     std::vector<Link> mLinks;
     Neighbours mSuppliers;  // direct ones

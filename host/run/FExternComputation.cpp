@@ -308,11 +308,16 @@ void FExternComputation::runMoved(const QString& from, const QString& to) {
 }
 
 QMap<QString, QString> FExternComputation::describeSetUp() const {
-    return {{QStringLiteral("program"), mProgram.executable},
-            {QStringLiteral("program file:"), mProgram.fileVersion()},
-            {QStringLiteral("arguments"), joined(mProgram.arguments)},
-            {QStringLiteral("environment"), joined(mProgram.environment)},
-            {QStringLiteral("standard input"), mProgram.standardInput}};
+    QMap<QString, QString> setUp{{QStringLiteral("program"), mProgram.executable},
+                                 {QStringLiteral("program file:"), mProgram.fileVersion()},
+                                 {QStringLiteral("arguments"), joined(mProgram.arguments)},
+                                 {QStringLiteral("environment"), joined(mProgram.environment)},
+                                 {QStringLiteral("standard input"), mProgram.standardInput}};
+    const QMap<QString, QString> files = mProgram.argumentVersions(getWorkingPath());
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        setUp.insert(QStringLiteral("file %1:").arg(file.key()), file.value());
+    }
+    return setUp;
 }
 
 QString FExternComputation::getHolderOfRuns() {
@@ -333,6 +338,10 @@ const FExpr<FComputationResults>& FExternComputation::getCurrentResults() const 
         mResults.take(*this);
     }
     return mResults.get();
+}
+
+QString FExternComputation::explainNoResults(const FExternComputation& computation) {
+    return QStringLiteral("%1 has no results yet: run it first").arg(computation.getName());
 }
 
 bool FExternComputation::prepareResults() const {

@@ -107,9 +107,13 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     virtual QMap<QString, QString> describeSetUp() const;
     /** The files of a run have moved; both with a slash at the end. */
     void runMoved(const QString& from, const QString& to);
+    struct ReadingPart {
+        const FObject* object;
+        QString name;  //!< for the user
+    };
     /** What the results are read with beside the set-up, such as the rows of a mean. Nothing goes out of date with it.
      */
-    virtual std::vector<const FObject*> getReadingParts() const { return {}; }
+    virtual std::vector<ReadingPart> getReadingParts() const { return {}; }
     /** The other process that has the project open, and so its runs, for a message; empty if there is none. */
     static QString getHolderOfRuns();
     /** Folder of the run in progress, else of the last one, else of the next; with a slash at its end. */
@@ -121,6 +125,8 @@ class MERIX_EXPORT FExternComputation : public FClass<FExternComputation, QObjec
     /** Results of the last run, or of the one in progress. Empty before the first. */
     virtual FExpr<FComputationResults> getResults() const { return getCurrentResults(); }
     const FExpr<FComputationResults>& getCurrentResults() const;
+    /** Why getResults() gave nothing, for a message. */
+    static QString explainNoResults(const FExternComputation& computation);
     /** Reads what the current results haven't read yet; false if there are none or nothing can be read. */
     bool prepareResults() const;
     /** Whether there are results, or files to read them from, and no run is in progress. */

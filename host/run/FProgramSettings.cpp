@@ -8,6 +8,19 @@
 
 #include <algorithm>
 
+namespace {
+
+// Not its content: a program may have hundreds of megabytes, and the window asks for the set-up after each change.
+QString versionOf(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile()
+               ? QStringLiteral("%1 bytes of %2")
+                     .arg(QString::number(file.size()), file.lastModified().toUTC().toString(Qt::ISODateWithMs))
+               : QString();
+}
+
+}  // namespace
+
 const QString& FProgramSettings::outputFile() {
     static const QString name = QStringLiteral("stdout.txt");
     return name;
@@ -27,13 +40,22 @@ FProgramSearch FProgramSettings::search() const {
     return FProgramSearch::search(executable, QDir::currentPath(), path);
 }
 
-// Not its content: a program may have hundreds of megabytes, and the window asks for the set-up after each change.
 QString FProgramSettings::fileVersion() const {
-    const QFileInfo file(search().file);
-    return file.isFile()
-               ? QStringLiteral("%1 bytes of %2")
-                     .arg(QString::number(file.size()), file.lastModified().toUTC().toString(Qt::ISODateWithMs))
-               : QString();
+    return versionOf(search().file);
+}
+
+QMap<QString, QString> FProgramSettings::argumentVersions(const QString& folder) const {
+    const QDir ofRun(folder);
+    QMap<QString, QString> versions;
+    for (const QString& argument : arguments) {
+        const QString path = QDir::cleanPath(ofRun.absoluteFilePath(argument));
+        const bool isOfRun = path.startsWith(ofRun.absolutePath() + QLatin1Char('/'));
+        const QString version = isOfRun ? QString() : versionOf(path);
+        if (!version.isEmpty()) {
+            versions.insert(argument, version);
+        }
+    }
+    return versions;
 }
 
 // The system takes such a text up to that character.

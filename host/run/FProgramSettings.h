@@ -5,6 +5,8 @@
 #include "host/run/FProgramFault.h"
 #include "host/run/FProgramSearch.h"
 
+#include <QMap>
+
 /** How a computation starts its program. */
 struct MERIX_EXPORT FProgramSettings {
     /** A bare name is searched in PATH; a path with a slash is relative to the current folder of this process. */
@@ -23,6 +25,11 @@ struct MERIX_EXPORT FProgramSettings {
     FProgramSearch search() const;
     /** Size and time of the last change of the program's file, as a text to compare; empty if it isn't found. */
     QString fileVersion() const;
+    /**
+     * The same of the files that are named by an argument, such as a script, by argument. Those in the folder of the
+     * run aren't there: it is the run that writes them.
+     */
+    QMap<QString, QString> argumentVersions(const QString& folder) const;
     /** Why the program can't be started; empty if nothing prevents it. */
     FProgramFault fault() const;
     /** The same for the start in a folder, whose path has no slash at its end. */

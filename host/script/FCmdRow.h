@@ -73,8 +73,8 @@ class MERIX_EXPORT FCmdRow {
     std::function<void(FObject& to, const FObject& from)> copy;
     std::function<std::unique_ptr<FStateField>()> makeField;
 
-    /** What else could have been asked for, for a message after a null result; may be null. */
-    std::function<QStringList(const FObject* receiver)> alternatives;
+    /** Why it gave nothing, or what else could have been asked for; for a message after a null result. May be null. */
+    std::function<QString(const FObject* receiver)> explanation;
 
     /** Spelled from kind, class, name and argument types; also the key under which the command can be hidden. */
     QString className() const;

@@ -147,10 +147,19 @@ class MERIX_EXPORT FCmdTable {
         };
         return *this;
     }
-    /** `list` names what else the receiver has, for the message after a null result. */
+    /** `text` is part of the message after a null result: why there is none; empty if it isn't known. */
+    template <class C>
+    FCmdTable& explains(QString (*text)(const C& receiver)) {
+        last().explanation = [text](const FObject* receiver) { return text(dynamic_cast<const C&>(*receiver)); };
+        return *this;
+    }
+    /** `list` names what else the receiver has, for the same message. */
     template <class C>
     FCmdTable& alternatives(QStringList (*list)(const C& receiver)) {
-        last().alternatives = [list](const FObject* receiver) { return list(dynamic_cast<const C&>(*receiver)); };
+        last().explanation = [list](const FObject* receiver) {
+            const QStringList known = list(dynamic_cast<const C&>(*receiver));
+            return known.isEmpty() ? QString() : QStringLiteral("there are ") + known.join(QStringLiteral(", "));
+        };
         return *this;
     }
     /** Its execution changes nothing and reads no file. */

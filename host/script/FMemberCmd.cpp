@@ -193,15 +193,15 @@ QString FMemberCmd::writtenReceiver() const {
     return call->writtenReceiver() + QLatin1Char('.') + call->getName() + call->argumentText();
 }
 
-/** That the call gave nothing, and what it could have given. */
+/** That the call gave nothing, and why, or what it could have given. */
 QString FMemberCmd::missingResult() const {
     const FObject* receiver = mReceiver.getObject();
     const FCmdRow* row = getRow();
-    const bool isListed = row && row->alternatives && receiver && receiver->isTypeOf(row->owner->mpNull);
-    const QStringList known = isListed ? row->alternatives(receiver) : QStringList();
+    const bool isExplained = row && row->explanation && receiver && receiver->isTypeOf(row->owner->mpNull);
+    const QString explanation = isExplained ? row->explanation(receiver) : QString();
     const QString text =
         QStringLiteral("%1%2 of \"%3\" returned nothing").arg(getName(), argumentText(), writtenReceiver());
-    return known.isEmpty() ? text : text + QStringLiteral("; there are ") + known.join(QStringLiteral(", "));
+    return explanation.isEmpty() ? text : text + QStringLiteral("; ") + explanation;
 }
 
 void FMemberCmd::warnNoReceiver() const {

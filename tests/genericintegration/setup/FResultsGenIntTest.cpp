@@ -131,6 +131,9 @@ TEST_F(FResultsGenIntTest, answersQueriesOfScripts) {
 
 TEST_F(FResultsGenIntTest, tellsThatNumbersAreOfAnEarlierSetUp) {
     const QString table = "comp.getResults().getTable(\"Out.txt\")";
+    ASSERT_TRUE(run("genericIntegrationComputation fresh() {}"));
+    EXPECT_EQ(textOf("fresh.getResults().getTable(\"Out.txt\")"), "NULL");
+    EXPECT_TRUE(logHolds("getResults() of \"fresh\" returned nothing; fresh has no results yet: run it first"));
     FTestFolder::write("m.dat", "1");
     ASSERT_TRUE(run("def.addEntry(\"mesh\", inputFile(\"m.dat\"))\nok = comp.run()"));
     EXPECT_EQ(textOf(table + ".getElementAt(\"f\")"), "4");
@@ -148,6 +151,13 @@ TEST_F(FResultsGenIntTest, tellsThatNumbersAreOfAnEarlierSetUp) {
     FTestFolder::write("m.dat", "1");
     ASSERT_TRUE(run("comp.setEnvironment([\"A=1 B\"])\nok = comp.run()\ncomp.setEnvironment([\"A=1\", \"B\"])"));
     EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[environment was \"A=1 B\", is A=1 B]");
+    const QString program = FTestFolder::path("program.sh");
+    FTestFolder::write("program.sh", "echo > written");
+    ASSERT_TRUE(
+        run("comp.setExecutable(\"sh\"); comp.setArguments([\"" + program + "\", \"written\"]); ok = comp.run()"));
+    EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[]");
+    FTestFolder::write("program.sh", "echo 2 > written");
+    EXPECT_EQ(textOf("comp.getResults().getSetUpChanges()"), "[file " + program + " changed]");
     ASSERT_TRUE(
         run("genericIntegrationCommandFile one() { .setFileName(\"one\") }\n"
             "genericIntegrationCommandFile two() { .setFileName(\"two\") }\n"

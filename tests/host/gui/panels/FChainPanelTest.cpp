@@ -102,6 +102,11 @@ TEST_F(FChainPanelTest, itFollowsTheProjectAndItsRuns) {
     EXPECT_TRUE(boxes().value(0).startsWith("mesher, "));
     trigger("undo");
     EXPECT_EQ(arrows(), (QStringList{"first.txt", "first.txt", "x"}));
+    ASSERT_TRUE(
+        run("out3.setValues([[\"mean\", 0, 0, \"\", First, \"FDouble\", \"\", 1, "
+            "alone.getResults().getTable(\"n\").getElementAt(\"rows\")]])"));
+    settle();
+    EXPECT_EQ(arrows(), (QStringList{"first.txt", "first.txt", "rows of mean", "x"}));
     dialogs().answers.enqueue("Discard");
     trigger("newProject");
     EXPECT_EQ(boxes().size(), 0);

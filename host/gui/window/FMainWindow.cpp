@@ -479,6 +479,16 @@ void FMainWindow::changeEvent(QEvent* event) {
     }
 }
 
+// Panels behind others are beside the window, but count as visible. The keyboard passes them by.
+bool FMainWindow::focusNextPrevChild(bool next) {
+    bool hasMoved = QMainWindow::focusNextPrevChild(next);
+    const QWidget* first = QApplication::focusWidget();
+    while (hasMoved && mpPanels->isBehind(QApplication::focusWidget())) {
+        hasMoved = QMainWindow::focusNextPrevChild(next) && QApplication::focusWidget() != first;
+    }
+    return hasMoved;
+}
+
 // Only what no part of the window takes itself gets here.
 void FMainWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (!mScript.isRunning() && !FFileDrop::filesIn(event->mimeData()).isEmpty()) {

@@ -84,6 +84,12 @@ void FPanelDocks::hideAll() {
     }
 }
 
+bool FPanelDocks::isBehind(const QWidget* widget) const {
+    return std::any_of(mDocks.begin(), mDocks.end(), [widget](const QDockWidget* dock) {
+        return widget && dock->isAncestorOf(widget) && dock->visibleRegion().isEmpty();
+    });
+}
+
 void FPanelDocks::setEnabled(bool isEnabled) {
     for (const QDockWidget* dock : mDocks) {
         dock->widget()->setEnabled(isEnabled);
@@ -137,7 +143,7 @@ void FPanelDocks::reset() {
 
 void FPanelDocks::noteFocus(const QWidget* widget) {
     for (QDockWidget* dock : mDocks) {
-        if (widget && dock->isAncestorOf(widget)) {
+        if (widget && dock->isAncestorOf(widget) && !isBehind(widget)) {
             mPresent = dock;
         }
     }

@@ -38,6 +38,8 @@ class MERIX_EXPORT FPanelDocks : public QObject {
     /** Puts all panels where they are in a new installation, and shows them. */
     void reset();
     void hideAll();
+    /** Whether a widget is in a panel that is behind others. */
+    bool isBehind(const QWidget* widget) const;
     /** Whether the panels take input. */
     void setEnabled(bool isEnabled);
     /** Offers the places that the panel can move to which has the focus, or had it last. */

@@ -1,6 +1,7 @@
 #include "tests/support/window/FWindowTest.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMenu>
@@ -97,4 +98,21 @@ TEST_F(FPanelDocksTest, aTabDraggedOutOfItsGroupMovesItsPanel) {
     settle();
     EXPECT_TRUE(dock("console").isFloating() ||
                 !window().tabifiedDockWidgets(&dock("console")).contains(&dock("runs")));
+}
+
+TEST_F(FPanelDocksTest, theKeyboardPassesByWhatIsBehindOthers) {
+    openPanel("runs");
+    const QWidget* start = QApplication::focusWidget();
+    ASSERT_TRUE(dock("runs").isAncestorOf(start));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        int steps = 0;
+        do {
+            press(QApplication::focusWidget(), key);
+            for (const char* behind : {"log", "console", "help"}) {
+                EXPECT_FALSE(dock(behind).isAncestorOf(QApplication::focusWidget())) << behind;
+            }
+        } while (QApplication::focusWidget() != start && ++steps < 100);
+        EXPECT_GT(steps, 5);
+        EXPECT_LT(steps, 100);
+    }
 }

@@ -26,6 +26,8 @@ class MERIX_EXPORT FProject {
      * if there were errors, each of which has been reported; the present project stays if nothing could be read.
      */
     bool recoverUnnamed(const QString& name);
+    /** Whether the present project is the work of that name: one without a file. */
+    bool isUnnamed(const QString& name) const { return mLock.isHeldOn(name); }
     /**
      * Opens a project in place of the present one. False if there were errors, each of which has been reported: if the
      * file can't be read, is no project or is of a newer format, the present project stays; else what could be read is

@@ -7,7 +7,6 @@
 #include "host/gui/base/FGuiSettings.h"
 #include "host/gui/base/FMessageCatcher.h"
 #include "host/gui/panels/FConsole.h"
-#include "host/gui/window/FDocumentTabs.h"
 #include "host/gui/window/FFileImport.h"
 #include "host/gui/window/FMainWindow.h"
 #include "host/gui/window/FNoticeBar.h"
@@ -79,7 +78,6 @@ bool FProjectFiles::maySpoil() {
 
 void FProjectFiles::create() {
     if (isIdle() && maySpoil()) {
-        mWindow.documents().closeAll();
         FProject::instance()->create();
     }
 }
@@ -144,18 +142,22 @@ void FProjectFiles::openUnnamed(const QString& name) {
         FUnnamedWork::remove(name);
         mWindow.refreshStartPage();
     } else if (answer == 0) {
-        const FMessageCatcher messages;
-        const FWaitCursor wait;
-        mWindow.documents().closeAll();
-        const bool isWhole = FProject::instance()->recoverUnnamed(name);
-        if (mWindow.situation().hasProject) {
-            mWindow.unsavedWork().assume();
-            mWindow.showFirstConnector();
-        }
-        if (!isWhole) {
-            showFailure(QStringLiteral("Parts of the unsaved work couldn't be read: %1.").arg(messages.text()),
-                        whilePresent());
-        }
+        recoverUnnamed(name);
+    }
+}
+
+void FProjectFiles::recoverUnnamed(const QString& name) {
+    const FMessageCatcher messages;
+    const FWaitCursor wait;
+    const bool isWhole = FProject::instance()->recoverUnnamed(name);
+    const bool isOpen = FProject::instance()->isUnnamed(name);
+    if (isOpen) {
+        mWindow.unsavedWork().assume();
+        mWindow.showFirstConnector();
+    }
+    if (!isWhole) {
+        const QString what = isOpen ? QStringLiteral("Parts of the unsaved work") : QStringLiteral("The unsaved work");
+        showFailure(QStringLiteral("%1 couldn't be read: %2.").arg(what, messages.text()), whilePresent());
     }
 }
 
@@ -218,7 +220,6 @@ void FProjectFiles::openExample(const QString& name) {
                  .arg(folder)});
         return;
     }
-    mWindow.documents().closeAll();
     FProject::instance()->create();
     if (executeScript(QDir(folder).filePath(QStringLiteral("setup.merix")))) {
         saveTo(QDir(folder).filePath(name + QStringLiteral(".mrx")));

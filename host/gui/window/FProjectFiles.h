@@ -39,6 +39,7 @@ class MERIX_EXPORT FProjectFiles : public QObject {
 
  private:
     bool isIdle();
+    void recoverUnnamed(const QString& name);
     /** Saves, and shows the reason if that fails. An empty path is that of the project. */
     bool saveTo(const QString& path);
     /** Shows a notice that leads to the messages, as long as it holds. */

@@ -158,6 +158,13 @@ TEST_F(FProjectFilesTest, workThatWasNeverSavedIsOfferedAfterACrash) {
     ASSERT_EQ(find<QListWidget>("recentProjects")->count(), 2);
     open("Throw it away");
     ASSERT_EQ(find<QListWidget>("recentProjects")->count(), 1);
+    // What can't be read leaves the present project as it is.
+    const QString kept = left(folder.has(left(4)) ? 4 : 5);
+    folder.write(kept, "a note");
+    open("Recover it");
+    EXPECT_TRUE(window().notices().text().startsWith("The unsaved work couldn't be read: "));
+    EXPECT_FALSE(window().isWindowModified());
+    folder.write(kept, work);
     open("Recover it");
     EXPECT_EQ(textOf("span.getValue()"), "7");
     EXPECT_TRUE(window().isWindowModified());

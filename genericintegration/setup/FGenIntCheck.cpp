@@ -40,10 +40,9 @@ FSetUpCheck::Inputs FGenIntCheck::inputs(const FExternComputation& computation) 
 FSetUpCheck::Tables FGenIntCheck::tables(const FExternComputation& computation) const {
     Tables tables;
     const FDefinitionGenInt* definition = definitionOf(computation);
-    for (const FExpr<FGenIntFile>& handle : definition ? definition->getResultsFiles() : QList<FExpr<FGenIntFile>>()) {
-        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
-            tables.append({file->getFileName(), FTemplateValues::namesOf(*file)});
-        }
+    const QList<FExpr<FGenIntFile>> files = definition ? definition->getResultsFiles() : QList<FExpr<FGenIntFile>>();
+    for (const FExpr<FGenIntResultsFile>& file : FGenIntResultsFile::among(files)) {
+        tables.append({file->getFileName(), FTemplateValues::namesOf(*file.ptr())});
     }
     return tables;
 }

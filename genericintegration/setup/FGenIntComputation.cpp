@@ -149,9 +149,9 @@ QMap<QString, QString> FGenIntComputation::describeSetUp() const {
 std::vector<FExternComputation::ReadingPart> FGenIntComputation::getReadingParts() const {
     std::vector<ReadingPart> parts;
     const FDefinitionGenInt* described = definition();
-    for (const FExpr<FGenIntFile>& handle : described ? described->getFiles(1) : QList<FExpr<FGenIntFile>>()) {
-        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
-        for (const FExpr<FObject>& element : file ? file->getValues()->getObjects() : std::vector<FExpr<FObject>>()) {
+    const QList<FExpr<FGenIntFile>> files = described ? described->getResultsFiles() : QList<FExpr<FGenIntFile>>();
+    for (const FExpr<FGenIntResultsFile>& file : FGenIntResultsFile::among(files)) {
+        for (const FExpr<FObject>& element : file->getValues()->getObjects()) {
             const auto* value = dynamic_cast<const FGenIntResultsFileValue*>(element.getStored());
             // A plain number follows nothing.
             if (value && !dynamic_cast<const FBasicType*>(value->mNumAverageRows.getStored())) {

@@ -188,9 +188,8 @@ void FProblems::findOptionalFiles() {
 
 void FProblems::findRequiredValues() {
     QStringList known{FSuccessRules::allValues()};
-    for (const FExpr<FGenIntFile>& handle : mDefinition->getResultsFiles()) {
-        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
-        known += file ? FTemplateValues::namesOf(*file) : QStringList();
+    for (const FExpr<FGenIntResultsFile>& file : FGenIntResultsFile::among(mDefinition->getResultsFiles())) {
+        known += FTemplateValues::namesOf(*file.ptr());
     }
     for (const QString& name : mComputation->getSuccessRules().requiredValues) {
         if (!known.contains(name)) {

@@ -11,13 +11,9 @@
 
 void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FProblemList& problems) {
     QHash<QString, QString> readers;
-    int number = -1;
-    for (const FExpr<FGenIntFile>& handle : resultTemplates) {
-        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
-        if (!file) {
-            continue;
-        }
-        ++number;
+    int number = 0;
+    for (const FExpr<FGenIntResultsFile>& handle : FGenIntResultsFile::among(resultTemplates)) {
+        const FGenIntResultsFile* file = handle.ptr();
         findName(*file, problems);
         findSeparators(*file, problems);
         findValues(*file, problems);
@@ -32,6 +28,7 @@ void FResultProblems::find(const QList<FExpr<FGenIntFile>>& resultTemplates, FPr
         } else {
             readers.insert(name, file->getName());
         }
+        ++number;
     }
 }
 

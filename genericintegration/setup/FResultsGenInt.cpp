@@ -155,7 +155,7 @@ void FResultsGenInt::setOutputHandles(const QList<FExpr<FGenIntFile>>& files) {
 void FResultsGenInt::readOutputFiles() const {
     startParentReg(this);
     QList<FExpr<FTableData>> zones;
-    for (const FExpr<FGenIntResultsFile>& file : resultTemplates()) {
+    for (const FExpr<FGenIntResultsFile>& file : FGenIntResultsFile::among(mOutputHandles)) {
         FGenIntReader* reader = FGenIntReader::instance();
         reader->readResults(file, FExpr<FResultsGeneric>(this), getResultPath());
         const auto& imported = reader->getImportedObjects();
@@ -171,19 +171,8 @@ void FResultsGenInt::readOutputFiles() const {
     FResultsGeneric::readOutputFiles();
 }
 
-/** Those that exist, in the order of their tables. */
-QList<FExpr<FGenIntResultsFile>> FResultsGenInt::resultTemplates() const {
-    QList<FExpr<FGenIntResultsFile>> files;
-    for (const FExpr<FGenIntFile>& handle : mOutputHandles) {
-        if (const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr())) {
-            files.append(FExpr<FGenIntResultsFile>(file));
-        }
-    }
-    return files;
-}
-
 QStringList FResultsGenInt::valueNamesOf(int number) const {
-    const QList<FExpr<FGenIntResultsFile>> files = resultTemplates();
+    const QList<FExpr<FGenIntResultsFile>> files = FGenIntResultsFile::among(mOutputHandles);
     return number < files.size() ? FTemplateValues::namesOf(*files[number].ptr()) : QStringList();
 }
 
@@ -244,9 +233,8 @@ FExpr<FTableData> FResultsGenInt::getData(const QString& name) {
     if (found) {
         return found;
     }
-    for (const FExpr<FGenIntFile>& handle : qAsConst(mOutputHandles)) {
-        const auto* file = dynamic_cast<const FGenIntResultsFile*>(handle.ptr());
-        if (!file || file->getName().compare(name, Qt::CaseInsensitive) != 0) {
+    for (const FExpr<FGenIntResultsFile>& file : FGenIntResultsFile::among(mOutputHandles)) {
+        if (file->getName().compare(name, Qt::CaseInsensitive) != 0) {
             continue;
         }
         for (const FExpr<FTableData>& table : tables()) {

@@ -3,8 +3,6 @@
 #include "genericintegration/templates/FGenIntFile.h"
 #include "host/run/FResultsGeneric.h"
 
-class FGenIntResultsFile;
-
 /**
  * The results of one run of an integration: a table for each result template, read at the first access. The
  * numbers without a table's name are those of the first table.
@@ -57,7 +55,6 @@ class FResultsGenInt : public FClass<FResultsGenInt, FResultsGeneric> {
 
     static std::vector<std::unique_ptr<FStateField>> fields();
     FResultsGenInt* enter();
-    QList<FExpr<FGenIntResultsFile>> resultTemplates() const;
     template <class Ask>
     double ask(Ask question) const;
 

@@ -77,6 +77,16 @@ FGenIntResultsFile* FGenIntResultsFile::create(const QString& name) {
     return file;
 }
 
+QList<FExpr<FGenIntResultsFile>> FGenIntResultsFile::among(const QList<FExpr<FGenIntFile>>& files) {
+    QList<FExpr<FGenIntResultsFile>> found;
+    for (const FExpr<FGenIntFile>& file : files) {
+        if (const FExpr<FGenIntResultsFile> results(file); results) {
+            found.append(results);
+        }
+    }
+    return found;
+}
+
 // The rows of an average may name a computation, and so keep what keeps this template.
 void FGenIntResultsFile::letGo() {
     mValues = FExpr<FObjectList>(new FObjectList);

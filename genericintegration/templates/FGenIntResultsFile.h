@@ -20,6 +20,8 @@ class FGenIntResultsFile : public FClass<FGenIntResultsFile, FGenIntFile> {
     static FClassData mClass;
 
     static FGenIntResultsFile* create(const QString& name);
+    /** The result templates among files, in their order; only those that exist. */
+    static QList<FExpr<FGenIntResultsFile>> among(const QList<FExpr<FGenIntFile>>& files);
     /** A new template with the separators of this one, and as many values, all blank. */
     FObject* clone() const override;
     void init(const FGenIntResultsFile* other);

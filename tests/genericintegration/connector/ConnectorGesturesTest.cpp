@@ -3,14 +3,9 @@
 #include "genericintegration/connector/FSoftConScene.h"
 #include "genericintegration/connector/FSoftConView.h"
 #include "genericintegration/connector/FSoftwareConnector.h"
-#include "genericintegration/setup/FConfigurationGenInt.h"
-#include "genericintegration/setup/FDefinitionGenInt.h"
 #include "host/core/FHistory.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FObjectManager.h"
-#include "host/design/FGeometryExport.h"
-#include "host/design/FInputFile.h"
-#include "host/design/FResultsFileName.h"
 #include "host/gui/base/FObjectMime.h"
 #include "host/gui/window/FDocumentTabs.h"
 #include "tests/support/FTestFolder.h"
@@ -166,24 +161,10 @@ class ConnectorGesturesTest : public FWindowTest {
 
     static QSet<const FObject*> objectsOf(const FSoftwareConnector& connector) {
         QSet<const FObject*> objects;
-        const FExpr<FExternComputation> computation = connector.getComputation();
-        const FSetUpObjects setUp(computation);
-        if (computation) {
-            objects.insert(computation.ptr());
-        }
-        if (setUp.configuration()) {
-            for (const FObject* type :
-                 {static_cast<const FObject*>(FGeometryExport::null()), static_cast<const FObject*>(FInputFile::null()),
-                  static_cast<const FObject*>(FResultsFileName::null())}) {
-                for (const FExpr<FEntry>& entry : setUp.configuration()->getEntry(type, true)) {
-                    objects.insert(entry.ptr());
-                }
-            }
-        }
-        if (setUp.definition()) {
-            for (const FExpr<FGenIntFile>& file : setUp.definition()->getFiles()) {
-                objects.insert(file.ptr());
-            }
+        const FSetUpObjects setUp(connector.getComputation());
+        for (const FSetUpObjects::Shown& shown :
+             connector.getComputation() ? setUp.shown() : QList<FSetUpObjects::Shown>()) {
+            objects.insert(shown.object.getStored());
         }
         return objects;
     }
@@ -225,16 +206,5 @@ TEST_F(ConnectorGesturesTest, theScenesShowWhatTheModelIs) {
         gesture();
         check();
     }
-    const QString text = savedModel();
-    int steps = 0;
-    while (FHistory::instance()->undo()) {
-        ++steps;
-    }
-    check();
-    EXPECT_TRUE(connectors().isEmpty());
-    for (; steps > 0; --steps) {
-        FHistory::instance()->redo();
-    }
-    check();
-    EXPECT_EQ(savedModel().toStdString(), text.toStdString());
+    undoAndRedoAll([this] { check(); });
 }

@@ -1,5 +1,6 @@
 #include "tests/support/window/FWindowTest.h"
 
+#include "host/core/FHistory.h"
 #include "host/core/FIni.h"
 #include "host/core/FSelectionSet.h"
 #include "host/gui/window/FActions.h"
@@ -56,6 +57,21 @@ void FWindowTest::enter(const QString& statement) {
     line->setText(statement);
     press(line, Qt::Key_Return);
     settle();
+}
+
+void FWindowTest::undoAndRedoAll(const std::function<void()>& check) {
+    const QString text = savedModel();
+    int steps = 0;
+    while (FHistory::instance()->undo()) {
+        ++steps;
+    }
+    check();
+    EXPECT_TRUE(FObjectManager::instance()->getManaged(FManaged::null()).isEmpty());
+    for (; steps > 0; --steps) {
+        FHistory::instance()->redo();
+    }
+    check();
+    EXPECT_EQ(savedModel().toStdString(), text.toStdString());
 }
 
 void FWindowTest::settle() {

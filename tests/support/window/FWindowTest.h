@@ -41,6 +41,8 @@ class FWindowTest : public FModelTest {
     static void press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(widget, key, modifiers);
     }
+    /** Undoes all steps, which leads to the empty model, and redoes them, which leads to the same text. */
+    static void undoAndRedoAll(const std::function<void()>& check);
     /** Handles what was posted until now. */
     static void settle();
     /** The texts of a model's rows below an index, with their children indented by two blanks. */

@@ -30,9 +30,10 @@ FProblemWatch::FProblemWatch() {
     connect(&mTimer, &QTimer::timeout, this, &FProblemWatch::check);
     const FChanges* changes = FChanges::instance();
     const auto checkSoon = [this] { mTimer.start(); };
-    connect(changes, &FChanges::stepDone, this, checkSoon);
-    connect(changes, &FChanges::stepUndone, this, checkSoon);
-    connect(changes, &FChanges::stepRedone, this, checkSoon);
+    for (const auto signal :
+         {&FChanges::stepDone, &FChanges::stepUndone, &FChanges::stepRedone, &FChanges::stepTakenBack}) {
+        connect(changes, signal, this, checkSoon);
+    }
     connect(changes, &FChanges::projectOpened, this, checkSoon);
     connect(changes, &FChanges::projectClosed, this, checkSoon);
     connect(changes, &FChanges::objectLeft, this, checkSoon);

@@ -1,9 +1,11 @@
 #include "host/core/FLogMsg.h"
 #include "host/core/FMerixCtrl.h"
 #include "host/core/FSelectionSet.h"
+#include "host/gui/base/FProblemWatch.h"
 #include "host/gui/panels/FLogModel.h"
 #include "host/gui/panels/FUndoModel.h"
 #include "host/run/FExternComputation.h"
+#include "host/script/FCmdInput.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/chainOfThree.h"
 #include "tests/support/window/FWindowTest.h"
@@ -115,6 +117,18 @@ TEST_F(ListPanelsTest, aRunOfASupplierSolvesTheProblemOfItsClient) {
     trigger("run");
     EXPECT_TRUE(waitUntil([&] { return !isReported(); }));
     ASSERT_TRUE(waitUntil([] { return object<FExternComputation>("first")->canRun(); }));
+}
+
+TEST_F(ListPanelsTest, problemsComeBackWithAnObjectWhoseDestructionFailed) {
+    ASSERT_TRUE(run("genericIntegrationComputation solver()"));
+    const std::shared_ptr<FProblemWatch> watch = FProblemWatch::get();
+    const auto hasProblems = [&watch] { return !watch->problems().isEmpty(); };
+    ASSERT_TRUE(waitUntil(hasProblems));
+    FCmdInput::setPause([&] { EXPECT_TRUE(waitUntil([&] { return !hasProblems(); })); });
+    EXPECT_FALSE(run("if (true) {\n destroy(solver)\n nonsense\n}"));
+    FCmdInput::setPause({});
+    EXPECT_NE(object<FManaged>("solver"), nullptr);
+    EXPECT_TRUE(waitUntil(hasProblems));
 }
 
 TEST_F(ListPanelsTest, theLogKeepsTheLastMessages) {

@@ -20,8 +20,10 @@ extern "C" const char* __lsan_default_suppressions() {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir settings;
-    qputenv("MERIX_SETTINGS", settings.filePath(QStringLiteral("merix.ini")).toLocal8Bit());
+    // Not the settings and the unsaved work of the user.
+    const QTemporaryDir home;
+    qputenv("MERIX_SETTINGS", home.filePath(QStringLiteral("merix.ini")).toLocal8Bit());
+    qputenv("XDG_STATE_HOME", home.path().toLocal8Bit());
     QApplication application(argc, argv);
     // Alike on every machine.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

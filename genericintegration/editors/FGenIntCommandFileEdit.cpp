@@ -15,6 +15,7 @@
 #include "host/gui/text/FSearchDialog.h"
 
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
@@ -137,6 +138,15 @@ bool FGenIntCommandFileEdit::event(QEvent* event) {
             break;
     }
     return FEditor::event(event);
+}
+
+// The base would insert the address of a file; what to do with it is known to what is around the text.
+void FGenIntCommandFileEdit::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->ignore();
+    } else {
+        FEditor::dragEnterEvent(event);
+    }
 }
 
 // The base would make a document of the text first, which takes as long again.

@@ -57,7 +57,9 @@ void FGenIntCommandFileLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     // The focus comes back with the window, and after a menu.
     const bool isBrief = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    if (isVisible() && !isBrief && hasAcceptableInput()) {
+    // The page around it may have been closed.
+    const bool isOpen = !isHidden() && window()->isVisible();
+    if (isOpen && !isBrief && hasAcceptableInput()) {
         mEdit.entryNameChanged();
     } else if (!isBrief) {
         hide();

@@ -1,9 +1,13 @@
 #include "host/design/FEntryDef.h"
+#include "host/gui/window/FDocumentTabs.h"
+#include "host/gui/window/FNoticeBar.h"
 #include "tests/genericintegration/editors/FTemplatePageTest.h"
 
 #include <QCheckBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpontaneKeyEvent>
@@ -257,6 +261,26 @@ TEST_F(FGenIntCommandFileEditTest, anEntryIsRenamedAtItsTag) {
     EXPECT_GT(field->width(), field->fontMetrics().horizontalAdvance(field->text()));
     press(field, Qt::Key_Escape);
     EXPECT_NE(entry("Geometry|left"), nullptr);
+    chooseForTag("<entry>Geometry", "Rename");
+    type(field, "right");
+    emit window().documents().tabCloseRequested(0);
+    EXPECT_NE(entry("Geometry|right"), nullptr) << "what is typed when the page is closed";
+}
+
+TEST_F(FGenIntCommandFileEditTest, aDroppedFileIsForTheWindowAndNoText) {
+    open("a\n");
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/tmp/out.txt")});
+    const QPoint place(5, 5);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(edit().viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent dropped(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(edit().viewport(), &dropped);
+    settle();
+    EXPECT_EQ(shown(), "a\n");
+    EXPECT_TRUE(window().notices().text().startsWith("out.txt is neither a project")) << "what can be done with it";
 }
 
 TEST_F(FGenIntCommandFileEditTest, theKeyboardReachesWhatTheButtonsDo) {

@@ -4,6 +4,7 @@
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/marking/FEntryNameProposal.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FTemplateTagEditor.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FBasicType.h"
 #include "host/core/FHold.h"
@@ -13,6 +14,7 @@
 #include "host/core/FString.h"
 #include "host/core/FUserStep.h"
 #include "host/design/FConfiguration.h"
+#include "host/design/FEntry.h"
 #include "host/design/FEntryDef.h"
 
 #include <QTextCursor>
@@ -64,6 +66,24 @@ void FCommandFileSteps::keepText(const FEntryDef& entry, const QString& text) {
     }
 }
 
+// The text that was kept for it, if a configuration still has it.
+QString FCommandFileSteps::defaultText(const FEntryDef& entry) const {
+    const auto* standard = objectCast<FBasicType>(entry.getDefaultValue().getObject());
+    if (!standard) {
+        return {};
+    }
+    for (const FConfiguration* configuration : mDefinition.getConfigurations()) {
+        const FEntry* own = configuration->getValueEntry(entry.getFullName());
+        const FExprBase value = own ? own->getValue() : FExprBase();
+        const bool isReadable = value.isValid() && value.canSafelyBeUpdated(false);
+        const auto* text = isReadable ? objectCast<FString>(value.getObject()) : nullptr;
+        if (text && text->getValue().toDouble() == standard->toDouble()) {  // 0 for a word, as its default
+            return text->getValue();
+        }
+    }
+    return standard->toString();
+}
+
 void FCommandFileSteps::insert(const QString& name, const QTextCursor& place) {
     FUserStep step(QStringLiteral("insert commandfile entry"));
     mBuffer.replace(place, FTemplateTags::tagOf(name));
@@ -80,8 +100,7 @@ void FCommandFileSteps::rename(FEntryDef& entry, const QString& name) {
 }
 
 void FCommandFileSteps::remove(FEntryDef* entry, const QTextCursor& tag) {
-    const auto* value = entry ? objectCast<FBasicType>(entry->getDefaultValue().getObject()) : nullptr;
-    replaceTag(QStringLiteral("remove commandfile entry"), entry, tag, value ? value->toString() : QString());
+    replaceTag(QStringLiteral("remove commandfile entry"), entry, tag, entry ? defaultText(*entry) : QString());
 }
 
 void FCommandFileSteps::replace(FEntryDef* entry, const QTextCursor& tag, const QString& name) {
@@ -109,6 +128,9 @@ void FCommandFileSteps::destroy(FEntryDef& entry) {
         const FWaitCursor busy;
         const FExpr<FEntryBase> held(&entry);
         FUserStep step(QStringLiteral("remove commandfile entry"));
+        if (entry.getDefaultValue()) {
+            FTemplateTagEditor(mDefinition.getCommandFiles()).replaceTags(entry.getFullName(), defaultText(entry));
+        }
         mDefinition.findAndRemoveEntry(held);
     }
     FObjectEditorWgt::instance()->reinitialize();

@@ -39,6 +39,7 @@ class FCommandFileSteps {
      */
     QString freeName(const QString& name, const FEntryDef* entry) const;
     void keepText(const FEntryDef& entry, const QString& text);
+    QString defaultText(const FEntryDef& entry) const;
     void replaceTag(const QString& label, FEntryDef* entry, const QTextCursor& tag, const QString& text);
 
     FDefinitionGenInt& mDefinition;

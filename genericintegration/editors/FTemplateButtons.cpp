@@ -114,7 +114,9 @@ std::optional<FTemplateOffer> FTemplateButtons::current() const {
 
 void FTemplateButtons::setCurrent(const FTemplateOffer& offer) {
     mIsAtMouse = false;
+    // Its start may be the end of another one.
     mCurrent = offer.start();
+    mCurrent.movePosition(QTextCursor::NextCharacter);
     mCurrentName = offer.isNumber ? QString() : offer.name;
 }
 

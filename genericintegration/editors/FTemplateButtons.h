@@ -63,7 +63,7 @@ class FTemplateButtons : public QObject {
     QToolButton* mpAddEntryButton;
     FGenIntCommandFileEditEntryButton* mpEditEntryButton;
     std::optional<QPoint> mMouse;  //!< in the viewport; nothing while the mouse is elsewhere
-    QTextCursor mCurrent;          //!< at the start of what the button is for
+    QTextCursor mCurrent;          //!< in what the button is for
     QString mCurrentName;
     bool mIsAtMouse = false;
     FQueuedCall mUpdate{[this] { update(); }};

@@ -73,6 +73,14 @@ TEST_F(FGenIntCommandFileEditTest, aNewEntryLeavesTheWrittenFileAsItIs) {
         EXPECT_EQ(textOf(QString("%1.getPreviewText(\"deck.inp\")").arg(configuration)).toStdString(),
                   text.toStdString());
     }
+    for (const char* way : {"Remove", "Delete (from all files)"}) {
+        chooseForTag("<entry>b", way);
+        EXPECT_TRUE(content().contains("b = 007,")) << way << content().toStdString();
+        chooseForTag("<entry>E_entry", way);
+        EXPECT_TRUE(content().endsWith("</entry>STEEL\n")) << way << content().toStdString();
+        undo();
+        undo();
+    }
     chooseForTag("<entry>b", "Rename");
     type(find<QLineEdit>("entryName"), "A");
     press(find<QLineEdit>("entryName"), Qt::Key_Return);

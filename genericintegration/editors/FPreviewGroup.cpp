@@ -38,8 +38,11 @@ void FPreviewGroup::showPlace(const FFoundValue& found, const QString& text, boo
     const QString shown =
         found.rows || text.isEmpty() ? place : QStringLiteral("%1: %2").arg(place, text.left(mostShown));
     const QString reason = isFileName ? QString() : FValueRemark::text(found, found.number);
-    // The reason is about the number, or says why there is none.
-    const QString subject = isMissing ? place + QLatin1Char(':') : isMean ? QStringLiteral("It") : shown;
+    // The reason is about the number, or a sentence of its own.
+    const QString subject = isMissing                   ? place + QLatin1Char(':')
+                            : (found.flags & fileFlags) ? shown + QLatin1Char(';')
+                            : isMean                    ? QStringLiteral("It")
+                                                        : shown;
     mpPlace->show(reason.isEmpty() ? shown : QStringLiteral("%1 %2 %3").arg(QChar(0x26a0)).arg(subject, reason));
 }
 

@@ -83,7 +83,7 @@ void FValueSelector::enableFields(bool hasValue) {
 }
 
 QString FValueSelector::name() const {
-    return mpNames->currentText();
+    return mpNames->itemText(mpNames->currentIndex());
 }
 
 int FValueSelector::number() const {

@@ -175,6 +175,10 @@ TEST_F(FGenIntResultsFileEditorTest, parametersFollowANameWhileItIsTyped) {
 
     name.setFocus();
     name.selectAll();
+    type(&name, "lift");
+    EXPECT_EQ(text(name.text()), "lift");
+    EXPECT_EQ(preview().currentRow(), rowOf("lift_01")) << "its own row, and not that of the other one";
+    name.selectAll();
     type(&name, "LIFT");
     EXPECT_EQ(text(current()), "LIFT_01");
     press(&name, Qt::Key_Return);

@@ -91,8 +91,8 @@ void FTemplateButtons::show(const FTemplateOffer& offer) {
     }
     shown->setGeometry(rect);
     shown->setFixedWidth(mpEditEntryButton->iconSize().width() + rect.width() + buttonPadding);
-    // The frame and the scroll bars stay in front.
-    shown->setMask(mEdit.viewport()->geometry().translated(-rect.topLeft()));
+    // The frame and the scroll bars stay in front. What a mask has beyond its widget would not be painted any more.
+    shown->setMask(mEdit.viewport()->geometry().translated(-rect.topLeft()) & shown->rect());
     mpAddEntryButton->setText(offer.isNumber ? offer.text : QString());
     mpEditEntryButton->setEntryName(offer.isNumber ? QString() : offer.name);
     hidden->hide();

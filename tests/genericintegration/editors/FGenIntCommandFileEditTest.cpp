@@ -95,6 +95,9 @@ TEST_F(FGenIntCommandFileEditTest, aNewEntryLeavesTheWrittenFileAsItIs) {
 TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     open("key = 1.5 and words\n<entry>force</entry>\n<entry>open 2\n\nlast");
     EXPECT_EQ(hover("key")->text(), "key = 1.5");
+    const QToolButton& shown = *hover("key");
+    EXPECT_EQ(shown.mask().boundingRect() | shown.rect(), shown.rect())
+        << "what a mask covers beside its widget isn't painted again";
     EXPECT_EQ(hover("<entry>force")->objectName(), "editEntryButton");
     EXPECT_EQ(hover("words"), nullptr);
     EXPECT_EQ(hover("2"), nullptr) << "in a line with an open tag";

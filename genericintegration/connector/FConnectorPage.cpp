@@ -14,13 +14,7 @@ FConnectorPage::FConnectorPage(FSoftwareConnector& connector, FNavigator& naviga
     setFocusProxy(&connector);
     connector.setNavigator(&navigator);
     connector.show();
-    connect(connector.getScene(), &QGraphicsScene::focusItemChanged, this,
-            [&navigator](const QGraphicsItem* /*now*/, const QGraphicsItem* /*before*/, Qt::FocusReason reason) {
-                // Menus act on the item that had the focus before.
-                if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) {
-                    navigator.partFocused();
-                }
-            });
+    connect(connector.getScene(), &QGraphicsScene::focusItemChanged, this, [&navigator] { navigator.partFocused(); });
 }
 
 FConnectorPage::~FConnectorPage() {
@@ -45,7 +39,7 @@ bool FConnectorPage::isPartFocused() const {
 
 void FConnectorPage::deletePart() {
     if (mConnector) {
-        mConnector->getScene()->keys().remove();
+        mConnector->getScene()->keys().removeLast();
     }
 }
 

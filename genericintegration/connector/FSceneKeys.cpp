@@ -196,10 +196,18 @@ bool FSceneKeys::isAtRemovable() const {
 }
 
 bool FSceneKeys::remove() {
-    if (!isAtRemovable()) {
+    return remove(dynamic_cast<FSoftConObjectItem*>(mScene.focusItem()));
+}
+
+bool FSceneKeys::removeLast() {
+    const bool isThere = mScene.itemParts().contains(mpLastItem);
+    return remove(isThere ? dynamic_cast<FSoftConObjectItem*>(mpLastItem.data()) : nullptr);
+}
+
+bool FSceneKeys::remove(FSoftConObjectItem* item) {
+    if (!item || !item->deleteProxy()) {
         return false;
     }
-    auto* item = dynamic_cast<FSoftConObjectItem*>(mScene.focusItem());
     const QPointF place = item->sceneBoundingRect().center();
     mScene.deleteItem(item);
     focus(nearest(mScene.itemParts(), [&place](QObject* part) {

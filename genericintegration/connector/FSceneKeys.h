@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+class FSoftConObjectItem;
 class FSoftConScene;
 class QKeyEvent;
 class QObject;
@@ -25,6 +26,8 @@ class FSceneKeys {
     bool isAtRemovable() const;
     /** Removes the item that has the focus; false if there is none. */
     bool remove();
+    /** The same of the item that had it last, such as before a menu was opened. */
+    bool removeLast();
     /** The part that has the focus, or had it last, of the items or of the buttons. */
     void remember(QObject* part);
 
@@ -36,6 +39,7 @@ class FSceneKeys {
     bool move(int key);
     bool open();
     bool select();
+    bool remove(FSoftConObjectItem* item);
 
     FSoftConScene& mScene;
     QPointer<QObject> mpLastItem;

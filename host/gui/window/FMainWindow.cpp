@@ -173,12 +173,7 @@ void FMainWindow::listen() {
     connect(&mUnsaved, &FUnsavedWork::changed, this, refreshSoon);
     connect(&mRunTarget, &FRunTarget::changed, this, refreshSoon);
     connect(FSelectionSet::instance(), &FSelectionSet::selectionReplaced, this, refreshSoon);
-    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
-        // The actions of a menu are for what had the focus before.
-        if (now && now != menuBar()) {
-            mRefresh.request();
-        }
-    });
+    connect(qApp, &QApplication::focusChanged, this, refreshSoon);
     connect(changes, &FChanges::projectSaved, this, [this](const QString& file) {
         FGuiSettings::addRecentProject(file);
         showStatus(QStringLiteral("Saved %1").arg(QFileInfo(file).fileName()));
@@ -197,21 +192,30 @@ void FMainWindow::showFirstConnector() {
     }
 }
 
-FObjectPage* FMainWindow::pageOfFocusedPart() const {
-    auto* page = dynamic_cast<FObjectPage*>(mpDocuments->currentWidget());
-    return page && page->isPartFocused() ? page : nullptr;
+FObjectPage* FMainWindow::pageInFront() const {
+    return dynamic_cast<FObjectPage*>(mpDocuments->currentWidget());
+}
+
+// The actions of a menu are for what had the focus before it was opened.
+void FMainWindow::noteFocus() {
+    if (!QApplication::activePopupWidget() && focusWidget() != menuBar()) {
+        const FObjectPage* page = pageInFront();
+        mIsPageFocused = mpDocuments->isAncestorOf(focusWidget());
+        mIsPartFocused = page && page->isPartFocused();
+    }
 }
 
 FSituation FMainWindow::situation() const {
     FSituation now = FSituation::now(mRunTarget, mUnsaved);
-    now.isPageFocused = mpDocuments->isAncestorOf(focusWidget());
-    now.isPartFocused = pageOfFocusedPart() != nullptr;
+    now.isPageFocused = mIsPageFocused;
+    now.isPartFocused = mIsPartFocused;
     now.isLocked = mScript.isRunning();
     return now;
 }
 
 void FMainWindow::deleteSelected() {
-    if (FObjectPage* page = pageOfFocusedPart()) {
+    FObjectPage* page = mIsPartFocused ? pageInFront() : nullptr;
+    if (page) {
         page->deletePart();
     } else {
         FObjectTreeWgt::destroySelected();
@@ -235,6 +239,7 @@ void FMainWindow::noteEndOfRun(const FManaged* object) {
 }
 
 void FMainWindow::refresh() {
+    noteFocus();
     const FSituation now = situation();
     mpActions->update(now);
     setWindowTitle(now.hasProject ? QStringLiteral("%1[*] — merix").arg(projectName()) : QStringLiteral("merix"));

@@ -97,8 +97,9 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     void makeStatusBar();
     void showProblemCount(int count);
     void listen();
-    /** The page in front, if a part of it has the focus that can be deleted. */
-    FObjectPage* pageOfFocusedPart() const;
+    /** Null if no page is in front. */
+    FObjectPage* pageInFront() const;
+    void noteFocus();
     /** Brings actions, title and status line up to date, from the event loop. */
     void refresh();
     void showProject(bool isThere);
@@ -123,6 +124,8 @@ class MERIX_EXPORT FMainWindow : public QMainWindow, public FNavigator {
     QLabel* mpRunState = nullptr;
     std::unique_ptr<FPanelDocks> mpPanels;
     bool mShowsProject = false;
+    bool mIsPageFocused = false;
+    bool mIsPartFocused = false;  //!< of the page in front, and can be deleted
     FScriptExecution mScript;
     bool mClosesAfterScript = false;
     QSet<const FManaged*> mInProgress;  //!< computations whose run was in progress when they changed last

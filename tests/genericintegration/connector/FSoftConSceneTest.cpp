@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -73,6 +74,7 @@ TEST_F(FSoftConSceneTest, aClickedItemIsShownInTheEditorAndIsWhatDeleteTakes) {
     click("case.inp");
     ASSERT_TRUE(waitUntil([&] { return isShown("c"); }));
     const QString before = savedModel();
+    window().menuBar()->setFocus(Qt::MenuBarFocusReason);  // as by Alt
     trigger("delete");
     EXPECT_EQ(items(), "more.inp | tip | out.txt | solver");
     expectOneStep(before, "software connector: delete item");

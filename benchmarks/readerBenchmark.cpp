@@ -214,6 +214,27 @@ void mixedRead(benchmark::State& state) {
     read(state, textOf(state.range(1)), values);
 }
 
+/** Means of the last rows, of each column. */
+std::vector<FValueDescription> averagesOf(qint64 rows) {
+    constexpr int columns = 4;
+    std::vector<FValueDescription> values(columns);
+    for (int i = 0; i < columns; ++i) {
+        FValueDescription& value = values[static_cast<size_t>(i)];
+        value.column = i;
+        value.average = true;
+        value.averageRows = static_cast<quint32>(rows);
+    }
+    return values;
+}
+void averagesRead(benchmark::State& state) {
+    read(state, textOf(state.range(1)), averagesOf(state.range(0)));
+}
+void averagesNaive(benchmark::State& state) {
+    for (auto _ : state) {
+        readNaively(textOf(state.range(1)), averagesOf(state.range(0)));
+    }
+}
+
 /** Each line contains a character that isn't ASCII; in Latin 1, it isn't valid UTF-8 either. */
 void nonAsciiRead(benchmark::State& state) {
     read(state, makeText(state.range(1) * 1000, "\u00B5N"), makeValues(state.range(0)));
@@ -350,6 +371,19 @@ BENCHMARK(mixedRead)
     ->ArgNames({"short", "KB"})
     ->ArgsProduct({{0, 1, 5, 20}, {5000}})
     ->Unit(kMicrosecond);
+
+BENCHMARK(memoryBare)->Name("averages.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
+BENCHMARK(averagesRead)
+    ->Name("averages.read")
+    ->ArgNames({"rows", "KB"})
+    ->ArgsProduct({{10, 100, 1000, 10'000, 50'000}, {5000}})
+    ->Unit(kMicrosecond);
+BENCHMARK(averagesNaive)
+    ->Name("averages.naive")
+    ->ArgNames({"rows", "KB"})
+    ->ArgsProduct({{100, 10'000}, {5000}})
+    ->Unit(kMicrosecond)
+    ->Iterations(1);
 
 BENCHMARK(memoryBare)->Name("nonAscii.bare")->ArgName("KB")->Arg(5000)->Unit(kMicrosecond);
 BENCHMARK(nonAsciiRead)->Name("nonAscii.read")->ArgNames({"values", "KB"})->Args({50, 5000})->Unit(kMicrosecond);

@@ -108,6 +108,7 @@ FMainWindow::FMainWindow() {
 }
 
 FMainWindow::~FMainWindow() {
+    qApp->disconnect(this);  // the focus moves while the children are destroyed
     // Documents refer to panels, and both to members of the window, which are destroyed before its children.
     mpPages.reset();
     delete centralWidget();

@@ -84,6 +84,12 @@ QString FCommandFileSteps::defaultText(const FEntryDef& entry) const {
     return standard->toString();
 }
 
+// The definition alone would leave it in the configurations until something else changes.
+void FCommandFileSteps::removeFromDefinition(const FExpr<FEntryBase>& entry) {
+    mDefinition.findAndRemoveEntry(entry);
+    mDefinition.reinitConfigurations(false);
+}
+
 void FCommandFileSteps::insert(const QString& name, const QTextCursor& place) {
     FUserStep step(QStringLiteral("insert commandfile entry"));
     mBuffer.replace(place, FTemplateTags::tagOf(name));
@@ -117,7 +123,7 @@ void FCommandFileSteps::replaceTag(const QString& label, FEntryDef* entry, const
             mBuffer.replace(tag, text);
         }
         if (held && !mDefinition.commandFileReferencesEntry(held)) {
-            mDefinition.findAndRemoveEntry(held);
+            removeFromDefinition(held);
         }
     }
     FObjectEditorWgt::instance()->reinitialize();
@@ -131,7 +137,7 @@ void FCommandFileSteps::destroy(FEntryDef& entry) {
         if (entry.getDefaultValue()) {
             FTemplateTagEditor(mDefinition.getCommandFiles()).replaceTags(entry.getFullName(), defaultText(entry));
         }
-        mDefinition.findAndRemoveEntry(held);
+        removeFromDefinition(held);
     }
     FObjectEditorWgt::instance()->reinitialize();
 }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "host/core/FExpr.h"
+
 #include <QString>
 
 class FDefinitionGenInt;
 class FEditBuffer;
+class FEntryBase;
 class FEntryDef;
 class QTextCursor;
 
@@ -40,6 +43,7 @@ class FCommandFileSteps {
     QString freeName(const QString& name, const FEntryDef* entry) const;
     void keepText(const FEntryDef& entry, const QString& text);
     QString defaultText(const FEntryDef& entry) const;
+    void removeFromDefinition(const FExpr<FEntryBase>& entry);
     void replaceTag(const QString& label, FEntryDef* entry, const QTextCursor& tag, const QString& text);
 
     FDefinitionGenInt& mDefinition;

@@ -76,6 +76,8 @@ TEST_F(FGenIntCommandFileEditTest, aNewEntryLeavesTheWrittenFileAsItIs) {
     for (const char* way : {"Remove", "Delete (from all files)"}) {
         chooseForTag("<entry>b", way);
         EXPECT_TRUE(content().contains("b = 007,")) << way << content().toStdString();
+        EXPECT_EQ(entry("b"), nullptr) << way;
+        EXPECT_EQ(object<FConfiguration>("values")->getValueEntry("b"), nullptr) << way;
         chooseForTag("<entry>E_entry", way);
         EXPECT_TRUE(content().endsWith("</entry>STEEL\n")) << way << content().toStdString();
         undo();

@@ -37,7 +37,12 @@ bool FConnectorPage::isPartFocused() const {
     return mConnector && mConnector->getView()->hasFocus() && mConnector->getScene()->keys().isAtRemovable();
 }
 
+// While the menu that has chosen it is being closed, the view would not paint again where items were.
 void FConnectorPage::deletePart() {
+    mDelete.request();
+}
+
+void FConnectorPage::deleteFocusedItem() {
     if (mConnector) {
         mConnector->getScene()->keys().removeLast();
     }

@@ -2,6 +2,7 @@
 
 #include "genericintegration/connector/FSoftwareConnector.h"
 #include "host/core/FExpr.h"
+#include "host/core/FQueuedCall.h"
 #include "host/gui/base/FObjectPage.h"
 
 #include <QWidget>
@@ -22,5 +23,8 @@ class FConnectorPage : public QWidget, public FObjectPage {
     void letGo() override;
 
  private:
+    void deleteFocusedItem();
+
     FExpr<FSoftwareConnector> mConnector;
+    FQueuedCall mDelete{[this] { deleteFocusedItem(); }};
 };

@@ -11,6 +11,7 @@
 #include "tests/support/FTestFolder.h"
 #include "tests/support/randomCases.h"
 #include "tests/support/window/FWindowTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -62,7 +63,7 @@ class ConnectorGesturesTest : public FWindowTest {
         view->ensureVisible(QRectF(centre, QSizeF(1, 1)));
         const QPoint point = view->mapFromScene(centre);
         QTest::mouseMove(view->viewport(), point);
-        isDouble ? QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, point)
+        isDouble ? doubleClick(view->viewport(), point)
                  : QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
     }
 

@@ -18,6 +18,7 @@
 #include "tests/genericintegration/connector/FFakeItemScene.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <gmock/gmock.h>
 
@@ -96,12 +97,7 @@ class FSoftConItemsTest : public FWindowTest {
     QPoint placeOf(const FSoftConObjectItem& item, QPointF inItem = {20, 20}) {
         return view().mapFromScene(item.mapToScene(inItem));
     }
-    void doubleClick(const FSoftConObjectItem& item) {
-        const QPoint place = placeOf(item);
-        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, place);
-    }
+    void doubleClickOn(const FSoftConObjectItem& item) { doubleClick(view().viewport(), placeOf(item)); }
 
     FTestFolder folder;
     std::unique_ptr<FFakeItemScene> scene;
@@ -228,7 +224,7 @@ TEST_F(FSoftConItemsTest, aDoubleClickMakesATemplateOfAnInputFile) {
         make<FSoftConFileNameItem, FInputFile>(SoftConInputArea, folder.write("case.txt", "x = 1"), folder.path());
     before = savedModel();
     scene->calls.clear();
-    doubleClick(*item);
+    doubleClickOn(*item);
     EXPECT_EQ(entries(), "");
     ASSERT_EQ(definition().getFiles(0).size(), 1);
     EXPECT_EQ(definition().getFiles(0)[0]->getPlainContent(), "x = 1");
@@ -249,7 +245,7 @@ TEST_F(FSoftConItemsTest, aFileOfACommandIsReplacedOnlyIfTheUserWantsIt) {
             ->setFileName(command);
     }
     dialogs().answers.append("Cancel");
-    doubleClick(*item);
+    doubleClickOn(*item);
     EXPECT_EQ(definition().getFiles(0).size(), 0);
     ASSERT_EQ(dialogs().questions.size(), 1);
     EXPECT_TRUE(dialogs().questions[0].contains("A copy of the file (if available) will be stored as template"));
@@ -265,7 +261,7 @@ TEST_F(FSoftConItemsTest, aFileOfACommandIsReplacedOnlyIfTheUserWantsIt) {
     EXPECT_EQ(scene->takeCalls().substr(0, 4), "edit");
     EXPECT_EQ(dialogs().questions.size(), 2);
     dialogs().answers.append("Proceed");
-    doubleClick(*item);
+    doubleClickOn(*item);
     EXPECT_EQ(definition().getFiles(0).size(), 1);
 }
 
@@ -282,7 +278,7 @@ TEST_F(FSoftConItemsTest, aLinkIsCalledAfterTheResult) {
     EXPECT_EQ(caption(*item), "polar.dat");
     EXPECT_THAT(entries(), testing::StartsWith("Exports|polar.dat = inputFile(Runner_01.getResults()"));
     scene->calls.clear();
-    doubleClick(*item);
+    doubleClickOn(*item);
     EXPECT_EQ(scene->takeCalls(), "edit Exports|polar.dat, edit Exports|polar.dat") << "no more than clicks";
 }
 
@@ -322,7 +318,7 @@ TEST_F(FSoftConItemsTest, clicksAndNamesOfTheComputation) {
     EXPECT_EQ(item->boundingRect().size(), item->pixmap().size()) << "no frame";
     QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(*item));
     EXPECT_EQ(scene->takeCalls(), "edit solver");
-    doubleClick(*item);
+    doubleClickOn(*item);
     EXPECT_EQ(scene->takeCalls(), "edit solver, tab -") << "the release of a double click is no click";
     EXPECT_EQ(useMenu(*item),
               "Run, -Read existing result files, Show preview of input files, Export software connector to file");

@@ -9,6 +9,7 @@
 #include "host/gui/window/FProjectFiles.h"
 #include "host/script/FProject.h"
 #include "tests/genericintegration/connector/FConnectorTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAction>
 #include <QDialog>
@@ -155,7 +156,7 @@ TEST_F(FSoftwareConnectorTest, tabsAreClosedAndOpenedAgain) {
     EXPECT_EQ(connector().tabBar()->tabButton(0, QTabBar::RightSide), nullptr) << "nobody could open it again";
     emit connector().tabCloseRequested(1);
     EXPECT_EQ(tabs(), (QStringList{"Overview", "more.inp", "out.txt"}));
-    QTest::mouseDClick(connector().getView()->viewport(), Qt::LeftButton, {}, centreOf("case.inp"));
+    doubleClick(connector().getView()->viewport(), centreOf("case.inp"));
     EXPECT_EQ(tabs().last(), "case.inp");
     EXPECT_EQ(connector().tabText(connector().currentIndex()), "case.inp");
     EXPECT_FALSE(find<QPushButton>("ButtonOverview")->isChecked());

@@ -5,6 +5,7 @@
 #include "host/gui/window/FDocumentTabs.h"
 #include "tests/genericintegration/editors/FResultsPageTest.h"
 #include "tests/support/randomCases.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAction>
 #include <QApplication>
@@ -279,8 +280,7 @@ TEST_F(FGenIntResultsFileEditorTest, aPageIsThereOnceAndGoesWithItsObject) {
     const QModelIndex row =
         tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "out", 1, Qt::MatchRecursive).value(0);
     tree->scrollTo(row);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row).center());
-    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row).center());
+    doubleClick(tree->viewport(), tree->visualRect(row).center());
     settle();
     EXPECT_EQ(tabs.count(), 2);
     agree();

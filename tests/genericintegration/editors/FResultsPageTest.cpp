@@ -7,6 +7,7 @@
 #include "genericintegration/marking/FResultSample.h"
 #include "host/core/FHistory.h"
 #include "host/gui/fields/FAttributeEditor.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAction>
 #include <QApplication>
@@ -125,7 +126,7 @@ QPoint FResultsPageTest::pointOf(const QString& part, int character) {
 }
 
 void FResultsPageTest::doubleClickOn(const QString& part, int character) {
-    QTest::mouseDClick(edit().viewport(), Qt::LeftButton, {}, pointOf(part, character));
+    doubleClick(edit().viewport(), pointOf(part, character));
     settle();
 }
 

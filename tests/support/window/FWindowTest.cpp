@@ -17,6 +17,7 @@ FWindowTest::FWindowTest() {
 
 FWindowTest::~FWindowTest() {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::mouseButtons(), Qt::NoButton) << "it would be pressed in the next test";
     FUserInterface::replace(nullptr);
     mpWindow.reset();
     FProject::instance()->close(false);

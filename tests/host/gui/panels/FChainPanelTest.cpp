@@ -13,6 +13,7 @@
 #include "tests/support/FTestFolder.h"
 #include "tests/support/chainOfThree.h"
 #include "tests/support/window/FWindowTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -140,7 +141,7 @@ TEST_F(FChainPanelTest, mouseAndKeysSelectAndOpen) {
     EXPECT_EQ(selected(), "");
 
     const QString before = savedModel();
-    QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, placeOf("first"));
+    doubleClick(view().viewport(), placeOf("first"));
     settle();
     EXPECT_EQ(window().documents().count(), 1);
     EXPECT_EQ(savedModel(), before);

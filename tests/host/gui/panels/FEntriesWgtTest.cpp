@@ -7,6 +7,7 @@
 #include "host/gui/window/FNoticeBar.h"
 #include "host/run/FExternComputation.h"
 #include "tests/support/window/FWindowTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -70,8 +71,7 @@ genericIntegrationComputation solver() { .setConfiguration(values) }
         view().setCurrentIndex(index);
         settle();
         view().scrollTo(index);
-        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, view().visualRect(index).center());
-        QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, view().visualRect(index).center());
+        doubleClick(view().viewport(), view().visualRect(index).center());
         settle();
         auto* editor = view().findChild<Editor*>("entryEditor");
         EXPECT_NE(editor, nullptr);

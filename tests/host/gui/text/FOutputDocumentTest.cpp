@@ -4,6 +4,7 @@
 #include "host/gui/window/FDocumentTabs.h"
 #include "tests/support/FTestFolder.h"
 #include "tests/support/window/FWindowTest.h"
+#include "tests/support/window/doubleClick.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -89,8 +90,7 @@ TEST_F(FOutputDocumentTest, keysScrollAndSelect) {
     EXPECT_EQ(QApplication::clipboard()->text(), "line 100 of the output\nline");
     press(&view, Qt::Key_Up, Qt::ShiftModifier);
     press(&view, Qt::Key_Home, Qt::ControlModifier);
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {},
-                       QPoint(view.viewport()->width() / 2, view.fontMetrics().lineSpacing() / 2));
+    doubleClick(view.viewport(), QPoint(view.viewport()->width() / 2, view.fontMetrics().lineSpacing() / 2));
     press(&view, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(view.getSelectedText().size(), lines(1, 5000).size());
 }
@@ -102,7 +102,7 @@ TEST_F(FOutputDocumentTest, theMouseSelects) {
     const int gutter = 6 * cell;  // four digits and a margin
     const int height = view.fontMetrics().lineSpacing();
     const QPoint beta(gutter + 9 * cell + cell / 2, height / 2);
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, beta);
+    doubleClick(view.viewport(), beta);
     EXPECT_EQ(view.getSelectedText(), "beta");
     QTest::mousePress(view.viewport(), Qt::LeftButton, {}, QPoint(gutter + 6 * cell + 1, height / 2));
     QMouseEvent move(QEvent::MouseMove, QPoint(gutter + 3 * cell + 1, height + height / 2), Qt::NoButton,

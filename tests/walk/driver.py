@@ -73,7 +73,8 @@ class Program:
     def __init__(self, *arguments, folder):
         self.clicks = 0
         self.keys = 0
-        environment = {**os.environ, "HOME": str(folder), "MERIX_SETTINGS": str(folder / "settings.ini")}
+        environment = {**os.environ, "HOME": str(folder), "XDG_STATE_HOME": str(folder / "state"),
+                       "MERIX_SETTINGS": str(folder / "settings.ini")}
         command = [os.environ["MERIX"], "gui", *map(str, arguments)]
         self.process = subprocess.Popen(command, cwd=folder, env=environment, stderr=subprocess.DEVNULL)
         Program.running = self

@@ -38,7 +38,7 @@ void addSteps(QMenu& menu, QSpinBox& box) {
 
 FOneUndo::FOneUndo(QWidget* field, Change change) : QObject(field), mChange(change) {
     field->installEventFilter(this);
-    // A menu is asked for at the line, or where the focus is, which is the field.
+    // The event for a menu comes to the line, or where the focus is, which is the field.
     if (QLineEdit* line = lineOf(field); line && line != field) {
         line->installEventFilter(this);
     }

@@ -114,39 +114,16 @@ void entriesImport(benchmark::State& state) {
     import(state, &entries);
 }
 
-using benchmark::kMillisecond;
+void sizesOfSetUps(benchmark::internal::Benchmark* bench) {
+    bench->ArgName("setUps")->Arg(10)->Arg(100)->Arg(300)->Arg(1000)->Unit(benchmark::kMillisecond);
+}
+void sizesOfEntries(benchmark::internal::Benchmark* bench) {
+    bench->ArgName("entries")->Arg(100)->Arg(1000)->Arg(10'000)->Arg(50'000)->Unit(benchmark::kMillisecond);
+}
 
 }  // namespace
 
-BENCHMARK(setUpsScript)
-    ->Name("setUps.script")
-    ->ArgName("setUps")
-    ->Arg(10)
-    ->Arg(100)
-    ->Arg(300)
-    ->Arg(1000)
-    ->Unit(kMillisecond);
-BENCHMARK(setUpsImport)
-    ->Name("setUps.import")
-    ->ArgName("setUps")
-    ->Arg(10)
-    ->Arg(100)
-    ->Arg(300)
-    ->Arg(1000)
-    ->Unit(kMillisecond);
-BENCHMARK(entriesScript)
-    ->Name("entries.script")
-    ->ArgName("entries")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10'000)
-    ->Arg(50'000)
-    ->Unit(kMillisecond);
-BENCHMARK(entriesImport)
-    ->Name("entries.import")
-    ->ArgName("entries")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10'000)
-    ->Arg(50'000)
-    ->Unit(kMillisecond);
+BENCHMARK(setUpsScript)->Name("setUps.script")->Apply(&sizesOfSetUps);
+BENCHMARK(setUpsImport)->Name("setUps.import")->Apply(&sizesOfSetUps);
+BENCHMARK(entriesScript)->Name("entries.script")->Apply(&sizesOfEntries);
+BENCHMARK(entriesImport)->Name("entries.import")->Apply(&sizesOfEntries);

@@ -4,6 +4,7 @@
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/marking/FEntryNameProposal.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FReplacedText.h"
 #include "genericintegration/setup/FTemplateTagEditor.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FBasicType.h"
@@ -66,22 +67,17 @@ void FCommandFileSteps::keepText(const FEntryDef& entry, const QString& text) {
     }
 }
 
-// The text that was kept for it, if a configuration still has it.
-QString FCommandFileSteps::defaultText(const FEntryDef& entry) const {
-    const auto* standard = objectCast<FBasicType>(entry.getDefaultValue().getObject());
-    if (!standard) {
-        return {};
-    }
+// A configuration may have got another text since.
+std::optional<QString> FCommandFileSteps::keptText(const FEntryDef& entry) const {
+    const FObject* standard = entry.getDefaultValue().getObject();
     for (const FConfiguration* configuration : mDefinition.getConfigurations()) {
         const FEntry* own = configuration->getValueEntry(entry.getFullName());
-        const FExprBase value = own ? own->getValue() : FExprBase();
-        const bool isReadable = value.isValid() && value.canSafelyBeUpdated(false);
-        const auto* text = isReadable ? objectCast<FString>(value.getObject()) : nullptr;
-        if (text && text->getValue().toDouble() == standard->toDouble()) {  // 0 for a word, as its default
+        const auto* text = own ? dynamic_cast<const FString*>(own->getValue().getStored()) : nullptr;
+        if (text && FReplacedText::standsFor(text->getValue(), standard)) {
             return text->getValue();
         }
     }
-    return standard->toString();
+    return std::nullopt;
 }
 
 // The definition alone would leave it in the configurations until something else changes.
@@ -106,7 +102,9 @@ void FCommandFileSteps::rename(FEntryDef& entry, const QString& name) {
 }
 
 void FCommandFileSteps::remove(FEntryDef* entry, const QTextCursor& tag) {
-    replaceTag(QStringLiteral("remove commandfile entry"), entry, tag, entry ? defaultText(*entry) : QString());
+    const auto* value = entry ? objectCast<FBasicType>(entry->getDefaultValue().getObject()) : nullptr;
+    const QString text = value ? keptText(*entry).value_or(value->toString()) : QString();
+    replaceTag(QStringLiteral("remove commandfile entry"), entry, tag, text);
 }
 
 void FCommandFileSteps::replace(FEntryDef* entry, const QTextCursor& tag, const QString& name) {
@@ -134,8 +132,8 @@ void FCommandFileSteps::destroy(FEntryDef& entry) {
         const FWaitCursor busy;
         const FExpr<FEntryBase> held(&entry);
         FUserStep step(QStringLiteral("remove commandfile entry"));
-        if (entry.getDefaultValue()) {
-            FTemplateTagEditor(mDefinition.getCommandFiles()).replaceTags(entry.getFullName(), defaultText(entry));
+        if (const std::optional<QString> text = keptText(entry)) {
+            FTemplateTagEditor(mDefinition.getCommandFiles()).replaceTags(entry.getFullName(), *text);
         }
         removeFromDefinition(held);
     }

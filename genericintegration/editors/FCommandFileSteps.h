@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class FDefinitionGenInt;
 class FEditBuffer;
 class FEntryBase;
@@ -42,7 +44,8 @@ class FCommandFileSteps {
      */
     QString freeName(const QString& name, const FEntryDef* entry) const;
     void keepText(const FEntryDef& entry, const QString& text);
-    QString defaultText(const FEntryDef& entry) const;
+    /** What an entry was made of, if a configuration has it in place of the default. */
+    std::optional<QString> keptText(const FEntryDef& entry) const;
     void removeFromDefinition(const FExpr<FEntryBase>& entry);
     void replaceTag(const QString& label, FEntryDef* entry, const QTextCursor& tag, const QString& text);
 

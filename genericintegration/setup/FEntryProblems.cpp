@@ -3,6 +3,7 @@
 #include "genericintegration/io/FTemplateKeys.h"
 #include "genericintegration/io/FValueTable.h"
 #include "genericintegration/setup/FDefinitionGenInt.h"
+#include "genericintegration/setup/FReplacedText.h"
 #include "genericintegration/templates/FTemplateTags.h"
 #include "host/core/FNumber.h"
 #include "host/core/FString.h"
@@ -44,13 +45,6 @@ QString setRemedy(const FEntry& entry) {
 
 bool hasBlanksAround(const QString& text) {
     return text.trimmed().size() < text.size();
-}
-
-/** Whether the default is a number for which the text is a word, or another spelling: then it has no width to keep. */
-bool standsForNumber(const QString& text, const FBasicType& standard) {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return standard.isTypeOf(FDouble::null()) && (!isNumber || number == standard.toDouble());
 }
 
 QString listed(const QStringList& names) {
@@ -320,7 +314,7 @@ void FEntryProblems::findOtherWidth(const FEntry& entry, const QString& text, co
     const FExprBase standard = definition ? definition->getDefaultValue() : FExprBase();
     const bool isReadable = standard.isValid() && standard.canSafelyBeUpdated(false);
     const auto* value = isReadable ? objectCast<FBasicType>(standard.getObject()) : nullptr;
-    const QString fitting = value && !standsForNumber(text, *value) ? value->toPlainString() : text;
+    const QString fitting = value && !FReplacedText::standsFor(text, value) ? value->toPlainString() : text;
     const bool isPadded = hasBlanksAround(fitting);
     const bool isLonger = text.size() > fitting.size();
     const bool hasOtherWidth = isPadded ? text.size() != fitting.size() : isLonger && !hasBlanksAround(text);

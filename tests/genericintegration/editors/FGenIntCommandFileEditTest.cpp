@@ -141,6 +141,20 @@ TEST_F(FGenIntCommandFileEditTest, buttonsAppearOnlyOverWhatIsOffered) {
     EXPECT_EQ(content(), "7 <entry>newEntry</entry> and more\n");
 }
 
+TEST_F(FGenIntCommandFileEditTest, aRemovedTagGivesWayToTheDefaultAndNoOtherValue) {
+    open("s = <entry>grade</entry>, n = <entry>count</entry>\n");
+    ASSERT_TRUE(
+        run("beam.addEntry(\"grade\", \"A36\"); beam.addEntry(\"count\", 12)\n"
+            "values.setEntryValue(\"grade\", \"ALU\"); values.setEntryValue(\"count\", \"few\")"));
+    for (const char* way : {"Remove", "Delete (from all files)"}) {
+        chooseForTag("<entry>grade", way);
+        chooseForTag("<entry>count", way);
+        EXPECT_EQ(content().toStdString(), "s = A36, n = 12\n") << way;
+        undo();
+        undo();
+    }
+}
+
 TEST_F(FGenIntCommandFileEditTest, theWheelScrollsOverAButton) {
     open("a = 1\n" + QString("b = 2\n").repeated(500));
     auto* button = hover("a");

@@ -172,9 +172,11 @@ conf.setEntryValue("length", 123.456); conf.setEntryValue("pump|shutoff", "300")
 conf.setEntryValue("length", format(2500, "%8.1f")); conf.setEntryValue("pump|shutoff", format(log(-1), "%8.1f")))",
      {"warning input:1:32: the entry \"pump|shutoff\" is not a number (NaN), and \"     nan\" is written"}},
     {"otherSpellingOfANumber",
-     R"(input.setContent("L   <entry>length</entry>  0.5 <entry>pump|shutoff</entry> 7")
-conf.setEntryValue("length", "1.2500e+01"); conf.setEntryValue("pump|shutoff", "STEEL"); def.addEntry("width", 2))",
-     {"warning def: no input template has a tag of the entry \"width\""}},
+     R"(def.addEntry("grade", 0)
+input.setContent("L   <entry>length</entry>  0.5 <entry>grade</entry>  7 <entry>pump|shutoff</entry>  0.5")
+conf.setEntryValue("length", "1.2500e+01"); conf.setEntryValue("grade", "STEEL")
+conf.setEntryValue("pump|shutoff", "ALUMINIUM"))",
+     {"warning input:1:56: the entry \"pump|shutoff\" is written as \"ALUMINIUM\", which is longer"}},
     {"otherWidthBeforeAWord",
      R"(def.removeEntry("pump|shutoff").addEntry("pump|shutoff", "  30")
 input.setContent("L <entry>length</entry>STEEL
